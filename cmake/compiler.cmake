@@ -1,0 +1,34 @@
+# Compiler settings that hold for every target of the project: warnings, instrumentation, the compiler cache.
+
+add_library(gfpq_compiler INTERFACE)
+
+target_compile_options(gfpq_compiler INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused)
+target_compile_definitions(gfpq_compiler INTERFACE
+    QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_ASCII
+    QT_DEPRECATED_WARNINGS)
+
+if(GFPQ_WARNINGS_AS_ERRORS)
+    target_compile_options(gfpq_compiler INTERFACE -Werror)
+endif()
+
+if(GFPQ_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(GFPQ_COVERAGE)
+    add_compile_options(--coverage -O0)
+    add_link_options(--coverage)
+endif()
+
+if(GFPQ_FUZZ)
+    add_compile_options(-fsanitize=address,undefined,fuzzer-no-link -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_program(GFPQ_CCACHE ccache)
+if(GFPQ_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        "${CMAKE_COMMAND};-E;env;CCACHE_BASEDIR=${PROJECT_SOURCE_DIR};CCACHE_NOHASHDIR=1;${GFPQ_CCACHE}")
+endif()

@@ -1,0 +1,28 @@
+# gfpq_add_test(NAME name LABEL unit|gui|e2e|fuzz|soak SOURCES file... LIBRARIES target... [TIMEOUT seconds] [SERIAL])
+#
+# One test program, run without a display, with settings, home and locale of its own, so that no test sees the user's
+# files and two tests never share a directory.
+function(gfpq_add_test)
+    cmake_parse_arguments(ARG "SERIAL" "NAME;LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${ARG_NAME} ${ARG_SOURCES})
+    target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} Qt5::Test gfpq_compiler)
+    add_test(NAME ${ARG_NAME} COMMAND ${ARG_NAME})
+    gfpq_set_test_environment(${ARG_NAME})
+    set_tests_properties(${ARG_NAME} PROPERTIES LABELS "${ARG_LABEL}")
+    if(ARG_TIMEOUT)
+        set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
+    endif()
+    if(ARG_SERIAL)
+        set_tests_properties(${ARG_NAME} PROPERTIES RUN_SERIAL ON)
+    endif()
+endfunction()
+
+# The environment of one registered test.
+function(gfpq_set_test_environment name)
+    set(scratch "${PROJECT_BINARY_DIR}/scratch/${name}")
+    file(MAKE_DIRECTORY "${scratch}/config" "${scratch}/home")
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 300
+        WORKING_DIRECTORY "${scratch}"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${scratch}/home;XDG_CONFIG_HOME=${scratch}/config;GFPDB_SETTINGS=${scratch}/config/gfpdb.ini;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()

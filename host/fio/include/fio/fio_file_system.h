@@ -1,0 +1,14 @@
+// Operations on the file system that concern the whole process.
+#pragma once
+
+#include <string>
+
+class FIO_FILE_SYSTEM
+{
+public:
+    FIO_FILE_SYSTEM() = delete;
+
+    // Makes `directory` (local 8-bit) the process's current directory. False, with a logged warning, when it is not a
+    // directory that can be entered; the current directory then stays. Process-wide: call it from the GUI thread only.
+    static bool set_current_directory(const std::string& directory);
+};

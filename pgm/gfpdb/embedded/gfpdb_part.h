@@ -1,0 +1,40 @@
+// One built-in part of the catalogue, as its data row says.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// An erase command and how much it erases.
+struct GFPDB_ERASE_COMMAND
+{
+    int opcode = 0;
+    int size_bytes = 0;
+};
+
+// Where a part keeps its quad-enable bit.
+enum class GFPDB_QUAD_ENABLE {
+    UNKNOWN, // no source found: the part's flows are marked unverified
+    NONE,    // the part has no such bit
+    SR1_BIT6,
+    SR2_BIT1,
+};
+
+// What is known of a part; a value for which no source was found is empty or 0. Texts are UTF-8.
+struct GFPDB_PART
+{
+    std::string name;
+    std::string manufacturer;
+    std::vector<int> jedec_id;
+    std::string voltage;
+    std::string density;
+    int total_die = 0;
+    int page_size = 0;
+    std::vector<GFPDB_ERASE_COMMAND> sector_erase;
+    int addressing_bytes = 0;
+    int dummy_single = 0;
+    int dummy_quad = 0;
+    GFPDB_QUAD_ENABLE quad_enable = GFPDB_QUAD_ENABLE::UNKNOWN;
+    // What is not to be shown of the part: its properties, its flows.
+    bool properties_hidden = false;
+    bool flows_hidden = false;
+};

@@ -1,0 +1,24 @@
+// Where a program gets at the flash database.
+#pragma once
+
+#include "gfpdb/gfpdb_enums.h"
+
+#include <string>
+
+class GFPDB_MGR;
+
+// GUI thread only.
+class GFPDB_HELPER
+{
+public:
+    GFPDB_HELPER() = delete;
+
+    // Chooses the flash that goes with `scheme` for the next fetch of the manager. False for a value that is no scheme.
+    static bool set_active_flash_family(PGMIO_CONFIG_SCHEME scheme);
+    // The manager of the active flash; `reload` true opens the database of the custom directory anew. Not owned by the
+    // caller. Never null in this library; a caller must not rely on that.
+    static GFPDB_MGR* get_active_flash_manager(bool reload);
+    // What keeps the database of the custom directory from being read or written, as a sentence for the user; empty
+    // when nothing does.
+    static std::string get_database_problem();
+};

@@ -1,0 +1,107 @@
+// The flash database manager.
+#pragma once
+
+#include "gfpdb/gfpdb_action.h"
+#include "gfpdb/gfpdb_flash.h"
+#include "gfpdb/gfpdb_operation.h"
+
+#include <string>
+#include <vector>
+
+// All records, templates, option lists and checks of one flash database, for a current family and scheme. Owned by the
+// library: a caller gets the active manager from GFPDB_HELPER and never deletes it. Every record, operation and action
+// handed out stays valid until the process ends or its owner deletes it, also after the active manager was replaced.
+// Out vectors are cleared first and returned where a reference is returned. Throws nothing. Texts are in the library's
+// encoding. GUI thread only.
+//
+// The declaration order of the virtual operations is the slot order of the interface.
+class GFPDB_MGR
+{
+public:
+    virtual ~GFPDB_MGR() = default;
+
+    // The flow variant that goes with the current scheme: selects one of a record's two sets of operations.
+    virtual bool get_flow_variant() const = 0;
+    virtual int get_device_family() const = 0;
+    virtual void set_device_family(int family) = 0;
+    virtual int get_config_scheme() const = 0;
+    virtual void set_config_scheme(int scheme) = 0;
+    // The record of the device or stored template called `name`, or null. With `load_flows` false the record may come
+    // without its operations.
+    virtual GFPDB_FLASH* find_flash(const std::string& name, bool load_flows) = 0;
+    virtual bool is_builtin_flash(const std::string& name) const = 0;
+    virtual bool is_custom_flash(const std::string& name) const = 0;
+    // Why the last find, save, delete, remove or restore failed; empty when it did not.
+    virtual std::string get_last_error() const = 0;
+    // True for a device whose properties (`flows` false) or whose flows (`flows` true) are not to be shown.
+    virtual bool is_hidden_flash(const std::string& name, bool flows) const = 0;
+    // True when devices can be added for the current scheme.
+    virtual bool can_add_flash() const = 0;
+    // True when the devices of the current scheme have flows that can be edited.
+    virtual bool can_edit_flow() const = 0;
+    // False when the database cannot be written now.
+    virtual bool is_writable() const = 0;
+    // Checks of a property value: false and a text for the user in `error` when the value is not allowed.
+    virtual bool check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const = 0;
+    virtual bool check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                       std::string& error) const = 0;
+    // True when devices of the current scheme have `property`.
+    virtual bool is_property_used(GFPDB_FLASH_PROPERTY property) const = 0;
+    // Second check of a text property: does the value fit the current family and scheme?
+    virtual bool verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                        std::string& error) const = 0;
+    // Writes `flash` into the database in `directory` for the current family and scheme. A record of that name is
+    // replaced; its former state goes into the history. False: the database is as it was.
+    virtual bool save_flash(GFPDB_FLASH* flash, const std::string& directory) = 0;
+    // Removes the device `name` from the database in `directory`; its state goes into the history. True also when there
+    // is no such device. False: the database is as it was.
+    virtual bool delete_flash(const std::string& name, const std::string& directory) = 0;
+    // Brings the state `history_id` of the history back as the current record. False when its name is taken.
+    virtual bool restore_flash(int history_id, const std::string& directory) = 0;
+    virtual void get_family_list(std::vector<int>& families) const = 0;
+    // The schemes of the current family.
+    virtual std::vector<int>& get_config_scheme_list(std::vector<int>& schemes) const = 0;
+    // Names of the devices that can be changed, and of those that cannot, for a family and scheme. `reserved` is 0.
+    virtual std::vector<std::string>& get_custom_flash_names(std::vector<std::string>& names, int family, int scheme,
+                                                             int reserved) const = 0;
+    virtual std::vector<std::string>& get_builtin_flash_names(std::vector<std::string>& names, int family, int scheme,
+                                                              int reserved) const = 0;
+    virtual std::vector<std::string>& get_voltage_list(std::vector<std::string>& voltages) const = 0;
+    virtual std::vector<std::string>& get_density_list(std::vector<std::string>& densities) const = 0;
+    // The five built-in templates, then the stored ones.
+    virtual std::vector<std::string>& get_template_list(std::vector<std::string>& templates) const = 0;
+    // The stored templates only.
+    virtual std::vector<std::string>& get_user_template_list(std::vector<std::string>& templates) const = 0;
+    virtual bool is_template(const std::string& name) const = 0;
+    // A new record, owned by the manager and known to no one else until save_flash() stored it; null when `name` cannot
+    // be a name.
+    virtual GFPDB_FLASH* create_flash(const std::string& name) = 0;
+    // A new action with the default values of its type, owned by the caller; null for an unknown type.
+    virtual GFPDB_ACTION* create_action(GFPDB_ACT_TYPE type) = 0;
+    // A new empty operation, owned by the caller; null for an unknown kind.
+    virtual GFPDB_OPERATION* create_operation(int kind) = 0;
+    // The operations of a built-in template (0 to 4) or of a stored template; null when there is none.
+    virtual const std::vector<GFPDB_OPERATION*>* get_builtin_template_operations(int index, bool flow_variant) = 0;
+    virtual const std::vector<GFPDB_OPERATION*>* get_template_operations(const std::string& name,
+                                                                         bool flow_variant) = 0;
+    // True when the flows of `flash` may be changed; null stands for a new device.
+    virtual bool is_flow_editable(const GFPDB_FLASH* flash) const = 0;
+    // Kept free for a later operation; true.
+    virtual bool reserved_36() const { return true; }
+    // Removes the stored template `name`; its state goes into the history. False: the database is as it was.
+    virtual bool remove_template(const std::string& name) = 0;
+
+    // The user's database directory: absolute, "/" as separator and at its end, never empty. Local 8-bit.
+    static std::string get_db_custom_dir();
+    // Sets the directory for the next fetch of the manager.
+    static void set_db_custom_dir(const std::string& directory);
+    // Stores `directory` in the settings file as the user's database directory. False when it is not an existing
+    // directory in which a database can be used, or the settings cannot be written (then they stay as they were).
+    // With `create` true a missing directory is created.
+    static bool save_custom_dir_to_ini(const std::string& directory, bool create);
+
+protected:
+    GFPDB_MGR() = default;
+    GFPDB_MGR(const GFPDB_MGR&) = delete;
+    GFPDB_MGR& operator=(const GFPDB_MGR&) = delete;
+};

@@ -1,0 +1,31 @@
+// The one home of every conversion between the library's byte strings and the widgets' texts.
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+// Text of a widget, as the flash database takes it: local 8-bit.
+inline std::string gfpq_to_local(const QString& text)
+{
+    const QByteArray bytes = text.toLocal8Bit();
+    return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+// Text that came from the flash database: local 8-bit.
+inline QString gfpq_from_local(const std::string& text)
+{
+    return QString::fromLocal8Bit(text.data(), static_cast<int>(text.size()));
+}
+
+// Text of the vocabulary tables: UTF-8.
+inline QString gfpq_from_utf8(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+// The custom database directory, shown byte by byte.
+inline QString gfpq_from_latin1(const std::string& text)
+{
+    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
+}
