@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# Static checks over the tree: formatting, clang-tidy, clazy, cppcheck, shell syntax, words that do not belong here.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+failed=0
+section() { printf '== %s\n' "$1"; }
+check() {
+    section "$1"
+    shift
+    "$@" || { failed=1; printf '   FAILED\n'; }
+}
+
+sources() { git ls-files --cached --others --exclude-standard "$@"; }
+product_sources() { sources 'host/*.cpp' 'pgm/*.cpp' 'app/*.cpp'; }
+
+formatting() { sources '*.cpp' '*.h' | xargs clang-format --dry-run --Werror; }
+
+# clang-tidy and clazy read what moc and uic generate, so that is generated first.
+generated_code() {
+    [ -f build/dev/build.ninja ] || cmake --preset dev >/dev/null
+    ninja -C build/dev -t targets all | sed -n 's/^\([^:]*_autogen\): .*/\1/p' | grep -v / |
+        xargs cmake --build build/dev --target >/dev/null
+}
+
+tidy() {
+    product_sources | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/dev 2>&1 |
+        { grep -vE '^[0-9]+ warnings? (generated|treated)|^Suppressed|^Use -header-filter|^$' || true; } |
+        tee build/dev/clang-tidy.log
+    ! grep -qE '(warning|error):' build/dev/clang-tidy.log
+}
+
+clazy_level1() {
+    product_sources | xargs -P "$(nproc)" -n 4 clazy-standalone -p build/dev --checks=level1 \
+        --ignore-dirs='.*(/usr/|autogen).*' 2>&1 | tee build/dev/clazy.log | { grep -E '\[-Wclazy' || true; }
+    ! grep -q '\[-Wclazy' build/dev/clazy.log
+}
+
+cppcheck_product() {
+    product_sources | xargs cppcheck --quiet --std=c++17 --language=c++ --enable=warning,performance,portability \
+        --inline-suppr --error-exitcode=1 --library=qt --suppress=missingIncludeSystem -j "$(nproc)" \
+        -I pgm/gfpdb/include -I pgm/gfpq -I host/gen/include -I host/fio/include -I host/dstr/include \
+        -I host/msg/include -I host/kovq/include
+}
+
+shell_syntax() {
+    local file
+    for file in dev .ci/run $(sources '*.sh'); do bash -n "$file"; done
+}
+
+# Tabs, trailing blanks and absolute home directories have no place in a source file.
+white_space() {
+    ! sources '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' '*.sh' '*.py' | xargs grep -nP '\t|[ \t]+$'
+}
+
+check "clang-format" formatting
+check "generated code" generated_code
+check "clang-tidy" tidy
+check "clazy" clazy_level1
+check "cppcheck" cppcheck_product
+check "shell syntax" shell_syntax
+check "white space" white_space
+exit "$failed"
