@@ -16,13 +16,14 @@ struct GFPQ_DYN_DLG_ARGS
 {
     // In: the device family (1 to 72) to preselect. Out: the family chosen with OK, else unchanged.
     std::int32_t family = 0;
-    // In: the configuration scheme (0 to 25) to make active and preselect. Out: the scheme chosen with OK, else unchanged.
+    // In: the configuration scheme (0 to 25) to make active and preselect. Out: the scheme chosen with OK, else
+    // unchanged.
     std::int32_t config_scheme = 0;
     // In: the device (local 8-bit) to select. Out: the device that was current when OK was accepted, empty when none
     // was; else unchanged.
     std::string device_name;
-    // In only: the families to offer, and for each the schemes to offer; an empty vector stands for all schemes that the
-    // database supports, an empty map for no restriction.
+    // In only: the families to offer, and for each the schemes to offer; an empty vector stands for all schemes that
+    // the database supports, an empty map for no restriction.
     std::map<int, std::vector<int>> family_schemes;
 };
 

@@ -1,21 +1,18 @@
 // The words that the dialog shows for the flash database's numbers.
 //
-// Constant tables of UTF-8 texts, indexed directly by their enumeration value; none is searched by text and none is ever
-// translated. No other place holds a copy of these words.
+// Constant tables of UTF-8 texts, indexed directly by their enumeration value; none is searched by text and none is
+// ever translated. No other place holds a copy of these words.
 #pragma once
 
 #include "gfpdb/gfpdb_enums.h"
 
 // Titles of the operation tabs, by operation index.
 constexpr const char* GFPQ_OPERATION_NAMES[GFPDB_OPERATION_COUNT] = {
-    "Initialization",
-    "Program",
-    "Erase",
-    "Verify/Blank-Check/Examine",
-    "Termination",
+    "Initialization", "Program", "Erase", "Verify/Blank-Check/Examine", "Termination",
 };
 
-// Shown at the top of each operation tab. The Erase text has typographic quotes, and a question mark that belongs there.
+// Shown at the top of each operation tab. The Erase text has typographic quotes, and a question mark that belongs
+// there.
 // clang-format off
 constexpr const char* GFPQ_OPERATION_DESCRIPTIONS[GFPDB_OPERATION_COUNT] = {
     "The Programmer engine performs the Initialization operation at the beginning of the Program, Erase, "
@@ -34,12 +31,7 @@ constexpr const char* GFPQ_OPERATION_DESCRIPTIONS[GFPDB_OPERATION_COUNT] = {
 
 // Names of the action types, by GFPDB_ACT_TYPE; also the text that a drag from the palette carries.
 constexpr const char* GFPQ_ACTION_TYPE_NAMES[GFPDB_ACT_TYPE_COUNT] = {
-    "Write Register",
-    "Read Register",
-    "Write Data",
-    "Read Data",
-    "Erase",
-    "Custom",
+    "Write Register", "Read Register", "Write Data", "Read Data", "Erase", "Custom",
 };
 
 // Labels of the property table, by GFPDB_ACT_PROPERTY. The same label belongs to several properties: carry the value.

@@ -12,7 +12,8 @@ struct GFPDB_ERASE_COMMAND
 };
 
 // Where a part keeps its quad-enable bit.
-enum class GFPDB_QUAD_ENABLE {
+enum class GFPDB_QUAD_ENABLE
+{
     UNKNOWN, // no source found: the part's flows are marked unverified
     NONE,    // the part has no such bit
     SR1_BIT6,

@@ -4,7 +4,8 @@
 // only the ends of its range.
 #pragma once
 
-enum DEV_FAMILY_ENUM : int {
+enum DEV_FAMILY_ENUM : int
+{
     DEV_FAMILY_UNKNOWN = 0,
     DEV_FAMILY_FIRST = 1,
     DEV_FAMILY_LAST = 72,

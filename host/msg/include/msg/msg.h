@@ -6,7 +6,8 @@
 #include <string>
 
 // What the user answered to a message.
-enum MSG_VALUE : int {
+enum MSG_VALUE : int
+{
     MSG_VALUE_OK = 0,
 };
 

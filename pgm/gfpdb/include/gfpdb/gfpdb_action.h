@@ -26,8 +26,8 @@ public:
     virtual std::string get_property_default(GFPDB_ACT_PROPERTY property) const = 0;
     // True when the value of `property` belongs to actions of this type.
     virtual bool has_property(GFPDB_ACT_PROPERTY property) const = 0;
-    // The allowed value texts of a property with a closed choice, in display order; empty for any other. A custom action
-    // answers for the properties of every type.
+    // The allowed value texts of a property with a closed choice, in display order; empty for any other. A custom
+    // action answers for the properties of every type.
     virtual std::vector<std::string> get_property_choices(GFPDB_ACT_PROPERTY property) const = 0;
     // Stores `value` as it stands, valid or not. A property that this action does not have is ignored.
     virtual void set_property_value(GFPDB_ACT_PROPERTY property, const std::string& value) = 0;

@@ -6,7 +6,8 @@
 #include "dstr/dev_family.h"
 
 // A property of a flash record.
-enum GFPDB_FLASH_PROPERTY : int {
+enum GFPDB_FLASH_PROPERTY : int
+{
     GFPDB_FLASH_NAME = 0,
     GFPDB_FLASH_DEVICE_ID = 1,
     GFPDB_FLASH_VOLTAGE = 2,
@@ -19,7 +20,8 @@ enum GFPDB_FLASH_PROPERTY : int {
 };
 
 // The kind of an operation; also its place among the five operations of a flow variant.
-enum GFPDB_OPERATION_KIND : int {
+enum GFPDB_OPERATION_KIND : int
+{
     GFPDB_OPERATION_INITIALIZATION = 0,
     GFPDB_OPERATION_PROGRAM = 1,
     GFPDB_OPERATION_ERASE = 2,
@@ -29,7 +31,8 @@ enum GFPDB_OPERATION_KIND : int {
 constexpr int GFPDB_OPERATION_COUNT = 5;
 
 // The type of an action.
-enum GFPDB_ACT_TYPE : int {
+enum GFPDB_ACT_TYPE : int
+{
     GFPDB_ACT_WRITE_REGISTER = 0,
     GFPDB_ACT_READ_REGISTER = 1,
     GFPDB_ACT_WRITE_DATA = 2,
@@ -40,7 +43,8 @@ enum GFPDB_ACT_TYPE : int {
 constexpr int GFPDB_ACT_TYPE_COUNT = 6;
 
 // A property of an action. Every action type has its own run of values, which opens with that type's name.
-enum GFPDB_ACT_PROPERTY : int {
+enum GFPDB_ACT_PROPERTY : int
+{
     GFPDB_WR_NAME = 0,
     GFPDB_WR_COMMAND = 1,
     GFPDB_WR_DATA = 2,
@@ -87,7 +91,8 @@ enum GFPDB_ACT_PROPERTY : int {
 constexpr int GFPDB_ACT_PROPERTY_COUNT = 40;
 
 // A way to configure a device.
-enum PGMIO_CONFIG_SCHEME : int {
+enum PGMIO_CONFIG_SCHEME : int
+{
     PGMIO_PASSIVE_SERIAL_X1 = 0,
     PGMIO_PASSIVE_SERIAL_X2 = 1,
     PGMIO_PASSIVE_SERIAL_X4 = 2,
