@@ -1,0 +1,306 @@
+#!/usr/bin/env python3
+"""Alters the sources one place at a time and lists what no test notices.
+
+Each worker has a copy of the tree with a build of its own (compiler cache shared). For every alteration it rebuilds and
+runs first the tests that belong to the altered file, then the other quick tests; the first red test ends it. An
+alteration that does not compile is replaced by another one of the same file. The choice of places is random but
+repeatable: the seed is printed.
+
+tests/mutation/unnoticeable.txt lists alterations that nobody can notice, one a line:
+    path | kind | the line's text, stripped | why
+"""
+
+import argparse
+import concurrent.futures
+import dataclasses
+import json
+import os
+import pathlib
+import queue
+import random
+import re
+import shutil
+import subprocess
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+WORK = ROOT / "build" / "mutation"
+UNNOTICEABLE = ROOT / "tests" / "mutation" / "unnoticeable.txt"
+
+SOURCES = ["pgm/gfpq/*.cpp", "pgm/gfpq/*.h", "pgm/gfpq/*.ui", "pgm/gfpdb/embedded/*.cpp", "pgm/gfpdb/embedded/*.h"]
+
+# Which tests to run first for a file: (pattern of the path, regular expression of ctest names). The first match counts.
+AFFECTED = [
+    (r"pgm/gfpq/gfpq_(flow|operation_tab|property)", r"^gui_flow"),
+    (r"pgm/gfpq/", r"^gui_dialog"),
+    (r"pgm/gfpdb/embedded/gfpdb_(action|operation|flow|catalogue)", r"^unit_flows"),
+    (r"pgm/gfpdb/", r"^unit_gfpdb"),
+]
+QUICK_LABELS = "unit|gui"
+TEST_TIMEOUT_S = 120
+
+
+@dataclasses.dataclass(frozen=True)
+class Alteration:
+    """One change of one file: the lines [first, last] become `text`."""
+
+    path: str
+    kind: str
+    first: int
+    last: int
+    text: str
+    original: str
+
+    def key(self):
+        return (self.path, self.kind, self.original.strip())
+
+    def describe(self):
+        return f"{self.path}:{self.first + 1} [{self.kind}] {self.original.strip()}  =>  {self.text.strip()}"
+
+
+def code_part(line):
+    """The line without its // comment; string literals are respected."""
+    in_text = False
+    for index, char in enumerate(line):
+        if char == '"' and (index == 0 or line[index - 1] != "\\"):
+            in_text = not in_text
+        if not in_text and line.startswith("//", index):
+            return line[:index]
+    return line
+
+
+def single_line_alterations(path, number, line):
+    code = code_part(line)
+    stripped = code.strip()
+    if not stripped or stripped.startswith(("#", "*", "/*", "}", "namespace", "class ", "using ", "case ")):
+        return
+
+    def altered(kind, start, end, replacement):
+        text = line[:start] + replacement + line[end:]
+        return Alteration(path, kind, number, number, text, line)
+
+    def outside_text(position):
+        return code[:position].count('"') % 2 == 0
+
+    for match in re.finditer(r"(?<![\w.\"])(\d+)(\.\d+)?(?![\w.])", code):
+        if outside_text(match.start()):
+            value = match.group(1)
+            yield altered("constant", match.start(1), match.end(1), str(int(value) + 1))
+    swaps = [("==", "!="), ("!=", "=="), ("<=", "<"), (">=", ">"), ("&&", "||"), ("||", "&&")]
+    for old, new in swaps:
+        for match in re.finditer(r"(?<= )" + re.escape(old) + r"(?= )", code):
+            if outside_text(match.start()):
+                yield altered("operator", match.start(), match.end(), new)
+    for match in re.finditer(r"(?<= )([<>])(?= [\w(])", code):
+        if outside_text(match.start()) and "template" not in code:
+            yield altered("operator", match.start(), match.end(), match.group(1) + "=")
+    for match in re.finditer(r"\b(true|false)\b", code):
+        if outside_text(match.start()):
+            yield altered("boolean", match.start(), match.end(), "false" if match.group(1) == "true" else "true")
+    for match in re.finditer(r'"((?:[^"\\]|\\.)+)"', code):
+        yield altered("text", match.start(1), match.end(1), match.group(1) + "~")
+    if re.match(r"^\s+[\w:>.\-*()]+\(.*\);\s*$", code) and not re.match(r"^\s+(return|delete|static_assert)\b", code):
+        kind = "connection removed" if "connect" in code else "call removed"
+        yield Alteration(path, kind, number, number, re.match(r"^\s*", code).group(0) + ";", line)
+
+
+def swapped_statements(path, lines):
+    statement = re.compile(r"^(\s+)[\w:>.\-]+(\(.*\)| [+\-]?= .*);\s*$")
+    for number in range(len(lines) - 1):
+        one, two = statement.match(lines[number]), statement.match(lines[number + 1])
+        if one and two and one.group(1) == two.group(1) and lines[number] != lines[number + 1]:
+            if re.match(r"\s+(return|const|auto|int|double|QString|std::)", lines[number]):
+                continue
+            yield Alteration(path, "order swapped", number, number + 1, lines[number + 1] + "\n" + lines[number],
+                             lines[number] + " <> " + lines[number + 1].strip())
+
+
+def form_alterations(path, lines):
+    """Designer forms: numbers, texts, booleans and enumerators between tags."""
+    for number, line in enumerate(lines):
+        match = re.search(r"<(number|width|height|x|y)>(\d+)</", line)
+        if match:
+            text = line[: match.start(2)] + str(int(match.group(2)) + 7) + line[match.end(2):]
+            yield Alteration(path, "form number", number, number, text, line)
+        match = re.search(r"<string>([^<]+)</", line)
+        if match:
+            text = line[: match.start(1)] + match.group(1) + "~" + line[match.end(1):]
+            yield Alteration(path, "form text", number, number, text, line)
+        match = re.search(r"<bool>(true|false)</", line)
+        if match:
+            text = line.replace(match.group(1), "false" if match.group(1) == "true" else "true")
+            yield Alteration(path, "form boolean", number, number, text, line)
+
+
+def alterations_of(path):
+    lines = (ROOT / path).read_text(encoding="utf-8").split("\n")
+    if path.endswith(".ui"):
+        yield from form_alterations(path, lines)
+        return
+    for number, line in enumerate(lines):
+        yield from single_line_alterations(path, number, line)
+    yield from swapped_statements(path, lines)
+
+
+def read_unnoticeable():
+    reasons = {}
+    if UNNOTICEABLE.exists():
+        for line in UNNOTICEABLE.read_text(encoding="utf-8").splitlines():
+            if line.strip() and not line.startswith("#"):
+                path, kind, text, why = (field.strip() for field in line.split(" | ", 3))
+                reasons[(path, kind, text)] = why
+    return reasons
+
+
+def choose(files, wanted, rng):
+    """Spreads `wanted` places over the files, the larger ones getting more; returns a shuffled queue per file."""
+    pools = {}
+    for path in files:
+        pool = list(dict.fromkeys(alterations_of(path)))
+        rng.shuffle(pool)
+        if pool:
+            pools[path] = pool
+    total = sum(len(pool) for pool in pools.values())
+    shares = {path: min(len(pool), max(4, round(wanted * len(pool) / total))) for path, pool in pools.items()}
+    return pools, shares
+
+
+class Worker:
+    """A copy of the tree with its own build."""
+
+    def __init__(self, number):
+        self.tree = WORK / f"worker-{number}"
+        self.build = self.tree / "build" / "dev"
+        self.log = WORK / f"worker-{number}.log"
+
+    def run(self, *command, timeout=None):
+        with open(self.log, "a", encoding="utf-8") as log:
+            try:
+                done = subprocess.run(command, cwd=self.tree, stdout=log, stderr=log, timeout=timeout, check=False)
+            except subprocess.TimeoutExpired:
+                return 124
+        return done.returncode
+
+    def prepare(self):
+        self.tree.mkdir(parents=True, exist_ok=True)
+        listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT,
+                                stdout=subprocess.PIPE, check=True).stdout
+        for name in filter(None, listed.decode().split("\0")):
+            source, target = ROOT / name, self.tree / name
+            if not source.exists():
+                continue
+            target.parent.mkdir(parents=True, exist_ok=True)
+            if not target.exists() or target.read_bytes() != source.read_bytes():
+                shutil.copy2(source, target)
+        if self.run("cmake", "--preset", "dev") != 0 or self.run("cmake", "--build", "build/dev") != 0:
+            sys.exit(f"The unaltered tree does not build: see {self.log}")
+
+    def tests(self, expression=None):
+        """Names of the quick tests, those of `expression` only if given."""
+        command = ["ctest", "--test-dir", str(self.build), "-N", "-L", QUICK_LABELS]
+        if expression:
+            command += ["-R", expression]
+        listed = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=True)
+        return re.findall(r"Test +#\d+: (\S+)", listed.stdout)
+
+    def is_red(self, names):
+        """Builds and runs the named tests one by one: 'red', 'green' or 'broken' (does not compile)."""
+        for name in names:
+            if self.run("cmake", "--build", "build/dev", "--target", name) != 0:
+                return "broken"
+            if self.run("ctest", "--test-dir", "build/dev", "-R", f"^{re.escape(name)}$", "--timeout",
+                        str(TEST_TIMEOUT_S)) != 0:
+                return "red"
+        return "green"
+
+    def judge(self, alteration):
+        target = self.tree / alteration.path
+        original = (ROOT / alteration.path).read_bytes()
+        lines = original.decode("utf-8").split("\n")
+        lines[alteration.first: alteration.last + 1] = alteration.text.split("\n")
+        target.write_text("\n".join(lines), encoding="utf-8")
+        try:
+            expression = next(tests for pattern, tests in AFFECTED if re.match(pattern, alteration.path))
+            first = self.tests(expression)
+            verdict = self.is_red(first)
+            if verdict == "green":
+                verdict = self.is_red([name for name in self.tests() if name not in first])
+            return verdict
+        finally:
+            target.write_bytes(original)
+
+
+def run_all(pools, shares, workers, reasons):
+    results = []
+    jobs = queue.Queue()
+    for path, pool in pools.items():
+        jobs.put((path, pool, shares[path]))
+    wanted = sum(shares.values())
+    started = time.monotonic()
+
+    def serve(worker):
+        while True:
+            try:
+                path, pool, share = jobs.get_nowait()
+            except queue.Empty:
+                return
+            judged = 0
+            for alteration in pool:
+                if judged == share:
+                    break
+                if alteration.key() in reasons:
+                    continue
+                verdict = worker.judge(alteration)
+                if verdict == "broken":
+                    continue
+                judged += 1
+                results.append((alteration, verdict))
+                spent = time.monotonic() - started
+                print(f"[{len(results)}/{wanted} {spent / 60:.0f} min] {verdict:5} {alteration.describe()}", flush=True)
+
+    with concurrent.futures.ThreadPoolExecutor(len(workers)) as pool:
+        for future in [pool.submit(serve, worker) for worker in workers]:
+            future.result()
+    return results
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
+    parser.add_argument("--places", type=int, default=400, help="how many places to alter (default 400)")
+    parser.add_argument("--seed", type=int, default=None, help="seed of the choice (printed)")
+    parser.add_argument("--jobs", type=int, default=max(1, min(4, os.cpu_count() or 1)), help="workers")
+    parser.add_argument("--only", default="", help="regular expression: only files whose path matches")
+    parser.add_argument("--list", action="store_true", help="list the places that could be altered and stop")
+    arguments = parser.parse_args()
+
+    files = sorted({str(found.relative_to(ROOT)) for pattern in SOURCES for found in ROOT.glob(pattern)})
+    files = [path for path in files if re.search(arguments.only, path)]
+    seed = arguments.seed if arguments.seed is not None else random.SystemRandom().randrange(1 << 31)
+    pools, shares = choose(files, arguments.places, random.Random(seed))
+    if arguments.list:
+        for pool in pools.values():
+            for alteration in pool:
+                print(alteration.describe())
+        return 0
+
+    print(f"seed {seed}: {sum(shares.values())} places in {len(pools)} files", flush=True)
+    WORK.mkdir(parents=True, exist_ok=True)
+    workers = [Worker(number) for number in range(arguments.jobs)]
+    for worker in workers:
+        worker.prepare()
+    results = run_all(pools, shares, workers, read_unnoticeable())
+
+    survivors = [alteration for alteration, verdict in results if verdict == "green"]
+    noticed = len(results) - len(survivors)
+    print(f"\n{noticed} of {len(results)} noticed ({100.0 * noticed / max(1, len(results)):.1f} %)")
+    for alteration in sorted(survivors, key=lambda a: (a.path, a.first)):
+        print("survived:", alteration.describe())
+    report = {"seed": seed, "places": len(results), "noticed": noticed,
+              "survived": [alteration.describe() for alteration in survivors]}
+    (WORK / "report.json").write_text(json.dumps(report, indent=2) + "\n", encoding="utf-8")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
