@@ -1,8 +1,9 @@
 // Names of the device families and the configuration schemes that each supports.
 //
 // The table comes from a data file, families.csv: the file named by the environment variable GFPQ_FAMILIES if that is
-// set, else the copy beside the installed programs, else the copy built into this library, so a host brings its own
-// families without a rebuild. It is read once, at the first call; lines that cannot be read are logged with their
+// set, else the copy beside the installed programs (../share/gfpq/ as seen from them), else the copy built into this
+// library, so a host brings its own families without a rebuild. A file that cannot be read or names no family is logged
+// and the next one counts. The table is read once, at the first call; lines that cannot be read are logged with their
 // number and left out. Texts are UTF-8. Not thread-safe: GUI thread only.
 #pragma once
 

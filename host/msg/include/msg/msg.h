@@ -44,7 +44,9 @@ public:
     // `report` may be null; it is not owned.
     explicit MSG_O(MSG_REPORT* report = nullptr);
 
-    // Logs the message, shows it with its number and text in a modal warning box and waits until that is closed.
+    // Logs the message, shows it as "<text> (message <number>)" in a modal warning box over the active window, titled
+    // with the application's display name, and waits until that is closed. Without a QApplication it is only logged.
+    // The text is shown as it stands, never as markup.
     MSG_VALUE prompt(MSG_REPORT* report = nullptr);
 };
 
@@ -59,6 +61,7 @@ public:
 
     // Logs the broken `condition` with the `category` of the module, the `source` path and `line`, shows it in a box
     // where there is a display and an application, then ends the process with EXIT_CODE without running destructors
-    // that could store half-built data.
+    // that could store half-built data. The texts may be null. A report while another one is being shown ends the
+    // process at once; so does, without a box, a report from a thread other than the GUI thread.
     [[noreturn]] static void report(const char* condition, const char* category, const char* source, int line);
 };

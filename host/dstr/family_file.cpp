@@ -1,0 +1,134 @@
+#include "family_file.h"
+
+#include "dstr/dev_family.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QSet>
+#include <QTextCodec>
+
+namespace {
+
+Q_LOGGING_CATEGORY(DSTR_LOG, "host.dstr")
+
+constexpr int LAST_SCHEME = 25;
+const QByteArray HEADING = QByteArrayLiteral("value,name,schemes");
+const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
+
+bool says_nothing(const QByteArray& line)
+{
+    return line.isEmpty() || line.startsWith('#') || line == HEADING;
+}
+
+bool is_utf8(const QByteArray& text)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+// Reads the lines of one file; remembers what they used, so that a value or a name that comes twice is noticed.
+class LINE_READER
+{
+public:
+    // The family of `line`, or null; then problem() says why.
+    std::optional<FAMILY_ROW> read(const QByteArray& line);
+    const char* problem() const { return m_problem; }
+
+private:
+    std::optional<FAMILY_ROW> refuse(const char* problem);
+
+    QSet<int> m_values;
+    QSet<QString> m_names;
+    const char* m_problem = "";
+};
+
+std::optional<FAMILY_ROW> LINE_READER::refuse(const char* problem)
+{
+    m_problem = problem;
+    return std::nullopt;
+}
+
+// False when a word of `text` is no scheme.
+bool read_schemes(const QByteArray& text, std::vector<int>& schemes)
+{
+    const QList<QByteArray> words = text.simplified().split(' ');
+    for (const QByteArray& word : words) {
+        bool is_number = false;
+        const int scheme = word.toInt(&is_number);
+        if (word.isEmpty())
+            continue;
+        if (!is_number || scheme < 0 || scheme > LAST_SCHEME)
+            return false;
+        schemes.push_back(scheme);
+    }
+    return true;
+}
+
+std::optional<FAMILY_ROW> LINE_READER::read(const QByteArray& line)
+{
+    const int first_comma = line.indexOf(',');
+    const int last_comma = line.lastIndexOf(',');
+    if (first_comma == last_comma)
+        return refuse("it is not value,name,schemes");
+    if (!is_utf8(line))
+        return refuse("it is not UTF-8");
+
+    FAMILY_ROW row;
+    bool is_number = false;
+    row.value = line.left(first_comma).trimmed().toInt(&is_number);
+    if (!is_number || row.value < DEV_FAMILY_FIRST || row.value > DEV_FAMILY_LAST)
+        return refuse("its value is not a number from 1 to 72");
+    const QByteArray name = line.mid(first_comma + 1, last_comma - first_comma - 1).trimmed();
+    if (name.isEmpty())
+        return refuse("it has no name");
+    if (!read_schemes(line.mid(last_comma + 1), row.schemes))
+        return refuse("its schemes are not numbers from 0 to 25 separated by blanks");
+
+    const QString folded_name = QString::fromUtf8(name).toCaseFolded();
+    if (m_values.contains(row.value))
+        return refuse("its value was used before");
+    if (m_names.contains(folded_name))
+        return refuse("its name was used before");
+    m_values.insert(row.value);
+    m_names.insert(folded_name);
+    row.name = name.toStdString();
+    return row;
+}
+
+} // namespace
+
+std::vector<FAMILY_ROW> parse_families(const QByteArray& content, const QString& file_name)
+{
+    const QByteArray text = content.startsWith(BYTE_ORDER_MARK) ? content.mid(BYTE_ORDER_MARK.size()) : content;
+    const QList<QByteArray> lines = text.split('\n');
+
+    std::vector<FAMILY_ROW> rows;
+    LINE_READER reader;
+    for (int i = 0; i < lines.size(); ++i) {
+        const QByteArray line = lines[i].trimmed();
+        if (says_nothing(line))
+            continue;
+        if (std::optional<FAMILY_ROW> row = reader.read(line))
+            rows.push_back(*std::move(row));
+        else
+            qCWarning(DSTR_LOG, "%s, line %d is left out: %s", qUtf8Printable(file_name), i + 1, reader.problem());
+    }
+    return rows;
+}
+
+std::vector<FAMILY_ROW> read_first_families(const std::vector<QString>& file_names)
+{
+    for (const QString& file_name : file_names) {
+        QFile file(file_name);
+        if (!file.open(QIODevice::ReadOnly)) {
+            qCWarning(DSTR_LOG, "%s cannot be read: %s", qUtf8Printable(file_name), qUtf8Printable(file.errorString()));
+            continue;
+        }
+        std::vector<FAMILY_ROW> rows = parse_families(file.readAll(), file_name);
+        if (!rows.empty())
+            return rows;
+        qCWarning(DSTR_LOG, "%s names no device family", qUtf8Printable(file_name));
+    }
+    return {};
+}

@@ -1,0 +1,75 @@
+#include "gen/gen_text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+bool is_blank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+bool is_digit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+// Bytes are compared as unsigned values, so that a byte outside ASCII comes after every ASCII letter.
+unsigned char byte_as_it_is(char c)
+{
+    return static_cast<unsigned char>(c);
+}
+
+unsigned char byte_in_lower_case(char c)
+{
+    return byte_as_it_is(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
+}
+
+template <typename BYTE_OF>
+int compare(const std::string& left, const std::string& right, BYTE_OF byte_of)
+{
+    const std::size_t common = std::min(left.size(), right.size());
+    for (std::size_t i = 0; i < common; ++i) {
+        const int difference = byte_of(left[i]) - byte_of(right[i]);
+        if (difference != 0)
+            return difference;
+    }
+    if (left.size() == right.size())
+        return 0;
+    return left.size() < right.size() ? -1 : 1;
+}
+
+} // namespace
+
+int gen_atoi(const std::string& text)
+{
+    auto c = std::find_if_not(text.begin(), text.end(), is_blank);
+    const bool negative = c != text.end() && *c == '-';
+    if (negative || (c != text.end() && *c == '+'))
+        ++c;
+
+    constexpr long long SMALLEST = std::numeric_limits<int>::min();
+    constexpr long long LARGEST = std::numeric_limits<int>::max();
+    long long value = 0;
+    for (; c != text.end() && is_digit(*c); ++c) {
+        const int digit = *c - '0';
+        value = std::clamp(value * 10 + (negative ? -digit : digit), SMALLEST, LARGEST);
+    }
+    return static_cast<int>(value);
+}
+
+std::string gen_itoa(int value)
+{
+    return std::to_string(value);
+}
+
+int gen_strcmp(const std::string& left, const std::string& right)
+{
+    return compare(left, right, byte_as_it_is);
+}
+
+int gen_stricmp(const std::string& left, const std::string& right)
+{
+    return compare(left, right, byte_in_lower_case);
+}
