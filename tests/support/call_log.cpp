@@ -1,0 +1,87 @@
+#include "call_log.h"
+
+namespace {
+
+// "find_flash" of `mgr.find_flash("A", true)`.
+QString function_of(const QString& call)
+{
+    const QString head = call.left(call.indexOf(QLatin1Char('(')));
+    return head.mid(head.lastIndexOf(QLatin1Char('.')) + 1);
+}
+
+} // namespace
+
+CALL_LOG& CALL_LOG::instance()
+{
+    static CALL_LOG log;
+    return log;
+}
+
+void CALL_LOG::record(const QString& object, const QString& function, const QStringList& arguments)
+{
+    const QString call = object + QLatin1Char('.') + function + QLatin1Char('(') + arguments.join(QLatin1String(", ")) +
+                         QLatin1Char(')');
+    m_calls.append(call);
+    const auto found = m_hooks.find(function);
+    if (found == m_hooks.end())
+        return;
+    const std::vector<HOOK> hooks = found->second; // a hook may add hooks
+    for (const HOOK& hook : hooks)
+        hook(call);
+}
+
+QStringList CALL_LOG::calls_of(const QStringList& functions) const
+{
+    QStringList result;
+    for (const QString& call : m_calls) {
+        if (functions.contains(function_of(call)))
+            result.append(call);
+    }
+    return result;
+}
+
+QStringList CALL_LOG::calls_without(const QStringList& functions) const
+{
+    QStringList result;
+    for (const QString& call : m_calls) {
+        if (!functions.contains(function_of(call)))
+            result.append(call);
+    }
+    return result;
+}
+
+int CALL_LOG::count(const QString& function) const
+{
+    return calls_of({function}).size();
+}
+
+void CALL_LOG::on_call(const QString& function, HOOK hook)
+{
+    m_hooks[function].push_back(std::move(hook));
+}
+
+void CALL_LOG::clear()
+{
+    m_calls.clear();
+}
+
+void CALL_LOG::reset()
+{
+    m_calls.clear();
+    m_hooks.clear();
+}
+
+QString log_text(const std::string& text)
+{
+    return QLatin1Char('"') + QString::fromUtf8(text.data(), static_cast<int>(text.size())) + QLatin1Char('"');
+}
+
+QString log_bool(bool value)
+{
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+QString log_int(int value)
+{
+    return QString::number(value);
+}

@@ -1,0 +1,258 @@
+// The flash database as tests see it: every call is recorded, every answer can be set.
+//
+// Linked instead of the real library. The world holds the managers and the settings; GFPDB_WORLD::instance().reset()
+// before each test gives a fresh one with one active manager, labelled "mgr". Objects handed out belong to whom the
+// interface says; what nobody took is deleted by reset(). live_actions() tells how many actions exist. Data members are
+// the answers, to be set freely.
+#pragma once
+
+#include "call_log.h"
+#include "gfpdb/gfpdb_helper.h"
+#include "gfpdb/gfpdb_mgr.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+// An action whose property list, values, choices and checks are set by the test. Its line in the log is its type and
+// the value of its first property: "0:write enable".
+class ACTION_DOUBLE : public GFPDB_ACTION
+{
+public:
+    // An action with the properties of `type` (value N starts as "default N"); none for an unknown type.
+    explicit ACTION_DOUBLE(int type);
+    ~ACTION_DOUBLE() override;
+
+    std::string get_property_label(GFPDB_ACT_PROPERTY property) const override;
+    std::string get_property_value(GFPDB_ACT_PROPERTY property) const override;
+    std::string get_property_default(GFPDB_ACT_PROPERTY property) const override;
+    bool has_property(GFPDB_ACT_PROPERTY property) const override;
+    std::vector<std::string> get_property_choices(GFPDB_ACT_PROPERTY property) const override;
+    void set_property_value(GFPDB_ACT_PROPERTY property, const std::string& value) override;
+    bool check_property_value(GFPDB_ACT_PROPERTY property, const std::string& value, std::string& error) const override;
+    bool is_property_enabled(GFPDB_ACT_PROPERTY property) const override;
+
+    QString label() const;
+
+    std::vector<GFPDB_ACT_PROPERTY> properties;
+    std::map<int, std::string> values;
+    // Answers of get_property_label; "label N" for a property that is not there.
+    std::map<int, std::string> labels;
+    std::map<int, std::vector<std::string>> choices;
+    // Properties that is_property_enabled answers false for.
+    std::set<int> disabled;
+    // Properties that check_property_value refuses, and with which text.
+    std::map<int, std::string> refused;
+};
+
+class OPERATION_DOUBLE : public GFPDB_OPERATION
+{
+public:
+    // Takes `actions` over.
+    explicit OPERATION_DOUBLE(int kind, std::vector<GFPDB_ACTION*> actions = {});
+    ~OPERATION_DOUBLE() override;
+
+    const std::vector<GFPDB_ACTION*>* get_actions() const override;
+    int get_action_count() const override;
+    void add_action(GFPDB_ACTION* action) override;
+
+    QString label() const { return QStringLiteral("op%1").arg(m_kind); }
+
+    std::vector<GFPDB_ACTION*> actions;
+    // get_actions() answers null.
+    bool without_list = false;
+};
+
+// A record. In the log it is "flash:NAME", or "new:NAME" when create_flash made it.
+class FLASH_DOUBLE : public GFPDB_FLASH
+{
+public:
+    FLASH_DOUBLE(const QString& prefix, std::string flash_name);
+    ~FLASH_DOUBLE() override;
+
+    std::string get_name() const override;
+    void set_name(const std::string& new_name) override;
+    std::string get_density() const override;
+    void set_density(const std::string& density) override;
+    int get_device_family() const override;
+    int get_config_scheme() const override;
+    std::string get_db_dir() const override;
+    void set_db_dir(const std::string& directory) override;
+    bool is_user_defined() const override;
+    void set_user_defined(bool defined) override;
+    bool is_template() const override;
+    std::string get_revision() const override;
+    const std::vector<GFPDB_OPERATION*>* get_operations(bool flow_variant) const override;
+    void set_operation(GFPDB_OPERATION* operation, bool flow_variant) override;
+    GFPDB_OPERATION* find_operation(int kind, bool flow_variant) const override;
+    void clear_operations() override;
+    std::string get_string_property(GFPDB_FLASH_PROPERTY property) const override;
+    int get_int_property(GFPDB_FLASH_PROPERTY property, int default_value) const override;
+    void set_int_property(GFPDB_FLASH_PROPERTY property, int value) override;
+    void set_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value) override;
+
+    QString label() const;
+    // The name and value lines of the actions of one operation, for a comparison: "0:write enable".
+    QStringList flow(int kind, bool flow_variant) const;
+
+    QString prefix;
+    std::string name;
+    std::string db_dir;
+    bool user_defined = true;
+    std::map<int, std::string> strings;
+    std::map<int, int> ints;
+    // Owned. A variant that is not there answers null.
+    std::map<bool, std::vector<GFPDB_OPERATION*>> operations;
+};
+
+// A manager. In the log it is its label. Names are looked up in `flashes`; with `follows_saves` a successful save or
+// delete changes `flashes` and `custom_names`, as a real database would.
+class MGR_DOUBLE : public GFPDB_MGR
+{
+public:
+    explicit MGR_DOUBLE(QString manager_label);
+    ~MGR_DOUBLE() override;
+
+    // Makes a custom device with a record, listed for every family and scheme.
+    FLASH_DOUBLE& add_custom(const std::string& name);
+    // Makes a built-in device with a record.
+    FLASH_DOUBLE& add_builtin(const std::string& name);
+    // Makes a record that find_flash finds, but that no list names.
+    FLASH_DOUBLE& add_record(const std::string& name);
+    // Refuses every value of `property`, or one value, with `error`.
+    void refuse(int property, const std::string& error);
+    void refuse(int property, const std::string& value, const std::string& error);
+
+    bool get_flow_variant() const override;
+    int get_device_family() const override;
+    void set_device_family(int new_family) override;
+    int get_config_scheme() const override;
+    void set_config_scheme(int new_scheme) override;
+    GFPDB_FLASH* find_flash(const std::string& name, bool load_flows) override;
+    bool is_builtin_flash(const std::string& name) const override;
+    bool is_custom_flash(const std::string& name) const override;
+    std::string get_last_error() const override;
+    bool is_hidden_flash(const std::string& name, bool flows) const override;
+    bool can_add_flash() const override;
+    bool can_edit_flow() const override;
+    bool is_writable() const override;
+    bool check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const override;
+    bool check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                               std::string& error) const override;
+    bool is_property_used(GFPDB_FLASH_PROPERTY property) const override;
+    bool verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                std::string& error) const override;
+    bool save_flash(GFPDB_FLASH* flash, const std::string& directory) override;
+    bool delete_flash(const std::string& name, const std::string& directory) override;
+    bool restore_flash(int history_id, const std::string& directory) override;
+    void get_family_list(std::vector<int>& list) const override;
+    std::vector<int>& get_config_scheme_list(std::vector<int>& list) const override;
+    std::vector<std::string>& get_custom_flash_names(std::vector<std::string>& names, int of_family, int of_scheme,
+                                                     int reserved) const override;
+    std::vector<std::string>& get_builtin_flash_names(std::vector<std::string>& names, int of_family, int of_scheme,
+                                                      int reserved) const override;
+    std::vector<std::string>& get_voltage_list(std::vector<std::string>& list) const override;
+    std::vector<std::string>& get_density_list(std::vector<std::string>& list) const override;
+    std::vector<std::string>& get_template_list(std::vector<std::string>& list) const override;
+    std::vector<std::string>& get_user_template_list(std::vector<std::string>& list) const override;
+    bool is_template(const std::string& name) const override;
+    GFPDB_FLASH* create_flash(const std::string& name) override;
+    GFPDB_ACTION* create_action(GFPDB_ACT_TYPE type) override;
+    GFPDB_OPERATION* create_operation(int kind) override;
+    const std::vector<GFPDB_OPERATION*>* get_builtin_template_operations(int index, bool variant) override;
+    const std::vector<GFPDB_OPERATION*>* get_template_operations(const std::string& name, bool variant) override;
+    bool is_flow_editable(const GFPDB_FLASH* flash) const override;
+    bool remove_template(const std::string& name) override;
+
+    QString label;
+    bool flow_variant = false;
+    bool add_allowed = true;
+    bool flow_edit_allowed = true;
+    bool flow_editable = true;
+    std::vector<int> families;
+    std::vector<int> schemes;
+    std::vector<std::string> custom_names;
+    std::vector<std::string> builtin_names;
+    // Names for one (family, scheme) only; where there is an entry it stands for custom_names or builtin_names.
+    std::map<std::pair<int, int>, std::vector<std::string>> custom_names_of;
+    std::map<std::pair<int, int>, std::vector<std::string>> builtin_names_of;
+    std::vector<std::string> voltages;
+    std::vector<std::string> densities;
+    std::vector<std::string> templates;
+    std::vector<std::string> user_templates;
+    // Not owned; the records live in `records`.
+    std::map<std::string, FLASH_DOUBLE*> flashes;
+    std::set<std::string> hidden_properties;
+    std::set<std::string> hidden_flows;
+    std::set<int> unused_properties;
+    std::map<int, std::string> refused_properties;
+    std::map<std::pair<int, std::string>, std::string> refused_values;
+    // Voltages (or other values) that verify_string_property refuses.
+    std::map<std::pair<int, std::string>, std::string> unverified_values;
+    bool follows_saves = true;
+    bool save_succeeds = true;
+    bool delete_succeeds = true;
+    bool remove_succeeds = true;
+    bool creates_flash = true;
+    // Kinds of operation and types of action that are answered with null.
+    std::set<int> refused_operations;
+    std::set<int> refused_actions;
+    // Owned. What is not there answers null.
+    std::map<std::pair<int, bool>, std::vector<GFPDB_OPERATION*>> builtin_template_operations;
+    std::map<std::pair<std::string, bool>, std::vector<GFPDB_OPERATION*>> template_operations;
+    // Every record that this manager made, oldest first; owned.
+    std::vector<std::unique_ptr<FLASH_DOUBLE>> records;
+    // The record of the last create_flash, or null.
+    FLASH_DOUBLE* last_created = nullptr;
+    // The last record that save_flash was called with.
+    GFPDB_FLASH* last_saved = nullptr;
+
+private:
+    bool is_accepted(int property, const std::string& value, std::string& error) const;
+
+    int m_family = 0;
+    int m_scheme = 0;
+};
+
+// What is one per process: the managers, the active one, the custom directory.
+class GFPDB_WORLD
+{
+public:
+    static GFPDB_WORLD& instance();
+
+    // A fresh world with one active manager "mgr" of six families, five schemes and no devices.
+    void reset();
+    // Another manager with the same answers as a fresh one; not active.
+    MGR_DOUBLE& add_manager(const QString& label);
+
+    // What get_active_flash_manager answers; null on request.
+    MGR_DOUBLE* active = nullptr;
+    std::string custom_dir = "/db/custom/";
+    // What the library makes of a directory that it is set to; the directory itself when empty.
+    std::function<std::string(const std::string&)> canonical_dir;
+    bool save_dir_succeeds = true;
+    bool set_family_succeeds = true;
+
+private:
+    std::vector<std::unique_ptr<MGR_DOUBLE>> m_managers;
+};
+
+// The active manager of the world; it must not be null.
+MGR_DOUBLE& gfpdb_mgr();
+
+// A new action with these values (the rest as ACTION_DOUBLE makes them); owned by the caller.
+ACTION_DOUBLE* make_action(int type, const std::map<int, std::string>& values = {});
+// A new action called `name`: its first property has that value.
+ACTION_DOUBLE* make_named_action(int type, const std::string& name);
+// A loop marker: a custom action with properties 38 and 39.
+ACTION_DOUBLE* make_loop_action(const std::string& unit, const std::string& marker);
+// The five operations of a flow, each with one action called "PREFIX K" (K the kind); owned by the caller.
+std::vector<GFPDB_OPERATION*> make_operations(const std::string& prefix);
+
+// How many actions and operations exist now.
+int live_actions();
+int live_operations();
