@@ -4,8 +4,10 @@
 
 #include <QFile>
 #include <QLoggingCategory>
-#include <QSet>
 #include <QTextCodec>
+
+#include <algorithm>
+#include <set>
 
 namespace {
 
@@ -38,8 +40,8 @@ public:
 private:
     std::optional<FAMILY_ROW> refuse(const char* problem);
 
-    QSet<int> m_values;
-    QSet<QString> m_names;
+    std::set<int> m_values;
+    std::set<QByteArray> m_names;
     const char* m_problem = "";
 };
 
@@ -49,16 +51,17 @@ std::optional<FAMILY_ROW> LINE_READER::refuse(const char* problem)
     return std::nullopt;
 }
 
-// False when a word of `text` is no scheme.
+// False when a word of `text` is no scheme or was there before.
 bool read_schemes(const QByteArray& text, std::vector<int>& schemes)
 {
-    const QList<QByteArray> words = text.simplified().split(' ');
-    for (const QByteArray& word : words) {
+    const QByteArray words = text.simplified();
+    if (words.isEmpty())
+        return true;
+    for (const QByteArray& word : words.split(' ')) {
         bool is_number = false;
         const int scheme = word.toInt(&is_number);
-        if (word.isEmpty())
-            continue;
-        if (!is_number || scheme < 0 || scheme > LAST_SCHEME)
+        const bool is_repeated = std::find(schemes.begin(), schemes.end(), scheme) != schemes.end();
+        if (!is_number || scheme < 0 || scheme > LAST_SCHEME || is_repeated)
             return false;
         schemes.push_back(scheme);
     }
@@ -83,15 +86,14 @@ std::optional<FAMILY_ROW> LINE_READER::read(const QByteArray& line)
     if (name.isEmpty())
         return refuse("it has no name");
     if (!read_schemes(line.mid(last_comma + 1), row.schemes))
-        return refuse("its schemes are not numbers from 0 to 25 separated by blanks");
+        return refuse("its schemes are not different numbers from 0 to 25 separated by blanks");
 
-    const QString folded_name = QString::fromUtf8(name).toCaseFolded();
-    if (m_values.contains(row.value))
+    if (m_values.count(row.value) > 0)
         return refuse("its value was used before");
-    if (m_names.contains(folded_name))
+    if (m_names.count(name) > 0)
         return refuse("its name was used before");
     m_values.insert(row.value);
-    m_names.insert(folded_name);
+    m_names.insert(name);
     row.name = name.toStdString();
     return row;
 }

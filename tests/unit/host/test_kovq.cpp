@@ -1,0 +1,388 @@
+// The dialog framework.
+#include "message_recorder.h"
+#include "modal_driver.h"
+#include "probe.h"
+
+#include "kovq/kovq_connect.h"
+#include "kovq/kovq_dialog.h"
+#include "kovq/kovq_native_file_dlg.h"
+#include "kovq/zui_app.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <type_traits>
+
+class TEST_KOVQ : public QObject
+{
+    Q_OBJECT
+
+signals:
+    void pinged(int value);
+
+private slots:
+    void init();
+    void cleanup();
+
+    void connection_delivers();
+    void connection_type_is_used();
+    void failed_connection_ends_the_process_data();
+    void failed_connection_ends_the_process();
+
+    void dialog_passes_its_window_flags();
+    void return_in_a_field_clicks_no_button_data();
+    void return_in_a_field_clicks_no_button();
+    void return_clicks_the_button_with_the_focus_data();
+    void return_clicks_the_button_with_the_focus();
+    void return_clicks_no_disabled_button();
+    void return_goes_no_further();
+    void return_with_a_modifier_clicks_nothing();
+    void escape_rejects();
+
+    void file_dialog_is_set_up_as_told();
+    void file_dialog_gives_back_what_was_chosen();
+    void file_dialog_can_be_cancelled();
+
+    void application_is_the_process_s_own();
+    void base_directory_is_empty_until_it_is_set();
+    void no_application_is_null();
+
+private:
+    MODAL_DRIVER m_modals;
+};
+
+namespace {
+
+// Notes what reaches it.
+class RECEIVER : public QObject
+{
+    Q_OBJECT
+
+public:
+    QList<int> values;
+
+public slots:
+    void take(int value) { values.append(value); }
+};
+
+// A field, a button with the auto-default flag, one that is the default, and one that is neither.
+struct FORM : KOVQ_DIALOG
+{
+    FORM()
+    {
+        auto* rows = new QVBoxLayout(this);
+        for (QWidget* widget : std::initializer_list<QWidget*>{&field, &auto_default, &default_one, &plain})
+            rows->addWidget(widget);
+        auto_default.setAutoDefault(true);
+        default_one.setDefault(true);
+        plain.setAutoDefault(false);
+    }
+    ~FORM() override
+    {
+        for (QWidget* widget : std::initializer_list<QWidget*>{&field, &auto_default, &default_one, &plain})
+            widget->setParent(nullptr);
+    }
+
+    QLineEdit field;
+    QPushButton auto_default;
+    QPushButton default_one;
+    QPushButton plain;
+};
+
+struct CLICKS
+{
+    explicit CLICKS(FORM& form)
+        : auto_default(&form.auto_default, &QPushButton::clicked),
+          default_one(&form.default_one, &QPushButton::clicked), plain(&form.plain, &QPushButton::clicked)
+    {}
+    QList<int> counts() const { return {auto_default.count(), default_one.count(), plain.count()}; }
+
+    QSignalSpy auto_default;
+    QSignalSpy default_one;
+    QSignalSpy plain;
+};
+
+void show_active(QWidget& window)
+{
+    window.show();
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        QFAIL("the window does not become active");
+}
+
+void add_return_keys()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+
+    QTest::newRow("Return") << Qt::Key_Return << Qt::KeyboardModifiers(Qt::NoModifier);
+    QTest::newRow("Enter") << Qt::Key_Enter << Qt::KeyboardModifiers(Qt::NoModifier);
+    QTest::newRow("Enter of the keypad") << Qt::Key_Enter << Qt::KeyboardModifiers(Qt::KeypadModifier);
+}
+
+} // namespace
+
+void TEST_KOVQ::init()
+{
+    m_modals.reset();
+}
+
+void TEST_KOVQ::cleanup()
+{
+    QCOMPARE(m_modals.problems(), QStringList());
+    QCOMPARE(QApplication::topLevelWidgets().size(), 0);
+}
+
+void TEST_KOVQ::connection_delivers()
+{
+    RECEIVER receiver;
+    QVERIFY(kovq_safe_connect(this, SIGNAL(pinged(int)), &receiver, SLOT(take(int))));
+
+    emit pinged(5);
+
+    QCOMPARE(receiver.values, QList<int>{5});
+}
+
+void TEST_KOVQ::connection_type_is_used()
+{
+    RECEIVER receiver;
+    QVERIFY(kovq_safe_connect(this, SIGNAL(pinged(int)), &receiver, SLOT(take(int)), Qt::QueuedConnection));
+
+    emit pinged(5);
+    QCOMPARE(receiver.values, QList<int>());
+
+    QCoreApplication::processEvents();
+    QCOMPARE(receiver.values, QList<int>{5});
+}
+
+void TEST_KOVQ::failed_connection_ends_the_process_data()
+{
+    QTest::addColumn<QString>("mistake");
+    QTest::addColumn<QByteArray>("said");
+
+    const QByteArray open("Internal error: connection of ");
+    QTest::newRow("unknown signal") << QStringLiteral("signal")
+                                    << open + "QObject 'sender' destroied() to QObject deleteLater() does not hold";
+    QTest::newRow("unknown slot") << QStringLiteral("slot")
+                                  << open + "QObject 'sender' destroyed() to QObject deleteLatr() does not hold";
+    QTest::newRow("arguments that do not fit")
+        << QStringLiteral("arguments") << open + "QObject 'sender' destroyed() to QTimer start(int) does not hold";
+    QTest::newRow("no sender") << QStringLiteral("sender")
+                               << open + "null destroyed() to QObject deleteLater() does not hold";
+    QTest::newRow("no receiver") << QStringLiteral("receiver")
+                                 << open + "QObject 'sender' destroyed() to null deleteLater() does not hold";
+    QTest::newRow("no signature") << QStringLiteral("signature")
+                                  << open + "QObject 'sender' no signature to QObject no signature does not hold";
+    QTest::newRow("place of the caller") << QStringLiteral("signal") << QByteArray("(KOVQ, the/caller, line 17)");
+}
+
+void TEST_KOVQ::failed_connection_ends_the_process()
+{
+    QFETCH(QString, mistake);
+    QFETCH(QByteArray, said);
+
+    const PROBE_RESULT result = run_probe({QStringLiteral("connect"), mistake});
+
+    QVERIFY(result.ended);
+    QCOMPARE(result.exit_code, 70);
+    QVERIFY2(result.log.contains(said), result.log.constData());
+    QCOMPARE(result.output, QByteArray());
+}
+
+void TEST_KOVQ::dialog_passes_its_window_flags()
+{
+    QWidget parent;
+    KOVQ_DIALOG dialog(&parent, Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+
+    QCOMPARE(dialog.parentWidget(), &parent);
+    QCOMPARE(dialog.windowFlags(),
+             Qt::WindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint));
+}
+
+void TEST_KOVQ::return_in_a_field_clicks_no_button_data()
+{
+    add_return_keys();
+}
+
+void TEST_KOVQ::return_in_a_field_clicks_no_button()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    FORM form;
+    CLICKS clicks(form);
+    QSignalSpy return_pressed(&form.field, &QLineEdit::returnPressed);
+    show_active(form);
+    form.field.setFocus();
+
+    QTest::keyClick(&form.field, key, modifiers);
+
+    QCOMPARE(return_pressed.count(), 1);
+    QCOMPARE(clicks.counts(), (QList<int>{0, 0, 0}));
+    QVERIFY(form.isVisible());
+}
+
+void TEST_KOVQ::return_clicks_the_button_with_the_focus_data()
+{
+    add_return_keys();
+}
+
+void TEST_KOVQ::return_clicks_the_button_with_the_focus()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    FORM form;
+    CLICKS clicks(form);
+    show_active(form);
+
+    form.plain.setFocus();
+    QTest::keyClick(&form.plain, key, modifiers);
+    QCOMPARE(clicks.counts(), (QList<int>{0, 0, 1}));
+
+    form.auto_default.setFocus();
+    QTest::keyClick(&form.auto_default, key, modifiers);
+    QCOMPARE(clicks.counts(), (QList<int>{1, 0, 1}));
+
+    form.default_one.setFocus();
+    QTest::keyClick(&form.default_one, key, modifiers);
+    QCOMPARE(clicks.counts(), (QList<int>{1, 1, 1}));
+}
+
+void TEST_KOVQ::return_clicks_no_disabled_button()
+{
+    FORM form;
+    CLICKS clicks(form);
+    show_active(form);
+    form.plain.setFocus();
+    form.plain.setEnabled(false);
+
+    QTest::keyClick(&form, Qt::Key_Return);
+
+    QCOMPARE(clicks.counts(), (QList<int>{0, 0, 0}));
+}
+
+void TEST_KOVQ::return_goes_no_further()
+{
+    FORM form;
+
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    press.ignore();
+    QCoreApplication::sendEvent(&form, &press);
+
+    QVERIFY(press.isAccepted());
+}
+
+void TEST_KOVQ::return_with_a_modifier_clicks_nothing()
+{
+    FORM form;
+    CLICKS clicks(form);
+    show_active(form);
+    form.plain.setFocus();
+
+    QTest::keyClick(&form, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClick(&form, Qt::Key_Return, Qt::ShiftModifier);
+
+    QCOMPARE(clicks.counts(), (QList<int>{0, 0, 0}));
+}
+
+void TEST_KOVQ::escape_rejects()
+{
+    FORM form;
+    QSignalSpy rejected(&form, &QDialog::rejected);
+    show_active(form);
+
+    QTest::keyClick(&form, Qt::Key_Escape);
+
+    QCOMPARE(rejected.count(), 1);
+    QVERIFY(!form.isVisible());
+}
+
+void TEST_KOVQ::file_dialog_is_set_up_as_told()
+{
+    QTemporaryDir directory;
+    QWidget parent;
+    KOVQ_NATIVE_FILE_DLG chooser(&parent);
+    chooser.set_file_mode(QFileDialog::Directory);
+    chooser.set_option(QFileDialog::ShowDirsOnly, true);
+    chooser.set_option(QFileDialog::DontUseNativeDialog, true);
+    chooser.set_option(QFileDialog::DontUseNativeDialog, false);
+    chooser.set_directory(directory.path());
+    chooser.set_accept_mode(QFileDialog::AcceptSave);
+    chooser.set_window_title(QStringLiteral("Where to?"));
+
+    bool was_met = false;
+    m_modals.expect([&](QWidget* window) {
+        const auto* dialog = qobject_cast<QFileDialog*>(window);
+        was_met = dialog != nullptr;
+        QCOMPARE(dialog->fileMode(), QFileDialog::Directory);
+        QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
+        QVERIFY(!dialog->testOption(QFileDialog::DontUseNativeDialog));
+        QCOMPARE(dialog->directory().canonicalPath(), QDir(directory.path()).canonicalPath());
+        QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(dialog->windowTitle(), QStringLiteral("Where to?"));
+        QCOMPARE(dialog->parentWidget(), &parent);
+        MODAL_DRIVER::reject()(window);
+    });
+    chooser.exec();
+
+    QVERIFY(was_met);
+}
+
+void TEST_KOVQ::file_dialog_gives_back_what_was_chosen()
+{
+    QTemporaryDir directory;
+    QVERIFY(QDir(directory.path()).mkdir(QStringLiteral("flash")));
+    KOVQ_NATIVE_FILE_DLG chooser(nullptr);
+    chooser.set_file_mode(QFileDialog::Directory);
+    chooser.set_directory(directory.path());
+
+    m_modals.expect([](QWidget* window) {
+        qobject_cast<QFileDialog*>(window)->selectFile(QStringLiteral("flash"));
+        QMetaObject::invokeMethod(window, "accept");
+    });
+    QCOMPARE(chooser.exec(), 1);
+
+    QCOMPARE(chooser.selected_files(), QStringList(directory.filePath(QStringLiteral("flash"))));
+}
+
+void TEST_KOVQ::file_dialog_can_be_cancelled()
+{
+    KOVQ_NATIVE_FILE_DLG chooser(nullptr);
+    m_modals.expect(MODAL_DRIVER::reject());
+
+    QCOMPARE(chooser.exec(), 0);
+}
+
+void TEST_KOVQ::application_is_the_process_s_own()
+{
+    QCOMPARE(kovq_get_app(), QCoreApplication::instance());
+    QVERIFY(qobject_cast<ZUI_APP*>(kovq_get_app()) != nullptr);
+    static_assert(std::is_base_of_v<QApplication, ZUI_APP>);
+}
+
+void TEST_KOVQ::base_directory_is_empty_until_it_is_set()
+{
+    ZUI_UI_MGR* ui_mgr = qobject_cast<ZUI_APP*>(kovq_get_app())->get_ui_mgr();
+    QVERIFY(ui_mgr != nullptr);
+    QCOMPARE(ui_mgr->get_base_dir(), std::string());
+
+    ui_mgr->set_base_dir("/base/");
+    QCOMPARE(qobject_cast<ZUI_APP*>(kovq_get_app())->get_ui_mgr()->get_base_dir(), std::string("/base/"));
+    ui_mgr->set_base_dir(std::string());
+}
+
+void TEST_KOVQ::no_application_is_null()
+{
+    const PROBE_RESULT result = run_probe({QStringLiteral("no-application")});
+
+    QCOMPARE(result.output, QByteArray("null\n"));
+}
+
+int main(int argc, char** argv)
+{
+    ZUI_APP app(argc, argv);
+    TEST_KOVQ test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "test_kovq.moc"
