@@ -45,7 +45,7 @@ QGraphicsView* create_view(QGraphicsScene* scene, Qt::Alignment alignment)
 
 } // namespace
 
-GFPQ_OPERATION_TAB_WIDGET::GFPQ_OPERATION_TAB_WIDGET(QWidget* parent, int operation) : QWidget(parent)
+GPFQ_OPERATION_TAB_WIDGET::GPFQ_OPERATION_TAB_WIDGET(QWidget* parent, int operation) : QWidget(parent)
 {
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(create_description(operation), 0);
@@ -57,12 +57,12 @@ GFPQ_OPERATION_TAB_WIDGET::GFPQ_OPERATION_TAB_WIDGET(QWidget* parent, int operat
     kovq_safe_connect(this, SIGNAL(emit_update_flow_scene()), m_flow_scene, SLOT(refresh_flow_chain()));
 }
 
-GFPQ_OPERATION_TAB_WIDGET::~GFPQ_OPERATION_TAB_WIDGET()
+GPFQ_OPERATION_TAB_WIDGET::~GPFQ_OPERATION_TAB_WIDGET()
 {
     delete m_value_checker;
 }
 
-QBoxLayout* GFPQ_OPERATION_TAB_WIDGET::create_description(int operation)
+QBoxLayout* GPFQ_OPERATION_TAB_WIDGET::create_description(int operation)
 {
     auto* const layout = new QVBoxLayout;
     layout->setObjectName(QStringLiteral("label_vlayout"));
@@ -84,7 +84,7 @@ QBoxLayout* GFPQ_OPERATION_TAB_WIDGET::create_description(int operation)
     return layout;
 }
 
-QBoxLayout* GFPQ_OPERATION_TAB_WIDGET::create_editor(int operation)
+QBoxLayout* GPFQ_OPERATION_TAB_WIDGET::create_editor(int operation)
 {
     auto* const layout = new QHBoxLayout;
     layout->setObjectName(QStringLiteral("hlayout"));
@@ -104,7 +104,7 @@ QBoxLayout* GFPQ_OPERATION_TAB_WIDGET::create_editor(int operation)
 }
 
 // Read Register stands above Write Register on purpose.
-QGraphicsScene* GFPQ_OPERATION_TAB_WIDGET::create_palette_scene(int operation)
+QGraphicsScene* GPFQ_OPERATION_TAB_WIDGET::create_palette_scene(int operation)
 {
     auto* const scene = new QGraphicsScene(this);
     auto* const title = new QGraphicsTextItem(QStringLiteral("Actions:"));
@@ -123,7 +123,7 @@ QGraphicsScene* GFPQ_OPERATION_TAB_WIDGET::create_palette_scene(int operation)
     return scene;
 }
 
-GFPQ_ACTION_MENU_ITEM* GFPQ_OPERATION_TAB_WIDGET::add_palette_entry(QGraphicsScene& scene, GFPDB_ACT_TYPE type,
+GFPQ_ACTION_MENU_ITEM* GPFQ_OPERATION_TAB_WIDGET::add_palette_entry(QGraphicsScene& scene, GFPDB_ACT_TYPE type,
                                                                     double y)
 {
     auto* const entry = new GFPQ_ACTION_MENU_ITEM(type);
@@ -132,7 +132,7 @@ GFPQ_ACTION_MENU_ITEM* GFPQ_OPERATION_TAB_WIDGET::add_palette_entry(QGraphicsSce
     return entry;
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::load_flow(const std::vector<GFPDB_ACTION*>* actions, bool editable)
+void GPFQ_OPERATION_TAB_WIDGET::load_flow(const std::vector<GFPDB_ACTION*>* actions, bool editable)
 {
     m_flow_scene->clear_actions(true);
     m_flow_scene->set_editable(editable);
@@ -142,19 +142,19 @@ void GFPQ_OPERATION_TAB_WIDGET::load_flow(const std::vector<GFPDB_ACTION*>* acti
     scroll_to_start();
 }
 
-QList<GFPDB_ACTION*> GFPQ_OPERATION_TAB_WIDGET::get_flow() const
+QList<GFPDB_ACTION*> GPFQ_OPERATION_TAB_WIDGET::get_flow() const
 {
     return m_flow_scene->get_actions();
 }
 
 // Drawn anew at once: the items of the old picture point at actions that are no longer ours.
-void GFPQ_OPERATION_TAB_WIDGET::release_flow(bool delete_actions)
+void GPFQ_OPERATION_TAB_WIDGET::release_flow(bool delete_actions)
 {
     m_flow_scene->clear_actions(delete_actions);
     m_flow_scene->create_flow_chain();
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::activate()
+void GPFQ_OPERATION_TAB_WIDGET::activate()
 {
     if (!m_table_ready) {
         set_up_property_table();
@@ -164,7 +164,7 @@ void GFPQ_OPERATION_TAB_WIDGET::activate()
     m_flow_scene->create_flow_chain();
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::set_up_property_table()
+void GPFQ_OPERATION_TAB_WIDGET::set_up_property_table()
 {
     QTableView& table = *m_property_table;
     table.setModel(&m_property_model);
@@ -192,7 +192,7 @@ void GFPQ_OPERATION_TAB_WIDGET::set_up_property_table()
     table.setItemDelegateForColumn(VALUE_COLUMN, new GFPQ_PROPERTY_DELEGATE(this, m_value_checker));
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::update_property_table(GFPDB_ACTION* action)
+void GPFQ_OPERATION_TAB_WIDGET::update_property_table(GFPDB_ACTION* action)
 {
     clear_property_table();
     if (action == nullptr || action->get_action_type() == GFPDB_ACT_CUSTOM)
@@ -206,7 +206,7 @@ void GFPQ_OPERATION_TAB_WIDGET::update_property_table(GFPDB_ACTION* action)
     m_property_table->resizeColumnToContents(PROPERTY_COLUMN);
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::append_property_row(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property)
+void GPFQ_OPERATION_TAB_WIDGET::append_property_row(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property)
 {
     auto* const label = new QStandardItem(gfpq_from_utf8(GFPQ_PROPERTY_LABELS[property]));
     label->setData(static_cast<int>(property), GFPQ_PROPERTY_DELEGATE::PROPERTY_ROLE);
@@ -217,13 +217,13 @@ void GFPQ_OPERATION_TAB_WIDGET::append_property_row(const GFPDB_ACTION& action, 
     m_property_model.appendRow({label, value});
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::clear_property_table()
+void GPFQ_OPERATION_TAB_WIDGET::clear_property_table()
 {
     m_property_model.removeRows(0, m_property_model.rowCount());
     m_current_action = nullptr;
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::commit_open_editor()
+void GPFQ_OPERATION_TAB_WIDGET::commit_open_editor()
 {
     QAbstractItemDelegate* const delegate = m_property_table->itemDelegateForColumn(VALUE_COLUMN);
     QWidget* const editor = m_property_table->indexWidget(m_property_table->currentIndex());
@@ -233,7 +233,7 @@ void GFPQ_OPERATION_TAB_WIDGET::commit_open_editor()
     emit delegate->closeEditor(editor);
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::store_property_value(GFPDB_ACT_PROPERTY property, const QString& value)
+void GPFQ_OPERATION_TAB_WIDGET::store_property_value(GFPDB_ACT_PROPERTY property, const QString& value)
 {
     if (m_current_action == nullptr)
         return;
@@ -243,7 +243,7 @@ void GFPQ_OPERATION_TAB_WIDGET::store_property_value(GFPDB_ACT_PROPERTY property
 
 // Closing the box can give the chart the focus. A rebuild that waits for that would clear the table while one of its
 // cells is being stored.
-void GFPQ_OPERATION_TAB_WIDGET::warn_about_value(const QString& text)
+void GPFQ_OPERATION_TAB_WIDGET::warn_about_value(const QString& text)
 {
     const bool pending = m_flow_scene->take_pending_refresh();
     gfpq_show_warning(text);
@@ -251,7 +251,7 @@ void GFPQ_OPERATION_TAB_WIDGET::warn_about_value(const QString& text)
         m_flow_scene->refresh_flow_chain();
 }
 
-void GFPQ_OPERATION_TAB_WIDGET::scroll_to_start()
+void GPFQ_OPERATION_TAB_WIDGET::scroll_to_start()
 {
     m_flow_view->verticalScrollBar()->setValue(m_flow_view->verticalScrollBar()->minimum());
 }

@@ -21,14 +21,14 @@ class QTableView;
 
 // The page works on copies: it owns the actions it shows, and nothing reaches the flash database before the dialog
 // reads them with get_flow(). GUI thread only.
-class GFPQ_OPERATION_TAB_WIDGET : public QWidget
+class GPFQ_OPERATION_TAB_WIDGET : public QWidget
 {
     Q_OBJECT
 
 public:
     // The page of operation `operation` (0 to 4).
-    GFPQ_OPERATION_TAB_WIDGET(QWidget* parent, int operation);
-    ~GFPQ_OPERATION_TAB_WIDGET() override;
+    GPFQ_OPERATION_TAB_WIDGET(QWidget* parent, int operation);
+    ~GPFQ_OPERATION_TAB_WIDGET() override;
 
     // Shows deep copies of `actions` (null: none) from the top on, in place of what was shown, and deletes that.
     // `editable` false: blocks cannot be selected, and arrows take no drops.

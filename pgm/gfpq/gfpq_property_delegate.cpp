@@ -58,7 +58,7 @@ void load_choices(QComboBox& combo, const std::vector<std::string>& choices, con
 
 } // namespace
 
-GFPQ_PROPERTY_DELEGATE::GFPQ_PROPERTY_DELEGATE(GFPQ_OPERATION_TAB_WIDGET* tab, GFPDB_ACTION* value_checker)
+GFPQ_PROPERTY_DELEGATE::GFPQ_PROPERTY_DELEGATE(GPFQ_OPERATION_TAB_WIDGET* tab, GFPDB_ACTION* value_checker)
     : QStyledItemDelegate(tab), m_value_checker(value_checker)
 {}
 
@@ -98,7 +98,7 @@ void GFPQ_PROPERTY_DELEGATE::setModelData(QWidget* editor, QAbstractItemModel* m
     if (std_model == nullptr)
         MSG_INTERNAL_ERROR::report("std_model != nullptr", "GFPQ", ERROR_SOURCE, ERROR_LINE_NO_MODEL);
 
-    auto* const tab = static_cast<GFPQ_OPERATION_TAB_WIDGET*>(parent());
+    auto* const tab = static_cast<GPFQ_OPERATION_TAB_WIDGET*>(parent());
     const GFPDB_ACT_PROPERTY property = property_of(index);
     const QPersistentModelIndex cell(index);
     QString text;

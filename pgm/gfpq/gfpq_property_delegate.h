@@ -4,7 +4,7 @@
 #include <QStyledItemDelegate>
 
 class GFPDB_ACTION;
-class GFPQ_OPERATION_TAB_WIDGET;
+class GPFQ_OPERATION_TAB_WIDGET;
 
 // The delegate of the table's Value column. What the user typed is checked, and stored whether it is valid or not: the
 // warning rejects nothing, values are checked again before they are saved. GUI thread only.
@@ -18,7 +18,7 @@ public:
 
     // `value_checker` offers the choices of a property and checks typed values; not owned, may be null (no choices,
     // everything is valid).
-    GFPQ_PROPERTY_DELEGATE(GFPQ_OPERATION_TAB_WIDGET* tab, GFPDB_ACTION* value_checker);
+    GFPQ_PROPERTY_DELEGATE(GPFQ_OPERATION_TAB_WIDGET* tab, GFPDB_ACTION* value_checker);
     ~GFPQ_PROPERTY_DELEGATE() override;
 
     // A combo box for a bus width, a line edit for everything else; null for an invalid index.
