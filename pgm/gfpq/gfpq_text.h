@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QTextCodec>
 
 #include <string>
 
@@ -12,13 +13,18 @@ inline std::string gfpq_to_local(const QString& text)
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 
-// Text that came from the flash database: local 8-bit.
+// Text that came from the flash database: local 8-bit. A byte order mark at its start is part of the text, so that what
+// came in goes out byte for byte.
 inline QString gfpq_from_local(const std::string& text)
 {
-    return QString::fromLocal8Bit(text.data(), static_cast<int>(text.size()));
+    const int size = static_cast<int>(text.size());
+    if (text.compare(0, 3, "\xEF\xBB\xBF") != 0)
+        return QString::fromLocal8Bit(text.data(), size);
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return QTextCodec::codecForLocale()->toUnicode(text.data(), size, &state);
 }
 
-// Text of the vocabulary tables: UTF-8.
+// Text of a table that is no user's: UTF-8.
 inline QString gfpq_from_utf8(const char* text)
 {
     return QString::fromUtf8(text);

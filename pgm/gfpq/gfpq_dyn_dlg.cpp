@@ -1,0 +1,53 @@
+// The module's entry point.
+
+#include "gfpq_dyn_dlg.h"
+
+#include "gfpq_dlg.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include <exception>
+#include <utility>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lc_gfpq, "gfpq.dialog")
+
+void run_dialog(QWidget* parent, GFPQ_DYN_DLG_ARGS& args, bool enable_family, bool enable_config_mode, bool enable_edit)
+{
+    const std::map<int, std::vector<int>> family_schemes = args.family_schemes;
+    const std::string device_name = args.device_name;
+    GFPQ_DLG dialog(parent, args.family, args.config_scheme, device_name, enable_family, enable_config_mode,
+                    enable_edit, family_schemes);
+    dialog.exec();
+
+    // The copy can fail, what follows cannot: the record is written whole or not at all.
+    std::string chosen_name = dialog.device_name();
+    args.family = dialog.family();
+    args.config_scheme = dialog.config_scheme();
+    args.device_name = std::move(chosen_name);
+}
+
+} // namespace
+
+extern "C" void gfpq_dyn_dlg(QWidget* parent, GFPQ_DYN_DLG_ARGS* args, bool enable_family, bool enable_config_mode,
+                             bool enable_edit)
+{
+    if (args == nullptr) {
+        qCCritical(lc_gfpq, "The Configuration Device dialog was called without an exchange record.");
+        return;
+    }
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
+        qCCritical(lc_gfpq, "The Configuration Device dialog needs a QApplication, and there is none.");
+        return;
+    }
+    // No exception may cross into a caller that is not C++.
+    try {
+        run_dialog(parent, *args, enable_family, enable_config_mode, enable_edit);
+    } catch (const std::exception& error) {
+        qCCritical(lc_gfpq, "The Configuration Device dialog ended with an error: %s", error.what());
+    } catch (...) {
+        qCCritical(lc_gfpq, "The Configuration Device dialog ended with an unknown error.");
+    }
+}
