@@ -15,9 +15,12 @@
 #include <QGraphicsView>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace {
@@ -31,6 +34,9 @@ constexpr double OWN_ACTION_Y = 210.0;
 
 constexpr int PROPERTY_COLUMN = 0;
 constexpr int VALUE_COLUMN = 1;
+
+// The part of a long value that a tool tip shows.
+constexpr int TOOL_TIP_MAX_LENGTH = 1000;
 
 // The colours of charts and palettes are fixed, so is what they are drawn on.
 constexpr Qt::GlobalColor PAPER_COLOR = Qt::white;
@@ -99,6 +105,7 @@ QBoxLayout* GPFQ_OPERATION_TAB_WIDGET::create_editor(int operation)
 
     m_property_table = new QTableView(this);
     m_property_table->setObjectName(QStringLiteral("m_property_table"));
+    m_property_table->viewport()->installEventFilter(this);
     layout->addWidget(m_property_table, 0);
     return layout;
 }
@@ -139,7 +146,8 @@ void GPFQ_OPERATION_TAB_WIDGET::load_flow(const std::vector<GFPDB_ACTION*>* acti
     if (actions != nullptr)
         m_flow_scene->append_copies(*actions);
     m_flow_scene->create_flow_chain();
-    scroll_to_start();
+    // Not by the scroll bars: a view that is hidden goes to its centre point when it is shown.
+    m_flow_view->centerOn(m_flow_scene->sceneRect().center().x(), 0.0);
 }
 
 QList<GFPDB_ACTION*> GPFQ_OPERATION_TAB_WIDGET::get_flow() const
@@ -162,6 +170,7 @@ void GPFQ_OPERATION_TAB_WIDGET::activate()
         m_current_action = nullptr;
     }
     m_flow_scene->create_flow_chain();
+    center_chart();
 }
 
 void GPFQ_OPERATION_TAB_WIDGET::set_up_property_table()
@@ -251,7 +260,26 @@ void GPFQ_OPERATION_TAB_WIDGET::warn_about_value(const QString& text)
         m_flow_scene->refresh_flow_chain();
 }
 
-void GPFQ_OPERATION_TAB_WIDGET::scroll_to_start()
+// A chart that is wider than the view shows its middle, where the chain runs. Done when the page comes to the front,
+// too: a flow is mostly loaded while the view is hidden and has not got its size.
+void GPFQ_OPERATION_TAB_WIDGET::center_chart()
 {
-    m_flow_view->verticalScrollBar()->setValue(m_flow_view->verticalScrollBar()->minimum());
+    QScrollBar& bar = *m_flow_view->horizontalScrollBar();
+    bar.setValue((bar.minimum() + bar.maximum()) / 2);
+}
+
+// The tool tip of a cell is the cell's text as it stands, never markup.
+bool GPFQ_OPERATION_TAB_WIDGET::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_property_table->viewport() || event->type() != QEvent::ToolTip)
+        return QWidget::eventFilter(watched, event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    const QModelIndex index = m_property_table->indexAt(help.pos());
+    const QString text = index.data(Qt::ToolTipRole).toString().left(TOOL_TIP_MAX_LENGTH);
+    if (text.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help.globalPos(), Qt::convertFromPlainText(text), m_property_table->viewport(),
+                           m_property_table->visualRect(index));
+    return true;
 }

@@ -56,6 +56,9 @@ public slots:
     void update_property_table(GFPDB_ACTION* action);
     void clear_property_table();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QBoxLayout* create_description(int operation);
     QBoxLayout* create_editor(int operation);
@@ -63,7 +66,7 @@ private:
     GFPQ_ACTION_MENU_ITEM* add_palette_entry(QGraphicsScene& scene, GFPDB_ACT_TYPE type, double y);
     void set_up_property_table();
     void append_property_row(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property);
-    void scroll_to_start();
+    void center_chart();
 
     QStandardItemModel m_property_model;
     bool m_table_ready = false;
