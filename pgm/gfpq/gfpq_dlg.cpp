@@ -3,6 +3,7 @@
 #include "gfpq_dlg.h"
 
 #include "gfpq_dlg_internal.h"
+#include "gfpq_form.h"
 #include "gfpq_operation_tab_widget.h"
 #include "gfpq_text.h"
 #include "gfpq_vocabulary.h"
@@ -20,7 +21,7 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
       m_current_flash(nullptr), m_gfpdb_mgr(nullptr), m_family_schemes(family_schemes), m_family(family),
       m_config_scheme(config_scheme), m_device_name(device_name)
 {
-    ui.setupUi(this);
+    gfpq_build_form(ui, this);
     // The scheme, not the family, is what this call takes.
     GFPDB_HELPER::set_active_flash_family(static_cast<PGMIO_CONFIG_SCHEME>(config_scheme));
     fetch_manager(true, GFPQ_LINE_CONSTRUCTION);

@@ -1,5 +1,6 @@
 #include "gfpq_edit_template_dlg.h"
 
+#include "gfpq_form.h"
 #include "gfpq_message.h"
 #include "gfpq_text.h"
 
@@ -18,7 +19,7 @@ GFPQ_EDIT_TEMPLATE_DLG::GFPQ_EDIT_TEMPLATE_DLG(QWidget* parent, GFPDB_MGR* manag
 {
     if (m_gfpdb_mgr == nullptr)
         MSG_INTERNAL_ERROR::report("m_gfpdb_mgr != NULL", "GFPQ", "pgm/gfpq/gfpq_edit_template_dlg", __LINE__);
-    ui.setupUi(this);
+    gfpq_build_form(ui, this);
     set_up_table();
     fill_list();
     kovq_safe_connect(ui.m_close_button, SIGNAL(clicked()), this, SLOT(on_close_clicked()), Qt::AutoConnection, "", 0);
