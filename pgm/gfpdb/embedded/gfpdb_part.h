@@ -1,6 +1,7 @@
 // One built-in part of the catalogue, as its data row says.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -30,12 +31,21 @@ struct GFPDB_PART
     std::string density;
     int total_die = 0;
     int page_size = 0;
+    // In the order of the row. A command that occurs twice erases different sizes at different addresses.
     std::vector<GFPDB_ERASE_COMMAND> sector_erase;
     int addressing_bytes = 0;
     int dummy_single = 0;
     int dummy_quad = 0;
+    // How the clocks of dummy_quad are counted, as the row says it.
+    std::string dummy_quad_note;
     GFPDB_QUAD_ENABLE quad_enable = GFPDB_QUAD_ENABLE::UNKNOWN;
+    // Where the row's values come from.
+    std::string source;
     // What is not to be shown of the part: its properties, its flows.
     bool properties_hidden = false;
     bool flows_hidden = false;
 };
+
+// The bytes of a density such as "128Mb" or "1GB": a whole number and Kb, Mb, Gb (bits) or KB, MB, GB (bytes); 0 for
+// any other text.
+std::int64_t gfpdb_density_bytes(const std::string& density);

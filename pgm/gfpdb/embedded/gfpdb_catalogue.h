@@ -1,0 +1,14 @@
+// The catalogue of built-in parts.
+#pragma once
+
+#include "gfpdb_part.h"
+
+#include <QString>
+
+// The parts in the order of the catalogue: the file that the environment variable GFPDB_CATALOGUE names, else the
+// catalogue that is compiled in. Read at the first call; rows with errors are logged and left out. When the file of the
+// environment variable cannot be read, that is logged and the compiled-in catalogue serves. GUI thread only.
+const std::vector<GFPDB_PART>& gfpdb_catalogue_parts();
+
+// The parts of the catalogue in `path`; `problem` says why it could not be read and is empty otherwise.
+std::vector<GFPDB_PART> gfpdb_read_catalogue(const QString& path, QString& problem);
