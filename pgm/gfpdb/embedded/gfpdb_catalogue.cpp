@@ -9,13 +9,7 @@
 namespace {
 
 constexpr const char* CATALOGUE_VARIABLE = "GFPDB_CATALOGUE";
-
-// A static library or a stripped link could drop the resource's own initialiser.
-QString builtin_catalogue_path()
-{
-    Q_INIT_RESOURCE(gfpdb_catalogue);
-    return QStringLiteral(":/gfpdb/serial_nor.csv");
-}
+constexpr const char* BUILTIN_CATALOGUE = ":/gfpdb/serial_nor.csv";
 
 } // namespace
 
@@ -29,7 +23,7 @@ const std::vector<GFPDB_PART>& gfpdb_catalogue_parts()
             if (problem.isEmpty())
                 return parts;
         }
-        return gfpdb_read_catalogue(builtin_catalogue_path(), problem);
+        return gfpdb_read_catalogue(QLatin1String(BUILTIN_CATALOGUE), problem);
     }();
     return PARTS;
 }
