@@ -1,0 +1,30 @@
+#include "host_database.h"
+
+#include "gfpdb/gfpdb_helper.h"
+#include "gfpdb/gfpdb_mgr.h"
+
+#include <QDir>
+
+namespace {
+
+QString text_of(const std::string& text)
+{
+    return QString::fromLocal8Bit(QByteArray::fromStdString(text));
+}
+
+} // namespace
+
+void use_database_directory(const QString& directory)
+{
+    const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(directory));
+    const QString with_slash = path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
+    GFPDB_MGR::set_db_custom_dir(with_slash.toLocal8Bit().toStdString());
+}
+
+DATABASE_STATE database_state()
+{
+    DATABASE_STATE state;
+    state.directory = text_of(GFPDB_MGR::get_db_custom_dir());
+    state.problem = text_of(GFPDB_HELPER::get_database_problem());
+    return state;
+}

@@ -1,0 +1,101 @@
+#include "host_program.h"
+
+#include "dialog_call.h"
+#include "host_choice.h"
+#include "host_database.h"
+#include "host_translation.h"
+#include "host_window.h"
+#include "module_loader.h"
+#include "page_renderer.h"
+
+#include "kovq/zui_app.h"
+
+#include <QSettings>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace {
+
+void print(std::FILE* stream, const QString& line)
+{
+    QTextStream(stream) << line << '\n';
+}
+
+int fail(const QString& problem)
+{
+    print(stderr, QLatin1String(HOST_PROGRAM_NAME) + QLatin1String(": ") + problem);
+    return HOST_EXIT_FAILED;
+}
+
+MODULE_LOADER module_of(const HOST_ARGUMENTS& arguments)
+{
+    if (!arguments.module_file.isEmpty())
+        return MODULE_LOADER({arguments.module_file});
+    return MODULE_LOADER(MODULE_LOADER::installed_files(QCoreApplication::applicationDirPath()));
+}
+
+// What was chosen last, overruled by what the command line says.
+HOST_CHOICE first_choice(const HOST_ARGUMENTS& arguments, const QSettings& settings)
+{
+    HOST_CHOICE choice = load_choice(settings);
+    choice.family = arguments.family.value_or(choice.family);
+    choice.config_scheme = arguments.config_scheme.value_or(choice.config_scheme);
+    if (arguments.device_name)
+        choice.device_name = arguments.device_name->toLocal8Bit().toStdString();
+    return choice;
+}
+
+int run_window(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, QSettings& settings)
+{
+    HOST_WINDOW window(module, arguments.dialog, first_choice(arguments, settings));
+    QObject::connect(&window, &HOST_WINDOW::choice_changed, &window, [&] { store_choice(window.choice(), settings); });
+    window.show();
+    return QCoreApplication::exec();
+}
+
+int run_dialog(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSettings& settings)
+{
+    const GFPQ_DYN_DLG entry_point = module.entry_point();
+    if (!entry_point)
+        return fail(module.problem());
+    const HOST_CHOICE choice = open_dialog(entry_point, nullptr, first_choice(arguments, settings), arguments.dialog);
+    std::printf("%s\n", choice_to_json(choice).constData());
+    return HOST_EXIT_OK;
+}
+
+int run_render(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSettings& settings)
+{
+    const GFPQ_DYN_DLG entry_point = module.entry_point();
+    if (!entry_point)
+        return fail(module.problem());
+    PAGE_RENDERER renderer(arguments.render_directory);
+    open_dialog(entry_point, nullptr, first_choice(arguments, settings), arguments.dialog);
+    for (const QString& file : renderer.files())
+        print(stdout, file);
+    return renderer.problem().isEmpty() ? int(HOST_EXIT_OK) : fail(renderer.problem());
+}
+
+} // namespace
+
+int run_host(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
+{
+    const HOST_TRANSLATION translation(arguments.language,
+                                       HOST_TRANSLATION::installed_directories(QCoreApplication::applicationDirPath()));
+    if (!arguments.base_directory.isEmpty())
+        app.get_ui_mgr()->set_base_dir(arguments.base_directory.toLocal8Bit().toStdString());
+    if (!arguments.database_directory.isEmpty())
+        use_database_directory(arguments.database_directory);
+
+    QSettings settings(QStringLiteral("gfpq"), QLatin1String(HOST_PROGRAM_NAME));
+    MODULE_LOADER module = module_of(arguments);
+    switch (arguments.task) {
+    case HOST_TASK::DIALOG:
+        return run_dialog(module, arguments, settings);
+    case HOST_TASK::RENDER:
+        return run_render(module, arguments, settings);
+    case HOST_TASK::WINDOW:
+        break;
+    }
+    return run_window(module, arguments, settings);
+}

@@ -1,0 +1,26 @@
+// The language of the texts.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTranslator>
+
+// Keeps the texts of one language in the application while it lives. Make it after the application.
+class HOST_TRANSLATION
+{
+public:
+    // Where the project's own texts are, as seen from the directory of the programs.
+    static QStringList installed_directories(const QString& program_directory);
+
+    // Brings in the texts of `language`, of the system's language when it is empty: ours from the first of
+    // `directories` that has them, Qt's from Qt's own place. A language that was asked for and has no texts of ours is
+    // logged; the texts then stay English.
+    HOST_TRANSLATION(const QString& language, const QStringList& directories);
+    ~HOST_TRANSLATION();
+    HOST_TRANSLATION(const HOST_TRANSLATION&) = delete;
+    HOST_TRANSLATION& operator=(const HOST_TRANSLATION&) = delete;
+
+private:
+    QTranslator m_own_texts;
+    QTranslator m_qt_texts;
+};

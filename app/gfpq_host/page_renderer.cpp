@@ -1,0 +1,90 @@
+#include "page_renderer.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QEvent>
+#include <QPixmap>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTimer>
+
+namespace {
+
+const QString PAGES = QStringLiteral("m_prog_flows_tab_widget");
+const QString EDIT_TEMPLATE_BUTTON = QStringLiteral("m_edit_template_button");
+const QString TEMPLATE_EDITOR_CLASS = QStringLiteral("GFPQ_EDIT_TEMPLATE_DLG");
+
+// "Verify/Blank-Check/Examine" gives "verify-blank-check-examine".
+QString file_name_part(const QString& title)
+{
+    QString name = title.toLower();
+    name.replace(QRegularExpression(QStringLiteral("\\W+"), QRegularExpression::UseUnicodePropertiesOption),
+                 QStringLiteral("-"));
+    return name;
+}
+
+} // namespace
+
+PAGE_RENDERER::PAGE_RENDERER(const QString& directory) : m_directory(QDir(directory).absolutePath())
+{
+    if (!QDir().mkpath(m_directory))
+        m_problems.append(QStringLiteral("The directory %1 cannot be created.").arg(m_directory));
+    qApp->installEventFilter(this);
+}
+
+PAGE_RENDERER::~PAGE_RENDERER() = default;
+
+bool PAGE_RENDERER::eventFilter(QObject* watched, QEvent* event)
+{
+    const QPointer<QDialog> dialog(event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr);
+    if (dialog) {
+        // From within the dialog's own event loop, which starts after it was shown.
+        QTimer::singleShot(0, this, [this, dialog] {
+            if (dialog)
+                meet(dialog);
+        });
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void PAGE_RENDERER::meet(QDialog* dialog)
+{
+    if (auto* pages = dialog->findChild<QTabWidget*>(PAGES))
+        render_pages(dialog, pages);
+    else if (QLatin1String(dialog->metaObject()->className()) == TEMPLATE_EDITOR_CLASS)
+        render(dialog, QStringLiteral("template-editor"));
+    else
+        m_problems.append(QStringLiteral("A window opened that does not belong here: %1").arg(dialog->windowTitle()));
+    dialog->reject();
+}
+
+void PAGE_RENDERER::render_pages(QDialog* dialog, QTabWidget* pages)
+{
+    for (int page = 0; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page);
+        render(dialog, file_name_part(pages->tabText(page)));
+    }
+    pages->setCurrentIndex(0);
+    open_template_editor(dialog);
+}
+
+// Schemes without programming flows have no templates.
+void PAGE_RENDERER::open_template_editor(const QDialog* dialog)
+{
+    auto* button = dialog->findChild<QAbstractButton*>(EDIT_TEMPLATE_BUTTON);
+    if (button && button->isVisible() && button->isEnabled())
+        button->click();
+}
+
+void PAGE_RENDERER::render(QWidget* window, const QString& name)
+{
+    QCoreApplication::processEvents();
+    const QString file = QDir(m_directory).filePath(QStringLiteral("%1-%2.png").arg(m_files.size() + 1).arg(name));
+    if (window->grab().save(file))
+        m_files.append(file);
+    else
+        m_problems.append(QStringLiteral("The picture %1 cannot be written.").arg(file));
+}
