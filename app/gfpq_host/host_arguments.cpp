@@ -190,7 +190,7 @@ PARSED_ARGUMENTS parse_arguments(const QStringList& command_line)
     describe_options(parser);
     PARSED_ARGUMENTS result;
     if (!parser.parse(command_line)) {
-        result.problem = parser.errorText() + QLatin1Char('.');
+        result.problem = parser.errorText();
         return result;
     }
     if (parser.isSet(HELP)) {

@@ -73,6 +73,8 @@ int run_render(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSe
     open_dialog(entry_point, nullptr, first_choice(arguments, settings), arguments.dialog);
     for (const QString& file : renderer.files())
         print(stdout, file);
+    if (renderer.files().isEmpty() && renderer.problem().isEmpty())
+        return fail(QStringLiteral("The module opened no dialog."));
     return renderer.problem().isEmpty() ? int(HOST_EXIT_OK) : fail(renderer.problem());
 }
 

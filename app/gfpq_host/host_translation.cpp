@@ -36,13 +36,19 @@ QStringList HOST_TRANSLATION::installed_directories(const QString& program_direc
     return {QDir::cleanPath(QDir(program_directory).absoluteFilePath(QStringLiteral("../share/gfpq/translations")))};
 }
 
-HOST_TRANSLATION::HOST_TRANSLATION(const QString& language, const QStringList& directories)
+QString HOST_TRANSLATION::qt_directory()
+{
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+}
+
+HOST_TRANSLATION::HOST_TRANSLATION(const QString& language, const QStringList& directories,
+                                   const QString& directory_of_qt)
 {
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
     QLocale::setDefault(locale);
     if (!needs_translation(locale))
         return;
-    if (m_qt_texts.load(locale, QT_FILE, SEPARATOR, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+    if (m_qt_texts.load(locale, QT_FILE, SEPARATOR, directory_of_qt))
         QCoreApplication::installTranslator(&m_qt_texts);
     if (load_from_first(m_own_texts, locale, directories))
         QCoreApplication::installTranslator(&m_own_texts);

@@ -232,6 +232,8 @@ public:
     // What get_active_flash_manager answers; null on request.
     MGR_DOUBLE* active = nullptr;
     std::string custom_dir = "/db/custom/";
+    // What GFPDB_HELPER::get_database_problem answers.
+    std::string database_problem;
     // What the library makes of a directory that it is set to; the directory itself when empty.
     std::function<std::string(const std::string&)> canonical_dir;
     bool save_dir_succeeds = true;

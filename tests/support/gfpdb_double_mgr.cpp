@@ -392,7 +392,7 @@ GFPDB_MGR* GFPDB_HELPER::get_active_flash_manager(bool reload)
 std::string GFPDB_HELPER::get_database_problem()
 {
     record_static("GFPDB_HELPER", "get_database_problem");
-    return std::string();
+    return GFPDB_WORLD::instance().database_problem;
 }
 
 GFPDB_WORLD& GFPDB_WORLD::instance()
@@ -406,6 +406,7 @@ void GFPDB_WORLD::reset()
     m_managers.clear();
     custom_dir = "/db/custom/";
     canonical_dir = nullptr;
+    database_problem.clear();
     save_dir_succeeds = true;
     set_family_succeeds = true;
     active = &add_manager(QStringLiteral("mgr"));

@@ -1,0 +1,5 @@
+// What the fake module answers.
+#pragma once
+
+constexpr int FAKE_FAMILY = 70;
+constexpr int FAKE_SCHEME = 13;

@@ -1,0 +1,5 @@
+// A shared library that is no dialog module.
+extern "C" int no_entry_point()
+{
+    return 0;
+}

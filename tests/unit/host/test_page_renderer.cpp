@@ -1,0 +1,181 @@
+// Pictures of the dialog's pages.
+#include "page_renderer.h"
+
+#include <QDialog>
+#include <QImage>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <QtTest>
+
+// The renderer knows the template editor by its class.
+class GFPQ_EDIT_TEMPLATE_DLG : public QDialog
+{
+    Q_OBJECT
+
+public:
+    using QDialog::QDialog;
+};
+
+class TEST_PAGE_RENDERER : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void every_page_and_the_template_editor_are_drawn();
+    void pictures_show_their_pages();
+    void dialog_without_a_template_editor_data();
+    void dialog_without_a_template_editor();
+    void foreign_window_is_closed_and_told();
+    void directory_that_cannot_be_made_is_told();
+    void renderer_leaves_the_application_alone_afterwards();
+};
+
+namespace {
+
+const QList<QColor> COLOURS = {Qt::red, Qt::green, Qt::blue};
+
+// A dialog with three coloured pages and a button that opens the template editor.
+class FORM : public QDialog
+{
+public:
+    FORM()
+    {
+        m_pages->setObjectName(QStringLiteral("m_prog_flows_tab_widget"));
+        const QStringList titles = {QStringLiteral("Device"), QStringLiteral("Verify/Blank-Check"),
+                                    QStringLiteral("L\u00f6schen 2")};
+        for (int page = 0; page < titles.size(); ++page) {
+            auto* content = new QLabel;
+            content->setStyleSheet(QStringLiteral("background: %1").arg(COLOURS[page].name()));
+            m_pages->addTab(content, titles[page]);
+        }
+        button->setObjectName(QStringLiteral("m_edit_template_button"));
+        connect(button, &QPushButton::clicked, this, [this] {
+            page_at_click = m_pages->currentIndex();
+            GFPQ_EDIT_TEMPLATE_DLG editor(this);
+            editor.exec();
+        });
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(m_pages);
+        column->addWidget(button);
+        resize(400, 300);
+    }
+
+    QPushButton* button = new QPushButton(this);
+    int page_at_click = -1;
+
+private:
+    QTabWidget* m_pages = new QTabWidget(this);
+};
+
+QStringList names(const QStringList& files)
+{
+    QStringList result;
+    for (const QString& file : files)
+        result.append(QFileInfo(file).fileName());
+    return result;
+}
+
+} // namespace
+
+void TEST_PAGE_RENDERER::every_page_and_the_template_editor_are_drawn()
+{
+    QTemporaryDir scratch;
+    const QString directory = scratch.filePath(QStringLiteral("new/pictures"));
+    FORM form;
+    PAGE_RENDERER renderer(directory);
+
+    QCOMPARE(form.exec(), int(QDialog::Rejected));
+
+    QCOMPARE(renderer.problem(), QString());
+    QCOMPARE(names(renderer.files()),
+             (QStringList{QStringLiteral("1-device.png"), QStringLiteral("2-verify-blank-check.png"),
+                          QStringLiteral("3-l\u00f6schen-2.png"), QStringLiteral("4-template-editor.png")}));
+    for (const QString& file : renderer.files())
+        QCOMPARE(QFileInfo(file).absolutePath(), directory);
+    QCOMPARE(form.page_at_click, 0);
+}
+
+void TEST_PAGE_RENDERER::pictures_show_their_pages()
+{
+    QTemporaryDir scratch;
+    FORM form;
+    PAGE_RENDERER renderer(scratch.path());
+
+    form.exec();
+
+    for (int page = 0; page < COLOURS.size(); ++page) {
+        const QImage picture(renderer.files()[page]);
+        QCOMPARE(picture.size(), form.size());
+        QCOMPARE(picture.pixelColor(picture.rect().center()), COLOURS[page]);
+    }
+}
+
+void TEST_PAGE_RENDERER::dialog_without_a_template_editor_data()
+{
+    QTest::addColumn<bool>("visible");
+    QTest::addColumn<bool>("enabled");
+
+    QTest::newRow("hidden") << false << true;
+    QTest::newRow("disabled") << true << false;
+}
+
+void TEST_PAGE_RENDERER::dialog_without_a_template_editor()
+{
+    QFETCH(bool, visible);
+    QFETCH(bool, enabled);
+    QTemporaryDir scratch;
+    FORM form;
+    form.button->setVisible(visible);
+    form.button->setEnabled(enabled);
+    PAGE_RENDERER renderer(scratch.path());
+
+    form.exec();
+
+    QCOMPARE(renderer.files().size(), 3);
+    QCOMPARE(renderer.problem(), QString());
+}
+
+void TEST_PAGE_RENDERER::foreign_window_is_closed_and_told()
+{
+    QTemporaryDir scratch;
+    PAGE_RENDERER renderer(scratch.path());
+
+    QDialog foreign;
+    foreign.setWindowTitle(QStringLiteral("Foreign"));
+    QCOMPARE(foreign.exec(), int(QDialog::Rejected));
+
+    QCOMPARE(renderer.files(), QStringList());
+    QCOMPARE(renderer.problem(), QStringLiteral("A window opened that does not belong here: Foreign"));
+}
+
+void TEST_PAGE_RENDERER::directory_that_cannot_be_made_is_told()
+{
+    FORM form;
+    PAGE_RENDERER renderer(QStringLiteral("/proc/self/exe/pictures"));
+
+    form.exec();
+
+    QCOMPARE(renderer.files(), QStringList());
+    const QStringList problems = renderer.problem().split(QLatin1Char('\n'));
+    QCOMPARE(problems[0], QStringLiteral("The directory /proc/self/exe/pictures cannot be created."));
+    QCOMPARE(problems[1], QStringLiteral("The picture /proc/self/exe/pictures/1-device.png cannot be written."));
+}
+
+void TEST_PAGE_RENDERER::renderer_leaves_the_application_alone_afterwards()
+{
+    QTemporaryDir scratch;
+    {
+        PAGE_RENDERER renderer(scratch.path());
+    }
+    QDialog dialog;
+    dialog.show();
+    QCoreApplication::processEvents();
+
+    QVERIFY(dialog.isVisible());
+}
+
+QTEST_MAIN(TEST_PAGE_RENDERER)
+#include "test_page_renderer.moc"
