@@ -83,7 +83,8 @@ int run_render(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSe
 int run_host(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
 {
     const HOST_TRANSLATION translation(arguments.language,
-                                       HOST_TRANSLATION::installed_directories(QCoreApplication::applicationDirPath()));
+                                       HOST_TRANSLATION::installed_directories(QCoreApplication::applicationDirPath()),
+                                       HOST_TRANSLATION::qt_directory());
     if (!arguments.base_directory.isEmpty())
         app.get_ui_mgr()->set_base_dir(arguments.base_directory.toLocal8Bit().toStdString());
     if (!arguments.database_directory.isEmpty())
