@@ -1,0 +1,30 @@
+// The rules for the values of a device that can be told from the value alone.
+//
+// Each check returns false and puts a text for the user into `error` that says what is wrong and what is allowed; it
+// leaves `error` alone when it returns true. Texts are UTF-8. Pure functions.
+#pragma once
+
+#include <string>
+#include <vector>
+
+constexpr int GFPDB_NAME_LENGTH_MAX = 64;
+constexpr int GFPDB_ID_BYTES_MAX = 16;
+constexpr int GFPDB_TOTAL_DIE_MIN = 1;
+constexpr int GFPDB_TOTAL_DIE_MAX = 16;
+constexpr int GFPDB_SINGLE_IO_DUMMY_CLOCK_MAX = 15;
+constexpr int GFPDB_QUAD_IO_DUMMY_CLOCK_MAX = 31;
+
+// The name of a device or template: 1 to 64 characters of UTF-8, no control characters, no blank at either end, and not
+// the text that stands for a new device. `what` says in the error whose name it is.
+bool gfpdb_check_name(const std::string& name, const std::string& what, std::string& error);
+
+// The ID bytes of a device, as "0xC2 0x20 0x19": 1 to 16 bytes in hexadecimal, one or two digits each, with or without
+// "0x", separated by blanks or commas.
+bool gfpdb_check_device_id(const std::string& id, std::string& error);
+
+// `value` lies from `lowest` to `highest`; `what` names it in the error.
+bool gfpdb_check_range(int value, int lowest, int highest, const std::string& what, std::string& error);
+
+// `value` is one of `allowed`, letter for letter; `what` names it in the error.
+bool gfpdb_check_choice(const std::string& value, const std::vector<std::string>& allowed, const std::string& what,
+                        std::string& error);

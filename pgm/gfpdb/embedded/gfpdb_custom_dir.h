@@ -1,0 +1,16 @@
+// Where the user's database lies.
+//
+// Directories are in the local 8-bit encoding, byte for byte as the file system has them. GUI thread only.
+#pragma once
+
+#include <string>
+
+// The directory for a user who never chose one: gfpdb/ in the user's data directory.
+std::string gfpdb_default_dir();
+
+// `directory` in the one form in which the library keeps directories: absolute against the process's current directory,
+// without "." and "..", separated by single slashes, with one at its end. Empty gives the default directory.
+std::string gfpdb_normalised_dir(const std::string& directory);
+
+// Creates `directory` with everything above it. False when it is not there afterwards.
+bool gfpdb_create_dir(const std::string& directory);

@@ -1,0 +1,436 @@
+#include "gfpdb_embedded_mgr.h"
+
+#include "gfpdb_action_model.h"
+#include "gfpdb_builtin_records.h"
+#include "gfpdb_checks.h"
+#include "gfpdb_custom_dir.h"
+#include "gfpdb_flow_templates.h"
+#include "gfpdb_log.h"
+#include "gfpdb_operation.h"
+#include "gfpdb_options.h"
+#include "gfpdb_text.h"
+
+#include "dstr/dstr.h"
+
+#include <algorithm>
+
+namespace {
+
+const std::string DEVICE_NAME = "device name";
+const std::string TEMPLATE_NAME = "template name";
+constexpr int NOT_FOUND = -1;
+
+// The place of the built-in template `name`, or NOT_FOUND.
+int builtin_template(const std::string& name)
+{
+    const std::vector<std::string> names = gfpdb_builtin_template_names();
+    const std::string key = gfpdb_name_key(name);
+    const auto has_key = [&key](const std::string& other) { return gfpdb_name_key(other) == key; };
+    const auto place = std::find_if(names.begin(), names.end(), has_key);
+    return place == names.end() ? NOT_FOUND : static_cast<int>(place - names.begin());
+}
+
+bool refuse(std::string& error, const std::string& text)
+{
+    error = text;
+    return false;
+}
+
+// What is wrong with `name` whatever the database holds.
+bool check_name(const std::string& name, const std::string& what, std::string& error)
+{
+    if (!gfpdb_check_name(name, what, error))
+        return false;
+    if (gfpdb_builtin_part(name) != nullptr)
+        return refuse(error, "There is a built-in device called " + gfpdb_quoted(name) + ": choose another name.");
+    if (builtin_template(name) != NOT_FOUND)
+        return refuse(error, "There is a built-in template called " + gfpdb_quoted(name) + ": choose another name.");
+    return true;
+}
+
+} // namespace
+
+GFPDB_EMBEDDED_MGR& GFPDB_EMBEDDED_MGR::instance()
+{
+    static auto& manager = *new GFPDB_EMBEDDED_MGR();
+    return manager;
+}
+
+GFPDB_EMBEDDED_MGR::GFPDB_EMBEDDED_MGR()
+{
+    reload();
+}
+
+GFPDB_EMBEDDED_MGR::~GFPDB_EMBEDDED_MGR() = default;
+
+void GFPDB_EMBEDDED_MGR::reload()
+{
+    const std::string directory = get_db_custom_dir();
+    if (directory == gfpdb_default_dir())
+        gfpdb_create_dir(directory);
+    m_other_store.reset();
+    if (!m_store || m_store->get_directory() != directory)
+        m_store = std::make_unique<GFPDB_STORE>(directory);
+    m_store->reload();
+}
+
+bool GFPDB_EMBEDDED_MGR::fail(const std::string& error)
+{
+    m_last_error = error;
+    qCWarning(GFPDB_LOG, "%s", error.c_str());
+    return false;
+}
+
+bool GFPDB_EMBEDDED_MGR::get_flow_variant() const
+{
+    return gfpdb_is_quad_scheme(m_scheme);
+}
+
+int GFPDB_EMBEDDED_MGR::get_device_family() const
+{
+    return m_family;
+}
+
+void GFPDB_EMBEDDED_MGR::set_device_family(int family)
+{
+    m_family = family;
+}
+
+int GFPDB_EMBEDDED_MGR::get_config_scheme() const
+{
+    return m_scheme;
+}
+
+void GFPDB_EMBEDDED_MGR::set_config_scheme(int scheme)
+{
+    m_scheme = scheme;
+}
+
+// The flows come along in any case: a record without them could not be told from one that has none.
+GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_flows)
+{
+    Q_UNUSED(load_flows)
+    m_last_error.clear();
+    if (GFPDB_FLASH* device = find_device(name))
+        return device;
+    if (is_builtin_flash(name))
+        return gfpdb_builtin_record(name);
+    return find_template(name);
+}
+
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
+{
+    const std::string place =
+        "device " + std::to_string(m_family) + ' ' + std::to_string(m_scheme) + ' ' + gfpdb_name_key(name);
+    const std::string revision = m_store->get_device_revision(m_family, m_scheme, name);
+    if (GFPDB_EMBEDDED_FLASH* record = find_read(place, revision))
+        return record;
+    const std::optional<GFPDB_ROW> row = m_store->find_device(m_family, m_scheme, name);
+    return row ? keep_read(place, *row, false) : nullptr;
+}
+
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
+{
+    const std::string place = "template " + gfpdb_name_key(name);
+    if (GFPDB_EMBEDDED_FLASH* record = find_read(place, m_store->get_template_revision(name)))
+        return record;
+    const std::optional<GFPDB_ROW> row = m_store->find_template(name);
+    return row ? keep_read(place, *row, true) : nullptr;
+}
+
+// The record that was read from `place` of the current database, if it is still what is stored there.
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_read(const std::string& place, const std::string& revision) const
+{
+    const auto found = m_read_records.find(m_store->get_directory() + place);
+    if (found == m_read_records.end())
+        return nullptr;
+    GFPDB_EMBEDDED_FLASH* record = found->second;
+    return record->get_revision() == revision && record->is_unchanged() ? record : nullptr;
+}
+
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template)
+{
+    const std::string& directory = m_store->get_directory();
+    std::unique_ptr<GFPDB_EMBEDDED_FLASH> record = GFPDB_EMBEDDED_FLASH::from_row(row, directory, is_template);
+    if (!record) {
+        fail("The flows of " + gfpdb_quoted(row.name) + " in " + directory + " cannot be read.");
+        return nullptr;
+    }
+    m_records.push_back(std::move(record));
+    return m_read_records[directory + place] = m_records.back().get();
+}
+
+bool GFPDB_EMBEDDED_MGR::is_builtin_flash(const std::string& name) const
+{
+    return kind() == GFPDB_SCHEME_KIND::SERIAL && gfpdb_builtin_part(name) != nullptr;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_custom_flash(const std::string& name) const
+{
+    return !m_store->get_device_revision(m_family, m_scheme, name).empty();
+}
+
+std::string GFPDB_EMBEDDED_MGR::get_last_error() const
+{
+    return m_last_error;
+}
+
+// A custom device of the part's name is the user's own and never hidden.
+bool GFPDB_EMBEDDED_MGR::is_hidden_flash(const std::string& name, bool flows) const
+{
+    const GFPDB_PART* part = is_builtin_flash(name) ? gfpdb_builtin_part(name) : nullptr;
+    const bool is_hidden = part != nullptr && (flows ? part->flows_hidden : part->properties_hidden);
+    return is_hidden && !is_custom_flash(name);
+}
+
+bool GFPDB_EMBEDDED_MGR::can_add_flash() const
+{
+    return kind() != GFPDB_SCHEME_KIND::NONE;
+}
+
+bool GFPDB_EMBEDDED_MGR::can_edit_flow() const
+{
+    return kind() == GFPDB_SCHEME_KIND::SERIAL;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_writable() const
+{
+    return m_store->is_writable();
+}
+
+bool GFPDB_EMBEDDED_MGR::check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const
+{
+    switch (property) {
+    case GFPDB_FLASH_TOTAL_DIE:
+        return gfpdb_check_range(value, GFPDB_TOTAL_DIE_MIN, GFPDB_TOTAL_DIE_MAX, "total die count", error);
+    case GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK:
+        return gfpdb_check_range(value, 0, GFPDB_SINGLE_IO_DUMMY_CLOCK_MAX, "number of single-I/O dummy clocks", error);
+    case GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK:
+        return gfpdb_check_range(value, 0, GFPDB_QUAD_IO_DUMMY_CLOCK_MAX, "number of quad-I/O dummy clocks", error);
+    default:
+        return refuse(error, "Property " + std::to_string(property) + " of a device is not a number.");
+    }
+}
+
+bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                               std::string& error) const
+{
+    std::vector<std::string> allowed;
+    switch (property) {
+    case GFPDB_FLASH_NAME:
+        return check_device_name(value, error);
+    case GFPDB_FLASH_DEVICE_ID:
+        return gfpdb_check_device_id(value, error);
+    case GFPDB_FLASH_VOLTAGE:
+        return gfpdb_check_choice(value, get_voltage_list(allowed), "I/O voltage", error);
+    case GFPDB_FLASH_DENSITY:
+        return gfpdb_check_choice(value, get_density_list(allowed), "density", error);
+    case GFPDB_FLASH_TEMPLATE_NAME:
+        return check_template_name(value, error);
+    case GFPDB_FLASH_FLOW_TEMPLATE:
+        return gfpdb_check_choice(value, get_template_list(allowed), "flow template", error);
+    default:
+        return refuse(error, "Property " + std::to_string(property) + " of a device is not a text.");
+    }
+}
+
+bool GFPDB_EMBEDDED_MGR::check_device_name(const std::string& name, std::string& error) const
+{
+    if (!check_name(name, DEVICE_NAME, error))
+        return false;
+    if (!m_store->is_writable())
+        return refuse(error, m_store->get_problem());
+    if (!m_store->get_template_revision(name).empty())
+        return refuse(error, "There is a stored template called " + gfpdb_quoted(name) + ": choose another name.");
+    if (is_custom_flash(name))
+        return refuse(error, "There is a device called " + gfpdb_quoted(name) +
+                                 " for this family and configuration mode: choose another name.");
+    return true;
+}
+
+bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::string& error) const
+{
+    if (!check_name(name, TEMPLATE_NAME, error))
+        return false;
+    if (!m_store->is_writable())
+        return refuse(error, m_store->get_problem());
+    if (!m_store->get_template_revision(name).empty())
+        return refuse(error, "There is a stored template called " + gfpdb_quoted(name) +
+                                 ": choose another name, or remove that template first.");
+    if (m_store->has_device(name))
+        return refuse(error, "There is a device called " + gfpdb_quoted(name) + ": choose another name.");
+    return true;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_property_used(GFPDB_FLASH_PROPERTY property) const
+{
+    return gfpdb_kind_has_property(kind(), property);
+}
+
+bool GFPDB_EMBEDDED_MGR::verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                                std::string& error) const
+{
+    if (property != GFPDB_FLASH_VOLTAGE || gfpdb_voltage_fits(value, m_family, m_scheme))
+        return true;
+    return refuse(error, "A flash with the I/O voltage " + gfpdb_quoted(value) + " cannot be connected to " +
+                             dstr_get_user_string(m_family) + " devices: it must work at 1.8 V.");
+}
+
+bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& directory)
+{
+    auto* record = dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash);
+    std::string error;
+    m_last_error.clear();
+    if (record == nullptr)
+        return fail("There is no record to save.");
+    if (!can_add_flash())
+        return fail("The configuration mode has no flash devices.");
+    if (!check_name(record->get_name(), DEVICE_NAME, error))
+        return fail(error);
+    const std::string template_name = record->get_string_property(GFPDB_FLASH_TEMPLATE_NAME);
+    if (!template_name.empty() && !check_name(template_name, TEMPLATE_NAME, error))
+        return fail(error);
+    std::optional<GFPDB_ROW> row = record->to_row(m_family, m_scheme);
+    if (!row)
+        return fail("The device " + gfpdb_quoted(record->get_name()) + " has a text that is not UTF-8.");
+    row->revision = gfpdb_new_revision();
+    GFPDB_STORE& store = store_of(directory);
+    if (!store.save_device(*row))
+        return fail(store.get_last_error());
+    record->set_db_dir(store.get_directory());
+    record->set_stored(*row);
+    return true;
+}
+
+GFPDB_STORE& GFPDB_EMBEDDED_MGR::store_of(const std::string& directory)
+{
+    const std::string normalised = directory.empty() ? m_store->get_directory() : gfpdb_normalised_dir(directory);
+    if (normalised == m_store->get_directory())
+        return *m_store;
+    if (!m_other_store || m_other_store->get_directory() != normalised)
+        m_other_store = std::make_unique<GFPDB_STORE>(normalised);
+    return *m_other_store;
+}
+
+bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string& directory)
+{
+    m_last_error.clear();
+    GFPDB_STORE& store = store_of(directory);
+    return store.remove_device(m_family, m_scheme, name) || fail(store.get_last_error());
+}
+
+bool GFPDB_EMBEDDED_MGR::restore_flash(int history_id, const std::string& directory)
+{
+    m_last_error.clear();
+    GFPDB_STORE& store = store_of(directory);
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = store.find_history(history_id);
+    std::string error;
+    if (entry && !check_name(entry->is_template ? entry->row.template_name : entry->row.name,
+                             entry->is_template ? TEMPLATE_NAME : DEVICE_NAME, error))
+        return fail(error);
+    return store.restore(history_id) || fail(store.get_last_error());
+}
+
+void GFPDB_EMBEDDED_MGR::get_family_list(std::vector<int>& families) const
+{
+    families = dstr_get_families();
+}
+
+std::vector<int>& GFPDB_EMBEDDED_MGR::get_config_scheme_list(std::vector<int>& schemes) const
+{
+    return schemes = dstr_get_config_schemes(m_family);
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_custom_flash_names(std::vector<std::string>& names, int family,
+                                                                     int scheme, int reserved) const
+{
+    Q_UNUSED(reserved)
+    return names = m_store->get_device_names(family, scheme);
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_builtin_flash_names(std::vector<std::string>& names, int family,
+                                                                      int scheme, int reserved) const
+{
+    Q_UNUSED(family)
+    Q_UNUSED(reserved)
+    names.clear();
+    if (gfpdb_scheme_kind(scheme) == GFPDB_SCHEME_KIND::SERIAL)
+        names = gfpdb_builtin_names();
+    return names;
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_voltage_list(std::vector<std::string>& voltages) const
+{
+    return voltages = gfpdb_voltage_options(kind());
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_density_list(std::vector<std::string>& densities) const
+{
+    return densities = gfpdb_density_options(kind());
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_template_list(std::vector<std::string>& templates) const
+{
+    templates = gfpdb_builtin_template_names();
+    const std::vector<std::string> stored = m_store->get_template_names();
+    templates.insert(templates.end(), stored.begin(), stored.end());
+    return templates;
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_user_template_list(std::vector<std::string>& templates) const
+{
+    return templates = m_store->get_template_names();
+}
+
+bool GFPDB_EMBEDDED_MGR::is_template(const std::string& name) const
+{
+    return builtin_template(name) != NOT_FOUND || !m_store->get_template_revision(name).empty();
+}
+
+// Only an empty name gives no record: what else is wrong with a name is said by save_flash(), which a user notices.
+GFPDB_FLASH* GFPDB_EMBEDDED_MGR::create_flash(const std::string& name)
+{
+    if (name.empty())
+        return nullptr;
+    m_records.push_back(std::make_unique<GFPDB_EMBEDDED_FLASH>(name));
+    return m_records.back().get();
+}
+
+GFPDB_ACTION* GFPDB_EMBEDDED_MGR::create_action(GFPDB_ACT_TYPE type)
+{
+    return gfpdb_make_action(type);
+}
+
+GFPDB_OPERATION* GFPDB_EMBEDDED_MGR::create_operation(int kind)
+{
+    return gfpdb_make_operation(kind);
+}
+
+const std::vector<GFPDB_OPERATION*>* GFPDB_EMBEDDED_MGR::get_builtin_template_operations(int index, bool flow_variant)
+{
+    return gfpdb_builtin_template_operations(index, flow_variant);
+}
+
+const std::vector<GFPDB_OPERATION*>* GFPDB_EMBEDDED_MGR::get_template_operations(const std::string& name,
+                                                                                 bool flow_variant)
+{
+    m_last_error.clear();
+    const int index = builtin_template(name);
+    if (index != NOT_FOUND)
+        return gfpdb_builtin_template_operations(index, flow_variant);
+    const GFPDB_EMBEDDED_FLASH* record = find_template(name);
+    return record != nullptr ? record->get_operations(flow_variant) : nullptr;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_flow_editable(const GFPDB_FLASH* flash) const
+{
+    return can_edit_flow() && (flash == nullptr || flash->is_user_defined());
+}
+
+bool GFPDB_EMBEDDED_MGR::remove_template(const std::string& name)
+{
+    m_last_error.clear();
+    if (builtin_template(name) != NOT_FOUND)
+        return fail("The template " + gfpdb_quoted(name) + " is built in: it cannot be removed.");
+    return m_store->remove_template(name) || fail(m_store->get_last_error());
+}

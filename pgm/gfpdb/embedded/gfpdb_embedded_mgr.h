@@ -1,0 +1,93 @@
+// The flash database manager of the embedded library.
+#pragma once
+
+#include "gfpdb/gfpdb_mgr.h"
+#include "gfpdb_embedded_flash.h"
+#include "gfpdb_scheme_kind.h"
+#include "gfpdb_store.h"
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+// The one manager of the process: custom devices and stored templates from the database of the custom directory,
+// built-in devices from the catalogue. docs/database.md has the rules. A read that fails gives what there is without
+// the database; what is wrong is in get_last_error(), in GFPDB_HELPER::get_database_problem() and in the log.
+class GFPDB_EMBEDDED_MGR : public GFPDB_MGR
+{
+public:
+    // Lives until the process ends, so that no pointer that it handed out ever dangles.
+    static GFPDB_EMBEDDED_MGR& instance();
+
+    GFPDB_EMBEDDED_MGR();
+    ~GFPDB_EMBEDDED_MGR() override;
+
+    // Opens the database of the custom directory anew. The default directory is created when it is missing.
+    void reload();
+    // The database of what was the custom directory at the last reload.
+    GFPDB_STORE& store() { return *m_store; }
+
+    bool get_flow_variant() const override;
+    int get_device_family() const override;
+    void set_device_family(int family) override;
+    int get_config_scheme() const override;
+    void set_config_scheme(int scheme) override;
+    GFPDB_FLASH* find_flash(const std::string& name, bool load_flows) override;
+    bool is_builtin_flash(const std::string& name) const override;
+    bool is_custom_flash(const std::string& name) const override;
+    std::string get_last_error() const override;
+    bool is_hidden_flash(const std::string& name, bool flows) const override;
+    bool can_add_flash() const override;
+    bool can_edit_flow() const override;
+    bool is_writable() const override;
+    bool check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const override;
+    bool check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                               std::string& error) const override;
+    bool is_property_used(GFPDB_FLASH_PROPERTY property) const override;
+    bool verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                std::string& error) const override;
+    bool save_flash(GFPDB_FLASH* flash, const std::string& directory) override;
+    bool delete_flash(const std::string& name, const std::string& directory) override;
+    bool restore_flash(int history_id, const std::string& directory) override;
+    void get_family_list(std::vector<int>& families) const override;
+    std::vector<int>& get_config_scheme_list(std::vector<int>& schemes) const override;
+    std::vector<std::string>& get_custom_flash_names(std::vector<std::string>& names, int family, int scheme,
+                                                     int reserved) const override;
+    std::vector<std::string>& get_builtin_flash_names(std::vector<std::string>& names, int family, int scheme,
+                                                      int reserved) const override;
+    std::vector<std::string>& get_voltage_list(std::vector<std::string>& voltages) const override;
+    std::vector<std::string>& get_density_list(std::vector<std::string>& densities) const override;
+    std::vector<std::string>& get_template_list(std::vector<std::string>& templates) const override;
+    std::vector<std::string>& get_user_template_list(std::vector<std::string>& templates) const override;
+    bool is_template(const std::string& name) const override;
+    GFPDB_FLASH* create_flash(const std::string& name) override;
+    GFPDB_ACTION* create_action(GFPDB_ACT_TYPE type) override;
+    GFPDB_OPERATION* create_operation(int kind) override;
+    const std::vector<GFPDB_OPERATION*>* get_builtin_template_operations(int index, bool flow_variant) override;
+    const std::vector<GFPDB_OPERATION*>* get_template_operations(const std::string& name, bool flow_variant) override;
+    bool is_flow_editable(const GFPDB_FLASH* flash) const override;
+    bool remove_template(const std::string& name) override;
+
+private:
+    GFPDB_SCHEME_KIND kind() const { return gfpdb_scheme_kind(m_scheme); }
+    GFPDB_STORE& store_of(const std::string& directory);
+    GFPDB_EMBEDDED_FLASH* find_device(const std::string& name);
+    GFPDB_EMBEDDED_FLASH* find_template(const std::string& name);
+    GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::string& revision) const;
+    GFPDB_EMBEDDED_FLASH* keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template);
+    bool check_device_name(const std::string& name, std::string& error) const;
+    bool check_template_name(const std::string& name, std::string& error) const;
+    bool fail(const std::string& error);
+
+    int m_family = 0;
+    int m_scheme = -1;
+    // Never null.
+    std::unique_ptr<GFPDB_STORE> m_store;
+    // The database of another directory than the custom one that was last changed.
+    std::unique_ptr<GFPDB_STORE> m_other_store;
+    std::string m_last_error;
+    // Every record that was made or read; the last one that was read from each place of a database.
+    std::vector<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_records;
+    std::unordered_map<std::string, GFPDB_EMBEDDED_FLASH*> m_read_records;
+};

@@ -1,0 +1,24 @@
+// Which flash goes with a configuration scheme.
+//
+// Pure functions.
+#pragma once
+
+#include "gfpdb/gfpdb_enums.h"
+
+enum class GFPDB_SCHEME_KIND
+{
+    NONE,     // the scheme configures without a flash: no devices
+    SERIAL,   // serial flash, with flows that can be edited
+    PARALLEL, // parallel flash
+    CARD,     // memory card
+};
+
+// The kind of `scheme`; NONE for a value that is no scheme.
+GFPDB_SCHEME_KIND gfpdb_scheme_kind(int scheme);
+
+// True when the devices of `scheme` are read and written over four data lines.
+bool gfpdb_is_quad_scheme(int scheme);
+
+// True when a device of `kind` has `property`. NONE has the properties of SERIAL, so that a form stands whole although
+// there is no device to show.
+bool gfpdb_kind_has_property(GFPDB_SCHEME_KIND kind, int property);

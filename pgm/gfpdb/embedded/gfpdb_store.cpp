@@ -1,0 +1,431 @@
+// The part of GFPDB_STORE that deals with the records. The file is in gfpdb_store_file.cpp.
+//
+// Texts go in as CAST(? AS TEXT) and come out as CAST(... AS BLOB): bytes as they are, where a conversion to UTF-16 and
+// back would drop byte order marks and replace some characters.
+#include "gfpdb_store.h"
+
+#include "gfpdb_text.h"
+
+#include <QDateTime>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSysInfo>
+#include <QVariant>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr char REASON_REPLACED[] = "replaced";
+constexpr char REASON_DELETED[] = "deleted";
+
+// The columns that the tables device, template and history share: their names, and how their values are read. In the
+// order of bind_row() and row_of().
+#define GFPDB_COLUMNS                                                                                                  \
+    "family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, quad_io_dummy_clock, "       \
+    "template_name, flow_template, revision, saved_at, single_flows, quad_flows"
+#define GFPDB_VALUES                                                                                                   \
+    "?, ?, CAST(? AS TEXT), CAST(? AS TEXT), CAST(? AS TEXT), CAST(? AS TEXT), ?, ?, ?, "                              \
+    "CAST(? AS TEXT), CAST(? AS TEXT), ?, ?, CAST(? AS TEXT), CAST(? AS TEXT)"
+#define GFPDB_SCALARS_READ                                                                                             \
+    "family, scheme, CAST(name AS BLOB), CAST(device_id AS BLOB), CAST(voltage AS BLOB), CAST(density AS BLOB), "      \
+    "total_die, single_io_dummy_clock, quad_io_dummy_clock, CAST(template_name AS BLOB), "                             \
+    "CAST(flow_template AS BLOB), revision"
+#define GFPDB_ALL_READ GFPDB_SCALARS_READ ", CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB)"
+#define GFPDB_HISTORY_READ "SELECT id, is_template, reason, changed_at, changed_by, "
+#define GFPDB_TO_HISTORY                                                                                               \
+    "INSERT INTO history (is_template, reason, changed_at, changed_by, " GFPDB_COLUMNS                                 \
+    ") SELECT ?, ?, ?, ?, " GFPDB_COLUMNS " "
+
+constexpr int HISTORY_COLUMNS = 5;
+constexpr int SCALAR_COLUMNS = 12;
+
+void bind_text(QSqlQuery& query, const std::string& text)
+{
+    query.addBindValue(QByteArray(text.data(), static_cast<int>(text.size())));
+}
+
+void bind_number(QSqlQuery& query, const std::optional<int>& number)
+{
+    query.addBindValue(number ? QVariant(*number) : QVariant(QVariant::Int));
+}
+
+QString now()
+{
+    return QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
+}
+
+// The user and the machine, for people who share a directory.
+QString here()
+{
+    const QString user = QString::fromLocal8Bit(qgetenv("USER"));
+    return (user.isEmpty() ? QString::number(::geteuid()) : user) + QLatin1Char('@') + QSysInfo::machineHostName();
+}
+
+void bind_history(QSqlQuery& query, bool is_template, const char* reason)
+{
+    query.addBindValue(is_template ? 1 : 0);
+    query.addBindValue(QLatin1String(reason));
+    query.addBindValue(now());
+    query.addBindValue(here());
+}
+
+std::string device_in_the_way(const std::string& name)
+{
+    return "There is a device called " + gfpdb_quoted(name) + " already.";
+}
+
+std::string template_in_the_way(const std::string& name)
+{
+    return "There is a stored template called " + gfpdb_quoted(name) + " already.";
+}
+
+void bind_row(QSqlQuery& query, const GFPDB_ROW& row)
+{
+    query.addBindValue(row.family);
+    query.addBindValue(row.scheme);
+    for (const std::string* text : {&row.name, &row.device_id, &row.voltage, &row.density})
+        bind_text(query, *text);
+    for (const std::optional<int>* number : {&row.total_die, &row.single_io_dummy_clock, &row.quad_io_dummy_clock})
+        bind_number(query, *number);
+    bind_text(query, row.template_name);
+    bind_text(query, row.flow_template);
+    query.addBindValue(gfpdb_from_utf8(row.revision));
+    query.addBindValue(now());
+    bind_text(query, row.single_flows);
+    bind_text(query, row.quad_flows);
+}
+
+std::string text_at(const QSqlQuery& query, int column)
+{
+    const QByteArray bytes = query.value(column).toByteArray();
+    return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+std::optional<int> number_at(const QSqlQuery& query, int column)
+{
+    const QVariant value = query.value(column);
+    return value.isNull() ? std::nullopt : std::optional<int>(value.toInt());
+}
+
+// The columns of GFPDB_SCALARS_READ from `first` on.
+GFPDB_ROW scalars_at(const QSqlQuery& query, int first)
+{
+    GFPDB_ROW row;
+    row.family = query.value(first).toInt();
+    row.scheme = query.value(first + 1).toInt();
+    int column = first + 2;
+    for (std::string* text : {&row.name, &row.device_id, &row.voltage, &row.density})
+        *text = text_at(query, column++);
+    for (std::optional<int>* number : {&row.total_die, &row.single_io_dummy_clock, &row.quad_io_dummy_clock})
+        *number = number_at(query, column++);
+    for (std::string* text : {&row.template_name, &row.flow_template, &row.revision})
+        *text = text_at(query, column++);
+    return row;
+}
+
+// The columns of GFPDB_ALL_READ from `first` on.
+GFPDB_ROW row_at(const QSqlQuery& query, int first)
+{
+    GFPDB_ROW row = scalars_at(query, first);
+    row.single_flows = text_at(query, first + SCALAR_COLUMNS);
+    row.quad_flows = text_at(query, first + SCALAR_COLUMNS + 1);
+    return row;
+}
+
+// The columns of GFPDB_HISTORY_READ.
+GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
+{
+    GFPDB_HISTORY_ENTRY entry;
+    entry.id = query.value(0).toInt();
+    entry.is_template = query.value(1).toBool();
+    entry.reason = gfpdb_to_utf8(query.value(2).toString());
+    entry.changed_at = gfpdb_to_utf8(query.value(3).toString());
+    entry.changed_by = gfpdb_to_utf8(query.value(4).toString());
+    return entry;
+}
+
+} // namespace
+
+bool GFPDB_STORE::prepare(QSqlQuery& query, const char* statement)
+{
+    query = QSqlQuery(database());
+    query.setForwardOnly(true);
+    return query.prepare(QLatin1String(statement)) || fail(query.lastError());
+}
+
+bool GFPDB_STORE::start_read(QSqlQuery& query, const char* statement)
+{
+    if (!prepare_read())
+        return false;
+    const bool is_prepared = prepare(query, statement);
+    m_read_problem = is_prepared ? std::string() : m_last_error;
+    return is_prepared;
+}
+
+// The next row of `query`, which is run when it has no row yet; false at the end and, with the problem kept, on
+// failure.
+bool GFPDB_STORE::next_row(QSqlQuery& query)
+{
+    const bool is_run = query.isActive() || query.exec();
+    if (is_run && query.next())
+        return true;
+    if (query.lastError().isValid()) {
+        fail(query.lastError());
+        m_read_problem = m_last_error;
+    }
+    return false;
+}
+
+std::vector<std::string> GFPDB_STORE::read_names(QSqlQuery& query)
+{
+    std::vector<std::string> names;
+    while (next_row(query))
+        names.push_back(text_at(query, 0));
+    return names;
+}
+
+std::vector<std::string> GFPDB_STORE::get_device_names(int family, int scheme)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? ORDER BY name_key"))
+        return {};
+    query.addBindValue(family);
+    query.addBindValue(scheme);
+    return read_names(query);
+}
+
+std::vector<std::string> GFPDB_STORE::get_template_names()
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT CAST(template_name AS BLOB) FROM template ORDER BY template_key"))
+        return {};
+    return read_names(query);
+}
+
+std::optional<GFPDB_ROW> GFPDB_STORE::find_device(int family, int scheme, const std::string& name)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT " GFPDB_ALL_READ
+                           " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)"))
+        return std::nullopt;
+    query.addBindValue(family);
+    query.addBindValue(scheme);
+    bind_text(query, gfpdb_name_key(name));
+    return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+}
+
+std::optional<GFPDB_ROW> GFPDB_STORE::find_template(const std::string& template_name)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)"))
+        return std::nullopt;
+    bind_text(query, gfpdb_name_key(template_name));
+    return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+}
+
+std::string GFPDB_STORE::get_device_revision(int family, int scheme, const std::string& name)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT revision FROM device WHERE family = ? AND scheme = ? AND "
+                           "name_key = CAST(? AS TEXT)"))
+        return std::string();
+    query.addBindValue(family);
+    query.addBindValue(scheme);
+    bind_text(query, gfpdb_name_key(name));
+    return next_row(query) ? text_at(query, 0) : std::string();
+}
+
+std::string GFPDB_STORE::get_template_revision(const std::string& template_name)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)"))
+        return std::string();
+    bind_text(query, gfpdb_name_key(template_name));
+    return next_row(query) ? text_at(query, 0) : std::string();
+}
+
+bool GFPDB_STORE::has_device(const std::string& name)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)"))
+        return false;
+    bind_text(query, gfpdb_name_key(name));
+    return next_row(query);
+}
+
+bool GFPDB_STORE::save_device(const GFPDB_ROW& row)
+{
+    return prepare_write() && change([&] { return check_free_names(row) && store(row); });
+}
+
+// Nothing is made just to remove something from it.
+bool GFPDB_STORE::remove_device(int family, int scheme, const std::string& name)
+{
+    if (!prepare_write())
+        return false;
+    return m_state == STATE::NO_FILE || change([&] { return drop_device(family, scheme, name, REASON_DELETED); });
+}
+
+bool GFPDB_STORE::remove_template(const std::string& template_name)
+{
+    if (!prepare_write())
+        return false;
+    return m_state == STATE::NO_FILE || change([&] { return drop_template(template_name, REASON_DELETED); });
+}
+
+std::vector<GFPDB_HISTORY_ENTRY> GFPDB_STORE::get_history()
+{
+    std::vector<GFPDB_HISTORY_ENTRY> entries;
+    QSqlQuery query;
+    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_SCALARS_READ " FROM history ORDER BY id"))
+        return entries;
+    while (next_row(query)) {
+        entries.push_back(history_at(query));
+        entries.back().row = scalars_at(query, HISTORY_COLUMNS);
+    }
+    return entries;
+}
+
+std::optional<GFPDB_HISTORY_ENTRY> GFPDB_STORE::find_history(int id)
+{
+    QSqlQuery query;
+    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?"))
+        return std::nullopt;
+    query.addBindValue(id);
+    if (!next_row(query))
+        return std::nullopt;
+    GFPDB_HISTORY_ENTRY entry = history_at(query);
+    entry.row = row_at(query, HISTORY_COLUMNS);
+    return entry;
+}
+
+bool GFPDB_STORE::restore(int id)
+{
+    std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
+    if (!entry)
+        return m_last_error.empty() ? fail("There is no state " + std::to_string(id) + " in the history.") : false;
+    entry->row.revision = gfpdb_new_revision();
+    return prepare_write() && change([&] { return put_back(*entry); });
+}
+
+bool GFPDB_STORE::put_back(const GFPDB_HISTORY_ENTRY& entry)
+{
+    const GFPDB_ROW& row = entry.row;
+    if (entry.is_template)
+        return check_no_template(row.template_name) && check_no_device(row.template_name) && insert_template(row);
+    if (!check_no_template(row.name))
+        return false;
+    QSqlQuery query;
+    if (!prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)"))
+        return false;
+    query.addBindValue(row.family);
+    query.addBindValue(row.scheme);
+    bind_text(query, gfpdb_name_key(row.name));
+    if (next_row(query))
+        return fail(device_in_the_way(row.name));
+    return !query.lastError().isValid() && insert_device(row);
+}
+
+// A template may be stored again by the device that it is a copy of.
+bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
+{
+    if (!check_no_template(row.name))
+        return false;
+    if (row.template_name.empty())
+        return true;
+    if (gfpdb_name_key(row.template_name) == gfpdb_name_key(row.name))
+        return fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) +
+                    ".");
+    QSqlQuery query;
+    if (!prepare(query, "SELECT CAST(name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)"))
+        return false;
+    bind_text(query, gfpdb_name_key(row.template_name));
+    if (next_row(query) && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
+        return fail(template_in_the_way(row.template_name));
+    return !query.lastError().isValid() && check_no_device(row.template_name);
+}
+
+bool GFPDB_STORE::check_no_template(const std::string& name)
+{
+    QSqlQuery query;
+    if (!prepare(query, "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT)"))
+        return false;
+    bind_text(query, gfpdb_name_key(name));
+    if (next_row(query))
+        return fail(template_in_the_way(name));
+    return !query.lastError().isValid();
+}
+
+bool GFPDB_STORE::check_no_device(const std::string& name)
+{
+    QSqlQuery query;
+    if (!prepare(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)"))
+        return false;
+    bind_text(query, gfpdb_name_key(name));
+    if (next_row(query))
+        return fail(device_in_the_way(name));
+    return !query.lastError().isValid();
+}
+
+bool GFPDB_STORE::store(const GFPDB_ROW& row)
+{
+    if (!drop_device(row.family, row.scheme, row.name, REASON_REPLACED) || !insert_device(row))
+        return false;
+    return row.template_name.empty() || (drop_template(row.template_name, REASON_REPLACED) && insert_template(row));
+}
+
+bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)
+{
+    QSqlQuery query;
+    if (!prepare(query, "INSERT INTO device (name_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")"))
+        return false;
+    bind_text(query, gfpdb_name_key(row.name));
+    bind_row(query, row);
+    return run(query);
+}
+
+bool GFPDB_STORE::insert_template(const GFPDB_ROW& row)
+{
+    QSqlQuery query;
+    if (!prepare(query,
+                 "INSERT INTO template (template_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")"))
+        return false;
+    bind_text(query, gfpdb_name_key(row.template_name));
+    bind_row(query, row);
+    return run(query);
+}
+
+bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason)
+{
+    constexpr char TO_HISTORY[] = GFPDB_TO_HISTORY "FROM device WHERE family = ? AND scheme = ? AND "
+                                                   "name_key = CAST(? AS TEXT)";
+    constexpr char REMOVAL[] = "DELETE FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+    const std::string key = gfpdb_name_key(name);
+    QSqlQuery to_history;
+    QSqlQuery removal;
+    if (!prepare(to_history, TO_HISTORY) || !prepare(removal, REMOVAL))
+        return false;
+    bind_history(to_history, false, reason);
+    for (QSqlQuery* query : {&to_history, &removal}) {
+        query->addBindValue(family);
+        query->addBindValue(scheme);
+        bind_text(*query, key);
+    }
+    return run(to_history) && run(removal);
+}
+
+bool GFPDB_STORE::drop_template(const std::string& template_name, const char* reason)
+{
+    const std::string key = gfpdb_name_key(template_name);
+    QSqlQuery to_history;
+    QSqlQuery removal;
+    if (!prepare(to_history, GFPDB_TO_HISTORY "FROM template WHERE template_key = CAST(? AS TEXT)") ||
+        !prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)"))
+        return false;
+    bind_history(to_history, true, reason);
+    bind_text(to_history, key);
+    bind_text(removal, key);
+    return run(to_history) && run(removal);
+}

@@ -1,0 +1,165 @@
+// All SQL of the flash database: one SQLite file in one database directory.
+//
+// Every public change is one transaction: it happened whole, or not at all, also when the process is killed in between;
+// false leaves the file as it was and puts the reason into get_last_error(). What a change replaces or removes goes
+// into the history in the same transaction. Several programs may use one directory: who finds the database locked waits
+// (GFPDB_SETTING_BUSY_TIMEOUT, 5 seconds if not set), then gives up.
+//
+// The file is opened lazily by the first call and made by the first change. It is never overwritten: a file that is
+// empty, damaged, of another program or of a newer schema stays as it is, and get_problem() says so. Before every use
+// the store looks whether the file of that name is still the one it has open: reads follow a file that was put in its
+// place, but the first change afterwards is refused, because the user has not seen yet what is there now.
+//
+// Texts are UTF-8 and are stored byte for byte; the directory is in the local 8-bit encoding. Throws nothing. GUI
+// thread only.
+#pragma once
+
+#include "gfpdb_row.h"
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+class QSqlDatabase;
+class QSqlError;
+class QSqlQuery;
+class QString;
+
+class GFPDB_STORE
+{
+public:
+    // `directory` ends in "/".
+    explicit GFPDB_STORE(const std::string& directory);
+    ~GFPDB_STORE();
+    GFPDB_STORE(const GFPDB_STORE&) = delete;
+    GFPDB_STORE& operator=(const GFPDB_STORE&) = delete;
+
+    const std::string& get_directory() const { return m_directory; }
+    // The next call opens the file anew, and what it finds counts as seen by the user.
+    void reload();
+    // True when the records of the directory can be read: also when there is no file yet, but one can be made.
+    bool is_readable();
+    bool is_writable();
+    // What keeps the database from being read or written, as a sentence for the user; empty when nothing does.
+    std::string get_problem();
+    // Why the last call failed; empty when it did not.
+    const std::string& get_last_error() const { return m_last_error; }
+    // Reads the whole file and compares it with its indexes. False: get_last_error() says what is wrong.
+    bool check_integrity();
+
+    // The names of the devices of (family, scheme), ordered by name without regard to case.
+    std::vector<std::string> get_device_names(int family, int scheme);
+    // The names of the stored templates, ordered likewise.
+    std::vector<std::string> get_template_names();
+    // The record, or none; names are compared without regard to case.
+    std::optional<GFPDB_ROW> find_device(int family, int scheme, const std::string& name);
+    std::optional<GFPDB_ROW> find_template(const std::string& template_name);
+    // The revision of the record alone; empty when there is none.
+    std::string get_device_revision(int family, int scheme, const std::string& name);
+    std::string get_template_revision(const std::string& template_name);
+    // True when a device of any family and scheme has that name.
+    bool has_device(const std::string& name);
+
+    // Stores `row` as the device of its family, scheme and name, and, when it has a template name, a copy of it as the
+    // template of that name. A device of that name is replaced. Refused when the name is a stored template's, or the
+    // template name is a device's or the template of another device.
+    bool save_device(const GFPDB_ROW& row);
+    // True also when there is no such record.
+    bool remove_device(int family, int scheme, const std::string& name);
+    bool remove_template(const std::string& template_name);
+
+    // The states in the history, oldest first, without their flows.
+    std::vector<GFPDB_HISTORY_ENTRY> get_history();
+    std::optional<GFPDB_HISTORY_ENTRY> find_history(int id);
+    // Makes the state `id` the current record again, with a new revision. Refused when its name is in use. The history
+    // keeps it.
+    bool restore(int id);
+
+    // The name of the database file in its directory.
+    static const char FILE_NAME[];
+    static constexpr int SCHEMA_VERSION = 2;
+
+private:
+    enum class STATE
+    {
+        CLOSED,    // not looked at yet
+        UNUSABLE,  // m_problem says why
+        NO_FILE,   // the first change makes the file
+        READ_ONLY, // m_problem says why
+        READ_WRITE,
+    };
+    // Which file stands behind a name.
+    struct FILE_IDENTITY
+    {
+        dev_t device = 0;
+        ino_t inode = 0;
+        bool operator==(const FILE_IDENTITY& other) const { return device == other.device && inode == other.inode; }
+    };
+    using WORK = std::function<bool()>;
+
+    // gfpdb_store_file.cpp: the file, its schema, transactions.
+    std::string file_path() const;
+    QString connection_name() const;
+    QSqlDatabase database() const;
+    void open();
+    void close();
+    bool examine_directory();
+    bool examine_file();
+    bool connect(const std::string& path, const char* mode);
+    std::optional<std::string> read_meta(const char* name);
+    bool read_schema();
+    bool is_whole_file();
+    bool upgrade();
+    bool migrate();
+    bool run_step(int from);
+    bool create_file();
+    bool build_new_file(const std::string& path);
+    bool is_same_file() const;
+    void refresh();
+    bool prepare_read();
+    bool prepare_write();
+    bool refuse_replaced_file();
+    bool change(const WORK& work);
+    bool run_transaction(const WORK& work);
+    void set_problem(STATE state, const std::string& problem);
+    bool fail(const std::string& error);
+    bool fail(const QSqlError& error);
+    bool run(const char* statement);
+    bool run(QSqlQuery& query);
+
+    // gfpdb_store.cpp: the records.
+    bool prepare(QSqlQuery& query, const char* statement);
+    bool start_read(QSqlQuery& query, const char* statement);
+    bool next_row(QSqlQuery& query);
+    std::vector<std::string> read_names(QSqlQuery& query);
+    bool put_back(const GFPDB_HISTORY_ENTRY& entry);
+    bool check_free_names(const GFPDB_ROW& row);
+    bool check_no_template(const std::string& name);
+    bool check_no_device(const std::string& name);
+    bool store(const GFPDB_ROW& row);
+    bool insert_device(const GFPDB_ROW& row);
+    bool insert_template(const GFPDB_ROW& row);
+    bool drop_device(int family, int scheme, const std::string& name, const char* reason);
+    bool drop_template(const std::string& template_name, const char* reason);
+
+    std::string m_directory;
+    int m_connection;
+    STATE m_state = STATE::CLOSED;
+    // The file that is open; none when there is none.
+    std::optional<FILE_IDENTITY> m_identity;
+    std::string m_database_id;
+    int m_schema_version = 0;
+    // The file that the user has seen is gone, and no change was refused for that yet.
+    bool m_was_replaced = false;
+    // The last error was another program's lock; then an unusable database is not tried again before that time.
+    bool m_is_locked = false;
+    std::chrono::steady_clock::time_point m_locked_until;
+    // What was wrong when the file was opened, and when it was last read.
+    std::string m_problem;
+    std::string m_read_problem;
+    std::string m_last_error;
+};

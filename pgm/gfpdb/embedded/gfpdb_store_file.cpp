@@ -1,0 +1,480 @@
+// The part of GFPDB_STORE that deals with the database file: opening, making, upgrading, locking. The records are in
+// gfpdb_store.cpp.
+#include "gfpdb_store.h"
+
+#include "gfpdb_log.h"
+#include "gfpdb_settings.h"
+#include "gfpdb_text.h"
+
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QUrl>
+#include <QUuid>
+#include <QVariant>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+const char GFPDB_STORE::FILE_NAME[] = "gfpdb.sqlite";
+
+namespace {
+
+constexpr int DEFAULT_BUSY_TIMEOUT_MS = 5000;
+// A database that was locked is tried again by a read only after this time, so that a window full of reads does not
+// wait for every one of them; a change tries at once.
+constexpr std::chrono::seconds RETRY_INTERVAL(2);
+
+// Result codes of SQLite.
+constexpr int SQLITE_CODE_MASK = 0xFF;
+constexpr int SQLITE_CODE_ERROR = 1;
+constexpr int SQLITE_CODE_BUSY = 5;
+constexpr int SQLITE_CODE_READONLY = 8;
+constexpr int SQLITE_CODE_CORRUPT = 11;
+constexpr int SQLITE_CODE_FULL = 13;
+constexpr int SQLITE_CODE_NOT_A_DATABASE = 26;
+
+#define GFPDB_RECORD_COLUMNS                                                                                           \
+    "family INTEGER NOT NULL, scheme INTEGER NOT NULL, name TEXT NOT NULL, device_id TEXT NOT NULL, "                  \
+    "voltage TEXT NOT NULL, density TEXT NOT NULL, total_die INTEGER, single_io_dummy_clock INTEGER, "                 \
+    "quad_io_dummy_clock INTEGER, template_name TEXT NOT NULL, flow_template TEXT NOT NULL, revision TEXT NOT NULL, "  \
+    "saved_at TEXT NOT NULL, single_flows TEXT NOT NULL, quad_flows TEXT NOT NULL"
+
+// What leads from schema version N to N + 1; a new file takes all steps. A step is never changed once it was released.
+const std::vector<std::vector<const char*>> MIGRATIONS = {
+    {
+        "CREATE TABLE meta (name TEXT NOT NULL PRIMARY KEY, value TEXT NOT NULL)",
+        "INSERT INTO meta (name, value) VALUES ('schema_version', '0')",
+        "CREATE TABLE device (name_key TEXT NOT NULL, " GFPDB_RECORD_COLUMNS
+        ", PRIMARY KEY (family, scheme, name_key))",
+        "CREATE TABLE template (template_key TEXT NOT NULL PRIMARY KEY, " GFPDB_RECORD_COLUMNS ")",
+        "CREATE TABLE history (id INTEGER NOT NULL PRIMARY KEY, is_template INTEGER NOT NULL, reason TEXT NOT NULL, "
+        "changed_at TEXT NOT NULL, " GFPDB_RECORD_COLUMNS ")",
+    },
+    {
+        // The list of 100,000 names comes from the index alone, without a look at the records.
+        "CREATE INDEX device_names ON device (family, scheme, name_key, name)",
+        "CREATE INDEX device_keys ON device (name_key)",
+        "CREATE INDEX template_names ON template (template_key, template_name)",
+        "ALTER TABLE history ADD COLUMN changed_by TEXT NOT NULL DEFAULT ''",
+    },
+};
+
+int next_connection()
+{
+    static int last_connection = 0;
+    return ++last_connection;
+}
+
+int busy_timeout()
+{
+    bool is_number = false;
+    const int timeout = QByteArray::fromStdString(gfpdb_read_setting(GFPDB_SETTING_BUSY_TIMEOUT)).toInt(&is_number);
+    return is_number && timeout >= 0 ? timeout : DEFAULT_BUSY_TIMEOUT_MS;
+}
+
+// SQLite's form of a file name in which every byte of a path can be written.
+QString uri_of(const std::string& path, const char* mode)
+{
+    const QByteArray encoded = QByteArray::fromStdString(path).toPercentEncoding(QByteArrayLiteral("/"));
+    return QLatin1String("file:") + QLatin1String(encoded) + QLatin1String("?mode=") + QLatin1String(mode);
+}
+
+int code_of(const QSqlError& error)
+{
+    return error.nativeErrorCode().toInt() & SQLITE_CODE_MASK;
+}
+
+std::string describe(const QSqlError& error, const std::string& path)
+{
+    const std::string words = " (" + gfpdb_to_utf8(error.databaseText()) + ").";
+    switch (code_of(error)) {
+    case SQLITE_CODE_BUSY:
+        return "The database " + path + " is locked by another program" + words;
+    case SQLITE_CODE_READONLY:
+        return "The database " + path + " cannot be written" + words;
+    case SQLITE_CODE_CORRUPT:
+        return "The database " + path + " is damaged" + words + " It is left as it is.";
+    case SQLITE_CODE_FULL:
+        return "There is no room for the database " + path + words;
+    case SQLITE_CODE_NOT_A_DATABASE:
+        return "The file " + path + " is not a database" + words + " It is left as it is.";
+    default:
+        return "The database " + path + " cannot be used: " + gfpdb_to_utf8(error.driverText()) + words;
+    }
+}
+
+// Gives the finished file at `from` the name `to`, unless that exists: then someone else was faster, which is as good.
+bool publish(const std::string& from, const std::string& to)
+{
+    if (::link(from.c_str(), to.c_str()) == 0 || errno == EEXIST)
+        return true;
+    return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0 || errno == EEXIST;
+}
+
+void sync_directory(const std::string& directory)
+{
+    const int descriptor = ::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
+} // namespace
+
+GFPDB_STORE::GFPDB_STORE(const std::string& directory) : m_directory(directory), m_connection(next_connection()) {}
+
+GFPDB_STORE::~GFPDB_STORE()
+{
+    close();
+}
+
+std::string GFPDB_STORE::file_path() const
+{
+    return m_directory + FILE_NAME;
+}
+
+QString GFPDB_STORE::connection_name() const
+{
+    return QStringLiteral("gfpdb %1 %2").arg(m_connection).arg(gfpdb_from_utf8(m_directory));
+}
+
+// Looked up anew for every use: Qt closes all connections when the application object goes.
+QSqlDatabase GFPDB_STORE::database() const
+{
+    return QSqlDatabase::database(connection_name(), false);
+}
+
+void GFPDB_STORE::reload()
+{
+    close();
+    m_state = STATE::CLOSED;
+    m_was_replaced = false;
+    m_problem.clear();
+}
+
+bool GFPDB_STORE::is_readable()
+{
+    refresh();
+    return m_state != STATE::UNUSABLE;
+}
+
+bool GFPDB_STORE::is_writable()
+{
+    refresh();
+    return m_state == STATE::NO_FILE || m_state == STATE::READ_WRITE;
+}
+
+std::string GFPDB_STORE::get_problem()
+{
+    refresh();
+    return m_problem.empty() ? m_read_problem : m_problem;
+}
+
+void GFPDB_STORE::close()
+{
+    m_identity.reset();
+    m_database_id.clear();
+    if (QSqlDatabase::contains(connection_name()))
+        QSqlDatabase::removeDatabase(connection_name());
+}
+
+void GFPDB_STORE::set_problem(STATE state, const std::string& problem)
+{
+    m_state = state;
+    if (problem != m_problem && !problem.empty())
+        qCWarning(GFPDB_LOG, "%s", problem.c_str());
+    m_problem = problem;
+}
+
+bool GFPDB_STORE::fail(const std::string& error)
+{
+    m_last_error = error;
+    return false;
+}
+
+bool GFPDB_STORE::fail(const QSqlError& error)
+{
+    m_is_locked = code_of(error) == SQLITE_CODE_BUSY;
+    return fail(describe(error, file_path()));
+}
+
+bool GFPDB_STORE::run(QSqlQuery& query)
+{
+    return query.exec() || fail(query.lastError());
+}
+
+bool GFPDB_STORE::run(const char* statement)
+{
+    QSqlQuery query(database());
+    return query.exec(QLatin1String(statement)) || fail(query.lastError());
+}
+
+void GFPDB_STORE::open()
+{
+    close();
+    m_read_problem.clear();
+    m_is_locked = false;
+    if (!examine_directory() || !examine_file())
+        return;
+    const bool writable = ::access(m_directory.c_str(), W_OK) == 0 && ::access(file_path().c_str(), W_OK) == 0;
+    const std::string why = std::strerror(errno);
+    const bool is_open = connect(file_path(), writable ? "rw" : "ro") && read_schema() && (!writable || upgrade());
+    if (!is_open) {
+        close();
+        m_locked_until = std::chrono::steady_clock::now() + (m_is_locked ? RETRY_INTERVAL : std::chrono::seconds(0));
+        set_problem(STATE::UNUSABLE, m_last_error);
+    } else if (writable) {
+        set_problem(STATE::READ_WRITE, std::string());
+    } else {
+        set_problem(STATE::READ_ONLY, "The database " + file_path() + " can be read, but not changed: " + why + ".");
+    }
+}
+
+bool GFPDB_STORE::examine_directory()
+{
+    struct stat status = {};
+    const std::string name = "The database directory " + m_directory;
+    if (::stat(m_directory.c_str(), &status) == 0) {
+        if (::access(m_directory.c_str(), R_OK | X_OK) == 0)
+            return true;
+        set_problem(STATE::UNUSABLE, name + " cannot be read: " + std::strerror(errno) + ".");
+    } else if (errno == ENOENT) {
+        set_problem(STATE::UNUSABLE, name + " does not exist.");
+    } else if (errno == ENOTDIR) {
+        set_problem(STATE::UNUSABLE, name + " is not a directory: a part of it is a file.");
+    } else {
+        set_problem(STATE::UNUSABLE, name + " cannot be reached: " + std::strerror(errno) + ".");
+    }
+    return false;
+}
+
+// Looks at the file without opening it: closing it again would drop the locks that SQLite holds on it.
+bool GFPDB_STORE::examine_file()
+{
+    struct stat status = {};
+    if (::stat(file_path().c_str(), &status) != 0) {
+        if (::access(m_directory.c_str(), W_OK) == 0)
+            set_problem(STATE::NO_FILE, std::string());
+        else
+            set_problem(STATE::UNUSABLE, "The database directory " + m_directory +
+                                             " holds no database, and none can be made: " + std::strerror(errno) + ".");
+        return false;
+    }
+    m_identity = FILE_IDENTITY{status.st_dev, status.st_ino};
+    if (!S_ISREG(status.st_mode))
+        set_problem(STATE::UNUSABLE, file_path() + " is not a file.");
+    else if (status.st_size == 0)
+        set_problem(STATE::UNUSABLE, "The database " + file_path() +
+                                         " is empty: its content was lost. It is left as it is; put a copy in its " +
+                                         "place, or remove it to begin anew.");
+    else
+        return true;
+    return false;
+}
+
+bool GFPDB_STORE::connect(const std::string& path, const char* mode)
+{
+    QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_name());
+    if (!connection.isValid())
+        return fail("The SQLite driver of Qt is not installed.");
+    connection.setDatabaseName(uri_of(path, mode));
+    connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(busy_timeout()));
+    return (connection.open() || fail(connection.lastError())) && run("PRAGMA synchronous = FULL");
+}
+
+std::optional<std::string> GFPDB_STORE::read_meta(const char* name)
+{
+    QSqlQuery query(database());
+    query.prepare(QStringLiteral("SELECT value FROM meta WHERE name = ?"));
+    query.addBindValue(QLatin1String(name));
+    if (!query.exec()) {
+        if (code_of(query.lastError()) == SQLITE_CODE_ERROR)
+            fail("The file " + file_path() + " is a database of another program. It is left as it is.");
+        else
+            fail(query.lastError());
+        return std::nullopt;
+    }
+    return query.next() ? gfpdb_to_utf8(query.value(0).toString()) : std::string();
+}
+
+// In one transaction, so that the size belongs to the content.
+bool GFPDB_STORE::read_schema()
+{
+    if (!run("BEGIN"))
+        return false;
+    const std::optional<std::string> text = read_meta("schema_version");
+    const bool is_whole = text && is_whole_file();
+    if (!text || !is_whole || !run("COMMIT"))
+        return false;
+
+    m_schema_version = QByteArray::fromStdString(*text).toInt();
+    if (m_schema_version < 1)
+        return fail("The file " + file_path() + " is a database of another program. It is left as it is.");
+    if (m_schema_version > SCHEMA_VERSION)
+        return fail("The database " + file_path() + " was written by a newer program (its schema is " +
+                    std::to_string(m_schema_version) + ", this program knows up to " + std::to_string(SCHEMA_VERSION) +
+                    "). It is left as it is.");
+    m_database_id = read_meta("database_id").value_or(std::string());
+    return true;
+}
+
+bool GFPDB_STORE::is_whole_file()
+{
+    QSqlQuery query(database());
+    struct stat status = {};
+    if (!query.exec(QStringLiteral("PRAGMA page_size")) || !query.next())
+        return fail(query.lastError());
+    if (::stat(file_path().c_str(), &status) != 0 || status.st_size % query.value(0).toInt() != 0)
+        return fail("The database " + file_path() + " is damaged (its end is missing). It is left as it is.");
+    return true;
+}
+
+// The journal is kept and emptied, which is as safe as deleting it and one write of the directory cheaper.
+bool GFPDB_STORE::upgrade()
+{
+    if (!run("PRAGMA journal_mode = TRUNCATE"))
+        return false;
+    return m_schema_version == SCHEMA_VERSION || run_transaction([this] { return migrate(); });
+}
+
+// Reads the version again: another program may have upgraded the file meanwhile.
+bool GFPDB_STORE::migrate()
+{
+    const std::optional<std::string> text = read_meta("schema_version");
+    if (!text)
+        return false;
+    for (int version = QByteArray::fromStdString(*text).toInt(); version < SCHEMA_VERSION; ++version) {
+        if (!run_step(version))
+            return false;
+    }
+    return true;
+}
+
+bool GFPDB_STORE::run_step(int from)
+{
+    for (const char* statement : MIGRATIONS[static_cast<std::size_t>(from)]) {
+        if (!run(statement))
+            return false;
+    }
+    QSqlQuery query(database());
+    query.prepare(QStringLiteral("UPDATE meta SET value = ? WHERE name = 'schema_version'"));
+    query.addBindValue(QString::number(from + 1));
+    return run(query);
+}
+
+// The file gets its name only when it is complete, so no one ever sees half a database.
+bool GFPDB_STORE::create_file()
+{
+    const std::string unfinished =
+        file_path() + ".new-" + gfpdb_to_utf8(QUuid::createUuid().toString(QUuid::WithoutBraces));
+    const bool is_built = build_new_file(unfinished);
+    close();
+    const bool is_published =
+        is_built && (publish(unfinished, file_path()) ||
+                     fail("The database " + file_path() + " cannot be made: " + std::strerror(errno) + "."));
+    ::unlink(unfinished.c_str());
+    sync_directory(m_directory);
+    return is_published;
+}
+
+bool GFPDB_STORE::build_new_file(const std::string& path)
+{
+    if (!connect(path, "rwc") || !run("BEGIN"))
+        return false;
+    for (int version = 0; version < SCHEMA_VERSION; ++version) {
+        if (!run_step(version))
+            return false;
+    }
+    QSqlQuery query(database());
+    query.prepare(QStringLiteral("INSERT INTO meta (name, value) VALUES ('database_id', ?)"));
+    query.addBindValue(QUuid::createUuid().toString(QUuid::WithoutBraces));
+    return run(query) && run("COMMIT");
+}
+
+bool GFPDB_STORE::is_same_file() const
+{
+    struct stat status = {};
+    if (::stat(file_path().c_str(), &status) != 0)
+        return !m_identity;
+    return m_identity && *m_identity == FILE_IDENTITY{status.st_dev, status.st_ino};
+}
+
+void GFPDB_STORE::refresh()
+{
+    const bool is_open = m_state == STATE::READ_ONLY || m_state == STATE::READ_WRITE;
+    if (m_state == STATE::UNUSABLE && std::chrono::steady_clock::now() < m_locked_until)
+        return;
+    if (is_open && is_same_file() && QSqlDatabase::contains(connection_name()))
+        return;
+    if (is_open && !is_same_file()) {
+        qCWarning(GFPDB_LOG, "The database %s was replaced or removed by another program", file_path().c_str());
+        m_was_replaced = true;
+    }
+    open();
+}
+
+bool GFPDB_STORE::prepare_read()
+{
+    m_last_error.clear();
+    refresh();
+    if (m_state == STATE::UNUSABLE)
+        m_last_error = m_problem;
+    return m_state == STATE::READ_ONLY || m_state == STATE::READ_WRITE;
+}
+
+bool GFPDB_STORE::prepare_write()
+{
+    m_last_error.clear();
+    m_locked_until = {};
+    refresh();
+    if (m_was_replaced)
+        return refuse_replaced_file();
+    if (m_state != STATE::READ_WRITE && m_state != STATE::NO_FILE)
+        open();
+    if (m_state != STATE::READ_WRITE && m_state != STATE::NO_FILE)
+        return fail(m_problem);
+    return true;
+}
+
+// Once: then the user knows.
+bool GFPDB_STORE::refuse_replaced_file()
+{
+    m_was_replaced = false;
+    return fail("The database " + file_path() + " was replaced or removed by another program while it was in use. " +
+                "Nothing was changed: look at the devices that are there now, then try again.");
+}
+
+bool GFPDB_STORE::change(const WORK& work)
+{
+    if (m_state == STATE::NO_FILE) {
+        if (!create_file())
+            return false;
+        open();
+    }
+    if (m_state != STATE::READ_WRITE)
+        return fail(m_problem);
+    return run_transaction(work);
+}
+
+bool GFPDB_STORE::run_transaction(const WORK& work)
+{
+    if (!run("BEGIN IMMEDIATE"))
+        return false;
+    const bool is_same = is_same_file() && (m_database_id == read_meta("database_id"));
+    if (is_same && work() && run("COMMIT"))
+        return true;
+
+    const std::string error = m_last_error;
+    run("ROLLBACK");
+    if (!is_same) {
+        open();
+        return refuse_replaced_file();
+    }
+    return fail(error);
+}

@@ -1,0 +1,79 @@
+// What the tests of the flash database share.
+#pragma once
+
+#include "gfpdb/gfpdb_mgr.h"
+#include "gfpdb_row.h"
+
+#include <QTemporaryDir>
+#include <QVariant>
+#include <QtTest>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+// A family and the schemes of it that the tests use.
+constexpr int FAMILY = 3;
+constexpr int OTHER_FAMILY = 5;
+constexpr int SERIAL = PGMIO_ACTIVE_SERIAL;
+constexpr int QUAD = PGMIO_ACTIVE_SERIAL_X4;
+constexpr bool SINGLE_IO = false;
+constexpr bool QUAD_IO = true;
+
+// A scratch directory, ending in "/", and the environment that makes the library use it and nothing of the user's: the
+// settings file is settings.ini in it, the data directory data/, the custom database directory db/.
+class GFPDB_PLACE
+{
+public:
+    GFPDB_PLACE();
+    ~GFPDB_PLACE();
+
+    std::string path(const std::string& name) const;
+    // The custom database directory, and the database in it.
+    std::string db_dir() const { return path("db/"); }
+    std::string db_file() const { return path("db/gfpdb.sqlite"); }
+    std::string settings() const { return path("settings.ini"); }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+// A manager for (FAMILY, SERIAL) that has just opened the place's custom directory.
+GFPDB_MGR* fresh_manager(int family = FAMILY, int scheme = SERIAL);
+
+// A record that was not saved, with a value for every property but the template name, and with flows in both variants:
+// each operation has an action for each type, whose name says where it belongs.
+GFPDB_FLASH* make_device(GFPDB_MGR& manager, const std::string& name);
+// Puts the flows of make_device() into `record`; `mark` is a part of every action's name.
+void fill_flows(GFPDB_MGR& manager, GFPDB_FLASH& record, const std::string& mark);
+
+// Everything that can be read of a record, as one text to compare.
+std::string text_of(const GFPDB_FLASH& record);
+std::string text_of_flows(const std::vector<GFPDB_OPERATION*>* operations);
+
+// A row with a value in each column.
+GFPDB_ROW make_row(const std::string& name);
+// Everything of a row but its revision.
+std::string text_of(const GFPDB_ROW& row);
+
+std::string read_file(const std::string& path);
+void write_file(const std::string& path, const std::string& content);
+void make_dir(const std::string& path);
+// The first value of `statement`, run on the database in `path` past the library; invalid when it fails.
+QVariant run_sql(const std::string& path, const std::string& statement);
+
+// The one text that a check gives back; empty when it passed.
+std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, const std::string& value);
+std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, int value);
+
+std::vector<std::string> custom_names(const GFPDB_MGR& manager, int family = FAMILY, int scheme = SERIAL);
+std::vector<std::string> user_templates(const GFPDB_MGR& manager);
+
+using NAMES = std::vector<std::string>;
+
+namespace QTest {
+template <>
+char* toString(const std::string& text);
+template <>
+char* toString(const std::vector<std::string>& texts);
+} // namespace QTest
