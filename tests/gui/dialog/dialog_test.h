@@ -1,0 +1,123 @@
+// Base of the tests of the Configuration Device dialog: a dialog on the recording flash database.
+//
+// open() makes the dialog and forgets the calls made so far; open_recorded() keeps them. The dialog is destroyed after
+// each test function. Widgets are found by their object names; a name that does not exist ends the test program.
+#pragma once
+
+#include "gfpq_dlg.h"
+#include "gfpq_operation_tab_widget.h"
+#include "gui_test.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGraphicsScene>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QTabWidget>
+#include <QTableView>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+constexpr int CEDAR = 5;
+constexpr int ALDER = 3;
+constexpr int SCHEME_X4 = 13;
+constexpr int SCHEME_X1 = 7;
+constexpr int READ_ONLY_ROLE = Qt::UserRole + 1;
+constexpr int EDITABLE_ROLE = Qt::UserRole + 2;
+
+// What the dialog is made with.
+struct DIALOG_ARGS
+{
+    int family = CEDAR;
+    int config_scheme = SCHEME_X4;
+    std::string device_name;
+    bool enable_family = true;
+    bool enable_config_mode = true;
+    bool enable_edit = true;
+    std::map<int, std::vector<int>> family_schemes;
+    QWidget* parent = nullptr;
+};
+
+class DIALOG_TEST : public GUI_TEST
+{
+    Q_OBJECT
+
+protected:
+    GFPQ_DLG& open(const DIALOG_ARGS& args = DIALOG_ARGS());
+    GFPQ_DLG& open_recorded(const DIALOG_ARGS& args = DIALOG_ARGS());
+    // As open(), with this device selected.
+    GFPQ_DLG& open_with(const std::string& device_name);
+    // Shows the dialog as the active window.
+    void show_dialog();
+    GFPQ_DLG& dlg() const { return *m_dlg; }
+    void close_dialog() { m_dlg.reset(); }
+
+    QLineEdit& edit(const char* name) const { return child<QLineEdit>(name); }
+    QComboBox& combo(const char* name) const { return child<QComboBox>(name); }
+    QPushButton& button(const char* name) const { return child<QPushButton>(name); }
+    QLabel& label(const char* name) const { return child<QLabel>(name); }
+    QCheckBox& check(const char* name) const { return child<QCheckBox>(name); }
+    QWidget& widget(const char* name) const { return child<QWidget>(name); }
+    QTableView& table() const { return child<QTableView>("m_device_table_view"); }
+    QTabWidget& tabs() const { return child<QTabWidget>("m_prog_flows_tab_widget"); }
+    QSortFilterProxyModel& proxy() const;
+    QStandardItemModel& device_model() const;
+    // The operation page of `operation`.
+    GPFQ_OPERATION_TAB_WIDGET& page(int operation) const;
+
+    // The texts of the rows that the table shows, of every row of the model, of the items of a combo box.
+    QStringList shown_rows() const;
+    QStringList all_rows() const;
+    QStringList items(const char* combo_name) const;
+    // The device of the table's current row; null text when there is none.
+    QString current_row() const;
+    // Selects the shown row of that text, as a user's click does.
+    void pick(const QString& name);
+    // Puts `text` into a line edit and presses Return there.
+    void enter(const char* edit_name, const QString& text);
+    // Makes the item of that data, or of that text, current.
+    void choose(const char* combo_name, int data);
+    void choose_text(const char* combo_name, const QString& text);
+    // Runs a slot without arguments, as its signal would.
+    void run(const char* slot);
+    // The actions of an operation page, as type and first value: "0:write enable".
+    QStringList page_flow(int operation) const;
+    // True when the blocks of an operation page can be selected.
+    bool page_is_editable(int operation) const;
+    // The five enabled states of the operation pages.
+    QList<bool> pages_enabled() const;
+
+    // Every call that matters for the course of things: without the questions that only read.
+    QStringList calls() const;
+
+    template <typename WIDGET>
+    WIDGET& child(const char* name) const
+    {
+        auto* const found = m_dlg->findChild<WIDGET*>(QLatin1String(name));
+        if (found == nullptr)
+            qFatal("no widget %s", name);
+        return *found;
+    }
+
+private:
+    void set_up() final;
+    void take_down() final;
+    // What a derived test sets up in the world before each test function.
+    virtual void fill_world() {}
+
+    std::unique_ptr<GFPQ_DLG> m_dlg;
+    QStringList m_forbidden_calls;
+};
+
+// Shorter texts in expectations.
+inline QString qs(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+QStringList list_of(std::initializer_list<const char*> texts);
