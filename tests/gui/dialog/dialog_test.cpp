@@ -5,15 +5,15 @@
 namespace {
 
 // Questions whose number and place are the dialog's own business.
-const QStringList READING{
-    QStringLiteral("is_property_used"),   QStringLiteral("get_db_custom_dir"), QStringLiteral("get_action_type"),
-    QStringLiteral("get_property_enum_list"), QStringLiteral("get_property_label"),
-    QStringLiteral("get_property_value"), QStringLiteral("set_property_value"), QStringLiteral("get_actions")};
+const QStringList READING{QStringLiteral("is_property_used"),   QStringLiteral("get_db_custom_dir"),
+                          QStringLiteral("get_action_type"),    QStringLiteral("get_property_enum_list"),
+                          QStringLiteral("get_property_label"), QStringLiteral("get_property_value"),
+                          QStringLiteral("set_property_value"), QStringLiteral("get_actions")};
 
 // Operations of the database that are there for other programs; the dialog never calls them.
 const char* const FOREIGN_CALLS[] = {
-    "get_device_family", "get_config_scheme", "is_builtin_flash", "is_custom_flash",  "get_last_error",
-    "is_writable",       "restore_flash",     "is_template",      "get_revision",     "set_name",
+    "get_device_family", "get_config_scheme", "is_builtin_flash", "is_custom_flash",      "get_last_error",
+    "is_writable",       "restore_flash",     "is_template",      "get_revision",         "set_name",
     "find_operation",    "get_action_count",  "has_property",     "get_property_default", "get_database_problem"};
 
 } // namespace
@@ -48,9 +48,9 @@ void DIALOG_TEST::take_down()
 GFPQ_DLG& DIALOG_TEST::open_recorded(const DIALOG_ARGS& args)
 {
     m_dlg.reset();
-    m_dlg = std::make_unique<GFPQ_DLG>(args.parent, args.family, args.config_scheme, args.device_name,
-                                       args.enable_family, args.enable_config_mode, args.enable_edit,
-                                       args.family_schemes);
+    m_dlg =
+        std::make_unique<GFPQ_DLG>(args.parent, args.family, args.config_scheme, args.device_name, args.enable_family,
+                                   args.enable_config_mode, args.enable_edit, args.family_schemes);
     return *m_dlg;
 }
 

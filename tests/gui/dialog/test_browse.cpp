@@ -52,8 +52,8 @@ void TEST_BROWSE::the_folder_dialog_is_set_up_in_order()
 
     click_browse();
 
-    QStringList expected = list_of({"file_dlg.created(gfpq_dlg)", "file_dlg.set_file_mode(2)",
-                                    "file_dlg.set_option(1, true)"});
+    QStringList expected =
+        list_of({"file_dlg.created(gfpq_dlg)", "file_dlg.set_file_mode(2)", "file_dlg.set_option(1, true)"});
     expected << QStringLiteral("file_dlg.set_directory(\"%1\")").arg(start) << qs("file_dlg.set_accept_mode(0)")
              << qs(R"(file_dlg.set_window_title("Browse"))") << qs("file_dlg.exec()");
     QCOMPARE(calls(), expected);
@@ -238,8 +238,7 @@ void TEST_BROWSE::a_host_without_ui_manager_is_an_internal_error()
 
     QVERIFY_EXCEPTION_THROWN(click_browse(), INTERNAL_ERROR_REPORTED);
 
-    QCOMPARE(calls(),
-             list_of({R"(MSG_INTERNAL_ERROR.report("ui_mgr != nullptr", "GFPQ", "pgm/gfpq/gfpq_dlg", 909))"}));
+    QCOMPARE(calls(), list_of({R"(MSG_INTERNAL_ERROR.report("ui_mgr != nullptr", "GFPQ", "pgm/gfpq/gfpq_dlg", 909))"}));
     QCOMPARE(here(), before);
 }
 

@@ -1,5 +1,5 @@
-// Every connection of the dialog, as it was asked for. The function that makes them is wrapped at link time, so that its
-// arguments can be seen; that each connection also works is shown by the other tests.
+// Every connection of the dialog, as it was asked for. The function that makes them is wrapped at link time, so that
+// its arguments can be seen; that each connection also works is shown by the other tests.
 #include "dialog_test.h"
 
 #include "gfpq_edit_template_dlg.h"
@@ -17,6 +17,12 @@ struct CONNECTION
 
 QList<CONNECTION> g_made;
 
+// A SIGNAL() or SLOT() text without the digit that it starts with.
+QString signature(const char* text)
+{
+    return QString::fromLatin1(QMetaObject::normalizedSignature(text + 1));
+}
+
 QString object_text(const QObject* object)
 {
     const QString name = object->objectName();
@@ -31,12 +37,11 @@ QString object_text(const QObject* object)
 extern "C" bool WRAPPED(__real_)(const QObject*, const char*, const QObject*, const char*, Qt::ConnectionType,
                                  const char*, int);
 
-extern "C" bool WRAPPED(__wrap_)(const QObject* sender, const char* signal, const QObject* receiver,
-                                 const char* method, Qt::ConnectionType type, const char* file, int line)
+extern "C" bool WRAPPED(__wrap_)(const QObject* sender, const char* signal, const QObject* receiver, const char* method,
+                                 Qt::ConnectionType type, const char* file, int line)
 {
-    const QString text = object_text(sender) + QLatin1Char(' ') + QString::fromLatin1(signal + 1) +
-                         QStringLiteral(" -> ") + object_text(receiver) + QLatin1Char(' ') +
-                         QString::fromLatin1(method + 1);
+    const QString text = object_text(sender) + QLatin1Char(' ') + signature(signal) + QStringLiteral(" -> ") +
+                         object_text(receiver) + QLatin1Char(' ') + signature(method);
     g_made.append({text, type, QByteArray(file), line});
     return WRAPPED(__real_)(sender, signal, receiver, method, type, file, line);
 }
@@ -81,29 +86,28 @@ void TEST_CONNECTIONS::an_opening_dialog_connects_in_order()
     open();
 
     // The combos' own slots are cut and connected again while the first device is loaded; that is not of interest here.
-    QStringList expected = list_of(
-        {"QItemSelectionModel selectionChanged(QItemSelection,QItemSelection) -> "
-         "device_changed(QItemSelection,QItemSelection)",
-         "m_delete_button clicked() -> on_delete_clicked()",
-         "m_filter_line_edit textChanged(QString) -> update_filter(QString)",
-         "m_device_name_edit returnPressed() -> on_device_name_editing_finished()",
-         "m_device_id_edit returnPressed() -> on_device_id_editing_finished()",
-         "m_voltage_cbox currentIndexChanged(int) -> on_change_voltage(int)",
-         "m_density_cbox currentIndexChanged(int) -> on_change_density(int)",
-         "m_total_die_edit returnPressed() -> on_total_die_edit_editing_finished()",
-         "m_clock_cycle_edit returnPressed() -> on_clock_cycle_editing_finished()",
-         "m_clock_cycle_edit_x4 returnPressed() -> on_clock_cycle_x4_editing_finished()",
-         "m_flow_template_cbox currentIndexChanged(int) -> on_change_flow_template(int)",
-         "m_prog_flows_tab_widget currentChanged(int) -> on_tab_index_changed(int)",
-         "m_save_template_check toggled(bool) -> on_save_template_toggled(bool)",
-         "m_edit_template_button clicked() -> on_edit_template_clicked()"});
-    const QStringList last = list_of(
-        {"m_ok_button clicked() -> on_ok_clicked()", "m_cancel_button clicked() -> on_cancel_clicked()",
-         "m_apply_button clicked() -> on_apply_clicked()",
-         "m_family_cbox currentIndexChanged(int) -> on_change_family(int)",
-         "m_config_mode_cbox currentIndexChanged(int) -> on_change_config_mode(int)",
-         "m_directory_edit returnPressed() -> on_directory_editing_finished()",
-         "m_browse_button clicked() -> on_browse_directory()"});
+    QStringList expected = list_of({"QItemSelectionModel selectionChanged(QItemSelection,QItemSelection) -> "
+                                    "device_changed(QItemSelection,QItemSelection)",
+                                    "m_delete_button clicked() -> on_delete_clicked()",
+                                    "m_filter_line_edit textChanged(QString) -> update_filter(QString)",
+                                    "m_device_name_edit returnPressed() -> on_device_name_editing_finished()",
+                                    "m_device_id_edit returnPressed() -> on_device_id_editing_finished()",
+                                    "m_voltage_cbox currentIndexChanged(int) -> on_change_voltage(int)",
+                                    "m_density_cbox currentIndexChanged(int) -> on_change_density(int)",
+                                    "m_total_die_edit returnPressed() -> on_total_die_edit_editing_finished()",
+                                    "m_clock_cycle_edit returnPressed() -> on_clock_cycle_editing_finished()",
+                                    "m_clock_cycle_edit_x4 returnPressed() -> on_clock_cycle_x4_editing_finished()",
+                                    "m_flow_template_cbox currentIndexChanged(int) -> on_change_flow_template(int)",
+                                    "m_prog_flows_tab_widget currentChanged(int) -> on_tab_index_changed(int)",
+                                    "m_save_template_check toggled(bool) -> on_save_template_toggled(bool)",
+                                    "m_edit_template_button clicked() -> on_edit_template_clicked()"});
+    const QStringList last =
+        list_of({"m_ok_button clicked() -> on_ok_clicked()", "m_cancel_button clicked() -> on_cancel_clicked()",
+                 "m_apply_button clicked() -> on_apply_clicked()",
+                 "m_family_cbox currentIndexChanged(int) -> on_change_family(int)",
+                 "m_config_mode_cbox currentIndexChanged(int) -> on_change_config_mode(int)",
+                 "m_directory_edit returnPressed() -> on_directory_editing_finished()",
+                 "m_browse_button clicked() -> on_browse_directory()"});
     const QStringList all = made();
     QCOMPARE(all.mid(0, expected.size()), expected);
     QCOMPARE(all.mid(all.size() - last.size()), last);

@@ -49,19 +49,32 @@ void TEST_CONSTRUCTION::the_calls_of_an_opening_dialog_come_in_order()
 
     open_recorded();
 
-    const QStringList load = list_of({"mgr.get_voltage_list()", R"(mgr.verify_string_property(2, "1.8 V"))",
-                                      "mgr.get_density_list()", "mgr.get_template_list()", "mgr.can_edit_flow()",
-                                      "mgr.get_flow_variant()", "mgr.get_builtin_template_operations(0, false)",
-                                      "mgr.is_flow_editable(null)"});
-    const QStringList expected =
-        list_of({"GFPDB_HELPER.set_active_flash_family(13)", "GFPDB_HELPER.get_active_flash_manager(true)",
-                 "mgr.get_family_list()", "mgr.set_device_family(5)", "mgr.get_config_scheme_list()",
-                 "mgr.set_config_scheme(13)", "GFPDB_MGR.get_db_custom_dir()", "mgr.is_property_used(0)",
-                 "mgr.is_property_used(1)", "mgr.is_property_used(2)", "mgr.get_voltage_list()",
-                 R"(mgr.verify_string_property(2, "1.8 V"))", "mgr.is_property_used(3)", "mgr.get_density_list()",
-                 "mgr.is_property_used(4)", "mgr.is_property_used(5)", "mgr.is_property_used(6)",
-                 "mgr.is_property_used(8)", "mgr.get_template_list()", "mgr.can_add_flash()",
-                 "mgr.get_custom_flash_names(5, 13, 0)", "mgr.get_builtin_flash_names(5, 13, 0)"});
+    const QStringList load =
+        list_of({"mgr.get_voltage_list()", R"(mgr.verify_string_property(2, "1.8 V"))", "mgr.get_density_list()",
+                 "mgr.get_template_list()", "mgr.can_edit_flow()", "mgr.get_flow_variant()",
+                 "mgr.get_builtin_template_operations(0, false)", "mgr.is_flow_editable(null)"});
+    const QStringList expected = list_of({"GFPDB_HELPER.set_active_flash_family(13)",
+                                          "GFPDB_HELPER.get_active_flash_manager(true)",
+                                          "mgr.get_family_list()",
+                                          "mgr.set_device_family(5)",
+                                          "mgr.get_config_scheme_list()",
+                                          "mgr.set_config_scheme(13)",
+                                          "GFPDB_MGR.get_db_custom_dir()",
+                                          "mgr.is_property_used(0)",
+                                          "mgr.is_property_used(1)",
+                                          "mgr.is_property_used(2)",
+                                          "mgr.get_voltage_list()",
+                                          R"(mgr.verify_string_property(2, "1.8 V"))",
+                                          "mgr.is_property_used(3)",
+                                          "mgr.get_density_list()",
+                                          "mgr.is_property_used(4)",
+                                          "mgr.is_property_used(5)",
+                                          "mgr.is_property_used(6)",
+                                          "mgr.is_property_used(8)",
+                                          "mgr.get_template_list()",
+                                          "mgr.can_add_flash()",
+                                          "mgr.get_custom_flash_names(5, 13, 0)",
+                                          "mgr.get_builtin_flash_names(5, 13, 0)"});
     const int head = expected.size();
     QCOMPARE(log().calls().mid(0, head), expected);
     // The row that was selected is loaded through the selection and once more by the selecting itself.
@@ -79,8 +92,8 @@ void TEST_CONSTRUCTION::the_scheme_and_not_the_family_makes_the_manager_active()
 
     open_recorded(args);
 
-    QCOMPARE(log().calls().mid(0, 2), list_of({"GFPDB_HELPER.set_active_flash_family(7)",
-                                               "GFPDB_HELPER.get_active_flash_manager(true)"}));
+    QCOMPARE(log().calls().mid(0, 2),
+             list_of({"GFPDB_HELPER.set_active_flash_family(7)", "GFPDB_HELPER.get_active_flash_manager(true)"}));
     QCOMPARE(combo("m_family_cbox").currentData().toInt(), 9);
     QCOMPARE(combo("m_config_mode_cbox").currentData().toInt(), SCHEME_X1);
 }
@@ -100,10 +113,10 @@ void TEST_CONSTRUCTION::without_a_manager_nothing_is_built()
 
     QVERIFY_EXCEPTION_THROWN(open_recorded(), INTERNAL_ERROR_REPORTED);
 
-    QCOMPARE(log().calls(), list_of({"GFPDB_HELPER.set_active_flash_family(13)",
-                                     "GFPDB_HELPER.get_active_flash_manager(true)",
-                                     R"(MSG_INTERNAL_ERROR.report("m_gfpdb_mgr != nullptr", "GFPQ", )"
-                                     R"("pgm/gfpq/gfpq_dlg", 94))"}));
+    QCOMPARE(log().calls(),
+             list_of({"GFPDB_HELPER.set_active_flash_family(13)", "GFPDB_HELPER.get_active_flash_manager(true)",
+                      R"(MSG_INTERNAL_ERROR.report("m_gfpdb_mgr != nullptr", "GFPQ", )"
+                      R"("pgm/gfpq/gfpq_dlg", 94))"}));
 }
 
 void TEST_CONSTRUCTION::the_window_has_a_title_bar_and_a_close_button_only()
@@ -181,9 +194,9 @@ void TEST_CONSTRUCTION::operation_pages_stand_behind_the_device_page()
                               "Verify/Blank-Check/Examine", "Termination"}));
     QCOMPARE(tabs().widget(0), &widget("m_config_device_tab"));
     QCOMPARE(tabs().currentIndex(), 0);
-    const QStringList described = list_of({"Initialization operation at the beginning", "Program operation when",
-                                           "Erase operation when", "Verify/Blank-Check/Examine operation when",
-                                           "Termination operation at the end"});
+    const QStringList described =
+        list_of({"Initialization operation at the beginning", "Program operation when", "Erase operation when",
+                 "Verify/Blank-Check/Examine operation when", "Termination operation at the end"});
     for (int operation = 0; operation < 5; ++operation) {
         const auto* const description = page(operation).findChild<QLabel*>();
         QVERIFY(description != nullptr);
@@ -227,14 +240,14 @@ void TEST_CONSTRUCTION::an_unused_field_leaves_no_row()
     open();
     show_dialog();
 
-    QVERIFY(widget(label_name).isHidden());
-    QVERIFY(widget(editor_name).isHidden());
-    QCOMPARE(fields().indexOf(&widget(label_name)), -1);
-    QCOMPARE(fields().indexOf(&widget(editor_name)), -1);
+    QVERIFY(widget(label_name.constData()).isHidden());
+    QVERIFY(widget(editor_name.constData()).isHidden());
+    QCOMPARE(fields().indexOf(&widget(label_name.constData())), -1);
+    QCOMPARE(fields().indexOf(&widget(editor_name.constData())), -1);
     QCOMPARE(fields().count(), 16);
     // They are still parts of the dialog.
-    QCOMPARE(widget(label_name).window(), &dlg());
-    QCOMPARE(widget(editor_name).window(), &dlg());
+    QCOMPARE(widget(label_name.constData()).window(), &dlg());
+    QCOMPARE(widget(editor_name.constData()).window(), &dlg());
 }
 
 void TEST_CONSTRUCTION::an_unused_template_row_is_taken_out_whole()
@@ -328,8 +341,8 @@ void TEST_CONSTRUCTION::handlers_of_unused_fields_are_not_connected()
     mgr().unused_properties = {0, 1, 2, 3, 4, 5, 6, 8};
     open();
 
-    for (const char* name : {"m_device_name_edit", "m_device_id_edit", "m_total_die_edit", "m_clock_cycle_edit",
-                             "m_clock_cycle_edit_x4"})
+    for (const char* name :
+         {"m_device_name_edit", "m_device_id_edit", "m_total_die_edit", "m_clock_cycle_edit", "m_clock_cycle_edit_x4"})
         enter(name, QStringLiteral("1"));
     for (const char* name : {"m_voltage_cbox", "m_density_cbox", "m_flow_template_cbox"})
         combo(name).addItems({QStringLiteral("x"), QStringLiteral("y")});

@@ -286,15 +286,15 @@ void TEST_FORM::margins_are_those_of_the_style_unless_set()
 
 void TEST_FORM::form_layouts_have_their_rows()
 {
-    QCOMPARE(rows_of(m_form->formLayout), names({"m_family_label|m_family_cbox",
-                                                 "m_config_mode_label|m_config_mode_cbox",
-                                                 "m_directory_label|directoryLayout"}));
-    QCOMPARE(rows_of(m_form->formLayout_3),
-             names({"m_device_name_label|m_device_name_edit", "m_device_id_label|m_device_id_edit",
-                    "m_voltage_label|m_voltage_cbox", "m_density_lavel|m_density_cbox",
-                    "m_total_die_label|m_total_die_edit", "m_clock_cycle_label|m_clock_cycle_edit",
-                    "m_clock_cycle_label_x4|m_clock_cycle_edit_x4", "m_flow_template_label|horizontalLayout",
-                    "m_save_template_check|m_template_name_edit"}));
+    QCOMPARE(rows_of(m_form->formLayout),
+             names({"m_family_label|m_family_cbox", "m_config_mode_label|m_config_mode_cbox",
+                    "m_directory_label|directoryLayout"}));
+    QCOMPARE(
+        rows_of(m_form->formLayout_3),
+        names({"m_device_name_label|m_device_name_edit", "m_device_id_label|m_device_id_edit",
+               "m_voltage_label|m_voltage_cbox", "m_density_lavel|m_density_cbox", "m_total_die_label|m_total_die_edit",
+               "m_clock_cycle_label|m_clock_cycle_edit", "m_clock_cycle_label_x4|m_clock_cycle_edit_x4",
+               "m_flow_template_label|horizontalLayout", "m_save_template_check|m_template_name_edit"}));
 }
 
 void TEST_FORM::form_layouts_let_their_fields_grow()
@@ -480,11 +480,11 @@ void TEST_FORM::the_tab_order_is_the_order_of_creation()
     }
 
     QCOMPARE(order,
-             names({"m_family_cbox", "m_config_mode_cbox", "m_directory_edit", "m_browse_button", "m_filter_line_edit",
-                    "m_delete_button", "m_device_name_edit", "m_device_id_edit", "m_voltage_cbox", "m_density_cbox",
-                    "m_total_die_edit", "m_clock_cycle_edit", "m_clock_cycle_edit_x4", "m_flow_template_cbox",
-                    "m_edit_template_button", "m_save_template_check", "m_template_name_edit", "m_ok_button",
-                    "m_cancel_button", "m_apply_button"}));
+             names({"m_family_cbox",         "m_config_mode_cbox",   "m_directory_edit",       "m_browse_button",
+                    "m_filter_line_edit",    "m_delete_button",      "m_device_name_edit",     "m_device_id_edit",
+                    "m_voltage_cbox",        "m_density_cbox",       "m_total_die_edit",       "m_clock_cycle_edit",
+                    "m_clock_cycle_edit_x4", "m_flow_template_cbox", "m_edit_template_button", "m_save_template_check",
+                    "m_template_name_edit",  "m_ok_button",          "m_cancel_button",        "m_apply_button"}));
 }
 
 QTEST_MAIN(TEST_FORM)
