@@ -9,11 +9,13 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTimer>
 
 namespace {
 
 const QString PAGES = QStringLiteral("m_prog_flows_tab_widget");
+const QString DEVICES = QStringLiteral("m_device_table_view");
 const QString EDIT_TEMPLATE_BUTTON = QStringLiteral("m_edit_template_button");
 const QString TEMPLATE_EDITOR_CLASS = QStringLiteral("GFPQ_EDIT_TEMPLATE_DLG");
 
@@ -71,9 +73,12 @@ void PAGE_RENDERER::render_pages(QDialog* dialog, QTabWidget* pages)
     open_template_editor(dialog);
 }
 
-// Schemes without programming flows have no templates.
+// Only a device that can be changed has a way to the template editor, and the first row is always such a one: the new
+// device. Schemes without programming flows have no templates at all.
 void PAGE_RENDERER::open_template_editor(const QDialog* dialog)
 {
+    if (auto* devices = dialog->findChild<QTableView*>(DEVICES))
+        devices->selectRow(0);
     auto* button = dialog->findChild<QAbstractButton*>(EDIT_TEMPLATE_BUTTON);
     if (button && button->isVisible() && button->isEnabled())
         button->click();

@@ -86,6 +86,7 @@ PROBE_RESULT TEST_HOST_PROGRAM::run(const QStringList& options, QMap<QString, QS
                                     const QString& program) const
 {
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_scratch->filePath(QStringLiteral("config")));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_scratch->path());
     return run_probe(options, environment, program);
 }
 
@@ -169,7 +170,7 @@ void TEST_HOST_PROGRAM::dialog_s_record_is_printed()
 
     QCOMPARE(result.exit_code, 0);
     QCOMPARE(result.output, QByteArray("{\"family\":70,\"config_scheme\":13,\"device_name\":\"parent=none family=1 "
-                                       "scheme=7 device= flags=111 map= base= locale=en_US platform=offscreen\"}\n"));
+                                       "scheme=7 device= flags=111 map= base= locale=C platform=offscreen\"}\n"));
     QCOMPARE(result.log, QByteArray());
 }
 

@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStringListModel>
 #include <QTabWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -37,7 +39,7 @@ namespace {
 
 const QList<QColor> COLOURS = {Qt::red, Qt::green, Qt::blue};
 
-// A dialog with three coloured pages and a button that opens the template editor.
+// A dialog with three coloured pages, a list of devices and a button that opens the template editor.
 class FORM : public QDialog
 {
 public:
@@ -51,9 +53,14 @@ public:
             content->setStyleSheet(QStringLiteral("background: %1").arg(COLOURS[page].name()));
             m_pages->addTab(content, titles[page]);
         }
+        devices->setObjectName(QStringLiteral("m_device_table_view"));
+        devices->setModel(new QStringListModel({QStringLiteral("new"), QStringLiteral("built-in")}, devices));
+        devices->selectRow(1);
+        devices->hide();
         button->setObjectName(QStringLiteral("m_edit_template_button"));
         connect(button, &QPushButton::clicked, this, [this] {
             page_at_click = m_pages->currentIndex();
+            device_at_click = devices->currentIndex().row();
             GFPQ_EDIT_TEMPLATE_DLG editor(this);
             editor.exec();
         });
@@ -64,7 +71,9 @@ public:
     }
 
     QPushButton* button = new QPushButton(this);
+    QTableView* devices = new QTableView(this);
     int page_at_click = -1;
+    int device_at_click = -1;
 
 private:
     QTabWidget* m_pages = new QTabWidget(this);
@@ -96,6 +105,7 @@ void TEST_PAGE_RENDERER::every_page_and_the_template_editor_are_drawn()
     for (const QString& file : renderer.files())
         QCOMPARE(QFileInfo(file).absolutePath(), directory);
     QCOMPARE(form.page_at_click, 0);
+    QCOMPARE(form.device_at_click, 0);
 }
 
 void TEST_PAGE_RENDERER::pictures_show_their_pages()

@@ -1,0 +1,8 @@
+#include "inspector_plugin.h"
+
+#include "inspector.h"
+
+QObject* INSPECTOR_PLUGIN::create(const QString& key, const QString& specification)
+{
+    return key == QLatin1String("gfpq_inspector") ? new INSPECTOR(specification) : nullptr;
+}

@@ -1,0 +1,80 @@
+#include "e2e_test.h"
+
+E2E_TEST::E2E_TEST() = default;
+
+E2E_TEST::~E2E_TEST() = default;
+
+void E2E_TEST::initTestCase()
+{
+    QVERIFY2(m_screen.start(), qPrintable(m_screen.problem()));
+}
+
+void E2E_TEST::init()
+{
+    m_scratch = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_scratch->isValid());
+}
+
+void E2E_TEST::cleanup()
+{
+    m_user.reset();
+    m_session.reset();
+    m_scratch.reset();
+}
+
+bool E2E_TEST::start(const QStringList& options)
+{
+    m_session = std::make_unique<HOST_SESSION>(m_screen, m_scratch->path());
+    m_user = std::make_unique<USER>(m_screen, *m_session);
+    return m_session->start(options);
+}
+
+bool E2E_TEST::wait_for_property(const char* widget, const char* property, const QJsonValue& value)
+{
+    return m_session->wait_for(widget_called(widget), [&](const QJsonObject& answer) {
+        return answer.value(QLatin1String(property)) == value;
+    });
+}
+
+namespace {
+
+QJsonObject rows_of(const char* view)
+{
+    return {{QStringLiteral("ask"), QStringLiteral("rows")}, {QStringLiteral("name"), QLatin1String(view)}};
+}
+
+QStringList first_column(const QJsonObject& answer)
+{
+    QStringList texts;
+    for (const QJsonValue& row : answer.value(QLatin1String("rows")).toArray())
+        texts.append(row.toArray().at(0).toString());
+    return texts;
+}
+
+} // namespace
+
+QStringList E2E_TEST::column_of(const char* view)
+{
+    return first_column(m_session->ask(rows_of(view)));
+}
+
+bool E2E_TEST::wait_for_column(const char* view, const QStringList& texts)
+{
+    return m_session->wait_for(rows_of(view), [&](const QJsonObject& answer) { return first_column(answer) == texts; });
+}
+
+bool E2E_TEST::wait_for_window(const QString& title)
+{
+    return m_session->wait_for({{QStringLiteral("ask"), QStringLiteral("windows")}}, [&](const QJsonObject& answer) {
+        return answer.value(QLatin1String("active")).toString() == title;
+    });
+}
+
+bool E2E_TEST::ended_well()
+{
+    const bool ended = m_session->wait_for_end();
+    if (ended && m_session->exit_code() == 0 && m_session->log().isEmpty())
+        return true;
+    qWarning("ended: %d, exit code: %d, log: %s", ended, m_session->exit_code(), m_session->log().constData());
+    return false;
+}
