@@ -1,0 +1,777 @@
+// The drawing of a flow chart: every item, number, colour and text, selection, and when the chart is drawn.
+#include "flow_stand.h"
+#include "literal_chart.h"
+
+#include <QFocusEvent>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <new>
+
+namespace {
+
+bool g_out_of_memory = false;
+
+// What a chart is drawn from. The scene draws copies, whose labels are those of fresh actions: "label N".
+std::vector<LITERAL_ACTION> literal(const std::vector<GFPDB_ACTION*>& actions)
+{
+    std::vector<LITERAL_ACTION> all;
+    for (const GFPDB_ACTION* const action : actions) {
+        const auto& source = dynamic_cast<const ACTION_DOUBLE&>(*action);
+        LITERAL_ACTION one;
+        one.type = source.m_action_type;
+        for (const GFPDB_ACT_PROPERTY property : source.properties) {
+            if (property == 39)
+                one.marker = source.values.at(property);
+            else
+                one.lines.push_back("label " + std::to_string(property) + " " + source.values.at(property));
+        }
+        all.push_back(one);
+    }
+    return all;
+}
+
+QStringList literal_items(const std::vector<GFPDB_ACTION*>& actions, bool editable)
+{
+    QGraphicsScene scene;
+    draw_literal_chart(scene, literal(actions), editable);
+    return describe_items(scene);
+}
+
+ACTION_DOUBLE* action_with_value(const std::string& value)
+{
+    return make_named_action(GFPDB_ACT_ERASE, value);
+}
+
+// Notes every text that a build makes.
+class NOTING_SCENE : public OPEN_SCENE
+{
+public:
+    using OPEN_SCENE::OPEN_SCENE;
+
+    QList<QPointer<GFPQ_GRAPHICS_TEXT_ITEM>> texts;
+
+protected:
+    GFPQ_GRAPHICS_TEXT_ITEM* create_text_item(GFPDB_ACTION* action, Qt::Alignment alignment) override
+    {
+        texts.append(OPEN_SCENE::create_text_item(action, alignment));
+        return texts.last();
+    }
+};
+
+class TEXTLESS_SCENE : public OPEN_SCENE
+{
+public:
+    using OPEN_SCENE::OPEN_SCENE;
+
+protected:
+    GFPQ_GRAPHICS_TEXT_ITEM* create_text_item(GFPDB_ACTION*, Qt::Alignment) override { return nullptr; }
+};
+
+void focus_in(QGraphicsScene& scene)
+{
+    QFocusEvent event(QEvent::FocusIn);
+    QApplication::sendEvent(&scene, &event);
+}
+
+void compare_lines(const QStringList& actual, const QStringList& expected)
+{
+    for (int line = 0; line < qMin(actual.size(), expected.size()); ++line)
+        QCOMPARE(actual.at(line), expected.at(line));
+    QCOMPARE(actual.size(), expected.size());
+}
+
+} // namespace
+
+// The allocation that reports failure by null is the one the chart uses for its texts.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    if (g_out_of_memory)
+        return nullptr;
+    try {
+        return ::operator new(size);
+    } catch (...) {
+        return nullptr;
+    }
+}
+
+using ACTIONS = std::vector<GFPDB_ACTION*>;
+using MAKE_ACTIONS = std::function<ACTIONS()>;
+Q_DECLARE_METATYPE(MAKE_ACTIONS)
+
+class TEST_FLOW_CHAIN : public GUI_TEST
+{
+    Q_OBJECT
+
+private slots:
+    void the_meta_object_lists_signals_and_slots_in_order();
+    void a_chart_is_drawn_as_the_plain_steps_draw_it_data();
+    void a_chart_is_drawn_as_the_plain_steps_draw_it();
+    void an_empty_list_is_drawn_as_start_arrow_end();
+    void two_blocks_stand_a_block_and_an_arrow_apart_and_arrows_touch_them();
+    void a_first_loop_end_leads_back_to_the_origin();
+    void every_loop_end_widens_the_chart();
+    void lines_of_an_action_are_centred_and_never_wrapped();
+    void a_text_knows_its_action_and_a_label_knows_none();
+    void texts_of_actions_that_are_not_drawn_do_not_leak();
+    void an_arrow_has_its_drop_zone_as_child();
+    void the_drawing_steps_return_what_they_added();
+    void the_scene_draws_nothing_by_itself();
+    void a_rebuild_tears_down_first_and_says_so_once();
+    void a_rebuild_restores_the_scene_rectangle();
+    void nothing_but_the_chart_moves_the_scene_rectangle();
+    void selecting_a_block_outlines_it_alone_and_tells_its_action();
+    void of_several_selected_blocks_the_last_reported_one_is_told();
+    void nothing_is_told_when_the_selection_goes();
+    void nothing_is_told_while_the_chart_is_torn_down();
+    void only_coloured_blocks_of_an_editable_chart_can_be_selected();
+    void a_refresh_waits_for_the_focus_and_happens_once();
+    void a_rebuild_of_any_kind_calls_a_waiting_refresh_off();
+    void emptying_the_list_calls_a_waiting_refresh_off();
+    void a_waiting_refresh_can_be_taken_back();
+    void a_focus_is_not_handed_on();
+    void emptying_the_list_deletes_only_on_request();
+    void the_scene_deletes_its_actions_with_itself();
+    void null_sources_and_refused_copies_are_left_out();
+    void without_a_manager_nothing_is_copied();
+    void copies_have_every_value_of_their_sources();
+    void a_missing_text_is_an_internal_error();
+    void a_text_without_memory_is_an_internal_error();
+    void five_thousand_actions_and_very_long_values_are_drawn();
+};
+
+void TEST_FLOW_CHAIN::the_meta_object_lists_signals_and_slots_in_order()
+{
+    const QMetaObject& meta = GFPQ_FLOW_SCENE::staticMetaObject;
+    QStringList signatures;
+    for (int index = meta.methodOffset(); index < meta.methodCount(); ++index) {
+        const QMetaMethod method = meta.method(index);
+        signatures.append((method.methodType() == QMetaMethod::Signal ? QStringLiteral("signal ")
+                                                                      : QStringLiteral("slot ")) +
+                          QString::fromLatin1(method.methodSignature()));
+    }
+
+    const QStringList expected{QStringLiteral("signal emit_action_selection_changed(GFPDB_ACTION*)"),
+                               QStringLiteral("signal emit_clear_table()"),
+                               QStringLiteral("slot on_selection()"),
+                               QStringLiteral("slot create_flow_chain()"),
+                               QStringLiteral("slot refresh_flow_chain()"),
+                               QStringLiteral("slot on_delete_action()"),
+                               QStringLiteral("slot on_copy_action()"),
+                               QStringLiteral("slot on_paste_action()"),
+                               QStringLiteral("slot on_insert_wr_action()"),
+                               QStringLiteral("slot on_insert_rr_action()"),
+                               QStringLiteral("slot on_insert_wd_action()"),
+                               QStringLiteral("slot on_insert_rd_action()"),
+                               QStringLiteral("slot on_insert_e_action()"),
+                               QStringLiteral("slot on_change_scene()")};
+    QCOMPARE(signatures, expected);
+    QCOMPARE(QLatin1String(meta.className()), QLatin1String("GFPQ_FLOW_SCENE"));
+    QCOMPARE(QLatin1String(GFPQ_GRAPHICS_TEXT_ITEM::staticMetaObject.className()),
+             QLatin1String("GFPQ_GRAPHICS_TEXT_ITEM"));
+}
+
+void TEST_FLOW_CHAIN::a_chart_is_drawn_as_the_plain_steps_draw_it_data()
+{
+    QTest::addColumn<MAKE_ACTIONS>("make");
+    QTest::addColumn<bool>("editable");
+
+    const auto add = [](const char* name, const MAKE_ACTIONS& make, bool editable = true) {
+        QTest::newRow(name) << make << editable;
+    };
+    const auto one_of_each = [] {
+        ACTIONS actions;
+        for (int type = 0; type <= 4; ++type)
+            actions.push_back(make_named_action(type, "action " + std::to_string(type)));
+        return actions;
+    };
+    const auto loop = [] {
+        return ACTIONS{make_named_action(0, "before"), make_loop_action("page", "start"),
+                       make_named_action(2, "a page program of a fairly long name"), make_named_action(1, "poll"),
+                       make_loop_action("page", "end"), make_named_action(4, "after")};
+    };
+    add("no action", [] { return ACTIONS(); });
+    add("one of each type", one_of_each);
+    add("one of each type, fixed", one_of_each, false);
+    add("a loop", loop);
+    add("a loop, fixed", loop, false);
+    add("two loops", [loop] {
+        ACTIONS actions = loop();
+        const ACTIONS more = loop();
+        actions.insert(actions.end(), more.begin(), more.end());
+        return actions;
+    });
+    add("a loop in a loop", [] {
+        return ACTIONS{make_loop_action("die", "start"), make_loop_action("sector", "start"), make_named_action(4, "e"),
+                       make_loop_action("sector", "end"), make_loop_action("die", "end")};
+    });
+    add("an end first of all", [] { return ACTIONS{make_loop_action("page", "end"), make_named_action(0, "w")}; });
+    add("an end without a start", [] {
+        return ACTIONS{make_named_action(0, "w"), make_loop_action("page", "end"), make_loop_action("page", "end")};
+    });
+    add("a start without an end", [] { return ACTIONS{make_loop_action("page", "start"), make_named_action(0, "w")}; });
+    add("a diamond that is the widest", [] {
+        return ACTIONS{make_loop_action("p", "start"), make_loop_action(std::string(90, 'W'), "end"),
+                       make_named_action(0, "w")};
+    });
+    add("markers of another case are none", [] {
+        return ACTIONS{make_named_action(3, "a wide block, so that an anchor would show"),
+                       make_loop_action("page", "start"),
+                       make_loop_action("page", "Start"),
+                       make_loop_action("page", "END"),
+                       make_loop_action("page", "end"),
+                       make_loop_action("page", ""),
+                       make_loop_action("page", "ending")};
+    });
+    add("types that cannot be drawn", [] {
+        return ACTIONS{make_named_action(0, "w"), new ACTION_DOUBLE(6), new ACTION_DOUBLE(-1), new ACTION_DOUBLE(4711),
+                       make_named_action(1, "r")};
+    });
+    add("blocks narrower and wider than Start", [] {
+        ACTIONS actions;
+        for (const std::size_t width : {0U, 1U, 3U, 200U, 2U}) {
+            auto* const action = new ACTION_DOUBLE(GFPDB_ACT_CUSTOM);
+            action->properties = {GFPDB_CUSTOM_LOOP_UNIT};
+            action->values = {{GFPDB_CUSTOM_LOOP_UNIT, std::string(width, 'i')}};
+            actions.push_back(action);
+        }
+        return actions;
+    });
+    add("markup is no markup", [] { return ACTIONS{action_with_value("<b>bold</b> &amp; <img src=x> </table>")}; });
+    add("line breaks", [] { return ACTIONS{action_with_value("one\ntwo\n\nfour"), action_with_value("\n")}; });
+    add("right to left", [] { return ACTIONS{action_with_value("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D 12 abc")}; });
+    add("letters outside ASCII", [] { return ACTIONS{action_with_value("\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80")}; });
+}
+
+void TEST_FLOW_CHAIN::a_chart_is_drawn_as_the_plain_steps_draw_it()
+{
+    QFETCH(const MAKE_ACTIONS, make);
+    QFETCH(const bool, editable);
+    const ACTION_LIST actions(make());
+    // Copies have the property list of their type; these sources have none, or another one.
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get(), editable);
+
+    std::vector<GFPDB_ACTION*> drawn;
+    const QList<GFPDB_ACTION*>& held = scene.get_actions();
+    for (GFPDB_ACTION* const action : held)
+        drawn.push_back(action);
+    compare_lines(describe_items(scene), literal_items(drawn, editable));
+    scene.create_flow_chain();
+    compare_lines(describe_items(scene), literal_items(drawn, editable));
+}
+
+void TEST_FLOW_CHAIN::an_empty_list_is_drawn_as_start_arrow_end()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    scene.create_flow_chain();
+
+    const QList<QAbstractGraphicsShapeItem*> shapes = shapes_of(scene);
+    QCOMPARE(shapes.size(), 2);
+    QCOMPARE(arrows_of(scene).size(), 1);
+    QCOMPARE(texts_of(scene), (QStringList{QStringLiteral("Start"), QStringLiteral("End")}));
+    QCOMPARE(shapes.first()->pos(), QPointF(0, 15));
+    QCOMPARE(shapes.last()->y(), 15 + shapes.first()->boundingRect().height() + 65);
+    QCOMPARE(scene.sceneRect().height(), shapes.last()->y() + shapes.last()->boundingRect().height() + 15);
+    QCOMPARE(scene.sceneRect().width(), shapes.first()->boundingRect().width());
+    QCOMPARE(scene.sceneRect().topLeft(), QPointF(0, 0));
+}
+
+void TEST_FLOW_CHAIN::two_blocks_stand_a_block_and_an_arrow_apart_and_arrows_touch_them()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load_names(scene, {"one", "two"});
+
+    const QList<QAbstractGraphicsShapeItem*> shapes = shapes_of(scene);
+    QCOMPARE(shapes.size(), 4);
+    QCOMPARE(shapes.at(2)->y(), shapes.at(1)->y() + shapes.at(1)->boundingRect().height() + 65);
+    const QPolygonF arrow = arrows_of(scene).at(1)->polygon();
+    QCOMPARE(arrow.at(3).y(), shapes.at(2)->y());
+    QVERIFY(scene.sceneRect().left() < 0);
+    QCOMPARE(scene.sceneRect().left(), qMin(shapes.at(1)->x(), shapes.at(2)->x()));
+}
+
+void TEST_FLOW_CHAIN::a_first_loop_end_leads_back_to_the_origin()
+{
+    const ACTION_LIST actions({make_loop_action("page", "end")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    QCOMPARE(connectors_of(scene).size(), 1);
+    const QPolygonF connector = connectors_of(scene).first()->polygon();
+    QCOMPARE(connector.at(5), QPointF(0, 0));
+    QCOMPARE(connector.at(1).x(), 65.0);
+    QVERIFY(!connectors_of(scene).first()->acceptDrops());
+}
+
+void TEST_FLOW_CHAIN::every_loop_end_widens_the_chart()
+{
+    const ACTION_LIST actions({make_loop_action("page", "end"), make_loop_action("page", "end"),
+                               make_named_action(0, "a block that is wider than the diamonds are")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    const double diamond = shapes_of(scene).at(1)->boundingRect().width();
+    const double block = shapes_of(scene).at(3)->boundingRect().width();
+    QCOMPARE(scene.sceneRect().width(), qMax(qMax(diamond + 65, diamond) + 65, block));
+}
+
+void TEST_FLOW_CHAIN::lines_of_an_action_are_centred_and_never_wrapped()
+{
+    const ACTION_LIST actions({make_named_action(3, "a name with blanks that a narrow text would wrap at")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    const QTextDocument& document = *text_of(*blocks_of(scene).first())->document();
+    QCOMPARE(document.blockCount(), 10);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QCOMPARE(block.blockFormat().alignment(), Qt::AlignCenter);
+        QCOMPARE(block.layout()->lineCount(), 1);
+    }
+    QCOMPARE(blocks_of(scene).first()->rect(), text_of(*blocks_of(scene).first())->boundingRect());
+}
+
+void TEST_FLOW_CHAIN::a_text_knows_its_action_and_a_label_knows_none()
+{
+    const ACTION_LIST actions({make_named_action(0, "w"), make_loop_action("page", "end")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    QList<GFPDB_ACTION*> known;
+    const QList<QGraphicsItem*> items = scene.items(Qt::AscendingOrder);
+    for (const QGraphicsItem* const item : items) {
+        if (const auto* const text = dynamic_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(item))
+            known.append(text->action());
+    }
+    QCOMPARE(known, (QList<GFPDB_ACTION*>{nullptr, scene.get_actions().at(0), scene.get_actions().at(1), nullptr,
+                                          nullptr, nullptr}));
+    QCOMPARE(texts_of(scene).mid(3), (QStringList{QStringLiteral("No"), QStringLiteral("Yes"), QStringLiteral("End")}));
+}
+
+void TEST_FLOW_CHAIN::texts_of_actions_that_are_not_drawn_do_not_leak()
+{
+    const ACTION_LIST actions({new ACTION_DOUBLE(6), make_named_action(0, "w"), new ACTION_DOUBLE(7)});
+    auto scene = std::make_unique<NOTING_SCENE>(nullptr, 0);
+
+    load(*scene, actions.get());
+    const QList<QPointer<GFPQ_GRAPHICS_TEXT_ITEM>> first = scene->texts;
+    QCOMPARE(first.size(), 3);
+    QVERIFY(!first.at(0).isNull() && first.at(0)->scene() == nullptr);
+    scene->create_flow_chain();
+    QVERIFY(first.at(0).isNull() && first.at(1).isNull() && first.at(2).isNull());
+
+    const QList<QPointer<GFPQ_GRAPHICS_TEXT_ITEM>> second = scene->texts.mid(3);
+    QVERIFY(!second.at(2).isNull());
+    scene.reset();
+    QVERIFY(second.at(0).isNull() && second.at(1).isNull() && second.at(2).isNull());
+}
+
+void TEST_FLOW_CHAIN::an_arrow_has_its_drop_zone_as_child()
+{
+    const QPolygonF polygon({{100, 10}, {100, 57}, {82, 57}, {100, 75}, {118, 57}, {100, 57}});
+
+    const GFPQ_ARROW_POLYGON_ITEM open(polygon, true);
+    const GFPQ_ARROW_POLYGON_ITEM shut(polygon, false);
+
+    QCOMPARE(open.polygon(), polygon);
+    QCOMPARE(open.parentItem(), nullptr);
+    QCOMPARE(open.childItems(), QList<QGraphicsItem*>{open.drop_zone()});
+    QCOMPARE(open.drop_zone()->rect(), QRectF(64, 10, 72, 65));
+    QVERIFY(open.drop_zone()->acceptDrops());
+    QVERIFY(!shut.drop_zone()->acceptDrops());
+    QVERIFY(!open.acceptDrops());
+}
+
+void TEST_FLOW_CHAIN::the_drawing_steps_return_what_they_added()
+{
+    OPEN_SCENE scene(nullptr, 0);
+
+    QGraphicsRectItem* const block = scene.add_action_block(QRectF(1, 2, 3, 4), QColor(1, 2, 3), true);
+    QGraphicsRectItem* const fixed = scene.add_action_block(QRectF(1, 2, 3, 4), QColor(1, 2, 3), false);
+    GFPQ_ARROW_POLYGON_ITEM* const arrow = scene.add_arrow(10, 20);
+    QGraphicsPolygonItem* const connector = scene.add_loop_back(1, 2, 3, 4, 5);
+
+    QCOMPARE(scene.items(Qt::AscendingOrder),
+             (QList<QGraphicsItem*>{block, fixed, arrow, arrow->drop_zone(), connector}));
+    QCOMPARE(block->rect(), QRectF(1, 2, 3, 4));
+    QCOMPARE(block->flags(), QGraphicsItem::ItemIsSelectable);
+    QCOMPARE(fixed->flags(), QGraphicsItem::GraphicsItemFlags());
+    QCOMPARE(connector->polygon().at(1), QPointF(70, 2));
+    scene.clear_flow_chain();
+    QVERIFY(scene.items().isEmpty());
+}
+
+void TEST_FLOW_CHAIN::the_scene_draws_nothing_by_itself()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 3);
+    const ACTION_LIST actions({make_named_action(0, "w")});
+
+    scene.append_copies(actions.get());
+    scene.refresh_flow_chain();
+
+    QVERIFY(scene.items().isEmpty());
+    QCOMPARE(scene.get_actions().size(), 1);
+}
+
+void TEST_FLOW_CHAIN::a_rebuild_tears_down_first_and_says_so_once()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "two"});
+    int told = 0;
+    int items_then = -1;
+    QRectF rect_then;
+    connect(&scene, &GFPQ_FLOW_SCENE::emit_clear_table, this, [&] {
+        ++told;
+        items_then = scene.items().size();
+        rect_then = scene.sceneRect();
+    });
+
+    scene.create_flow_chain();
+
+    QCOMPARE(told, 1);
+    QCOMPARE(items_then, 0);
+    QCOMPARE(rect_then, QRectF(0, 0, 0, 15));
+    QCOMPARE(shapes_of(scene).size(), 4);
+}
+
+void TEST_FLOW_CHAIN::a_rebuild_restores_the_scene_rectangle()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "a wider block than the other one"});
+    const QRectF rect = scene.sceneRect();
+
+    scene.create_flow_chain();
+
+    QCOMPARE(scene.sceneRect(), rect);
+    load_names(scene, {});
+    QCOMPARE(scene.sceneRect().left(), 0.0);
+    QVERIFY(scene.sceneRect().width() < rect.width());
+    QVERIFY(scene.sceneRect().height() < rect.height());
+}
+
+void TEST_FLOW_CHAIN::nothing_but_the_chart_moves_the_scene_rectangle()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one"});
+    const QRectF rect = scene.sceneRect();
+
+    scene.addRect(-5000, -5000, 10, 10);
+    scene.setSceneRect(-7, -7, 10000, 10000);
+    QCOMPARE(scene.sceneRect(), rect);
+
+    scene.setSceneRect(QRectF());
+    QCOMPARE(scene.sceneRect(), rect);
+}
+
+void TEST_FLOW_CHAIN::selecting_a_block_outlines_it_alone_and_tells_its_action()
+{
+    const ACTION_LIST actions({make_named_action(0, "w"), make_named_action(4, "e"), make_loop_action("page", "start"),
+                               make_loop_action("page", "end")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load(scene, actions.get());
+    const QList<QAbstractGraphicsShapeItem*> shapes = shapes_of(scene);
+    const QPen marked(Qt::green, 5);
+    for (QAbstractGraphicsShapeItem* const shape : shapes)
+        shape->setPen(marked);
+    const TOLD_ACTIONS told(scene);
+
+    shapes.at(2)->setSelected(true);
+
+    QCOMPARE(told.actions.size(), 1);
+    QCOMPARE(told.actions.at(0), scene.get_actions().at(1));
+    for (int index = 0; index < shapes.size(); ++index)
+        QCOMPARE(shapes.at(index)->pen(), index == 2 ? QPen(Qt::red, 2) : QPen(Qt::black));
+
+    scene.clearSelection();
+    shapes.at(1)->setSelected(true);
+
+    QCOMPARE(told.actions.size(), 2);
+    QCOMPARE(told.actions.at(1), scene.get_actions().at(0));
+    QCOMPARE(shapes.at(1)->pen(), QPen(Qt::red, 2));
+    QCOMPARE(shapes.at(2)->pen(), QPen(Qt::black));
+    for (GFPQ_ARROW_POLYGON_ITEM* const arrow : arrows_of(scene))
+        QCOMPARE(arrow->pen(), QPen(Qt::black, 2));
+}
+
+void TEST_FLOW_CHAIN::of_several_selected_blocks_the_last_reported_one_is_told()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "two", "three"});
+    const TOLD_ACTIONS told(scene);
+
+    for (QGraphicsRectItem* const block : blocks_of(scene))
+        block->setSelected(true);
+
+    QCOMPARE(told.actions.size(), 3);
+    QCOMPARE(told.actions.last(), text_of(*scene.selectedItems().last())->action());
+    for (QGraphicsRectItem* const block : blocks_of(scene))
+        QCOMPARE(block->pen(), QPen(Qt::red, 2));
+}
+
+void TEST_FLOW_CHAIN::nothing_is_told_when_the_selection_goes()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "two"});
+    blocks_of(scene).first()->setSelected(true);
+    const TOLD_ACTIONS told(scene);
+    QSignalSpy cleared(&scene, SIGNAL(emit_clear_table()));
+
+    scene.clearSelection();
+
+    QCOMPARE(told.actions.size(), 0);
+    QCOMPARE(cleared.size(), 0);
+    QCOMPARE(blocks_of(scene).first()->pen(), QPen(Qt::black));
+}
+
+void TEST_FLOW_CHAIN::nothing_is_told_while_the_chart_is_torn_down()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "two", "three"});
+    for (QGraphicsRectItem* const block : blocks_of(scene))
+        block->setSelected(true);
+    const TOLD_ACTIONS told(scene);
+
+    scene.create_flow_chain();
+
+    QCOMPARE(told.actions.size(), 0);
+    QVERIFY(scene.selectedItems().isEmpty());
+    // And it is told again afterwards.
+    blocks_of(scene).first()->setSelected(true);
+    QCOMPARE(told.actions.size(), 1);
+}
+
+void TEST_FLOW_CHAIN::only_coloured_blocks_of_an_editable_chart_can_be_selected()
+{
+    const ACTION_LIST actions({make_named_action(0, "w"), make_loop_action("page", "start"), make_named_action(1, "r"),
+                               make_loop_action("page", "end"), make_loop_action("page", "x")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    const TOLD_ACTIONS told(scene);
+
+    load(scene, actions.get(), true);
+    for (QGraphicsItem* const item : scene.items())
+        item->setSelected(true);
+    QCOMPARE(scene.selectedItems().size(), 2);
+
+    load(scene, actions.get(), false);
+    const int told_before = told.actions.size();
+    for (QGraphicsItem* const item : scene.items())
+        item->setSelected(true);
+    QCOMPARE(scene.selectedItems().size(), 0);
+    QCOMPARE(told.actions.size(), told_before);
+    for (const GFPQ_ARROW_POLYGON_ITEM* const arrow : arrows_of(scene))
+        QVERIFY(!arrow->drop_zone()->acceptDrops());
+}
+
+void TEST_FLOW_CHAIN::a_refresh_waits_for_the_focus_and_happens_once()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one"});
+    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+    focus_in(scene);
+    QCOMPARE(rebuilt.size(), 0);
+    scene.refresh_flow_chain();
+    scene.refresh_flow_chain();
+    QCOMPARE(rebuilt.size(), 0);
+    focus_in(scene);
+    QCOMPARE(rebuilt.size(), 1);
+    focus_in(scene);
+    QCOMPARE(rebuilt.size(), 1);
+}
+
+void TEST_FLOW_CHAIN::a_rebuild_of_any_kind_calls_a_waiting_refresh_off()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one"});
+    scene.refresh_flow_chain();
+    scene.create_flow_chain();
+    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+    focus_in(scene);
+
+    QCOMPARE(rebuilt.size(), 0);
+}
+
+void TEST_FLOW_CHAIN::emptying_the_list_calls_a_waiting_refresh_off()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one"});
+    scene.refresh_flow_chain();
+    scene.clear_actions(true);
+    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+    focus_in(scene);
+
+    QCOMPARE(rebuilt.size(), 0);
+}
+
+void TEST_FLOW_CHAIN::a_waiting_refresh_can_be_taken_back()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    QVERIFY(!scene.take_pending_refresh());
+
+    scene.refresh_flow_chain();
+
+    QVERIFY(scene.take_pending_refresh());
+    QVERIFY(!scene.take_pending_refresh());
+}
+
+void TEST_FLOW_CHAIN::a_focus_is_not_handed_on()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    focus_in(scene);
+
+    QVERIFY(!scene.hasFocus());
+}
+
+void TEST_FLOW_CHAIN::emptying_the_list_deletes_only_on_request()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    const int before = live_actions();
+    load_names(scene, {"one", "two"});
+    const ACTION_LIST taken({scene.get_actions().at(0), scene.get_actions().at(1)});
+
+    scene.clear_actions(false);
+
+    QVERIFY(scene.get_actions().isEmpty());
+    QCOMPARE(live_actions(), before + 2);
+    scene.create_flow_chain();
+    load_names(scene, {"three"});
+    QCOMPARE(live_actions(), before + 3);
+    scene.clear_actions(true);
+    QCOMPARE(live_actions(), before + 2);
+}
+
+void TEST_FLOW_CHAIN::the_scene_deletes_its_actions_with_itself()
+{
+    const int before = live_actions();
+    {
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+        load_names(scene, {"one", "two"});
+        QCOMPARE(live_actions(), before + 2);
+        blocks_of(scene).first()->setSelected(true);
+    }
+    QCOMPARE(live_actions(), before);
+}
+
+void TEST_FLOW_CHAIN::null_sources_and_refused_copies_are_left_out()
+{
+    const ACTION_LIST actions(
+        {nullptr, make_named_action(0, "w"), make_named_action(3, "refused"), nullptr, make_named_action(1, "r")});
+    mgr().refused_actions.insert(3);
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    QCOMPARE(names_of(scene.get_actions()), (QStringList{QStringLiteral("0:w"), QStringLiteral("1:r")}));
+    QCOMPARE(shapes_of(scene).size(), 4);
+}
+
+void TEST_FLOW_CHAIN::without_a_manager_nothing_is_copied()
+{
+    const ACTION_LIST actions({make_named_action(0, "w")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    world().active = nullptr;
+
+    load(scene, actions.get());
+
+    QVERIFY(scene.get_actions().isEmpty());
+    QCOMPARE(shapes_of(scene).size(), 2);
+}
+
+void TEST_FLOW_CHAIN::copies_have_every_value_of_their_sources()
+{
+    const ACTION_LIST actions({make_action(3, {{22, "6Bh"}, {28, "8"}, {30, "1-1-4"}}), make_loop_action("die", "start")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    for (int index = 0; index < 2; ++index) {
+        const auto& copy = dynamic_cast<const ACTION_DOUBLE&>(*scene.get_actions().at(index));
+        const auto& source = dynamic_cast<const ACTION_DOUBLE&>(*actions.get().at(static_cast<std::size_t>(index)));
+        QVERIFY(&copy != &source);
+        QCOMPARE(copy.m_action_type, source.m_action_type);
+        QVERIFY(copy.values == source.values);
+    }
+    QCOMPARE(log().calls_of({QStringLiteral("get_active_flash_manager")}),
+             QStringList{QStringLiteral("GFPDB_HELPER.get_active_flash_manager(false)")});
+}
+
+void TEST_FLOW_CHAIN::a_missing_text_is_an_internal_error()
+{
+    const ACTION_LIST actions({make_named_action(0, "w")});
+    TEXTLESS_SCENE scene(nullptr, 0);
+    bool reported = false;
+
+    try {
+        load(scene, actions.get());
+    } catch (const INTERNAL_ERROR_REPORTED& error) {
+        reported = true;
+        QCOMPARE(error.condition, std::string("text_item != nullptr"));
+        QCOMPARE(error.category, std::string("GFPQ"));
+        QCOMPARE(error.source, std::string("pgm/gfpq/gfpq_flow_scene"));
+        QCOMPARE(error.line, 192);
+    }
+
+    QVERIFY(reported);
+    QCOMPARE(shapes_of(scene).size(), 1);
+}
+
+void TEST_FLOW_CHAIN::a_text_without_memory_is_an_internal_error()
+{
+    const ACTION_LIST actions({make_named_action(0, "w")});
+    OPEN_SCENE scene(nullptr, 0);
+    bool reported = false;
+
+    try {
+        g_out_of_memory = true;
+        scene.create_text_item(actions.get().front(), Qt::AlignCenter);
+    } catch (const INTERNAL_ERROR_REPORTED& error) {
+        reported = true;
+        g_out_of_memory = false;
+        QCOMPARE(error.condition, std::string("item != nullptr"));
+        QCOMPARE(error.category, std::string("GFPQ"));
+        QCOMPARE(error.source, std::string("pgm/gfpq/gfpq_flow_scene"));
+        QCOMPARE(error.line, 529);
+    }
+    g_out_of_memory = false;
+
+    QVERIFY(reported);
+}
+
+void TEST_FLOW_CHAIN::five_thousand_actions_and_very_long_values_are_drawn()
+{
+    ACTION_LIST actions;
+    for (int index = 0; index < 5000; ++index)
+        actions.add(new ACTION_DOUBLE(index % 6));
+    actions.add(action_with_value(std::string(100000, 'x')));
+    std::string lines;
+    for (int line = 0; line < 2000; ++line)
+        lines += "line\n";
+    actions.add(action_with_value(lines));
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    QCOMPARE(shapes_of(scene).size(), 5004);
+    QCOMPARE(arrows_of(scene).size(), 5003);
+    const auto view = show_view(scene, QSize(300, 300));
+    view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
+    QVERIFY(!view->grab().isNull());
+    QVERIFY(scene.sceneRect().width() > 300000);
+    QCOMPARE(scene.sceneRect().bottom(), shapes_of(scene).last()->y() + shapes_of(scene).last()->boundingRect().height() + 15);
+}
+
+GFPQ_TEST_MAIN(TEST_FLOW_CHAIN)
+#include "test_flow_chain.moc"
