@@ -96,16 +96,18 @@ QString action_text(const GFPDB_ACTION& action)
     for (const GFPDB_ACT_PROPERTY property : action.get_property_enum_list()) {
         if (property == GFPDB_CUSTOM_LOOP_MARKER)
             continue;
-        if (!text.isNull())
+        if (!text.isEmpty())
             text += QLatin1Char('\n');
-        text += gfpq_from_local(action.get_property_label(property)) + QLatin1Char(' ') +
-                gfpq_from_local(action.get_property_value(property));
+        text += gfpq_from_local(action.get_property_label(property));
+        text += QLatin1Char(' ');
+        text += gfpq_from_local(action.get_property_value(property));
     }
     return text;
 }
 
-// The item keeps its natural width: no line is wrapped, and each is aligned within the widest. Text and format go in as
-// one edit, and nothing is kept for an undo, because every step of its own would lay the document out anew.
+// The item keeps its natural width: no line is wrapped, and each is aligned within the widest. Format and text go in as
+// one edit, and nothing is kept for an undo: every step of its own would lay the document out anew. The lines that the
+// text brings take the format over from the empty one.
 void set_aligned_text(GFPQ_GRAPHICS_TEXT_ITEM& item, const QString& text, Qt::Alignment alignment)
 {
     QTextDocument& document = *item.document();
@@ -114,9 +116,8 @@ void set_aligned_text(GFPQ_GRAPHICS_TEXT_ITEM& item, const QString& text, Qt::Al
     format.setAlignment(alignment);
     QTextCursor cursor(&document);
     cursor.beginEditBlock();
-    cursor.insertText(text);
-    cursor.select(QTextCursor::Document);
     cursor.mergeBlockFormat(format);
+    cursor.insertText(text);
     cursor.endEditBlock();
     item.setTextWidth(item.boundingRect().width());
 }

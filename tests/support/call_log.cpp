@@ -1,16 +1,5 @@
 #include "call_log.h"
 
-namespace {
-
-// "find_flash" of `mgr.find_flash("A", true)`.
-QString function_of(const QString& call)
-{
-    const QString head = call.left(call.indexOf(QLatin1Char('(')));
-    return head.mid(head.lastIndexOf(QLatin1Char('.')) + 1);
-}
-
-} // namespace
-
 CALL_LOG& CALL_LOG::instance()
 {
     static CALL_LOG log;
@@ -22,6 +11,7 @@ void CALL_LOG::record(const QString& object, const QString& function, const QStr
     const QString call = object + QLatin1Char('.') + function + QLatin1Char('(') + arguments.join(QLatin1String(", ")) +
                          QLatin1Char(')');
     m_calls.append(call);
+    m_functions.append(function);
     const auto found = m_hooks.find(function);
     if (found == m_hooks.end())
         return;
@@ -33,9 +23,9 @@ void CALL_LOG::record(const QString& object, const QString& function, const QStr
 QStringList CALL_LOG::calls_of(const QStringList& functions) const
 {
     QStringList result;
-    for (const QString& call : m_calls) {
-        if (functions.contains(function_of(call)))
-            result.append(call);
+    for (int index = 0; index < m_calls.size(); ++index) {
+        if (functions.contains(m_functions.at(index)))
+            result.append(m_calls.at(index));
     }
     return result;
 }
@@ -43,9 +33,9 @@ QStringList CALL_LOG::calls_of(const QStringList& functions) const
 QStringList CALL_LOG::calls_without(const QStringList& functions) const
 {
     QStringList result;
-    for (const QString& call : m_calls) {
-        if (!functions.contains(function_of(call)))
-            result.append(call);
+    for (int index = 0; index < m_calls.size(); ++index) {
+        if (!functions.contains(m_functions.at(index)))
+            result.append(m_calls.at(index));
     }
     return result;
 }
@@ -63,11 +53,13 @@ void CALL_LOG::on_call(const QString& function, HOOK hook)
 void CALL_LOG::clear()
 {
     m_calls.clear();
+    m_functions.clear();
 }
 
 void CALL_LOG::reset()
 {
     m_calls.clear();
+    m_functions.clear();
     m_hooks.clear();
 }
 

@@ -42,6 +42,8 @@ public:
 
 private:
     QStringList m_calls;
+    // The function of each call.
+    QStringList m_functions;
     std::map<QString, std::vector<HOOK>> m_hooks;
 };
 

@@ -2,12 +2,12 @@
 
 #include "gfpq_operation_tab_widget.h"
 
-#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QTableView>
+#include <QWindow>
 
 namespace {
 
@@ -30,6 +30,11 @@ bool is_connector(const QAbstractGraphicsShapeItem& item)
 {
     const auto* const polygon = dynamic_cast<const QGraphicsPolygonItem*>(&item);
     return polygon != nullptr && polygon->polygon().size() == LOOP_CONNECTOR_POINTS;
+}
+
+QPoint in_window(const QGraphicsView& view, const QPointF& scene_pos)
+{
+    return view.viewport()->mapTo(view.window(), in_viewport(view, scene_pos));
 }
 
 bool is_arrow(const QAbstractGraphicsShapeItem& item)
@@ -138,16 +143,12 @@ QPoint in_viewport(const QGraphicsView& view, const QPointF& scene_pos)
 
 void click(QGraphicsView& view, const QPointF& scene_pos, Qt::KeyboardModifiers modifiers, Qt::MouseButton button)
 {
-    QTest::mouseClick(view.viewport(), button, modifiers, in_viewport(view, scene_pos));
+    QTest::mouseClick(view.window()->windowHandle(), button, modifiers, in_window(view, scene_pos));
 }
 
 void right_click(QGraphicsView& view, const QPointF& scene_pos)
 {
-    const QPoint pos = in_viewport(view, scene_pos);
-    QTest::mousePress(view.viewport(), Qt::RightButton, Qt::NoModifier, pos);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, pos, view.viewport()->mapToGlobal(pos));
-    QApplication::sendEvent(view.viewport(), &event);
-    QTest::mouseRelease(view.viewport(), Qt::RightButton, Qt::NoModifier, pos);
+    click(view, scene_pos, Qt::NoModifier, Qt::RightButton);
 }
 
 bool drop_text(QGraphicsView& view, const QPointF& scene_pos, const QString& text)

@@ -20,13 +20,13 @@ class QTableView;
 class OPEN_SCENE : public GFPQ_FLOW_SCENE
 {
 public:
-    using GFPQ_FLOW_SCENE::GFPQ_FLOW_SCENE;
     using GFPQ_FLOW_SCENE::add_action_block;
     using GFPQ_FLOW_SCENE::add_arrow;
     using GFPQ_FLOW_SCENE::add_loop_back;
     using GFPQ_FLOW_SCENE::clear_flow_chain;
     using GFPQ_FLOW_SCENE::create_text_item;
     using GFPQ_FLOW_SCENE::find_insert_index;
+    using GFPQ_FLOW_SCENE::GFPQ_FLOW_SCENE;
 };
 
 // The actions that a scene told as selected, in order.
@@ -81,12 +81,12 @@ GFPQ_GRAPHICS_TEXT_ITEM* text_of(const QGraphicsItem& shape);
 QPointF on_arrow(const QGraphicsScene& scene, int index);
 QPointF on_shape(const QGraphicsScene& scene, int index);
 
-// A view of `scene`, shown and active, large enough for a short chart.
-std::unique_ptr<QGraphicsView> show_view(QGraphicsScene& scene, const QSize& size = QSize(700, 1500));
+// A view of `scene`, shown and active, large enough for a chart of three or four actions.
+std::unique_ptr<QGraphicsView> show_view(QGraphicsScene& scene, const QSize& size = QSize(700, 780));
 QPoint in_viewport(const QGraphicsView& view, const QPointF& scene_pos);
+// Mouse clicks as the window system sends them; a right click brings the context menu with it.
 void click(QGraphicsView& view, const QPointF& scene_pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
            Qt::MouseButton button = Qt::LeftButton);
-// Right click: the press, and the context menu event that the window system sends with it.
 void right_click(QGraphicsView& view, const QPointF& scene_pos);
 // Drags `text` over the view and drops it, as the window system would. True when the view took it.
 bool drop_text(QGraphicsView& view, const QPointF& scene_pos, const QString& text);
@@ -98,7 +98,7 @@ MODAL_DRIVER::ACTION insert_by_menu(const QString& entry, QStringList* insert_en
 
 // A page, shown, activated and active; its parts.
 std::unique_ptr<GPFQ_OPERATION_TAB_WIDGET> show_page(int operation, const std::vector<GFPDB_ACTION*>& actions,
-                                                     bool editable = true, const QSize& size = QSize(900, 1200));
+                                                     bool editable = true, const QSize& size = QSize(790, 780));
 QGraphicsView* flow_view_of(const QWidget& page);
 QGraphicsView* palette_view_of(const QWidget& page);
 QTableView* property_table_of(const QWidget& page);

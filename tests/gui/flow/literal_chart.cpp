@@ -134,8 +134,8 @@ private:
 
     void draw_arrow(double x, double y)
     {
-        auto* const arrow = new QGraphicsPolygonItem(QPolygonF(
-            {{x, y}, {x, y + 47}, {x - 18, y + 47}, {x, y + 65}, {x + 18, y + 47}, {x, y + 47}}));
+        auto* const arrow = new QGraphicsPolygonItem(
+            QPolygonF({{x, y}, {x, y + 47}, {x - 18, y + 47}, {x, y + 65}, {x + 18, y + 47}, {x, y + 47}}));
         paint(arrow, Qt::black);
         arrow->setPen(QPen(Qt::black, 2));
         m_scene.addItem(arrow);
@@ -165,8 +165,8 @@ private:
     {
         QGraphicsTextItem* const text = action_text(action);
         const double x = m_cx - text->boundingRect().width() * 0.5;
-        static const std::vector<QColor> colors = {{255, 255, 127}, {170, 255, 127}, {255, 170, 0},
-                                                   {85, 255, 255},  {226, 151, 226}};
+        static const std::vector<QColor> colors = {
+            {255, 255, 127}, {170, 255, 127}, {255, 170, 0}, {85, 255, 255}, {226, 151, 226}};
         if (action.type >= 0 && action.type <= 4)
             draw_block(text, x, colors[static_cast<std::size_t>(action.type)], m_editable, false);
         else if (action.type == 5 && action.marker == "end")

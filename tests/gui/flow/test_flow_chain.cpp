@@ -149,9 +149,9 @@ void TEST_FLOW_CHAIN::the_meta_object_lists_signals_and_slots_in_order()
     QStringList signatures;
     for (int index = meta.methodOffset(); index < meta.methodCount(); ++index) {
         const QMetaMethod method = meta.method(index);
-        signatures.append((method.methodType() == QMetaMethod::Signal ? QStringLiteral("signal ")
-                                                                      : QStringLiteral("slot ")) +
-                          QString::fromLatin1(method.methodSignature()));
+        signatures.append(
+            (method.methodType() == QMetaMethod::Signal ? QStringLiteral("signal ") : QStringLiteral("slot ")) +
+            QString::fromLatin1(method.methodSignature()));
     }
 
     const QStringList expected{QStringLiteral("signal emit_action_selection_changed(GFPDB_ACTION*)"),
@@ -189,9 +189,12 @@ void TEST_FLOW_CHAIN::a_chart_is_drawn_as_the_plain_steps_draw_it_data()
         return actions;
     };
     const auto loop = [] {
-        return ACTIONS{make_named_action(0, "before"), make_loop_action("page", "start"),
-                       make_named_action(2, "a page program of a fairly long name"), make_named_action(1, "poll"),
-                       make_loop_action("page", "end"), make_named_action(4, "after")};
+        return ACTIONS{make_named_action(0, "before"),
+                       make_loop_action("page", "start"),
+                       make_named_action(2, "a page program of a fairly long name"),
+                       make_named_action(1, "poll"),
+                       make_loop_action("page", "end"),
+                       make_named_action(4, "after")};
     };
     add("no action", [] { return ACTIONS(); });
     add("one of each type", one_of_each);
@@ -692,7 +695,8 @@ void TEST_FLOW_CHAIN::without_a_manager_nothing_is_copied()
 
 void TEST_FLOW_CHAIN::copies_have_every_value_of_their_sources()
 {
-    const ACTION_LIST actions({make_action(3, {{22, "6Bh"}, {28, "8"}, {30, "1-1-4"}}), make_loop_action("die", "start")});
+    const ACTION_LIST actions(
+        {make_action(3, {{22, "6Bh"}, {28, "8"}, {30, "1-1-4"}}), make_loop_action("die", "start")});
     GFPQ_FLOW_SCENE scene(nullptr, 0);
 
     load(scene, actions.get());
@@ -770,7 +774,8 @@ void TEST_FLOW_CHAIN::five_thousand_actions_and_very_long_values_are_drawn()
     view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
     QVERIFY(!view->grab().isNull());
     QVERIFY(scene.sceneRect().width() > 300000);
-    QCOMPARE(scene.sceneRect().bottom(), shapes_of(scene).last()->y() + shapes_of(scene).last()->boundingRect().height() + 15);
+    QCOMPARE(scene.sceneRect().bottom(),
+             shapes_of(scene).last()->y() + shapes_of(scene).last()->boundingRect().height() + 15);
 }
 
 GFPQ_TEST_MAIN(TEST_FLOW_CHAIN)
