@@ -111,11 +111,14 @@ GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_f
 {
     Q_UNUSED(load_flows)
     m_last_error.clear();
-    if (GFPDB_FLASH* device = find_device(name))
-        return device;
-    if (is_builtin_flash(name))
-        return gfpdb_builtin_record(name);
-    return find_template(name);
+    GFPDB_FLASH* found = find_device(name);
+    if (found == nullptr && is_builtin_flash(name))
+        found = gfpdb_builtin_record(name);
+    if (found == nullptr)
+        found = find_template(name);
+    if (found != nullptr)
+        m_last_error.clear();
+    return found;
 }
 
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
@@ -126,7 +129,7 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
     if (GFPDB_EMBEDDED_FLASH* record = find_read(place, revision))
         return record;
     const std::optional<GFPDB_ROW> row = m_store->find_device(m_family, m_scheme, name);
-    return row ? keep_read(place, *row, false) : nullptr;
+    return row ? keep_read(place, *row, false) : nothing_read();
 }
 
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
@@ -135,7 +138,7 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
     if (GFPDB_EMBEDDED_FLASH* record = find_read(place, m_store->get_template_revision(name)))
         return record;
     const std::optional<GFPDB_ROW> row = m_store->find_template(name);
-    return row ? keep_read(place, *row, true) : nullptr;
+    return row ? keep_read(place, *row, true) : nothing_read();
 }
 
 // The record that was read from `place` of the current database, if it is still what is stored there.
@@ -158,6 +161,14 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::keep_read(const std::string& place, co
     }
     m_records.push_back(std::move(record));
     return m_read_records[directory + place] = m_records.back().get();
+}
+
+// Remembers why, if the database could not be read.
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::nothing_read()
+{
+    if (!m_store->get_last_error().empty())
+        m_last_error = m_store->get_last_error();
+    return nullptr;
 }
 
 bool GFPDB_EMBEDDED_MGR::is_builtin_flash(const std::string& name) const

@@ -76,6 +76,7 @@ private:
     GFPDB_EMBEDDED_FLASH* find_template(const std::string& name);
     GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::string& revision) const;
     GFPDB_EMBEDDED_FLASH* keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template);
+    GFPDB_EMBEDDED_FLASH* nothing_read();
     bool check_device_name(const std::string& name, std::string& error) const;
     bool check_template_name(const std::string& name, std::string& error) const;
     bool fail(const std::string& error);

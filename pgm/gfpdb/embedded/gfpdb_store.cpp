@@ -4,6 +4,7 @@
 // back would drop byte order marks and replace some characters.
 #include "gfpdb_store.h"
 
+#include "gfpdb_log.h"
 #include "gfpdb_text.h"
 
 #include <QDateTime>
@@ -148,20 +149,9 @@ GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
 
 } // namespace
 
-bool GFPDB_STORE::prepare(QSqlQuery& query, const char* statement)
-{
-    query = QSqlQuery(database());
-    query.setForwardOnly(true);
-    return query.prepare(QLatin1String(statement)) || fail(query.lastError());
-}
-
 bool GFPDB_STORE::start_read(QSqlQuery& query, const char* statement)
 {
-    if (!prepare_read())
-        return false;
-    const bool is_prepared = prepare(query, statement);
-    m_read_problem = is_prepared ? std::string() : m_last_error;
-    return is_prepared;
+    return prepare_read() && (prepare(query, statement) || note_read_problem());
 }
 
 // The next row of `query`, which is run when it has no row yet; false at the end and, with the problem kept, on
@@ -169,12 +159,23 @@ bool GFPDB_STORE::start_read(QSqlQuery& query, const char* statement)
 bool GFPDB_STORE::next_row(QSqlQuery& query)
 {
     const bool is_run = query.isActive() || query.exec();
+    if (is_run && m_is_locked)
+        m_read_problem.clear();
     if (is_run && query.next())
         return true;
     if (query.lastError().isValid()) {
         fail(query.lastError());
-        m_read_problem = m_last_error;
+        note_read_problem();
     }
+    return false;
+}
+
+// A lock is forgotten when a read succeeds again; damage stays known until the file is opened anew.
+bool GFPDB_STORE::note_read_problem()
+{
+    if (m_read_problem != m_last_error)
+        qCWarning(GFPDB_LOG, "%s", m_last_error.c_str());
+    m_read_problem = m_last_error;
     return false;
 }
 
@@ -244,6 +245,17 @@ std::string GFPDB_STORE::get_template_revision(const std::string& template_name)
         return std::string();
     bind_text(query, gfpdb_name_key(template_name));
     return next_row(query) ? text_at(query, 0) : std::string();
+}
+
+bool GFPDB_STORE::check_integrity()
+{
+    QSqlQuery query;
+    if (!start_read(query, "PRAGMA integrity_check"))
+        return m_last_error.empty();
+    if (!next_row(query))
+        return false;
+    const std::string verdict = text_at(query, 0);
+    return verdict == "ok" || fail("The database in " + m_directory + " is damaged: " + verdict);
 }
 
 bool GFPDB_STORE::has_device(const std::string& name)

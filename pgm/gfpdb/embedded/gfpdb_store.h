@@ -128,13 +128,14 @@ private:
     void set_problem(STATE state, const std::string& problem);
     bool fail(const std::string& error);
     bool fail(const QSqlError& error);
+    bool prepare(QSqlQuery& query, const char* statement);
     bool run(const char* statement);
     bool run(QSqlQuery& query);
 
     // gfpdb_store.cpp: the records.
-    bool prepare(QSqlQuery& query, const char* statement);
     bool start_read(QSqlQuery& query, const char* statement);
     bool next_row(QSqlQuery& query);
+    bool note_read_problem();
     std::vector<std::string> read_names(QSqlQuery& query);
     bool put_back(const GFPDB_HISTORY_ENTRY& entry);
     bool check_free_names(const GFPDB_ROW& row);

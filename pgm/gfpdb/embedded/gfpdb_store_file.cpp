@@ -29,6 +29,9 @@ constexpr int DEFAULT_BUSY_TIMEOUT_MS = 5000;
 // wait for every one of them; a change tries at once.
 constexpr std::chrono::seconds RETRY_INTERVAL(2);
 
+// SQLite's smallest page. It would take a file of less than a header for one that was not written yet.
+constexpr off_t SMALLEST_FILE = 512;
+
 // Result codes of SQLite.
 constexpr int SQLITE_CODE_MASK = 0xFF;
 constexpr int SQLITE_CODE_ERROR = 1;
@@ -204,6 +207,13 @@ bool GFPDB_STORE::fail(const QSqlError& error)
     return fail(describe(error, file_path()));
 }
 
+bool GFPDB_STORE::prepare(QSqlQuery& query, const char* statement)
+{
+    query = QSqlQuery(database());
+    query.setForwardOnly(true);
+    return query.prepare(QLatin1String(statement)) || fail(query.lastError());
+}
+
 bool GFPDB_STORE::run(QSqlQuery& query)
 {
     return query.exec() || fail(query.lastError());
@@ -273,6 +283,9 @@ bool GFPDB_STORE::examine_file()
         set_problem(STATE::UNUSABLE, "The database " + file_path() +
                                          " is empty: its content was lost. It is left as it is; put a copy in its " +
                                          "place, or remove it to begin anew.");
+    else if (status.st_size < SMALLEST_FILE)
+        set_problem(STATE::UNUSABLE,
+                    "The file " + file_path() + " is not a database (too short). It is left as it is.");
     else
         return true;
     return false;
@@ -288,18 +301,18 @@ bool GFPDB_STORE::connect(const std::string& path, const char* mode)
     return (connection.open() || fail(connection.lastError())) && run("PRAGMA synchronous = FULL");
 }
 
+// A database without the table is one that this library did not make.
 std::optional<std::string> GFPDB_STORE::read_meta(const char* name)
 {
-    QSqlQuery query(database());
-    query.prepare(QStringLiteral("SELECT value FROM meta WHERE name = ?"));
-    query.addBindValue(QLatin1String(name));
-    if (!query.exec()) {
+    QSqlQuery query;
+    if (!prepare(query, "SELECT value FROM meta WHERE name = ?")) {
         if (code_of(query.lastError()) == SQLITE_CODE_ERROR)
             fail("The file " + file_path() + " is a database of another program. It is left as it is.");
-        else
-            fail(query.lastError());
         return std::nullopt;
     }
+    query.addBindValue(QLatin1String(name));
+    if (!run(query))
+        return std::nullopt;
     return query.next() ? gfpdb_to_utf8(query.value(0).toString()) : std::string();
 }
 
@@ -362,8 +375,9 @@ bool GFPDB_STORE::run_step(int from)
         if (!run(statement))
             return false;
     }
-    QSqlQuery query(database());
-    query.prepare(QStringLiteral("UPDATE meta SET value = ? WHERE name = 'schema_version'"));
+    QSqlQuery query;
+    if (!prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'"))
+        return false;
     query.addBindValue(QString::number(from + 1));
     return run(query);
 }
@@ -391,8 +405,9 @@ bool GFPDB_STORE::build_new_file(const std::string& path)
         if (!run_step(version))
             return false;
     }
-    QSqlQuery query(database());
-    query.prepare(QStringLiteral("INSERT INTO meta (name, value) VALUES ('database_id', ?)"));
+    QSqlQuery query;
+    if (!prepare(query, "INSERT INTO meta (name, value) VALUES ('database_id', ?)"))
+        return false;
     query.addBindValue(QUuid::createUuid().toString(QUuid::WithoutBraces));
     return run(query) && run("COMMIT");
 }

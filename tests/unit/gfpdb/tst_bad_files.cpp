@@ -1,0 +1,417 @@
+// Databases that cannot be used: what the user is told, what works all the same, and that nothing is overwritten.
+#include "gfpdb/gfpdb_helper.h"
+#include "gfpdb_embedded_mgr.h"
+#include "gfpdb_test.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+const char BUSY_TIMEOUT_MS[] = "50";
+
+void expect_warning(const std::string& text)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(QString::fromStdString(text))));
+}
+
+// Another program that holds the database of `path` locked as long as this object lives.
+class OTHER_PROGRAM
+{
+public:
+    OTHER_PROGRAM(const std::string& path, const char* statement)
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), NAME);
+        database.setDatabaseName(QString::fromStdString(path));
+        if (!database.open() || !QSqlQuery(database).exec(QLatin1String(statement)))
+            qFatal("cannot lock %s", path.c_str());
+    }
+    ~OTHER_PROGRAM() { QSqlDatabase::removeDatabase(NAME); }
+
+private:
+    const QString NAME = QStringLiteral("the other program");
+};
+
+QStringList entries(const std::string& directory)
+{
+    return QDir(QString::fromStdString(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+} // namespace
+
+class TST_BAD_FILES : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void a_file_that_is_no_usable_database_is_left_alone_data();
+    void a_file_that_is_no_usable_database_is_left_alone();
+    void a_truncated_database_is_left_alone_data();
+    void a_truncated_database_is_left_alone();
+    void a_damaged_page_is_reported_when_it_is_read();
+    void a_directory_that_is_none_is_reported_data();
+    void a_directory_that_is_none_is_reported();
+    void a_problem_is_logged_once();
+    void a_problem_that_went_away_is_gone();
+    void a_database_locked_for_reading_is_reported();
+    void a_locked_database_is_read_again_when_the_lock_is_gone();
+    void a_database_locked_for_writing_can_be_read();
+    void a_change_waits_for_a_lock_that_goes_away();
+    void the_busy_timeout_comes_from_the_settings();
+    void a_directory_without_a_database_has_no_problem();
+
+private:
+    void make_database();
+    void verify_unusable(const std::string& problem);
+
+    std::unique_ptr<GFPDB_PLACE> m_place;
+    GFPDB_MGR* m_mgr = nullptr;
+};
+
+void TST_BAD_FILES::init()
+{
+    m_place = std::make_unique<GFPDB_PLACE>();
+    write_file(m_place->settings(), "[database]\nbusy_timeout=" + std::string(BUSY_TIMEOUT_MS) + "\n");
+}
+
+void TST_BAD_FILES::cleanup()
+{
+    m_place.reset();
+}
+
+// With the devices A and B and the template T.
+void TST_BAD_FILES::make_database()
+{
+    m_mgr = fresh_manager();
+    GFPDB_FLASH* record = make_device(*m_mgr, "A");
+    record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, "T");
+    QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "B"), m_place->db_dir()));
+    // The connection of this process is not to hold the file.
+    GFPDB_MGR::set_db_custom_dir(m_place->path(""));
+    fresh_manager();
+    GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
+}
+
+// A newly fetched manager says `problem` wherever a user looks, changes nothing and still has what is built in.
+void TST_BAD_FILES::verify_unusable(const std::string& problem)
+{
+    NAMES names;
+    m_mgr = fresh_manager();
+    expect_warning(problem);
+    const std::string told = GFPDB_HELPER::get_database_problem();
+    QVERIFY2(told.find(problem) != std::string::npos, told.c_str());
+    QVERIFY(!m_mgr->is_writable());
+
+    QCOMPARE(custom_names(*m_mgr), NAMES());
+    QCOMPARE(user_templates(*m_mgr), NAMES());
+    QVERIFY(m_mgr->find_flash("A", true) == nullptr);
+    QCOMPARE(m_mgr->get_last_error(), told);
+    QVERIFY(m_mgr->can_add_flash());
+    QCOMPARE(m_mgr->get_builtin_flash_names(names, FAMILY, SERIAL, 0).size(), std::size_t(146));
+    QVERIFY(m_mgr->find_flash("MX25L25645G", true) != nullptr);
+    QCOMPARE(m_mgr->get_template_list(names).size(), std::size_t(5));
+
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "C"), told);
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "C"), told);
+    const auto is_refused = [&](bool done) { return !done && m_mgr->get_last_error() == told; };
+    expect_warning(problem);
+    QVERIFY(is_refused(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir())));
+    expect_warning(problem);
+    QVERIFY(is_refused(m_mgr->delete_flash("A", m_place->db_dir())));
+    expect_warning(problem);
+    QVERIFY(is_refused(m_mgr->remove_template("T")));
+    expect_warning(problem);
+    QVERIFY(is_refused(m_mgr->restore_flash(1, m_place->db_dir())));
+    expect_warning(problem);
+    expect_warning("was not made the database directory");
+    QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
+}
+
+void TST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("statement");
+    QTest::addColumn<QByteArray>("problem");
+    const QByteArray nothing;
+    QTest::newRow("empty") << nothing << nothing << QByteArrayLiteral("gfpdb.sqlite is empty: its content was lost");
+    QTest::newRow("a text") << QByteArray(2000, 'x') << nothing << QByteArrayLiteral("gfpdb.sqlite is not a database");
+    QTest::newRow("one byte") << QByteArrayLiteral("x") << nothing
+                              << QByteArrayLiteral("gfpdb.sqlite is not a database");
+    QTest::newRow("zeros") << QByteArray(8192, '\0') << nothing << QByteArrayLiteral("gfpdb.sqlite is not a database");
+    QTest::newRow("another program's database") << nothing << QByteArrayLiteral("CREATE TABLE recipes (name TEXT)")
+                                                << QByteArrayLiteral("gfpdb.sqlite is a database of another program");
+    QTest::newRow("another program's meta table")
+        << nothing << QByteArrayLiteral("CREATE TABLE meta (name TEXT, value TEXT)")
+        << QByteArrayLiteral("gfpdb.sqlite is a database of another program");
+}
+
+void TST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, statement);
+    QFETCH(QByteArray, problem);
+    write_file(m_place->db_file(), content.toStdString());
+    if (!statement.isEmpty())
+        QVERIFY(run_sql(m_place->db_file(), statement.toStdString()).isValid());
+    const std::string before = read_file(m_place->db_file());
+
+    verify_unusable(problem.toStdString());
+    QCOMPARE(read_file(m_place->db_file()), before);
+    QCOMPARE(entries(m_place->db_dir()), QStringList(QStringLiteral("gfpdb.sqlite")));
+}
+
+void TST_BAD_FILES::a_truncated_database_is_left_alone_data()
+{
+    QTest::addColumn<int>("missing");
+    for (const int missing : {1, 100, 4095, 4096, 4097, 20000})
+        QTest::addRow("%d bytes missing", missing) << missing;
+    QTest::newRow("100 bytes left") << -100;
+    QTest::newRow("16 bytes left") << -16;
+    QTest::newRow("10 bytes left") << -10;
+}
+
+void TST_BAD_FILES::a_truncated_database_is_left_alone()
+{
+    QFETCH(int, missing);
+    make_database();
+    const std::string whole = read_file(m_place->db_file());
+    const std::string kept = whole.substr(0, missing > 0 ? whole.size() - std::size_t(missing) : std::size_t(-missing));
+    write_file(m_place->db_file(), kept);
+
+    verify_unusable("It is left as it is.");
+    QCOMPARE(read_file(m_place->db_file()), kept);
+}
+
+// Whole pages of the device's record are overwritten; the list of names does not need them.
+void TST_BAD_FILES::a_damaged_page_is_reported_when_it_is_read()
+{
+    make_database();
+    std::string content = read_file(m_place->db_file());
+    const int root = run_sql(m_place->db_file(), "SELECT rootpage FROM sqlite_master WHERE name = 'device'").toInt();
+    const std::size_t page = 4096;
+    content.replace(page * std::size_t(root - 1), page, std::string(page, 'x'));
+    write_file(m_place->db_file(), content);
+
+    m_mgr = fresh_manager();
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+    expect_warning("gfpdb.sqlite is damaged");
+    QVERIFY(m_mgr->find_flash("A", true) == nullptr);
+    QVERIFY(m_mgr->get_last_error().find("gfpdb.sqlite is damaged") != std::string::npos);
+    QVERIFY(GFPDB_HELPER::get_database_problem().find("gfpdb.sqlite is damaged") != std::string::npos);
+    QVERIFY(!GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
+    expect_warning("gfpdb.sqlite is damaged");
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
+    QCOMPARE(read_file(m_place->db_file()), content);
+}
+
+void TST_BAD_FILES::a_directory_that_is_none_is_reported_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<QByteArray>("problem");
+    QTest::newRow("missing") << QStringLiteral("missing/") << QByteArrayLiteral("missing/ does not exist.");
+    QTest::newRow("a file") << QStringLiteral("file/")
+                            << QByteArrayLiteral("file/ is not a directory: a part of it is a file.");
+    QTest::newRow("a circle") << QStringLiteral("circle/") << QByteArrayLiteral("circle/ cannot be reached: ");
+    QTest::newRow("a directory in the file's place")
+        << QStringLiteral("place/") << QByteArrayLiteral("place/gfpdb.sqlite is not a file.");
+}
+
+void TST_BAD_FILES::a_directory_that_is_none_is_reported()
+{
+    QFETCH(QString, directory);
+    QFETCH(QByteArray, problem);
+    write_file(m_place->path("file"), "content");
+    QCOMPARE(::symlink("circle", m_place->path("circle").c_str()), 0);
+    make_dir(m_place->path("place/gfpdb.sqlite"));
+    const std::string path = m_place->path(directory.toStdString());
+    GFPDB_MGR::set_db_custom_dir(path);
+
+    m_mgr = fresh_manager();
+    expect_warning(problem.toStdString());
+    const std::string told = GFPDB_HELPER::get_database_problem();
+    QVERIFY2(told.find(problem.toStdString()) != std::string::npos, told.c_str());
+    QCOMPARE(custom_names(*m_mgr), NAMES());
+    QVERIFY(m_mgr->find_flash("MX25L25645G", true) != nullptr);
+    expect_warning(problem.toStdString());
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), path));
+    QCOMPARE(m_mgr->get_last_error(), told);
+    expect_warning(problem.toStdString());
+    QVERIFY(!m_mgr->delete_flash("C", path));
+    QVERIFY(!QFile::exists(QString::fromStdString(m_place->path("missing"))));
+    QCOMPARE(read_file(m_place->path("file")), std::string("content"));
+}
+
+// Every warning that a test does not expect fails it when it runs with the others; here the second would be one.
+void TST_BAD_FILES::a_problem_is_logged_once()
+{
+    static int warnings = 0;
+    write_file(m_place->db_file(), "x");
+    m_mgr = fresh_manager();
+    warnings = 0;
+    const QtMessageHandler former = qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext&, const QString&) { warnings += type == QtWarningMsg; });
+
+    for (int i = 0; i < 3; ++i) {
+        GFPDB_HELPER::get_database_problem();
+        custom_names(*m_mgr);
+    }
+    const int before_reload = warnings;
+    fresh_manager();
+    GFPDB_HELPER::get_database_problem();
+    qInstallMessageHandler(former);
+
+    QCOMPARE(before_reload, 1);
+    QCOMPARE(warnings, 2);
+}
+
+void TST_BAD_FILES::a_problem_that_went_away_is_gone()
+{
+    write_file(m_place->db_file(), "x");
+    m_mgr = fresh_manager();
+    expect_warning("is not a database");
+    QVERIFY(!GFPDB_HELPER::get_database_problem().empty());
+    QVERIFY(QFile::remove(QString::fromStdString(m_place->db_file())));
+
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "A"), std::string());
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
+}
+
+void TST_BAD_FILES::a_database_locked_for_reading_is_reported()
+{
+    make_database();
+    const OTHER_PROGRAM other(m_place->db_file(), "BEGIN EXCLUSIVE");
+    const std::string before = read_file(m_place->db_file());
+
+    verify_unusable("gfpdb.sqlite is locked by another program");
+    QCOMPARE(read_file(m_place->db_file()), before);
+}
+
+void TST_BAD_FILES::a_locked_database_is_read_again_when_the_lock_is_gone()
+{
+    make_database();
+    {
+        const OTHER_PROGRAM other(m_place->db_file(), "BEGIN EXCLUSIVE");
+        m_mgr = fresh_manager();
+        expect_warning("is locked by another program");
+        QCOMPARE(custom_names(*m_mgr), NAMES());
+    }
+
+    QTRY_COMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+    {
+        const OTHER_PROGRAM other(m_place->db_file(), "BEGIN EXCLUSIVE");
+        expect_warning("is locked by another program");
+        QCOMPARE(custom_names(*m_mgr), NAMES());
+        QVERIFY(GFPDB_HELPER::get_database_problem().find("is locked by another program") != std::string::npos);
+    }
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+}
+
+void TST_BAD_FILES::a_database_locked_for_writing_can_be_read()
+{
+    make_database();
+    m_mgr = fresh_manager();
+    {
+        const OTHER_PROGRAM other(m_place->db_file(), "BEGIN IMMEDIATE");
+
+        QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+        expect_warning("is locked by another program");
+        QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+        QVERIFY(m_mgr->get_last_error().find("is locked by another program") != std::string::npos);
+        expect_warning("is locked by another program");
+        QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
+        QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+    }
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B", "C"}));
+}
+
+// The lock is held by a process of its own, which lets go while this one waits.
+void TST_BAD_FILES::a_change_waits_for_a_lock_that_goes_away()
+{
+    make_database();
+    write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n");
+    QProcess other;
+    other.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("hold-lock"), QString::fromStdString(m_place->db_file())});
+    QVERIFY(other.waitForReadyRead());
+    QCOMPARE(other.readAll(), QByteArrayLiteral("locked\n"));
+
+    m_mgr = fresh_manager();
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B", "C"}));
+    QVERIFY(other.waitForFinished());
+    QCOMPARE(other.exitCode(), 0);
+}
+
+void TST_BAD_FILES::the_busy_timeout_comes_from_the_settings()
+{
+    make_database();
+    const auto timeout = [this] {
+        fresh_manager();
+        custom_names(*GFPDB_HELPER::get_active_flash_manager(false));
+        QSqlQuery query(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+        return query.exec(QStringLiteral("PRAGMA busy_timeout")) && query.next() ? query.value(0).toInt() : -1;
+    };
+
+    QCOMPARE(timeout(), 50);
+    write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
+    QCOMPARE(timeout(), 0);
+    for (const char* value : {"", "x", "-1", "1.5"}) {
+        write_file(m_place->settings(), "[database]\nbusy_timeout=" + std::string(value) + "\n");
+        QCOMPARE(timeout(), 5000);
+    }
+}
+
+void TST_BAD_FILES::a_directory_without_a_database_has_no_problem()
+{
+    m_mgr = fresh_manager();
+
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+    QVERIFY(m_mgr->is_writable());
+    QCOMPARE(custom_names(*m_mgr), NAMES());
+    QVERIFY(m_mgr->find_flash("A", true) == nullptr);
+    QCOMPARE(m_mgr->get_last_error(), std::string());
+    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
+    QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
+    QCOMPARE(entries(m_place->db_dir()), QStringList());
+}
+
+namespace {
+
+constexpr useconds_t LOCK_US = 100000;
+
+// Locks the database in `path`, says so, and lets go after LOCK_US.
+int hold_lock(const QString& path)
+{
+    const OTHER_PROGRAM other(path.toStdString(), "BEGIN IMMEDIATE");
+    std::fputs("locked\n", stdout);
+    std::fflush(stdout);
+    ::usleep(LOCK_US);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    if (argc == 3 && QByteArray(argv[1]) == "hold-lock")
+        return hold_lock(QFile::decodeName(argv[2]));
+    TST_BAD_FILES test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_bad_files.moc"

@@ -1,0 +1,195 @@
+// Databases on a medium that cannot be written.
+#include "gfpdb/gfpdb_helper.h"
+#include "gfpdb_test.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <cerrno>
+#include <cstring>
+
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr uid_t NOBODY = 65534;
+
+void expect_warning(const std::string& text)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(QString::fromStdString(text))));
+}
+
+// A directory that can be filled, then sealed: nothing in it can be written until this object goes. Root, whom no
+// permission stops, gets a read-only mount of it; where that is not allowed, the process becomes another user.
+class READ_ONLY_DIR
+{
+public:
+    READ_ONLY_DIR() : m_dir(QDir::tempPath() + QLatin1String("/gfpdb-XXXXXX")) { ::chmod(path("").c_str(), 0755); }
+    ~READ_ONLY_DIR();
+    std::string path(const std::string& name) const { return m_dir.path().toStdString() + '/' + name; }
+    void seal();
+    // What the system says about writing there.
+    std::string why() const { return m_why; }
+
+private:
+    void forbid();
+
+    QTemporaryDir m_dir;
+    bool m_is_mounted = false;
+    bool m_is_nobody = false;
+    std::string m_why;
+};
+
+void READ_ONLY_DIR::seal()
+{
+    const std::string dir = path("");
+    m_is_mounted = ::geteuid() == 0 && ::mount(dir.c_str(), dir.c_str(), nullptr, MS_BIND, nullptr) == 0;
+    if (!m_is_mounted)
+        forbid();
+    else if (::mount(nullptr, dir.c_str(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) != 0)
+        qFatal("cannot make %s read-only: %s", dir.c_str(), std::strerror(errno));
+    if (::access(dir.c_str(), W_OK) == 0)
+        qFatal("%s can still be written", dir.c_str());
+    m_why = std::strerror(errno);
+}
+
+void READ_ONLY_DIR::forbid()
+{
+    ::chmod(path("gfpdb.sqlite").c_str(), 0444);
+    ::chmod(path("").c_str(), 0555);
+    m_is_nobody = ::geteuid() == 0 && ::setresuid(NOBODY, NOBODY, 0) == 0;
+}
+
+READ_ONLY_DIR::~READ_ONLY_DIR()
+{
+    if (m_is_nobody && ::setresuid(0, 0, 0) != 0)
+        qFatal("cannot become root again");
+    if (m_is_mounted)
+        ::umount2(path("").c_str(), MNT_DETACH);
+    ::chmod(path("").c_str(), 0755);
+}
+
+} // namespace
+
+class TST_READ_ONLY : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void the_devices_of_a_read_only_database_can_be_used_but_not_changed();
+    void a_read_only_database_of_an_older_schema_can_be_read();
+    void a_read_only_directory_without_a_database_is_refused();
+
+private:
+    void make_database();
+
+    std::unique_ptr<GFPDB_PLACE> m_place;
+    std::unique_ptr<READ_ONLY_DIR> m_dir;
+    GFPDB_MGR* m_mgr = nullptr;
+};
+
+void TST_READ_ONLY::init()
+{
+    m_place = std::make_unique<GFPDB_PLACE>();
+    m_dir = std::make_unique<READ_ONLY_DIR>();
+    GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
+}
+
+void TST_READ_ONLY::cleanup()
+{
+    GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
+    fresh_manager();
+    m_dir.reset();
+    m_place.reset();
+}
+
+// With the device A and the template T, and closed.
+void TST_READ_ONLY::make_database()
+{
+    m_mgr = fresh_manager();
+    GFPDB_FLASH* record = make_device(*m_mgr, "A");
+    record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, "T");
+    QVERIFY(m_mgr->save_flash(record, m_dir->path("")));
+    GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
+    fresh_manager();
+    GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
+}
+
+void TST_READ_ONLY::the_devices_of_a_read_only_database_can_be_used_but_not_changed()
+{
+    make_database();
+    const std::string before = read_file(m_dir->path("gfpdb.sqlite"));
+    m_dir->seal();
+    const std::string problem =
+        "The database " + m_dir->path("gfpdb.sqlite") + " can be read, but not changed: " + m_dir->why() + ".";
+
+    m_mgr = fresh_manager();
+    expect_warning(problem);
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), problem);
+    QVERIFY(!m_mgr->is_writable());
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+    QCOMPARE(user_templates(*m_mgr), NAMES{"T"});
+    QVERIFY(m_mgr->find_flash("A", true) != nullptr);
+    QVERIFY(m_mgr->can_add_flash());
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "B"), problem);
+
+    const auto is_refused = [&](bool done) { return !done && m_mgr->get_last_error() == problem; };
+    for (int i = 0; i < 4; ++i)
+        expect_warning(problem);
+    QVERIFY(is_refused(m_mgr->save_flash(make_device(*m_mgr, "B"), m_dir->path(""))));
+    QVERIFY(is_refused(m_mgr->delete_flash("A", m_dir->path(""))));
+    QVERIFY(is_refused(m_mgr->remove_template("T")));
+    QCOMPARE(read_file(m_dir->path("gfpdb.sqlite")), before);
+    QVERIFY(is_refused(m_mgr->delete_flash("A", std::string())));
+    expect_warning(problem);
+    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_dir->path(""), false));
+}
+
+void TST_READ_ONLY::a_read_only_database_of_an_older_schema_can_be_read()
+{
+    make_database();
+    for (const char* statement :
+         {"DROP INDEX device_names", "DROP INDEX device_keys", "DROP INDEX template_names",
+          "ALTER TABLE history DROP COLUMN changed_by", "UPDATE meta SET value = '1' WHERE name = 'schema_version'"})
+        QVERIFY(run_sql(m_dir->path("gfpdb.sqlite"), statement).isValid());
+    const std::string before = read_file(m_dir->path("gfpdb.sqlite"));
+    m_dir->seal();
+
+    m_mgr = fresh_manager();
+    expect_warning("can be read, but not changed");
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+    QVERIFY(m_mgr->find_flash("A", true) != nullptr);
+    QCOMPARE(user_templates(*m_mgr), NAMES{"T"});
+    QCOMPARE(read_file(m_dir->path("gfpdb.sqlite")), before);
+}
+
+void TST_READ_ONLY::a_read_only_directory_without_a_database_is_refused()
+{
+    m_dir->seal();
+    const std::string problem =
+        "The database directory " + m_dir->path("") + " holds no database, and none can be made: " + m_dir->why() + ".";
+
+    m_mgr = fresh_manager();
+    expect_warning(problem);
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), problem);
+    QVERIFY(!m_mgr->is_writable());
+    QCOMPARE(custom_names(*m_mgr), NAMES());
+    QVERIFY(m_mgr->find_flash("MX25L25645G", true) != nullptr);
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "A"), problem);
+    expect_warning(problem);
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_dir->path("")));
+    QCOMPARE(m_mgr->get_last_error(), problem);
+    expect_warning(problem);
+    expect_warning("was not made the database directory");
+    QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_dir->path(""), false));
+    QVERIFY(!QFile::exists(QString::fromStdString(m_dir->path("gfpdb.sqlite"))));
+}
+
+QTEST_GUILESS_MAIN(TST_READ_ONLY)
+#include "tst_read_only.moc"

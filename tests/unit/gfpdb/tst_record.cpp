@@ -1,0 +1,239 @@
+// The record in memory: its properties, its operations and who owns them.
+#include "gfpdb_embedded_flash.h"
+#include "gfpdb_operation.h"
+#include "gfpdb_test.h"
+
+namespace {
+
+// An operation that counts those that are alive.
+class COUNTED_OPERATION : public GFPDB_OPERATION
+{
+public:
+    explicit COUNTED_OPERATION(int kind) : GFPDB_OPERATION(kind) { ++alive; }
+    ~COUNTED_OPERATION() override { --alive; }
+    const std::vector<GFPDB_ACTION*>* get_actions() const override { return nullptr; }
+    int get_action_count() const override { return 0; }
+    void add_action(GFPDB_ACTION*) override {}
+
+    static int alive;
+};
+
+int COUNTED_OPERATION::alive = 0;
+
+} // namespace
+
+class TST_RECORD : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void a_new_record_has_its_name_and_nothing_else();
+    void texts_are_kept_as_they_are_data();
+    void texts_are_kept_as_they_are();
+    void numbers_are_kept_and_shown_in_decimal_data();
+    void numbers_are_kept_and_shown_in_decimal();
+    void a_property_of_the_other_kind_is_ignored();
+    void name_and_density_have_setters_of_their_own();
+    void flags_and_directory_are_kept();
+    void operations_come_in_the_order_in_which_they_were_set();
+    void the_variants_are_two_sets();
+    void an_operation_of_the_same_kind_is_replaced_and_deleted();
+    void clearing_deletes_both_variants();
+    void a_record_deletes_its_operations();
+    void an_operation_without_actions_is_stored();
+};
+
+void TST_RECORD::a_new_record_has_its_name_and_nothing_else()
+{
+    const GFPDB_EMBEDDED_FLASH record("A");
+
+    QCOMPARE(text_of(record), std::string("0=A\n1=\n2=\n3=\n4=\n5=\n6=\n7=\n8=\nsingle none\nquad none\n"));
+    QCOMPARE(record.get_int_property(GFPDB_FLASH_TOTAL_DIE, 7), 7);
+    QCOMPARE(record.get_device_family(), 0);
+    QCOMPARE(record.get_config_scheme(), -1);
+    QCOMPARE(record.get_db_dir(), std::string());
+    QCOMPARE(record.get_revision(), std::string());
+    QVERIFY(!record.is_user_defined());
+    QVERIFY(!record.is_template());
+    QVERIFY(record.is_unchanged());
+}
+
+void TST_RECORD::texts_are_kept_as_they_are_data()
+{
+    QTest::addColumn<int>("property");
+    for (const int property : {GFPDB_FLASH_NAME, GFPDB_FLASH_DEVICE_ID, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY,
+                               GFPDB_FLASH_TEMPLATE_NAME, GFPDB_FLASH_FLOW_TEMPLATE})
+        QTest::addRow("property %d", property) << property;
+}
+
+void TST_RECORD::texts_are_kept_as_they_are()
+{
+    QFETCH(int, property);
+    const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
+    const std::string value = std::string(" '\n\0\xFF<b>", 8);
+    GFPDB_EMBEDDED_FLASH record("A");
+    const std::string before = text_of(record);
+
+    record.set_string_property(id, value);
+    QCOMPARE(record.get_string_property(id), value);
+    QCOMPARE(record.get_int_property(id, 7), 7);
+    QVERIFY(!record.is_unchanged());
+    record.set_string_property(id, id == GFPDB_FLASH_NAME ? "A" : "");
+    QCOMPARE(text_of(record), before);
+}
+
+void TST_RECORD::numbers_are_kept_and_shown_in_decimal_data()
+{
+    QTest::addColumn<int>("property");
+    for (const int property :
+         {GFPDB_FLASH_TOTAL_DIE, GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK})
+        QTest::addRow("property %d", property) << property;
+}
+
+void TST_RECORD::numbers_are_kept_and_shown_in_decimal()
+{
+    QFETCH(int, property);
+    const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
+    GFPDB_EMBEDDED_FLASH record("A");
+
+    record.set_int_property(id, -12);
+    QCOMPARE(record.get_int_property(id, 7), -12);
+    QCOMPARE(record.get_string_property(id), std::string("-12"));
+    QVERIFY(!record.is_unchanged());
+    for (int other = 0; other <= 8; ++other) {
+        if (other != property)
+            QCOMPARE(record.get_int_property(static_cast<GFPDB_FLASH_PROPERTY>(other), 7), 7);
+    }
+}
+
+void TST_RECORD::a_property_of_the_other_kind_is_ignored()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+    const std::string before = text_of(record);
+
+    for (const int property : {-1, 0, 1, 2, 3, 7, 8, 9})
+        record.set_int_property(static_cast<GFPDB_FLASH_PROPERTY>(property), 5);
+    for (const int property : {-1, 4, 5, 6, 9})
+        record.set_string_property(static_cast<GFPDB_FLASH_PROPERTY>(property), "5");
+    QCOMPARE(text_of(record), before);
+    QCOMPARE(record.get_string_property(static_cast<GFPDB_FLASH_PROPERTY>(9)), std::string());
+    QVERIFY(record.is_unchanged());
+}
+
+void TST_RECORD::name_and_density_have_setters_of_their_own()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+
+    record.set_name("B");
+    record.set_density("8Mb");
+    QCOMPARE(record.get_name(), std::string("B"));
+    QCOMPARE(record.get_string_property(GFPDB_FLASH_NAME), std::string("B"));
+    QCOMPARE(record.get_density(), std::string("8Mb"));
+    QCOMPARE(record.get_string_property(GFPDB_FLASH_DENSITY), std::string("8Mb"));
+}
+
+void TST_RECORD::flags_and_directory_are_kept()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+
+    record.set_user_defined(true);
+    QVERIFY(record.is_user_defined());
+    record.set_user_defined(false);
+    QVERIFY(!record.is_user_defined());
+    record.set_db_dir("/a/");
+    QCOMPARE(record.get_db_dir(), std::string("/a/"));
+}
+
+void TST_RECORD::operations_come_in_the_order_in_which_they_were_set()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+    std::vector<GFPDB_OPERATION*> expected;
+    for (const int kind : {3, 0, 4, 1, 2}) {
+        expected.push_back(gfpdb_make_operation(kind));
+        record.set_operation(expected.back(), QUAD_IO);
+    }
+
+    QVERIFY(record.get_operations(QUAD_IO) != nullptr);
+    QCOMPARE(*record.get_operations(QUAD_IO), expected);
+    QCOMPARE(record.find_operation(4, QUAD_IO), expected[2]);
+    QVERIFY(record.find_operation(5, QUAD_IO) == nullptr);
+}
+
+void TST_RECORD::the_variants_are_two_sets()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+    GFPDB_OPERATION* single = gfpdb_make_operation(1);
+    GFPDB_OPERATION* quad = gfpdb_make_operation(1);
+    record.set_operation(single, SINGLE_IO);
+    QVERIFY(record.get_operations(QUAD_IO) == nullptr);
+    QVERIFY(record.find_operation(1, QUAD_IO) == nullptr);
+
+    record.set_operation(quad, QUAD_IO);
+    QCOMPARE(record.find_operation(1, SINGLE_IO), single);
+    QCOMPARE(record.find_operation(1, QUAD_IO), quad);
+}
+
+void TST_RECORD::an_operation_of_the_same_kind_is_replaced_and_deleted()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+    auto* first = new COUNTED_OPERATION(1);
+    auto* other = new COUNTED_OPERATION(2);
+    auto* second = new COUNTED_OPERATION(1);
+    record.set_operation(first, SINGLE_IO);
+    record.set_operation(other, SINGLE_IO);
+    QVERIFY(!record.is_unchanged());
+
+    record.set_operation(second, SINGLE_IO);
+    QCOMPARE(COUNTED_OPERATION::alive, 2);
+    QCOMPARE(*record.get_operations(SINGLE_IO), (std::vector<GFPDB_OPERATION*>{second, other}));
+    record.set_operation(second, SINGLE_IO);
+    QCOMPARE(COUNTED_OPERATION::alive, 2);
+    record.set_operation(nullptr, SINGLE_IO);
+    QCOMPARE(record.get_operations(SINGLE_IO)->size(), std::size_t(2));
+}
+
+void TST_RECORD::clearing_deletes_both_variants()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+    record.set_operation(new COUNTED_OPERATION(1), SINGLE_IO);
+    record.set_operation(new COUNTED_OPERATION(1), QUAD_IO);
+
+    record.clear_operations();
+    QCOMPARE(COUNTED_OPERATION::alive, 0);
+    QVERIFY(record.get_operations(SINGLE_IO) == nullptr);
+    QVERIFY(record.get_operations(QUAD_IO) == nullptr);
+}
+
+void TST_RECORD::a_record_deletes_its_operations()
+{
+    auto record = std::make_unique<GFPDB_EMBEDDED_FLASH>("A");
+    record->set_operation(new COUNTED_OPERATION(1), SINGLE_IO);
+    record->set_operation(new COUNTED_OPERATION(1), QUAD_IO);
+
+    record.reset();
+    QCOMPARE(COUNTED_OPERATION::alive, 0);
+}
+
+void TST_RECORD::an_operation_without_actions_is_stored()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+    record.set_operation(new COUNTED_OPERATION(3), QUAD_IO);
+
+    const std::optional<GFPDB_ROW> row = record.to_row(FAMILY, QUAD);
+    QVERIFY(row.has_value());
+    QCOMPARE(row->quad_flows, std::string(R"({"operations":[{"actions":[],"kind":3}]})"));
+    QCOMPARE(row->single_flows, std::string());
+    QCOMPARE(row->family, FAMILY);
+    QCOMPARE(row->scheme, QUAD);
+    const auto read = GFPDB_EMBEDDED_FLASH::from_row(*row, "/a/", true);
+    QVERIFY(read != nullptr);
+    QCOMPARE(read->find_operation(3, QUAD_IO)->get_action_count(), 0);
+    QVERIFY(read->get_operations(SINGLE_IO) == nullptr);
+    QVERIFY(read->is_unchanged());
+    QVERIFY(read->is_template());
+    QVERIFY(read->is_user_defined());
+    QCOMPARE(read->get_db_dir(), std::string("/a/"));
+}
+
+QTEST_GUILESS_MAIN(TST_RECORD)
+#include "tst_record.moc"

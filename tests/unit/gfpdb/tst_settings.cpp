@@ -1,0 +1,363 @@
+// The settings file, and the custom database directory that it keeps.
+#include "gfpdb/gfpdb_helper.h"
+#include "gfpdb_custom_dir.h"
+#include "gfpdb_settings.h"
+#include "gfpdb_test.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+void expect_warning(const char* pattern)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(pattern)));
+}
+
+QStringList entries(const std::string& directory)
+{
+    return QDir(QString::fromStdString(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+} // namespace
+
+class TST_SETTINGS : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void a_value_is_read_from_its_section();
+    void what_is_no_value_of_the_section_is_empty();
+    void the_last_line_of_a_key_counts();
+    void writing_makes_the_file_and_its_directory();
+    void writing_leaves_every_other_line_alone();
+    void writing_adds_the_section_where_it_is_missing();
+    void writing_leaves_nothing_else_behind();
+    void any_byte_but_a_line_break_can_be_a_value();
+    void unreadable_settings_are_logged_and_left_alone_data();
+    void unreadable_settings_are_logged_and_left_alone();
+    void settings_that_cannot_be_written_are_logged();
+    void without_the_variable_the_file_is_in_the_configuration_directory();
+
+    void the_default_directory_is_in_the_data_directory();
+    void directories_have_one_form_data();
+    void directories_have_one_form();
+    void an_empty_directory_is_the_default();
+    void a_saved_directory_is_found_by_the_next_program();
+    void a_directory_in_which_no_database_can_be_used_is_refused_data();
+    void a_directory_in_which_no_database_can_be_used_is_refused();
+    void a_missing_directory_is_created_when_asked();
+    void a_refused_directory_leaves_the_settings_alone();
+    void settings_that_cannot_be_written_refuse_the_directory();
+    void a_directory_of_any_bytes_can_be_used_data();
+    void a_directory_of_any_bytes_can_be_used();
+    void only_the_default_directory_is_created_on_demand();
+
+private:
+    std::string settings() const { return m_place->settings(); }
+
+    std::unique_ptr<GFPDB_PLACE> m_place;
+};
+
+void TST_SETTINGS::init()
+{
+    m_place = std::make_unique<GFPDB_PLACE>();
+}
+
+void TST_SETTINGS::cleanup()
+{
+    m_place.reset();
+}
+
+void TST_SETTINGS::a_value_is_read_from_its_section()
+{
+    write_file(settings(), "[other]\ncustom_dir=/other/\n[database]\nbusy_timeout=7\n custom_dir = /a b/c/ \r\n[more]\n"
+                           "custom_dir=/more/\n");
+
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/a b/c/"));
+    QCOMPARE(gfpdb_read_setting("busy_timeout"), std::string("7"));
+}
+
+void TST_SETTINGS::what_is_no_value_of_the_section_is_empty()
+{
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
+    write_file(settings(), "[other]\ncustom_dir=/other/\n");
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
+    write_file(settings(), "custom_dir=/above/\n[database]\ncustom_directory=/x/\n;custom_dir=/comment/\ncustom_dir\n");
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
+    write_file(settings(), "");
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
+}
+
+void TST_SETTINGS::the_last_line_of_a_key_counts()
+{
+    write_file(settings(), "[database]\ncustom_dir=/a/\ncustom_dir=/b/\n[x]\n[database]\ncustom_dir=/c/\n");
+
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/c/"));
+    QVERIFY(gfpdb_write_setting("custom_dir", "/d/"));
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/d/"));
+}
+
+void TST_SETTINGS::writing_makes_the_file_and_its_directory()
+{
+    qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("new/deep/settings.ini")));
+
+    QVERIFY(gfpdb_write_setting("custom_dir", "/a/"));
+    QCOMPARE(read_file(m_place->path("new/deep/settings.ini")), std::string("[database]\ncustom_dir=/a/\n"));
+}
+
+void TST_SETTINGS::writing_leaves_every_other_line_alone()
+{
+    write_file(settings(), "; mine\n[x]\na = 1\n\n[database]\n; here\ncustom_dir=/a/\nbusy_timeout=7\n[y]\nb=2");
+
+    QVERIFY(gfpdb_write_setting("custom_dir", "/b/"));
+    QCOMPARE(read_file(settings()), std::string("; mine\n[x]\na = 1\n\n[database]\n; here\ncustom_dir=/b/\n"
+                                                "busy_timeout=7\n[y]\nb=2\n"));
+    QVERIFY(gfpdb_write_setting("new", "3"));
+    QCOMPARE(read_file(settings()), std::string("; mine\n[x]\na = 1\n\n[database]\n; here\ncustom_dir=/b/\n"
+                                                "busy_timeout=7\nnew=3\n[y]\nb=2\n"));
+}
+
+void TST_SETTINGS::writing_adds_the_section_where_it_is_missing()
+{
+    write_file(settings(), "[x]\ncustom_dir=/x/\n");
+
+    QVERIFY(gfpdb_write_setting("custom_dir", "/a/"));
+    QCOMPARE(read_file(settings()), std::string("[x]\ncustom_dir=/x/\n[database]\ncustom_dir=/a/\n"));
+}
+
+void TST_SETTINGS::writing_leaves_nothing_else_behind()
+{
+    qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("alone/settings.ini")));
+
+    QVERIFY(gfpdb_write_setting("custom_dir", "/a/"));
+    QVERIFY(gfpdb_write_setting("custom_dir", "/b/"));
+    QCOMPARE(entries(m_place->path("alone")), QStringList(QStringLiteral("settings.ini")));
+}
+
+void TST_SETTINGS::any_byte_but_a_line_break_can_be_a_value()
+{
+    for (const char* value : {"/with blank/", "/\xC3\xA4/", "/\xFC\x01\x7F/", "/a=b;c#d[e]/", "/%20\\n\"'/"}) {
+        QVERIFY(gfpdb_write_setting("custom_dir", value));
+        QCOMPARE(gfpdb_read_setting("custom_dir"), std::string(value));
+    }
+    const std::string before = read_file(settings());
+    for (const std::string& value : {std::string("/a\n/"), std::string("/a\r/"), std::string("/a\0/", 4)}) {
+        expect_warning("cannot hold a value with a line break");
+        QVERIFY(!gfpdb_write_setting("custom_dir", value));
+    }
+    QCOMPARE(read_file(settings()), before);
+}
+
+void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("warning");
+    const QByteArray setting = QByteArrayLiteral("[database]\ncustom_dir=/a/\n");
+    QTest::newRow("not a text") << setting + '\0' << QByteArrayLiteral("is no settings file: it is not a text");
+    QTest::newRow("too large") << setting + QByteArray(1 << 20, ';')
+                               << QByteArrayLiteral("is no settings file: it is too large");
+}
+
+void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, warning);
+    write_file(settings(), content.toStdString());
+
+    expect_warning(warning.constData());
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
+    expect_warning(warning.constData());
+    QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
+    QCOMPARE(read_file(settings()), content.toStdString());
+}
+
+void TST_SETTINGS::settings_that_cannot_be_written_are_logged()
+{
+    make_dir(settings());
+    expect_warning("settings.ini cannot be read");
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
+    expect_warning("settings.ini cannot be read");
+    QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
+
+    write_file(m_place->path("file"), "content");
+    qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("file/settings.ini")));
+    expect_warning("cannot be written: its directory cannot be created");
+    QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
+    QCOMPARE(read_file(m_place->path("file")), std::string("content"));
+}
+
+void TST_SETTINGS::without_the_variable_the_file_is_in_the_configuration_directory()
+{
+    qunsetenv("GFPDB_SETTINGS");
+    const QByteArray configuration = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_place->path("config")));
+
+    const bool is_written = gfpdb_write_setting("custom_dir", "/a/");
+    qputenv("XDG_CONFIG_HOME", configuration);
+
+    QVERIFY(is_written);
+    QCOMPARE(read_file(m_place->path("config/gfpdb/gfpdb.ini")), std::string("[database]\ncustom_dir=/a/\n"));
+}
+
+void TST_SETTINGS::the_default_directory_is_in_the_data_directory()
+{
+    QCOMPARE(gfpdb_default_dir(), m_place->path("data/gfpdb/"));
+}
+
+void TST_SETTINGS::directories_have_one_form_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<QString>("form");
+    const QString here = QDir::currentPath() + QLatin1Char('/');
+    QTest::newRow("as it is") << QStringLiteral("/a/b/") << QStringLiteral("/a/b/");
+    QTest::newRow("no slash at the end") << QStringLiteral("/a/b") << QStringLiteral("/a/b/");
+    QTest::newRow("slashes") << QStringLiteral("//a///b//") << QStringLiteral("/a/b/");
+    QTest::newRow("back slashes") << QStringLiteral("\\a\\b") << QStringLiteral("/a/b/");
+    QTest::newRow("points") << QStringLiteral("/a/./b/../c") << QStringLiteral("/a/c/");
+    QTest::newRow("root") << QStringLiteral("/") << QStringLiteral("/");
+    QTest::newRow("relative") << QStringLiteral("a b") << here + QStringLiteral("a b/");
+    QTest::newRow("here") << QStringLiteral(".") << here;
+}
+
+void TST_SETTINGS::directories_have_one_form()
+{
+    QFETCH(QString, directory);
+    QFETCH(QString, form);
+
+    GFPDB_MGR::set_db_custom_dir(directory.toStdString());
+    QCOMPARE(GFPDB_MGR::get_db_custom_dir(), form.toStdString());
+}
+
+void TST_SETTINGS::an_empty_directory_is_the_default()
+{
+    GFPDB_MGR::set_db_custom_dir("");
+    QCOMPARE(GFPDB_MGR::get_db_custom_dir(), m_place->path("data/gfpdb/"));
+}
+
+void TST_SETTINGS::a_saved_directory_is_found_by_the_next_program()
+{
+    make_dir(m_place->path("mine"));
+
+    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->path("mine//"), false));
+    QCOMPARE(gfpdb_read_setting(GFPDB_SETTING_CUSTOM_DIR), m_place->path("mine/"));
+    QCOMPARE(read_file(settings()), "[database]\ncustom_dir=" + m_place->path("mine/") + "\n");
+    QCOMPARE(GFPDB_MGR::get_db_custom_dir(), m_place->db_dir());
+    QCOMPARE(entries(m_place->path("mine")), QStringList());
+}
+
+void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<QByteArray>("warning");
+    QTest::newRow("missing") << QStringLiteral("missing") << QByteArrayLiteral("does not exist");
+    QTest::newRow("a file") << QStringLiteral("file") << QByteArrayLiteral("is not a directory");
+    QTest::newRow("below a file") << QStringLiteral("file/below") << QByteArrayLiteral("is not a directory");
+    QTest::newRow("with an empty database") << QStringLiteral("empty") << QByteArrayLiteral("is empty");
+    QTest::newRow("with a foreign database") << QStringLiteral("foreign") << QByteArrayLiteral("of another program");
+    QTest::newRow("with a name that is too long")
+        << QString(300, QLatin1Char('a')) << QByteArrayLiteral("name too long");
+}
+
+void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused()
+{
+    QFETCH(QString, directory);
+    QFETCH(QByteArray, warning);
+    write_file(m_place->path("file"), "content");
+    make_dir(m_place->path("empty"));
+    write_file(m_place->path("empty/gfpdb.sqlite"), "");
+    make_dir(m_place->path("foreign"));
+    run_sql(m_place->path("foreign/gfpdb.sqlite"), "CREATE TABLE recipes (name TEXT)");
+
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QLatin1String(warning), QRegularExpression::CaseInsensitiveOption));
+    expect_warning("was not made the database directory");
+    QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->path(directory.toStdString()), false));
+    QVERIFY(!QFile::exists(QString::fromStdString(settings())));
+    QVERIFY(!QFile::exists(QString::fromStdString(m_place->path("missing"))));
+    QCOMPARE(read_file(m_place->path("empty/gfpdb.sqlite")), std::string());
+}
+
+void TST_SETTINGS::a_missing_directory_is_created_when_asked()
+{
+    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->path("new/deep"), true));
+    QCOMPARE(gfpdb_read_setting(GFPDB_SETTING_CUSTOM_DIR), m_place->path("new/deep/"));
+    QVERIFY(QFileInfo(QString::fromStdString(m_place->path("new/deep"))).isDir());
+}
+
+void TST_SETTINGS::a_refused_directory_leaves_the_settings_alone()
+{
+    write_file(settings(), "[database]\ncustom_dir=/a/");
+
+    expect_warning("does not exist");
+    expect_warning("was not made the database directory");
+    QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->path("missing"), false));
+    QCOMPARE(read_file(settings()), std::string("[database]\ncustom_dir=/a/"));
+}
+
+void TST_SETTINGS::settings_that_cannot_be_written_refuse_the_directory()
+{
+    make_dir(settings());
+
+    expect_warning("settings.ini cannot be read");
+    QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
+}
+
+void TST_SETTINGS::a_directory_of_any_bytes_can_be_used_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("blanks") << QByteArrayLiteral("with  blanks");
+    QTest::newRow("quotes") << QByteArrayLiteral("it's a \"quote\"");
+    QTest::newRow("what means something in an address") << QByteArrayLiteral("a%20b?mode=ro#c&d;e");
+    QTest::newRow("umlaut") << QByteArrayLiteral("B\xC3\xA4ume");
+    QTest::newRow("not UTF-8") << QByteArrayLiteral("B\xE4ume");
+    QTest::newRow("control character") << QByteArrayLiteral("a\x01");
+}
+
+void TST_SETTINGS::a_directory_of_any_bytes_can_be_used()
+{
+    QFETCH(QByteArray, name);
+    const std::string directory = m_place->path(name.toStdString()) + '/';
+    QCOMPARE(::mkdir(directory.c_str(), 0755), 0);
+
+    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(directory, false));
+    GFPDB_MGR::set_db_custom_dir(gfpdb_read_setting(GFPDB_SETTING_CUSTOM_DIR));
+    QCOMPARE(GFPDB_MGR::get_db_custom_dir(), directory);
+    GFPDB_MGR* manager = fresh_manager();
+    QVERIFY(manager->save_flash(make_device(*manager, "A"), directory));
+    QCOMPARE(::access((directory + "gfpdb.sqlite").c_str(), F_OK), 0);
+    manager = fresh_manager();
+    QVERIFY(manager->find_flash("A", true) != nullptr);
+    QCOMPARE(manager->find_flash("A", true)->get_db_dir(), directory);
+
+    // What Qt cannot name it cannot clean up.
+    for (const char* file : {"gfpdb.sqlite", "gfpdb.sqlite-journal"})
+        QCOMPARE(::unlink((directory + file).c_str()), 0);
+    QCOMPARE(::rmdir(directory.c_str()), 0);
+}
+
+void TST_SETTINGS::only_the_default_directory_is_created_on_demand()
+{
+    GFPDB_MGR::set_db_custom_dir("");
+    GFPDB_MGR* manager = fresh_manager();
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+    QVERIFY(manager->save_flash(make_device(*manager, "A"), m_place->path("data/gfpdb/")));
+
+    GFPDB_MGR::set_db_custom_dir(m_place->path("missing"));
+    fresh_manager();
+    expect_warning("does not exist");
+    QCOMPARE(GFPDB_HELPER::get_database_problem(),
+             "The database directory " + m_place->path("missing/") + " does not exist.");
+    QVERIFY(!QFile::exists(QString::fromStdString(m_place->path("missing"))));
+}
+
+QTEST_GUILESS_MAIN(TST_SETTINGS)
+#include "tst_settings.moc"

@@ -1,0 +1,500 @@
+// The database file: its schema, its rows byte for byte, its history, and files that change under an open program.
+#include "gfpdb_store.h"
+#include "gfpdb_test.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+namespace {
+
+const std::string COLUMNS = "family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, "
+                            "quad_io_dummy_clock, template_name, flow_template, revision, saved_at, single_flows, "
+                            "quad_flows";
+const std::string COLUMN_TYPES =
+    "family INTEGER NOT NULL, scheme INTEGER NOT NULL, name TEXT NOT NULL, device_id TEXT NOT NULL, "
+    "voltage TEXT NOT NULL, density TEXT NOT NULL, total_die INTEGER, single_io_dummy_clock INTEGER, "
+    "quad_io_dummy_clock INTEGER, template_name TEXT NOT NULL, flow_template TEXT NOT NULL, revision TEXT NOT NULL, "
+    "saved_at TEXT NOT NULL, single_flows TEXT NOT NULL, quad_flows TEXT NOT NULL";
+
+// What a program of schema 1 made.
+const std::vector<std::string> SCHEMA_1 = {
+    "CREATE TABLE meta (name TEXT NOT NULL PRIMARY KEY, value TEXT NOT NULL)",
+    "INSERT INTO meta (name, value) VALUES ('schema_version', '1')",
+    "INSERT INTO meta (name, value) VALUES ('database_id', 'an old database')",
+    "CREATE TABLE device (name_key TEXT NOT NULL, " + COLUMN_TYPES + ", PRIMARY KEY (family, scheme, name_key))",
+    "CREATE TABLE template (template_key TEXT NOT NULL PRIMARY KEY, " + COLUMN_TYPES + ")",
+    "CREATE TABLE history (id INTEGER NOT NULL PRIMARY KEY, is_template INTEGER NOT NULL, reason TEXT NOT NULL, "
+    "changed_at TEXT NOT NULL, " +
+        COLUMN_TYPES + ")",
+};
+
+const std::string VALUES = "3, 7, 'Old', 'C2', '1.8V', '8Mb', 2, NULL, 6, 'Old template', 'a flow template', 'r', "
+                           "'2024-05-17T09:30:00Z', 'single', 'quad'";
+
+void expect_warning(const char* text)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(text)));
+}
+
+std::string schema_of(const std::string& path)
+{
+    return run_sql(path, "SELECT group_concat(sql, ';') FROM (SELECT sql FROM sqlite_master ORDER BY name)")
+        .toString()
+        .toStdString();
+}
+
+} // namespace
+
+class TST_STORE : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void the_file_is_made_by_the_first_change();
+    void the_schema_is_as_documented();
+    void an_older_schema_is_upgraded_and_loses_nothing();
+    void a_newer_schema_is_left_alone();
+    void two_programs_make_one_file();
+    void commits_reach_the_disk();
+
+    void a_row_comes_back_whole();
+    void texts_come_back_byte_for_byte_data();
+    void texts_come_back_byte_for_byte();
+    void texts_can_be_read_by_other_programs();
+    void unset_numbers_stay_unset();
+    void names_come_from_an_index();
+
+    void the_history_tells_what_when_and_by_whom();
+    void history_has_whole_rows();
+
+    void reads_follow_a_replaced_file();
+    void the_first_change_of_a_replaced_file_is_refused_data();
+    void the_first_change_of_a_replaced_file_is_refused();
+    void a_reload_accepts_a_replaced_file();
+    void a_file_overwritten_by_another_database_is_noticed();
+    void a_removed_file_is_noticed_and_made_anew();
+    void a_removed_directory_is_noticed();
+    void a_file_that_someone_else_made_is_used();
+    void a_closed_connection_is_opened_again();
+
+private:
+    std::string file() const { return m_place->db_file(); }
+    // A database with the one device `name`, at `path`.
+    void make_file(const std::string& path, const std::string& name);
+
+    std::unique_ptr<GFPDB_PLACE> m_place;
+    std::unique_ptr<GFPDB_STORE> m_store;
+};
+
+void TST_STORE::init()
+{
+    m_place = std::make_unique<GFPDB_PLACE>();
+    m_store = std::make_unique<GFPDB_STORE>(m_place->db_dir());
+}
+
+void TST_STORE::cleanup()
+{
+    m_store.reset();
+    m_place.reset();
+}
+
+void TST_STORE::make_file(const std::string& path, const std::string& name)
+{
+    make_dir(m_place->path("making/"));
+    {
+        GFPDB_STORE store(m_place->path("making/"));
+        if (!store.save_device(make_row(name)))
+            qFatal("%s", store.get_last_error().c_str());
+    }
+    if (std::rename(m_place->path("making/gfpdb.sqlite").c_str(), path.c_str()) != 0)
+        qFatal("cannot rename to %s", path.c_str());
+}
+
+void TST_STORE::the_file_is_made_by_the_first_change()
+{
+    QVERIFY(m_store->is_readable());
+    QVERIFY(m_store->is_writable());
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+    QVERIFY(m_store->get_history().empty());
+    QVERIFY(!QFile::exists(QString::fromStdString(file())));
+
+    QVERIFY(m_store->save_device(make_row("A")));
+    const QStringList entries = QDir(QString::fromStdString(m_place->db_dir())).entryList(QDir::Files | QDir::Hidden);
+    QCOMPARE(entries, (QStringList{QStringLiteral("gfpdb.sqlite"), QStringLiteral("gfpdb.sqlite-journal")}));
+    QCOMPARE(read_file(file() + "-journal"), std::string());
+}
+
+void TST_STORE::the_schema_is_as_documented()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+
+    const std::string expected = SCHEMA_1[3] + ";CREATE INDEX device_keys ON device (name_key)" +
+                                 ";CREATE INDEX device_names ON device (family, scheme, name_key, name)" + ';' +
+                                 SCHEMA_1[5].substr(0, SCHEMA_1[5].size() - 1) +
+                                 ", changed_by TEXT NOT NULL DEFAULT '');" + SCHEMA_1[0] + ';' + SCHEMA_1[4] +
+                                 ";CREATE INDEX template_names ON template (template_key, template_name)";
+    QCOMPARE(schema_of(file()), expected);
+    QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(), QStringLiteral("2"));
+    QCOMPARE(run_sql(file(), "SELECT length(value) FROM meta WHERE name = 'database_id'").toInt(), 36);
+    QCOMPARE(run_sql(file(), "SELECT count(*) FROM meta").toInt(), 2);
+}
+
+void TST_STORE::an_older_schema_is_upgraded_and_loses_nothing()
+{
+    for (const std::string& statement : SCHEMA_1)
+        QVERIFY(run_sql(file(), statement).isValid());
+    QVERIFY(run_sql(file(), "INSERT INTO device (name_key, " + COLUMNS + ") VALUES ('old', " + VALUES + ")").isValid());
+    QVERIFY(
+        run_sql(file(), "INSERT INTO template (template_key, " + COLUMNS + ") VALUES ('old template', " + VALUES + ")")
+            .isValid());
+    QVERIFY(run_sql(file(), "INSERT INTO history (id, is_template, reason, changed_at, " + COLUMNS +
+                                ") VALUES (5, 0, 'deleted', 'then', " + VALUES + ")")
+                .isValid());
+
+    const std::optional<GFPDB_ROW> row = m_store->find_device(3, 7, "OLD");
+    QVERIFY(row.has_value());
+    const std::string expected = "3 7\nOld\nC2\n1.8V\n8Mb\nOld template\na flow template\nsingle\nquad\n2\nnone\n6\n";
+    QCOMPARE(text_of(*row), expected);
+    QCOMPARE(row->revision, std::string("r"));
+    QCOMPARE(text_of(*m_store->find_template("old template")), expected);
+    QCOMPARE(m_store->get_history().size(), std::size_t(1));
+    QCOMPARE(text_of(m_store->find_history(5)->row), expected);
+    QCOMPARE(m_store->find_history(5)->changed_by, std::string());
+
+    QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(), QStringLiteral("2"));
+    const std::string upgraded = schema_of(file());
+    make_file(m_place->path("new.sqlite"), "A");
+    QCOMPARE(upgraded, schema_of(m_place->path("new.sqlite")));
+    QVERIFY(m_store->save_device(make_row("New")));
+}
+
+void TST_STORE::a_newer_schema_is_left_alone()
+{
+    make_file(file(), "A");
+    QVERIFY(run_sql(file(), "UPDATE meta SET value = '3' WHERE name = 'schema_version'").isValid());
+    const std::string before = read_file(file());
+    const std::string problem = "The database " + file() +
+                                " was written by a newer program (its schema is 3, this program knows up to 2). It is "
+                                "left as it is.";
+
+    expect_warning("was written by a newer program");
+    QCOMPARE(m_store->get_problem(), problem);
+    QVERIFY(!m_store->is_readable());
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QVERIFY(!m_store->save_device(make_row("B")));
+    QCOMPARE(m_store->get_last_error(), problem);
+    QVERIFY(!m_store->remove_device(FAMILY, SERIAL, "A"));
+    QCOMPARE(read_file(file()), before);
+}
+
+void TST_STORE::two_programs_make_one_file()
+{
+    GFPDB_STORE other(m_place->db_dir());
+    QVERIFY(m_store->is_writable());
+    QVERIFY(other.is_writable());
+
+    QVERIFY(m_store->save_device(make_row("A")));
+    QVERIFY(other.save_device(make_row("B")));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"A", "B"}));
+    QCOMPARE(other.get_device_names(FAMILY, SERIAL), (NAMES{"A", "B"}));
+}
+
+void TST_STORE::commits_reach_the_disk()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    const QStringList connections = QSqlDatabase::connectionNames().filter(QString::fromStdString(m_place->db_dir()));
+    QCOMPARE(connections.size(), 1);
+    const auto pragma = [&](const char* statement) {
+        QSqlQuery query(QSqlDatabase::database(connections.first(), false));
+        return query.exec(QLatin1String(statement)) && query.next() ? query.value(0).toString() : QString();
+    };
+
+    QCOMPARE(pragma("PRAGMA synchronous"), QStringLiteral("2"));
+    QCOMPARE(pragma("PRAGMA journal_mode"), QStringLiteral("truncate"));
+}
+
+void TST_STORE::a_row_comes_back_whole()
+{
+    GFPDB_ROW row = make_row("A");
+    row.template_name = "T";
+    QVERIFY(m_store->save_device(row));
+
+    for (const std::optional<GFPDB_ROW>& found :
+         {m_store->find_device(FAMILY, SERIAL, "A"), m_store->find_template("T")}) {
+        QVERIFY(found.has_value());
+        QCOMPARE(text_of(*found), text_of(row));
+        QCOMPARE(found->revision, row.revision);
+    }
+    QCOMPARE(m_store->get_device_revision(FAMILY, SERIAL, "a"), row.revision);
+    QCOMPARE(m_store->get_template_revision("t"), row.revision);
+    QCOMPARE(m_store->get_device_revision(FAMILY, QUAD, "a"), std::string());
+    QVERIFY(m_store->has_device("a"));
+    QVERIFY(!m_store->has_device("T"));
+    QVERIFY(!m_store->find_device(OTHER_FAMILY, SERIAL, "A").has_value());
+    QVERIFY(!m_store->find_device(FAMILY, QUAD, "A").has_value());
+    QVERIFY(!m_store->find_template("A").has_value());
+    const QDateTime saved_at =
+        QDateTime::fromString(run_sql(file(), "SELECT saved_at FROM device").toString(), Qt::ISODate);
+    QVERIFY(qAbs(saved_at.secsTo(QDateTime::currentDateTimeUtc())) < 60);
+    QCOMPARE(saved_at.timeSpec(), Qt::UTC);
+}
+
+void TST_STORE::texts_come_back_byte_for_byte_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("zero") << QByteArray("a\0b", 3);
+    QTest::newRow("byte order mark") << QByteArrayLiteral("\xEF\xBB\xBF");
+    QTest::newRow("no characters") << QByteArrayLiteral("\xEF\xBF\xBE\xEF\xBF\xBF");
+    QTest::newRow("emoji") << QByteArrayLiteral("\xF0\x9F\x92\xBE");
+    QTest::newRow("sql") << QByteArrayLiteral("'; DROP TABLE device; --");
+    QTest::newRow("markup and lines") << QByteArrayLiteral("<b>%s</b>\r\n\t");
+    QTest::newRow("a number") << QByteArrayLiteral("007");
+    QTest::newRow("long") << QByteArray(10000, 'x');
+}
+
+void TST_STORE::texts_come_back_byte_for_byte()
+{
+    QFETCH(QByteArray, text);
+    const std::string value = text.toStdString();
+    GFPDB_ROW row = make_row("N" + value);
+    row.template_name = "T" + value;
+    for (std::string* column :
+         {&row.device_id, &row.voltage, &row.density, &row.flow_template, &row.single_flows, &row.quad_flows})
+        *column = value;
+    QVERIFY(m_store->save_device(row));
+
+    QCOMPARE(text_of(*m_store->find_device(FAMILY, SERIAL, row.name)), text_of(row));
+    QCOMPARE(text_of(*m_store->find_template(row.template_name)), text_of(row));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{row.name});
+    QCOMPARE(m_store->get_template_names(), NAMES{row.template_name});
+    QVERIFY(m_store->remove_device(FAMILY, SERIAL, row.name));
+    QCOMPARE(text_of(m_store->find_history(1)->row), text_of(row));
+    QVERIFY(m_store->remove_template(row.template_name));
+    QVERIFY(m_store->restore(1));
+    QCOMPARE(text_of(*m_store->find_device(FAMILY, SERIAL, row.name)), text_of(row));
+}
+
+void TST_STORE::texts_can_be_read_by_other_programs()
+{
+    const std::string name = "B\xC3\xA4ume";
+    QVERIFY(m_store->save_device(make_row(name)));
+
+    QCOMPARE(run_sql(file(), "SELECT name FROM device").toString(), QString::fromUtf8(name.c_str()));
+    QCOMPARE(run_sql(file(), "SELECT DISTINCT typeof(name) || typeof(name_key) || typeof(single_flows) FROM device")
+                 .toString(),
+             QStringLiteral("texttexttext"));
+}
+
+void TST_STORE::unset_numbers_stay_unset()
+{
+    GFPDB_ROW row = make_row("A");
+    row.total_die = std::nullopt;
+    row.single_io_dummy_clock = 0;
+    row.quad_io_dummy_clock = std::nullopt;
+    QVERIFY(m_store->save_device(row));
+
+    QCOMPARE(text_of(*m_store->find_device(FAMILY, SERIAL, "A")), text_of(row));
+    QCOMPARE(run_sql(file(), "SELECT total_die IS NULL AND single_io_dummy_clock = 0 FROM device").toInt(), 1);
+}
+
+// The two lists need not look at the records, which are large.
+void TST_STORE::names_come_from_an_index()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    const auto plan = [this](const char* statement) {
+        const QStringList connections =
+            QSqlDatabase::connectionNames().filter(QString::fromStdString(m_place->db_dir()));
+        QSqlQuery query(QSqlDatabase::database(connections.first(), false));
+        const QString detail = QStringLiteral("detail");
+        return query.exec(QStringLiteral("EXPLAIN QUERY PLAN ") + QLatin1String(statement)) && query.next()
+                   ? query.value(detail).toString()
+                   : QString();
+    };
+
+    QCOMPARE(plan("SELECT CAST(name AS BLOB) FROM device WHERE family = 1 AND scheme = 2 ORDER BY name_key"),
+             QStringLiteral("SEARCH device USING COVERING INDEX device_names (family=? AND scheme=?)"));
+    QCOMPARE(plan("SELECT CAST(template_name AS BLOB) FROM template ORDER BY template_key"),
+             QStringLiteral("SCAN template USING COVERING INDEX template_names"));
+    QCOMPARE(plan("SELECT 1 FROM device WHERE name_key = CAST(1 AS TEXT)"),
+             QStringLiteral("SEARCH device USING COVERING INDEX device_keys (name_key=?)"));
+}
+
+void TST_STORE::the_history_tells_what_when_and_by_whom()
+{
+    GFPDB_ROW row = make_row("A");
+    row.template_name = "T";
+    qputenv("USER", "tester");
+    QVERIFY(m_store->save_device(row));
+    QVERIFY(m_store->save_device(row));
+    QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+    QVERIFY(m_store->remove_template("T"));
+
+    const std::vector<GFPDB_HISTORY_ENTRY> entries = m_store->get_history();
+    QCOMPARE(entries.size(), std::size_t(4));
+    const char* reasons[] = {"replaced", "replaced", "deleted", "deleted"};
+    const bool templates[] = {false, true, false, true};
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        QCOMPARE(entries[i].id, int(i) + 1);
+        QCOMPARE(entries[i].reason, std::string(reasons[i]));
+        QCOMPARE(entries[i].is_template, templates[i]);
+        QCOMPARE(entries[i].row.name, std::string("A"));
+        QCOMPARE(entries[i].row.template_name, std::string("T"));
+        QCOMPARE(entries[i].row.family, FAMILY);
+        QCOMPARE(entries[i].row.scheme, SERIAL);
+        QCOMPARE(entries[i].row.revision, row.revision);
+        QCOMPARE(entries[i].row.single_flows, std::string());
+        QCOMPARE(entries[i].row.quad_flows, std::string());
+        QCOMPARE(entries[i].changed_by, "tester@" + QSysInfo::machineHostName().toStdString());
+        const QDateTime changed = QDateTime::fromString(QString::fromStdString(entries[i].changed_at), Qt::ISODate);
+        QVERIFY(qAbs(changed.secsTo(QDateTime::currentDateTimeUtc())) < 60);
+    }
+}
+
+void TST_STORE::history_has_whole_rows()
+{
+    GFPDB_ROW row = make_row("A");
+    QVERIFY(m_store->save_device(row));
+    QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+
+    QCOMPARE(text_of(m_store->find_history(1)->row), text_of(row));
+    QVERIFY(!m_store->find_history(2).has_value());
+    QVERIFY(m_store->restore(1));
+    QVERIFY(m_store->get_device_revision(FAMILY, SERIAL, "A") != row.revision);
+    QVERIFY(m_store->find_history(1).has_value());
+}
+
+void TST_STORE::reads_follow_a_replaced_file()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    make_file(file(), "B");
+
+    expect_warning("was replaced or removed by another program");
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
+    QVERIFY(m_store->find_device(FAMILY, SERIAL, "B").has_value());
+    QCOMPARE(m_store->get_problem(), std::string());
+}
+
+void TST_STORE::the_first_change_of_a_replaced_file_is_refused_data()
+{
+    QTest::addColumn<bool>("is_read_before");
+    QTest::newRow("at once") << false;
+    QTest::newRow("after a read") << true;
+}
+
+void TST_STORE::the_first_change_of_a_replaced_file_is_refused()
+{
+    QFETCH(bool, is_read_before);
+    const std::string error = "The database " + file() +
+                              " was replaced or removed by another program while it was in use. Nothing was changed: "
+                              "look at the devices that are there now, then try again.";
+    const std::vector<std::function<bool()>> changes = {
+        [this] { return m_store->save_device(make_row("C")); },
+        [this] { return m_store->remove_device(FAMILY, SERIAL, "B"); },
+        [this] { return m_store->remove_template("B"); },
+        [this] { return m_store->restore(1); },
+    };
+    QVERIFY(m_store->save_device(make_row("A")));
+    for (const auto& change : changes) {
+        make_file(file(), "B");
+        run_sql(file(), "INSERT INTO history (is_template, reason, changed_at, " + COLUMNS +
+                            ") VALUES (0, 'deleted', 'then', " + VALUES + ")");
+        const std::string before = read_file(file());
+        expect_warning("was replaced or removed by another program");
+        if (is_read_before)
+            QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
+
+        QVERIFY(!change());
+        QCOMPARE(m_store->get_last_error(), error);
+        QCOMPARE(read_file(file()), before);
+        QVERIFY(change());
+    }
+}
+
+void TST_STORE::a_reload_accepts_a_replaced_file()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    make_file(file(), "B");
+
+    m_store->reload();
+    QVERIFY(m_store->save_device(make_row("C")));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"B", "C"}));
+}
+
+// The same file, but with the content of another one.
+void TST_STORE::a_file_overwritten_by_another_database_is_noticed()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    QVERIFY(m_store->save_device(make_row("A2")));
+    make_file(m_place->path("other.sqlite"), "B");
+    const std::string other = read_file(m_place->path("other.sqlite"));
+    QFile in_place(QString::fromStdString(file()));
+    QVERIFY(in_place.open(QIODevice::WriteOnly));
+    QCOMPARE(in_place.write(QByteArray::fromStdString(other)), qint64(other.size()));
+    in_place.close();
+
+    QVERIFY(!m_store->save_device(make_row("C")));
+    QVERIFY(m_store->get_last_error().find("was replaced or removed by another program") != std::string::npos);
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
+    QVERIFY(m_store->save_device(make_row("C")));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"B", "C"}));
+}
+
+void TST_STORE::a_removed_file_is_noticed_and_made_anew()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    QVERIFY(QFile::remove(QString::fromStdString(file())));
+
+    expect_warning("was replaced or removed by another program");
+    QVERIFY(!m_store->save_device(make_row("B")));
+    QVERIFY(m_store->get_last_error().find("was replaced or removed by another program") != std::string::npos);
+    QVERIFY(!QFile::exists(QString::fromStdString(file())));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QVERIFY(m_store->save_device(make_row("B")));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
+}
+
+void TST_STORE::a_removed_directory_is_noticed()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    QVERIFY(QDir(QString::fromStdString(m_place->db_dir())).removeRecursively());
+
+    expect_warning("was replaced or removed by another program");
+    expect_warning("does not exist");
+    QVERIFY(!m_store->save_device(make_row("B")));
+    QVERIFY(!m_store->save_device(make_row("B")));
+    QCOMPARE(m_store->get_last_error(), "The database directory " + m_place->db_dir() + " does not exist.");
+    QVERIFY(!m_store->remove_device(FAMILY, SERIAL, "A"));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_dir())));
+}
+
+void TST_STORE::a_file_that_someone_else_made_is_used()
+{
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    make_file(file(), "B");
+
+    QVERIFY(m_store->save_device(make_row("C")));
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"B", "C"}));
+}
+
+void TST_STORE::a_closed_connection_is_opened_again()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    const QStringList connections = QSqlDatabase::connectionNames().filter(QString::fromStdString(m_place->db_dir()));
+    QSqlDatabase::removeDatabase(connections.first());
+
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"A"});
+    QVERIFY(m_store->save_device(make_row("B")));
+}
+
+QTEST_GUILESS_MAIN(TST_STORE)
+#include "tst_store.moc"
