@@ -2,6 +2,7 @@
 
 #include "gfpq_dlg.h"
 
+#include "gfpq_accessibility.h"
 #include "gfpq_dlg_internal.h"
 #include "gfpq_form.h"
 #include "gfpq_operation_tab_widget.h"
@@ -45,6 +46,7 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     // The selection is connected already, so the first device is loaded the way a click loads one.
     rebuild_device_list(device_name);
     connect_controls();
+    gfpq_make_accessible(*this, *ui.m_device_table_view, *ui.m_prog_flows_tab_widget);
 }
 
 GFPQ_DLG::~GFPQ_DLG() = default;

@@ -1,5 +1,6 @@
 #include "gfpq_edit_template_dlg.h"
 
+#include "gfpq_accessibility.h"
 #include "gfpq_form.h"
 #include "gfpq_message.h"
 #include "gfpq_text.h"
@@ -38,6 +39,7 @@ void GFPQ_EDIT_TEMPLATE_DLG::set_up_table()
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->hide();
     table.verticalHeader()->hide();
+    gfpq_make_table_accessible(table, *ui.m_templates_label);
 }
 
 void GFPQ_EDIT_TEMPLATE_DLG::fill_list()

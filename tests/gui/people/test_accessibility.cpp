@@ -1,0 +1,296 @@
+// The dialogs with a screen reader, and without a mouse.
+#include "people_test.h"
+
+#include "gfpq_edit_template_dlg.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSet>
+#include <QTabBar>
+
+namespace {
+
+// More Tab presses than any page has stops.
+constexpr int MANY_TABS = 60;
+
+QString accessible_name(QWidget* widget)
+{
+    const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(widget);
+    return interface == nullptr ? QString() : interface->text(QAccessible::Name);
+}
+
+// What takes the focus by Tab, as "class objectName", and has no name.
+QStringList nameless_stops(const QWidget& window)
+{
+    QStringList found;
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+        const bool is_stop = widget->isVisibleTo(&window) && (widget->focusPolicy() & Qt::TabFocus) != 0 &&
+                             widget->focusProxy() == nullptr && qobject_cast<QTabBar*>(widget) == nullptr;
+        if (is_stop && accessible_name(widget).trimmed().isEmpty())
+            found.append(QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName());
+    }
+    return found;
+}
+
+// The widgets that Tab (or Backtab) visits until it comes round.
+QList<QWidget*> stops(Qt::Key key)
+{
+    QList<QWidget*> visited;
+    for (int i = 0; i < MANY_TABS; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+        QWidget* const stop = QApplication::focusWidget();
+        if (visited.contains(stop))
+            break;
+        visited.append(stop);
+    }
+    return visited;
+}
+
+QList<QWidget*> expected_stops(const QWidget& window)
+{
+    QList<QWidget*> expected;
+    for (QWidget* const widget : window.findChildren<QWidget*>()) {
+        const bool is_stop = widget->isVisibleTo(&window) && widget->isEnabledTo(&window) &&
+                             (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr;
+        if (is_stop)
+            expected.append(widget);
+    }
+    return expected;
+}
+
+QStringList names(const QList<QWidget*>& widgets)
+{
+    QStringList texts;
+    for (const QWidget* const widget : widgets)
+        texts.append(QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') + widget->objectName());
+    texts.sort();
+    return texts;
+}
+
+} // namespace
+
+class TEST_ACCESSIBILITY : public PEOPLE_TEST
+{
+    Q_OBJECT
+
+private:
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    void type(const QString& text) const { QTest::keyClicks(QApplication::focusWidget(), text); }
+    // Presses Tab until `widget` has the focus.
+    bool tab_to(const QWidget& widget) const
+    {
+        for (int i = 0; i < MANY_TABS && QApplication::focusWidget() != &widget; ++i)
+            press(Qt::Key_Tab);
+        return QApplication::focusWidget() == &widget;
+    }
+
+private slots:
+    void editors_are_named_after_their_labels_data();
+    void editors_are_named_after_their_labels();
+    void the_device_table_and_the_parts_of_a_page_have_names();
+    void nothing_that_takes_the_focus_is_nameless();
+    void a_value_that_is_edited_is_named_after_its_property();
+    void the_template_table_is_named_after_its_label();
+    void tab_and_backtab_visit_everything_on_each_page_data();
+    void tab_and_backtab_visit_everything_on_each_page();
+    void tab_visits_everything_in_the_template_editor();
+    void a_device_is_made_with_keys_alone();
+};
+
+void TEST_ACCESSIBILITY::editors_are_named_after_their_labels_data()
+{
+    QTest::addColumn<QString>("editor");
+    QTest::addColumn<QString>("name");
+    const auto row = [](const char* editor, const char* name) {
+        QTest::newRow(editor) << QString::fromLatin1(editor) << QString::fromLatin1(name);
+    };
+    row("m_family_cbox", "Device family");
+    row("m_config_mode_cbox", "Configuration mode");
+    row("m_directory_edit", "Custom database directory");
+    row("m_filter_line_edit", "Name filter");
+    row("m_device_name_edit", "Device name");
+    row("m_device_id_edit", "Device ID");
+    row("m_voltage_cbox", "Device I/O voltage");
+    row("m_density_cbox", "Device density");
+    row("m_total_die_edit", "Total device die");
+    row("m_clock_cycle_edit", "Single I/O mode dummy clock");
+    row("m_clock_cycle_edit_x4", "Quad I/O mode dummy clock");
+    row("m_flow_template_cbox", "Programming flow template");
+    row("m_template_name_edit", "Save as template");
+}
+
+void TEST_ACCESSIBILITY::editors_are_named_after_their_labels()
+{
+    QFETCH(QString, editor);
+    QFETCH(QString, name);
+    open_dialog();
+
+    QWidget& widget = child<QWidget>(qPrintable(editor));
+    QCOMPARE(widget.accessibleName(), name);
+    // The name that a combo box gives on this platform is its current text.
+    const bool is_combo = qobject_cast<QComboBox*>(&widget) != nullptr;
+    const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&widget);
+    QCOMPARE(interface->text(is_combo ? QAccessible::Description : QAccessible::Name), name);
+}
+
+void TEST_ACCESSIBILITY::the_device_table_and_the_parts_of_a_page_have_names()
+{
+    open_dialog();
+    QCOMPARE(accessible_name(&child<QTableView>("m_device_table_view")), QStringLiteral("Devices"));
+
+    for (int operation = 0; operation < GFPDB_OPERATION_COUNT; ++operation) {
+        show_operation_page(operation);
+        const QString title = tabs().tabText(operation + 1);
+        QStringList view_names;
+        for (QGraphicsView* const view : tabs().currentWidget()->findChildren<QGraphicsView*>())
+            view_names.append(accessible_name(view));
+        view_names.sort();
+        QCOMPARE(view_names,
+                 QStringList({title + QStringLiteral(": actions"), title + QStringLiteral(": flow chart")}));
+        QCOMPARE(accessible_name(&chart()), title + QStringLiteral(": flow chart"));
+        QCOMPARE(chart().accessibleDescription(), tabs().currentWidget()->findChild<QLabel*>()->text());
+        QCOMPARE(accessible_name(&property_table()), title + QStringLiteral(": properties of the selected action"));
+    }
+}
+
+void TEST_ACCESSIBILITY::nothing_that_takes_the_focus_is_nameless()
+{
+    GFPQ_DLG& dialog = open_dialog();
+    for (int page = 0; page < tabs().count(); ++page) {
+        tabs().setCurrentIndex(page);
+        QCOMPARE(nameless_stops(dialog).join(QLatin1Char('\n')), QString());
+    }
+
+    GFPQ_EDIT_TEMPLATE_DLG editor(&dialog, &mgr());
+    editor.show();
+    QCOMPARE(nameless_stops(editor).join(QLatin1Char('\n')), QString());
+}
+
+void TEST_ACCESSIBILITY::a_value_that_is_edited_is_named_after_its_property()
+{
+    open_dialog();
+    show_operation_page(GFPDB_OPERATION_ERASE);
+    chart().setFocus();
+    press(Qt::Key_Down);
+    property_table().setFocus();
+    for (const int row : {1, 4}) {
+        const QModelIndex value = property_table().model()->index(row, 1);
+        property_table().setCurrentIndex(value);
+        press(Qt::Key_F2);
+        QWidget* const editor = property_table().indexWidget(value);
+        QVERIFY(editor != nullptr);
+        QString label = value.siblingAtColumn(0).data().toString();
+        label.chop(1);
+        QCOMPARE(accessible_name(editor), label);
+        QTest::keyClick(editor, Qt::Key_Escape);
+    }
+}
+
+void TEST_ACCESSIBILITY::the_template_table_is_named_after_its_label()
+{
+    GFPQ_EDIT_TEMPLATE_DLG editor(&open_dialog(), &mgr());
+
+    QCOMPARE(accessible_name(editor.findChild<QTableView*>(QStringLiteral("m_template_table_view"))),
+             QStringLiteral("Templates"));
+}
+
+void TEST_ACCESSIBILITY::tab_and_backtab_visit_everything_on_each_page_data()
+{
+    QTest::addColumn<int>("page");
+    for (int page = 0; page <= GFPDB_OPERATION_COUNT; ++page)
+        QTest::addRow("page %d", page) << page;
+}
+
+void TEST_ACCESSIBILITY::tab_and_backtab_visit_everything_on_each_page()
+{
+    QFETCH(int, page);
+    const GFPQ_DLG& dialog = open_dialog();
+    tabs().setCurrentIndex(page);
+    child<QPushButton>("m_ok_button").setFocus();
+    const QStringList expected = names(expected_stops(dialog));
+    QVERIFY(expected.size() >= 10);
+
+    QCOMPARE(names(stops(Qt::Key_Tab)), expected);
+    QCOMPARE(names(stops(Qt::Key_Backtab)), expected);
+}
+
+void TEST_ACCESSIBILITY::tab_visits_everything_in_the_template_editor()
+{
+    GFPQ_EDIT_TEMPLATE_DLG editor(&open_dialog(), &mgr());
+    mgr().user_templates = {"one", "two", "three"};
+    QStringList visited;
+    QStringList expected;
+    m_modals.expect([&](QWidget* window) {
+        QTRY_COMPARE(QApplication::activeWindow(), window);
+        window->findChild<QPushButton*>(QStringLiteral("m_close_button"))->setFocus();
+        visited = names(stops(Qt::Key_Tab));
+        expected = names(expected_stops(*window));
+        window->close();
+    });
+    editor.exec();
+
+    QCOMPARE(expected.size(), 3);
+    QCOMPARE(visited, expected);
+}
+
+// From the list to the database: a new device, its fields, one more action in a flow, one value, Apply.
+void TEST_ACCESSIBILITY::a_device_is_made_with_keys_alone()
+{
+    open_dialog();
+    child<QPushButton>("m_ok_button").setFocus();
+
+    QVERIFY(tab_to(child<QTableView>("m_device_table_view")));
+    press(Qt::Key_Home, Qt::ControlModifier);
+    QVERIFY(tab_to(child<QLineEdit>("m_device_name_edit")));
+    type(QStringLiteral("Keyed part"));
+    QVERIFY(tab_to(child<QLineEdit>("m_device_id_edit")));
+    type(QStringLiteral("0xC2 0x20 0x19"));
+    QVERIFY(tab_to(child<QComboBox>("m_density_cbox")));
+    press(Qt::Key_Down);
+
+    QVERIFY(tab_to(*tabs().findChild<QTabBar*>()));
+    for (int page = 0; page <= GFPDB_OPERATION_ERASE; ++page)
+        press(Qt::Key_Right);
+    QCOMPARE(tabs().currentIndex(), GFPDB_OPERATION_ERASE + 1);
+    QVERIFY(tab_to(chart()));
+    m_modals.expect([](QWidget* menu) {
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Right);
+        // The last of five entries.
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    });
+    QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, QPoint());
+    QApplication::sendEvent(QApplication::focusWidget(), &menu_key);
+    QCOMPARE(chain(), QStringList({QStringLiteral("default 31")}));
+
+    press(Qt::Key_Down);
+    QVERIFY(tab_to(property_table()));
+    press(Qt::Key_Home, Qt::ControlModifier);
+    press(Qt::Key_Right);
+    press(Qt::Key_F2);
+    type(QStringLiteral("my erase"));
+    press(Qt::Key_Return);
+    QTRY_COMPARE(chain(), QStringList({QStringLiteral("my erase")}));
+
+    QVERIFY(tab_to(child<QPushButton>("m_apply_button")));
+    press(Qt::Key_Space);
+    QCOMPARE(mgr().last_saved, mgr().last_created);
+    QVERIFY(mgr().last_created != nullptr);
+    QCOMPARE(mgr().last_created->name, std::string("Keyed part"));
+    QCOMPARE(mgr().last_created->strings.at(GFPDB_FLASH_DEVICE_ID), std::string("0xC2 0x20 0x19"));
+    QCOMPARE(mgr().last_created->flow(GFPDB_OPERATION_ERASE, false).first().section(QLatin1Char('\n'), 0, 0),
+             QStringLiteral("4:my erase"));
+}
+
+GFPQ_TEST_MAIN(TEST_ACCESSIBILITY)
+#include "test_accessibility.moc"

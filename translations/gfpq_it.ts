@@ -1,0 +1,154 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>gfpq_dlg</name>
+    <message>
+        <source>Configuration Device</source>
+        <translation>Dispositivo di configurazione</translation>
+    </message>
+    <message>
+        <source>Device family: </source>
+        <translation>Famiglia di dispositivi: </translation>
+    </message>
+    <message>
+        <source>Configuration mode: </source>
+        <translation>Modalità di configurazione: </translation>
+    </message>
+    <message>
+        <source>Custom database directory:</source>
+        <translation>Cartella del database personale:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Name filter:</source>
+        <translation>Filtro nome:</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Device name: </source>
+        <translation>Nome del dispositivo: </translation>
+    </message>
+    <message>
+        <source>Device ID: </source>
+        <translation>ID del dispositivo: </translation>
+    </message>
+    <message>
+        <source>Device I/O voltage: </source>
+        <translation>Tensione di I/O: </translation>
+    </message>
+    <message>
+        <source>Device density: </source>
+        <translation>Densità del dispositivo: </translation>
+    </message>
+    <message>
+        <source>Total device die:</source>
+        <translation>Numero totale di die:</translation>
+    </message>
+    <message>
+        <source>Single I/O mode dummy clock: </source>
+        <translation>Cicli di clock fittizi in modo Single I/O: </translation>
+    </message>
+    <message>
+        <source>Quad I/O mode dummy clock:</source>
+        <translation>Cicli di clock fittizi in modo Quad I/O:</translation>
+    </message>
+    <message>
+        <source>Programming flow template: </source>
+        <translation>Modello del flusso di programmazione: </translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Modifica...</translation>
+    </message>
+    <message>
+        <source>Save as template</source>
+        <translation>Salva come modello</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>%1: flow chart</source>
+        <translation>%1: diagramma di flusso</translation>
+    </message>
+    <message>
+        <source>%1: actions</source>
+        <translation>%1: azioni</translation>
+    </message>
+    <message>
+        <source>%1: properties of the selected action</source>
+        <translation>%1: proprietà dell’azione selezionata</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>Failed to save flash as %1 tab has invalid property value: 
+
+%2</source>
+        <translation>Impossibile salvare la memoria flash: la scheda «%1» contiene un valore non valido: 
+
+%2</translation>
+    </message>
+    <message>
+        <source>Tempate name &apos;%1&apos; is conflicts with the device name %2.</source>
+        <translation>Il nome del modello «%1» è in conflitto con il nome del dispositivo %2.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Failed to set the custom database directory to </source>
+        <translation>Impossibile impostare la cartella del database personale su </translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Sfoglia</translation>
+    </message>
+    <message>
+        <source>i.e. 0xC2 0x20 0x19</source>
+        <translation>ad es. 0xC2 0x20 0x19</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Inserisci</translation>
+    </message>
+</context>
+<context>
+    <name>gfpq_edit_template_dlg</name>
+    <message>
+        <source>Edit Templates</source>
+        <translation>Modifica modelli</translation>
+    </message>
+    <message>
+        <source>Templates:</source>
+        <translation>Modelli:</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+</TS>

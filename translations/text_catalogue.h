@@ -1,0 +1,30 @@
+// The texts of a program or module in the user's language.
+#pragma once
+
+#include <QString>
+#include <QTranslator>
+
+// Installs, for as long as it lives, the catalogue of `name` that goes with the application's default locale
+// (QLocale()).
+//
+// A catalogue is a file NAME_LANGUAGE.qm. It is looked for in the directory that the environment variable
+// GFPQ_TRANSLATIONS names, so that a translator can try one without a rebuild, then in `directory`. Of the locale's
+// user interface languages the first that has a catalogue counts; a language without one takes that of its script or
+// its parent ("zh_HK": "zh_Hant", "de_AT": "de"). The texts in the sources are English, so English ends the search.
+//
+// Needs a QCoreApplication while it is made. GUI thread only.
+class TEXT_CATALOGUE
+{
+public:
+    TEXT_CATALOGUE(const QString& name, const QString& directory);
+    ~TEXT_CATALOGUE();
+    TEXT_CATALOGUE(const TEXT_CATALOGUE&) = delete;
+    TEXT_CATALOGUE& operator=(const TEXT_CATALOGUE&) = delete;
+
+    // False when the texts of the sources are shown.
+    bool is_installed() const { return m_is_installed; }
+
+private:
+    QTranslator m_translator;
+    bool m_is_installed = false;
+};

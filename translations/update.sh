@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Brings the catalogues up to date with the sources: new texts come in unfinished, texts that are gone go.
+# usage: update.sh [DIRECTORY]      (of the catalogues; this one if not given)
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+
+directory=${1:-translations}
+
+# update NAME SOURCES...: the catalogues NAME_<language>.ts; a language is two letters, with or without a country.
+update() {
+    local name=$1
+    shift
+    lupdate -silent -no-obsolete -locations none -source-language en "$@" -ts "$directory/${name}"_[a-z][a-z].ts \
+        "$directory/${name}"_[a-z][a-z]_[A-Z][A-Z].ts
+}
+
+update gfpq pgm/gfpq
