@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QStringList>
 
 namespace {
 
@@ -30,16 +29,16 @@ bool load(QTranslator& translator, const QString& name, const QString& tag, cons
 
 } // namespace
 
-TEXT_CATALOGUE::TEXT_CATALOGUE(const QString& name, const QString& directory)
+TEXT_CATALOGUE::TEXT_CATALOGUE(const QString& name, const QStringList& directories)
 {
-    QStringList directories{directory};
+    QStringList places = directories;
     const QString tried_out = qEnvironmentVariable(DIRECTORY_VARIABLE);
     if (!tried_out.isEmpty())
-        directories.prepend(tried_out);
+        places.prepend(tried_out);
 
     const QStringList languages = QLocale().uiLanguages();
     for (const QString& tag : languages) {
-        if (load(m_translator, name, tag, directories)) {
+        if (load(m_translator, name, tag, places)) {
             m_is_installed = QCoreApplication::installTranslator(&m_translator);
             return;
         }

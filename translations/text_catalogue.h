@@ -2,13 +2,14 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 
 // Installs, for as long as it lives, the catalogue of `name` that goes with the application's default locale
 // (QLocale()).
 //
 // A catalogue is a file NAME_LANGUAGE.qm. It is looked for in the directory that the environment variable
-// GFPQ_TRANSLATIONS names, so that a translator can try one without a rebuild, then in `directory`. Of the locale's
+// GFPQ_TRANSLATIONS names, so that a translator can try one without a rebuild, then in `directories`. Of the locale's
 // user interface languages the first that has a catalogue counts; a language without one takes that of its script or
 // its parent ("zh_HK": "zh_Hant", "de_AT": "de"). The texts in the sources are English, so English ends the search.
 //
@@ -16,7 +17,7 @@
 class TEXT_CATALOGUE
 {
 public:
-    TEXT_CATALOGUE(const QString& name, const QString& directory);
+    TEXT_CATALOGUE(const QString& name, const QStringList& directories);
     ~TEXT_CATALOGUE();
     TEXT_CATALOGUE(const TEXT_CATALOGUE&) = delete;
     TEXT_CATALOGUE& operator=(const TEXT_CATALOGUE&) = delete;

@@ -15,3 +15,4 @@ update() {
 }
 
 update gfpq pgm/gfpq
+update gfpq_host app/gfpq_host

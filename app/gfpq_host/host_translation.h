@@ -1,9 +1,12 @@
 // The language of the texts.
 #pragma once
 
+#include "text_catalogue.h"
+
 #include <QString>
 #include <QStringList>
-#include <QTranslator>
+
+#include <optional>
 
 // Keeps the texts of one language in the application while it lives. Make it after the application.
 class HOST_TRANSLATION
@@ -24,6 +27,6 @@ public:
     HOST_TRANSLATION& operator=(const HOST_TRANSLATION&) = delete;
 
 private:
-    QTranslator m_own_texts;
-    QTranslator m_qt_texts;
+    std::optional<TEXT_CATALOGUE> m_qt_texts;
+    std::optional<TEXT_CATALOGUE> m_own_texts;
 };
