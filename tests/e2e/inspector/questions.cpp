@@ -188,6 +188,7 @@ QJsonObject windows_question(const QJsonObject&)
             continue;
         QJsonObject described = describe(window);
         described.insert(QStringLiteral("modal"), window->isModal());
+        described.insert(QStringLiteral("is_active"), window->isActiveWindow());
         if (const auto* box = qobject_cast<const QMessageBox*>(window))
             described.insert(QStringLiteral("text"), box->text());
         windows.append(described);

@@ -1,5 +1,7 @@
 #include "e2e_test.h"
 
+#include <algorithm>
+
 E2E_TEST::E2E_TEST() = default;
 
 E2E_TEST::~E2E_TEST() = default;
@@ -22,11 +24,29 @@ void E2E_TEST::cleanup()
     m_scratch.reset();
 }
 
-bool E2E_TEST::start(const QStringList& options)
+void E2E_TEST::create_session()
 {
+    m_user.reset();
     m_session = std::make_unique<HOST_SESSION>(m_screen, m_scratch->path());
     m_user = std::make_unique<USER>(m_screen, *m_session);
+}
+
+bool E2E_TEST::start(const QStringList& options)
+{
+    create_session();
     return m_session->start(options);
+}
+
+bool E2E_TEST::start_with_database(const QString& database_directory, const QStringList& options)
+{
+    create_session();
+    return m_session->start(options, database_directory);
+}
+
+bool E2E_TEST::start_probe(const QStringList& options)
+{
+    create_session();
+    return m_session->start_probe(options);
 }
 
 bool E2E_TEST::wait_for_property(const char* widget, const char* property, const QJsonValue& value)
@@ -61,6 +81,19 @@ QStringList E2E_TEST::column_of(const char* view)
 bool E2E_TEST::wait_for_column(const char* view, const QStringList& texts)
 {
     return m_session->wait_for(rows_of(view), [&](const QJsonObject& answer) { return first_column(answer) == texts; });
+}
+
+bool E2E_TEST::wait_for_box(const QString& text)
+{
+    return m_session->wait_for({{QStringLiteral("ask"), QStringLiteral("windows")}}, [&](const QJsonObject& answer) {
+        const QJsonArray windows = answer.value(QLatin1String("windows")).toArray();
+        return std::any_of(windows.begin(), windows.end(), [&](const QJsonValue& window) {
+            const QJsonObject described = window.toObject();
+            return described.value(QLatin1String("is_active")).toBool() &&
+                   described.value(QLatin1String("class")) == QLatin1String("QMessageBox") &&
+                   described.value(QLatin1String("text")) == text;
+        });
+    });
 }
 
 bool E2E_TEST::wait_for_window(const QString& title)

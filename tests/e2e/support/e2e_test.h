@@ -22,6 +22,9 @@ public:
 protected:
     // Starts the program anew on the same directory; the former run must have ended.
     bool start(const QStringList& options);
+    bool start_with_database(const QString& database_directory, const QStringList& options);
+    // The same with the probe of the host's libraries (tests/unit/host/host_probe.cpp).
+    bool start_probe(const QStringList& options);
     HOST_SESSION& session() { return *m_session; }
     USER& user() { return *m_user; }
 
@@ -35,6 +38,9 @@ protected:
     // A window of that title is the active one.
     bool wait_for_window(const QString& title);
 
+    // A message box with that text is the active window.
+    bool wait_for_box(const QString& text);
+
     // The program has ended with the exit code 0 and logged nothing.
     bool ended_well();
 
@@ -47,6 +53,8 @@ private slots:
     void cleanup();
 
 private:
+    void create_session();
+
     SCREEN m_screen;
     std::unique_ptr<QTemporaryDir> m_scratch;
     std::unique_ptr<HOST_SESSION> m_session;

@@ -51,7 +51,19 @@ QProcessEnvironment HOST_SESSION::environment() const
     return environment;
 }
 
-bool HOST_SESSION::start(const QStringList& options)
+bool HOST_SESSION::start(const QStringList& options, const QString& database_directory_or_null)
+{
+    const QString directory = database_directory_or_null.isNull() ? database_directory() : database_directory_or_null;
+    return start_program(QStringLiteral(E2E_HOST_PROGRAM), QStringList(options)
+                                                               << QLatin1String("--database=") + directory);
+}
+
+bool HOST_SESSION::start_probe(const QStringList& options)
+{
+    return start_program(QStringLiteral(E2E_PROBE_PROGRAM), options);
+}
+
+bool HOST_SESSION::start_program(const QString& program, const QStringList& options)
 {
     QDir().mkpath(m_directory + QLatin1String("/config"));
     if (!m_server.listen(m_socket_directory.filePath(QStringLiteral("inspector")))) {
@@ -60,8 +72,7 @@ bool HOST_SESSION::start(const QStringList& options)
     }
     m_process.setProcessEnvironment(environment());
     m_process.setWorkingDirectory(m_directory);
-    m_process.start(QStringLiteral(E2E_HOST_PROGRAM), QStringList(options)
-                                                          << QLatin1String("--database=") + database_directory());
+    m_process.start(program, options);
     if (!m_server.waitForNewConnection(DEADLINE_MS)) {
         read_streams();
         qWarning("the program does not answer: %s%s", m_output.constData(), m_log.constData());

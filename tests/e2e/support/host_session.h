@@ -1,4 +1,4 @@
-// One run of the host program on a screen, with the inspector in it.
+// One run of a program on a screen, with the inspector in it.
 #pragma once
 
 #include <QJsonArray>
@@ -22,8 +22,11 @@ public:
     HOST_SESSION(const HOST_SESSION&) = delete;
     HOST_SESSION& operator=(const HOST_SESSION&) = delete;
 
-    // Starts the program with `options` and the database directory, and waits until the inspector answers.
-    bool start(const QStringList& options);
+    // Starts the program with `options` and a database directory (of this session if null), and waits until the
+    // inspector answers.
+    bool start(const QStringList& options, const QString& database_directory = QString());
+    // The same with another program, which gets `options` and nothing else: the probe of the host's libraries.
+    bool start_probe(const QStringList& options);
 
     // Where the database of this session is; exists.
     QString database_directory() const;
@@ -42,6 +45,7 @@ public:
     QJsonObject record() const;
 
 private:
+    bool start_program(const QString& program, const QStringList& options);
     QProcessEnvironment environment() const;
     void read_streams();
 

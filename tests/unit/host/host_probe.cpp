@@ -43,11 +43,19 @@ void report_internal_error_at_work()
     report_internal_error();
 }
 
-// Shows the box when the platform has a display, and reports a second time while it is open.
+// Shows the box when the platform has a display.
 void report_internal_error_in_application(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Probe"));
+    QCoreApplication::setApplicationName(QStringLiteral("Probe"));
+    report_internal_error();
+}
+
+// Meets the broken state again while the box is open.
+void report_internal_error_twice(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QTimer::singleShot(0, report_internal_error);
     report_internal_error();
 }
 
@@ -101,6 +109,7 @@ int main(int argc, char** argv)
         {"families-without-application", print_families},
         {"internal-error", report_internal_error_at_work},
         {"internal-error-in-application", [&] { report_internal_error_in_application(argc, argv); }},
+        {"internal-error-twice", [&] { report_internal_error_twice(argc, argv); }},
         {"internal-error-in-thread",
          [&] {
              QApplication app(argc, argv);
