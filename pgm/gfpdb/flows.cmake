@@ -13,6 +13,8 @@ target_sources(gfpdb PRIVATE
     embedded/gfpdb_catalogue_csv.h
     embedded/gfpdb_flow_builder.cpp
     embedded/gfpdb_flow_builder.h
+    embedded/gfpdb_flow_check.cpp
+    embedded/gfpdb_flow_check.h
     embedded/gfpdb_flow_templates.cpp
     embedded/gfpdb_flow_templates.h
     embedded/gfpdb_flow_traits.cpp
