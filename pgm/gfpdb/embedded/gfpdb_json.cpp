@@ -16,6 +16,8 @@ const QString ACTIONS = QStringLiteral("actions");
 const QString TYPE = QStringLiteral("type");
 const QString VALUES = QStringLiteral("values");
 constexpr int NO_NUMBER = -1;
+const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
+const QByteArray ESCAPED_BYTE_ORDER_MARK = QByteArrayLiteral("\\ufeff");
 
 using OPERATION_LIST = std::vector<std::unique_ptr<GFPDB_OPERATION>>;
 
@@ -90,7 +92,10 @@ std::optional<std::string> gfpdb_flows_to_json(const std::vector<GFPDB_OPERATION
             return std::nullopt;
         array.append(*object);
     }
-    return QJsonDocument(QJsonObject{{OPERATIONS, array}}).toJson(QJsonDocument::Compact).toStdString();
+    QByteArray json = QJsonDocument(QJsonObject{{OPERATIONS, array}}).toJson(QJsonDocument::Compact);
+    // The reader drops a byte order mark with which a value opens, unless it is written as an escape.
+    json.replace(BYTE_ORDER_MARK, ESCAPED_BYTE_ORDER_MARK);
+    return json.toStdString();
 }
 
 std::optional<OPERATION_LIST> gfpdb_flows_from_json(const std::string& json)
