@@ -253,7 +253,8 @@ bool FLOW_EXECUTOR::read_register(const GFPDB_ACTION& action)
             return true;
         });
         bool same = true;
-        for (std::size_t at = 0; at < read.size() && expected_text != "none"; ++at)
+        const std::size_t compared = expected_text == "id" ? std::min(read.size(), expected.size()) : read.size();
+        for (std::size_t at = 0; at < compared && expected_text != "none"; ++at)
             same = same && (read[at] & mask.at(at)) == expected.at(at);
         if (same)
             return true;

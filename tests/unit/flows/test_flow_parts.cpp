@@ -1,0 +1,471 @@
+// The flows of every built-in part and template, against tables and against rules that hold for all of them.
+//
+// expected_traits.txt has a line for every part, expected_flows.txt whole flows of one part of each kind; both were
+// written down from the facts that docs/flows.md gives, and are compared word for word.
+#include "gfpdb_action_model.h"
+#include "gfpdb_catalogue.h"
+#include "gfpdb_embedded_flash.h"
+#include "gfpdb_flow_builder.h"
+#include "gfpdb_flow_check.h"
+#include "gfpdb_flow_templates.h"
+#include "gfpdb_flow_traits.h"
+
+#include "gfpdb/gfpdb_enums.h"
+
+#include <QFile>
+#include <QtTest>
+
+#include <map>
+#include <memory>
+#include <set>
+
+namespace {
+
+using OPERATION = std::unique_ptr<GFPDB_OPERATION>;
+using FLOW = std::vector<OPERATION>;
+
+FLOW flow_of(const GFPDB_FLOW_TRAITS& traits, bool quad)
+{
+    FLOW flow;
+    for (int kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind)
+        flow.emplace_back(gfpdb_build_operation(kind, traits, quad));
+    return flow;
+}
+
+FLOW flow_of(const GFPDB_PART& part, bool quad)
+{
+    return flow_of(gfpdb_flow_traits(part, quad), quad);
+}
+
+std::vector<GFPDB_OPERATION*> pointers(const FLOW& flow)
+{
+    std::vector<GFPDB_OPERATION*> operations;
+    for (const OPERATION& operation : flow)
+        operations.push_back(operation.get());
+    return operations;
+}
+
+std::string value_of(const GFPDB_ACTION& action, int property)
+{
+    return action.get_property_value(static_cast<GFPDB_ACT_PROPERTY>(property));
+}
+
+QString text(const std::string& value)
+{
+    return QString::fromStdString(value);
+}
+
+QString hex(int value)
+{
+    return QString::number(value, 16).toUpper().rightJustified(2, '0');
+}
+
+// "Write Register: Write Enable | 0x06 | none | 0 | 1-1"
+QString action_line(const GFPDB_ACTION& action)
+{
+    static const char* const TYPES[] = {"WR", "RR", "WD", "RD", "ER", "--"};
+    QStringList values;
+    for (const GFPDB_ACT_PROPERTY property : action.get_property_enum_list())
+        values += text(action.get_property_value(property));
+    return QString("    %1 %2").arg(TYPES[action.m_action_type], values.join(" | "));
+}
+
+QStringList flow_lines(const QString& title, const std::vector<GFPDB_OPERATION*>& operations)
+{
+    static const char* const NAMES[] = {"Initialization", "Program", "Erase", "Verify", "Termination"};
+    QStringList lines = {title};
+    for (const GFPDB_OPERATION* operation : operations) {
+        lines += QString("  ") + NAMES[operation->m_kind];
+        for (const GFPDB_ACTION* action : *operation->get_actions())
+            lines += action_line(*action);
+    }
+    return lines;
+}
+
+QString command_text(const GFPDB_DATA_COMMAND& command)
+{
+    return QString("%1 %2 %3").arg(hex(command.opcode), command.bus_width).arg(command.dummy_clocks);
+}
+
+// One line of expected_traits.txt.
+QString traits_line(const GFPDB_PART& part)
+{
+    static const char* const STATUS_WRITES[] = {"01[00]", "01[40]", "01[00 02]", "01[00] 31[02]"};
+    static const char* const FOUR_BYTES[] = {"3", "B7/E9", "06+B7/06+E9", "B7/17", "17/17", "own"};
+    const GFPDB_FLOW_TRAITS single = gfpdb_flow_traits(part, false);
+    const GFPDB_FLOW_TRAITS quad = gfpdb_flow_traits(part, true);
+    QStringList extras;
+    if (!quad.verified)
+        extras += "unverified";
+    if (quad.flag_status)
+        extras += "flag-status";
+    if (quad.reset_at_start)
+        extras += "reset-first";
+    if (quad.reset_at_end)
+        extras += "reset-last";
+    if (quad.locked_at_power_up)
+        extras += "unlock";
+    if (quad.clears_extended_address)
+        extras += "C5[00]";
+    if (quad.selected_dies > 1)
+        extras += QString("dies %1").arg(quad.selected_dies);
+    const QString check = quad.mode_check ? hex(quad.mode_check->opcode) + "&" + hex(quad.mode_check->mask) : "-";
+    const QString erase = quad.sector_erase
+                              ? QString("%1:%2").arg(hex(quad.sector_erase->opcode)).arg(quad.sector_erase->size_bytes)
+                              : QString("C7");
+    return QStringList{text(part.name),
+                       QString("T%1").arg(quad.flow_template + 1),
+                       STATUS_WRITES[static_cast<int>(quad.status_write)],
+                       FOUR_BYTES[static_cast<int>(quad.four_byte)],
+                       check,
+                       QString::number(quad.page_size),
+                       command_text(single.program),
+                       command_text(quad.program),
+                       command_text(single.read),
+                       command_text(quad.read),
+                       erase,
+                       extras.isEmpty() ? QString("-") : extras.join(' ')}
+        .join(" | ");
+}
+
+// The lines of a file beside this one, without comments.
+QStringList expected_lines(const char* name)
+{
+    QFile file(QString(FLOW_TEST_DIRECTORY "/") + name);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", name);
+    QStringList lines;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
+        if (!line.isEmpty() && !line.startsWith('#'))
+            lines += line;
+    }
+    return lines;
+}
+
+void compare_lines(const QStringList& found, const QStringList& expected)
+{
+    for (int at = 0; at < std::min(found.size(), expected.size()); ++at)
+        QCOMPARE(found[at], expected[at]);
+    QCOMPARE(found.size(), expected.size());
+}
+
+const char* const PARTS_WITH_WHOLE_FLOWS[] = {
+    "MX25L1606E",    "MX25L12833F", "MX25L25645G", "IS25LP256D", "GD25Q256C",  "W25Q128JV-Q",
+    "W25Q128JW-M",   "W25Q256FV",   "W25M512JV",   "GD25Q64E",   "GD25S512MD", "SST26VF016B",
+    "S25FL256S-64K", "S25FL512S",   "S25FL256L",   "S25FS512S",  "S25HL512T",  "S25HL02GT",
+    "MT25QL01GBBB",  "N25Q128A13",  "EN25QH64A",   "GD25B512ME",
+};
+
+// Runs over the actions of a flow and notes what breaks one of the rules of writing.
+class WRITE_RULES
+{
+public:
+    WRITE_RULES(const FLOW& flow, int busy_opcode) : m_busy_opcode(busy_opcode)
+    {
+        for (const OPERATION& operation : flow) {
+            const auto& actions = *operation->get_actions();
+            for (std::size_t at = 0; at < actions.size(); ++at)
+                check(actions, at);
+        }
+    }
+
+    QStringList m_broken;
+
+private:
+    static int opcode_of(const GFPDB_ACTION& action)
+    {
+        static const int COMMANDS[] = {GFPDB_WR_COMMAND, GFPDB_RR_COMMAND, GFPDB_WD_COMMAND, GFPDB_RD_COMMAND,
+                                       GFPDB_ER_COMMAND};
+        if (action.m_action_type == GFPDB_ACT_CUSTOM)
+            return -1;
+        return QByteArray::fromStdString(value_of(action, COMMANDS[action.m_action_type])).toInt(nullptr, 16);
+    }
+
+    void check(const std::vector<GFPDB_ACTION*>& actions, std::size_t at)
+    {
+        const GFPDB_ACTION& action = *actions[at];
+        const int opcode = opcode_of(action);
+        const bool changes_data =
+            action.m_action_type == GFPDB_ACT_WRITE_DATA || action.m_action_type == GFPDB_ACT_ERASE;
+        const bool changes_status =
+            action.m_action_type == GFPDB_ACT_WRITE_REGISTER && std::set<int>{0x01, 0x31, 0x98}.count(opcode);
+        const bool needs_enable = changes_data || changes_status || opcode == 0xC5;
+        if (needs_enable && (at == 0 || opcode_of(*actions[at - 1]) != 0x06))
+            m_broken += "no write enable before " + action_line(action);
+        const int polled = changes_data ? m_busy_opcode : 0x05;
+        if ((changes_data || changes_status) && (at + 1 == actions.size() || !is_poll(*actions[at + 1], polled)))
+            m_broken += "no poll after " + action_line(action);
+    }
+
+    static bool is_poll(const GFPDB_ACTION& action, int opcode)
+    {
+        const std::string ready = opcode == 0x05 ? "0x00" : "0x80";
+        const std::string mask = opcode == 0x05 ? "0x01" : "0x80";
+        return action.m_action_type == GFPDB_ACT_READ_REGISTER && opcode_of(action) == opcode &&
+               value_of(action, GFPDB_RR_EXPECTED_DATA) == ready &&
+               value_of(action, GFPDB_RR_EXPECTED_DATA_MASK) == mask &&
+               std::stoi(value_of(action, GFPDB_RR_ATTEMPT_COUNT)) >= 200 &&
+               std::stoi(value_of(action, GFPDB_RR_DELAY)) >= 100;
+    }
+
+    const int m_busy_opcode;
+};
+
+int busy_opcode(const GFPDB_PART& part)
+{
+    return part.manufacturer == "Micron" ? 0x70 : 0x05;
+}
+
+// How often an opcode is written as a register command in an operation.
+int count_of(const GFPDB_OPERATION& operation, const char* opcode, const char* data = nullptr)
+{
+    int count = 0;
+    for (const GFPDB_ACTION* action : *operation.get_actions())
+        count += value_of(*action, GFPDB_WR_COMMAND) == opcode && (!data || value_of(*action, GFPDB_WR_DATA) == data);
+    return count;
+}
+
+} // namespace
+
+class TEST_FLOW_PARTS : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void every_part_has_its_traits();
+    void whole_flows_are_these();
+    void the_templates_are_these();
+    void there_is_no_other_template();
+    void every_value_passes_the_check_of_its_own_action();
+    void writes_are_enabled_and_watched();
+    void four_byte_mode_is_entered_and_left();
+    void address_bytes_are_those_of_the_part();
+    void the_id_is_checked_before_anything_is_written();
+    void quad_widths_occur_in_the_quad_variant_only();
+    void commands_fit_the_row_of_the_part();
+    void the_classes_have_the_known_numbers_of_parts();
+    void a_part_of_an_unknown_maker_has_flows();
+    void a_record_gets_both_variants();
+};
+
+void TEST_FLOW_PARTS::every_part_has_its_traits()
+{
+    QStringList found;
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts())
+        found += traits_line(part);
+    compare_lines(found, expected_lines("expected_traits.txt"));
+}
+
+void TEST_FLOW_PARTS::whole_flows_are_these()
+{
+    QStringList found;
+    for (const char* name : PARTS_WITH_WHOLE_FLOWS) {
+        for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+            for (const bool quad : {false, true}) {
+                if (part.name == name)
+                    found += flow_lines(QString(name) + (quad ? " quad" : " single"), pointers(flow_of(part, quad)));
+            }
+        }
+    }
+    compare_lines(found, expected_lines("expected_flows.txt"));
+}
+
+void TEST_FLOW_PARTS::the_templates_are_these()
+{
+    QStringList found;
+    for (int index = 0; index < GFPDB_FLOW_TEMPLATE_COUNT; ++index) {
+        const QString name = text(gfpdb_builtin_template_names()[static_cast<std::size_t>(index)]);
+        for (const bool quad : {false, true})
+            found +=
+                flow_lines(name + (quad ? " - quad" : " - single"), *gfpdb_builtin_template_operations(index, quad));
+    }
+    compare_lines(found, expected_lines("expected_templates.txt"));
+}
+
+void TEST_FLOW_PARTS::there_is_no_other_template()
+{
+    QCOMPARE(gfpdb_builtin_template_names().size(), std::size_t(5));
+    QVERIFY(!gfpdb_builtin_template_operations(-1, false));
+    QVERIFY(!gfpdb_builtin_template_operations(5, true));
+    QCOMPARE(gfpdb_builtin_template_operations(3, true), gfpdb_builtin_template_operations(3, true));
+    QVERIFY(gfpdb_builtin_template_operations(3, true) != gfpdb_builtin_template_operations(3, false));
+    QVERIFY(!gfpdb_build_operation(5, gfpdb_template_traits(0, false), false));
+}
+
+void TEST_FLOW_PARTS::every_value_passes_the_check_of_its_own_action()
+{
+    const auto check = [](const std::vector<GFPDB_OPERATION*>& operations, const std::string& name) {
+        for (const GFPDB_FLOW_PROBLEM& problem : gfpdb_check_flow(operations))
+            QFAIL((name + ": " + problem.text).c_str());
+        for (const GFPDB_OPERATION* operation : operations)
+            QVERIFY2(operation->get_action_count() > 0, name.c_str());
+    };
+    for (const bool quad : {false, true}) {
+        for (const GFPDB_PART& part : gfpdb_catalogue_parts())
+            check(pointers(flow_of(part, quad)), part.name);
+        for (int index = 0; index < GFPDB_FLOW_TEMPLATE_COUNT; ++index)
+            check(*gfpdb_builtin_template_operations(index, quad), "template " + std::to_string(index));
+    }
+}
+
+void TEST_FLOW_PARTS::writes_are_enabled_and_watched()
+{
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+        for (const bool quad : {false, true}) {
+            const QStringList broken = WRITE_RULES(flow_of(part, quad), busy_opcode(part)).m_broken;
+            QVERIFY2(broken.isEmpty(), qPrintable(text(part.name) + ": " + broken.join("; ")));
+        }
+    }
+}
+
+void TEST_FLOW_PARTS::four_byte_mode_is_entered_and_left()
+{
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+        for (const bool quad : {false, true}) {
+            const FLOW flow = flow_of(part, quad);
+            const int entered = count_of(*flow[0], "0xB7") + count_of(*flow[0], "0x17", "0x80");
+            const int left = count_of(*flow[4], "0xE9") + count_of(*flow[4], "0x17", "0x00");
+            const bool own_commands = gfpdb_flow_traits(part, quad).four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS;
+            const int expected = part.addressing_bytes == 4 && !own_commands ? 1 : 0;
+            QVERIFY2(entered == expected && left == expected, part.name.c_str());
+            for (const std::size_t kind : {1, 2, 3})
+                QCOMPARE(count_of(*flow[kind], "0xB7") + count_of(*flow[kind], "0xE9") + count_of(*flow[kind], "0x17"),
+                         0);
+        }
+    }
+}
+
+void TEST_FLOW_PARTS::address_bytes_are_those_of_the_part()
+{
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+        for (const bool quad : {false, true}) {
+            for (const OPERATION& operation : flow_of(part, quad)) {
+                for (const GFPDB_ACTION* action : *operation->get_actions()) {
+                    const std::string bytes = std::to_string(part.addressing_bytes);
+                    if (action->m_action_type == GFPDB_ACT_WRITE_DATA)
+                        QCOMPARE(value_of(*action, GFPDB_WD_ADDRESSING_MODE), bytes);
+                    if (action->m_action_type == GFPDB_ACT_READ_DATA)
+                        QCOMPARE(value_of(*action, GFPDB_RD_ADDRESSING_MODE), bytes);
+                    if (action->m_action_type == GFPDB_ACT_ERASE)
+                        QCOMPARE(value_of(*action, GFPDB_ER_ADDRESSING_MODE),
+                                 value_of(*action, GFPDB_ER_COMMAND) == "0xC7" ? std::string("0") : bytes);
+                }
+            }
+        }
+    }
+}
+
+void TEST_FLOW_PARTS::the_id_is_checked_before_anything_is_written()
+{
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+        for (const bool quad : {false, true}) {
+            const FLOW flow = flow_of(part, quad);
+            const auto& actions = *flow[0]->get_actions();
+            const std::size_t at = busy_opcode(part) == 0x70 ? 2 : 0;
+            QCOMPARE(value_of(*actions[at], GFPDB_RR_COMMAND), std::string("0x9F"));
+            QString id;
+            for (const int byte : part.jedec_id)
+                id += (id.isEmpty() ? "0x" : " 0x") + hex(byte);
+            QCOMPARE(text(value_of(*actions[at], GFPDB_RR_EXPECTED_DATA)), id);
+        }
+    }
+}
+
+void TEST_FLOW_PARTS::quad_widths_occur_in_the_quad_variant_only()
+{
+    std::set<std::string> without_quad;
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+        for (const bool quad : {false, true}) {
+            int quad_widths = 0;
+            for (const OPERATION& operation : flow_of(part, quad)) {
+                for (const GFPDB_ACTION* action : *operation->get_actions()) {
+                    const std::string width = action->get_property_value(action->get_property_enum_list().back());
+                    quad_widths += width.find('4') != std::string::npos;
+                }
+            }
+            if (!quad)
+                QVERIFY2(quad_widths == 0, part.name.c_str());
+            else if (quad_widths == 0)
+                without_quad.insert(part.name);
+        }
+    }
+    QCOMPARE(without_quad, std::set<std::string>{"MX25L1606E"});
+}
+
+void TEST_FLOW_PARTS::commands_fit_the_row_of_the_part()
+{
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+        const GFPDB_FLOW_TRAITS quad = gfpdb_flow_traits(part, true);
+        const GFPDB_FLOW_TRAITS single = gfpdb_flow_traits(part, false);
+        if (part.page_size)
+            QCOMPARE(quad.page_size, part.page_size);
+        if (part.dummy_single)
+            QCOMPARE(single.read.dummy_clocks, part.dummy_single);
+        if (part.dummy_quad) {
+            QCOMPARE(quad.read.dummy_clocks, part.dummy_quad);
+            QCOMPARE(quad.read.bus_width, "1-4-4");
+        }
+        if (quad.sector_erase) {
+            const auto is_same = [&quad](const GFPDB_ERASE_COMMAND& erase) {
+                return erase.opcode == quad.sector_erase->opcode && erase.size_bytes == quad.sector_erase->size_bytes;
+            };
+            QVERIFY2(std::any_of(part.sector_erase.begin(), part.sector_erase.end(), is_same), part.name.c_str());
+        }
+    }
+}
+
+void TEST_FLOW_PARTS::the_classes_have_the_known_numbers_of_parts()
+{
+    std::map<std::string, int> verified;
+    std::map<std::string, int> unverified;
+    for (const GFPDB_PART& part : gfpdb_catalogue_parts())
+        ++(gfpdb_part_is_verified(part) ? verified : unverified)[gfpdb_part_template_name(part)];
+    const std::vector<std::string>& names = gfpdb_builtin_template_names();
+    QCOMPARE(verified, (std::map<std::string, int>{
+                           {names[0], 20}, {names[1], 49}, {names[2], 17}, {names[3], 26}, {names[4], 25}}));
+    QCOMPARE(unverified, (std::map<std::string, int>{{names[1], 1}, {names[2], 1}, {names[3], 7}}));
+}
+
+// A host's own catalogue has makers that this library never heard of.
+void TEST_FLOW_PARTS::a_part_of_an_unknown_maker_has_flows()
+{
+    GFPDB_PART part;
+    part.name = "Own1";
+    part.jedec_id = {0xAA, 0x01};
+    part.density = "128Mb";
+    QCOMPARE(traits_line(part), QString("Own1 | T2 | 01[00 02] | 3 | - | 256 | 02 1-1-1 0 | 02 1-1-1 0 | 0B 1-1-1 8 | "
+                                        "6B 1-1-4 8 | C7 | unverified"));
+    part.density = "256Mb";
+    part.sector_erase = {{0x20, 4096}, {0xD8, 65536}, {0xDC, 65536}};
+    part.quad_enable = GFPDB_QUAD_ENABLE::SR1_BIT6;
+    part.dummy_quad = 6;
+    part.dummy_single = 4;
+    QCOMPARE(traits_line(part), QString("Own1 | T3 | 01[40] | B7/E9 | - | 256 | 02 1-1-1 0 | 32 1-1-4 0 | 0B 1-1-1 4 | "
+                                        "EB 1-4-4 6 | D8:65536 | -"));
+    part.manufacturer = "Infineon";
+    for (const char* name : {"S25", "S25XL512S", "S25FL512", "S25FL512X", "S25FS512X"}) {
+        part.name = name;
+        QVERIFY2(traits_line(part).contains("| B7/E9 | - |"), name);
+    }
+    for (const bool quad : {false, true})
+        QVERIFY(gfpdb_check_flow(pointers(flow_of(part, quad))).empty());
+}
+
+void TEST_FLOW_PARTS::a_record_gets_both_variants()
+{
+    const GFPDB_PART& part = gfpdb_catalogue_parts()[10];
+    GFPDB_EMBEDDED_FLASH record(part.name);
+
+    gfpdb_fill_part_flows(part, record);
+
+    for (const bool quad : {false, true})
+        QCOMPARE(flow_lines("", *record.get_operations(quad)), flow_lines("", pointers(flow_of(part, quad))));
+}
+
+int main(int argc, char** argv)
+{
+    TEST_FLOW_PARTS test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_flow_parts.moc"
