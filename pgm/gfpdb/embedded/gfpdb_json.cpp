@@ -16,6 +16,7 @@ const QString ACTIONS = QStringLiteral("actions");
 const QString TYPE = QStringLiteral("type");
 const QString VALUES = QStringLiteral("values");
 constexpr int NO_NUMBER = -1;
+// Qt's reader drops the mark at the beginning of a string, unless it is escaped.
 const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
 const QByteArray ESCAPED_BYTE_ORDER_MARK = QByteArrayLiteral("\\ufeff");
 
@@ -93,9 +94,7 @@ std::optional<std::string> gfpdb_flows_to_json(const std::vector<GFPDB_OPERATION
         array.append(*object);
     }
     QByteArray json = QJsonDocument(QJsonObject{{OPERATIONS, array}}).toJson(QJsonDocument::Compact);
-    // The reader drops a byte order mark with which a value opens, unless it is written as an escape.
-    json.replace(BYTE_ORDER_MARK, ESCAPED_BYTE_ORDER_MARK);
-    return json.toStdString();
+    return json.replace(BYTE_ORDER_MARK, ESCAPED_BYTE_ORDER_MARK).toStdString();
 }
 
 std::optional<OPERATION_LIST> gfpdb_flows_from_json(const std::string& json)

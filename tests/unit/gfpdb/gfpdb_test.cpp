@@ -5,10 +5,22 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
-GFPDB_PLACE::GFPDB_PLACE() : m_dir(QDir::currentPath() + QLatin1String("/place-XXXXXX"))
+namespace {
+
+QString base_of(GFPDB_PLACE::ON medium)
+{
+    const QFileInfo memory(QStringLiteral("/dev/shm"));
+    const bool is_usable = medium == GFPDB_PLACE::ON::MEMORY && memory.isDir() && memory.isWritable();
+    return is_usable ? memory.filePath() : QDir::currentPath();
+}
+
+} // namespace
+
+GFPDB_PLACE::GFPDB_PLACE(ON medium) : m_dir(base_of(medium) + QLatin1String("/gfpdb-XXXXXX"))
 {
     make_dir(db_dir());
     qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(settings()));

@@ -25,7 +25,12 @@ constexpr bool QUAD_IO = true;
 class GFPDB_PLACE
 {
 public:
-    GFPDB_PLACE();
+    enum class ON
+    {
+        DISK,   // in the current directory
+        MEMORY, // where syncing costs nothing, if the system has such a place
+    };
+    explicit GFPDB_PLACE(ON medium = ON::DISK);
     ~GFPDB_PLACE();
 
     std::string path(const std::string& name) const;

@@ -1,4 +1,5 @@
 // The record in memory: its properties, its operations and who owns them.
+#include "gfpdb_action_model.h"
 #include "gfpdb_embedded_flash.h"
 #include "gfpdb_operation.h"
 #include "gfpdb_test.h"
@@ -41,6 +42,8 @@ private slots:
     void clearing_deletes_both_variants();
     void a_record_deletes_its_operations();
     void an_operation_without_actions_is_stored();
+    void values_of_actions_are_stored_byte_for_byte_data();
+    void values_of_actions_are_stored_byte_for_byte();
 };
 
 void TST_RECORD::a_new_record_has_its_name_and_nothing_else()
@@ -233,6 +236,39 @@ void TST_RECORD::an_operation_without_actions_is_stored()
     QVERIFY(read->is_template());
     QVERIFY(read->is_user_defined());
     QCOMPARE(read->get_db_dir(), std::string("/a/"));
+}
+
+void TST_RECORD::values_of_actions_are_stored_byte_for_byte_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("byte order mark") << QByteArrayLiteral("\xEF\xBB\xBF");
+    QTest::newRow("byte order mark first") << QByteArrayLiteral("\xEF\xBB\xBF"
+                                                                "a");
+    QTest::newRow("byte order mark behind a back slash") << QByteArrayLiteral("\\\xEF\xBB\xBF\xC3\xA4");
+    QTest::newRow("escape") << QByteArrayLiteral("\\ufeff\\n\"");
+    QTest::newRow("zero") << QByteArray("a\0b", 3);
+    QTest::newRow("no characters") << QByteArrayLiteral("\xEF\xBF\xBE\xEF\xBF\xBF");
+    QTest::newRow("emoji and umlaut") << QByteArrayLiteral("\xF0\x9F\x92\xBE\xC3\xA4");
+    QTest::newRow("lines") << QByteArrayLiteral("\r\n\t\x7F");
+    QTest::newRow("a number") << QByteArrayLiteral("007");
+}
+
+void TST_RECORD::values_of_actions_are_stored_byte_for_byte()
+{
+    QFETCH(QByteArray, value);
+    GFPDB_EMBEDDED_FLASH record("A");
+    GFPDB_OPERATION* operation = gfpdb_make_operation(1);
+    operation->add_action(gfpdb_make_action(GFPDB_ACT_CUSTOM));
+    operation->add_action(gfpdb_make_action(GFPDB_ACT_WRITE_REGISTER));
+    operation->get_actions()->back()->set_property_value(GFPDB_WR_DATA, value.toStdString());
+    record.set_operation(operation, SINGLE_IO);
+
+    const auto read = GFPDB_EMBEDDED_FLASH::from_row(record.to_row(FAMILY, SERIAL).value(), "/a/", false);
+    QVERIFY(read != nullptr);
+    QCOMPARE(text_of(*read), text_of(record));
+    QCOMPARE(read->find_operation(1, SINGLE_IO)->get_actions()->back()->get_property_value(GFPDB_WR_DATA),
+             value.toStdString());
 }
 
 QTEST_GUILESS_MAIN(TST_RECORD)
