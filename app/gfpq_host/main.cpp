@@ -8,6 +8,8 @@
 
 #include <cstdio>
 
+#include <sys/stat.h>
+
 namespace {
 
 constexpr const char* DISPLAY_VARIABLES[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
@@ -19,6 +21,12 @@ void make_local_texts_utf8()
     constexpr int UTF8_MIB = 106;
     if (QTextCodec::codecForLocale()->mibEnum() != UTF8_MIB)
         QTextCodec::setCodecForLocale(QTextCodec::codecForMib(UTF8_MIB));
+}
+
+// Settings, pictures and directories of this program are not everyone's to write, whatever the user's mask.
+void keep_files_from_everyone()
+{
+    ::umask(::umask(0) | S_IWOTH);
 }
 
 void set_names()
@@ -55,6 +63,7 @@ int end_with_problem(const QString& problem, int exit_code)
 
 int main(int argc, char** argv)
 {
+    keep_files_from_everyone();
     set_names();
     const PARSED_ARGUMENTS parsed = parse_command_line(argc, argv);
     if (!parsed.problem.isEmpty())

@@ -1,6 +1,7 @@
 #include "gfpdb_custom_dir.h"
 
 #include "gfpdb/gfpdb_mgr.h"
+#include "gfpdb_create_dir.h"
 #include "gfpdb_log.h"
 #include "gfpdb_settings.h"
 #include "gfpdb_store.h"
@@ -8,11 +9,8 @@
 #include "fio/fio_path.h"
 #include "fio/pgm_common.h"
 
-#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -21,12 +19,6 @@ std::string& current_dir()
 {
     static std::string directory;
     return directory;
-}
-
-bool is_directory(const std::string& path)
-{
-    struct stat status = {};
-    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 } // namespace
@@ -46,12 +38,6 @@ std::string gfpdb_normalised_dir(const std::string& directory)
     return PGM_COMMON::change_folder_slash(path.fullpath() + '/');
 }
 
-bool gfpdb_create_dir(const std::string& directory)
-{
-    QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory)));
-    return is_directory(directory);
-}
-
 std::string GFPDB_MGR::get_db_custom_dir()
 {
     if (current_dir().empty())
@@ -67,7 +53,7 @@ void GFPDB_MGR::set_db_custom_dir(const std::string& directory)
 bool GFPDB_MGR::save_custom_dir_to_ini(const std::string& directory, bool create)
 {
     const std::string normalised = gfpdb_normalised_dir(directory);
-    if (create && !is_directory(normalised))
+    if (create && !gfpdb_is_dir(normalised))
         gfpdb_create_dir(normalised);
     GFPDB_STORE store(normalised);
     if (!store.is_readable()) {

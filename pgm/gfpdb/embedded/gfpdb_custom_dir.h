@@ -11,6 +11,3 @@ std::string gfpdb_default_dir();
 // `directory` in the one form in which the library keeps directories: absolute against the process's current directory,
 // without "." and "..", separated by single slashes, with one at its end. Empty gives the default directory.
 std::string gfpdb_normalised_dir(const std::string& directory);
-
-// Creates `directory` with everything above it. False when it is not there afterwards.
-bool gfpdb_create_dir(const std::string& directory);

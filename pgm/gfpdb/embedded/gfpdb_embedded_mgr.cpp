@@ -3,6 +3,7 @@
 #include "gfpdb_action_model.h"
 #include "gfpdb_builtin_records.h"
 #include "gfpdb_checks.h"
+#include "gfpdb_create_dir.h"
 #include "gfpdb_custom_dir.h"
 #include "gfpdb_flow_templates.h"
 #include "gfpdb_log.h"

@@ -1,8 +1,8 @@
 #include "gfpdb_settings.h"
 
+#include "gfpdb_create_dir.h"
 #include "gfpdb_log.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -79,11 +79,13 @@ int find_line(const QList<QByteArray>& lines, const QByteArray& key, int& sectio
 
 bool write_lines(const QString& path, const QList<QByteArray>& lines)
 {
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
+    if (!gfpdb_create_dir(QFile::encodeName(QFileInfo(path).absolutePath()).toStdString()))
         return refuse(path, QStringLiteral("cannot be written: its directory cannot be created"));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return refuse(path, QStringLiteral("cannot be written: ") + file.errorString());
+    // Who can write the settings decides which database is used.
+    file.setPermissions(file.permissions() & ~QFileDevice::WriteOther);
     file.write(lines.join('\n') + '\n');
     if (!file.commit())
         return refuse(path, QStringLiteral("cannot be written: ") + file.errorString());

@@ -6,15 +6,18 @@
 // (GFPDB_SETTING_BUSY_TIMEOUT, 5 seconds if not set), then gives up.
 //
 // The file is opened lazily by the first call and made by the first change. It is never overwritten: a file that is
-// empty, damaged, of another program or of a newer schema stays as it is, and get_problem() says so. Before every use
-// the store looks whether the file of that name is still the one it has open: reads follow a file that was put in its
-// place, but the first change afterwards is refused, because the user has not seen yet what is there now.
+// empty, damaged, of another program, altered by one or of a newer schema stays as it is, and get_problem() says so.
+// Before every use the store looks whether the file of that name is still the one it has open: reads follow a file that
+// was put in its place, but the first change afterwards is refused, because the user has not seen yet what is there
+// now.
 //
 // Texts are UTF-8 and are stored byte for byte; the directory is in the local 8-bit encoding. Throws nothing. GUI
 // thread only.
 #pragma once
 
 #include "gfpdb_row.h"
+
+#include <QStringList>
 
 #include <chrono>
 #include <functional>
@@ -27,7 +30,6 @@
 class QSqlDatabase;
 class QSqlError;
 class QSqlQuery;
-class QString;
 
 class GFPDB_STORE
 {
@@ -109,13 +111,9 @@ private:
     void close();
     bool examine_directory();
     bool examine_file();
+    bool has_own_companions();
     bool connect(const std::string& path, const char* mode);
-    std::optional<std::string> read_meta(const char* name);
-    bool read_schema();
     bool is_whole_file();
-    bool upgrade();
-    bool migrate();
-    bool run_step(int from);
     bool create_file();
     bool build_new_file(const std::string& path);
     bool is_same_file() const;
@@ -131,6 +129,18 @@ private:
     bool prepare(QSqlQuery& query, const char* statement);
     bool run(const char* statement);
     bool run(QSqlQuery& query);
+
+    // gfpdb_store_schema.cpp: what is in the file besides records.
+    std::optional<std::string> read_meta(const char* name);
+    std::optional<QStringList> read_schema_rows();
+    bool read_schema();
+    bool check_schema();
+    std::optional<int> read_schema_count();
+    bool remember_schema();
+    bool is_same_database();
+    bool upgrade();
+    bool migrate();
+    bool run_step(int from);
 
     // gfpdb_store.cpp: the records.
     bool start_read(QSqlQuery& query, const char* statement);
@@ -154,6 +164,8 @@ private:
     std::optional<FILE_IDENTITY> m_identity;
     std::string m_database_id;
     int m_schema_version = 0;
+    // The count of the schema that was found to be a known one.
+    std::optional<int> m_schema_count;
     // The file that the user has seen is gone, and no change was refused for that yet.
     bool m_was_replaced = false;
     // The last error was another program's lock; then an unusable database is not tried again before that time.

@@ -1,5 +1,5 @@
-// The part of GFPDB_STORE that deals with the database file: opening, making, upgrading, locking. The records are in
-// gfpdb_store.cpp.
+// The part of GFPDB_STORE that deals with the database file: opening, making, locking. The schema is in
+// gfpdb_store_schema.cpp, the records are in gfpdb_store.cpp.
 #include "gfpdb_store.h"
 
 #include "gfpdb_log.h"
@@ -14,7 +14,9 @@
 #include <QVariant>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <memory>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -34,38 +36,11 @@ constexpr off_t SMALLEST_FILE = 512;
 
 // Result codes of SQLite.
 constexpr int SQLITE_CODE_MASK = 0xFF;
-constexpr int SQLITE_CODE_ERROR = 1;
 constexpr int SQLITE_CODE_BUSY = 5;
 constexpr int SQLITE_CODE_READONLY = 8;
 constexpr int SQLITE_CODE_CORRUPT = 11;
 constexpr int SQLITE_CODE_FULL = 13;
 constexpr int SQLITE_CODE_NOT_A_DATABASE = 26;
-
-#define GFPDB_RECORD_COLUMNS                                                                                           \
-    "family INTEGER NOT NULL, scheme INTEGER NOT NULL, name TEXT NOT NULL, device_id TEXT NOT NULL, "                  \
-    "voltage TEXT NOT NULL, density TEXT NOT NULL, total_die INTEGER, single_io_dummy_clock INTEGER, "                 \
-    "quad_io_dummy_clock INTEGER, template_name TEXT NOT NULL, flow_template TEXT NOT NULL, revision TEXT NOT NULL, "  \
-    "saved_at TEXT NOT NULL, single_flows TEXT NOT NULL, quad_flows TEXT NOT NULL"
-
-// What leads from schema version N to N + 1; a new file takes all steps. A step is never changed once it was released.
-const std::vector<std::vector<const char*>> MIGRATIONS = {
-    {
-        "CREATE TABLE meta (name TEXT NOT NULL PRIMARY KEY, value TEXT NOT NULL)",
-        "INSERT INTO meta (name, value) VALUES ('schema_version', '0')",
-        "CREATE TABLE device (name_key TEXT NOT NULL, " GFPDB_RECORD_COLUMNS
-        ", PRIMARY KEY (family, scheme, name_key))",
-        "CREATE TABLE template (template_key TEXT NOT NULL PRIMARY KEY, " GFPDB_RECORD_COLUMNS ")",
-        "CREATE TABLE history (id INTEGER NOT NULL PRIMARY KEY, is_template INTEGER NOT NULL, reason TEXT NOT NULL, "
-        "changed_at TEXT NOT NULL, " GFPDB_RECORD_COLUMNS ")",
-    },
-    {
-        // The list of 100,000 names comes from the index alone, without a look at the records.
-        "CREATE INDEX device_names ON device (family, scheme, name_key, name)",
-        "CREATE INDEX device_keys ON device (name_key)",
-        "CREATE INDEX template_names ON template (template_key, template_name)",
-        "ALTER TABLE history ADD COLUMN changed_by TEXT NOT NULL DEFAULT ''",
-    },
-};
 
 int next_connection()
 {
@@ -117,6 +92,19 @@ bool publish(const std::string& from, const std::string& to)
     if (::link(from.c_str(), to.c_str()) == 0 || errno == EEXIST)
         return true;
     return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0 || errno == EEXIST;
+}
+
+// A file of SQLite can be read by everyone and written by its owner alone, less what the user's mask takes away. Where
+// a group may write into the directory, and the file is that group's, the group may write the file as well. SQLite
+// gives its journals the rights of the file.
+void share_with_group(const std::string& path, const std::string& directory)
+{
+    struct stat shared = {};
+    struct stat status = {};
+    if (::stat(directory.c_str(), &shared) != 0 || ::stat(path.c_str(), &status) != 0)
+        return;
+    if ((shared.st_mode & S_IWGRP) != 0 && shared.st_gid == status.st_gid)
+        ::chmod(path.c_str(), (status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) | S_IRGRP | S_IWGRP);
 }
 
 void sync_directory(const std::string& directory)
@@ -230,7 +218,7 @@ void GFPDB_STORE::open()
     close();
     m_read_problem.clear();
     m_is_locked = false;
-    if (!examine_directory() || !examine_file())
+    if (!examine_directory() || !examine_file() || !has_own_companions())
         return;
     const bool writable = ::access(m_directory.c_str(), W_OK) == 0 && ::access(file_path().c_str(), W_OK) == 0;
     const std::string why = std::strerror(errno);
@@ -291,6 +279,23 @@ bool GFPDB_STORE::examine_file()
     return false;
 }
 
+// SQLite follows a hard link in the place of its journal, old versions a symbolic one as well, and writes into or cuts
+// off whatever is at its end.
+bool GFPDB_STORE::has_own_companions()
+{
+    const std::unique_ptr<char, decltype(&std::free)> real_path(::realpath(file_path().c_str(), nullptr), &std::free);
+    const std::string path = real_path ? real_path.get() : file_path();
+    for (const char* suffix : {"-journal", "-wal", "-shm"}) {
+        struct stat status = {};
+        if (::lstat((path + suffix).c_str(), &status) != 0 || (S_ISREG(status.st_mode) && status.st_nlink == 1))
+            continue;
+        set_problem(STATE::UNUSABLE, "The database " + file_path() + " is not used: " + path + suffix +
+                                         " is a link or no file. Remove it if you did not put it there.");
+        return false;
+    }
+    return true;
+}
+
 bool GFPDB_STORE::connect(const std::string& path, const char* mode)
 {
     QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_name());
@@ -298,43 +303,8 @@ bool GFPDB_STORE::connect(const std::string& path, const char* mode)
         return fail("The SQLite driver of Qt is not installed.");
     connection.setDatabaseName(uri_of(path, mode));
     connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(busy_timeout()));
-    return (connection.open() || fail(connection.lastError())) && run("PRAGMA synchronous = FULL");
-}
-
-// A database without the table is one that this library did not make.
-std::optional<std::string> GFPDB_STORE::read_meta(const char* name)
-{
-    QSqlQuery query;
-    if (!prepare(query, "SELECT value FROM meta WHERE name = ?")) {
-        if (code_of(query.lastError()) == SQLITE_CODE_ERROR)
-            fail("The file " + file_path() + " is a database of another program. It is left as it is.");
-        return std::nullopt;
-    }
-    query.addBindValue(QLatin1String(name));
-    if (!run(query))
-        return std::nullopt;
-    return query.next() ? gfpdb_to_utf8(query.value(0).toString()) : std::string();
-}
-
-// In one transaction, so that the size belongs to the content.
-bool GFPDB_STORE::read_schema()
-{
-    if (!run("BEGIN"))
-        return false;
-    const std::optional<std::string> text = read_meta("schema_version");
-    const bool is_whole = text && is_whole_file();
-    if (!text || !is_whole || !run("COMMIT"))
-        return false;
-
-    m_schema_version = QByteArray::fromStdString(*text).toInt();
-    if (m_schema_version < 1)
-        return fail("The file " + file_path() + " is a database of another program. It is left as it is.");
-    if (m_schema_version > SCHEMA_VERSION)
-        return fail("The database " + file_path() + " was written by a newer program (its schema is " +
-                    std::to_string(m_schema_version) + ", this program knows up to " + std::to_string(SCHEMA_VERSION) +
-                    "). It is left as it is.");
-    m_database_id = read_meta("database_id").value_or(std::string());
-    return true;
+    return (connection.open() || fail(connection.lastError())) && run("PRAGMA synchronous = FULL") &&
+           run("PRAGMA trusted_schema = OFF") && run("PRAGMA cell_size_check = ON");
 }
 
 bool GFPDB_STORE::is_whole_file()
@@ -348,40 +318,6 @@ bool GFPDB_STORE::is_whole_file()
     return true;
 }
 
-// The journal is kept and emptied, which is as safe as deleting it and one write of the directory cheaper.
-bool GFPDB_STORE::upgrade()
-{
-    if (!run("PRAGMA journal_mode = TRUNCATE"))
-        return false;
-    return m_schema_version == SCHEMA_VERSION || run_transaction([this] { return migrate(); });
-}
-
-// Reads the version again: another program may have upgraded the file meanwhile.
-bool GFPDB_STORE::migrate()
-{
-    const std::optional<std::string> text = read_meta("schema_version");
-    if (!text)
-        return false;
-    for (int version = QByteArray::fromStdString(*text).toInt(); version < SCHEMA_VERSION; ++version) {
-        if (!run_step(version))
-            return false;
-    }
-    return true;
-}
-
-bool GFPDB_STORE::run_step(int from)
-{
-    for (const char* statement : MIGRATIONS[static_cast<std::size_t>(from)]) {
-        if (!run(statement))
-            return false;
-    }
-    QSqlQuery query;
-    if (!prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'"))
-        return false;
-    query.addBindValue(QString::number(from + 1));
-    return run(query);
-}
-
 // The file gets its name only when it is complete, so no one ever sees half a database.
 bool GFPDB_STORE::create_file()
 {
@@ -389,6 +325,7 @@ bool GFPDB_STORE::create_file()
         file_path() + ".new-" + gfpdb_to_utf8(QUuid::createUuid().toString(QUuid::WithoutBraces));
     const bool is_built = build_new_file(unfinished);
     close();
+    share_with_group(unfinished, m_directory);
     const bool is_published =
         is_built && (publish(unfinished, file_path()) ||
                      fail("The database " + file_path() + " cannot be made: " + std::strerror(errno) + "."));
@@ -425,7 +362,7 @@ void GFPDB_STORE::refresh()
     const bool is_open = m_state == STATE::READ_ONLY || m_state == STATE::READ_WRITE;
     if (m_state == STATE::UNUSABLE && std::chrono::steady_clock::now() < m_locked_until)
         return;
-    if (is_open && is_same_file() && QSqlDatabase::contains(connection_name()))
+    if (is_open && is_same_file() && has_own_companions() && QSqlDatabase::contains(connection_name()))
         return;
     if (is_open && !is_same_file()) {
         qCWarning(GFPDB_LOG, "The database %s was replaced or removed by another program", file_path().c_str());
@@ -481,7 +418,7 @@ bool GFPDB_STORE::run_transaction(const WORK& work)
 {
     if (!run("BEGIN IMMEDIATE"))
         return false;
-    const bool is_same = is_same_file() && (m_database_id == read_meta("database_id"));
+    const bool is_same = is_same_file() && is_same_database();
     if (is_same && work() && run("COMMIT"))
         return true;
 
@@ -489,7 +426,7 @@ bool GFPDB_STORE::run_transaction(const WORK& work)
     run("ROLLBACK");
     if (!is_same) {
         open();
-        return refuse_replaced_file();
+        return m_state == STATE::UNUSABLE ? fail(m_problem) : refuse_replaced_file();
     }
     return fail(error);
 }

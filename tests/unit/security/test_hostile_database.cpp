@@ -1,0 +1,337 @@
+// A database that someone else wrote, and texts that mean something to SQL or to the file system.
+#include "gfpdb/gfpdb_helper.h"
+#include "gfpdb_embedded_mgr.h"
+#include "gfpdb_test.h"
+
+#include <QDirIterator>
+#include <QRegularExpression>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+void expect_warning(const std::string& text)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(QString::fromStdString(text))));
+}
+
+// Every file and directory under `directory`.
+QStringList tree(const std::string& directory)
+{
+    QStringList names;
+    for (QDirIterator entries(QString::fromStdString(directory),
+                              QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                              QDirIterator::Subdirectories);
+         entries.hasNext();)
+        names << entries.next();
+    names.sort();
+    return names;
+}
+
+// Has what is asked for when the devices are listed.
+const char ENDLESS_VIEW[] = "CREATE VIEW device AS WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n) "
+                            "SELECT x AS name, x AS name_key, 3 AS family, 7 AS scheme, '' AS revision FROM n";
+
+} // namespace
+
+class TEST_HOSTILE_DATABASE : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void a_name_never_becomes_sql_data();
+    void a_name_never_becomes_sql();
+    void a_property_never_becomes_sql();
+    void a_name_never_becomes_a_path_data();
+    void a_name_never_becomes_a_path();
+
+    void a_file_with_more_or_other_tables_is_left_alone_data();
+    void a_file_with_more_or_other_tables_is_left_alone();
+    void a_view_that_never_ends_is_not_asked();
+    void a_trigger_made_while_the_file_is_open_does_not_run();
+    void a_file_that_was_only_tidied_up_is_used();
+
+    void a_link_in_the_place_of_a_companion_file_is_not_followed_data();
+    void a_link_in_the_place_of_a_companion_file_is_not_followed();
+    void a_link_made_while_the_file_is_open_is_not_followed();
+    void the_companion_files_of_a_linked_database_are_looked_at_too();
+
+    void records_of_the_wrong_type_hurt_no_other();
+
+private:
+    void make_database();
+    void verify_refused(const std::string& problem);
+
+    std::unique_ptr<GFPDB_PLACE> m_place;
+    GFPDB_MGR* m_mgr = nullptr;
+};
+
+void TEST_HOSTILE_DATABASE::init()
+{
+    m_place = std::make_unique<GFPDB_PLACE>();
+}
+
+void TEST_HOSTILE_DATABASE::cleanup()
+{
+    m_place.reset();
+}
+
+// With the devices "A" and "B" and the stored template "T".
+void TEST_HOSTILE_DATABASE::make_database()
+{
+    m_mgr = fresh_manager();
+    GFPDB_FLASH* record = make_device(*m_mgr, "A");
+    record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, "T");
+    QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "B"), m_place->db_dir()));
+}
+
+// A program that is started now does not use the file, says why, and leaves it as it is.
+void TEST_HOSTILE_DATABASE::verify_refused(const std::string& problem)
+{
+    const std::string before = read_file(m_place->db_file());
+    m_mgr = fresh_manager();
+    expect_warning(problem);
+    const std::string told = GFPDB_HELPER::get_database_problem();
+    QVERIFY2(told.find(problem) != std::string::npos, told.c_str());
+    QCOMPARE(custom_names(*m_mgr), NAMES());
+    expect_warning(problem);
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+    expect_warning(problem);
+    QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
+    QCOMPARE(read_file(m_place->db_file()), before);
+}
+
+void TEST_HOSTILE_DATABASE::a_name_never_becomes_sql_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name :
+         {"'; DROP TABLE device; --", "\"; DELETE FROM device; --", "' OR '1'='1", "%", "_", "*", "?", "?1", ":name",
+          "A' UNION SELECT * FROM template --", "\\", "`A`", "[A]", "A;", "--", "/* A */", "NULL", "0", "x'41'"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TEST_HOSTILE_DATABASE::a_name_never_becomes_sql()
+{
+    QFETCH(QString, name);
+    const std::string hostile = name.toStdString();
+    make_database();
+    const QString schema =
+        run_sql(m_place->db_file(), "SELECT group_concat(sql) FROM sqlite_master ORDER BY name").toString();
+
+    QVERIFY(m_mgr->find_flash(hostile, true) == nullptr);
+    QVERIFY(!m_mgr->is_custom_flash(hostile));
+    QVERIFY(m_mgr->delete_flash(hostile, m_place->db_dir()));
+    QVERIFY(m_mgr->remove_template(hostile));
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+    QCOMPARE(user_templates(*m_mgr), NAMES{"T"});
+
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, hostile), m_place->db_dir()));
+    QCOMPARE(custom_names(*m_mgr).size(), std::size_t(3));
+    QCOMPARE(m_mgr->find_flash(hostile, true)->get_name(), hostile);
+    QVERIFY(m_mgr->delete_flash(hostile, m_place->db_dir()));
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+    QCOMPARE(run_sql(m_place->db_file(), "SELECT group_concat(sql) FROM sqlite_master ORDER BY name").toString(),
+             schema);
+}
+
+void TEST_HOSTILE_DATABASE::a_property_never_becomes_sql()
+{
+    const std::string hostile = "x', 'y'); DROP TABLE history; --";
+    make_database();
+    GFPDB_FLASH* record = m_mgr->create_flash("C");
+    for (const GFPDB_FLASH_PROPERTY property : {GFPDB_FLASH_DEVICE_ID, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY,
+                                                GFPDB_FLASH_TEMPLATE_NAME, GFPDB_FLASH_FLOW_TEMPLATE})
+        record->set_string_property(property, hostile);
+    fill_flows(*m_mgr, *record, hostile);
+    const std::string before = text_of(*record);
+    QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
+
+    const GFPDB_FLASH* read = fresh_manager()->find_flash("C", true);
+    QVERIFY(read != nullptr && read != record);
+    QCOMPARE(text_of_flows(read->get_operations(QUAD_IO)), text_of_flows(record->get_operations(QUAD_IO)));
+    QCOMPARE(read->get_string_property(GFPDB_FLASH_VOLTAGE), hostile);
+    QCOMPARE(user_templates(*m_mgr), (NAMES{"T", hostile}));
+    QVERIFY(run_sql(m_place->db_file(), "SELECT count(*) FROM history").isValid());
+}
+
+void TEST_HOSTILE_DATABASE::a_name_never_becomes_a_path_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"..", ".", "../escaped", "../../escaped", "/tmp/escaped", "sub/name", "C:\\name", "~",
+                             "gfpdb.sqlite", "gfpdb.sqlite-journal", "file:escaped?mode=rwc", "$HOME", "`id`", "|id"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TEST_HOSTILE_DATABASE::a_name_never_becomes_a_path()
+{
+    QFETCH(QString, name);
+    make_database();
+    const QStringList before = tree(m_place->path(""));
+
+    GFPDB_FLASH* record = make_device(*m_mgr, name.toStdString());
+    record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, name.toStdString() + " as a template");
+    QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
+    QVERIFY(fresh_manager()->find_flash(name.toStdString(), true) != nullptr);
+    QVERIFY(m_mgr->delete_flash(name.toStdString(), m_place->db_dir()));
+    QVERIFY(m_mgr->remove_template(name.toStdString() + " as a template"));
+    QCOMPARE(tree(m_place->path("")), before);
+}
+
+void TEST_HOSTILE_DATABASE::a_file_with_more_or_other_tables_is_left_alone_data()
+{
+    QTest::addColumn<QString>("statement");
+    const auto row = [](const char* title, const char* statement) {
+        QTest::newRow(title) << QString::fromLatin1(statement);
+    };
+    row("a trigger that removes what is saved",
+        "CREATE TRIGGER t AFTER INSERT ON device BEGIN DELETE FROM device; DELETE FROM history; END");
+    row("a trigger on a table of other letters", "CREATE TRIGGER t AFTER DELETE ON DEVICE BEGIN SELECT 1; END");
+    row("a view", "CREATE VIEW extra AS SELECT * FROM device");
+    row("a table", "CREATE TABLE extra (name TEXT)");
+    row("an index", "CREATE INDEX extra ON device (voltage)");
+    row("an index over an expression", "CREATE INDEX extra ON device (abs(scheme))");
+    row("a column", "ALTER TABLE device ADD COLUMN extra TEXT DEFAULT ''");
+    row("a column that is computed", "ALTER TABLE device ADD COLUMN extra TEXT AS (hex(name))");
+    row("no index", "DROP INDEX device_keys");
+    row("a table of another name", "ALTER TABLE history RENAME TO past");
+}
+
+void TEST_HOSTILE_DATABASE::a_file_with_more_or_other_tables_is_left_alone()
+{
+    QFETCH(QString, statement);
+    make_database();
+    GFPDB_EMBEDDED_MGR::instance().store().reload();
+    run_sql(m_place->db_file(), statement.toStdString());
+
+    verify_refused("was altered by another program: its tables are not those of schema 2. It is left as it is.");
+}
+
+void TEST_HOSTILE_DATABASE::a_view_that_never_ends_is_not_asked()
+{
+    make_database();
+    GFPDB_EMBEDDED_MGR::instance().store().reload();
+    run_sql(m_place->db_file(), "DROP TABLE device");
+    run_sql(m_place->db_file(), ENDLESS_VIEW);
+    QCOMPARE(run_sql(m_place->db_file(), "SELECT name FROM device LIMIT 1").toInt(), 1);
+
+    verify_refused("was altered by another program");
+}
+
+void TEST_HOSTILE_DATABASE::a_trigger_made_while_the_file_is_open_does_not_run()
+{
+    make_database();
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+    run_sql(m_place->db_file(), "CREATE TRIGGER t AFTER INSERT ON device BEGIN DELETE FROM template; END");
+    const std::string before = read_file(m_place->db_file());
+
+    expect_warning("was altered by another program");
+    expect_warning("was altered by another program");
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+    QVERIFY(m_mgr->get_last_error().find("was altered by another program") != std::string::npos);
+    QCOMPARE(read_file(m_place->db_file()), before);
+    QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM template").toInt(), 1);
+}
+
+// SQLite counts that as a change of the schema, which it is not.
+void TEST_HOSTILE_DATABASE::a_file_that_was_only_tidied_up_is_used()
+{
+    make_database();
+    const int count = run_sql(m_place->db_file(), "PRAGMA schema_version").toInt();
+    run_sql(m_place->db_file(), "VACUUM");
+    QVERIFY(run_sql(m_place->db_file(), "PRAGMA schema_version").toInt() != count);
+
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "D"), m_place->db_dir()));
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B", "C", "D"}));
+}
+
+void TEST_HOSTILE_DATABASE::a_link_in_the_place_of_a_companion_file_is_not_followed_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<bool>("is_hard");
+    for (const char* suffix : {"-journal", "-wal", "-shm"}) {
+        QTest::addRow("symbolic%s", suffix) << QString::fromLatin1(suffix) << false;
+        QTest::addRow("hard%s", suffix) << QString::fromLatin1(suffix) << true;
+    }
+}
+
+// Whoever may write into the directory can point the journal at a file of the user's, which SQLite would cut off.
+void TEST_HOSTILE_DATABASE::a_link_in_the_place_of_a_companion_file_is_not_followed()
+{
+    QFETCH(QString, suffix);
+    QFETCH(bool, is_hard);
+    make_database();
+    GFPDB_EMBEDDED_MGR::instance().store().reload();
+    const std::string victim = m_place->path("victim");
+    const std::string companion = m_place->db_file() + suffix.toStdString();
+    write_file(victim, "the user's own");
+    ::unlink(companion.c_str());
+    QCOMPARE(is_hard ? ::link(victim.c_str(), companion.c_str()) : ::symlink(victim.c_str(), companion.c_str()), 0);
+
+    verify_refused(companion + " is a link or no file. Remove it if you did not put it there.");
+    QCOMPARE(read_file(victim), std::string("the user's own"));
+    ::unlink(companion.c_str());
+    QCOMPARE(custom_names(*fresh_manager()), (NAMES{"A", "B"}));
+}
+
+void TEST_HOSTILE_DATABASE::a_link_made_while_the_file_is_open_is_not_followed()
+{
+    make_database();
+    const std::string victim = m_place->path("victim");
+    const std::string journal = m_place->db_file() + "-journal";
+    write_file(victim, "the user's own");
+    ::unlink(journal.c_str());
+    QCOMPARE(::symlink(victim.c_str(), journal.c_str()), 0);
+
+    expect_warning("is a link or no file");
+    expect_warning("is a link or no file");
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+    QCOMPARE(custom_names(*m_mgr), NAMES());
+    QCOMPARE(read_file(victim), std::string("the user's own"));
+}
+
+// The companions lie where the file really is.
+void TEST_HOSTILE_DATABASE::the_companion_files_of_a_linked_database_are_looked_at_too()
+{
+    make_database();
+    GFPDB_EMBEDDED_MGR::instance().store().reload();
+    make_dir(m_place->path("real/"));
+    const std::string real_file = m_place->path("real/other.sqlite");
+    QCOMPARE(std::rename(m_place->db_file().c_str(), real_file.c_str()), 0);
+    QCOMPARE(::symlink(real_file.c_str(), m_place->db_file().c_str()), 0);
+    QCOMPARE(custom_names(*fresh_manager()), (NAMES{"A", "B"}));
+    GFPDB_EMBEDDED_MGR::instance().store().reload();
+
+    write_file(m_place->path("victim"), "the user's own");
+    ::unlink((real_file + "-journal").c_str());
+    QCOMPARE(::symlink(m_place->path("victim").c_str(), (real_file + "-journal").c_str()), 0);
+    verify_refused("other.sqlite-journal is a link or no file.");
+    QCOMPARE(read_file(m_place->path("victim")), std::string("the user's own"));
+}
+
+void TEST_HOSTILE_DATABASE::records_of_the_wrong_type_hurt_no_other()
+{
+    make_database();
+    GFPDB_EMBEDDED_MGR::instance().store().reload();
+    run_sql(m_place->db_file(),
+            "INSERT INTO device SELECT 'x1', family, scheme, x'FFFE00', 4, 5.5, x'', 'many', 1e300, -9e18, 9, 9, "
+            "'r', 's', '{\"operations\":[{}]}', x'00' FROM device WHERE name = 'A'");
+    run_sql(m_place->db_file(), "UPDATE device SET single_flows = 'no flow at all' WHERE name = 'B'");
+
+    m_mgr = fresh_manager();
+    QCOMPARE(custom_names(*m_mgr).size(), std::size_t(3));
+    QVERIFY(m_mgr->find_flash("A", true) != nullptr);
+    expect_warning("The flows of \"B\"");
+    QVERIFY(m_mgr->find_flash("B", true) == nullptr);
+    expect_warning("cannot be read");
+    QVERIFY(m_mgr->find_flash("x1", true) == nullptr);
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+}
+
+QTEST_GUILESS_MAIN(TEST_HOSTILE_DATABASE)
+#include "test_hostile_database.moc"
