@@ -51,20 +51,21 @@ QJsonObject describe(const QWidget* widget)
     return result;
 }
 
-QJsonObject widget_question(const QJsonObject& question)
+// The widget called `name`; the one with the focus for no name at all, which is how an editor in a table is met.
+QWidget* find_named_or_focused(const QString& name)
 {
-    return describe(find_widget(text_of(question, "name")));
+    return name.isEmpty() ? QApplication::focusWidget() : find_widget(name);
 }
 
-QJsonObject focus_question(const QJsonObject&)
+QJsonObject widget_question(const QJsonObject& question)
 {
-    return describe(QApplication::focusWidget());
+    return describe(find_named_or_focused(text_of(question, "name")));
 }
 
 // The item view called `name`; of a combo box its list.
 QAbstractItemView* find_view(const QString& name)
 {
-    QWidget* widget = find_widget(name);
+    QWidget* widget = find_named_or_focused(name);
     if (auto* combo = qobject_cast<QComboBox*>(widget))
         return combo->view();
     return qobject_cast<QAbstractItemView*>(widget);
@@ -231,12 +232,13 @@ QJsonArray point_to_json(const QPoint& point)
 QJsonObject answer_question(const QJsonObject& question)
 {
     static const std::map<QString, std::function<QJsonObject(const QJsonObject&)>> questions = {
-        {QStringLiteral("widget"), widget_question},   {QStringLiteral("focus"), focus_question},
-        {QStringLiteral("item"), item_question},       {QStringLiteral("cell"), cell_question},
-        {QStringLiteral("rows"), rows_question},       {QStringLiteral("tab"), tab_question},
-        {QStringLiteral("menu"), menu_question},       {QStringLiteral("menubar"), menubar_question},
-        {QStringLiteral("scene"), scene_question},     {QStringLiteral("windows"), windows_question},
-        {QStringLiteral("pointer"), pointer_question},
+        {QStringLiteral("widget"), widget_question},   {QStringLiteral("item"), item_question},
+        {QStringLiteral("cell"), cell_question},       {QStringLiteral("rows"), rows_question},
+        {QStringLiteral("tab"), tab_question},         {QStringLiteral("menu"), menu_question},
+        {QStringLiteral("menubar"), menubar_question}, {QStringLiteral("chart"), chart_question},
+        {QStringLiteral("block"), block_question},     {QStringLiteral("arrow"), arrow_question},
+        {QStringLiteral("palette"), palette_question}, {QStringLiteral("view"), view_question},
+        {QStringLiteral("windows"), windows_question}, {QStringLiteral("pointer"), pointer_question},
     };
     const auto known = questions.find(text_of(question, "ask"));
     return known == questions.end() ? QJsonObject() : known->second(question);

@@ -30,56 +30,109 @@ QGraphicsView* find_visible_view(bool chart)
     return nullptr;
 }
 
-QString kind_of(const QGraphicsItem& item)
+bool is_text(const QGraphicsItem& item)
 {
-    if (dynamic_cast<const QGraphicsTextItem*>(&item))
-        return QStringLiteral("text");
-    if (dynamic_cast<const QGraphicsRectItem*>(&item))
-        return QStringLiteral("rectangle");
-    if (dynamic_cast<const QGraphicsEllipseItem*>(&item))
-        return QStringLiteral("ellipse");
-    return dynamic_cast<const QGraphicsPolygonItem*>(&item) ? QStringLiteral("polygon") : QStringLiteral("other");
+    return dynamic_cast<const QGraphicsTextItem*>(&item) != nullptr;
 }
 
+// The text of the item itself, else of its first child that is one.
 QString text_of(const QGraphicsItem& item)
 {
     if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(&item))
         return text->toPlainText();
     for (const QGraphicsItem* child : item.childItems()) {
-        if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(child))
-            return text->toPlainText();
+        if (is_text(*child))
+            return text_of(*child);
     }
     return {};
+}
+
+bool is_shape(const QGraphicsItem& item)
+{
+    return !item.parentItem() && !is_text(item) && !text_of(item).isEmpty();
+}
+
+bool is_drop_zone(const QGraphicsItem& item)
+{
+    return dynamic_cast<const QGraphicsRectItem*>(&item) && item.parentItem() && item.acceptDrops();
+}
+
+// The items that `is_wanted` picks, from top to bottom.
+QList<QGraphicsItem*> items_of(const QGraphicsView& view, bool (*is_wanted)(const QGraphicsItem&))
+{
+    QList<QGraphicsItem*> items;
+    for (QGraphicsItem* item : view.scene()->items()) {
+        if (is_wanted(*item))
+            items.append(item);
+    }
+    std::stable_sort(items.begin(), items.end(), [](const QGraphicsItem* left, const QGraphicsItem* right) {
+        return left->sceneBoundingRect().top() < right->sceneBoundingRect().top();
+    });
+    return items;
 }
 
 QJsonObject describe(const QGraphicsView& view, const QGraphicsItem& item)
 {
     const QRect rect = view.mapFromScene(item.sceneBoundingRect()).boundingRect();
     QJsonObject result = place_to_json(*view.viewport(), rect);
-    result.insert(QStringLiteral("kind"), kind_of(item));
     result.insert(QStringLiteral("text"), text_of(item));
     result.insert(QStringLiteral("selected"), item.isSelected());
-    result.insert(QStringLiteral("accepts_drops"), item.acceptDrops());
-    result.insert(QStringLiteral("top_level"), item.parentItem() == nullptr);
     result.insert(QStringLiteral("visible"), view.viewport()->rect().contains(rect.center()));
     return result;
 }
 
 } // namespace
 
-QJsonObject scene_question(const QJsonObject& question)
+QJsonObject chart_question(const QJsonObject&)
 {
-    const QGraphicsView* view = find_visible_view(question.value(QLatin1String("which")) == QLatin1String("chart"));
+    const QGraphicsView* view = find_visible_view(true);
     if (!view)
         return {};
-    QList<QGraphicsItem*> items = view->scene()->items();
-    std::stable_sort(items.begin(), items.end(), [](const QGraphicsItem* left, const QGraphicsItem* right) {
-        return left->sceneBoundingRect().top() < right->sceneBoundingRect().top();
-    });
-    QJsonArray described;
-    for (const QGraphicsItem* item : qAsConst(items))
-        described.append(describe(*view, *item));
-    return {{QStringLiteral("found"), true},
-            {QStringLiteral("view"), place_to_json(*view->viewport(), view->viewport()->rect())},
-            {QStringLiteral("items"), described}};
+    QJsonArray texts;
+    for (const QGraphicsItem* item : items_of(*view, is_shape))
+        texts.append(text_of(*item));
+    return {{QStringLiteral("found"), true}, {QStringLiteral("texts"), texts}};
+}
+
+QJsonObject block_question(const QJsonObject& question)
+{
+    const QGraphicsView* view = find_visible_view(true);
+    if (!view)
+        return {};
+    const QString wanted = question.value(QLatin1String("text")).toString();
+    int nth = question.value(QLatin1String("nth")).toInt();
+    for (const QGraphicsItem* item : items_of(*view, is_shape)) {
+        const QString text = text_of(*item);
+        if ((text == wanted || text.startsWith(wanted + QLatin1Char('\n'))) && nth-- == 0)
+            return describe(*view, *item);
+    }
+    return {};
+}
+
+QJsonObject arrow_question(const QJsonObject& question)
+{
+    const QGraphicsView* view = find_visible_view(true);
+    if (!view)
+        return {};
+    const QList<QGraphicsItem*> arrows = items_of(*view, is_drop_zone);
+    const int index = question.value(QLatin1String("index")).toInt();
+    return index < arrows.size() ? describe(*view, *arrows[index]) : QJsonObject();
+}
+
+QJsonObject palette_question(const QJsonObject& question)
+{
+    const QGraphicsView* view = find_visible_view(false);
+    if (!view)
+        return {};
+    for (const QGraphicsItem* item : view->scene()->items()) {
+        if (text_of(*item) == question.value(QLatin1String("text")).toString())
+            return describe(*view, *item);
+    }
+    return {};
+}
+
+QJsonObject view_question(const QJsonObject&)
+{
+    const QGraphicsView* view = find_visible_view(true);
+    return view ? place_to_json(*view->viewport(), view->viewport()->rect()) : QJsonObject();
 }

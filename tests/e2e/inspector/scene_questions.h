@@ -3,8 +3,18 @@
 
 #include <QJsonObject>
 
-// "which" is "chart" or "palette" of the page that can be seen. "items" holds the top-level items and their children
-// from top to bottom: "kind" (rectangle, ellipse, polygon, text), "text" (its own, or that of its first text child),
-// "rect", "selected", "accepts_drops", "top_level", "visible" (its centre lies in the view). "view" is the place of the
-// view.
-QJsonObject scene_question(const QJsonObject& question);
+// "texts": the shapes of the chart from top to bottom, each with the text in it; arrows and labels beside are left out.
+QJsonObject chart_question(const QJsonObject& question);
+
+// The shape of the chart whose text is "text" or opens with it and a line break; of several the one number "nth" from
+// the top.
+QJsonObject block_question(const QJsonObject& question);
+
+// The arrow of the chart that takes drops and is number "index" from the top.
+QJsonObject arrow_question(const QJsonObject& question);
+
+// The entry "text" of the action palette.
+QJsonObject palette_question(const QJsonObject& question);
+
+// The part of the chart that can be seen.
+QJsonObject view_question(const QJsonObject& question);

@@ -1,5 +1,10 @@
 #include "e2e_test.h"
 
+#include "deadline.h"
+
+#include <QJsonDocument>
+#include <QProcess>
+
 #include <algorithm>
 
 E2E_TEST::E2E_TEST() = default;
@@ -83,7 +88,7 @@ bool E2E_TEST::wait_for_column(const char* view, const QStringList& texts)
     return m_session->wait_for(rows_of(view), [&](const QJsonObject& answer) { return first_column(answer) == texts; });
 }
 
-bool E2E_TEST::wait_for_box(const QString& text)
+bool E2E_TEST::wait_for_box_text(const std::function<bool(const QString& text)>& is_right)
 {
     return m_session->wait_for({{QStringLiteral("ask"), QStringLiteral("windows")}}, [&](const QJsonObject& answer) {
         const QJsonArray windows = answer.value(QLatin1String("windows")).toArray();
@@ -91,9 +96,19 @@ bool E2E_TEST::wait_for_box(const QString& text)
             const QJsonObject described = window.toObject();
             return described.value(QLatin1String("is_active")).toBool() &&
                    described.value(QLatin1String("class")) == QLatin1String("QMessageBox") &&
-                   described.value(QLatin1String("text")) == text;
+                   is_right(described.value(QLatin1String("text")).toString());
         });
     });
+}
+
+bool E2E_TEST::wait_for_box(const QString& text)
+{
+    return wait_for_box_text([&text](const QString& shown) { return shown == text; });
+}
+
+bool E2E_TEST::wait_for_box_that_opens_with(const QString& text)
+{
+    return wait_for_box_text([&text](const QString& shown) { return shown.startsWith(text); });
 }
 
 bool E2E_TEST::wait_for_window(const QString& title)
@@ -101,6 +116,17 @@ bool E2E_TEST::wait_for_window(const QString& title)
     return m_session->wait_for({{QStringLiteral("ask"), QStringLiteral("windows")}}, [&](const QJsonObject& answer) {
         return answer.value(QLatin1String("active")).toString() == title;
     });
+}
+
+QJsonObject E2E_TEST::read_database(int family, int scheme, const QStringList& names) const
+{
+    QProcess reader;
+    reader.start(QStringLiteral(E2E_READER_PROGRAM),
+                 QStringList{m_session->database_directory(), QString::number(family), QString::number(scheme)} +
+                     names);
+    if (!reader.waitForFinished(DEADLINE_MS) || reader.exitCode() != 0)
+        qWarning("the reader fails: %s", reader.readAllStandardError().constData());
+    return QJsonDocument::fromJson(reader.readAllStandardOutput()).object();
 }
 
 bool E2E_TEST::ended_well()

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 class E2E_TEST : public QObject
@@ -40,6 +41,10 @@ protected:
 
     // A message box with that text is the active window.
     bool wait_for_box(const QString& text);
+    bool wait_for_box_that_opens_with(const QString& text);
+
+    // What a second program finds in the database for (family, scheme): support/database_reader.cpp.
+    QJsonObject read_database(int family, int scheme, const QStringList& names) const;
 
     // The program has ended with the exit code 0 and logged nothing.
     bool ended_well();
@@ -54,6 +59,7 @@ private slots:
 
 private:
     void create_session();
+    bool wait_for_box_text(const std::function<bool(const QString& text)>& is_right);
 
     SCREEN m_screen;
     std::unique_ptr<QTemporaryDir> m_scratch;

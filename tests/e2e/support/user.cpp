@@ -92,6 +92,26 @@ QJsonObject menubar_entry(const QString& text)
     return question("menubar", {{QStringLiteral("text"), text}});
 }
 
+QJsonObject block(const QString& first_line, int nth)
+{
+    return question("block", {{QStringLiteral("text"), first_line}, {QStringLiteral("nth"), nth}});
+}
+
+QJsonObject arrow(int index)
+{
+    return question("arrow", {{QStringLiteral("index"), index}});
+}
+
+QJsonObject palette_entry(const QString& text)
+{
+    return question("palette", {{QStringLiteral("text"), text}});
+}
+
+QJsonObject widget_with_focus()
+{
+    return widget_called("");
+}
+
 USER::USER(const SCREEN& screen, HOST_SESSION& session) : m_screen(screen), m_session(session) {}
 
 bool USER::mouse(const QStringList& arguments) const
@@ -147,9 +167,21 @@ bool USER::control_click(const QJsonObject& place)
                               QStringLiteral("keyup"), QStringLiteral("Control_L")});
 }
 
-bool USER::turn_wheel(const QJsonObject& place, bool down)
+bool USER::reveal(const QJsonObject& place)
 {
-    return click_with(place, {CLICK, down ? WHEEL_DOWN : WHEEL_UP});
+    const QJsonObject view = question("view", {});
+    QJsonObject found;
+    // Each turn is waited for, so that no turn too many is on its way when the place appears.
+    const auto is_visible = [&] {
+        found = m_session.ask(place);
+        if (found.value(QLatin1String("visible")).toBool())
+            return true;
+        const QRect rect = rect_of(found);
+        const bool is_below = rect.center().y() > rect_of(m_session.ask(view)).center().y();
+        return click_with(view, {CLICK, is_below ? WHEEL_DOWN : WHEEL_UP}) &&
+               m_session.wait_for(place, [&](const QJsonObject& answer) { return rect_of(answer) != rect; }) && false;
+    };
+    return QTest::qWaitFor(is_visible, DEADLINE_MS) || complain("cannot be revealed", found);
 }
 
 bool USER::drag(const QJsonObject& from, const QJsonObject& to)
@@ -204,4 +236,17 @@ bool USER::choose(const char* combo, const QString& text)
     };
     return click(widget_called(combo)) && click(item_in(combo, text)) &&
            m_session.wait_for(widget_called(combo), is_current);
+}
+
+bool USER::open_property_editor(const QString& label, const char* editor_class)
+{
+    constexpr const char* TABLE = "m_property_table";
+    const auto is_there = [](const QJsonObject& answer) { return answer.value(QLatin1String("found")).toBool(); };
+    const auto is_editor = [editor_class](const QJsonObject& answer) {
+        return answer.value(QLatin1String("class")) == QLatin1String(editor_class);
+    };
+    if (!m_session.wait_for(item_in(TABLE, label), is_there))
+        return false;
+    const int row = m_session.ask(item_in(TABLE, label)).value(QLatin1String("row")).toInt();
+    return double_click(cell_in(TABLE, row, 1)) && m_session.wait_for(widget_with_focus(), is_editor);
 }
