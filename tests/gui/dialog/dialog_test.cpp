@@ -26,6 +26,18 @@ QStringList list_of(std::initializer_list<const char*> texts)
     return list;
 }
 
+QString first_difference(const QStringList& actual, const QStringList& expected)
+{
+    const int length = qMax(actual.size(), expected.size());
+    for (int index = 0; index < length; ++index) {
+        const QString made = actual.value(index, QStringLiteral("(end)"));
+        const QString wanted = expected.value(index, QStringLiteral("(end)"));
+        if (made != wanted)
+            return QStringLiteral("call %1 is %2, expected %3").arg(QString::number(index), made, wanted);
+    }
+    return QString();
+}
+
 void DIALOG_TEST::set_up()
 {
     m_forbidden_calls.clear();

@@ -121,3 +121,12 @@ inline QString qs(const char* text)
     return QString::fromUtf8(text);
 }
 QStringList list_of(std::initializer_list<const char*> texts);
+// Where two lists of calls part; empty when they are equal.
+QString first_difference(const QStringList& actual, const QStringList& expected);
+
+// As QCOMPARE for lists too long for it: says where they part.
+#define COMPARE_CALLS(ACTUAL, EXPECTED)                                                                                \
+    do {                                                                                                               \
+        const QString difference = first_difference(ACTUAL, EXPECTED);                                                 \
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));                                                        \
+    } while (false)

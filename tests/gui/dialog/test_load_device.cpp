@@ -92,7 +92,7 @@ void TEST_LOAD_DEVICE::the_calls_of_a_selection_come_in_order()
                  "mgr.get_flow_variant()", "flash:A.get_operations(false)", "mgr.is_flow_editable(flash:A)"});
     QStringList made = calls();
     made.removeAll(QStringLiteral("flash:A.is_user_defined()"));
-    QCOMPARE(made, expected);
+    COMPARE_CALLS(made, expected);
 }
 
 void TEST_LOAD_DEVICE::the_fields_show_the_record()
