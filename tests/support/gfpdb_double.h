@@ -201,6 +201,8 @@ public:
     // Kinds of operation and types of action that are answered with null.
     std::set<int> refused_operations;
     std::set<int> refused_actions;
+    // Called with every action that create_action made, before it is handed out: a test sets its answers there.
+    std::function<void(ACTION_DOUBLE&)> on_new_action;
     // Owned. What is not there answers null.
     std::map<std::pair<int, bool>, std::vector<GFPDB_OPERATION*>> builtin_template_operations;
     std::map<std::pair<std::string, bool>, std::vector<GFPDB_OPERATION*>> template_operations;

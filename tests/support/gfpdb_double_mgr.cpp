@@ -317,7 +317,10 @@ GFPDB_ACTION* MGR_DOUBLE::create_action(GFPDB_ACT_TYPE type)
     record(*this, "create_action", {log_int(type)});
     if (refused_actions.count(type) != 0)
         return nullptr;
-    return new ACTION_DOUBLE(type);
+    auto* const action = new ACTION_DOUBLE(type);
+    if (on_new_action)
+        on_new_action(*action);
+    return action;
 }
 
 GFPDB_OPERATION* MGR_DOUBLE::create_operation(int kind)

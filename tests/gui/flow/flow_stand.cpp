@@ -1,12 +1,9 @@
 #include "flow_stand.h"
 
-#include "gfpq_operation_tab_widget.h"
-
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QTableView>
 #include <QWindow>
 
 namespace {
@@ -74,6 +71,20 @@ QStringList names_of(const QList<GFPDB_ACTION*>& actions)
     return names;
 }
 
+QStringList plain_names(const GFPQ_FLOW_SCENE& scene)
+{
+    QStringList names = names_of(scene.get_actions());
+    return names.replaceInStrings(QStringLiteral("0:"), QString());
+}
+
+QStringList list(std::initializer_list<const char*> texts)
+{
+    QStringList all;
+    for (const char* const text : texts)
+        all.append(QString::fromUtf8(text));
+    return all;
+}
+
 QList<QAbstractGraphicsShapeItem*> shapes_of(const QGraphicsScene& scene)
 {
     return top_items_of<QAbstractGraphicsShapeItem>(
@@ -105,6 +116,12 @@ QStringList texts_of(const QGraphicsScene& scene)
             texts.append(text->toPlainText());
     }
     return texts;
+}
+
+void select_blocks(const QGraphicsScene& scene, std::initializer_list<int> blocks)
+{
+    for (const int block : blocks)
+        blocks_of(scene).at(block)->setSelected(true);
 }
 
 GFPQ_GRAPHICS_TEXT_ITEM* text_of(const QGraphicsItem& shape)
@@ -194,43 +211,4 @@ MODAL_DRIVER::ACTION insert_by_menu(const QString& entry, QStringList* insert_en
             chosen->trigger();
         window->close();
     };
-}
-
-std::unique_ptr<GPFQ_OPERATION_TAB_WIDGET> show_page(int operation, const std::vector<GFPDB_ACTION*>& actions,
-                                                     bool editable, const QSize& size)
-{
-    auto page = std::make_unique<GPFQ_OPERATION_TAB_WIDGET>(nullptr, operation);
-    page->resize(size);
-    page->load_flow(&actions, editable);
-    page->show();
-    QApplication::setActiveWindow(page.get());
-    if (!QTest::qWaitForWindowActive(page.get()))
-        qWarning("the page did not become active");
-    page->activate();
-    return page;
-}
-
-QGraphicsView* flow_view_of(const QWidget& page)
-{
-    const QList<QGraphicsView*> views = page.findChildren<QGraphicsView*>();
-    for (QGraphicsView* const view : views) {
-        if (qobject_cast<GFPQ_FLOW_SCENE*>(view->scene()) != nullptr)
-            return view;
-    }
-    return nullptr;
-}
-
-QGraphicsView* palette_view_of(const QWidget& page)
-{
-    const QList<QGraphicsView*> views = page.findChildren<QGraphicsView*>();
-    for (QGraphicsView* const view : views) {
-        if (qobject_cast<GFPQ_FLOW_SCENE*>(view->scene()) == nullptr)
-            return view;
-    }
-    return nullptr;
-}
-
-QTableView* property_table_of(const QWidget& page)
-{
-    return page.findChild<QTableView*>(QStringLiteral("m_property_table"));
 }

@@ -13,9 +13,6 @@
 #include <functional>
 #include <memory>
 
-class GPFQ_OPERATION_TAB_WIDGET;
-class QTableView;
-
 // A scene whose drawing steps a test can call.
 class OPEN_SCENE : public GFPQ_FLOW_SCENE
 {
@@ -66,6 +63,9 @@ void load_names(GFPQ_FLOW_SCENE& scene, const std::vector<std::string>& names, b
 
 // "TYPE:NAME" of each action, NAME being the value of its first property.
 QStringList names_of(const QList<GFPDB_ACTION*>& actions);
+// The names of a chart of Write Register actions, without their type.
+QStringList plain_names(const GFPQ_FLOW_SCENE& scene);
+QStringList list(std::initializer_list<const char*> texts);
 
 // The shapes of a chart from Start to End; its coloured or grey blocks only; its arrows; its loop connectors.
 QList<QAbstractGraphicsShapeItem*> shapes_of(const QGraphicsScene& scene);
@@ -74,6 +74,8 @@ QList<GFPQ_ARROW_POLYGON_ITEM*> arrows_of(const QGraphicsScene& scene);
 QList<QGraphicsPolygonItem*> connectors_of(const QGraphicsScene& scene);
 // Every text of the chart, labels included, in the order of the items.
 QStringList texts_of(const QGraphicsScene& scene);
+// Selects blocks (of all blocks of the chart, the grey ones included) by their place.
+void select_blocks(const QGraphicsScene& scene, std::initializer_list<int> blocks);
 // The text item of a shape.
 GFPQ_GRAPHICS_TEXT_ITEM* text_of(const QGraphicsItem& shape);
 
@@ -95,10 +97,3 @@ bool drop_text(QGraphicsView& view, const QPointF& scene_pos, const QString& tex
 // `insert_entries`, if given, receives the submenu's texts.
 MODAL_DRIVER::ACTION close_menu();
 MODAL_DRIVER::ACTION insert_by_menu(const QString& entry, QStringList* insert_entries = nullptr);
-
-// A page, shown, activated and active; its parts.
-std::unique_ptr<GPFQ_OPERATION_TAB_WIDGET> show_page(int operation, const std::vector<GFPDB_ACTION*>& actions,
-                                                     bool editable = true, const QSize& size = QSize(790, 780));
-QGraphicsView* flow_view_of(const QWidget& page);
-QGraphicsView* palette_view_of(const QWidget& page);
-QTableView* property_table_of(const QWidget& page);

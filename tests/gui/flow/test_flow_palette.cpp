@@ -1,0 +1,265 @@
+// The entries of the action palette and the drags that start from them.
+#include "flow_stand.h"
+
+#include <QChildEvent>
+#include <QDrag>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+namespace {
+
+// The drag that was started from a widget last, as long as it exists.
+class DRAG_WATCH : public QObject
+{
+public:
+    explicit DRAG_WATCH(QWidget* source) { source->installEventFilter(this); }
+
+    QDrag* drag() const { return qobject_cast<QDrag*>(m_child.data()); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::ChildAdded) {
+            m_child = static_cast<QChildEvent*>(event)->child();
+            ++count;
+        }
+        return false;
+    }
+
+private:
+    QPointer<QObject> m_child;
+};
+
+// A palette entry alone in a view.
+struct PALETTE
+{
+    explicit PALETTE(int type) : entry(new GFPQ_ACTION_MENU_ITEM(type))
+    {
+        scene.addItem(entry);
+        view = show_view(scene, QSize(300, 300));
+        at = in_viewport(*view, entry->sceneBoundingRect().center());
+    }
+
+    // Straight to the viewport: no event is processed between the steps of a drag.
+    bool send(QEvent::Type type, const QPoint& way, Qt::MouseButton button, Qt::MouseButtons buttons) const
+    {
+        const QPoint pos = at + way;
+        QMouseEvent event(type, pos, view->viewport()->mapToGlobal(pos), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(view->viewport(), &event);
+        return event.isAccepted();
+    }
+    bool press(Qt::MouseButton button = Qt::LeftButton) const
+    {
+        return send(QEvent::MouseButtonPress, QPoint(), button, button);
+    }
+    void move(const QPoint& way) const { send(QEvent::MouseMove, way, Qt::NoButton, Qt::LeftButton); }
+    void release(const QPoint& way = QPoint()) const
+    {
+        send(QEvent::MouseButtonRelease, way, Qt::LeftButton, Qt::NoButton);
+    }
+    Qt::CursorShape cursor() const { return entry->cursor().shape(); }
+
+    QGraphicsScene scene;
+    GFPQ_ACTION_MENU_ITEM* entry;
+    std::unique_ptr<QGraphicsView> view;
+    QPoint at;
+};
+
+} // namespace
+
+class TEST_FLOW_PALETTE : public GUI_TEST
+{
+    Q_OBJECT
+
+private slots:
+    void an_entry_shows_its_type_data();
+    void an_entry_shows_its_type();
+    void entries_of_other_types_are_empty_data();
+    void entries_of_other_types_are_empty();
+    void the_hand_closes_and_opens();
+    void only_the_left_button_takes_hold();
+    void a_short_move_starts_no_drag();
+    void a_drag_starts_at_the_drag_distance();
+    void a_drag_carries_name_and_colour_data();
+    void a_drag_carries_name_and_colour();
+    void an_entry_stays_where_it_is();
+};
+
+void TEST_FLOW_PALETTE::an_entry_shows_its_type_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QString>("name");
+
+    const auto add = [](int type, const char* label, const QColor& color, const char* name) {
+        QTest::newRow(name) << type << QString::fromLatin1(label) << color << QString::fromLatin1(name);
+    };
+    add(0, "WR", QColor(255, 255, 127), "Write Register");
+    add(1, "RR", QColor(170, 255, 127), "Read Register");
+    add(2, "WD", QColor(255, 170, 0), "Write Data");
+    add(3, "RD", QColor(85, 255, 255), "Read Data");
+    add(4, "E", QColor(226, 151, 226), "Erase");
+}
+
+void TEST_FLOW_PALETTE::an_entry_shows_its_type()
+{
+    QFETCH(const int, type);
+    QFETCH(const QString, label);
+    QFETCH(const QColor, color);
+    QFETCH(const QString, name);
+
+    const GFPQ_ACTION_MENU_ITEM entry(type);
+
+    QCOMPARE(entry.rect(), QRectF(0, 0, 60, 40));
+    QCOMPARE(entry.brush(), QBrush(color, Qt::SolidPattern));
+    QCOMPARE(entry.brush().color().alpha(), 255);
+    QCOMPARE(entry.toolTip(), name);
+    QCOMPARE(entry.cursor().shape(), Qt::OpenHandCursor);
+    QCOMPARE(entry.acceptedMouseButtons(), Qt::MouseButtons(Qt::LeftButton));
+    QCOMPARE(entry.parentItem(), nullptr);
+    QCOMPARE(entry.flags(), QGraphicsItem::GraphicsItemFlags());
+    QCOMPARE(entry.childItems().size(), 1);
+    const auto* const text = dynamic_cast<QGraphicsTextItem*>(entry.childItems().first());
+    QVERIFY(text != nullptr);
+    QCOMPARE(text->toPlainText(), label);
+    const QRectF extent = text->boundingRect();
+    QCOMPARE(text->pos(), QPointF(30 - extent.width() * 0.5, 20 - extent.height() * 0.5));
+    QCOMPARE(text->defaultTextColor(), QColor(Qt::black));
+    QVERIFY(dynamic_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(text) == nullptr);
+}
+
+void TEST_FLOW_PALETTE::entries_of_other_types_are_empty_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("custom") << 5 << QStringLiteral("Custom");
+    QTest::newRow("unknown") << 6 << QString();
+    QTest::newRow("negative") << -1 << QString();
+    QTest::newRow("far out") << 100000 << QString();
+}
+
+void TEST_FLOW_PALETTE::entries_of_other_types_are_empty()
+{
+    QFETCH(const int, type);
+    QFETCH(const QString, name);
+
+    const GFPQ_ACTION_MENU_ITEM entry(type);
+
+    QCOMPARE(entry.brush().style(), Qt::NoBrush);
+    QCOMPARE(entry.rect(), QRectF(0, 0, 60, 40));
+    QCOMPARE(entry.toolTip(), name);
+    QCOMPARE(dynamic_cast<QGraphicsTextItem*>(entry.childItems().first())->toPlainText(), QString());
+}
+
+void TEST_FLOW_PALETTE::the_hand_closes_and_opens()
+{
+    const PALETTE palette(4);
+    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+
+    QVERIFY(palette.press());
+    QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
+    palette.release();
+    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+}
+
+void TEST_FLOW_PALETTE::only_the_left_button_takes_hold()
+{
+    const PALETTE palette(4);
+
+    palette.press(Qt::RightButton);
+    palette.press(Qt::MiddleButton);
+
+    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+}
+
+void TEST_FLOW_PALETTE::a_short_move_starts_no_drag()
+{
+    const PALETTE palette(4);
+    const DRAG_WATCH watch(palette.view->viewport());
+    const int distance = QApplication::startDragDistance();
+    QCOMPARE(distance, 10);
+
+    palette.press();
+    palette.move(QPoint(distance - 1, 0));
+    palette.move(QPoint(0, 1 - distance));
+    // As far as the crow flies: neither step alone, nor their sum.
+    palette.move(QPoint(8, 5));
+
+    QCOMPARE(watch.count, 0);
+    QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
+    palette.release();
+    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+}
+
+void TEST_FLOW_PALETTE::a_drag_starts_at_the_drag_distance()
+{
+    for (const QPoint& way : {QPoint(10, 0), QPoint(-10, 0), QPoint(0, 10), QPoint(8, 6), QPoint(60, 60)}) {
+        const PALETTE palette(4);
+        const DRAG_WATCH watch(palette.view->viewport());
+
+        palette.press();
+        palette.move(way);
+
+        QCOMPARE(watch.count, 1);
+        QVERIFY(watch.drag() != nullptr);
+        // The drag is over by now; Qt deletes it.
+        QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(watch.drag() == nullptr);
+        palette.release(way);
+    }
+}
+
+void TEST_FLOW_PALETTE::a_drag_carries_name_and_colour_data()
+{
+    an_entry_shows_its_type_data();
+}
+
+void TEST_FLOW_PALETTE::a_drag_carries_name_and_colour()
+{
+    QFETCH(const int, type);
+    QFETCH(const QColor, color);
+    QFETCH(const QString, name);
+    const PALETTE palette(type);
+    const DRAG_WATCH watch(palette.view->viewport());
+    QPixmap expected(120, 20);
+    {
+        QPainter painter(&expected);
+        painter.fillRect(0, 0, 120, 20, QBrush(color, Qt::SolidPattern));
+        painter.drawText(QRectF(10, 0, 115, 20), name, QTextOption());
+    }
+
+    palette.press();
+    palette.move(QPoint(10, 0));
+
+    QDrag* const drag = watch.drag();
+    QVERIFY(drag != nullptr);
+    QCOMPARE(drag->source(), palette.view->viewport());
+    QCOMPARE(drag->mimeData()->text(), name);
+    QCOMPARE(drag->mimeData()->colorData().value<QColor>(), color);
+    QCOMPARE(drag->supportedActions(), Qt::DropActions(Qt::MoveAction));
+    QCOMPARE(drag->pixmap().size(), QSize(120, 20));
+    QCOMPARE(drag->pixmap().toImage(), expected.toImage());
+    palette.release(QPoint(10, 0));
+}
+
+void TEST_FLOW_PALETTE::an_entry_stays_where_it_is()
+{
+    const PALETTE palette(2);
+    const QPointF before = palette.entry->pos();
+
+    palette.press();
+    palette.move(QPoint(30, 30));
+    palette.release(QPoint(30, 30));
+
+    QCOMPARE(palette.entry->pos(), before);
+    QCOMPARE(palette.scene.items().size(), 2);
+}
+
+GFPQ_TEST_MAIN(TEST_FLOW_PALETTE)
+#include "test_flow_palette.moc"
