@@ -10,13 +10,19 @@
 #include <QAction>
 #include <QFormLayout>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
+
+// Room for what most names and paths need.
+constexpr int FIELD_CHARACTERS = 40;
 
 QString scheme_text(int scheme)
 {
@@ -27,6 +33,12 @@ QString scheme_text(int scheme)
 QString device_text(const std::string& device_name)
 {
     return device_name.empty() ? HOST_WINDOW::tr("none") : QString::fromLocal8Bit(device_name.c_str());
+}
+
+void show_text(QLineEdit* field, const QString& text)
+{
+    field->setText(text);
+    field->setCursorPosition(0);
 }
 
 void show_problem(QWidget* parent, const QString& text)
@@ -49,30 +61,50 @@ HOST_WINDOW::HOST_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, c
 
 HOST_WINDOW::~HOST_WINDOW() = default;
 
-// Names and paths are the user's own texts: shown as they stand, and free to be copied.
-QLabel* HOST_WINDOW::add_row(QFormLayout* rows, const QString& title, const QString& object_name)
+// Names and paths are the user's own texts, of any length: shown as they stand from their beginning, free to be copied,
+// and without a say in the size of the window.
+QLineEdit* HOST_WINDOW::add_row(QFormLayout* rows, const QString& title, const QString& object_name)
 {
-    auto* label = new QLabel;
-    label->setObjectName(object_name);
-    label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    rows->addRow(title, label);
-    return label;
+    auto* field = new QLineEdit;
+    field->setObjectName(object_name);
+    field->setReadOnly(true);
+    field->setFrame(false);
+    QPalette colours = field->palette();
+    colours.setColor(QPalette::Base, Qt::transparent);
+    field->setPalette(colours);
+    field->setMinimumWidth(field->fontMetrics().averageCharWidth() * FIELD_CHARACTERS);
+    rows->addRow(title, field);
+    return field;
 }
 
-void HOST_WINDOW::create_contents()
+QWidget* HOST_WINDOW::create_problem_row()
 {
-    auto* rows = new QFormLayout;
-    m_family_label = add_row(rows, tr("Device family:"), QStringLiteral("m_family_label"));
-    m_mode_label = add_row(rows, tr("Configuration mode:"), QStringLiteral("m_mode_label"));
-    m_device_label = add_row(rows, tr("Configuration device:"), QStringLiteral("m_device_label"));
-    m_directory_label = add_row(rows, tr("Database directory:"), QStringLiteral("m_directory_label"));
+    m_problem_row = new QWidget;
+    auto* icon = new QLabel;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
 
     m_problem_label = new QLabel;
     m_problem_label->setObjectName(QStringLiteral("m_problem_label"));
     m_problem_label->setTextFormat(Qt::PlainText);
     m_problem_label->setWordWrap(true);
+    m_problem_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_problem_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    auto* row = new QHBoxLayout(m_problem_row);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(icon, 0, Qt::AlignTop);
+    row->addWidget(m_problem_label, 1);
+    return m_problem_row;
+}
+
+void HOST_WINDOW::create_contents()
+{
+    auto* rows = new QFormLayout;
+    m_family_field = add_row(rows, tr("Device family:"), QStringLiteral("m_family_field"));
+    m_mode_field = add_row(rows, tr("Configuration mode:"), QStringLiteral("m_mode_field"));
+    m_device_field = add_row(rows, tr("Configuration device:"), QStringLiteral("m_device_field"));
+    m_directory_field = add_row(rows, tr("Database directory:"), QStringLiteral("m_directory_field"));
 
     auto* button = new QPushButton(tr("Configuration Device..."));
     button->setObjectName(QStringLiteral("m_dialog_button"));
@@ -81,7 +113,7 @@ void HOST_WINDOW::create_contents()
     auto* contents = new QWidget;
     auto* column = new QVBoxLayout(contents);
     column->addLayout(rows);
-    column->addWidget(m_problem_label);
+    column->addWidget(create_problem_row());
     column->addStretch();
     column->addWidget(button, 0, Qt::AlignRight);
     setCentralWidget(contents);
@@ -101,14 +133,14 @@ void HOST_WINDOW::create_menus()
 
 void HOST_WINDOW::show_state()
 {
-    m_family_label->setText(QString::fromStdString(dstr_get_user_string(m_choice.family)));
-    m_mode_label->setText(scheme_text(m_choice.config_scheme));
-    m_device_label->setText(device_text(m_choice.device_name));
+    show_text(m_family_field, QString::fromStdString(dstr_get_user_string(m_choice.family)));
+    show_text(m_mode_field, scheme_text(m_choice.config_scheme));
+    show_text(m_device_field, device_text(m_choice.device_name));
 
     const DATABASE_STATE database = database_state();
-    m_directory_label->setText(database.directory);
+    show_text(m_directory_field, database.directory);
     m_problem_label->setText(database.problem);
-    m_problem_label->setVisible(!database.problem.isEmpty());
+    m_problem_row->setVisible(!database.problem.isEmpty());
 }
 
 void HOST_WINDOW::open_dialog()

@@ -9,6 +9,7 @@
 class MODULE_LOADER;
 class QFormLayout;
 class QLabel;
+class QLineEdit;
 
 class HOST_WINDOW : public QMainWindow
 {
@@ -30,7 +31,8 @@ signals:
     void choice_changed();
 
 private:
-    QLabel* add_row(QFormLayout* rows, const QString& title, const QString& object_name);
+    QLineEdit* add_row(QFormLayout* rows, const QString& title, const QString& object_name);
+    QWidget* create_problem_row();
     void create_contents();
     void create_menus();
     void show_state();
@@ -38,9 +40,10 @@ private:
     MODULE_LOADER& m_module;
     const DIALOG_OPTIONS m_options;
     HOST_CHOICE m_choice;
-    QLabel* m_family_label = nullptr;
-    QLabel* m_mode_label = nullptr;
-    QLabel* m_device_label = nullptr;
-    QLabel* m_directory_label = nullptr;
+    QLineEdit* m_family_field = nullptr;
+    QLineEdit* m_mode_field = nullptr;
+    QLineEdit* m_device_field = nullptr;
+    QLineEdit* m_directory_field = nullptr;
+    QWidget* m_problem_row = nullptr;
     QLabel* m_problem_label = nullptr;
 };

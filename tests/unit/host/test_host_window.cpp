@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTextCodec>
 #include <QtTest>
@@ -25,6 +26,7 @@ private slots:
     void window_without_a_device_says_so();
     void scheme_without_a_name_is_shown_as_a_number();
     void texts_are_shown_as_they_stand();
+    void long_text_is_shown_from_its_beginning_in_a_window_of_usual_size();
     void database_problem_is_shown();
     void no_database_problem_leaves_no_gap();
     void dialog_opens_with_choice_and_options_data();
@@ -36,7 +38,7 @@ private slots:
     void database_directory_is_made_absolute();
 
 private:
-    static QString shown(const HOST_WINDOW& window, const char* label);
+    static QString shown(const HOST_WINDOW& window, const char* name);
 
     MODAL_DRIVER m_modals;
 };
@@ -61,12 +63,12 @@ MODULE_LOADER fake_module()
 
 } // namespace
 
-QString TEST_HOST_WINDOW::shown(const HOST_WINDOW& window, const char* label)
+QString TEST_HOST_WINDOW::shown(const HOST_WINDOW& window, const char* name)
 {
-    const auto* widget = window.findChild<QLabel*>(QLatin1String(label));
+    const auto* widget = window.findChild<QWidget*>(QLatin1String(name));
     if (!widget)
-        qFatal("the window has no %s", label);
-    return widget->text();
+        qFatal("the window has no %s", name);
+    return widget->property("text").toString();
 }
 
 void TEST_HOST_WINDOW::initTestCase()
@@ -94,10 +96,10 @@ void TEST_HOST_WINDOW::window_shows_the_choice_and_the_directory()
     const HOST_WINDOW window(module, DIALOG_OPTIONS(), choice_of(1, 13, "MX25L25645G"));
 
     QCOMPARE(window.windowTitle(), TITLE);
-    QCOMPARE(shown(window, "m_family_label"), QStringLiteral("Poplar"));
-    QCOMPARE(shown(window, "m_mode_label"), QStringLiteral("Active Serial x4"));
-    QCOMPARE(shown(window, "m_device_label"), QStringLiteral("MX25L25645G"));
-    QCOMPARE(shown(window, "m_directory_label"), QStringLiteral("/data/fl\u00e4sh/"));
+    QCOMPARE(shown(window, "m_family_field"), QStringLiteral("Poplar"));
+    QCOMPARE(shown(window, "m_mode_field"), QStringLiteral("Active Serial x4"));
+    QCOMPARE(shown(window, "m_device_field"), QStringLiteral("MX25L25645G"));
+    QCOMPARE(shown(window, "m_directory_field"), QStringLiteral("/data/fl\u00e4sh/"));
 }
 
 void TEST_HOST_WINDOW::window_without_a_device_says_so()
@@ -105,18 +107,18 @@ void TEST_HOST_WINDOW::window_without_a_device_says_so()
     MODULE_LOADER module = fake_module();
     const HOST_WINDOW window(module, DIALOG_OPTIONS(), HOST_CHOICE());
 
-    QCOMPARE(shown(window, "m_device_label"), QStringLiteral("none"));
+    QCOMPARE(shown(window, "m_device_field"), QStringLiteral("none"));
 }
 
 void TEST_HOST_WINDOW::scheme_without_a_name_is_shown_as_a_number()
 {
     MODULE_LOADER module = fake_module();
 
-    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, -1, "")), "m_mode_label"), QStringLiteral("-1"));
-    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, 26, "")), "m_mode_label"), QStringLiteral("26"));
-    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, 0, "")), "m_mode_label"),
+    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, -1, "")), "m_mode_field"), QStringLiteral("-1"));
+    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, 26, "")), "m_mode_field"), QStringLiteral("26"));
+    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, 0, "")), "m_mode_field"),
              QStringLiteral("1-bit Passive Serial"));
-    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, 25, "")), "m_mode_label"),
+    QCOMPARE(shown(HOST_WINDOW(module, DIALOG_OPTIONS(), choice_of(1, 25, "")), "m_mode_field"),
              QStringLiteral("Illegal Configuration Scheme"));
 }
 
@@ -126,13 +128,29 @@ void TEST_HOST_WINDOW::texts_are_shown_as_they_stand()
     MODULE_LOADER module = fake_module();
     const HOST_WINDOW window(module, DIALOG_OPTIONS(), choice_of(1, 7, "<b>\xC3\xA4</b>"));
 
-    QCOMPARE(shown(window, "m_device_label"), QStringLiteral("<b>\u00e4</b>"));
-    const QList<QLabel*> labels = window.findChildren<QLabel*>(QRegularExpression(QStringLiteral("^m_.*_label$")));
-    QCOMPARE(labels.size(), 5);
-    for (const QLabel* label : labels) {
-        QCOMPARE(label->textFormat(), Qt::PlainText);
-        QVERIFY2(label->textInteractionFlags() & Qt::TextSelectableByMouse, qPrintable(label->objectName()));
-    }
+    QCOMPARE(shown(window, "m_device_field"), QStringLiteral("<b>\u00e4</b>"));
+    QCOMPARE(shown(window, "m_problem_label"), QStringLiteral("<b>bad</b>"));
+    const auto* problem = window.findChild<QLabel*>(QStringLiteral("m_problem_label"));
+    QCOMPARE(problem->textFormat(), Qt::PlainText);
+    QVERIFY(problem->textInteractionFlags() & Qt::TextSelectableByMouse);
+    const QList<QLineEdit*> fields = window.findChildren<QLineEdit*>();
+    QCOMPARE(fields.size(), 4);
+    for (const QLineEdit* field : fields)
+        QVERIFY2(field->isReadOnly(), qPrintable(field->objectName()));
+}
+
+void TEST_HOST_WINDOW::long_text_is_shown_from_its_beginning_in_a_window_of_usual_size()
+{
+    const std::string long_name(10000, 'x');
+    GFPDB_WORLD::instance().custom_dir = "/" + long_name + "/";
+    MODULE_LOADER module = fake_module();
+    HOST_WINDOW usual(module, DIALOG_OPTIONS(), choice_of(1, 7, "MX25"));
+    GFPDB_WORLD::instance().database_problem = "The directory " + long_name + " is gone.";
+    HOST_WINDOW window(module, DIALOG_OPTIONS(), choice_of(1, 7, long_name));
+
+    QCOMPARE(window.sizeHint().width(), usual.sizeHint().width());
+    QCOMPARE(window.findChild<QLineEdit*>(QStringLiteral("m_device_field"))->cursorPosition(), 0);
+    QCOMPARE(window.findChild<QLineEdit*>(QStringLiteral("m_directory_field"))->cursorPosition(), 0);
 }
 
 void TEST_HOST_WINDOW::database_problem_is_shown()
@@ -198,9 +216,9 @@ void TEST_HOST_WINDOW::state_is_shown_anew_after_the_dialog()
 
     window.open_dialog();
 
-    QCOMPARE(shown(window, "m_mode_label"), QStringLiteral("Active Serial x4"));
-    QVERIFY(shown(window, "m_device_label").startsWith(QLatin1String("parent=")));
-    QCOMPARE(shown(window, "m_directory_label"), QStringLiteral("/other/"));
+    QCOMPARE(shown(window, "m_mode_field"), QStringLiteral("Active Serial x4"));
+    QVERIFY(shown(window, "m_device_field").startsWith(QLatin1String("parent=")));
+    QCOMPARE(shown(window, "m_directory_field"), QStringLiteral("/other/"));
     QCOMPARE(shown(window, "m_problem_label"), QStringLiteral("Read only."));
 }
 
