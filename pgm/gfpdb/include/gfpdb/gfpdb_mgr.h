@@ -56,7 +56,8 @@ public:
     // Removes the device `name` from the database in `directory`; its state goes into the history. True also when there
     // is no such device. False: the database is as it was.
     virtual bool delete_flash(const std::string& name, const std::string& directory) = 0;
-    // Brings the state `history_id` of the history back as the current record. False when its name is taken.
+    // Brings the state `history_id` of the history back as the current record of the family and scheme that it had; the
+    // history keeps it. False when its name is taken.
     virtual bool restore_flash(int history_id, const std::string& directory) = 0;
     virtual void get_family_list(std::vector<int>& families) const = 0;
     // The schemes of the current family.
@@ -73,8 +74,8 @@ public:
     // The stored templates only.
     virtual std::vector<std::string>& get_user_template_list(std::vector<std::string>& templates) const = 0;
     virtual bool is_template(const std::string& name) const = 0;
-    // A new record, owned by the manager and known to no one else until save_flash() stored it; null when `name` cannot
-    // be a name.
+    // A new record, owned by the manager and known to no one else until save_flash() stored it; null when `name` is
+    // empty. Any other name that is not allowed is refused by save_flash().
     virtual GFPDB_FLASH* create_flash(const std::string& name) = 0;
     // A new action with the default values of its type, owned by the caller; null for an unknown type.
     virtual GFPDB_ACTION* create_action(GFPDB_ACT_TYPE type) = 0;
@@ -88,7 +89,8 @@ public:
     virtual bool is_flow_editable(const GFPDB_FLASH* flash) const = 0;
     // Kept free for a later operation; true.
     virtual bool reserved_36() const { return true; }
-    // Removes the stored template `name`; its state goes into the history. False: the database is as it was.
+    // Removes the stored template `name`; its state goes into the history. True also when there is no such template.
+    // False: the template is built in, or the database could not be changed and is as it was.
     virtual bool remove_template(const std::string& name) = 0;
 
     // The user's database directory: absolute, "/" as separator and at its end, never empty. Local 8-bit.
