@@ -1,9 +1,11 @@
 #include "gfpdb_builtin_records.h"
 
 #include "gfpdb_catalogue.h"
+#include "gfpdb_checks.h"
 #include "gfpdb_flow_templates.h"
 #include "gfpdb_text.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <unordered_map>
@@ -83,4 +85,25 @@ GFPDB_EMBEDDED_FLASH* gfpdb_builtin_record(const std::string& name)
     if (!record)
         record = make_record(*part);
     return record.get();
+}
+
+int gfpdb_builtin_template(const std::string& name)
+{
+    const std::vector<std::string>& names = gfpdb_builtin_template_names();
+    const std::string key = gfpdb_name_key(name);
+    const auto has_key = [&key](const std::string& other) { return gfpdb_name_key(other) == key; };
+    const auto place = std::find_if(names.begin(), names.end(), has_key);
+    return place == names.end() ? -1 : static_cast<int>(place - names.begin());
+}
+
+bool gfpdb_check_record_name(const std::string& name, const std::string& what, std::string& error)
+{
+    if (!gfpdb_check_name(name, what, error))
+        return false;
+    const bool is_device = gfpdb_builtin_part(name) != nullptr;
+    if (!is_device && gfpdb_builtin_template(name) < 0)
+        return true;
+    error = std::string("There is a built-in ") + (is_device ? "device" : "template") + " called " +
+            gfpdb_quoted(name) + ": choose another name.";
+    return false;
 }

@@ -16,3 +16,10 @@ const std::vector<std::string>& gfpdb_builtin_names();
 const GFPDB_PART* gfpdb_builtin_part(const std::string& name);
 // The record of the part called `name`, or null. What the catalogue does not know of the part is not set.
 GFPDB_EMBEDDED_FLASH* gfpdb_builtin_record(const std::string& name);
+
+// The index of the built-in template `name`, compared as names are; -1 when there is none.
+int gfpdb_builtin_template(const std::string& name);
+
+// True when a device or stored template can be called `name`, whatever the database holds: the name is well formed, and
+// nothing built in has it. Else `error` says why not; `what` says in it whose name it is.
+bool gfpdb_check_record_name(const std::string& name, const std::string& what, std::string& error);

@@ -13,40 +13,15 @@
 
 #include "dstr/dstr.h"
 
-#include <algorithm>
-
 namespace {
 
 const std::string DEVICE_NAME = "device name";
 const std::string TEMPLATE_NAME = "template name";
-constexpr int NOT_FOUND = -1;
-
-// The place of the built-in template `name`, or NOT_FOUND.
-int builtin_template(const std::string& name)
-{
-    const std::vector<std::string> names = gfpdb_builtin_template_names();
-    const std::string key = gfpdb_name_key(name);
-    const auto has_key = [&key](const std::string& other) { return gfpdb_name_key(other) == key; };
-    const auto place = std::find_if(names.begin(), names.end(), has_key);
-    return place == names.end() ? NOT_FOUND : static_cast<int>(place - names.begin());
-}
 
 bool refuse(std::string& error, const std::string& text)
 {
     error = text;
     return false;
-}
-
-// What is wrong with `name` whatever the database holds.
-bool check_name(const std::string& name, const std::string& what, std::string& error)
-{
-    if (!gfpdb_check_name(name, what, error))
-        return false;
-    if (gfpdb_builtin_part(name) != nullptr)
-        return refuse(error, "There is a built-in device called " + gfpdb_quoted(name) + ": choose another name.");
-    if (builtin_template(name) != NOT_FOUND)
-        return refuse(error, "There is a built-in template called " + gfpdb_quoted(name) + ": choose another name.");
-    return true;
 }
 
 } // namespace
@@ -248,7 +223,7 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
 
 bool GFPDB_EMBEDDED_MGR::check_device_name(const std::string& name, std::string& error) const
 {
-    if (!check_name(name, DEVICE_NAME, error))
+    if (!gfpdb_check_record_name(name, DEVICE_NAME, error))
         return false;
     if (!m_store->is_writable())
         return refuse(error, m_store->get_problem());
@@ -262,7 +237,7 @@ bool GFPDB_EMBEDDED_MGR::check_device_name(const std::string& name, std::string&
 
 bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::string& error) const
 {
-    if (!check_name(name, TEMPLATE_NAME, error))
+    if (!gfpdb_check_record_name(name, TEMPLATE_NAME, error))
         return false;
     if (!m_store->is_writable())
         return refuse(error, m_store->get_problem());
@@ -297,10 +272,10 @@ bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& direc
         return fail("There is no record to save.");
     if (!can_add_flash())
         return fail("The configuration mode has no flash devices.");
-    if (!check_name(record->get_name(), DEVICE_NAME, error))
+    if (!gfpdb_check_record_name(record->get_name(), DEVICE_NAME, error))
         return fail(error);
     const std::string template_name = record->get_string_property(GFPDB_FLASH_TEMPLATE_NAME);
-    if (!template_name.empty() && !check_name(template_name, TEMPLATE_NAME, error))
+    if (!template_name.empty() && !gfpdb_check_record_name(template_name, TEMPLATE_NAME, error))
         return fail(error);
     std::optional<GFPDB_ROW> row = record->to_row(m_family, m_scheme);
     if (!row)
@@ -337,8 +312,8 @@ bool GFPDB_EMBEDDED_MGR::restore_flash(int history_id, const std::string& direct
     GFPDB_STORE& store = store_of(directory);
     const std::optional<GFPDB_HISTORY_ENTRY> entry = store.find_history(history_id);
     std::string error;
-    if (entry && !check_name(entry->is_template ? entry->row.template_name : entry->row.name,
-                             entry->is_template ? TEMPLATE_NAME : DEVICE_NAME, error))
+    if (entry && !gfpdb_check_record_name(entry->is_template ? entry->row.template_name : entry->row.name,
+                                          entry->is_template ? TEMPLATE_NAME : DEVICE_NAME, error))
         return fail(error);
     return store.restore(history_id) || fail(store.get_last_error());
 }
@@ -396,7 +371,7 @@ std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_user_template_list(std::vector
 
 bool GFPDB_EMBEDDED_MGR::is_template(const std::string& name) const
 {
-    return builtin_template(name) != NOT_FOUND || !m_store->get_template_revision(name).empty();
+    return gfpdb_builtin_template(name) >= 0 || !m_store->get_template_revision(name).empty();
 }
 
 // Only an empty name gives no record: what else is wrong with a name is said by save_flash(), which a user notices.
@@ -427,8 +402,8 @@ const std::vector<GFPDB_OPERATION*>* GFPDB_EMBEDDED_MGR::get_template_operations
                                                                                  bool flow_variant)
 {
     m_last_error.clear();
-    const int index = builtin_template(name);
-    if (index != NOT_FOUND)
+    const int index = gfpdb_builtin_template(name);
+    if (index >= 0)
         return gfpdb_builtin_template_operations(index, flow_variant);
     const GFPDB_EMBEDDED_FLASH* record = find_template(name);
     return record != nullptr ? record->get_operations(flow_variant) : nullptr;
@@ -442,7 +417,7 @@ bool GFPDB_EMBEDDED_MGR::is_flow_editable(const GFPDB_FLASH* flash) const
 bool GFPDB_EMBEDDED_MGR::remove_template(const std::string& name)
 {
     m_last_error.clear();
-    if (builtin_template(name) != NOT_FOUND)
+    if (gfpdb_builtin_template(name) >= 0)
         return fail("The template " + gfpdb_quoted(name) + " is built in: it cannot be removed.");
     return m_store->remove_template(name) || fail(m_store->get_last_error());
 }

@@ -287,6 +287,59 @@ bool GFPDB_STORE::remove_template(const std::string& template_name)
     return m_state == STATE::NO_FILE || change([&] { return drop_template(template_name, REASON_DELETED); });
 }
 
+std::vector<GFPDB_ROW> GFPDB_STORE::read_rows(const char* statement)
+{
+    std::vector<GFPDB_ROW> rows;
+    QSqlQuery query;
+    if (!start_read(query, statement))
+        return rows;
+    while (next_row(query))
+        rows.push_back(scalars_at(query, 0));
+    return rows;
+}
+
+std::vector<GFPDB_ROW> GFPDB_STORE::get_devices()
+{
+    return read_rows("SELECT " GFPDB_SCALARS_READ " FROM device ORDER BY family, scheme, name_key");
+}
+
+std::vector<GFPDB_ROW> GFPDB_STORE::get_templates()
+{
+    return read_rows("SELECT " GFPDB_SCALARS_READ " FROM template ORDER BY template_key");
+}
+
+// The devices first: then a name that is used twice within what is saved is found by the templates.
+bool GFPDB_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
+                           const std::function<void(int)>& progress)
+{
+    return prepare_write() && change([&] {
+               int done = 0;
+               for (const GFPDB_ROW& row : devices) {
+                   if (!replace_device(row))
+                       return false;
+                   progress(++done);
+               }
+               for (const GFPDB_ROW& row : templates) {
+                   if (!replace_template(row))
+                       return false;
+                   progress(++done);
+               }
+               return true;
+           });
+}
+
+bool GFPDB_STORE::replace_device(const GFPDB_ROW& row)
+{
+    return check_no_template(row.name) && drop_device(row.family, row.scheme, row.name, REASON_REPLACED) &&
+           insert_device(row);
+}
+
+bool GFPDB_STORE::replace_template(const GFPDB_ROW& row)
+{
+    return check_no_device(row.template_name) && drop_template(row.template_name, REASON_REPLACED) &&
+           insert_template(row);
+}
+
 std::vector<GFPDB_HISTORY_ENTRY> GFPDB_STORE::get_history()
 {
     std::vector<GFPDB_HISTORY_ENTRY> entries;

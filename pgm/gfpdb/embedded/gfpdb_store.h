@@ -74,6 +74,16 @@ public:
     bool remove_device(int family, int scheme, const std::string& name);
     bool remove_template(const std::string& template_name);
 
+    // The devices of all families and schemes, and all stored templates, without their flows: ordered by family, scheme
+    // and name, and by template name.
+    std::vector<GFPDB_ROW> get_devices();
+    std::vector<GFPDB_ROW> get_templates();
+    // Stores all `devices` and all `templates`, or none of them. What has the same name is replaced; a template name of
+    // a device makes no template here. Refused when a device would have the name of a template. `progress` hears the
+    // number of records that are done.
+    bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
+                  const std::function<void(int)>& progress);
+
     // The states in the history, oldest first, without their flows.
     std::vector<GFPDB_HISTORY_ENTRY> get_history();
     std::optional<GFPDB_HISTORY_ENTRY> find_history(int id);
@@ -147,6 +157,9 @@ private:
     bool next_row(QSqlQuery& query);
     bool note_read_problem();
     std::vector<std::string> read_names(QSqlQuery& query);
+    std::vector<GFPDB_ROW> read_rows(const char* statement);
+    bool replace_device(const GFPDB_ROW& row);
+    bool replace_template(const GFPDB_ROW& row);
     bool put_back(const GFPDB_HISTORY_ENTRY& entry);
     bool check_free_names(const GFPDB_ROW& row);
     bool check_no_template(const std::string& name);

@@ -1,0 +1,56 @@
+#include "cli_command.h"
+
+#include "gfpdb_text.h"
+
+std::string CLI_CALL::argument(int index) const
+{
+    const QStringList arguments = options.positionalArguments();
+    return index < arguments.size() ? gfpdb_to_utf8(arguments[index]) : std::string();
+}
+
+int CLI_CALL::argument_count() const
+{
+    return options.positionalArguments().size();
+}
+
+bool CLI_CALL::has(const char* option) const
+{
+    return options.isSet(QLatin1String(option));
+}
+
+std::string CLI_CALL::value(const char* option) const
+{
+    return gfpdb_to_utf8(options.value(QLatin1String(option)));
+}
+
+std::optional<int> CLI_CALL::number(const char* option) const
+{
+    return has(option) ? std::optional<int>(options.value(QLatin1String(option)).toInt()) : std::nullopt;
+}
+
+int CLI_CALL::wrong_usage(const std::string& text) const
+{
+    output.error(text);
+    return CLI_EXIT_USAGE;
+}
+
+int CLI_CALL::database_failed(const std::string& text) const
+{
+    output.error(text);
+    return CLI_EXIT_DATABASE;
+}
+
+void cli_add_json_option(QCommandLineParser& parser)
+{
+    parser.addOption({QLatin1String(CLI_OPTION_JSON), QStringLiteral("Print JSON.")});
+}
+
+void cli_add_place_options(QCommandLineParser& parser, const char* what)
+{
+    parser.addOption({QLatin1String(CLI_OPTION_FAMILY),
+                      QStringLiteral("%1 of this device family (1 to 72).").arg(QLatin1String(what)),
+                      QStringLiteral("number")});
+    parser.addOption({QLatin1String(CLI_OPTION_SCHEME),
+                      QStringLiteral("%1 of this configuration scheme (0 to 24).").arg(QLatin1String(what)),
+                      QStringLiteral("number")});
+}

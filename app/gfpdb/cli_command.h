@@ -1,0 +1,71 @@
+// A command of the tool.
+#pragma once
+
+#include "cli_database.h"
+#include "cli_output.h"
+
+#include <QCommandLineParser>
+
+#include <optional>
+#include <string>
+
+// What the tool's exit code says. The man page explains them.
+enum CLI_EXIT : int
+{
+    CLI_EXIT_OK = 0,
+    CLI_EXIT_DIFFERENT = 1, // records differ, or the check found something
+    CLI_EXIT_USAGE = 2,     // wrong arguments
+    CLI_EXIT_NOT_FOUND = 3, // no such record, or several of that name
+    CLI_EXIT_BAD_FILE = 4,  // a file cannot be read or written, or its content is wrong
+    CLI_EXIT_DATABASE = 5,  // the database cannot be used, or it refused the change
+};
+
+// What a command works with.
+struct CLI_CALL
+{
+    const QCommandLineParser& options;
+    CLI_DATABASE& database;
+    CLI_OUTPUT& output;
+
+    // The positional argument at `index` behind the command's name; empty when there is none.
+    std::string argument(int index) const;
+    int argument_count() const;
+    bool has(const char* option) const;
+    std::string value(const char* option) const;
+    // The whole number that is the value of `option`; none when it was not given. It was checked before.
+    std::optional<int> number(const char* option) const;
+    // Says what is wrong with the arguments; gives CLI_EXIT_USAGE.
+    int wrong_usage(const std::string& text) const;
+    // Says why the database cannot be used; gives CLI_EXIT_DATABASE.
+    int database_failed(const std::string& text) const;
+};
+
+// One class per command. A command does its work in one run() and gives the exit code.
+class CLI_COMMAND
+{
+public:
+    virtual ~CLI_COMMAND() = default;
+    virtual const char* name() const = 0;
+    // One line for the list of commands.
+    virtual const char* summary() const = 0;
+    // What stands behind the command's name, as in "NAME...".
+    virtual const char* arguments() const = 0;
+    // The fewest and most arguments; -1 for no limit.
+    virtual std::pair<int, int> argument_range() const = 0;
+    virtual void add_options(QCommandLineParser& parser) const = 0;
+    virtual int run(const CLI_CALL& call) const = 0;
+
+protected:
+    CLI_COMMAND() = default;
+    CLI_COMMAND(const CLI_COMMAND&) = delete;
+    CLI_COMMAND& operator=(const CLI_COMMAND&) = delete;
+};
+
+// Options that several commands have.
+void cli_add_json_option(QCommandLineParser& parser);
+void cli_add_place_options(QCommandLineParser& parser, const char* what);
+constexpr const char* CLI_OPTION_JSON = "json";
+constexpr const char* CLI_OPTION_FAMILY = "family";
+constexpr const char* CLI_OPTION_SCHEME = "scheme";
+constexpr const char* CLI_OPTION_DIR = "dir";
+constexpr const char* CLI_OPTION_OUTPUT = "output";

@@ -1,0 +1,60 @@
+#include "cli_find.h"
+
+#include "gfpdb_text.h"
+
+namespace {
+
+std::string places_of(const std::vector<CLI_RECORD>& records)
+{
+    std::vector<std::string> places;
+    for (const CLI_RECORD& record : records)
+        places.push_back("--family " + std::to_string(record.row.family) + " --scheme " +
+                         std::to_string(record.row.scheme));
+    return gfpdb_joined(places);
+}
+
+// The devices alone when there are some: a template or a built-in device of that name then has to stand back.
+std::vector<CLI_RECORD> find_all(const CLI_CALL& call, const CLI_SELECTION& selection)
+{
+    std::vector<CLI_RECORD> stored = call.database.find_stored(selection);
+    std::vector<CLI_RECORD> devices;
+    for (const CLI_RECORD& record : stored) {
+        if (!record.is_template)
+            devices.push_back(record);
+    }
+    return devices.empty() ? stored : devices;
+}
+
+} // namespace
+
+CLI_SELECTION cli_selection(const CLI_CALL& call, const std::string& name)
+{
+    return {name, call.number(CLI_OPTION_FAMILY), call.number(CLI_OPTION_SCHEME)};
+}
+
+std::optional<CLI_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code)
+{
+    const CLI_SELECTION selection = cli_selection(call, name);
+    const std::vector<CLI_RECORD> stored = find_all(call, selection);
+    const std::vector<CLI_RECORD> builtin = call.database.find_builtin(selection);
+    exit_code = CLI_EXIT_NOT_FOUND;
+    if (stored.size() > 1) {
+        call.output.error("There are several devices called " + gfpdb_quoted(name) +
+                          ". Say which one: " + places_of(stored) + ".");
+        return std::nullopt;
+    }
+    if (!stored.empty()) {
+        std::optional<CLI_RECORD> record = call.database.load(stored.front());
+        if (!record)
+            exit_code = call.database_failed(call.database.store().get_last_error());
+        return record;
+    }
+    if (!builtin.empty())
+        return builtin.front();
+    const std::string problem = call.database.read_problem();
+    if (!problem.empty())
+        exit_code = call.database_failed(problem);
+    else
+        call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.directory() + ".");
+    return std::nullopt;
+}

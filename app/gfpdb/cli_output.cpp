@@ -1,0 +1,75 @@
+#include "cli_output.h"
+
+#include "gfpdb_text.h"
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr const char* PROGRAM = "gfpdb: ";
+
+void write(std::FILE* stream, const std::string& text)
+{
+    std::fwrite(text.data(), 1, text.size(), stream);
+}
+
+} // namespace
+
+std::string cli_printable(const std::string& text)
+{
+    QString shown = gfpdb_from_utf8(text);
+    for (QChar& character : shown) {
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QLatin1Char('?');
+    }
+    return gfpdb_to_utf8(shown);
+}
+
+void CLI_OUTPUT::print(const std::string& text)
+{
+    write(stdout, text);
+}
+
+void CLI_OUTPUT::error(const std::string& text)
+{
+    finish_progress();
+    std::fflush(stdout);
+    write(stderr, PROGRAM + cli_printable(text) + '\n');
+}
+
+void CLI_OUTPUT::problem(const std::string& file, const CLI_PROBLEM& problem)
+{
+    std::string text = file;
+    if (problem.line > 0)
+        text += ':' + std::to_string(problem.line);
+    if (!problem.field.empty())
+        text += ": " + problem.field;
+    error(text + ": " + problem.text);
+}
+
+// Once per percent: a terminal is slower than the work.
+void CLI_OUTPUT::progress(const char* work, int done, int total)
+{
+    const int percent = total > 0 ? static_cast<int>(100LL * done / total) : 100;
+    if (percent == m_percent || ::isatty(STDERR_FILENO) != 1)
+        return;
+    m_percent = percent;
+    m_shows_progress = true;
+    write(stderr, '\r' + std::string(work) + ' ' + std::to_string(done) + " of " + std::to_string(total));
+    std::fflush(stderr);
+}
+
+void CLI_OUTPUT::finish_progress()
+{
+    if (m_shows_progress)
+        write(stderr, "\n");
+    m_shows_progress = false;
+    m_percent = -1;
+}
+
+bool CLI_OUTPUT::flush()
+{
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}

@@ -1,0 +1,31 @@
+// Where the tool's texts go.
+#pragma once
+
+#include "cli_record.h"
+
+#include <string>
+
+// `text` for a terminal: control characters, with which a value could move the cursor, are shown as "?".
+std::string cli_printable(const std::string& text);
+
+// Standard output, and standard error with the tool's name before each message. Texts are UTF-8.
+class CLI_OUTPUT
+{
+public:
+    // Prints `text` as it stands.
+    void print(const std::string& text);
+    // Prints a message to standard error, on a line of its own.
+    void error(const std::string& text);
+    // Prints a problem as "file:line: field: text".
+    void problem(const std::string& file, const CLI_PROBLEM& problem);
+    // Shows how far a long piece of work has come, when standard error is a terminal: "Importing 120 of 4000". Nothing
+    // else may be printed until finish_progress().
+    void progress(const char* work, int done, int total);
+    void finish_progress();
+    // False when something could not be printed (a full disk, a closed pipe).
+    bool flush();
+
+private:
+    bool m_shows_progress = false;
+    int m_percent = -1;
+};

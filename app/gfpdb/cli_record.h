@@ -1,0 +1,29 @@
+// What the tool's commands pass to each other: records, and what is wrong with them.
+#pragma once
+
+#include "gfpdb_row.h"
+
+#include <string>
+#include <vector>
+
+// A device or a stored template.
+struct CLI_RECORD
+{
+    bool is_template = false;
+    GFPDB_ROW row;
+    // The line of a file on which the record starts; 0 for one of the database.
+    int line = 0;
+
+    // The name under which the record is found.
+    const std::string& name() const { return is_template ? row.template_name : row.name; }
+};
+
+// One thing that is wrong.
+struct CLI_PROBLEM
+{
+    // The line of the file; 0 when there is no file.
+    int line = 0;
+    // The record and the place in it: "devices[0].single_flows[1].actions[2].command"; empty for the whole.
+    std::string field;
+    std::string text;
+};

@@ -1,0 +1,86 @@
+#include "export_command.h"
+
+#include "cli_find.h"
+#include "record_csv.h"
+#include "record_json.h"
+
+#include "gfpdb_text.h"
+
+#include <QSaveFile>
+
+namespace {
+
+constexpr const char* OPTION_CSV = "csv";
+
+// The named records, or all of the directory, with their flows. None: a message was printed.
+std::optional<std::vector<CLI_RECORD>> collect(const CLI_CALL& call, int& exit_code)
+{
+    std::vector<CLI_RECORD> records;
+    for (int at = 0; at < call.argument_count(); ++at) {
+        const std::optional<CLI_RECORD> record = cli_find_one(call, call.argument(at), exit_code);
+        if (!record)
+            return std::nullopt;
+        records.push_back(*record);
+    }
+    if (call.argument_count() > 0)
+        return records;
+    const std::vector<CLI_RECORD> found = call.database.find_stored(cli_selection(call, std::string()));
+    for (const CLI_RECORD& each : found) {
+        // What another program has removed meanwhile is not there to be exported.
+        if (const std::optional<CLI_RECORD> record = call.database.load(each))
+            records.push_back(*record);
+        call.output.progress("Exporting", static_cast<int>(records.size()), static_cast<int>(found.size()));
+    }
+    call.output.finish_progress();
+    const std::string problem = call.database.read_problem();
+    if (problem.empty() && call.database.store().get_last_error().empty())
+        return records;
+    exit_code = call.database_failed(problem.empty() ? call.database.store().get_last_error() : problem);
+    return std::nullopt;
+}
+
+int write_file(const CLI_CALL& call, const std::string& text)
+{
+    const QString path = gfpdb_from_utf8(call.value(CLI_OPTION_OUTPUT));
+    QSaveFile file(path);
+    const bool written =
+        file.open(QIODevice::WriteOnly) &&
+        file.write(text.data(), static_cast<qint64>(text.size())) == static_cast<qint64>(text.size()) && file.commit();
+    if (written)
+        return CLI_EXIT_OK;
+    call.output.error(gfpdb_to_utf8(path) + ": The file cannot be written: " + gfpdb_to_utf8(file.errorString()) + ".");
+    return CLI_EXIT_BAD_FILE;
+}
+
+} // namespace
+
+void CLI_EXPORT_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    parser.addOption({{QStringLiteral("o"), QLatin1String(CLI_OPTION_OUTPUT)},
+                      QStringLiteral("Write to this file instead of standard output."),
+                      QStringLiteral("file")});
+    parser.addOption({QLatin1String(OPTION_CSV), QStringLiteral("Write a list of the devices, without their flows, as "
+                                                                "comma-separated values.")});
+    cli_add_place_options(parser, "Only devices");
+}
+
+int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
+{
+    int exit_code = CLI_EXIT_OK;
+    const std::optional<std::vector<CLI_RECORD>> records = collect(call, exit_code);
+    if (!records)
+        return exit_code;
+    std::string text;
+    if (call.has(OPTION_CSV)) {
+        text = records_to_csv(*records);
+    } else {
+        const std::optional<JSON_VALUE> json = records_to_json(*records);
+        if (!json)
+            return call.database_failed("The flows of a record cannot be read: gfpdb check says which.");
+        text = json_write(*json);
+    }
+    if (call.has(CLI_OPTION_OUTPUT))
+        return write_file(call, text);
+    call.output.print(text);
+    return CLI_EXIT_OK;
+}

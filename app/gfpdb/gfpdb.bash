@@ -1,0 +1,72 @@
+# Completion of gfpdb(1) for bash.
+
+_gfpdb_names()
+{
+    local dir=() word at
+    for ((at = 1; at < COMP_CWORD; ++at)); do
+        case ${COMP_WORDS[at]} in
+        -d | --dir) dir=(--dir "${COMP_WORDS[at + 1]}") ;;
+        esac
+    done
+    # Names may have blanks: one per line, and quoted for the command line.
+    while IFS= read -r word; do
+        [[ $word == "${COMP_WORDS[COMP_CWORD]}"* ]] && COMPREPLY+=("$(printf '%q' "$word")")
+    done < <("${COMP_WORDS[0]}" list --all --json "${dir[@]}" 2>/dev/null |
+        sed -n 's/^    "name": "\(.*\)",$/\1/p')
+}
+
+_gfpdb()
+{
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
+    local commands="list show export import check history restore diff help"
+    local common="--dir --verbose --help" options=""
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W "$commands --help --version" -- "$current")
+        return
+    fi
+    case $previous in
+    -d | --dir)
+        mapfile -t COMPREPLY < <(compgen -d -- "$current")
+        return
+        ;;
+    -o | --output)
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+        return
+        ;;
+    --variant)
+        mapfile -t COMPREPLY < <(compgen -W "single quad both" -- "$current")
+        return
+        ;;
+    --family | --scheme | --filter)
+        return
+        ;;
+    esac
+    case $command in
+    list) options="--builtin --all --filter --csv --json --family --scheme" ;;
+    show) options="--variant --json --family --scheme" ;;
+    export) options="--output --csv --family --scheme" ;;
+    import) options="--replace --dry-run --unchecked --csv --family --scheme" ;;
+    check) options="--json" ;;
+    history) options="--json --family --scheme" ;;
+    diff) options="--json --family --scheme" ;;
+    help)
+        mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$current")
+        return
+        ;;
+    esac
+    if [[ $current == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$common $options" -- "$current")
+        return
+    fi
+    case $command in
+    show | export | history) _gfpdb_names ;;
+    import) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+    diff)
+        _gfpdb_names
+        mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -f -- "$current")
+        ;;
+    esac
+}
+
+complete -F _gfpdb gfpdb

@@ -1,0 +1,95 @@
+#include "history_command.h"
+
+#include "cli_find.h"
+#include "json_text.h"
+
+#include "gfpdb_text.h"
+
+namespace {
+
+constexpr int ID_WIDTH = 6;
+constexpr int WHEN_WIDTH = 22;
+constexpr int WHO_WIDTH = 18;
+constexpr int REASON_WIDTH = 10;
+constexpr int KIND_WIDTH = 10;
+constexpr int NUMBER_WIDTH = 8;
+
+const char* kind_of(const GFPDB_HISTORY_ENTRY& entry)
+{
+    return entry.is_template ? "template" : "device";
+}
+
+const std::string& name_of(const GFPDB_HISTORY_ENTRY& entry)
+{
+    return entry.is_template ? entry.row.template_name : entry.row.name;
+}
+
+std::string line(const std::string& id, const std::string& when, const std::string& who, const std::string& reason,
+                 const std::string& kind, const std::string& family, const std::string& scheme, const std::string& name)
+{
+    const auto cell = [](const std::string& text, int width) {
+        const QString shown = gfpdb_from_utf8(cli_printable(text));
+        return shown.leftJustified(std::max(width, shown.size() + 2));
+    };
+    return gfpdb_to_utf8(cell(id, ID_WIDTH) + cell(when, WHEN_WIDTH) + cell(who, WHO_WIDTH) +
+                         cell(reason, REASON_WIDTH) + cell(kind, KIND_WIDTH) + cell(family, NUMBER_WIDTH) +
+                         cell(scheme, NUMBER_WIDTH)) +
+           cli_printable(name) + '\n';
+}
+
+std::string table(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
+{
+    std::string text = line("ID", "WHEN", "WHO", "REASON", "KIND", "FAMILY", "SCHEME", "NAME");
+    for (const GFPDB_HISTORY_ENTRY& entry : entries)
+        text += line(std::to_string(entry.id), entry.changed_at, entry.changed_by, entry.reason, kind_of(entry),
+                     std::to_string(entry.row.family), std::to_string(entry.row.scheme), name_of(entry));
+    return text;
+}
+
+std::string json(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
+{
+    JSON_VALUE list = json_list();
+    for (const GFPDB_HISTORY_ENTRY& entry : entries) {
+        JSON_VALUE object = json_object();
+        object.add("id", json_number(entry.id));
+        object.add("changed_at", json_string(entry.changed_at));
+        object.add("changed_by", json_string(entry.changed_by));
+        object.add("reason", json_string(entry.reason));
+        object.add("kind", json_string(kind_of(entry)));
+        object.add("family", json_number(entry.row.family));
+        object.add("scheme", json_number(entry.row.scheme));
+        object.add("name", json_string(name_of(entry)));
+        list.items.push_back(std::move(object));
+    }
+    return json_write(list);
+}
+
+bool is_selected(const CLI_SELECTION& selection, const GFPDB_HISTORY_ENTRY& entry)
+{
+    return (selection.name.empty() || gfpdb_name_key(selection.name) == gfpdb_name_key(name_of(entry))) &&
+           selection.family.value_or(entry.row.family) == entry.row.family &&
+           selection.scheme.value_or(entry.row.scheme) == entry.row.scheme;
+}
+
+} // namespace
+
+void CLI_HISTORY_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    cli_add_place_options(parser, "Only records");
+    cli_add_json_option(parser);
+}
+
+int CLI_HISTORY_COMMAND::run(const CLI_CALL& call) const
+{
+    const CLI_SELECTION selection = cli_selection(call, call.argument(0));
+    std::vector<GFPDB_HISTORY_ENTRY> entries;
+    for (const GFPDB_HISTORY_ENTRY& entry : call.database.store().get_history()) {
+        if (is_selected(selection, entry))
+            entries.push_back(entry);
+    }
+    const std::string problem = call.database.read_problem();
+    if (!problem.empty())
+        return call.database_failed(problem);
+    call.output.print(call.has(CLI_OPTION_JSON) ? json(entries) : table(entries));
+    return CLI_EXIT_OK;
+}

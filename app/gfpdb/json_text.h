@@ -1,0 +1,56 @@
+// JSON with what record files need beyond Qt's: members keep their order, and every value knows its line.
+//
+// Texts are UTF-8 and come back byte for byte. Pure functions.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+struct JSON_VALUE
+{
+    enum KIND
+    {
+        NOTHING, // null
+        BOOLEAN,
+        NUMBER,
+        TEXT,
+        LIST,
+        OBJECT,
+    };
+
+    KIND kind = NOTHING;
+    // The line on which the value starts, from 1; 0 for a value that was not read.
+    int line = 0;
+    bool truth = false;
+    // The text, or the number as it is written.
+    std::string text;
+    std::vector<JSON_VALUE> items;
+    std::vector<std::pair<std::string, JSON_VALUE>> members;
+
+    // The member called `name`, or null.
+    const JSON_VALUE* member(const std::string& name) const;
+    // Appends a member and returns its value.
+    JSON_VALUE& add(const std::string& name, JSON_VALUE value);
+};
+
+JSON_VALUE json_null();
+JSON_VALUE json_bool(bool truth);
+JSON_VALUE json_number(long long number);
+JSON_VALUE json_string(const std::string& text);
+JSON_VALUE json_list();
+JSON_VALUE json_object();
+
+// Why a text is no JSON.
+struct JSON_ERROR
+{
+    int line = 0;
+    std::string text;
+};
+
+// Reads one JSON value. False: `error` says what is wrong and where. Also refused are a member that occurs twice in an
+// object, more than 64 levels, and text that is not UTF-8.
+bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error);
+
+// The value with two blanks per level, one member or item per line, and a line break at the end.
+std::string json_write(const JSON_VALUE& value);

@@ -1,0 +1,145 @@
+#include "list_command.h"
+
+#include "cli_find.h"
+#include "record_csv.h"
+#include "record_json.h"
+
+#include "gfpdb_text.h"
+
+#include <QRegularExpression>
+#include <QString>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr const char* OPTION_BUILTIN = "builtin";
+constexpr const char* OPTION_ALL = "all";
+constexpr const char* OPTION_FILTER = "filter";
+constexpr const char* OPTION_CSV = "csv";
+
+constexpr std::size_t COLUMN_COUNT = 7;
+using LINE = std::array<std::string, COLUMN_COUNT>;
+
+struct LISTED
+{
+    CLI_RECORD record;
+    bool is_builtin;
+
+    const char* kind() const { return is_builtin ? "builtin" : record.is_template ? "template" : "device"; }
+};
+
+// A built-in device serves every family and scheme.
+LINE line_of(const LISTED& listed)
+{
+    const GFPDB_ROW& row = listed.record.row;
+    const bool placed = !listed.is_builtin;
+    return {listed.record.name(),
+            listed.kind(),
+            placed ? std::to_string(row.family) : "-",
+            placed ? std::to_string(row.scheme) : "-",
+            row.density.empty() ? "-" : row.density,
+            row.voltage.empty() ? "-" : row.voltage,
+            row.device_id.empty() ? "-" : row.device_id};
+}
+
+std::string table(const std::vector<LISTED>& records)
+{
+    std::vector<LINE> lines = {{"NAME", "KIND", "FAMILY", "SCHEME", "DENSITY", "VOLTAGE", "ID"}};
+    for (const LISTED& record : records)
+        lines.push_back(line_of(record));
+    std::array<int, COLUMN_COUNT> widths = {};
+    for (const LINE& line : lines) {
+        for (std::size_t at = 0; at < COLUMN_COUNT; ++at)
+            widths[at] = std::max(widths[at], gfpdb_from_utf8(line[at]).size());
+    }
+    QString text;
+    for (const LINE& line : lines) {
+        for (std::size_t at = 0; at + 1 < COLUMN_COUNT; ++at)
+            text += gfpdb_from_utf8(cli_printable(line[at])).leftJustified(widths[at] + 2);
+        text += gfpdb_from_utf8(cli_printable(line.back())) + QLatin1Char('\n');
+    }
+    return gfpdb_to_utf8(text);
+}
+
+JSON_VALUE number(const std::optional<int>& value)
+{
+    return value ? json_number(*value) : json_null();
+}
+
+std::string json(const std::vector<LISTED>& records)
+{
+    JSON_VALUE list = json_list();
+    for (const LISTED& listed : records) {
+        const GFPDB_ROW& row = listed.record.row;
+        JSON_VALUE object = json_object();
+        object.add("name", json_string(listed.record.name()));
+        object.add("kind", json_string(listed.kind()));
+        object.add("family", listed.is_builtin ? json_null() : json_number(row.family));
+        object.add("scheme", listed.is_builtin ? json_null() : json_number(row.scheme));
+        object.add("device_id", json_string(row.device_id));
+        object.add("voltage", json_string(row.voltage));
+        object.add("density", json_string(row.density));
+        object.add("total_die", number(row.total_die));
+        object.add("single_io_dummy_clock", number(row.single_io_dummy_clock));
+        object.add("quad_io_dummy_clock", number(row.quad_io_dummy_clock));
+        object.add("flow_template", json_string(row.flow_template));
+        list.items.push_back(std::move(object));
+    }
+    return json_write(list);
+}
+
+std::vector<LISTED> find(const CLI_CALL& call)
+{
+    std::vector<LISTED> found;
+    const CLI_SELECTION selection = cli_selection(call, std::string());
+    if (!call.has(OPTION_BUILTIN)) {
+        for (const CLI_RECORD& record : call.database.find_stored(selection))
+            found.push_back({record, false});
+    }
+    if (call.has(OPTION_BUILTIN) || call.has(OPTION_ALL)) {
+        for (const CLI_RECORD& record : call.database.find_builtin(selection))
+            found.push_back({record, true});
+    }
+    const QRegularExpression filter(
+        QRegularExpression::wildcardToRegularExpression(gfpdb_from_utf8(call.value(OPTION_FILTER))),
+        QRegularExpression::CaseInsensitiveOption);
+    const auto is_out = [&filter](const LISTED& listed) {
+        return !filter.match(gfpdb_from_utf8(listed.record.name())).hasMatch();
+    };
+    if (call.has(OPTION_FILTER))
+        found.erase(std::remove_if(found.begin(), found.end(), is_out), found.end());
+    return found;
+}
+
+std::string csv(const std::vector<LISTED>& listed)
+{
+    std::vector<CLI_RECORD> records;
+    for (const LISTED& each : listed)
+        records.push_back(each.record);
+    return records_to_csv(records);
+}
+
+} // namespace
+
+void CLI_LIST_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    parser.addOption({QLatin1String(OPTION_BUILTIN), QStringLiteral("Only the built-in devices.")});
+    parser.addOption({QLatin1String(OPTION_ALL), QStringLiteral("The built-in devices as well.")});
+    parser.addOption({QLatin1String(OPTION_FILTER), QStringLiteral("Only names that match, as in \"MX25*\"."),
+                      QStringLiteral("wildcard")});
+    parser.addOption({QLatin1String(OPTION_CSV), QStringLiteral("Print the devices as comma-separated values.")});
+    cli_add_place_options(parser, "Only devices");
+    cli_add_json_option(parser);
+}
+
+int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
+{
+    if (call.has(OPTION_CSV) && call.has(CLI_OPTION_JSON))
+        return call.wrong_usage("--csv and --json do not go together.");
+    const std::vector<LISTED> records = find(call);
+    call.output.print(call.has(CLI_OPTION_JSON) ? json(records) : call.has(OPTION_CSV) ? csv(records) : table(records));
+    const std::string problem = call.has(OPTION_BUILTIN) ? std::string() : call.database.read_problem();
+    return problem.empty() ? CLI_EXIT_OK : call.database_failed(problem);
+}

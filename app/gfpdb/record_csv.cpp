@@ -1,0 +1,133 @@
+#include "record_csv.h"
+
+#include "record_json.h"
+
+#include "gfpdb_action_value.h"
+#include "gfpdb_catalogue_csv.h"
+#include "gfpdb_text.h"
+
+#include <algorithm>
+
+namespace {
+
+// The columns are the members of a record in JSON that are no flows.
+const std::vector<std::string> COLUMNS = {"name",
+                                          "family",
+                                          "scheme",
+                                          "device_id",
+                                          "voltage",
+                                          "density",
+                                          "total_die",
+                                          "single_io_dummy_clock",
+                                          "quad_io_dummy_clock",
+                                          "template_name",
+                                          "flow_template"};
+constexpr std::size_t COLUMNS_REQUIRED = 3;
+const std::vector<std::string> NUMBER_COLUMNS = {"family", "scheme", "total_die", "single_io_dummy_clock",
+                                                 "quad_io_dummy_clock"};
+
+bool is_one_of(const std::vector<std::string>& texts, const std::string& text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+std::string cell(const std::string& text)
+{
+    if (text.find_first_of(",\"\r\n") == std::string::npos)
+        return text;
+    std::string quoted = "\"";
+    for (const char character : text) {
+        quoted += character;
+        if (character == '"')
+            quoted += '"';
+    }
+    return quoted + '"';
+}
+
+std::string line(const std::vector<std::string>& cells)
+{
+    std::string text;
+    for (const std::string& each : cells)
+        text += (text.empty() && &each == &cells.front() ? "" : ",") + cell(each);
+    return text + '\n';
+}
+
+std::string number(const std::optional<int>& value)
+{
+    return value ? std::to_string(*value) : std::string();
+}
+
+bool check_columns(const GFPDB_CSV_ROW& head, std::vector<CLI_PROBLEM>& problems)
+{
+    const std::size_t before = problems.size();
+    for (std::size_t at = 0; at < COLUMNS_REQUIRED; ++at) {
+        if (!is_one_of(head.cells, COLUMNS[at]))
+            problems.push_back({head.line, COLUMNS[at], "The column is missing."});
+    }
+    for (const std::string& column : head.cells) {
+        if (!is_one_of(COLUMNS, column))
+            problems.push_back({head.line, column, "The column is not known. Allowed: " + gfpdb_joined(COLUMNS) + "."});
+        else if (std::count(head.cells.begin(), head.cells.end(), column) > 1)
+            problems.push_back({head.line, column, "The column occurs twice."});
+    }
+    return problems.size() == before;
+}
+
+// A row as the JSON object with the same content, so that both formats have the same rules.
+JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
+{
+    JSON_VALUE object = json_object();
+    object.line = row.line;
+    for (std::size_t at = 0; at < head.cells.size(); ++at) {
+        const std::string& text = row.cells[at];
+        JSON_VALUE value = json_string(text);
+        if (is_one_of(NUMBER_COLUMNS, head.cells[at])) {
+            const std::optional<std::int64_t> parsed = gfpdb_parse_decimal(text);
+            value = text.empty() ? json_null() : parsed ? json_number(*parsed) : json_string(text);
+        }
+        value.line = row.line;
+        object.add(head.cells[at], std::move(value));
+    }
+    return object;
+}
+
+} // namespace
+
+std::string records_to_csv(const std::vector<CLI_RECORD>& records)
+{
+    std::string text = line(COLUMNS);
+    for (const CLI_RECORD& record : records) {
+        const GFPDB_ROW& row = record.row;
+        if (record.is_template)
+            continue;
+        text += line({row.name, std::to_string(row.family), std::to_string(row.scheme), row.device_id, row.voltage,
+                      row.density, number(row.total_die), number(row.single_io_dummy_clock),
+                      number(row.quad_io_dummy_clock), row.template_name, row.flow_template});
+    }
+    return text;
+}
+
+std::vector<CLI_RECORD> records_from_csv(const std::string& text, GFPDB_MGR& manager, bool checked,
+                                         std::optional<int> family, std::optional<int> scheme,
+                                         std::vector<CLI_PROBLEM>& problems)
+{
+    std::vector<CLI_RECORD> records;
+    const std::vector<GFPDB_CSV_ROW> rows = gfpdb_parse_csv(text);
+    const GFPDB_CSV_ROW head = rows.empty() ? GFPDB_CSV_ROW{1, {}} : rows.front();
+    if (!check_columns(head, problems))
+        return records;
+    RECORD_READER reader(manager, checked ? RECORD_RULES::ALL : RECORD_RULES::NAMES, family, scheme);
+    for (std::size_t at = 1; at < rows.size(); ++at) {
+        if (rows[at].cells.size() == head.cells.size())
+            records.push_back(reader.read_record(object_of(head, rows[at]), false, ""));
+        else
+            problems.push_back({rows[at].line, "",
+                                "The row has " + std::to_string(rows[at].cells.size()) +
+                                    " cells, the line of column names has " + std::to_string(head.cells.size()) + "."});
+    }
+    for (CLI_PROBLEM problem : reader.problems()) {
+        problem.field.erase(0, problem.field.rfind('.') + 1);
+        problems.push_back(problem);
+    }
+    return records;
+}

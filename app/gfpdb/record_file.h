@@ -1,0 +1,27 @@
+// Reads files of records: JSON, or lists of devices as CSV.
+#pragma once
+
+#include "cli_command.h"
+
+// How a file is read.
+struct RECORD_FILE_OPTIONS
+{
+    // As CSV whatever the file is called; else files that end in ".csv" are.
+    bool csv = false;
+    // Without the library's rules for values.
+    bool unchecked = false;
+    std::optional<int> family;
+    std::optional<int> scheme;
+};
+
+// What a file holds, and what is wrong with it.
+struct RECORD_FILE
+{
+    // "-" is standard input.
+    std::string path;
+    bool is_csv = false;
+    std::vector<CLI_RECORD> records;
+    std::vector<CLI_PROBLEM> problems;
+};
+
+RECORD_FILE read_record_file(const std::string& path, GFPDB_MGR& manager, const RECORD_FILE_OPTIONS& options);

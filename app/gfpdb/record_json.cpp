@@ -1,0 +1,441 @@
+#include "record_json.h"
+
+#include "gfpdb_action_model.h"
+#include "gfpdb_builtin_records.h"
+#include "gfpdb_checks.h"
+#include "gfpdb_flow_check.h"
+#include "gfpdb_json.h"
+#include "gfpdb_operation.h"
+#include "gfpdb_text.h"
+
+#include "gfpdb/gfpdb_enums.h"
+#include "gfpdb/gfpdb_mgr.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <memory>
+
+namespace {
+
+using OPERATIONS = std::vector<std::unique_ptr<GFPDB_OPERATION>>;
+
+constexpr const char* NAME = "name";
+constexpr const char* FAMILY = "family";
+constexpr const char* SCHEME = "scheme";
+constexpr const char* DEVICE_ID = "device_id";
+constexpr const char* VOLTAGE = "voltage";
+constexpr const char* DENSITY = "density";
+constexpr const char* TOTAL_DIE = "total_die";
+constexpr const char* SINGLE_DUMMY = "single_io_dummy_clock";
+constexpr const char* QUAD_DUMMY = "quad_io_dummy_clock";
+constexpr const char* TEMPLATE_NAME = "template_name";
+constexpr const char* FLOW_TEMPLATE = "flow_template";
+constexpr const char* SINGLE_FLOWS = "single_flows";
+constexpr const char* QUAD_FLOWS = "quad_flows";
+constexpr const char* OPERATION = "operation";
+constexpr const char* ACTIONS = "actions";
+constexpr const char* ACTION = "action";
+constexpr const char* FORMAT = "format";
+constexpr const char* VERSION = "version";
+constexpr const char* DEVICES = "devices";
+constexpr const char* TEMPLATES = "templates";
+
+// The members of a record in their order; the first three are required.
+const std::vector<std::string> RECORD_MEMBERS = {NAME,          FAMILY,       SCHEME,       DEVICE_ID,  VOLTAGE,
+                                                 DENSITY,       TOTAL_DIE,    SINGLE_DUMMY, QUAD_DUMMY, TEMPLATE_NAME,
+                                                 FLOW_TEMPLATE, SINGLE_FLOWS, QUAD_FLOWS};
+constexpr std::size_t RECORD_MEMBERS_REQUIRED = 3;
+
+const std::vector<std::string> OPERATION_WORDS = {"initialization", "program", "erase", "verify", "termination"};
+const std::vector<std::string> ACTION_WORDS = {"write_register", "read_register", "write_data",
+                                               "read_data",      "erase",         "custom"};
+
+// Names of the properties of an action, by GFPDB_ACT_PROPERTY.
+constexpr std::array<const char*, GFPDB_ACT_PROPERTY_COUNT> PROPERTY_WORDS = {
+    // Write Register
+    "name", "command", "data", "delay_us", "bus_width",
+    // Read Register
+    "name", "command", "data_length", "expected_data", "expected_data_mask", "attempt_count", "delay_us", "bus_width",
+    // Write Data
+    "name", "command", "address", "data", "page_size", "addressing_mode", "delay_us", "bus_width",
+    // Read Data
+    "name", "command", "address", "data_length", "expected_data", "expected_data_mask", "addressing_mode",
+    "dummy_clock_cycle", "delay_us", "bus_width",
+    // Erase
+    "name", "command", "address", "erase_size", "addressing_mode", "delay_us", "bus_width",
+    // Custom
+    "loop_over", "marker"};
+
+JSON_VALUE action_to_json(const GFPDB_ACTION& action)
+{
+    JSON_VALUE object = json_object();
+    object.add(ACTION, json_string(ACTION_WORDS[static_cast<std::size_t>(action.m_action_type)]));
+    for (const GFPDB_ACT_PROPERTY property : action.get_property_enum_list())
+        object.add(PROPERTY_WORDS[static_cast<std::size_t>(property)],
+                   json_string(action.get_property_value(property)));
+    return object;
+}
+
+JSON_VALUE flows_to_json(const OPERATIONS& operations)
+{
+    JSON_VALUE list = json_list();
+    for (const std::unique_ptr<GFPDB_OPERATION>& operation : operations) {
+        JSON_VALUE object = json_object();
+        object.add(OPERATION, json_string(OPERATION_WORDS[static_cast<std::size_t>(operation->m_kind)]));
+        JSON_VALUE actions = json_list();
+        for (const GFPDB_ACTION* action : *operation->get_actions())
+            actions.items.push_back(action_to_json(*action));
+        object.add(ACTIONS, std::move(actions));
+        list.items.push_back(std::move(object));
+    }
+    return list;
+}
+
+JSON_VALUE number_to_json(const std::optional<int>& number)
+{
+    return number ? json_number(*number) : json_null();
+}
+
+// What a value is called where another kind was expected.
+std::string kind_text(JSON_VALUE::KIND kind)
+{
+    static const char* const TEXTS[] = {"null", "true or false", "a number", "a text", "a list", "an object"};
+    return TEXTS[kind];
+}
+
+// The place of `word` in `words`, or -1.
+int index_of(const std::vector<std::string>& words, const std::string& word)
+{
+    const auto place = std::find(words.begin(), words.end(), word);
+    return place == words.end() ? -1 : static_cast<int>(place - words.begin());
+}
+
+std::string indexed(const std::string& field, const char* name, std::size_t index)
+{
+    return (field.empty() ? "" : field + '.') + name + '[' + std::to_string(index) + ']';
+}
+
+std::string item_field(const std::string& field, std::size_t index)
+{
+    return field + '[' + std::to_string(index) + ']';
+}
+
+// The member if it is there, else the object itself: where a problem with it is shown.
+const JSON_VALUE& place_of(const JSON_VALUE& object, const char* name)
+{
+    const JSON_VALUE* member = object.member(name);
+    return member ? *member : object;
+}
+
+} // namespace
+
+std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record)
+{
+    const GFPDB_ROW& row = record.row;
+    const auto single = gfpdb_flows_from_json(row.single_flows);
+    const auto quad = gfpdb_flows_from_json(row.quad_flows);
+    if (!single || !quad)
+        return std::nullopt;
+    JSON_VALUE object = json_object();
+    object.add(NAME, json_string(row.name));
+    object.add(FAMILY, json_number(row.family));
+    object.add(SCHEME, json_number(row.scheme));
+    object.add(DEVICE_ID, json_string(row.device_id));
+    object.add(VOLTAGE, json_string(row.voltage));
+    object.add(DENSITY, json_string(row.density));
+    object.add(TOTAL_DIE, number_to_json(row.total_die));
+    object.add(SINGLE_DUMMY, number_to_json(row.single_io_dummy_clock));
+    object.add(QUAD_DUMMY, number_to_json(row.quad_io_dummy_clock));
+    object.add(TEMPLATE_NAME, json_string(row.template_name));
+    object.add(FLOW_TEMPLATE, json_string(row.flow_template));
+    object.add(SINGLE_FLOWS, flows_to_json(*single));
+    object.add(QUAD_FLOWS, flows_to_json(*quad));
+    return object;
+}
+
+std::optional<JSON_VALUE> records_to_json(const std::vector<CLI_RECORD>& records)
+{
+    JSON_VALUE file = json_object();
+    file.add(FORMAT, json_string(RECORD_FORMAT));
+    file.add(VERSION, json_number(RECORD_FORMAT_VERSION));
+    for (const bool templates : {false, true}) {
+        JSON_VALUE list = json_list();
+        for (const CLI_RECORD& record : records) {
+            if (record.is_template != templates)
+                continue;
+            std::optional<JSON_VALUE> object = record_to_json(record);
+            if (!object)
+                return std::nullopt;
+            list.items.push_back(std::move(*object));
+        }
+        file.add(templates ? TEMPLATES : DEVICES, std::move(list));
+    }
+    return file;
+}
+
+RECORD_READER::RECORD_READER(GFPDB_MGR& manager, RECORD_RULES rules, std::optional<int> family,
+                             std::optional<int> scheme)
+    : m_manager(manager), m_rules(rules), m_family(family), m_scheme(scheme)
+{}
+
+void RECORD_READER::add(const JSON_VALUE& value, const std::string& field, const std::string& text)
+{
+    m_problems.push_back({value.line, field, text});
+}
+
+// Every member is known and the first `required` of the known ones are there.
+bool RECORD_READER::check_members(const JSON_VALUE& object, const std::string& field,
+                                  const std::vector<std::string>& known, std::size_t required)
+{
+    if (object.kind != JSON_VALUE::OBJECT) {
+        add(object, field, "An object was expected, but this is " + kind_text(object.kind) + ".");
+        return false;
+    }
+    bool complete = true;
+    for (const auto& [name, value] : object.members) {
+        if (index_of(known, name) < 0)
+            add(value, field, gfpdb_quoted(name) + " is not known here. Allowed: " + gfpdb_joined(known) + ".");
+    }
+    for (std::size_t at = 0; at < required; ++at) {
+        if (!object.member(known[at])) {
+            add(object, field, gfpdb_quoted(known[at]) + " is missing.");
+            complete = false;
+        }
+    }
+    return complete;
+}
+
+std::vector<CLI_RECORD> RECORD_READER::read_file(const JSON_VALUE& file)
+{
+    std::vector<CLI_RECORD> records;
+    const JSON_VALUE* format = file.member(FORMAT);
+    const JSON_VALUE* version = file.member(VERSION);
+    if (!check_members(file, "", {FORMAT, VERSION, DEVICES, TEMPLATES}, 2))
+        return records;
+    if (format->kind != JSON_VALUE::TEXT || format->text != RECORD_FORMAT)
+        add(*format, FORMAT, std::string("This is not a file of records. Allowed: ") + RECORD_FORMAT + ".");
+    else if (version->kind != JSON_VALUE::NUMBER || version->text != std::to_string(RECORD_FORMAT_VERSION))
+        add(*version, VERSION,
+            "This version of the format is not known. Allowed: " + std::to_string(RECORD_FORMAT_VERSION) + ".");
+    else {
+        read_records(file, DEVICES, false, records);
+        read_records(file, TEMPLATES, true, records);
+    }
+    return records;
+}
+
+void RECORD_READER::read_records(const JSON_VALUE& file, const char* name, bool are_templates,
+                                 std::vector<CLI_RECORD>& records)
+{
+    const JSON_VALUE* list = file.member(name);
+    if (!list)
+        return;
+    if (list->kind != JSON_VALUE::LIST) {
+        add(*list, name, "A list was expected, but this is " + kind_text(list->kind) + ".");
+        return;
+    }
+    for (std::size_t at = 0; at < list->items.size(); ++at)
+        records.push_back(read_record(list->items[at], are_templates, indexed("", name, at)));
+}
+
+CLI_RECORD RECORD_READER::read_record(const JSON_VALUE& value, bool is_template, const std::string& field)
+{
+    CLI_RECORD record;
+    record.is_template = is_template;
+    record.line = value.line;
+    if (!check_members(value, field, RECORD_MEMBERS, RECORD_MEMBERS_REQUIRED))
+        return record;
+    GFPDB_ROW& row = record.row;
+    row.name = read_text(value, NAME, field);
+    row.family = m_family ? *m_family : read_number(value, FAMILY, field).value_or(0);
+    row.scheme = m_scheme ? *m_scheme : read_number(value, SCHEME, field).value_or(-1);
+    row.device_id = read_text(value, DEVICE_ID, field);
+    row.voltage = read_text(value, VOLTAGE, field);
+    row.density = read_text(value, DENSITY, field);
+    row.total_die = read_number(value, TOTAL_DIE, field);
+    row.single_io_dummy_clock = read_number(value, SINGLE_DUMMY, field);
+    row.quad_io_dummy_clock = read_number(value, QUAD_DUMMY, field);
+    row.template_name = read_text(value, TEMPLATE_NAME, field);
+    row.flow_template = read_text(value, FLOW_TEMPLATE, field);
+    row.single_flows = read_flows(value, SINGLE_FLOWS, field);
+    row.quad_flows = read_flows(value, QUAD_FLOWS, field);
+    check_values(value, record, field);
+    return record;
+}
+
+std::string RECORD_READER::read_text(const JSON_VALUE& object, const char* name, const std::string& field)
+{
+    const JSON_VALUE* value = object.member(name);
+    if (!value)
+        return std::string();
+    if (value->kind != JSON_VALUE::TEXT)
+        add(*value, field + '.' + name, "A text was expected, but this is " + kind_text(value->kind) + ".");
+    return value->kind == JSON_VALUE::TEXT ? value->text : std::string();
+}
+
+std::optional<int> RECORD_READER::read_number(const JSON_VALUE& object, const char* name, const std::string& field)
+{
+    const JSON_VALUE* value = object.member(name);
+    if (!value || value->kind == JSON_VALUE::NOTHING)
+        return std::nullopt;
+    constexpr std::size_t DIGITS_MAX = 11;
+    const bool whole = value->kind == JSON_VALUE::NUMBER && value->text.size() <= DIGITS_MAX &&
+                       value->text.find_first_of(".eE") == std::string::npos;
+    const long long number = whole ? std::stoll(value->text) : std::numeric_limits<long long>::max();
+    if (number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max())
+        return static_cast<int>(number);
+    const std::string what = value->kind == JSON_VALUE::NUMBER ? value->text : kind_text(value->kind);
+    add(*value, field + '.' + name, "A whole number or null was expected, but this is " + what + ".");
+    return std::nullopt;
+}
+
+std::string RECORD_READER::read_flows(const JSON_VALUE& object, const char* name, const std::string& field)
+{
+    const JSON_VALUE* list = object.member(name);
+    const std::string list_field = field + '.' + name;
+    if (!list)
+        return std::string();
+    if (list->kind != JSON_VALUE::LIST) {
+        add(*list, list_field, "A list was expected, but this is " + kind_text(list->kind) + ".");
+        return std::string();
+    }
+    const std::size_t problems_before = m_problems.size();
+    OPERATIONS operations;
+    std::vector<GFPDB_OPERATION*> pointers;
+    for (std::size_t at = 0; at < list->items.size(); ++at) {
+        const JSON_VALUE& item = list->items[at];
+        const std::string operation_field = item_field(list_field, at);
+        if (!check_members(item, operation_field, {OPERATION, ACTIONS}, 2))
+            continue;
+        const JSON_VALUE& word = *item.member(OPERATION);
+        const int kind = word.kind == JSON_VALUE::TEXT ? index_of(OPERATION_WORDS, word.text) : -1;
+        const bool twice = std::any_of(pointers.begin(), pointers.end(),
+                                       [kind](const GFPDB_OPERATION* other) { return other->m_kind == kind; });
+        if (kind < 0 || twice) {
+            add(word, operation_field + '.' + OPERATION,
+                twice ? "This operation occurs twice."
+                      : "There is no such operation. Allowed: " + gfpdb_joined(OPERATION_WORDS) + ".");
+            continue;
+        }
+        operations.emplace_back(gfpdb_make_operation(kind));
+        pointers.push_back(operations.back().get());
+        read_operation(item, operation_field, *pointers.back());
+    }
+    if (m_rules == RECORD_RULES::ALL && m_problems.size() == problems_before)
+        check_flow(*list, list_field, pointers);
+    return gfpdb_flows_to_json(&pointers).value_or(std::string());
+}
+
+void RECORD_READER::read_operation(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation)
+{
+    const JSON_VALUE& actions = *value.member(ACTIONS);
+    const std::string list_field = field + '.' + ACTIONS;
+    if (actions.kind != JSON_VALUE::LIST)
+        add(actions, list_field, "A list was expected, but this is " + kind_text(actions.kind) + ".");
+    for (std::size_t at = 0; at < actions.items.size(); ++at)
+        read_action(actions.items[at], item_field(list_field, at), operation);
+}
+
+void RECORD_READER::read_action(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation)
+{
+    const JSON_VALUE* word = value.member(ACTION);
+    const int type = word && word->kind == JSON_VALUE::TEXT ? index_of(ACTION_WORDS, word->text) : -1;
+    if (type < 0) {
+        add(word ? *word : value, field + '.' + ACTION,
+            "There is no such action. Allowed: " + gfpdb_joined(ACTION_WORDS) + ".");
+        return;
+    }
+    std::unique_ptr<GFPDB_ACTION> action(gfpdb_make_action(static_cast<GFPDB_ACT_TYPE>(type)));
+    const std::vector<GFPDB_ACT_PROPERTY> properties = action->get_property_enum_list();
+    std::vector<std::string> known = {ACTION};
+    for (const GFPDB_ACT_PROPERTY property : properties)
+        known.emplace_back(PROPERTY_WORDS[static_cast<std::size_t>(property)]);
+    if (!check_members(value, field, known, known.size()))
+        return;
+    for (const GFPDB_ACT_PROPERTY property : properties)
+        action->set_property_value(property,
+                                   read_text(value, PROPERTY_WORDS[static_cast<std::size_t>(property)], field));
+    operation.add_action(action.release());
+}
+
+// The list was read without a problem, so its items are the operations, in their order.
+void RECORD_READER::check_flow(const JSON_VALUE& list, const std::string& field,
+                               const std::vector<GFPDB_OPERATION*>& operations)
+{
+    for (const GFPDB_FLOW_PROBLEM& problem : gfpdb_check_flow(operations)) {
+        std::size_t at = 0;
+        while (operations[at]->m_kind != problem.operation)
+            ++at;
+        const JSON_VALUE& actions = *list.items[at].member(ACTIONS);
+        const auto action = static_cast<std::size_t>(problem.action);
+        std::string place = item_field(field, at) + '.' + ACTIONS;
+        const JSON_VALUE* value = &actions;
+        if (action < actions.items.size()) {
+            place = item_field(place, action);
+            value = &actions.items[action];
+        }
+        if (problem.property >= 0) {
+            const char* name = PROPERTY_WORDS[static_cast<std::size_t>(problem.property)];
+            place += std::string(".") + name;
+            value = &place_of(*value, name);
+        }
+        add(*value, place, problem.text);
+    }
+}
+
+void RECORD_READER::check_values(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field)
+{
+    const GFPDB_ROW& row = record.row;
+    m_manager.set_device_family(row.family);
+    m_manager.set_config_scheme(row.scheme);
+    check_names(object, record, field);
+    if (m_rules != RECORD_RULES::ALL)
+        return;
+    if (row.family < DEV_FAMILY_FIRST || row.family > DEV_FAMILY_LAST)
+        add(place_of(object, FAMILY), field + '.' + FAMILY,
+            "There is no family " + std::to_string(row.family) + ". Allowed: " + std::to_string(DEV_FAMILY_FIRST) +
+                " to " + std::to_string(DEV_FAMILY_LAST) + ".");
+    if (!m_manager.can_add_flash())
+        add(place_of(object, SCHEME), field + '.' + SCHEME,
+            "The configuration mode " + std::to_string(row.scheme) + " has no flash devices.");
+    check_text(object, DEVICE_ID, GFPDB_FLASH_DEVICE_ID, row.device_id, field);
+    if (!row.voltage.empty())
+        check_text(object, VOLTAGE, GFPDB_FLASH_VOLTAGE, row.voltage, field);
+    if (!row.density.empty())
+        check_text(object, DENSITY, GFPDB_FLASH_DENSITY, row.density, field);
+    check_number(object, TOTAL_DIE, GFPDB_FLASH_TOTAL_DIE, row.total_die, field);
+    check_number(object, SINGLE_DUMMY, GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, row.single_io_dummy_clock, field);
+    check_number(object, QUAD_DUMMY, GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, row.quad_io_dummy_clock, field);
+}
+
+// A template goes by its template name; its device name only says what it is a copy of.
+void RECORD_READER::check_names(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field)
+{
+    std::string error;
+    if (!record.is_template && !gfpdb_check_record_name(record.row.name, "device name", error))
+        add(place_of(object, NAME), field + '.' + NAME, error);
+    const bool has_template_name = record.is_template || !record.row.template_name.empty();
+    if (has_template_name && !gfpdb_check_record_name(record.row.template_name, "template name", error))
+        add(place_of(object, TEMPLATE_NAME), field + '.' + TEMPLATE_NAME, error);
+}
+
+void RECORD_READER::check_text(const JSON_VALUE& object, const char* name, int property, const std::string& value,
+                               const std::string& field)
+{
+    const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
+    std::string error;
+    if (!m_manager.is_property_used(id))
+        return;
+    if (!m_manager.check_string_property(id, value, error) || !m_manager.verify_string_property(id, value, error))
+        add(place_of(object, name), field + '.' + name, error);
+}
+
+void RECORD_READER::check_number(const JSON_VALUE& object, const char* name, int property,
+                                 const std::optional<int>& value, const std::string& field)
+{
+    const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
+    std::string error;
+    if (value && m_manager.is_property_used(id) && !m_manager.check_int_property(id, *value, error))
+        add(place_of(object, name), field + '.' + name, error);
+}

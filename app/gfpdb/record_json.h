@@ -1,0 +1,69 @@
+// Records as JSON. docs/gfpdb.md describes the format.
+//
+// Keys stand in a fixed order, one value per line, so that two states of a record can be compared line by line. What is
+// written is read again byte for byte.
+#pragma once
+
+#include "cli_record.h"
+#include "json_text.h"
+
+#include <optional>
+
+class GFPDB_MGR;
+class GFPDB_OPERATION;
+
+constexpr const char* RECORD_FORMAT = "gfpdb-records";
+constexpr int RECORD_FORMAT_VERSION = 1;
+
+// The record; none when its flows cannot be read.
+std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record);
+// A whole file: devices, then templates, each in the given order. None when the flows of a record cannot be read.
+std::optional<JSON_VALUE> records_to_json(const std::vector<CLI_RECORD>& records);
+
+// Which rules the values of a record are held against while it is read.
+enum class RECORD_RULES
+{
+    ALL,   // the library's, as for records that are entered by hand
+    NAMES, // only those without which a record cannot be stored
+};
+
+// Reads records, and notes everything that is wrong with them.
+class RECORD_READER
+{
+public:
+    // `manager` checks values; its family and scheme change with every record. With a `family` or `scheme` all records
+    // become records of that one.
+    RECORD_READER(GFPDB_MGR& manager, RECORD_RULES rules, std::optional<int> family = std::nullopt,
+                  std::optional<int> scheme = std::nullopt);
+
+    // The records of a whole file. Records with problems are among them, as far as they could be read.
+    std::vector<CLI_RECORD> read_file(const JSON_VALUE& file);
+    // One record, called `field` in problems.
+    CLI_RECORD read_record(const JSON_VALUE& value, bool is_template, const std::string& field);
+
+    const std::vector<CLI_PROBLEM>& problems() const { return m_problems; }
+
+private:
+    void add(const JSON_VALUE& value, const std::string& field, const std::string& text);
+    bool check_members(const JSON_VALUE& object, const std::string& field, const std::vector<std::string>& known,
+                       std::size_t required);
+    void read_records(const JSON_VALUE& file, const char* name, bool are_templates, std::vector<CLI_RECORD>& records);
+    std::string read_text(const JSON_VALUE& object, const char* name, const std::string& field);
+    std::optional<int> read_number(const JSON_VALUE& object, const char* name, const std::string& field);
+    std::string read_flows(const JSON_VALUE& object, const char* name, const std::string& field);
+    void read_operation(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation);
+    void read_action(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation);
+    void check_flow(const JSON_VALUE& list, const std::string& field, const std::vector<GFPDB_OPERATION*>& operations);
+    void check_values(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field);
+    void check_names(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field);
+    void check_text(const JSON_VALUE& object, const char* name, int property, const std::string& value,
+                    const std::string& field);
+    void check_number(const JSON_VALUE& object, const char* name, int property, const std::optional<int>& value,
+                      const std::string& field);
+
+    GFPDB_MGR& m_manager;
+    const RECORD_RULES m_rules;
+    const std::optional<int> m_family;
+    const std::optional<int> m_scheme;
+    std::vector<CLI_PROBLEM> m_problems;
+};

@@ -1,0 +1,10 @@
+// A record as text for people.
+#pragma once
+
+#include "cli_record.h"
+
+#include <string>
+
+// The properties, one per line, then the flows of the chosen variants, one action per line. Empty when the flows cannot
+// be read.
+std::string record_to_text(const CLI_RECORD& record, bool with_single, bool with_quad);

@@ -1,0 +1,41 @@
+#include "show_command.h"
+
+#include "cli_find.h"
+#include "record_json.h"
+#include "record_text.h"
+
+#include "gfpdb_text.h"
+
+namespace {
+
+constexpr const char* OPTION_VARIANT = "variant";
+constexpr const char* SINGLE = "single";
+constexpr const char* QUAD = "quad";
+constexpr const char* BOTH = "both";
+
+} // namespace
+
+void CLI_SHOW_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    parser.addOption({QLatin1String(OPTION_VARIANT), QStringLiteral("The flows to show: single, quad or both."),
+                      QStringLiteral("variant"), QLatin1String(BOTH)});
+    cli_add_place_options(parser, "The device");
+    cli_add_json_option(parser);
+}
+
+int CLI_SHOW_COMMAND::run(const CLI_CALL& call) const
+{
+    const std::string variant = call.value(OPTION_VARIANT);
+    if (variant != SINGLE && variant != QUAD && variant != BOTH)
+        return call.wrong_usage(gfpdb_quoted(variant) + " is no flow variant. Allowed: single, quad, both.");
+    int exit_code = CLI_EXIT_OK;
+    std::optional<CLI_RECORD> record = cli_find_one(call, call.argument(0), exit_code);
+    if (!record)
+        return exit_code;
+    const std::optional<JSON_VALUE> json = record_to_json(*record);
+    if (!json)
+        return call.database_failed("The flows of " + gfpdb_quoted(record->name()) + " cannot be read.");
+    call.output.print(call.has(CLI_OPTION_JSON) ? json_write(*json)
+                                                : record_to_text(*record, variant != QUAD, variant != SINGLE));
+    return CLI_EXIT_OK;
+}
