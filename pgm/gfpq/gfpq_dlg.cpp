@@ -43,8 +43,9 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     set_up_device_table();
     set_up_device_fields();
     create_operation_tabs();
-    // The selection is connected already, so the first device is loaded the way a click loads one.
-    rebuild_device_list(device_name);
+    // The selection is connected already: this loads the first device the way a click does.
+    fill_device_list();
+    select_device(device_name);
     connect_controls();
     gfpq_make_accessible(*this, *ui.m_device_table_view, *ui.m_prog_flows_tab_widget);
 }

@@ -104,8 +104,11 @@ private:
 
     // Device list.
     void set_up_device_table();
-    void rebuild_device_list(const std::string& name_to_select);
+    void fill_device_list();
+    // Selects the row of that name, else the first; an empty name stands for a new device.
     void select_device(const std::string& name);
+    // Fills the list anew, selects a row and loads it, once.
+    void rebuild_device_list(const std::string& name_to_select);
     QModelIndex current_source_index() const;
     std::string selected_device_name() const;
 

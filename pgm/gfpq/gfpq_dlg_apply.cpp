@@ -229,10 +229,7 @@ void GFPQ_DLG::show_unsaved_flows()
 
 void GFPQ_DLG::show_saved_device(GFPDB_FLASH& flash, const std::string& name)
 {
-    {
-        const GFPQ_CONNECTION_CUT cut{selection_change()};
-        rebuild_device_list(name);
-    }
+    rebuild_device_list(name);
     // The filter may hide the name; then no row was loaded, and the form still shows what was saved.
     if (current_source_index().isValid())
         return;
@@ -251,6 +248,5 @@ void GFPQ_DLG::on_delete_clicked()
         return;
     }
     m_current_flash = nullptr;
-    const GFPQ_CONNECTION_CUT cut{selection_change()};
     rebuild_device_list(GFPQ_NEW_DEVICE);
 }

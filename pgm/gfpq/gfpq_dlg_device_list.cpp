@@ -66,7 +66,7 @@ void GFPQ_DLG::set_up_device_table()
 }
 
 // All rows leave and come in one step each: row by row the proxy would need time quadratic in their number.
-void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
+void GFPQ_DLG::fill_device_list()
 {
     const int family = current_family();
     const int scheme = current_scheme();
@@ -80,7 +80,6 @@ void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
     append_rows(rows, m_gfpdb_mgr->get_builtin_flash_names(names, family, scheme, 0), GFPQ_READ_ONLY_ROLE);
     if (!rows.isEmpty())
         m_device_model.invisibleRootItem()->appendRows(rows);
-    select_device(name_to_select);
 }
 
 void GFPQ_DLG::select_device(const std::string& name)
@@ -91,7 +90,14 @@ void GFPQ_DLG::select_device(const std::string& name)
         ui.m_device_table_view->selectRow(m_proxy_model.mapFromSource(found.first()->index()).row());
     else if (m_device_model.rowCount() > 0)
         ui.m_device_table_view->selectRow(0);
+}
 
+// The selection's own slot is cut while rows leave and come; the row selected at the end is loaded here.
+void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
+{
+    const GFPQ_CONNECTION_CUT cut{selection_change()};
+    fill_device_list();
+    select_device(name_to_select);
     const QModelIndex current = current_source_index();
     if (current.isValid())
         load_device(current);

@@ -102,7 +102,6 @@ void GFPQ_DLG::use_directory(const std::string& directory)
     fetch_manager(true, __LINE__);
     m_gfpdb_mgr->set_device_family(current_family());
     m_gfpdb_mgr->set_config_scheme(current_scheme());
-    const GFPQ_CONNECTION_CUT cut{selection_change()};
     rebuild_device_list(selected_device_name());
 }
 
