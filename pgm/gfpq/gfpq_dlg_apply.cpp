@@ -234,6 +234,7 @@ void GFPQ_DLG::show_saved_device(GFPDB_FLASH& flash, const std::string& name)
     if (current_source_index().isValid())
         return;
     m_current_flash = &flash;
+    enable_fields(false, true);
     if (m_gfpdb_mgr->can_edit_flow())
         load_flows(false);
 }

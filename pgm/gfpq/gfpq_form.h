@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QLoggingCategory>
+#include <QScopeGuard>
 
 // Builds `form` on `dialog`. Building ends with the automatic connection by object name, which recognises none of the
 // module's slot names and would print a warning for each: those are held back.
@@ -11,7 +12,7 @@ void gfpq_build_form(FORM& form, QDialog* dialog)
 {
     QLoggingCategory& category = *QLoggingCategory::defaultCategory();
     const bool warns = category.isWarningEnabled();
+    const auto restore = qScopeGuard([&category, warns] { category.setEnabled(QtWarningMsg, warns); });
     category.setEnabled(QtWarningMsg, false);
     form.setupUi(dialog);
-    category.setEnabled(QtWarningMsg, warns);
 }
