@@ -54,11 +54,27 @@ white_space() {
     ! sources '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' '*.sh' '*.py' | xargs grep -nP '\t|[ \t]+$'
 }
 
+# The catalogues hold the texts of the sources, no more and no fewer; translations/update.sh brings them up to date.
+catalogues() {
+    local copies
+    copies=$(mktemp -d)
+    cp translations/*.ts "$copies"
+    translations/update.sh "$copies"
+    local failed=0
+    local catalogue
+    for catalogue in translations/*.ts; do
+        diff -u "$catalogue" "$copies/$(basename "$catalogue")" || failed=1
+    done
+    rm -r "$copies"
+    return "$failed"
+}
+
 check "clang-format" formatting
 check "generated code" generated_code
 check "clang-tidy" tidy
 check "clazy" clazy_level1
 check "cppcheck" cppcheck_product
 check "shell syntax" shell_syntax
+check "catalogues" catalogues
 check "white space" white_space
 exit "$failed"

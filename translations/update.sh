@@ -10,7 +10,7 @@ directory=${1:-translations}
 update() {
     local name=$1
     shift
-    lupdate -silent -no-obsolete -locations none -source-language en "$@" -ts "$directory/${name}"_[a-z][a-z].ts \
+    QT_SELECT=qt5 lupdate -silent -no-obsolete -locations none -source-language en "$@" -ts "$directory/${name}"_[a-z][a-z].ts \
         "$directory/${name}"_[a-z][a-z]_[A-Z][A-Z].ts
 }
 

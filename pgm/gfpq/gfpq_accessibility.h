@@ -9,9 +9,9 @@ class QTabWidget;
 class QWidget;
 
 // The main dialog: names for its editors, its list of devices and its operation pages, of which `pages` shows the first
-// behind the device page. Tab leaves every table, and the charts can be worked on with the keyboard
-// (gfpq_flow_keyboard.h).
-void gfpq_make_accessible(const QWidget& dialog, QAbstractItemView& devices, const QTabWidget& pages);
+// behind the device page. Tab leaves every table, the charts can be worked on with the keyboard (gfpq_flow_keyboard.h),
+// and no title of a page is cut: the dialog takes the width that it needs.
+void gfpq_make_accessible(const QWidget& dialog, QAbstractItemView& devices, QTabWidget& pages);
 
 // A table that is called what `label` says; Tab leaves it for the next widget, the arrow keys move within it.
 void gfpq_make_table_accessible(QAbstractItemView& table, const QLabel& label);

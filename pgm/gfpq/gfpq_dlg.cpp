@@ -6,6 +6,7 @@
 #include "gfpq_dlg_internal.h"
 #include "gfpq_form.h"
 #include "gfpq_operation_tab_widget.h"
+#include "gfpq_pane_fitter.h"
 #include "gfpq_text.h"
 #include "gfpq_vocabulary.h"
 
@@ -47,6 +48,7 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     fill_device_list();
     select_device(device_name);
     connect_controls();
+    new GFPQ_PANE_FITTER(*ui.m_config_device_splitter, *ui.m_device_info_scroll_area);
     gfpq_make_accessible(*this, *ui.m_device_table_view, *ui.m_prog_flows_tab_widget);
 }
 

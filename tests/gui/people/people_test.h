@@ -42,9 +42,10 @@ protected:
         return *found;
     }
 
+    void take_down() override;
+
 private:
     void set_up() override;
-    void take_down() override;
 
     std::unique_ptr<GFPQ_DLG> m_dialog;
 };

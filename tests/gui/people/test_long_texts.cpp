@@ -1,0 +1,232 @@
+// The dialogs and the host's window in a language whose texts are half as long again: nothing is cut.
+#include "people_test.h"
+
+#include "cut_labels.h"
+#include "dialog_call.h"
+#include "gfpq_edit_template_dlg.h"
+#include "gfpq_pane_fitter.h"
+#include "host_choice.h"
+#include "host_window.h"
+#include "module_loader.h"
+#include "text_catalogue.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTableWidget>
+
+#include <optional>
+
+class TEST_LONG_TEXTS : public PEOPLE_TEST
+{
+    Q_OBJECT
+
+private:
+    // Brings the pseudo catalogue in.
+    void use_long_texts();
+    // The dialog, its rows of the flow template included.
+    GFPQ_DLG& open_new_device();
+
+private slots:
+    void a_cut_text_is_noticed();
+    void the_catalogue_makes_texts_longer();
+    void the_dialog_cuts_nothing_data();
+    void the_dialog_cuts_nothing();
+    void the_template_editor_cuts_nothing();
+    void the_device_fields_are_wide_enough_for_their_contents();
+    void very_long_texts_leave_room_for_the_list();
+    void a_pane_that_is_wide_enough_is_left_alone();
+    void the_handle_is_the_users_afterwards();
+    void the_host_window_cuts_nothing();
+
+private:
+    void take_down() override;
+    QScrollArea& fields() const { return child<QScrollArea>("m_device_info_scroll_area"); }
+    QSplitter& splitter() const { return child<QSplitter>("m_config_device_splitter"); }
+
+    std::optional<TEXT_CATALOGUE> m_texts;
+    std::optional<TEXT_CATALOGUE> m_host_texts;
+};
+
+void TEST_LONG_TEXTS::use_long_texts()
+{
+    qputenv("GFPQ_TRANSLATIONS", GFPQ_PSEUDO_CATALOGUES);
+    QLocale::setDefault(QLocale(QLocale::English));
+    m_texts.emplace(QStringLiteral("gfpq"), QStringList());
+    m_host_texts.emplace(QStringLiteral("gfpq_host"), QStringList());
+    QVERIFY(m_texts->is_installed());
+    QVERIFY(m_host_texts->is_installed());
+}
+
+void TEST_LONG_TEXTS::take_down()
+{
+    PEOPLE_TEST::take_down();
+    m_texts.reset();
+    m_host_texts.reset();
+    qunsetenv("GFPQ_TRANSLATIONS");
+    QLocale::setDefault(QLocale::c());
+}
+
+GFPQ_DLG& TEST_LONG_TEXTS::open_new_device()
+{
+    GFPQ_DLG& dialog = open_dialog();
+    child<QTableView>("m_device_table_view").selectRow(0);
+    return dialog;
+}
+
+// One text of each sort, none of which fits.
+void TEST_LONG_TEXTS::a_cut_text_is_noticed()
+{
+    const QString text = QStringLiteral("a text that needs some room");
+    QWidget window;
+    window.resize(400, 300);
+    QLabel label(text, &window);
+    label.setGeometry(0, 0, 20, 40);
+    QLabel wrapped(text, &window);
+    wrapped.setWordWrap(true);
+    wrapped.setGeometry(0, 40, 100, 10);
+    QPushButton button(text, &window);
+    button.setGeometry(0, 80, 30, 40);
+    QCheckBox check(text, &window);
+    check.setGeometry(0, 120, 30, 40);
+    QTabBar tabs_bar(&window);
+    tabs_bar.addTab(text);
+    tabs_bar.addTab(text);
+    tabs_bar.setGeometry(0, 160, 60, 40);
+    QTableWidget table(1, 1, &window);
+    table.setHorizontalHeaderLabels({text});
+    table.setGeometry(0, 200, 100, 60);
+    table.setColumnWidth(0, 40);
+    QLabel outside(text, &window);
+    outside.setGeometry(380, 260, 300, 40);
+    QLabel whole(text, &window);
+    whole.setGeometry(0, 260, 370, 40);
+    window.show();
+
+    QCOMPARE(label_count(window), 9);
+    QCOMPARE(cut_labels(window).size(), 8);
+}
+
+void TEST_LONG_TEXTS::the_catalogue_makes_texts_longer()
+{
+    use_long_texts();
+    open_dialog();
+
+    QCOMPARE(child<QLabel>("m_clock_cycle_label").text(),
+             QString::fromUtf8("Sîñglé Î/Ø mødé dûmmý çløçk~~~~~~~~~~~~~~~: "));
+}
+
+void TEST_LONG_TEXTS::the_dialog_cuts_nothing_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("texts");
+    // Three labels and a button above the pages, six titles, three buttons below.
+    constexpr int AROUND = 13;
+    QTest::newRow("device page") << 0 << AROUND + 13;
+    for (int page = 1; page <= GFPDB_OPERATION_COUNT; ++page)
+        QTest::addRow("page %d", page) << page << AROUND + 3;
+}
+
+void TEST_LONG_TEXTS::the_dialog_cuts_nothing()
+{
+    QFETCH(int, page);
+    QFETCH(int, texts);
+    use_long_texts();
+    GFPQ_DLG& dialog = open_new_device();
+
+    tabs().setCurrentIndex(page);
+
+    QTRY_COMPARE(cut_labels(dialog).join(QLatin1Char('\n')), QString());
+    QCOMPARE(label_count(dialog), texts);
+}
+
+void TEST_LONG_TEXTS::the_template_editor_cuts_nothing()
+{
+    use_long_texts();
+    GFPQ_EDIT_TEMPLATE_DLG editor(&open_dialog(), &mgr());
+    editor.show();
+
+    QCOMPARE(cut_labels(editor).join(QLatin1Char('\n')), QString());
+    QCOMPARE(label_count(editor), 3);
+}
+
+void TEST_LONG_TEXTS::the_device_fields_are_wide_enough_for_their_contents()
+{
+    mgr().templates = {"one template of some", "b"};
+    open_new_device();
+
+    QTRY_VERIFY(fields().widget()->width() >= fields().widget()->sizeHint().width());
+    QCOMPARE(fields().horizontalScrollBar()->maximum(), 0);
+    const auto& combo = child<QComboBox>("m_flow_template_cbox");
+    QVERIFY(combo.width() >= combo.fontMetrics().horizontalAdvance(combo.itemText(0)));
+}
+
+void TEST_LONG_TEXTS::very_long_texts_leave_room_for_the_list()
+{
+    mgr().templates = {std::string(1000, 'x'), "b"};
+    open_new_device();
+
+    QTRY_VERIFY(splitter().sizes().last() >= splitter().width() * 6 / 10);
+    QVERIFY(splitter().sizes().first() >= splitter().width() * 3 / 10);
+}
+
+void TEST_LONG_TEXTS::a_pane_that_is_wide_enough_is_left_alone()
+{
+    QSplitter panes;
+    QScrollArea area;
+    area.setWidget(new QLabel(QStringLiteral("short")));
+    panes.addWidget(new QWidget);
+    panes.addWidget(&area);
+    panes.resize(600, 100);
+    panes.setSizes({200, 400});
+    const QList<int> before = panes.sizes();
+    new GFPQ_PANE_FITTER(panes, area);
+
+    panes.show();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(panes.sizes(), before);
+}
+
+void TEST_LONG_TEXTS::the_handle_is_the_users_afterwards()
+{
+    mgr().templates = {std::string(1000, 'x'), "b"};
+    GFPQ_DLG& dialog = open_new_device();
+    QTRY_VERIFY(splitter().sizes().last() >= splitter().width() * 6 / 10);
+    QWidget& handle = *splitter().handle(1);
+    const QPoint grip = handle.rect().center();
+    QTest::mousePress(&handle, Qt::LeftButton, Qt::NoModifier, grip);
+    const QPoint there = grip + QPoint(100, 0);
+    QMouseEvent drag(QEvent::MouseMove, there, handle.mapToGlobal(there), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&handle, &drag);
+    QTest::mouseRelease(&handle, Qt::LeftButton, Qt::NoModifier, grip);
+    const QList<int> chosen = splitter().sizes();
+    QVERIFY(chosen.last() < splitter().width() * 6 / 10);
+
+    tabs().setCurrentIndex(1);
+    tabs().setCurrentIndex(0);
+    dialog.resize(dialog.width() + 1, dialog.height());
+    QCoreApplication::processEvents();
+
+    QVERIFY(splitter().sizes().last() < splitter().width() * 6 / 10);
+}
+
+void TEST_LONG_TEXTS::the_host_window_cuts_nothing()
+{
+    use_long_texts();
+    MODULE_LOADER module({QStringLiteral("/no/module")});
+    HOST_WINDOW window(module, DIALOG_OPTIONS(), HOST_CHOICE());
+    window.show();
+
+    QCOMPARE(cut_labels(window).join(QLatin1Char('\n')), QString());
+    QCOMPARE(label_count(window), 9);
+}
+
+GFPQ_TEST_MAIN(TEST_LONG_TEXTS)
+#include "test_long_texts.moc"
