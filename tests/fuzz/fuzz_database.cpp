@@ -51,6 +51,7 @@ void look_at_records(GFPDB_EMBEDDED_MGR& manager)
     }
     for (const GFPDB_HISTORY_ENTRY& entry : manager.store().get_history())
         manager.store().find_history(entry.id);
+    manager.store().check_integrity();
 }
 
 // A save that reports success has stored the record.

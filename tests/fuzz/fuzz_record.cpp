@@ -182,5 +182,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     look_at_history(manager);
     look_at_devices(manager);
     look_at_templates(manager);
+    FUZZ_CHECK(manager.store().check_integrity());
     return 0;
 }

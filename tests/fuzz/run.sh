@@ -18,7 +18,7 @@ readonly LONGEST_INPUT=65536
 cmake --build --preset fuzz --target fuzz_targets >&2
 
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-export LSAN_OPTIONS="suppressions=$PWD/tests/support/lsan.supp:print_suppressions=0"
+export LSAN_OPTIONS="suppressions=$PWD/tests/fuzz/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS=print_stacktrace=1
 
 targets=("$@")
