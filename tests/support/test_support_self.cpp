@@ -4,6 +4,7 @@
 #include "kovq/kovq_connect.h"
 
 #include <QMenu>
+#include <QProcess>
 #include <QPushButton>
 
 class TEST_SUPPORT_SELF : public GUI_TEST
@@ -20,6 +21,7 @@ private slots:
     void hooks_run_at_the_call();
     void a_failed_connection_is_reported();
     void a_successful_save_is_followed_by_the_lists();
+    void the_base_class_notices_what_a_test_leaves_behind();
 };
 
 void TEST_SUPPORT_SELF::the_driver_records_a_box_and_clicks_its_button()
@@ -130,6 +132,17 @@ void TEST_SUPPORT_SELF::a_successful_save_is_followed_by_the_lists()
     QVERIFY(mgr().delete_flash("A", "/db/"));
     QVERIFY(mgr().custom_names.empty());
     QVERIFY(mgr().find_flash("A", true) == nullptr);
+}
+
+void TEST_SUPPORT_SELF::the_base_class_notices_what_a_test_leaves_behind()
+{
+    QProcess flawed;
+    flawed.start(QStringLiteral(GFPQ_FLAWED_TEST), QStringList());
+    QVERIFY(flawed.waitForFinished());
+
+    const QString output = QString::fromLocal8Bit(flawed.readAllStandardOutput());
+    // Seven functions, and the two of the frame around them.
+    QVERIFY2(output.contains(QLatin1String("Totals: 2 passed, 7 failed, 0 skipped")), qPrintable(output));
 }
 
 GFPQ_TEST_MAIN(TEST_SUPPORT_SELF)

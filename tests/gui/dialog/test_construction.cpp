@@ -31,6 +31,8 @@ private slots:
     void unused_combos_are_not_filled();
     void handlers_of_unused_fields_are_not_connected();
     void switching_tabs_activates_the_page_only_when_templates_are_used();
+    void only_operation_pages_are_activated_data();
+    void only_operation_pages_are_activated();
     void the_initial_fill_runs_no_change_handler();
     void the_initial_device_is_loaded_with_its_flows();
     void closing_the_window_neither_rejects_nor_accepts();
@@ -372,6 +374,31 @@ void TEST_CONSTRUCTION::switching_tabs_activates_the_page_only_when_templates_ar
         QCOMPARE(calls(), QStringList());
         close_dialog();
     }
+}
+
+void TEST_CONSTRUCTION::only_operation_pages_are_activated_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("activated");
+
+    QTest::newRow("none") << -1 << -1;
+    QTest::newRow("device page") << 0 << -1;
+    for (int operation = 0; operation < 5; ++operation)
+        QTest::addRow("operation %d", operation) << operation + 1 << operation;
+    QTest::newRow("behind the last") << 6 << -1;
+}
+
+void TEST_CONSTRUCTION::only_operation_pages_are_activated()
+{
+    QFETCH(const int, index);
+    QFETCH(const int, activated);
+    open();
+
+    QVERIFY(QMetaObject::invokeMethod(&dlg(), "on_tab_index_changed", Qt::DirectConnection, Q_ARG(int, index)));
+
+    // A page that was activated has its property table set up.
+    for (int operation = 0; operation < 5; ++operation)
+        QCOMPARE(page(operation).findChild<QTableView*>()->model() != nullptr, operation == activated);
 }
 
 void TEST_CONSTRUCTION::the_initial_fill_runs_no_change_handler()

@@ -24,6 +24,7 @@ private slots:
     void a_new_directory_can_replace_the_manager();
     void a_new_directory_keeps_the_tab_and_the_device();
     void a_new_directory_forgets_the_record_that_is_gone();
+    void the_record_is_forgotten_before_the_manager_is_fetched();
     void selecting_works_again_after_a_new_directory();
     void a_typed_directory_gets_its_slashes_right_data();
     void a_typed_directory_gets_its_slashes_right();
@@ -128,6 +129,18 @@ void TEST_DIRECTORY::a_new_directory_forgets_the_record_that_is_gone()
     run("on_apply_clicked");
 
     QCOMPARE(log().count(qs("create_flash")), 1);
+}
+
+// The record belongs to the manager that goes.
+void TEST_DIRECTORY::the_record_is_forgotten_before_the_manager_is_fetched()
+{
+    mgr().add_custom("A");
+    open_with("A");
+    log().on_call(qs("get_active_flash_manager"), [this](const QString&) { run("on_delete_clicked"); });
+
+    enter("m_directory_edit", QStringLiteral("/other"));
+
+    QCOMPARE(log().count(qs("delete_flash")), 0);
 }
 
 void TEST_DIRECTORY::selecting_works_again_after_a_new_directory()

@@ -42,6 +42,7 @@ private slots:
     void a_mode_change_keeps_the_device();
     void a_mode_change_runs_once();
     void an_emptied_list_forgets_the_record();
+    void the_record_is_forgotten_before_the_manager_is_fetched();
     void a_rebuild_loads_its_device_once_data();
     void a_rebuild_loads_its_device_once();
     void changes_work_again_after_a_change();
@@ -408,6 +409,18 @@ void TEST_FAMILY_AND_MODE::an_emptied_list_forgets_the_record()
 
         QCOMPARE(log().count(qs("create_flash")), 1);
     }
+}
+
+// The record belongs to the manager that goes.
+void TEST_FAMILY_AND_MODE::the_record_is_forgotten_before_the_manager_is_fetched()
+{
+    mgr().add_custom("A");
+    open_with("A");
+    log().on_call(qs("get_active_flash_manager"), [this](const QString&) { run("on_delete_clicked"); });
+
+    choose("m_config_mode_cbox", SCHEME_X1);
+
+    QCOMPARE(log().count(qs("delete_flash")), 0);
 }
 
 void TEST_FAMILY_AND_MODE::a_rebuild_loads_its_device_once_data()
