@@ -234,12 +234,15 @@ void GPFQ_OPERATION_TAB_WIDGET::clear_property_table()
 
 void GPFQ_OPERATION_TAB_WIDGET::commit_open_editor()
 {
-    QAbstractItemDelegate* const delegate = m_property_table->itemDelegateForColumn(VALUE_COLUMN);
-    QWidget* const editor = m_property_table->indexWidget(m_property_table->currentIndex());
-    if (delegate == nullptr || editor == nullptr)
+    for (int row = 0; row < m_property_model.rowCount(); ++row) {
+        QWidget* const editor = m_property_table->indexWidget(m_property_model.index(row, VALUE_COLUMN));
+        if (editor == nullptr)
+            continue;
+        QAbstractItemDelegate* const delegate = m_property_table->itemDelegateForColumn(VALUE_COLUMN);
+        emit delegate->commitData(editor);
+        emit delegate->closeEditor(editor);
         return;
-    emit delegate->commitData(editor);
-    emit delegate->closeEditor(editor);
+    }
 }
 
 void GPFQ_OPERATION_TAB_WIDGET::store_property_value(GFPDB_ACT_PROPERTY property, const QString& value)

@@ -406,7 +406,9 @@ void TEST_FLOW_EDITOR::an_open_editor_can_be_committed()
     const auto page = show_selected(actions.get());
     m_checker->refused[1] = "refused";
     m_modals.expect(MODAL_DRIVER::accept());
-    type_text(open_editor(*page, 1), "typed");
+    // Opened without becoming the current cell.
+    property_table_of(*page)->edit(value_cell(*page, 1));
+    type_text(property_table_of(*page)->indexWidget(value_cell(*page, 1)), "typed");
 
     page->commit_open_editor();
 
