@@ -6,6 +6,8 @@
 
 #include "gfpdb_text.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace {
@@ -39,16 +41,32 @@ std::optional<std::vector<CLI_RECORD>> collect(const CLI_CALL& call, int& exit_c
     return std::nullopt;
 }
 
+// False, with the reason in the file's error.
+template <typename FILE_TYPE>
+bool write_all(FILE_TYPE& file, QIODevice::OpenMode mode, const std::string& text)
+{
+    const auto length = static_cast<qint64>(text.size());
+    return file.open(mode) && file.write(text.data(), length) == length && file.flush();
+}
+
+// A regular file is replaced as a whole. A device or pipe is written to: it must not be replaced by a file.
 int write_file(const CLI_CALL& call, const std::string& text)
 {
     const QString path = gfpdb_from_utf8(call.value(CLI_OPTION_OUTPUT));
-    QSaveFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) &&
-        file.write(text.data(), static_cast<qint64>(text.size())) == static_cast<qint64>(text.size()) && file.commit();
-    if (written)
+    const QFileInfo existing(path);
+    QString error;
+    if (existing.exists() && !existing.isFile()) {
+        QFile file(path);
+        if (!write_all(file, QIODevice::WriteOnly | QIODevice::Unbuffered, text))
+            error = file.errorString();
+    } else {
+        QSaveFile file(path);
+        if (!write_all(file, QIODevice::WriteOnly, text) || !file.commit())
+            error = file.errorString();
+    }
+    if (error.isEmpty())
         return CLI_EXIT_OK;
-    call.output.error(gfpdb_to_utf8(path) + ": The file cannot be written: " + gfpdb_to_utf8(file.errorString()) + ".");
+    call.output.error(gfpdb_to_utf8(path) + ": The file cannot be written: " + gfpdb_to_utf8(error) + ".");
     return CLI_EXIT_BAD_FILE;
 }
 

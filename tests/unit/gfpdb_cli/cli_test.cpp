@@ -1,0 +1,35 @@
+#include "gfpdb_builtin_records.h"
+#include "gfpdb_flow_templates.h"
+
+#include "cli_test.h"
+
+#include <QProcess>
+
+TOOL_RUN run_tool(const QStringList& arguments, const QByteArray& input)
+{
+    QProcess process;
+    process.start(QStringLiteral(GFPDB_PROGRAM), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, "the program did not end in order", process.readAllStandardError()};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+void save_part(const std::string& name, int family, int scheme, const std::string& template_name)
+{
+    GFPDB_MGR& manager = *fresh_manager(family, scheme);
+    GFPDB_FLASH& record = *manager.create_flash(name);
+    const GFPDB_PART& part = *gfpdb_builtin_part("MX25L25645G");
+    record.set_user_defined(true);
+    record.set_string_property(GFPDB_FLASH_DEVICE_ID, "0xC2 0x20 0x19");
+    record.set_string_property(GFPDB_FLASH_VOLTAGE, "3.3V");
+    record.set_density("256Mb");
+    record.set_int_property(GFPDB_FLASH_TOTAL_DIE, 1);
+    record.set_int_property(GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 8);
+    record.set_string_property(GFPDB_FLASH_FLOW_TEMPLATE, gfpdb_part_template_name(part));
+    record.set_string_property(GFPDB_FLASH_TEMPLATE_NAME, template_name);
+    gfpdb_fill_part_flows(part, record);
+    if (!manager.save_flash(&record, std::string()))
+        qFatal("%s", manager.get_last_error().c_str());
+}
