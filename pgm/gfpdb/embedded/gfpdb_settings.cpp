@@ -35,7 +35,9 @@ bool read_lines(const QString& path, QList<QByteArray>& lines)
     if (!info.exists() && !info.isSymLink())
         return true;
     QFile file(path);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+    if (!info.isFile())
+        return refuse(path, QStringLiteral("cannot be read: it is not a file"));
+    if (!file.open(QIODevice::ReadOnly))
         return refuse(path, QStringLiteral("cannot be read: ") + file.errorString());
     if (file.size() > LARGEST_FILE)
         return refuse(path, QStringLiteral("is no settings file: it is too large"));

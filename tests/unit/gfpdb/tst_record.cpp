@@ -42,6 +42,7 @@ private slots:
     void clearing_deletes_both_variants();
     void a_record_deletes_its_operations();
     void an_operation_without_actions_is_stored();
+    void flows_are_stored_as_documented();
     void values_of_actions_are_stored_byte_for_byte_data();
     void values_of_actions_are_stored_byte_for_byte();
 };
@@ -236,6 +237,22 @@ void TST_RECORD::an_operation_without_actions_is_stored()
     QVERIFY(read->is_template());
     QVERIFY(read->is_user_defined());
     QCOMPARE(read->get_db_dir(), std::string("/a/"));
+}
+
+void TST_RECORD::flows_are_stored_as_documented()
+{
+    GFPDB_EMBEDDED_FLASH record("A");
+    GFPDB_OPERATION* operation = gfpdb_make_operation(1);
+    operation->add_action(gfpdb_make_action(GFPDB_ACT_WRITE_REGISTER));
+    for (int property = GFPDB_WR_NAME; property <= GFPDB_WR_BUS_WIDTH; ++property)
+        operation->get_actions()->front()->set_property_value(static_cast<GFPDB_ACT_PROPERTY>(property),
+                                                              "value " + std::to_string(property));
+    record.set_operation(operation, SINGLE_IO);
+    record.set_operation(gfpdb_make_operation(4), SINGLE_IO);
+
+    QCOMPARE(record.to_row(FAMILY, SERIAL)->single_flows,
+             std::string(R"({"operations":[{"actions":[{"type":0,"values":{"0":"value 0","1":"value 1",)"
+                         R"("2":"value 2","3":"value 3","4":"value 4"}}],"kind":1},{"actions":[],"kind":4}]})"));
 }
 
 void TST_RECORD::values_of_actions_are_stored_byte_for_byte_data()

@@ -7,16 +7,15 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-void expect_warning(const char* pattern)
+void expect_warning(const std::string& text)
 {
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(pattern)));
+    QTest::ignoreMessage(QtWarningMsg, text.c_str());
 }
 
 QStringList entries(const std::string& directory)
@@ -63,6 +62,16 @@ private slots:
 
 private:
     std::string settings() const { return m_place->settings(); }
+    void expect_settings_warning(const std::string& text)
+    {
+        expect_warning("The settings file " + settings() + ' ' + text);
+    }
+    // What is logged when `directory` of the place is not accepted because of `problem`.
+    void expect_refusal(const std::string& directory, const std::string& problem)
+    {
+        expect_warning(problem);
+        expect_warning(m_place->path(directory) + " was not made the database directory: " + problem);
+    }
 
     std::unique_ptr<GFPDB_PLACE> m_place;
 };
@@ -151,7 +160,7 @@ void TST_SETTINGS::any_byte_but_a_line_break_can_be_a_value()
     }
     const std::string before = read_file(settings());
     for (const std::string& value : {std::string("/a\n/"), std::string("/a\r/"), std::string("/a\0/", 4)}) {
-        expect_warning("cannot hold a value with a line break");
+        expect_settings_warning("cannot hold a value with a line break");
         QVERIFY(!gfpdb_write_setting("custom_dir", value));
     }
     QCOMPARE(read_file(settings()), before);
@@ -173,9 +182,9 @@ void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone()
     QFETCH(QByteArray, warning);
     write_file(settings(), content.toStdString());
 
-    expect_warning(warning.constData());
+    expect_settings_warning(warning.toStdString());
     QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
-    expect_warning(warning.constData());
+    expect_settings_warning(warning.toStdString());
     QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
     QCOMPARE(read_file(settings()), content.toStdString());
 }
@@ -183,14 +192,15 @@ void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone()
 void TST_SETTINGS::settings_that_cannot_be_written_are_logged()
 {
     make_dir(settings());
-    expect_warning("settings.ini cannot be read");
+    expect_settings_warning("cannot be read: it is not a file");
     QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
-    expect_warning("settings.ini cannot be read");
+    expect_settings_warning("cannot be read: it is not a file");
     QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
 
     write_file(m_place->path("file"), "content");
     qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("file/settings.ini")));
-    expect_warning("cannot be written: its directory cannot be created");
+    expect_warning("The settings file " + m_place->path("file/settings.ini") +
+                   " cannot be written: its directory cannot be created");
     QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
     QCOMPARE(read_file(m_place->path("file")), std::string("content"));
 }
@@ -257,30 +267,39 @@ void TST_SETTINGS::a_saved_directory_is_found_by_the_next_program()
 void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused_data()
 {
     QTest::addColumn<QString>("directory");
-    QTest::addColumn<QByteArray>("warning");
-    QTest::newRow("missing") << QStringLiteral("missing") << QByteArrayLiteral("does not exist");
-    QTest::newRow("a file") << QStringLiteral("file") << QByteArrayLiteral("is not a directory");
-    QTest::newRow("below a file") << QStringLiteral("file/below") << QByteArrayLiteral("is not a directory");
-    QTest::newRow("with an empty database") << QStringLiteral("empty") << QByteArrayLiteral("is empty");
-    QTest::newRow("with a foreign database") << QStringLiteral("foreign") << QByteArrayLiteral("of another program");
+    QTest::addColumn<QString>("problem");
+    const QString no_directory =
+        QStringLiteral("The database directory %1 is not a directory: a part of it is a file.");
+    QTest::newRow("missing") << QStringLiteral("missing/")
+                             << QStringLiteral("The database directory %1 does not exist.");
+    QTest::newRow("a file") << QStringLiteral("file/") << no_directory;
+    QTest::newRow("below a file") << QStringLiteral("file/below/") << no_directory;
+    QTest::newRow("with an empty database")
+        << QStringLiteral("empty/")
+        << QStringLiteral(
+               "The database %1gfpdb.sqlite is empty: its content was lost. It is left as it is; put a copy in "
+               "its place, or remove it to begin anew.");
+    QTest::newRow("with a foreign database")
+        << QStringLiteral("foreign/")
+        << QStringLiteral("The file %1gfpdb.sqlite is a database of another program. It is left as it is.");
     QTest::newRow("with a name that is too long")
-        << QString(300, QLatin1Char('a')) << QByteArrayLiteral("name too long");
+        << QString(300, QLatin1Char('a')) + QLatin1Char('/')
+        << QStringLiteral("The database directory %1 cannot be reached: File name too long.");
 }
 
 void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused()
 {
     QFETCH(QString, directory);
-    QFETCH(QByteArray, warning);
+    QFETCH(QString, problem);
     write_file(m_place->path("file"), "content");
     make_dir(m_place->path("empty"));
     write_file(m_place->path("empty/gfpdb.sqlite"), "");
     make_dir(m_place->path("foreign"));
     run_sql(m_place->path("foreign/gfpdb.sqlite"), "CREATE TABLE recipes (name TEXT)");
 
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QLatin1String(warning), QRegularExpression::CaseInsensitiveOption));
-    expect_warning("was not made the database directory");
-    QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->path(directory.toStdString()), false));
+    const std::string path = m_place->path(directory.toStdString());
+    expect_refusal(directory.toStdString(), problem.arg(QString::fromStdString(path)).toStdString());
+    QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(path, false));
     QVERIFY(!QFile::exists(QString::fromStdString(settings())));
     QVERIFY(!QFile::exists(QString::fromStdString(m_place->path("missing"))));
     QCOMPARE(read_file(m_place->path("empty/gfpdb.sqlite")), std::string());
@@ -297,8 +316,7 @@ void TST_SETTINGS::a_refused_directory_leaves_the_settings_alone()
 {
     write_file(settings(), "[database]\ncustom_dir=/a/");
 
-    expect_warning("does not exist");
-    expect_warning("was not made the database directory");
+    expect_refusal("missing/", "The database directory " + m_place->path("missing/") + " does not exist.");
     QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->path("missing"), false));
     QCOMPARE(read_file(settings()), std::string("[database]\ncustom_dir=/a/"));
 }
@@ -307,7 +325,7 @@ void TST_SETTINGS::settings_that_cannot_be_written_refuse_the_directory()
 {
     make_dir(settings());
 
-    expect_warning("settings.ini cannot be read");
+    expect_settings_warning("cannot be read: it is not a file");
     QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
 }
 
@@ -353,9 +371,9 @@ void TST_SETTINGS::only_the_default_directory_is_created_on_demand()
 
     GFPDB_MGR::set_db_custom_dir(m_place->path("missing"));
     fresh_manager();
-    expect_warning("does not exist");
-    QCOMPARE(GFPDB_HELPER::get_database_problem(),
-             "The database directory " + m_place->path("missing/") + " does not exist.");
+    const std::string problem = "The database directory " + m_place->path("missing/") + " does not exist.";
+    expect_warning(problem);
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), problem);
     QVERIFY(!QFile::exists(QString::fromStdString(m_place->path("missing"))));
 }
 
