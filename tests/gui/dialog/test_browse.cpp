@@ -23,6 +23,8 @@ private slots:
     void without_a_base_directory_a_relative_path_stays_relative();
     void a_base_directory_alone_does_not_stay_the_current_one();
     void a_host_without_ui_manager_is_an_internal_error();
+    void browsing_starts_in_the_real_directory();
+    void a_chosen_directory_with_other_letters_goes_out_as_local_8_bit();
     void the_window_title_is_translated();
 
 private:
@@ -240,6 +242,34 @@ void TEST_BROWSE::a_host_without_ui_manager_is_an_internal_error()
 
     QCOMPARE(calls(), list_of({R"(MSG_INTERNAL_ERROR.report("ui_mgr != nullptr", "GFPQ", "pgm/gfpq/gfpq_dlg", 909))"}));
     QCOMPARE(here(), before);
+}
+
+// The edit shows the directory byte by byte; that text would name another one.
+void TEST_BROWSE::browsing_starts_in_the_real_directory()
+{
+    const QString start = make_dir(qs("gr\xC3\xBCn"));
+    world().custom_dir = start.toStdString();
+    open();
+
+    click_browse();
+
+    QCOMPARE(log().calls_of({qs("set_directory")}),
+             QStringList(QStringLiteral("file_dlg.set_directory(\"%1\")").arg(start)));
+    QCOMPARE(here() + QLatin1Char('/'), start);
+}
+
+void TEST_BROWSE::a_chosen_directory_with_other_letters_goes_out_as_local_8_bit()
+{
+    const QString chosen = make_dir(qs("gr\xC3\xBCn"));
+    file_dlg_answers().result = 1;
+    file_dlg_answers().selected = QStringList{chosen};
+    open();
+
+    click_browse();
+
+    QCOMPARE(log().calls_of({qs("save_custom_dir_to_ini")}),
+             QStringList(QStringLiteral("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen)));
+    QCOMPARE(world().custom_dir, chosen.toStdString());
 }
 
 namespace {

@@ -32,7 +32,8 @@ private slots:
     void the_keyboard_selects_a_device();
     void selecting_the_selected_device_again_loads_nothing();
     void an_emptied_selection_loads_nothing();
-    void names_with_other_letters_come_as_they_are();
+    void names_come_and_go_as_they_are_data();
+    void names_come_and_go_as_they_are();
     void an_old_row_selected_by_its_index_is_loaded_once();
 
 private:
@@ -371,14 +372,29 @@ void TEST_DEVICE_LIST::an_emptied_selection_loads_nothing()
     QCOMPARE(edit("m_device_name_edit").text(), QStringLiteral("alpha"));
 }
 
-void TEST_DEVICE_LIST::names_with_other_letters_come_as_they_are()
+void TEST_DEVICE_LIST::names_come_and_go_as_they_are_data()
 {
-    mgr().add_custom("gr\xC3\xBCn <b>'%1;\"");
+    QTest::addColumn<QString>("name");
 
-    open_with("gr\xC3\xBCn <b>'%1;\"");
+    QTest::newRow("letters and markup") << qs("gr\xC3\xBCn <b>'%1;\"");
+    QTest::newRow("blanks") << qs("  a  b ");
+    QTest::newRow("pattern") << qs("a.*(b)");
+    QTest::newRow("right to left") << qs("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D");
+    QTest::newRow("10,000 letters") << QString(10000, QLatin1Char('x'));
+}
 
-    QCOMPARE(current_row(), qs("gr\xC3\xBCn <b>'%1;\""));
-    QCOMPARE(edit("m_device_name_edit").text(), qs("gr\xC3\xBCn <b>'%1;\""));
+void TEST_DEVICE_LIST::names_come_and_go_as_they_are()
+{
+    QFETCH(const QString, name);
+    mgr().add_custom(name.toStdString());
+
+    open_with(name.toStdString());
+    button("m_ok_button").click();
+
+    QCOMPARE(edit("m_device_name_edit").text(), name);
+    QVERIFY(log().calls_of({qs("check_string_property")}).filter(QStringLiteral("(0,")).isEmpty());
+    QCOMPARE(mgr().last_created->name, name.toStdString());
+    QCOMPARE(dlg().device_name(), name.toStdString());
 }
 
 void TEST_DEVICE_LIST::an_old_row_selected_by_its_index_is_loaded_once()
