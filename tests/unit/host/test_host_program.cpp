@@ -280,7 +280,10 @@ void TEST_HOST_PROGRAM::module_in_the_current_directory_is_not_found()
     const QString before = QDir::currentPath();
     QDir::setCurrent(here);
 
-    const PROBE_RESULT result = run({QStringLiteral("--dialog")}, {{QStringLiteral("LD_LIBRARY_PATH"), here}}, program);
+    // The copy of the program needs the path of the tests to its libraries.
+    const QString library_path = here + QLatin1Char(':') + qEnvironmentVariable("LD_LIBRARY_PATH");
+    const PROBE_RESULT result =
+        run({QStringLiteral("--dialog")}, {{QStringLiteral("LD_LIBRARY_PATH"), library_path}}, program);
 
     QDir::setCurrent(before);
     QCOMPARE(result.exit_code, 1);
