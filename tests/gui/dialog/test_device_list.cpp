@@ -380,6 +380,7 @@ void TEST_DEVICE_LIST::names_come_and_go_as_they_are_data()
     QTest::newRow("blanks") << qs("  a  b ");
     QTest::newRow("pattern") << qs("a.*(b)");
     QTest::newRow("right to left") << qs("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D");
+    QTest::newRow("byte order mark") << QChar(0xFEFF) + qs("A");
     QTest::newRow("10,000 letters") << QString(10000, QLatin1Char('x'));
 }
 
