@@ -1,0 +1,79 @@
+# What is installed, and where. Everything finds everything else by the way from its own place, so that an installed tree
+# can be moved.
+#
+#   bin/                        gfpq_host, gfpdb
+#   lib/gfpq/                   the module and the libraries: ours alone, so not in the system's own directory
+#   lib/cmake/gfpq/             find_package(gfpq)
+#   include/gfpq/               headers for hosts
+#   share/gfpq/                 device families, texts of the host
+#
+# Components: "runtime" is all that runs, "development" is what a host is built with.
+include(CMakePackageConfigHelpers)
+
+set(GFPQ_PRIVATE_LIBDIR lib/gfpq)
+set(GFPQ_CONFIG_DIR lib/cmake/gfpq)
+set(GFPQ_DATADIR share/gfpq)
+set(GFPQ_HEADER_DIR include/gfpq)
+
+# gfpq_install_library(name): the library, its public headers, and its exported target gfpq::<name>.
+function(gfpq_install_library name)
+    get_target_property(include_dirs ${name} INTERFACE_INCLUDE_DIRECTORIES)
+    set_target_properties(${name} PROPERTIES
+        INSTALL_RPATH "\$ORIGIN"
+        INTERFACE_INCLUDE_DIRECTORIES "$<BUILD_INTERFACE:${include_dirs}>;$<INSTALL_INTERFACE:${GFPQ_HEADER_DIR}>")
+    install(TARGETS ${name} EXPORT gfpqTargets
+        LIBRARY DESTINATION ${GFPQ_PRIVATE_LIBDIR} COMPONENT runtime NAMELINK_SKIP)
+    foreach(directory IN LISTS include_dirs)
+        install(DIRECTORY ${directory}/ DESTINATION ${GFPQ_HEADER_DIR} COMPONENT development FILES_MATCHING PATTERN "*.h")
+    endforeach()
+endfunction()
+
+foreach(library gen fio dstr msg kovq gfpdb)
+    gfpq_install_library(${library})
+endforeach()
+
+# The header of the module's entry point, and the headers of the flash database for who brings a library of their own.
+add_library(dyn_dlg INTERFACE)
+target_include_directories(dyn_dlg INTERFACE $<INSTALL_INTERFACE:${GFPQ_HEADER_DIR}>)
+add_library(gfpdb_interface INTERFACE)
+target_include_directories(gfpdb_interface INTERFACE $<INSTALL_INTERFACE:${GFPQ_HEADER_DIR}>)
+install(TARGETS dyn_dlg gfpdb_interface EXPORT gfpqTargets)
+install(FILES ${PROJECT_SOURCE_DIR}/pgm/gfpq/gfpq_dyn_dlg.h DESTINATION ${GFPQ_HEADER_DIR} COMPONENT development)
+
+set_target_properties(pgm_gfpq PROPERTIES INSTALL_RPATH "\$ORIGIN")
+install(TARGETS pgm_gfpq LIBRARY DESTINATION ${GFPQ_PRIVATE_LIBDIR} COMPONENT runtime)
+
+set_target_properties(gfpq_host gfpdb_cli PROPERTIES INSTALL_RPATH "\$ORIGIN/../${GFPQ_PRIVATE_LIBDIR}")
+install(TARGETS gfpq_host gfpdb_cli RUNTIME DESTINATION bin COMPONENT runtime)
+
+# Data and texts.
+get_property(host_texts GLOBAL PROPERTY GFPQ_HOST_TEXTS)
+install(FILES ${host_texts} DESTINATION ${GFPQ_DATADIR}/translations COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/host/dstr/data/families.csv ${PROJECT_SOURCE_DIR}/pgm/gfpdb/data/serial_nor.csv
+    DESTINATION ${GFPQ_DATADIR} COMPONENT runtime)
+
+# What a desktop and a shell look for.
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.desktop DESTINATION share/applications COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.svg
+    DESTINATION share/icons/hicolor/scalable/apps COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.1 ${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.1
+    DESTINATION share/man/man1 COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.bash
+    DESTINATION share/bash-completion/completions RENAME gfpdb COMPONENT runtime)
+
+# Documentation.
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    DESTINATION share/doc/gfpq COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright DESTINATION share/doc/gfpq COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright DESTINATION share/doc/gfpq-dev COMPONENT development)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION share/doc/gfpq/docs COMPONENT runtime
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "example-host" EXCLUDE)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/example-host DESTINATION share/doc/gfpq-dev COMPONENT development)
+
+# find_package(gfpq)
+install(EXPORT gfpqTargets NAMESPACE gfpq:: DESTINATION ${GFPQ_CONFIG_DIR} COMPONENT development)
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/gfpqConfig.cmake.in ${PROJECT_BINARY_DIR}/gfpqConfig.cmake
+    INSTALL_DESTINATION ${GFPQ_CONFIG_DIR} PATH_VARS GFPQ_PRIVATE_LIBDIR NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/gfpqConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/gfpqConfig.cmake ${PROJECT_BINARY_DIR}/gfpqConfigVersion.cmake
+    DESTINATION ${GFPQ_CONFIG_DIR} COMPONENT development)

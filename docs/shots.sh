@@ -1,0 +1,246 @@
+#!/usr/bin/env bash
+# Takes the documentation's pictures from the real programs, on a screen that nobody sees.
+# usage: shots.sh GFPQ_HOST IMAGE_DIRECTORY [PICTURE...]     (all pictures if none is named)
+#
+# The programs are worked with the keyboard, so the pictures do not depend on fonts or sizes. A picture is taken when
+# the window has stopped changing.
+set -euo pipefail
+
+readonly HOST=$(readlink -f "$1")
+readonly TOOL=$(dirname "$HOST")/gfpdb
+mkdir -p "$2"
+readonly IMAGES=$(readlink -f "$2")
+shift 2
+readonly WANTED=("$@")
+readonly DOCS=$(dirname "$(readlink -f "$0")")
+
+# Shown in the pictures, so it is the same everywhere.
+readonly WORK=/tmp/gfpq-shots
+readonly PARTS=$WORK/flash-parts
+
+readonly CHECKS_OF_A_STILL_WINDOW=100
+readonly PAUSE=0.2
+# Colours of a PNG: the dialog has few, and a small palette keeps the files small.
+readonly COLORS=128
+
+SERVER=
+WINDOW_MANAGER=
+PROGRAM=
+WINDOW=
+
+say() { printf '%s\n' "$*" >&2; }
+
+end_program() {
+    [ -z "$PROGRAM" ] || kill "$PROGRAM" 2>/dev/null || true
+    [ -z "$PROGRAM" ] || wait "$PROGRAM" 2>/dev/null || true
+    PROGRAM=
+}
+
+clean_up() {
+    end_program
+    [ -z "$WINDOW_MANAGER" ] || kill "$WINDOW_MANAGER" 2>/dev/null || true
+    [ -z "$SERVER" ] || kill "$SERVER" 2>/dev/null || true
+    rm -rf "$WORK"
+}
+trap clean_up EXIT
+
+start_screen() {
+    mkfifo "$WORK/display"
+    Xvfb -displayfd 4 -screen 0 2400x2100x24 -nolisten tcp 4>"$WORK/display" 2>"$WORK/xvfb.log" &
+    SERVER=$!
+    local number
+    read -r number <"$WORK/display"
+    export DISPLAY=:$number
+    openbox --sm-disable >"$WORK/openbox.log" 2>&1 &
+    WINDOW_MANAGER=$!
+    until xdotool get_num_desktops >/dev/null 2>&1; do sleep "$PAUSE"; done
+}
+
+set_environment() {
+    export HOME=$WORK/home XDG_CONFIG_HOME=$WORK/config XDG_RUNTIME_DIR=$WORK/run GFPDB_SETTINGS=$WORK/gfpdb.ini
+    export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+    unset LANGUAGE QT_SCALE_FACTOR QT_STYLE_OVERRIDE XDG_CURRENT_DESKTOP GFPQ_TRANSLATIONS
+    mkdir -p "$HOME" "$XDG_CONFIG_HOME" "$PARTS"
+    mkdir -m 700 -p "$XDG_RUNTIME_DIR"
+}
+
+# stored NAME AS [TEMPLATE]: a device with the values and flows of a built-in one, or a stored template.
+stored() {
+    local edits=(-e "s/^\(      \"name\": \)\"$1\"/\1\"$2\"/" -e 's/"total_die": null/"total_die": 1/')
+    [ $# -lt 3 ] || edits+=(-e 's/"templates": \[\]/"no": []/' -e 's/"devices": \[$/"templates": [/'
+        -e 's/"no": \[\]/"devices": []/' -e "s/\"template_name\": \"\"/\"template_name\": \"$3\"/")
+    "$TOOL" export "$1" | sed "${edits[@]}" >"$WORK/record.json"
+    "$TOOL" import --dir "$PARTS" --family 1 --scheme 7 "$WORK/record.json" >/dev/null
+}
+
+# Devices and templates of a team.
+fill_database() {
+    stored MX25L25645G TEAM-256
+    stored MX25L12845G TEAM-128
+    stored MX25L25645G TEAM-256 "Team: 4-byte, slow erase"
+    stored MX25L12845G TEAM-128 "Team: 3-byte"
+}
+
+# A dark palette, the way a desktop hands it to Qt.
+use_dark_palette() {
+    export XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5
+    cat >"$XDG_CONFIG_HOME/kdeglobals" <<'TXT'
+[General]
+widgetStyle=fusion
+font=DejaVu Sans,9,-1,5,50,0,0,0,0,0
+
+[Colors:Window]
+BackgroundNormal=42,46,50
+ForegroundNormal=252,252,252
+
+[Colors:Button]
+BackgroundNormal=49,54,59
+ForegroundNormal=252,252,252
+
+[Colors:View]
+BackgroundNormal=27,30,32
+BackgroundAlternate=35,38,41
+ForegroundNormal=252,252,252
+
+[Colors:Selection]
+BackgroundNormal=61,174,233
+ForegroundNormal=252,252,252
+
+[Colors:Tooltip]
+BackgroundNormal=49,54,59
+ForegroundNormal=252,252,252
+TXT
+}
+
+use_light_palette() {
+    unset XDG_CURRENT_DESKTOP KDE_SESSION_VERSION
+    rm -f "$XDG_CONFIG_HOME/kdeglobals"
+}
+
+# open_program OPTIONS...: the host; its window has the focus then.
+open_program() {
+    end_program
+    "$HOST" --database "$PARTS/" "$@" >"$WORK/host.out" 2>"$WORK/host.err" &
+    PROGRAM=$!
+    WINDOW=$(xdotool search --sync --onlyvisible --limit 1 --pid "$PROGRAM" --name .)
+    xdotool windowactivate --sync "$WINDOW"
+}
+
+press() { xdotool key --clearmodifiers "$@"; }
+
+times() {
+    local count=$1 key=$2
+    for ((i = 0; i < count; ++i)); do press "$key"; done
+}
+
+# The window of the program that has the focus: a dialog over the dialog, if there is one.
+front_window() { WINDOW=$(xdotool getactivewindow); }
+
+# picture NAME [WINDOW]: what the window shows when it has stopped changing.
+picture() {
+    local name=$1 window=${2:-$WINDOW} before= now=
+    for ((i = 0; i < CHECKS_OF_A_STILL_WINDOW; ++i)); do
+        sleep "$PAUSE"
+        import -window "$window" "$WORK/now.ppm"
+        now=$(cksum <"$WORK/now.ppm")
+        [ "$now" != "$before" ] || break
+        before=$now
+    done
+    convert "$WORK/now.ppm" +dither -colors "$COLORS" -strip -define png:exclude-chunks=date,time \
+        -define png:compression-level=9 "PNG8:$IMAGES/$name.png"
+    say "$IMAGES/$name.png"
+}
+
+readonly DEVICE=(--dialog --family 1 --scheme 7 --device "TEAM-256")
+
+# From the family, which has the focus first: to the titles of the pages, and along them.
+go_to_page() {
+    times 4 Tab
+    times "$1" Right
+}
+
+# From the title of an operation page: past the three buttons, the table and the palette into the chart, to the block of
+# that number.
+go_to_block() {
+    times 6 Tab
+    times "$1" Down
+}
+
+shot_device-page() {
+    open_program "${DEVICE[@]}"
+    picture device-page
+}
+
+# shot_page NAME PAGE BLOCK
+shot_page() {
+    open_program "${DEVICE[@]}"
+    go_to_page "$2"
+    go_to_block "$3"
+    picture "$1"
+}
+
+shot_page-initialization() { shot_page page-initialization 1 1; }
+shot_page-program() { shot_page page-program 2 2; }
+shot_page-erase() { shot_page page-erase 3 2; }
+shot_page-verify() { shot_page page-verify 4 1; }
+shot_page-termination() { shot_page page-termination 5 1; }
+
+shot_host-window() {
+    open_program --family 1 --scheme 7 --device TEAM-256
+    picture host-window
+}
+
+shot_template-editor() {
+    open_program --dialog --family 1 --scheme 7
+    local dialog=$WINDOW
+    # From the family, over the page title, the list and the fields, to the template's button.
+    times 16 Tab
+    press space
+    until front_window && [ "$WINDOW" != "$dialog" ]; do sleep "$PAUSE"; done
+    press Down
+    picture template-editor
+}
+
+shot_dark-device-page() {
+    use_dark_palette
+    open_program "${DEVICE[@]}"
+    picture dark-device-page
+    use_light_palette
+}
+
+shot_dark-erase() {
+    use_dark_palette
+    shot_page dark-erase 3 2
+    use_light_palette
+}
+
+# shot_scaled NAME FACTOR
+shot_scaled() {
+    QT_SCALE_FACTOR=$2 shot_page "$1" 3 2
+}
+
+shot_scale-150() { shot_scaled scale-150 1.5; }
+shot_scale-200() { shot_scaled scale-200 2; }
+
+shot_language-ja() {
+    open_program "${DEVICE[@]}" --lang ja
+    picture language-ja
+}
+
+readonly PICTURES=(device-page page-initialization page-program page-erase page-verify page-termination template-editor
+    host-window dark-device-page dark-erase scale-150 scale-200 language-ja)
+
+main() {
+    rm -rf "$WORK"
+    mkdir -p "$WORK"
+    set_environment
+    fill_database
+    start_screen
+    local pictures=("${WANTED[@]}") name
+    [ ${#pictures[@]} -gt 0 ] || pictures=("${PICTURES[@]}")
+    for name in "${pictures[@]}"; do
+        "shot_$name"
+    done
+}
+
+main
