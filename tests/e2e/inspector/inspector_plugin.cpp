@@ -2,7 +2,7 @@
 
 #include "inspector.h"
 
-QObject* INSPECTOR_PLUGIN::create(const QString& key, const QString& specification)
+QObject* INSPECTOR_PLUGIN::create(const QString& key, const QString& socket_path)
 {
-    return key == QLatin1String("gfpq_inspector") ? new INSPECTOR(specification) : nullptr;
+    return key == QLatin1String("gfpq_inspector") ? new INSPECTOR(socket_path) : nullptr;
 }

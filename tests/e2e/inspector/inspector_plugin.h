@@ -10,6 +10,6 @@ class INSPECTOR_PLUGIN : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "inspector.json")
 
 public:
-    // `specification` is the path of the local socket on which the test listens. The caller owns the result.
-    QObject* create(const QString& key, const QString& specification) override;
+    // `socket_path` is the path of the local socket on which the test listens. The caller owns the result.
+    QObject* create(const QString& key, const QString& socket_path) override;
 };
