@@ -41,10 +41,10 @@ PAGE_RENDERER::~PAGE_RENDERER() = default;
 
 bool PAGE_RENDERER::eventFilter(QObject* watched, QEvent* event)
 {
-    const QPointer<QDialog> dialog(event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr);
-    if (dialog) {
+    auto* shown = event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
+    if (shown) {
         // From within the dialog's own event loop, which starts after it was shown.
-        QTimer::singleShot(0, this, [this, dialog] {
+        QTimer::singleShot(0, this, [this, dialog = QPointer<QDialog>(shown)] {
             if (dialog)
                 meet(dialog);
         });
