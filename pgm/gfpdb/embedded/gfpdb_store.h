@@ -173,8 +173,8 @@ private:
     std::string m_directory;
     int m_connection;
     STATE m_state = STATE::CLOSED;
-    // The file that is open; none when there is none.
-    std::optional<FILE_IDENTITY> m_identity;
+    // The file that is open, if one is.
+    FILE_IDENTITY m_identity;
     std::string m_database_id;
     int m_schema_version = 0;
     // The count of the schema that was found to be a known one.

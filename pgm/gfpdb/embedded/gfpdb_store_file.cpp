@@ -169,7 +169,6 @@ std::string GFPDB_STORE::get_problem()
 
 void GFPDB_STORE::close()
 {
-    m_identity.reset();
     m_database_id.clear();
     if (QSqlDatabase::contains(connection_name()))
         QSqlDatabase::removeDatabase(connection_name());
@@ -349,12 +348,11 @@ bool GFPDB_STORE::build_new_file(const std::string& path)
     return run(query) && run("COMMIT");
 }
 
+// True while the name of the file that is open stands for that file.
 bool GFPDB_STORE::is_same_file() const
 {
     struct stat status = {};
-    if (::stat(file_path().c_str(), &status) != 0)
-        return !m_identity;
-    return m_identity && *m_identity == FILE_IDENTITY{status.st_dev, status.st_ino};
+    return ::stat(file_path().c_str(), &status) == 0 && m_identity == FILE_IDENTITY{status.st_dev, status.st_ino};
 }
 
 void GFPDB_STORE::refresh()

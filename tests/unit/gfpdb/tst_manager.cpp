@@ -443,6 +443,12 @@ void TST_MANAGER::a_device_can_be_saved_in_another_directory()
     QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "B"), std::string()));
     QCOMPARE(custom_names(*m_mgr), NAMES{"B"});
     QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_file())));
+    make_dir(m_place->path("third/"));
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "D"), m_place->path("third/")));
+    QCOMPARE(run_sql(m_place->db_file(), "SELECT group_concat(name) FROM device").toString(), QStringLiteral("C"));
+    QCOMPARE(run_sql(m_place->path("third/gfpdb.sqlite"), "SELECT group_concat(name) FROM device").toString(),
+             QStringLiteral("D"));
 }
 
 void TST_MANAGER::a_record_that_is_not_stored_cannot_be_saved_without_a_flash()

@@ -130,6 +130,8 @@ void TST_STORE::the_file_is_made_by_the_first_change()
     const QStringList entries = QDir(QString::fromStdString(m_place->db_dir())).entryList(QDir::Files | QDir::Hidden);
     QCOMPARE(entries, (QStringList{QStringLiteral("gfpdb.sqlite"), QStringLiteral("gfpdb.sqlite-journal")}));
     QCOMPARE(read_file(file() + "-journal"), std::string());
+    QVERIFY(m_store->check_integrity());
+    QCOMPARE(m_store->get_last_error(), std::string());
 }
 
 void TST_STORE::the_schema_is_as_documented()
