@@ -43,7 +43,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/pgm/gfpq/gfpq_dyn_dlg.h DESTINATION ${GFPQ_H
 set_target_properties(pgm_gfpq PROPERTIES INSTALL_RPATH "\$ORIGIN")
 install(TARGETS pgm_gfpq LIBRARY DESTINATION ${GFPQ_PRIVATE_LIBDIR} COMPONENT runtime)
 
-set_target_properties(gfpq_host gfpdb_cli PROPERTIES INSTALL_RPATH "\$ORIGIN/../${GFPQ_PRIVATE_LIBDIR}")
+# The first entry is for the build tree, which is run from as it is.
+set_target_properties(gfpq_host gfpdb_cli PROPERTIES INSTALL_RPATH "\$ORIGIN/../lib;\$ORIGIN/../${GFPQ_PRIVATE_LIBDIR}")
 install(TARGETS gfpq_host gfpdb_cli RUNTIME DESTINATION bin COMPONENT runtime)
 
 # Data and texts.

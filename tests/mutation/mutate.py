@@ -34,7 +34,7 @@ SOURCES = ["pgm/gfpq/*.cpp", "pgm/gfpq/*.h", "pgm/gfpq/*.ui", "pgm/gfpdb/embedde
 AFFECTED = [
     (r"pgm/gfpq/gfpq_(flow|operation_tab|property)", r"^gui_flow"),
     (r"pgm/gfpq/", r"^gui_dialog"),
-    (r"pgm/gfpdb/embedded/gfpdb_(action|operation|flow|catalogue)", r"^unit_flows"),
+    (r"pgm/gfpdb/embedded/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_"),
     (r"pgm/gfpdb/", r"^unit_gfpdb"),
 ]
 QUICK_LABELS = "unit|gui"
