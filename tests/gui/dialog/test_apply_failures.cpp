@@ -275,6 +275,7 @@ void TEST_APPLY_FAILURES::an_operation_that_cannot_be_made_is_an_internal_error_
 
 void TEST_APPLY_FAILURES::an_operation_that_cannot_be_made_is_an_internal_error()
 {
+    unwind_through_qt();
     QFETCH(const bool, in_copy);
     open_with("A");
     if (in_copy)

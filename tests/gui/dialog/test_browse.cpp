@@ -152,6 +152,7 @@ void TEST_BROWSE::another_number_of_entries_is_an_internal_error_data()
 
 void TEST_BROWSE::another_number_of_entries_is_an_internal_error()
 {
+    unwind_through_qt();
     QFETCH(const QStringList, selected);
     file_dlg_answers().result = 1;
     file_dlg_answers().selected = selected;
@@ -234,6 +235,7 @@ void TEST_BROWSE::a_base_directory_alone_does_not_stay_the_current_one()
 
 void TEST_BROWSE::a_host_without_ui_manager_is_an_internal_error()
 {
+    unwind_through_qt();
     test_app()->has_ui_mgr = false;
     open();
     const QString before = here();

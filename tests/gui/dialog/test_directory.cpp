@@ -298,6 +298,7 @@ void TEST_DIRECTORY::a_typed_directory_goes_out_as_local_8_bit()
 
 void TEST_DIRECTORY::a_manager_that_is_gone_is_an_internal_error()
 {
+    unwind_through_qt();
     open();
     world().active = nullptr;
 

@@ -288,6 +288,7 @@ void TEST_ENTRY_POINT::an_exception_does_not_leave_data()
 
 void TEST_ENTRY_POINT::an_exception_does_not_leave()
 {
+    unwind_through_qt();
     QFETCH(const int, kind);
     log().on_call(qs("get_family_list"), [kind](const QString&) {
         if (kind == 0)
@@ -310,6 +311,7 @@ void TEST_ENTRY_POINT::an_exception_does_not_leave()
 
 void TEST_ENTRY_POINT::an_exception_while_a_device_is_loaded_leaves_the_record()
 {
+    unwind_through_qt();
     expect_warning(QStringLiteral("out of order"));
     log().on_call(qs("get_flow_variant"), [](const QString&) { throw std::runtime_error("out of order"); });
 

@@ -335,6 +335,7 @@ void TEST_FAMILY_AND_MODE::a_mode_change_can_replace_the_manager()
 
 void TEST_FAMILY_AND_MODE::a_mode_change_without_a_manager_is_an_internal_error()
 {
+    unwind_through_qt();
     open();
     world().active = nullptr;
 

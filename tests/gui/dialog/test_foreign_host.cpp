@@ -11,6 +11,7 @@ private slots:
 
 void TEST_FOREIGN_HOST::browsing_is_an_internal_error()
 {
+    unwind_through_qt();
     open();
 
     QVERIFY_EXCEPTION_THROWN(button("m_browse_button").click(), INTERNAL_ERROR_REPORTED);
