@@ -102,7 +102,7 @@ class DIALOG_DRIVER_PLUGIN : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "dialog_driver.json")
 
 public:
-    QObject* create(const QString& /*key*/, const QString& /*specification*/) override
+    QObject* create(const QString& /*key*/, const QString& /*settings_file*/) override
     {
         // The application deletes it.
         auto* const driver = new DIALOG_DRIVER;
