@@ -250,7 +250,7 @@ std::string shown_name(int property)
 }
 
 // The first property of each action type, and what follows the last one.
-constexpr std::array<int, GFPDB_ACT_TYPE_COUNT + 1> FIRST_PROPERTY = {
+constexpr int FIRST_PROPERTY[GFPDB_ACT_TYPE_COUNT + 1] = {
     GFPDB_WR_NAME, GFPDB_RR_NAME,          GFPDB_WD_NAME,           GFPDB_RD_NAME,
     GFPDB_ER_NAME, GFPDB_CUSTOM_LOOP_UNIT, GFPDB_ACT_PROPERTY_COUNT};
 

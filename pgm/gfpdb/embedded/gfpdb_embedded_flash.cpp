@@ -55,7 +55,7 @@ GFPDB_EMBEDDED_FLASH::GFPDB_EMBEDDED_FLASH(const std::string& name)
 
 GFPDB_EMBEDDED_FLASH::~GFPDB_EMBEDDED_FLASH()
 {
-    clear_operations();
+    GFPDB_EMBEDDED_FLASH::clear_operations();
 }
 
 std::unique_ptr<GFPDB_EMBEDDED_FLASH> GFPDB_EMBEDDED_FLASH::from_row(const GFPDB_ROW& row, const std::string& directory,
