@@ -7,6 +7,7 @@ namespace {
 std::string places_of(const std::vector<CLI_RECORD>& records)
 {
     std::vector<std::string> places;
+    places.reserve(records.size());
     for (const CLI_RECORD& record : records)
         places.push_back("--family " + std::to_string(record.row.family) + " --scheme " +
                          std::to_string(record.row.scheme));

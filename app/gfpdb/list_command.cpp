@@ -116,6 +116,7 @@ std::vector<LISTED> find(const CLI_CALL& call)
 std::string csv(const std::vector<LISTED>& listed)
 {
     std::vector<CLI_RECORD> records;
+    records.reserve(listed.size());
     for (const LISTED& each : listed)
         records.push_back(each.record);
     return records_to_csv(records);

@@ -134,7 +134,7 @@ RESTRICTION READER::restriction()
 // Where a relative module file would be looked for is the user's current directory: no place to load programs from.
 QString READER::absolute_file(const QString& option)
 {
-    const QString file = filled_text(option);
+    QString file = filled_text(option);
     if (!file.isEmpty() && !QDir::isAbsolutePath(file))
         fail(QStringLiteral("--%1 takes an absolute path, not \"%2\".").arg(option, file));
     return file;
@@ -142,7 +142,7 @@ QString READER::absolute_file(const QString& option)
 
 QString READER::language()
 {
-    const QString name = filled_text(LANG);
+    QString name = filled_text(LANG);
     const bool is_known = QLocale(name).language() != QLocale::C || name == QLatin1String("C");
     if (!name.isEmpty() && !is_known)
         fail(QStringLiteral("--%1: \"%2\" is no language.").arg(LANG, name));
@@ -163,7 +163,8 @@ HOST_TASK READER::task()
 HOST_ARGUMENTS READER::read()
 {
     if (!m_parser.positionalArguments().isEmpty())
-        fail(QStringLiteral("What is \"%1\" for? There are only options.").arg(m_parser.positionalArguments().first()));
+        fail(QStringLiteral("What is \"%1\" for? There are only options.")
+                 .arg(m_parser.positionalArguments().constFirst()));
 
     HOST_ARGUMENTS arguments;
     arguments.task = task();

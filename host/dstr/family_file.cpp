@@ -57,7 +57,8 @@ bool read_schemes(const QByteArray& text, std::vector<int>& schemes)
     const QByteArray words = text.simplified();
     if (words.isEmpty())
         return true;
-    for (const QByteArray& word : words.split(' ')) {
+    const QList<QByteArray> parts = words.split(' ');
+    for (const QByteArray& word : parts) {
         bool is_number = false;
         const int scheme = word.toInt(&is_number);
         const bool is_repeated = std::find(schemes.begin(), schemes.end(), scheme) != schemes.end();

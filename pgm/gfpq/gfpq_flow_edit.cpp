@@ -27,7 +27,7 @@ namespace {
 // The action of a selected block: a block's first child is its text.
 GFPDB_ACTION* action_of(const QGraphicsItem* item)
 {
-    const auto* const text = static_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(item->childItems().first());
+    const auto* const text = static_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(item->childItems().constFirst());
     return text->action();
 }
 
