@@ -2,7 +2,6 @@
 
 #include "record_json.h"
 
-#include "gfpdb_action_value.h"
 #include "gfpdb_catalogue_csv.h"
 #include "gfpdb_text.h"
 
@@ -57,6 +56,17 @@ std::string number(const std::optional<int>& value)
     return value ? std::to_string(*value) : std::string();
 }
 
+// The number in a cell, null for an empty one; any other text stays one, so that the reader refuses it.
+JSON_VALUE number_of(const std::string& text)
+{
+    JSON_VALUE value;
+    JSON_ERROR error;
+    if (text.empty())
+        return json_null();
+    const bool is_number = json_parse(text, value, error) && value.kind == JSON_VALUE::NUMBER;
+    return is_number ? value : json_string(text);
+}
+
 bool check_columns(const GFPDB_CSV_ROW& head, std::vector<CLI_PROBLEM>& problems)
 {
     const std::size_t before = problems.size();
@@ -80,11 +90,7 @@ JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
     object.line = row.line;
     for (std::size_t at = 0; at < head.cells.size(); ++at) {
         const std::string& text = row.cells[at];
-        JSON_VALUE value = json_string(text);
-        if (is_one_of(NUMBER_COLUMNS, head.cells[at])) {
-            const std::optional<std::int64_t> parsed = gfpdb_parse_decimal(text);
-            value = text.empty() ? json_null() : parsed ? json_number(*parsed) : json_string(text);
-        }
+        JSON_VALUE value = is_one_of(NUMBER_COLUMNS, head.cells[at]) ? number_of(text) : json_string(text);
         value.line = row.line;
         object.add(head.cells[at], std::move(value));
     }

@@ -271,6 +271,9 @@ std::string RECORD_READER::read_text(const JSON_VALUE& object, const char* name,
         return std::string();
     if (value->kind != JSON_VALUE::TEXT)
         add(*value, field + '.' + name, "A text was expected, but this is " + kind_text(value->kind) + ".");
+    // Can only be of a list: a text of JSON always is.
+    else if (!gfpdb_is_utf8(value->text))
+        add(*value, field + '.' + name, "The text is not UTF-8.");
     return value->kind == JSON_VALUE::TEXT ? value->text : std::string();
 }
 

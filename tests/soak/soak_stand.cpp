@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <limits>
+
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -86,6 +88,13 @@ std::size_t allocated_bytes()
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
 #endif
+}
+
+void allow_a_long_run()
+{
+    constexpr const char* LIMIT = "QTEST_FUNCTION_TIMEOUT";
+    if (!qEnvironmentVariableIsSet(LIMIT))
+        qputenv(LIMIT, QByteArray::number(std::numeric_limits<int>::max()));
 }
 
 int number_from_environment(const char* name, int otherwise)

@@ -37,5 +37,9 @@ private:
 // The bytes that the process has allocated and not freed.
 std::size_t allocated_bytes();
 
+// Keeps Qt Test from ending a test function after five minutes. Called before the first test; a limit that the
+// environment sets stays.
+void allow_a_long_run();
+
 // The number in the environment variable `name`, or `otherwise` when it is not set.
 int number_from_environment(const char* name, int otherwise);

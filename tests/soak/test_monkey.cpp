@@ -102,6 +102,7 @@ void TEST_MONKEY::nothing_breaks_and_nothing_is_lost()
 
 int main(int argc, char** argv)
 {
+    allow_a_long_run();
     ZUI_APP app(argc, argv);
     TEST_MONKEY test;
     return QTest::qExec(&test, argc, argv);

@@ -91,6 +91,7 @@ void TEST_OPEN_CLOSE::memory_stays_flat()
 
 int main(int argc, char** argv)
 {
+    allow_a_long_run();
     ZUI_APP app(argc, argv);
     TEST_OPEN_CLOSE test;
     return QTest::qExec(&test, argc, argv);

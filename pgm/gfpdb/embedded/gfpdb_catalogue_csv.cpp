@@ -46,7 +46,13 @@ private:
         else if (at + 1 < text.size() && text[at + 1] == '"')
             m_cell += text[++at];
         else
-            m_quoted = false;
+            end_quote();
+    }
+
+    void end_quote()
+    {
+        m_quoted = false;
+        m_quoted_size = m_cell.size();
     }
 
     void take_plain(char character)
@@ -64,12 +70,19 @@ private:
     void end_cell()
     {
         m_row.cells.push_back(m_cell);
-        m_cell.clear();
+        clear_cell();
     }
 
+    void clear_cell()
+    {
+        m_cell.clear();
+        m_quoted_size = 0;
+    }
+
+    // A carriage return at the end belongs to the line break, unless it stands in quotes.
     void end_row()
     {
-        if (!m_cell.empty() && m_cell.back() == '\r')
+        if (!m_quoted && m_cell.size() > m_quoted_size && m_cell.back() == '\r')
             m_cell.pop_back();
         if (!m_row.cells.empty() || !m_cell.empty()) {
             end_cell();
@@ -77,13 +90,15 @@ private:
             m_rows.push_back(m_row);
         }
         m_row = GFPDB_CSV_ROW();
-        m_cell.clear();
+        clear_cell();
         m_row_line = m_line + 1;
     }
 
     std::vector<GFPDB_CSV_ROW> m_rows;
     GFPDB_CSV_ROW m_row;
     std::string m_cell;
+    // So much of the cell stood in quotes.
+    std::size_t m_quoted_size = 0;
     bool m_quoted = false;
     int m_line = 1;
     int m_row_line = 1;

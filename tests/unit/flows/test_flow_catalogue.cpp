@@ -92,6 +92,11 @@ void TEST_FLOW_CATALOGUE::cells_are_split_data()
     QTest::newRow("plain") << QByteArray("a,b\nc,d\n") << ROWS{{"a", "b"}, {"c", "d"}};
     QTest::newRow("no line end") << QByteArray("a,b") << ROWS{{"a", "b"}};
     QTest::newRow("carriage returns") << QByteArray("a,b\r\nc,d\r\n") << ROWS{{"a", "b"}, {"c", "d"}};
+    QTest::newRow("carriage return at the end of the text") << QByteArray("a,b\r") << ROWS{{"a", "b"}};
+    QTest::newRow("carriage return in quotes") << QByteArray("\"a\r\",\"b\r\"\n") << ROWS{{"a\r", "b\r"}};
+    QTest::newRow("carriage returns in quotes and behind")
+        << QByteArray("a,\"b\r\"\r\nc,d\r\n") << ROWS{{"a", "b\r"}, {"c", "d"}};
+    QTest::newRow("carriage return in a quote without end") << QByteArray("a,\"b\r") << ROWS{{"a", "b\r"}};
     QTest::newRow("quoted") << QByteArray("\"a,1\",\"say \"\"b\"\"\"\n") << ROWS{{"a,1", "say \"b\""}};
     QTest::newRow("line break in a cell") << QByteArray("\"a\nb\",c\n") << ROWS{{"a\nb", "c"}};
     QTest::newRow("empty cells") << QByteArray(",,\n") << ROWS{{"", "", ""}};

@@ -11,6 +11,8 @@
 
 #include <rapidcheck.h>
 
+#include <limits>
+
 namespace {
 
 // The texts of problems as "line: field: text".
@@ -130,6 +132,7 @@ private slots:
     void records_can_be_given_another_place();
     void a_list_has_a_line_for_each_device();
     void a_list_is_read_again();
+    void odd_values_in_a_list_are_read_again();
     void mistakes_in_a_list_are_reported_with_line_and_column_data();
     void mistakes_in_a_list_are_reported_with_line_and_column();
     void a_record_is_shown_as_text();
@@ -533,6 +536,25 @@ void TEST_CLI_RECORDS::a_list_is_read_again()
     QCOMPARE(read_csv("scheme,name,family,device_id\r\n7,A,3,C2\r\n").records.at(0).row.name, std::string("A"));
 }
 
+// Values that the rules refuse, as a directory can have them.
+void TEST_CLI_RECORDS::odd_values_in_a_list_are_read_again()
+{
+    const GFPDB_PLACE place;
+    CLI_RECORD record;
+    record.row.name = "A";
+    record.row.family = -1;
+    record.row.scheme = -1;
+    record.row.total_die = std::numeric_limits<int>::min();
+    record.row.quad_io_dummy_clock = std::numeric_limits<int>::max();
+    record.row.voltage = std::string("\xEF\xBB\xBF\0\r", 5);
+    record.row.flow_template = "end\r";
+
+    const READ result = read_csv(records_to_csv({record}), false);
+
+    QCOMPARE(result.problems, QStringList());
+    QCOMPARE(text_of(result.records.at(0).row), text_of(record.row));
+}
+
 void TEST_CLI_RECORDS::mistakes_in_a_list_are_reported_with_line_and_column_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -552,6 +574,14 @@ void TEST_CLI_RECORDS::mistakes_in_a_list_are_reported_with_line_and_column_data
     add("name,family,scheme,device_id\nA,3,7,C2\nB,three,7,C2\n",
         {"3: family: A whole number or null was expected, but this is a text.",
          "3: family: There is no family 0. Allowed: 1 to 72."});
+    add("name,family,scheme,device_id,total_die\nA,3,7,C2,1.5\nB,3,7,C2,007\n",
+        {"2: total_die: A whole number or null was expected, but this is 1.5.",
+         "3: total_die: A whole number or null was expected, but this is a text."});
+    add("name,family,scheme,device_id,total_die\nA,3,7,C2,null\nB,3,7,C2,true\n",
+        {"2: total_die: A whole number or null was expected, but this is a text.",
+         "3: total_die: A whole number or null was expected, but this is a text."});
+    add("name,family,scheme,device_id,flow_template\nA,3,7,C2,x\nB,3,7,C2,\xFF\xFE\n",
+        {"3: flow_template: The text is not UTF-8."});
     add("name,family,scheme,device_id,total_die\nA,3,7,C2,99\n",
         {"2: total_die: The total die count 99 is out of range: 1 to 16 are allowed."});
     add("name,family,scheme,device_id\n,3,7,C2\nMX25L1606E,3,7,C2\n",

@@ -1,0 +1,143 @@
+// Files of records that the command line tool imports: JSON, and lists of devices as CSV.
+//
+// Input: a byte for the format and the rules, then the content of the file.
+#include "fuzz_target.h"
+
+#include "gfpdb_embedded_mgr.h"
+#include "import_plan.h"
+#include "record_csv.h"
+#include "record_file.h"
+#include "record_json.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int FAMILY = 3;
+constexpr int SCHEME = 13;
+constexpr int AS_CSV = 1;
+constexpr int UNCHECKED = 2;
+
+std::string directory()
+{
+    return fuzz_directory() + "database/";
+}
+
+// An empty database, as the library makes it.
+const std::string& empty_database()
+{
+    static const std::string content = [] {
+        FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory()))));
+        CLI_DATABASE database(directory());
+        GFPDB_ROW row;
+        row.family = FAMILY;
+        row.scheme = SCHEME;
+        row.name = "first";
+        FUZZ_CHECK(database.store().save_device(row) && database.store().remove_device(FAMILY, SCHEME, row.name));
+        QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_STORE::FILE_NAME)));
+        FUZZ_CHECK(file.open(QIODevice::ReadOnly));
+        return file.readAll().toStdString();
+    }();
+    return content;
+}
+
+RECORD_FILE read_file(const std::string& content, const RECORD_FILE_OPTIONS& options)
+{
+    const std::string path = fuzz_directory() + "records";
+    fuzz_write_file(path, content);
+    return read_record_file(path, GFPDB_EMBEDDED_MGR::instance(), options);
+}
+
+// Each problem says where in the file it is.
+void check_problems(const RECORD_FILE& file, const std::string& content)
+{
+    const auto lines = 1 + std::count(content.begin(), content.end(), '\n');
+    for (const CLI_PROBLEM& problem : file.problems)
+        FUZZ_CHECK(problem.line >= 1 && problem.line <= lines && !problem.text.empty());
+}
+
+// A value that was read is written and read again as the same value.
+void check_json(const std::string& text)
+{
+    JSON_VALUE value;
+    JSON_ERROR error;
+    if (!json_parse(text, value, error))
+        return;
+    const std::string written = json_write(value);
+    FUZZ_CHECK(json_parse(written, value, error));
+    FUZZ_CHECK(json_write(value) == written);
+}
+
+std::vector<CLI_RECORD> stored_records(CLI_DATABASE& database)
+{
+    std::vector<CLI_RECORD> records;
+    for (const CLI_RECORD& listed : database.find_stored({})) {
+        const std::optional<CLI_RECORD> record = database.load(listed);
+        FUZZ_CHECK(record.has_value());
+        records.push_back(*record);
+    }
+    return records;
+}
+
+// What was exported is imported again without a problem, and changes nothing.
+void check_export(CLI_DATABASE& database, const std::string& exported, const RECORD_FILE_OPTIONS& options, int count)
+{
+    RECORD_FILE file = read_file(exported, options);
+    IMPORT_PLAN plan(database, false);
+    plan.add(file);
+    FUZZ_CHECK(file.problems.empty());
+    FUZZ_CHECK(plan.unchanged_count() == count && plan.new_count() == 0);
+}
+
+// A file without a problem is stored whole.
+void check_import(RECORD_FILE& file, const RECORD_FILE_OPTIONS& options)
+{
+    fuzz_write_file(directory() + GFPDB_STORE::FILE_NAME, empty_database());
+    CLI_DATABASE database(directory());
+    IMPORT_PLAN plan(database, false);
+    plan.add(file);
+    if (!file.problems.empty())
+        return;
+    const auto devices = static_cast<int>(plan.devices().size());
+    const int count = devices + static_cast<int>(plan.templates().size());
+    FUZZ_CHECK(database.store().save_all(plan.devices(), plan.templates(), [](int) {}));
+
+    const std::vector<CLI_RECORD> stored = stored_records(database);
+    FUZZ_CHECK(static_cast<int>(stored.size()) == count);
+    const std::optional<JSON_VALUE> json = records_to_json(stored);
+    FUZZ_CHECK(json.has_value());
+    RECORD_FILE_OPTIONS again = options;
+    again.csv = false;
+    check_export(database, json_write(*json), again, count);
+    again.csv = true;
+    check_export(database, records_to_csv(stored), again, devices);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
+{
+    fuzz_set_up();
+    empty_database();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    FUZZ_INPUT input(data, size);
+    const int kind = input.take_byte();
+    const std::string content = input.take_rest();
+    RECORD_FILE_OPTIONS options;
+    options.csv = (kind & AS_CSV) != 0;
+    options.unchecked = (kind & UNCHECKED) != 0;
+    if (!options.csv)
+        check_json(content);
+    RECORD_FILE file = read_file(content, options);
+    check_problems(file, content);
+    if (file.problems.empty() && !file.records.empty())
+        check_import(file, options);
+    return 0;
+}
