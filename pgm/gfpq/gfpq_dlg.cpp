@@ -44,7 +44,7 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     set_up_device_table();
     set_up_device_fields();
     create_operation_tabs();
-    // The selection is connected already: this loads the first device the way a click does.
+    // The selection is connected already: the first device comes the way a click brings one, too.
     fill_device_list();
     select_device(device_name);
     connect_controls();

@@ -105,9 +105,9 @@ private:
     // Device list.
     void set_up_device_table();
     void fill_device_list();
-    // Selects the row of that name, else the first; an empty name stands for a new device.
+    // Selects the row of that name, else the first, and loads it; an empty name stands for a new device.
     void select_device(const std::string& name);
-    // Fills the list anew, selects a row and loads it, once.
+    // Fills the list anew and selects a row with the selection's slot cut, so that the row is loaded once.
     void rebuild_device_list(const std::string& name_to_select);
     QModelIndex current_source_index() const;
     std::string selected_device_name() const;

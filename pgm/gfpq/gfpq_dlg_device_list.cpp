@@ -90,19 +90,20 @@ void GFPQ_DLG::select_device(const std::string& name)
         ui.m_device_table_view->selectRow(m_proxy_model.mapFromSource(found.first()->index()).row());
     else if (m_device_model.rowCount() > 0)
         ui.m_device_table_view->selectRow(0);
-}
 
-// The selection's own slot is cut while rows leave and come; the row selected at the end is loaded here.
-void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
-{
-    const GFPQ_CONNECTION_CUT cut{selection_change()};
-    fill_device_list();
-    select_device(name_to_select);
+    // Loaded here whether or not the selection's slot, which is cut in most rebuilds, has seen the row.
     const QModelIndex current = current_source_index();
     if (current.isValid())
         load_device(current);
     else
         m_current_flash = nullptr;
+}
+
+void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
+{
+    const GFPQ_CONNECTION_CUT cut{selection_change()};
+    fill_device_list();
+    select_device(name_to_select);
 }
 
 QModelIndex GFPQ_DLG::current_source_index() const
