@@ -24,13 +24,6 @@
 
 namespace {
 
-// The action of a selected block: a block's first child is its text.
-GFPDB_ACTION* action_of(const QGraphicsItem* item)
-{
-    const auto* const text = static_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(item->childItems().constFirst());
-    return text->action();
-}
-
 // The action type that a drag with this text stands for, or -1.
 int type_of_text(const QString& text)
 {
@@ -118,7 +111,7 @@ void GFPQ_FLOW_SCENE::on_delete_action()
     bool deleted = false;
     const QList<QGraphicsItem*> selected = selectedItems();
     for (const QGraphicsItem* const item : selected) {
-        GFPDB_ACTION* const action = item != nullptr ? action_of(item) : nullptr;
+        GFPDB_ACTION* const action = item != nullptr ? gfpq_action_of(*item) : nullptr;
         if (action == nullptr || !m_actions.removeOne(action))
             continue;
         m_clipboard.removeOne(action);
@@ -135,7 +128,7 @@ void GFPQ_FLOW_SCENE::on_copy_action()
     m_clipboard.clear();
     const QList<QGraphicsItem*> selected = selectedItems();
     for (const QGraphicsItem* const item : selected) {
-        GFPDB_ACTION* const action = item != nullptr ? action_of(item) : nullptr;
+        GFPDB_ACTION* const action = item != nullptr ? gfpq_action_of(*item) : nullptr;
         if (action != nullptr)
             m_clipboard.append(action);
     }

@@ -44,6 +44,11 @@ GFPQ_GRAPHICS_TEXT_ITEM::GFPQ_GRAPHICS_TEXT_ITEM(const QString& text, GFPDB_ACTI
 
 GFPQ_GRAPHICS_TEXT_ITEM::~GFPQ_GRAPHICS_TEXT_ITEM() = default;
 
+GFPDB_ACTION* gfpq_action_of(const QGraphicsItem& block)
+{
+    return static_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(block.childItems().constFirst())->action();
+}
+
 GFPQ_ARROW_POLYGON_ITEM::GFPQ_ARROW_POLYGON_ITEM(const QPolygonF& polygon, bool accept_drops)
     : QGraphicsPolygonItem(polygon)
 {

@@ -37,6 +37,9 @@ private:
     GFPDB_ACTION* m_action;
 };
 
+// The action of a block of the chart: that of its text, which is the block's first child.
+GFPDB_ACTION* gfpq_action_of(const QGraphicsItem& block);
+
 // An arrow of the chart. Its drop zone, a transparent child rectangle, is what a drop or a right click meets.
 class GFPQ_ARROW_POLYGON_ITEM : public QGraphicsPolygonItem
 {

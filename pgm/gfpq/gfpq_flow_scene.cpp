@@ -103,9 +103,7 @@ void GFPQ_FLOW_SCENE::on_selection()
         return;
     for (QGraphicsItem* const item : selected)
         static_cast<QAbstractGraphicsShapeItem*>(item)->setPen(QPen(Qt::red, SELECTED_PEN_WIDTH));
-    // A selected block always has its text as its first child.
-    const auto* const text = static_cast<GFPQ_GRAPHICS_TEXT_ITEM*>(selected.last()->childItems().first());
-    emit emit_action_selection_changed(text->action());
+    emit emit_action_selection_changed(gfpq_action_of(*selected.last()));
 }
 
 void GFPQ_FLOW_SCENE::refresh_flow_chain()

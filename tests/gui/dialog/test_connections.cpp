@@ -3,7 +3,10 @@
 #include "dialog_test.h"
 
 #include "gfpq_edit_template_dlg.h"
+#include "gfpq_operation_tab_widget.h"
 #include "kovq/kovq_connect.h"
+
+#include <QAction>
 
 namespace {
 
@@ -25,7 +28,8 @@ QString signature(const char* text)
 
 QString object_text(const QObject* object)
 {
-    const QString name = object->objectName();
+    const auto* const action = qobject_cast<const QAction*>(object);
+    const QString name = action != nullptr ? action->text() : object->objectName();
     return name.isEmpty() ? QString::fromLatin1(object->metaObject()->className()) : name;
 }
 
@@ -57,6 +61,7 @@ private slots:
     void a_mode_change_makes_its_three_connections_again();
     void other_rebuilds_connect_the_selection_again();
     void the_template_editor_connects_its_buttons();
+    void an_operation_page_connects_its_chart_then_itself();
     void all_connections_are_made_alike();
 
 private:
@@ -175,6 +180,33 @@ void TEST_CONNECTIONS::the_template_editor_connects_its_buttons()
         texts.append(connection.text);
     QCOMPARE(texts, list_of({"m_close_button clicked() -> gfpq_edit_template_dlg on_close_clicked()",
                              "m_remove_button clicked() -> gfpq_edit_template_dlg on_remove_clicked()"}));
+}
+
+void TEST_CONNECTIONS::an_operation_page_connects_its_chart_then_itself()
+{
+    const GPFQ_OPERATION_TAB_WIDGET page(nullptr, GFPDB_OPERATION_ERASE);
+
+    QStringList texts;
+    for (const CONNECTION& connection : qAsConst(g_made)) {
+        texts.append(connection.text);
+        QCOMPARE(connection.type, Qt::AutoConnection);
+    }
+    QCOMPARE(texts,
+             list_of({"GFPQ_FLOW_SCENE selectionChanged() -> GFPQ_FLOW_SCENE on_selection()",
+                      "GFPQ_FLOW_SCENE sceneRectChanged(QRectF) -> GFPQ_FLOW_SCENE on_change_scene()",
+                      "Refresh triggered() -> GFPQ_FLOW_SCENE create_flow_chain()",
+                      "Delete triggered() -> GFPQ_FLOW_SCENE on_delete_action()",
+                      "Copy triggered() -> GFPQ_FLOW_SCENE on_copy_action()",
+                      "Paste triggered() -> GFPQ_FLOW_SCENE on_paste_action()",
+                      "Write Register triggered() -> GFPQ_FLOW_SCENE on_insert_wr_action()",
+                      "Read Register triggered() -> GFPQ_FLOW_SCENE on_insert_rr_action()",
+                      "Write Data triggered() -> GFPQ_FLOW_SCENE on_insert_wd_action()",
+                      "Read Data triggered() -> GFPQ_FLOW_SCENE on_insert_rd_action()",
+                      "Erase triggered() -> GFPQ_FLOW_SCENE on_insert_e_action()",
+                      "GFPQ_FLOW_SCENE emit_action_selection_changed(GFPDB_ACTION*) -> GPFQ_OPERATION_TAB_WIDGET "
+                      "update_property_table(GFPDB_ACTION*)",
+                      "GFPQ_FLOW_SCENE emit_clear_table() -> GPFQ_OPERATION_TAB_WIDGET clear_property_table()",
+                      "GPFQ_OPERATION_TAB_WIDGET emit_update_flow_scene() -> GFPQ_FLOW_SCENE refresh_flow_chain()"}));
 }
 
 void TEST_CONNECTIONS::all_connections_are_made_alike()

@@ -70,6 +70,15 @@ protected:
     GFPQ_GRAPHICS_TEXT_ITEM* create_text_item(GFPDB_ACTION*, Qt::Alignment) override { return nullptr; }
 };
 
+// A scene into whose list a null got. A list that was loaded or edited holds none, but one that was handed on might.
+class NULL_HOLDING_SCENE : public OPEN_SCENE
+{
+public:
+    using OPEN_SCENE::OPEN_SCENE;
+
+    void put_null(int index) { const_cast<QList<GFPDB_ACTION*>&>(get_actions()).insert(index, nullptr); }
+};
+
 void compare_lines(const QStringList& actual, const QStringList& expected)
 {
     for (int line = 0; line < qMin(actual.size(), expected.size()); ++line)
@@ -108,7 +117,10 @@ private slots:
     void a_first_loop_end_leads_back_to_the_origin();
     void every_loop_end_widens_the_chart();
     void lines_of_an_action_are_centred_and_never_wrapped();
+    void a_text_is_aligned_as_asked_and_in_no_scene_yet();
+    void labels_are_the_actions_own_words();
     void a_text_knows_its_action_and_a_label_knows_none();
+    void a_null_in_the_list_is_passed_over();
     void texts_of_actions_that_are_not_drawn_do_not_leak();
     void an_arrow_has_its_drop_zone_as_child();
     void the_drawing_steps_return_what_they_added();
@@ -317,6 +329,37 @@ void TEST_FLOW_CHAIN::lines_of_an_action_are_centred_and_never_wrapped()
     QCOMPARE(blocks_of(scene).first()->rect(), text_of(*blocks_of(scene).first())->boundingRect());
 }
 
+void TEST_FLOW_CHAIN::a_text_is_aligned_as_asked_and_in_no_scene_yet()
+{
+    const ACTION_LIST actions({make_named_action(0, "w")});
+    OPEN_SCENE scene(nullptr, 0);
+
+    for (const Qt::AlignmentFlag alignment : {Qt::AlignRight, Qt::AlignLeft, Qt::AlignCenter}) {
+        const GFPQ_GRAPHICS_TEXT_ITEM& text = *scene.create_text_item(actions.get().front(), alignment);
+
+        QCOMPARE(text.document()->begin().blockFormat().alignment(), Qt::Alignment(alignment));
+        QCOMPARE(text.document()->lastBlock().blockFormat().alignment(), Qt::Alignment(alignment));
+        QCOMPARE(text.action(), actions.get().front());
+        QVERIFY(text.scene() == nullptr);
+        QVERIFY(text.parentItem() == nullptr);
+    }
+}
+
+void TEST_FLOW_CHAIN::labels_are_the_actions_own_words()
+{
+    const ACTION_LIST actions({make_action(4, {{31, "e"}, {32, "20h"}})});
+    mgr().on_new_action = [](ACTION_DOUBLE& action) {
+        action.properties = {GFPDB_ER_COMMAND, GFPDB_CUSTOM_LOOP_MARKER, GFPDB_ER_NAME, GFPDB_CUSTOM_LOOP_UNIT};
+        action.labels = {{31, "Bezeichnung f\xC3\xBCr <alles>"}, {32, ""}, {38, "Unit"}, {39, "Marker"}};
+    };
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    QCOMPARE(text_of(*blocks_of(scene).first())->toPlainText(),
+             QString::fromUtf8(" 20h\nBezeichnung f\xC3\xBCr <alles> e\nUnit "));
+}
+
 void TEST_FLOW_CHAIN::a_text_knows_its_action_and_a_label_knows_none()
 {
     const ACTION_LIST actions({make_named_action(0, "w"), make_loop_action("page", "end")});
@@ -333,6 +376,21 @@ void TEST_FLOW_CHAIN::a_text_knows_its_action_and_a_label_knows_none()
     QCOMPARE(known, (QList<GFPDB_ACTION*>{nullptr, scene.get_actions().at(0), scene.get_actions().at(1), nullptr,
                                           nullptr, nullptr}));
     QCOMPARE(texts_of(scene).mid(3), (QStringList{QStringLiteral("No"), QStringLiteral("Yes"), QStringLiteral("End")}));
+}
+
+void TEST_FLOW_CHAIN::a_null_in_the_list_is_passed_over()
+{
+    NULL_HOLDING_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "two"});
+    const QStringList drawn = describe_items(scene);
+    scene.put_null(0);
+    scene.put_null(2);
+    scene.put_null(4);
+
+    scene.create_flow_chain();
+
+    QCOMPARE(scene.get_actions().size(), 5);
+    compare_lines(describe_items(scene), drawn);
 }
 
 void TEST_FLOW_CHAIN::texts_of_actions_that_are_not_drawn_do_not_leak()

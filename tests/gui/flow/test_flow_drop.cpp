@@ -16,6 +16,7 @@ private slots:
     void a_drop_elsewhere_is_refused();
     void a_drop_on_a_fixed_chart_is_refused();
     void a_drop_event_is_accepted_whatever_it_carries();
+    void a_drop_goes_on_to_the_item_that_took_it();
     void a_drop_beside_the_chain_inserts_nothing();
     void a_drop_keeps_the_last_clicked_arrow();
     void a_chain_of_five_thousand_is_edited();
@@ -113,6 +114,31 @@ void TEST_FLOW_DROP::a_drop_event_is_accepted_whatever_it_carries()
         QVERIFY(drop.isAccepted());
         QCOMPARE(drop.dropAction(), Qt::MoveAction);
     }
+    QCOMPARE(plain_names(scene), list({"one"}));
+}
+
+void TEST_FLOW_DROP::a_drop_goes_on_to_the_item_that_took_it()
+{
+    // An item that takes drops notes their texts.
+    class NOTING_ITEM : public QGraphicsRectItem
+    {
+    public:
+        NOTING_ITEM() : QGraphicsRectItem(0, 0, 30, 30) { setAcceptDrops(true); }
+        QStringList texts;
+
+    protected:
+        void dropEvent(QGraphicsSceneDragDropEvent* event) override { texts.append(event->mimeData()->text()); }
+    };
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one"});
+    const auto view = show_view(scene);
+    auto* const item = new NOTING_ITEM;
+    item->setPos(scene.sceneRect().topRight());
+    scene.addItem(item);
+
+    QVERIFY(drop_text(*view, item->sceneBoundingRect().center(), QStringLiteral("foreign")));
+
+    QCOMPARE(item->texts, list({"foreign"}));
     QCOMPARE(plain_names(scene), list({"one"}));
 }
 

@@ -2,11 +2,33 @@
 #include "page_stand.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QStringListModel>
+#include <QTextCodec>
 
 #include <limits>
+
+namespace {
+
+// Another code page for local 8-bit texts, for as long as it lives.
+class CODE_PAGE
+{
+public:
+    explicit CODE_PAGE(const char* name) : m_before(QTextCodec::codecForLocale())
+    {
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName(name));
+    }
+    ~CODE_PAGE() { QTextCodec::setCodecForLocale(m_before); }
+    CODE_PAGE(const CODE_PAGE&) = delete;
+    CODE_PAGE& operator=(const CODE_PAGE&) = delete;
+
+private:
+    QTextCodec* m_before;
+};
+
+} // namespace
 
 class TEST_FLOW_EDITOR : public PAGE_TEST
 {
@@ -22,6 +44,8 @@ private slots:
     void a_combo_box_starts_with_the_value();
     void filling_a_combo_box_again_adds_nothing();
     void a_typed_value_is_checked_stored_and_has_the_chart_redrawn();
+    void the_cell_comes_first_then_the_action_then_the_chart();
+    void the_property_is_that_of_the_value_cell();
     void an_invalid_value_is_warned_about_and_stored_all_the_same();
     void a_chosen_value_is_stored_without_a_check();
     void a_stored_value_is_drawn_when_the_chart_gets_the_focus();
@@ -30,6 +54,7 @@ private slots:
     void without_a_checker_everything_is_valid();
     void disabled_and_label_cells_cannot_be_edited();
     void texts_outside_ascii_go_through_local_8_bit();
+    void another_code_page_holds_for_all_texts_of_the_library();
     void very_long_values_and_line_breaks_survive_the_editor();
     void a_warning_while_the_chart_waits_for_a_redraw_is_survived();
     void an_open_editor_can_be_committed();
@@ -189,6 +214,39 @@ void TEST_FLOW_EDITOR::a_typed_value_is_checked_stored_and_has_the_chart_redrawn
     QCOMPARE(log().calls_of({QStringLiteral("check_property_value"), QStringLiteral("set_property_value")}),
              list({"action(5:default 38).check_property_value(1, \"31h\")",
                    "action(0:default 0).set_property_value(1, \"31h\")"}));
+}
+
+void TEST_FLOW_EDITOR::the_cell_comes_first_then_the_action_then_the_chart()
+{
+    const ACTION_LIST actions({new ACTION_DOUBLE(GFPDB_ACT_WRITE_REGISTER)});
+    const auto page = show_selected(actions.get());
+    QStringList steps;
+    log().on_call(QStringLiteral("set_property_value"), [&](const QString&) {
+        steps.append(QStringLiteral("set, cell ") + value_cell(*page, 1).data().toString() + QStringLiteral(", tip ") +
+                     value_cell(*page, 1).data(Qt::ToolTipRole).toString());
+    });
+    connect(page.get(), &PAGE::emit_update_flow_scene, this, [&] {
+        steps.append(QStringLiteral("told, action ") + QString::fromStdString(action_of(*page, 0).values[1]));
+    });
+
+    type_text(open_editor(*page, 1), "31h");
+    page->commit_open_editor();
+
+    QCOMPARE(steps, list({"set, cell 31h, tip 31h", "told, action 31h"}));
+}
+
+void TEST_FLOW_EDITOR::the_property_is_that_of_the_value_cell()
+{
+    const ACTION_LIST actions({new ACTION_DOUBLE(GFPDB_ACT_WRITE_REGISTER)});
+    const auto page = show_selected(actions.get());
+    auto& model = dynamic_cast<QStandardItemModel&>(*property_table_of(*page)->model());
+    model.item(1, 0)->setData(4, CELL_PROPERTY_ROLE);
+    model.item(4, 0)->setData(1, CELL_PROPERTY_ROLE);
+    const QAbstractItemDelegate& delegate = *property_table_of(*page)->itemDelegateForColumn(1);
+    QWidget parent;
+
+    QVERIFY(qobject_cast<QLineEdit*>(delegate.createEditor(&parent, QStyleOptionViewItem(), model.index(1, 0))));
+    QVERIFY(qobject_cast<QComboBox*>(delegate.createEditor(&parent, QStyleOptionViewItem(), model.index(4, 0))));
 }
 
 void TEST_FLOW_EDITOR::an_invalid_value_is_warned_about_and_stored_all_the_same()
@@ -352,6 +410,32 @@ void TEST_FLOW_EDITOR::texts_outside_ascii_go_through_local_8_bit()
     QCOMPARE(action_of(*page, 0).values[0], std::string("\xC3\xA4\xE2\x82\xAC"));
     QCOMPARE(log().calls_of({QStringLiteral("check_property_value")}),
              list({"action(5:default 38).check_property_value(0, \"\xC3\xA4\xE2\x82\xAC\")"}));
+}
+
+void TEST_FLOW_EDITOR::another_code_page_holds_for_all_texts_of_the_library()
+{
+    const CODE_PAGE latin_1("ISO-8859-1");
+    const ACTION_LIST actions({make_action(0, {{0, "\xE4"}, {4, "\xF6"}})});
+    const auto page = show_selected(actions.get());
+    m_checker->choices[4] = {"a", "\xF6"};
+    m_checker->refused[1] = "\xDF";
+    m_modals.expect(MODAL_DRIVER::accept());
+
+    QCOMPARE(value_cell(*page, 0).data().toString(), QString(QChar(0xE4)));
+    QVERIFY(texts_of(scene_of(*page)).at(1).contains(QChar(0xE4)));
+    const auto* const combo = qobject_cast<QComboBox*>(open_editor(*page, 4));
+    QVERIFY(combo != nullptr);
+    QCOMPARE(combo->currentText(), QString(QChar(0xF6)));
+    page->commit_open_editor();
+    QCOMPARE(action_of(*page, 0).values[4], std::string("\xF6"));
+    auto* const edit = qobject_cast<QLineEdit*>(open_editor(*page, 1));
+    QVERIFY(edit != nullptr);
+    edit->setText(QChar(0xFC));
+    page->commit_open_editor();
+    QCOMPARE(m_modals.last().text, QString(QChar(0xDF)));
+    QCOMPARE(action_of(*page, 0).values[1], std::string("\xFC"));
+    // The page's own words are not the library's.
+    QVERIFY(PAGE(nullptr, 2).findChild<QLabel*>()->text().contains(QChar(0x201C)));
 }
 
 void TEST_FLOW_EDITOR::very_long_values_and_line_breaks_survive_the_editor()

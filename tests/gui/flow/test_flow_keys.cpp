@@ -13,6 +13,7 @@ private slots:
     void keys_run_the_commands();
     void ctrl_v_needs_a_click_on_an_arrow_with_something_copied();
     void ctrl_v_works_on_after_a_paste_but_pastes_nothing();
+    void ctrl_c_without_a_selection_keeps_the_copy();
     void keys_go_on_to_the_items();
     void other_buttons_are_swallowed();
     void a_left_press_selects_as_usual();
@@ -111,6 +112,22 @@ void TEST_FLOW_KEYS::ctrl_v_works_on_after_a_paste_but_pastes_nothing()
     QCOMPARE(plain_names(scene), list({"one", "one"}));
 }
 
+void TEST_FLOW_KEYS::ctrl_c_without_a_selection_keeps_the_copy()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "two"});
+    const auto view = show_view(scene);
+    click(*view, on_shape(scene, 1));
+    QTest::keyClick(view.get(), Qt::Key_C, Qt::ControlModifier);
+    click(*view, on_arrow(scene, 2));
+    QVERIFY(scene.selectedItems().isEmpty());
+
+    QTest::keyClick(view.get(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(view.get(), Qt::Key_V, Qt::ControlModifier);
+
+    QCOMPARE(plain_names(scene), list({"one", "two", "one"}));
+}
+
 void TEST_FLOW_KEYS::keys_go_on_to_the_items()
 {
     // An item with the focus notes the keys it gets.
@@ -128,15 +145,17 @@ void TEST_FLOW_KEYS::keys_go_on_to_the_items()
     auto* const item = new NOTING_ITEM;
     item->setFlag(QGraphicsItem::ItemIsFocusable);
     scene.addItem(item);
-    QFocusEvent focus(QEvent::FocusIn);
     item->setFocus();
     QVERIFY(scene.focusItem() == item);
 
     QTest::keyClick(view.get(), Qt::Key_A);
+    QTest::keyClick(view.get(), Qt::Key_Delete);
+    select_blocks(scene, {0});
     QTest::keyClick(view.get(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(view.get(), Qt::Key_V, Qt::ControlModifier);
 
     item->keys.removeAll(Qt::Key_Control);
-    QCOMPARE(item->keys, (QList<int>{Qt::Key_A, Qt::Key_C}));
+    QCOMPARE(item->keys, (QList<int>{Qt::Key_A, Qt::Key_Delete, Qt::Key_C, Qt::Key_V}));
 }
 
 void TEST_FLOW_KEYS::other_buttons_are_swallowed()

@@ -15,6 +15,7 @@ private slots:
     void a_right_click_keeps_the_selection();
     void only_an_arrow_is_an_insertion_point_data();
     void only_an_arrow_is_an_insertion_point();
+    void a_loop_connector_is_no_insertion_point_only_because_it_takes_no_drops();
     void inserting_by_the_menu_data();
     void inserting_by_the_menu();
     void inserting_goes_to_the_arrow_that_was_clicked_data();
@@ -158,6 +159,26 @@ void TEST_FLOW_MENU::only_an_arrow_is_an_insertion_point()
     right_click(*view, points.value(where));
 
     QCOMPARE(m_modals.last().menu_entries.contains(QStringLiteral("Insert")), is_point);
+}
+
+void TEST_FLOW_MENU::a_loop_connector_is_no_insertion_point_only_because_it_takes_no_drops()
+{
+    const ACTION_LIST actions(
+        {make_loop_action("page", "start"), make_named_action(0, "one"), make_loop_action("page", "end")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load(scene, actions.get());
+    const auto view = show_view(scene);
+    QGraphicsPolygonItem& connector = *connectors_of(scene).first();
+    const QPointF on_connector = connector.polygon().at(1) - QPointF(0, 40);
+    m_modals.expect(close_menu());
+    m_modals.expect(close_menu());
+
+    right_click(*view, on_connector);
+    QCOMPARE(m_modals.last().menu_entries, list({"Refresh"}));
+
+    connector.setAcceptDrops(true);
+    right_click(*view, on_connector);
+    QCOMPARE(m_modals.last().menu_entries, list({"Insert", "-", "Refresh"}));
 }
 
 void TEST_FLOW_MENU::inserting_by_the_menu_data()

@@ -286,9 +286,14 @@ void TEST_FLOW_PAGE::activation_draws_the_chart_every_time()
 {
     PAGE page(nullptr, 1);
     QSignalSpy drawn(&scene_of(page), SIGNAL(emit_clear_table()));
+    const QStandardItemModel* model_then = nullptr;
+    connect(&scene_of(page), &GFPQ_FLOW_SCENE::emit_clear_table, this,
+            [&] { model_then = qobject_cast<QStandardItemModel*>(property_table_of(page)->model()); });
 
     page.activate();
     QCOMPARE(drawn.size(), 1);
+    // The table was set up before.
+    QVERIFY(model_then != nullptr);
     QCOMPARE(shapes_of(scene_of(page)).size(), 2);
     page.activate();
     QCOMPARE(drawn.size(), 2);

@@ -1,6 +1,7 @@
 // The life of a chart: selection, when it is drawn, and whose its actions are.
 #include "flow_stand.h"
 
+#include <QAction>
 #include <QFocusEvent>
 
 namespace {
@@ -18,12 +19,14 @@ class TEST_FLOW_SCENE : public GUI_TEST
     Q_OBJECT
 
 private slots:
+    void the_scene_owns_its_nine_commands();
     void the_scene_draws_nothing_by_itself();
     void a_rebuild_tears_down_first_and_says_so_once();
     void a_rebuild_restores_the_scene_rectangle();
     void nothing_but_the_chart_moves_the_scene_rectangle();
     void selecting_a_block_outlines_it_alone_and_tells_its_action();
     void of_several_selected_blocks_the_last_reported_one_is_told();
+    void the_first_child_of_a_block_tells_its_action();
     void nothing_is_told_when_the_selection_goes();
     void nothing_is_told_while_the_chart_is_torn_down();
     void only_coloured_blocks_of_an_editable_chart_can_be_selected();
@@ -38,6 +41,19 @@ private slots:
     void without_a_manager_nothing_is_copied();
     void copies_have_every_value_of_their_sources();
 };
+
+void TEST_FLOW_SCENE::the_scene_owns_its_nine_commands()
+{
+    const GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    QStringList texts;
+    const QList<QAction*> actions = scene.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QAction* const action : actions)
+        texts.append(action->text());
+
+    QCOMPARE(texts, list({"Refresh", "Delete", "Copy", "Paste", "Write Register", "Read Register", "Write Data",
+                          "Read Data", "Erase"}));
+}
 
 void TEST_FLOW_SCENE::the_scene_draws_nothing_by_itself()
 {
@@ -144,6 +160,19 @@ void TEST_FLOW_SCENE::of_several_selected_blocks_the_last_reported_one_is_told()
     QCOMPARE(told.actions.last(), text_of(*scene.selectedItems().last())->action());
     for (QGraphicsRectItem* const block : blocks_of(scene))
         QCOMPARE(block->pen(), QPen(Qt::red, 2));
+}
+
+void TEST_FLOW_SCENE::the_first_child_of_a_block_tells_its_action()
+{
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one", "two"});
+    QGraphicsRectItem* const block = blocks_of(scene).at(1);
+    (new GFPQ_GRAPHICS_TEXT_ITEM(QStringLiteral("another child"), nullptr))->setParentItem(block);
+    const TOLD_ACTIONS told(scene);
+
+    block->setSelected(true);
+
+    QCOMPARE(told.actions, QList<GFPDB_ACTION*>{scene.get_actions().at(1)});
 }
 
 void TEST_FLOW_SCENE::nothing_is_told_when_the_selection_goes()
