@@ -1,3 +1,5 @@
+set(GFPQ_TEST_TIMEOUT 300 CACHE STRING "Seconds after which a test counts as hanging")
+
 # gfpq_add_test(NAME name LABEL unit|gui|e2e|fuzz|soak SOURCES file... LIBRARIES target... [TIMEOUT seconds] [SERIAL])
 #
 # One test program, run without a display, with settings, home and locale of its own, so that no test sees the user's
@@ -22,7 +24,7 @@ function(gfpq_set_test_environment name)
     set(scratch "${PROJECT_BINARY_DIR}/scratch/${name}")
     file(MAKE_DIRECTORY "${scratch}/config" "${scratch}/home")
     set_tests_properties(${name} PROPERTIES
-        TIMEOUT 300
+        TIMEOUT ${GFPQ_TEST_TIMEOUT}
         WORKING_DIRECTORY "${scratch}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${scratch}/home;XDG_CONFIG_HOME=${scratch}/config;GFPDB_SETTINGS=${scratch}/config/gfpdb.ini;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()
