@@ -6,13 +6,15 @@ runs first the tests that belong to the altered file, then the other quick tests
 alteration that does not compile is replaced by another one of the same file. The choice of places is random but
 repeatable: the seed is printed.
 
-tests/mutation/unnoticeable.txt lists alterations that nobody can notice, one a line:
+tests/mutation/unnoticeable.txt lists alterations that nobody can notice, one a line; path and text may hold * and ?:
     path | kind | the line's text, stripped | why
+They are left out and others of the same file taken. `--again` judges only what survived the last run.
 """
 
 import argparse
 import concurrent.futures
 import dataclasses
+import fnmatch
 import json
 import os
 import pathlib
@@ -26,6 +28,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
+REPORT = WORK / "report.json"
 UNNOTICEABLE = ROOT / "tests" / "mutation" / "unnoticeable.txt"
 
 SOURCES = ["pgm/gfpq/*.cpp", "pgm/gfpq/*.h", "pgm/gfpq/*.ui", "pgm/gfpdb/embedded/*.cpp", "pgm/gfpdb/embedded/*.h"]
@@ -55,9 +58,6 @@ class Alteration:
     last: int
     text: str
     original: str
-
-    def key(self):
-        return (self.path, self.kind, self.original.strip())
 
     def describe(self):
         return f"{self.path}:{self.first + 1} [{self.kind}] {self.original.strip()}  =>  {self.text.strip()}"
@@ -151,26 +151,47 @@ def alterations_of(path):
 
 
 def read_unnoticeable():
-    reasons = {}
-    if UNNOTICEABLE.exists():
-        for line in UNNOTICEABLE.read_text(encoding="utf-8").splitlines():
-            if line.strip() and not line.startswith("#"):
-                path, kind, text, why = (field.strip() for field in line.split(" | ", 3))
-                reasons[(path, kind, text)] = why
-    return reasons
+    patterns = []
+    for line in UNNOTICEABLE.read_text(encoding="utf-8").splitlines():
+        if line.strip() and not line.startswith("#"):
+            path, kind, text, _why = (field.strip() for field in line.split(" | ", 3))
+            patterns.append((path, kind, text.replace("[", "[[]")))
+    return patterns
 
 
-def choose(files, wanted, rng):
+def is_unnoticeable(alteration, patterns):
+    return any(alteration.kind == kind and fnmatch.fnmatchcase(alteration.path, path) and
+               fnmatch.fnmatchcase(alteration.original.strip(), text) for path, kind, text in patterns)
+
+
+def choose(files, wanted, patterns, rng):
     """Spreads `wanted` places over the files, the larger ones getting more; returns a shuffled queue per file."""
     pools = {}
     for path in files:
-        pool = list(dict.fromkeys(alterations_of(path)))
+        pool = [found for found in dict.fromkeys(alterations_of(path)) if not is_unnoticeable(found, patterns)]
         rng.shuffle(pool)
         if pool:
             pools[path] = pool
     total = sum(len(pool) for pool in pools.values())
     shares = {path: min(len(pool), max(4, round(wanted * len(pool) / total))) for path, pool in pools.items()}
     return pools, shares
+
+
+def choose_again(patterns):
+    """What survived the last run, as far as the lines are still there."""
+    survived = json.loads(REPORT.read_text(encoding="utf-8"))["survived"]
+    pools = {}
+    for path in {description.split(":", 1)[0] for description in survived}:
+        texts = [without_line(description) for description in survived if description.startswith(path + ":")]
+        found = {without_line(each.describe()): each for each in alterations_of(path)
+                 if not is_unnoticeable(each, patterns)}
+        pools[path] = [found[text] for text in texts if text in found]
+    pools = {path: pool for path, pool in sorted(pools.items()) if pool}
+    return pools, {path: len(pool) for path, pool in pools.items()}
+
+
+def without_line(description):
+    return re.sub(r":\d+ ", " ", description, count=1)
 
 
 class Worker:
@@ -250,7 +271,7 @@ class Worker:
             target.write_bytes(original)
 
 
-def run_all(pools, shares, workers, reasons):
+def run_all(pools, shares, workers):
     results = []
     jobs = queue.Queue()
     for path, pool in pools.items():
@@ -268,8 +289,6 @@ def run_all(pools, shares, workers, reasons):
             for alteration in pool:
                 if judged == share:
                     break
-                if alteration.key() in reasons:
-                    continue
                 verdict = worker.judge(alteration)
                 if verdict == "broken":
                     continue
@@ -290,13 +309,18 @@ def main():
     parser.add_argument("--seed", type=int, default=None, help="seed of the choice (printed)")
     parser.add_argument("--jobs", type=int, default=max(1, min(4, os.cpu_count() or 1)), help="workers")
     parser.add_argument("--only", default="", help="regular expression: only files whose path matches")
+    parser.add_argument("--again", action="store_true", help="judge only what survived the last run")
     parser.add_argument("--list", action="store_true", help="list the places that could be altered and stop")
     arguments = parser.parse_args()
 
     files = sorted({str(found.relative_to(ROOT)) for pattern in SOURCES for found in ROOT.glob(pattern)})
     files = [path for path in files if re.search(arguments.only, path)]
     seed = arguments.seed if arguments.seed is not None else random.SystemRandom().randrange(1 << 31)
-    pools, shares = choose(files, arguments.places, random.Random(seed))
+    patterns = read_unnoticeable()
+    if arguments.again:
+        pools, shares = choose_again(patterns)
+    else:
+        pools, shares = choose(files, arguments.places, patterns, random.Random(seed))
     if arguments.list:
         for pool in pools.values():
             for alteration in pool:
@@ -308,7 +332,7 @@ def main():
     workers = [Worker(number) for number in range(arguments.jobs)]
     for worker in workers:
         worker.prepare()
-    results = run_all(pools, shares, workers, read_unnoticeable())
+    results = run_all(pools, shares, workers)
 
     survivors = [alteration for alteration, verdict in results if verdict == "green"]
     noticed = len(results) - len(survivors)
@@ -317,7 +341,7 @@ def main():
         print("survived:", alteration.describe())
     report = {"seed": seed, "places": len(results), "noticed": noticed,
               "survived": [alteration.describe() for alteration in survivors]}
-    (WORK / "report.json").write_text(json.dumps(report, indent=2) + "\n", encoding="utf-8")
+    REPORT.write_text(json.dumps(report, indent=2) + "\n", encoding="utf-8")
     return 0
 
 
