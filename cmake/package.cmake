@@ -23,8 +23,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS libqt5sql5-sqlite)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qttranslations5-l10n)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
-    "Configuration Device dialog of a device programmer
-A catalogue of serial configuration flash devices with their programming
+    "A catalogue of serial configuration flash devices with their programming
 flows, a database for devices of one's own, the dialog in which both are
 browsed and edited, and gfpdb, a command line tool for the database.")
 
@@ -32,8 +31,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME gfpq-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "gfpq (= ${PROJECT_VERSION}), qtbase5-dev")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
-    "Configuration Device dialog of a device programmer (headers)
-Headers and CMake files for hosts that load the Configuration Device dialog,
+    "Headers and CMake files for hosts that load the Configuration Device dialog,
 and for flash database libraries that it works on. With an example host.")
 
 include(CPack)

@@ -159,10 +159,9 @@ go_to_page() {
     times "$1" Right
 }
 
-# From the title of an operation page: past the three buttons, the table and the palette into the chart, to the block of
-# that number.
+# From the title of an operation page: past the palette into the chart, to the block of that number.
 go_to_block() {
-    times 6 Tab
+    times 2 Tab
     times "$1" Down
 }
 

@@ -126,6 +126,32 @@ void make_chart_accessible(QGraphicsView& view, const QString& page_title, const
     new GFPQ_FLOW_KEYBOARD(view);
 }
 
+// The last widget of `page` that Tab comes to.
+QWidget* last_stop(QWidget* page)
+{
+    QWidget* last = page;
+    for (QWidget* widget = page->nextInFocusChain(); widget != page; widget = widget->nextInFocusChain()) {
+        if (page->isAncestorOf(widget))
+            last = widget;
+    }
+    return last;
+}
+
+// From left to right: palette, chart, table. Returns what Tab comes to last.
+QWidget* put_behind(QWidget* previous, const QWidget& page)
+{
+    QList<QWidget*> parts;
+    const QList<QGraphicsView*> views = page.findChildren<QGraphicsView*>();
+    for (QGraphicsView* const view : views)
+        parts.append(view);
+    parts.append(page.findChild<QTableView*>());
+    for (QWidget* const part : qAsConst(parts)) {
+        QWidget::setTabOrder(previous, part);
+        previous = part;
+    }
+    return previous;
+}
+
 void make_operation_page_accessible(const QWidget& page, const QString& title)
 {
     const QList<QGraphicsView*> views = page.findChildren<QGraphicsView*>();
@@ -152,8 +178,11 @@ void gfpq_make_accessible(const QWidget& dialog, QAbstractItemView& devices, QTa
     const QList<QScrollArea*> areas = dialog.findChildren<QScrollArea*>();
     for (QScrollArea* const area : areas)
         area->setAccessibleName(pages.tabText(GFPQ_FIRST_OPERATION_TAB - 1));
-    for (int i = GFPQ_FIRST_OPERATION_TAB; i < pages.count(); ++i)
+    QWidget* previous = last_stop(pages.widget(GFPQ_FIRST_OPERATION_TAB - 1));
+    for (int i = GFPQ_FIRST_OPERATION_TAB; i < pages.count(); ++i) {
         make_operation_page_accessible(*pages.widget(i), pages.tabText(i));
+        previous = put_behind(previous, *pages.widget(i));
+    }
 }
 
 void gfpq_make_table_accessible(QAbstractItemView& table, const QLabel& label)

@@ -101,6 +101,7 @@ private slots:
     void the_template_table_is_named_after_its_label();
     void tab_and_backtab_visit_everything_on_each_page_data();
     void tab_and_backtab_visit_everything_on_each_page();
+    void tab_goes_through_a_page_from_left_to_right();
     void tab_visits_everything_in_the_template_editor();
     void a_device_is_made_with_keys_alone();
 };
@@ -220,6 +221,26 @@ void TEST_ACCESSIBILITY::tab_and_backtab_visit_everything_on_each_page()
 
     QCOMPARE(names(stops(Qt::Key_Tab)), expected);
     QCOMPARE(names(stops(Qt::Key_Backtab)), expected);
+}
+
+void TEST_ACCESSIBILITY::tab_goes_through_a_page_from_left_to_right()
+{
+    open_dialog();
+    for (int operation = 0; operation < GFPDB_OPERATION_COUNT; ++operation) {
+        show_operation_page(operation);
+        tabs().findChild<QTabBar*>()->setFocus();
+        const QString title = tabs().tabText(operation + 1);
+
+        QStringList visited;
+        for (int i = 0; i < 4; ++i) {
+            press(Qt::Key_Tab);
+            visited.append(accessible_name(QApplication::focusWidget()));
+        }
+
+        QCOMPARE(visited,
+                 QStringList({title + QStringLiteral(": actions"), title + QStringLiteral(": flow chart"),
+                              title + QStringLiteral(": properties of the selected action"), QStringLiteral("OK")}));
+    }
 }
 
 void TEST_ACCESSIBILITY::tab_visits_everything_in_the_template_editor()
