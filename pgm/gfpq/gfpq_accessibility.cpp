@@ -72,26 +72,42 @@ void name_pair(QLayoutItem* label, QLayoutItem* field)
         editor->setAccessibleDescription(name);
 }
 
-// Gives the editor that opens in a cell the name of the row's label.
-class CELL_EDITOR_NAMER : public QObject
+// Looks after the editors that open in the cells of a table: each gets the name of its row's label, and leaves the
+// focus to the table when it closes.
+class CELL_EDITOR_GUIDE : public QObject
 {
 public:
-    explicit CELL_EDITOR_NAMER(QAbstractItemView& table) : QObject(&table), m_table(table)
+    explicit CELL_EDITOR_GUIDE(QAbstractItemView& table) : QObject(&table), m_table(table)
     {
         table.viewport()->installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::ChildPolished) {
-            auto* const editor = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child());
-            if (is_editor(editor))
-                editor->setAccessibleName(name_of(row_label()));
-        }
+        if (event->type() == QEvent::ChildPolished)
+            greet(qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()));
+        else if (event->type() == QEvent::Hide && watched != m_table.viewport())
+            see_off(*static_cast<QWidget*>(watched));
         return QObject::eventFilter(watched, event);
     }
 
 private:
+    void greet(QWidget* editor)
+    {
+        if (!is_editor(editor))
+            return;
+        editor->setAccessibleName(name_of(row_label()));
+        editor->installEventFilter(this);
+    }
+
+    // The table does that itself, but not while a box about the value still has the focus: the keys would go on in the
+    // first field of the window then.
+    void see_off(const QWidget& editor)
+    {
+        if (m_table.isVisible() && m_table.window()->focusWidget() == &editor)
+            m_table.setFocus();
+    }
+
     QString row_label() const { return m_table.currentIndex().siblingAtColumn(LABEL_COLUMN).data().toString(); }
 
     QAbstractItemView& m_table;
@@ -164,7 +180,7 @@ void make_operation_page_accessible(const QWidget& page, const QString& title)
     if (auto* const table = page.findChild<QTableView*>()) {
         make_table_accessible(
             *table, QCoreApplication::translate("gfpq_dlg", "%1: properties of the selected action").arg(title));
-        new CELL_EDITOR_NAMER(*table);
+        new CELL_EDITOR_GUIDE(*table);
     }
 }
 

@@ -8,6 +8,7 @@ class TEST_EDIT_FLOW : public E2E_TEST
 
 private slots:
     void flow_is_edited_by_every_means_and_stored_as_drawn();
+    void keys_stay_in_the_property_table_after_a_refused_value();
     void flow_of_a_built_in_device_is_for_looking_only();
 
 private:
@@ -148,6 +149,26 @@ void TEST_EDIT_FLOW::flow_is_edited_by_every_means_and_stored_as_drawn()
                                    .toObject();
     const QJsonObject flows = record.value(QStringLiteral("flows")).toObject();
     QCOMPARE(strings(flows.value(QStringLiteral("quad")).toArray().at(2)), expected);
+}
+
+// The value's editor closes while the box is open, so that there is no editor for the focus to come back to.
+void TEST_EDIT_FLOW::keys_stay_in_the_property_table_after_a_refused_value()
+{
+    QVERIFY(open_erase_page(NEW_DEVICE));
+    FLOW_PAGE page(session(), user());
+    QVERIFY(page.select(block(ERASE_SECTOR)));
+    QVERIFY(user().open_property_editor(QStringLiteral("Command:"), "QLineEdit"));
+
+    QVERIFY(user().press(QStringLiteral("ctrl+a")));
+    QVERIFY(user().type(QStringLiteral("no command")));
+    QVERIFY(user().press(QStringLiteral("Return")));
+    QVERIFY(wait_for_box_that_opens_with(QStringLiteral("\"no command\"")));
+    QVERIFY(user().press(QStringLiteral("Return")));
+    QVERIFY(wait_for_window(QStringLiteral("Configuration Device")));
+
+    QVERIFY(session().wait_for(widget_with_focus(), [](const QJsonObject& answer) {
+        return answer.value(QLatin1String("name")) == QLatin1String("m_property_table");
+    }));
 }
 
 void TEST_EDIT_FLOW::flow_of_a_built_in_device_is_for_looking_only()

@@ -47,6 +47,7 @@ private slots:
     void the_cell_comes_first_then_the_action_then_the_chart();
     void the_property_is_that_of_the_value_cell();
     void an_invalid_value_is_warned_about_and_stored_all_the_same();
+    void a_warning_leaves_the_focus_where_the_user_went();
     void a_chosen_value_is_stored_without_a_check();
     void a_stored_value_is_drawn_when_the_chart_gets_the_focus();
     void a_foreign_model_is_an_internal_error();
@@ -284,6 +285,21 @@ void TEST_FLOW_EDITOR::an_invalid_value_is_warned_about_and_stored_all_the_same(
     QCOMPARE(value_cell(*page, 1).data(Qt::ToolTipRole).toString(), QStringLiteral("xyz"));
     QCOMPARE(action_of(*page, 0).values[1], std::string("xyz"));
     QCOMPARE(updated.size(), 1);
+}
+
+void TEST_FLOW_EDITOR::a_warning_leaves_the_focus_where_the_user_went()
+{
+    const ACTION_LIST actions({new ACTION_DOUBLE(GFPDB_ACT_WRITE_REGISTER)});
+    const auto page = show_selected(actions.get());
+    m_checker->refused[1] = "refused";
+    type_text(open_editor(*page, 1), "xyz");
+    m_modals.expect(MODAL_DRIVER::accept());
+
+    palette_view_of(*page)->setFocus();
+    QTRY_COMPARE(m_modals.met().size(), 1);
+    QApplication::setActiveWindow(page.get());
+
+    QTRY_COMPARE(QApplication::focusWidget(), palette_view_of(*page));
 }
 
 void TEST_FLOW_EDITOR::a_chosen_value_is_stored_without_a_check()
