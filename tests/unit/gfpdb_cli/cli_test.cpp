@@ -1,8 +1,11 @@
 #include "gfpdb_builtin_records.h"
 #include "gfpdb_flow_templates.h"
 
+#include "cli_command.h"
 #include "cli_test.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QProcess>
 
 TOOL_RUN run_tool(const QStringList& arguments, const QByteArray& input)
@@ -32,4 +35,53 @@ void save_part(const std::string& name, int family, int scheme, const std::strin
     gfpdb_fill_part_flows(part, record);
     if (!manager.save_flash(&record, std::string()))
         qFatal("%s", manager.get_last_error().c_str());
+}
+
+QString q(const std::string& path)
+{
+    return QString::fromStdString(path);
+}
+
+QByteArray text_of_file(const QString& path)
+{
+    return QByteArray::fromStdString(read_file(path.toStdString()));
+}
+
+QJsonDocument json(const TOOL_RUN& run)
+{
+    QJsonParseError error = {};
+    const QJsonDocument document = QJsonDocument::fromJson(run.out, &error);
+    if (error.error != QJsonParseError::NoError)
+        qWarning("no JSON: %s", run.out.constData());
+    return document;
+}
+
+QByteArray exported(const std::string& directory)
+{
+    return run_tool({"export", "--dir", q(directory)}).out;
+}
+
+QStringList names(const QJsonDocument& list)
+{
+    QStringList found;
+    for (const QJsonValue value : list.array())
+        found += value.toObject().value("name").toString();
+    return found;
+}
+
+QString exported_file(const GFPDB_PLACE& place, const char* device)
+{
+    const QString path = q(place.path("exported.json"));
+    const TOOL_RUN run = run_tool({"export", device, "-d", q(place.db_dir()), "-o", path});
+    if (run.exit_code != CLI_EXIT_OK)
+        qFatal("%s", run.err.constData());
+    return path;
+}
+
+void replace_in_file(const QString& path, const char* what, const char* with)
+{
+    QByteArray text = text_of_file(path);
+    if (!text.contains(what))
+        qFatal("there is no %s", what);
+    write_file(path.toStdString(), text.replace(what, with).toStdString());
 }

@@ -3,6 +3,8 @@
 
 #include "gfpdb_test.h"
 
+#include <QByteArray>
+#include <QJsonDocument>
 #include <QStringList>
 
 // A run of the real program.
@@ -20,3 +22,23 @@ TOOL_RUN run_tool(const QStringList& arguments, const QByteArray& input = QByteA
 // template name also as that template.
 void save_part(const std::string& name, int family = FAMILY, int scheme = SERIAL,
                const std::string& template_name = std::string());
+
+// A path of the tests for the arguments of the tool.
+QString q(const std::string& path);
+
+QByteArray text_of_file(const QString& path);
+
+// What the tool printed, as JSON; a null document when it is none.
+QJsonDocument json(const TOOL_RUN& run);
+
+// What the tool exports of the directory.
+QByteArray exported(const std::string& directory);
+
+// The names of an array of objects.
+QStringList names(const QJsonDocument& list);
+
+// A stored part as a file of its own.
+QString exported_file(const GFPDB_PLACE& place, const char* device);
+
+// `what` must be in the file.
+void replace_in_file(const QString& path, const char* what, const char* with);

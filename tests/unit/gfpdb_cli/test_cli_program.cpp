@@ -1,0 +1,307 @@
+// The real program: its help, its arguments, its directory, its terminal, its man page and completion.
+#include "cli_command.h"
+
+// The constants of the tests have names that enumerators of the library have as well.
+#include "cli_test.h"
+
+#include <QJsonObject>
+
+#include <pty.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+// Runs the tool with a terminal as its standard error; what appears there.
+QByteArray run_on_terminal(const QStringList& arguments)
+{
+    int terminal = -1;
+    const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (child == 0) {
+        std::vector<QByteArray> texts = {GFPDB_PROGRAM};
+        for (const QString& argument : arguments)
+            texts.push_back(argument.toUtf8());
+        std::vector<char*> pointers;
+        for (QByteArray& text : texts)
+            pointers.push_back(text.data());
+        pointers.push_back(nullptr);
+        ::execv(GFPDB_PROGRAM, pointers.data());
+        ::_exit(127);
+    }
+    QByteArray shown;
+    char buffer[4096];
+    for (ssize_t length = 0; (length = ::read(terminal, buffer, sizeof buffer)) > 0;)
+        shown.append(buffer, static_cast<int>(length));
+    ::close(terminal);
+    ::waitpid(child, nullptr, 0);
+    return shown;
+}
+
+} // namespace
+
+class TEST_CLI_PROGRAM : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void the_exit_codes_are_as_documented();
+    void help_lists_every_command();
+    void every_command_explains_itself_data();
+    void every_command_explains_itself();
+    void wrong_arguments_are_refused_data();
+    void wrong_arguments_are_refused();
+    void the_directory_comes_from_the_settings_or_the_option();
+    void names_that_are_not_ascii_work_in_any_locale();
+
+    void progress_is_shown_on_a_terminal();
+    void output_that_cannot_be_written_is_an_error();
+    void the_man_page_has_every_command_and_option();
+    void completion_knows_commands_options_and_names();
+};
+
+void TEST_CLI_PROGRAM::the_exit_codes_are_as_documented()
+{
+    QCOMPARE(int(CLI_EXIT_OK), 0);
+    QCOMPARE(int(CLI_EXIT_DIFFERENT), 1);
+    QCOMPARE(int(CLI_EXIT_USAGE), 2);
+    QCOMPARE(int(CLI_EXIT_NOT_FOUND), 3);
+    QCOMPARE(int(CLI_EXIT_BAD_FILE), 4);
+    QCOMPARE(int(CLI_EXIT_DATABASE), 5);
+}
+
+void TEST_CLI_PROGRAM::help_lists_every_command()
+{
+    const GFPDB_PLACE place;
+    for (const QStringList& arguments : {QStringList{"--help"}, QStringList{"-h"}, QStringList{"help"}}) {
+        const TOOL_RUN run = run_tool(arguments);
+        QCOMPARE(run.exit_code, 0);
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.out,
+                 QByteArray("Usage: gfpdb COMMAND [options] [arguments]\n\n"
+                            "Works on the flash database of the programmer: its devices and flow templates.\n\n"
+                            "Commands:\n"
+                            "  list      List devices, templates and built-in devices\n"
+                            "  show      Show a record with its flows\n"
+                            "  export    Write records to a file\n"
+                            "  import    Read records from files, all or none\n"
+                            "  check     Check every record and the database\n"
+                            "  history   List former states of records\n"
+                            "  restore   Bring a former state back\n"
+                            "  diff      Compare two records\n\n"
+                            "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
+                            "version.\n"));
+    }
+    QVERIFY(QString(run_tool({"--version"}).out).contains(QRegularExpression("^gfpdb \\d+\\.\\d+\\.\\d+\n$")));
+}
+
+void TEST_CLI_PROGRAM::every_command_explains_itself_data()
+{
+    QTest::addColumn<QString>("usage");
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("list") << "[options] \nList devices, templates and built-in devices.\n"
+                          << QStringList{"--builtin", "--all", "--filter", "--csv", "--json", "--family", "--scheme"};
+    QTest::newRow("show") << "[options] NAME\nShow a record with its flows.\n"
+                          << QStringList{"--variant", "--json", "--family", "--scheme"};
+    QTest::newRow("export") << "[options] [NAME...]\nWrite records to a file.\n"
+                            << QStringList{"-o, --output", "--csv", "--family", "--scheme"};
+    QTest::newRow("import") << "[options] FILE...\nRead records from files, all or none.\n"
+                            << QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme"};
+    QTest::newRow("check") << "[options] \nCheck every record and the database.\n" << QStringList{"--json"};
+    QTest::newRow("history") << "[options] [NAME]\nList former states of records.\n"
+                             << QStringList{"--json", "--family", "--scheme"};
+    QTest::newRow("restore") << "[options] ID\nBring a former state back.\n" << QStringList();
+    QTest::newRow("diff") << "[options] LEFT RIGHT\nCompare two records.\n"
+                          << QStringList{"--json", "--family", "--scheme"};
+}
+
+void TEST_CLI_PROGRAM::every_command_explains_itself()
+{
+    const GFPDB_PLACE place;
+    QFETCH(QString, usage);
+    QFETCH(QStringList, options);
+    const QString command = QTest::currentDataTag();
+    for (const QStringList& arguments : {QStringList{command, "--help"}, QStringList{"help", command}}) {
+        const TOOL_RUN run = run_tool(arguments);
+        QCOMPARE(run.exit_code, 0);
+        QVERIFY2(run.out.startsWith("Usage: gfpdb " + command.toUtf8() + " " + usage.toUtf8()), run.out.constData());
+        for (const QString& option : options + QStringList{"-d, --dir", "--verbose", "-h, --help"})
+            QVERIFY2(run.out.contains("\n  " + option.toUtf8() + " "), qPrintable(option));
+        QCOMPARE(run.out.count("\n  -"), options.size() + 3);
+    }
+}
+
+void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("error");
+    const auto add = [](const QStringList& arguments, const char* error) {
+        QTest::newRow(qPrintable("gfpdb " + arguments.join(' '))) << arguments << QByteArray(error);
+    };
+    add({}, "gfpdb: A command is missing.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+    add({"frob"}, "gfpdb: \"frob\" is no command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+    add({"help", "frob"}, "gfpdb: \"frob\" is no command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+    add({"list", "--frob"}, "gfpdb: Unknown option 'frob'.\n");
+    add({"list", "x"}, "gfpdb: There are too many arguments: gfpdb list \n");
+    add({"show"}, "gfpdb: An argument is missing: gfpdb show NAME\n");
+    add({"show", "a", "b"}, "gfpdb: There are too many arguments: gfpdb show NAME\n");
+    add({"show", "a", "--variant", "triple"}, "gfpdb: \"triple\" is no flow variant. Allowed: single, quad, both.\n");
+    add({"import"}, "gfpdb: An argument is missing: gfpdb import FILE...\n");
+    add({"diff", "a"}, "gfpdb: An argument is missing: gfpdb diff LEFT RIGHT\n");
+    add({"history", "a", "b"}, "gfpdb: There are too many arguments: gfpdb history [NAME]\n");
+    add({"restore", "x"}, "gfpdb: \"x\" is no number of the history.\n");
+    add({"restore", "99999999999"}, "gfpdb: \"99999999999\" is no number of the history.\n");
+    add({"list", "--csv", "--json"}, "gfpdb: --csv and --json do not go together.\n");
+    for (const char* number : {"0", "73", "x", ""})
+        add({"list", "--family", number}, "gfpdb: --family takes a whole number from 1 to 72.\n");
+    for (const char* number : {"-1", "25", "seven"})
+        add({"list", "--scheme", number}, "gfpdb: --scheme takes a whole number from 0 to 24.\n");
+}
+
+void TEST_CLI_PROGRAM::wrong_arguments_are_refused()
+{
+    const GFPDB_PLACE place;
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, error);
+    const TOOL_RUN run = run_tool(arguments);
+    QCOMPARE(run.err, error);
+    QCOMPARE(run.out, QByteArray());
+    QCOMPARE(run.exit_code, 2);
+}
+
+void TEST_CLI_PROGRAM::the_directory_comes_from_the_settings_or_the_option()
+{
+    const GFPDB_PLACE place;
+    make_dir(place.path("other/"));
+    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(place.db_dir(), false));
+    save_part("Mine");
+
+    QCOMPARE(names(json(run_tool({"list", "--json"}))), QStringList{"Mine"});
+    QCOMPARE(names(json(run_tool({"list", "--json", "--dir", q(place.path("other"))}))), QStringList());
+    QCOMPARE(names(json(run_tool({"list", "--json", "-d", q(place.db_dir())}))), QStringList{"Mine"});
+
+    const TOOL_RUN run = run_tool({"list", "--dir", q(place.path("missing"))});
+    QCOMPARE(run.exit_code, 5);
+    QCOMPARE(run.err, QByteArray("gfpdb: The database directory ") + QByteArray::fromStdString(place.path("missing/")) +
+                          " does not exist.\n");
+}
+
+void TEST_CLI_PROGRAM::names_that_are_not_ascii_work_in_any_locale()
+{
+    const GFPDB_PLACE place;
+    const std::string directory = place.path("\xC3\xBC'; \xE2\x82\xAC/");
+    make_dir(directory);
+    save_part("\xC3\x84 \xF0\x9F\x98\x80");
+    const TOOL_RUN copy = run_tool({"export", "-d", q(place.db_dir())});
+    const QByteArray former = qgetenv("LC_ALL");
+    for (const char* locale : {"C", "C.UTF-8"}) {
+        qputenv("LC_ALL", locale);
+        QCOMPARE(run_tool({"import", "-d", q(directory), "-"}, copy.out).exit_code, 0);
+        const TOOL_RUN run = run_tool({"show", "-d", q(directory), q("\xC3\xA4 \xF0\x9F\x98\x80"), "--json"});
+        QCOMPARE(run.exit_code, 0);
+        QCOMPARE(json(run).object().value("name").toString(), q("\xC3\x84 \xF0\x9F\x98\x80"));
+    }
+    qputenv("LC_ALL", former);
+    QVERIFY(QFile::exists(q(directory) + "gfpdb.sqlite"));
+}
+
+void TEST_CLI_PROGRAM::progress_is_shown_on_a_terminal()
+{
+    const GFPDB_PLACE place;
+    QByteArray list = "name,family,scheme,device_id\n";
+    for (int number = 1; number <= 400; ++number)
+        list += "part " + QByteArray::number(number) + ",3,7,C2 20 19\n";
+    write_file(place.path("list.csv"), list.toStdString());
+    const QString directory = q(place.db_dir());
+
+    const QByteArray imported = run_on_terminal({"import", q(place.path("list.csv")), "-d", directory});
+    QVERIFY2(imported.contains("\rImporting 4 of 400\rImporting 8 of 400"), imported.constData());
+    QVERIFY2(imported.contains("\rImporting 400 of 400\r\nImported 400 new, "), imported.constData());
+    QCOMPARE(imported.count("Importing "), 101);
+    QVERIFY(run_on_terminal({"check", "-d", directory}).contains("\rChecking 400 of 400\r\n"));
+    QVERIFY(run_on_terminal({"export", "-d", directory, "-o", q(place.path("all.json"))})
+                .contains("\rExporting 400 of 400\r\n"));
+    QCOMPARE(run_tool({"import", q(place.path("all.json")), "-d", directory}).err, QByteArray());
+    QCOMPARE(run_tool({"check", "-d", directory}).err, QByteArray());
+}
+
+void TEST_CLI_PROGRAM::output_that_cannot_be_written_is_an_error()
+{
+    const GFPDB_PLACE place;
+    QProcess process;
+    process.setStandardOutputFile("/dev/full");
+    process.start(GFPDB_PROGRAM, {"list", "--builtin"});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 4);
+    QCOMPARE(process.readAllStandardError(), QByteArray("gfpdb: The output cannot be written.\n"));
+}
+
+void TEST_CLI_PROGRAM::the_man_page_has_every_command_and_option()
+{
+    const GFPDB_PLACE place;
+    const QByteArray page = text_of_file(QString(GFPDB_CLI_SOURCE) + "/gfpdb.1");
+    QByteArray plain = page;
+    plain.replace("\\-", "-");
+    for (const char* command : {"list", "show", "export", "import", "check", "history", "restore", "diff"}) {
+        QVERIFY2(plain.contains(QByteArray("\n.BR ") + command + " ") || plain.contains(QByteArray("\n.BI ") + command),
+                 command);
+        const QString help = run_tool({command, "--help"}).out;
+        QRegularExpressionMatchIterator options = QRegularExpression("--[a-z-]+").globalMatch(help);
+        while (options.hasNext()) {
+            const QByteArray option = options.next().captured().toUtf8();
+            QVERIFY2(plain.contains(option) || option == "--output", option.constData());
+        }
+    }
+    for (int code = 0; code <= 5; ++code)
+        QVERIFY(plain.contains(QByteArray(".TP\n.B ") + QByteArray::number(code) + "\n"));
+    QVERIFY(plain.contains(run_tool({"--version"}).out.trimmed()));
+}
+
+void TEST_CLI_PROGRAM::completion_knows_commands_options_and_names()
+{
+    const GFPDB_PLACE place;
+    save_part("My part");
+    save_part("My other");
+    const auto completed = [&place](const QStringList& words) {
+        QStringList quoted;
+        for (const QString& word : words)
+            quoted += "'" + word + "'";
+        const QString script =
+            QString("source '%1/gfpdb.bash'; COMP_WORDS=('%2' %3); COMP_CWORD=%4; _gfpdb; printf '%s\\n' "
+                    "\"${COMPREPLY[@]}\"")
+                .arg(GFPDB_CLI_SOURCE, GFPDB_PROGRAM, quoted.join(' '))
+                .arg(words.size());
+        QProcess bash;
+        bash.setWorkingDirectory(q(place.path("")));
+        bash.start("bash", {"--norc", "-c", script});
+        bash.waitForFinished();
+        QStringList lines = QString(bash.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+        lines.sort();
+        return lines + QString(bash.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
+    };
+    const QString directory = q(place.db_dir());
+
+    QCOMPARE(completed({"re"}), QStringList{"restore"});
+    QCOMPARE(completed({""}).size(), 11);
+    QCOMPARE(completed({"list", "--f"}), (QStringList{"--family", "--filter"}));
+    QCOMPARE(completed({"import", "--dr"}), QStringList{"--dry-run"});
+    QCOMPARE(completed({"show", "--variant", "q"}), QStringList{"quad"});
+    QCOMPARE(completed({"show", "-d", directory, "My"}), (QStringList{"My\\ other", "My\\ part"}));
+    QVERIFY(completed({"export", "-d", directory, "MX25L256"}).contains("MX25L25645G"));
+    QCOMPARE(completed({"help", "he"}), QStringList{"help"});
+    write_file(place.path("a file.json"), "");
+    QCOMPARE(completed({"import", "a"}), QStringList{"a file.json"});
+    QVERIFY(completed({"diff", "-d", directory, "a"}).contains("a file.json"));
+    // Every option that the program has is offered.
+    for (const char* command : {"list", "show", "export", "import", "check", "history", "diff"}) {
+        const QStringList offered = completed({command, "--"});
+        const QString help = run_tool({command, "--help"}).out;
+        QRegularExpressionMatchIterator options = QRegularExpression("\n  (?:-., )?(--[a-z-]+)").globalMatch(help);
+        while (options.hasNext()) {
+            const QString option = options.next().captured(1);
+            QVERIFY2(offered.contains(option), qPrintable(command + option));
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TEST_CLI_PROGRAM)
+#include "test_cli_program.moc"
