@@ -67,6 +67,7 @@ private slots:
     void columns_stand_in_any_order();
     void a_wrong_cell_is_reported_with_line_and_column_data();
     void a_wrong_cell_is_reported_with_line_and_column();
+    void the_highest_and_lowest_values_are_read();
     void a_row_with_an_error_is_left_out_alone();
     void a_row_of_another_length_is_wrong();
     void a_name_occurs_once();
@@ -201,6 +202,9 @@ void TEST_FLOW_CATALOGUE::a_wrong_cell_is_reported_with_line_and_column_data()
     add("A,,,,1Mb,,,,,,,,,", "column \"jedec_id\": an ID has 1 to 16 bytes such as C2 20 19");
     add("A,,00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 10,,1Mb,,,,,,,,,",
         "column \"jedec_id\": an ID has 1 to 16 bytes such as C2 20 19");
+    add("A\tB,,C2,,1Mb,,,,,,,,,",
+        "column \"name\": The part name has a line break or another control character: use letters, digits, "
+        "marks and blanks.");
     add("A,,C2,,,,,,,,,,,", "column \"density\": \"\" is no density such as 128Mb");
     add("A,,C2,,16,,,,,,,,,", "column \"density\": \"16\" is no density such as 128Mb");
     add("A,,C2,,1Mb,0,,,,,,,,", "column \"total_die\": \"0\" is no whole number from 1 to 16");
@@ -233,6 +237,23 @@ void TEST_FLOW_CATALOGUE::a_wrong_cell_is_reported_with_line_and_column()
 
     QCOMPARE(error_texts(text), TEXTS{"line 3, " + error.toStdString()});
     QCOMPARE(gfpdb_parse_catalogue(text).parts.size(), std::size_t(1));
+}
+
+void TEST_FLOW_CATALOGUE::the_highest_and_lowest_values_are_read()
+{
+    const GFPDB_PART highest =
+        only_part("A,,00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F,,1Mb,16,4096,,,31,31,,,\n");
+    QCOMPARE(highest.jedec_id.size(), std::size_t(16));
+    QCOMPARE(highest.total_die, 16);
+    QCOMPARE(highest.page_size, 4096);
+    QCOMPARE(highest.dummy_single, 31);
+    QCOMPARE(highest.dummy_quad, 31);
+    const GFPDB_PART lowest = only_part("A,,00,,1Mb,1,1,,,1,1,,,\n");
+    QCOMPARE(lowest.jedec_id, std::vector<int>{0});
+    QCOMPARE(lowest.total_die, 1);
+    QCOMPARE(lowest.page_size, 1);
+    QCOMPARE(lowest.dummy_single, 1);
+    QCOMPARE(lowest.dummy_quad, 1);
 }
 
 void TEST_FLOW_CATALOGUE::a_row_with_an_error_is_left_out_alone()

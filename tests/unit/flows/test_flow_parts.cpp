@@ -245,6 +245,8 @@ private slots:
     void commands_fit_the_row_of_the_part();
     void the_classes_have_the_known_numbers_of_parts();
     void a_part_of_an_unknown_maker_has_flows();
+    void one_dummy_clock_is_one();
+    void a_chip_that_reports_by_flags_is_erased_with_patience();
     void a_record_gets_both_variants();
 };
 
@@ -449,6 +451,39 @@ void TEST_FLOW_PARTS::a_part_of_an_unknown_maker_has_flows()
     }
     for (const bool quad : {false, true})
         QVERIFY(gfpdb_check_flow(pointers(flow_of(part, quad))).empty());
+}
+
+void TEST_FLOW_PARTS::one_dummy_clock_is_one()
+{
+    GFPDB_PART part;
+    part.name = "Own1";
+    part.density = "128Mb";
+    part.dummy_single = 1;
+    part.dummy_quad = 1;
+    QVERIFY(traits_line(part).contains("| 0B 1-1-1 1 | EB 1-4-4 1 |"));
+}
+
+// No part of the catalogue needs it: the whole chip at once, watched by the flag status register.
+void TEST_FLOW_PARTS::a_chip_that_reports_by_flags_is_erased_with_patience()
+{
+    GFPDB_PART part;
+    part.name = "Own1";
+    part.manufacturer = "Micron";
+    part.density = "128Mb";
+    const FLOW flow = flow_of(part, false);
+
+    const GFPDB_ACTION* poll = nullptr;
+    bool erased = false;
+    for (const GFPDB_ACTION* action : *flow[GFPDB_OPERATION_ERASE]->get_actions()) {
+        if (action->get_action_type() == GFPDB_ACT_ERASE)
+            erased = value_of(*action, GFPDB_ER_COMMAND) == "0xC7";
+        else if (erased && poll == nullptr && action->get_action_type() == GFPDB_ACT_READ_REGISTER)
+            poll = action;
+    }
+    QVERIFY(poll != nullptr);
+    QCOMPARE(value_of(*poll, GFPDB_RR_COMMAND), std::string("0x70"));
+    QCOMPARE(value_of(*poll, GFPDB_RR_ATTEMPT_COUNT), std::string("1600"));
+    QCOMPARE(value_of(*poll, GFPDB_RR_DELAY), std::string("1000000"));
 }
 
 void TEST_FLOW_PARTS::a_record_gets_both_variants()
