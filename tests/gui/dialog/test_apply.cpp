@@ -428,9 +428,13 @@ void TEST_APPLY::the_device_page_is_shown_afterwards()
 {
     open_with("A");
     tabs().setCurrentIndex(4);
+    int page_of_refresh = -1;
+    log().on_call(qs("can_add_flash"), [&](const QString&) { page_of_refresh = tabs().currentIndex(); });
 
     QVERIFY(apply());
 
+    // The list comes first.
+    QCOMPARE(page_of_refresh, 4);
     QCOMPARE(tabs().currentIndex(), 0);
 }
 
@@ -439,12 +443,22 @@ void TEST_APPLY::the_filter_can_hide_the_saved_device()
     open();
     fill_form(QStringLiteral("X"));
     edit("m_filter_line_edit").setText(QStringLiteral("new"));
+    check("m_save_template_check").setChecked(true);
+    edit("m_template_name_edit").setText(QStringLiteral("T"));
     log().clear();
 
     QVERIFY(apply());
 
     QVERIFY(!table().currentIndex().isValid());
     QCOMPARE(edit("m_device_name_edit").text(), QStringLiteral("X"));
+    // The form is that of a stored device.
+    for (const char* name : {"m_device_name_edit", "m_voltage_cbox", "m_density_cbox", "m_save_template_check",
+                             "m_delete_button", "m_apply_button"})
+        QVERIFY2(widget(name).isEnabled(), name);
+    for (const char* name : {"m_flow_template_cbox", "m_edit_template_button", "m_template_name_edit"})
+        QVERIFY2(!widget(name).isEnabled(), name);
+    QVERIFY(!check("m_save_template_check").isChecked());
+    QCOMPARE(edit("m_template_name_edit").text(), QString());
     for (int operation = 0; operation < 5; ++operation)
         QCOMPARE(page_flow(operation), QStringList(QStringLiteral("0:first %1").arg(operation)));
     QVERIFY(page(0).get_flow().value(0) !=

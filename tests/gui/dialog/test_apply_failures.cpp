@@ -317,6 +317,8 @@ void TEST_APPLY_FAILURES::an_open_editor_is_committed()
     button(button_name.toLatin1().constData()).click();
 
     QCOMPARE(mgr().last_created->flow(operation, false), list_of({"0:typed"}));
+    // What was typed is checked, too.
+    QVERIFY(log().calls().contains(qs(R"(action(0:typed).check_property_value(0, "typed"))")));
 }
 
 void TEST_APPLY_FAILURES::an_open_editor_is_left_alone_where_nothing_is_saved()

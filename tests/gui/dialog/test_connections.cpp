@@ -56,6 +56,7 @@ class TEST_CONNECTIONS : public DIALOG_TEST
 
 private slots:
     void an_opening_dialog_connects_in_order();
+    void the_operation_pages_are_made_between_the_fields_and_the_first_device();
     void unused_fields_are_not_connected();
     void a_family_change_makes_its_three_connections_again();
     void a_mode_change_makes_its_three_connections_again();
@@ -119,6 +120,25 @@ void TEST_CONNECTIONS::an_opening_dialog_connects_in_order()
     const QStringList between = all.mid(expected.size(), all.size() - expected.size() - last.size());
     for (const QString& connection : between)
         QVERIFY2(connection.contains(QLatin1String("_cbox currentIndexChanged(int)")), qPrintable(connection));
+}
+
+void TEST_CONNECTIONS::the_operation_pages_are_made_between_the_fields_and_the_first_device()
+{
+    QStringList pages_when_listed;
+    log().on_call(qs("can_add_flash"), [&](const QString&) {
+        for (const CONNECTION& connection : qAsConst(g_made))
+            pages_when_listed.append(connection.text.section(QLatin1Char(' '), 0, 0));
+    });
+
+    open();
+
+    // Each page connects its chart to itself, and itself to its chart.
+    const int last_field = pages_when_listed.lastIndexOf(QStringLiteral("m_edit_template_button"));
+    const QStringList made_before = pages_when_listed.mid(0, last_field);
+    const QStringList made_after = pages_when_listed.mid(last_field + 1);
+    QVERIFY(last_field >= 0);
+    QCOMPARE(made_before.count(QStringLiteral("GPFQ_OPERATION_TAB_WIDGET")), 0);
+    QCOMPARE(made_after.count(QStringLiteral("GPFQ_OPERATION_TAB_WIDGET")), 5);
 }
 
 void TEST_CONNECTIONS::unused_fields_are_not_connected()

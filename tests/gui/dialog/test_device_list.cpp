@@ -32,6 +32,8 @@ private slots:
     void the_keyboard_selects_a_device();
     void selecting_the_selected_device_again_loads_nothing();
     void an_emptied_selection_loads_nothing();
+    void a_change_loads_its_current_row_unless_it_is_the_previous_data();
+    void a_change_loads_its_current_row_unless_it_is_the_previous();
     void names_come_and_go_as_they_are_data();
     void names_come_and_go_as_they_are();
     void an_old_row_selected_by_its_index_is_loaded_once();
@@ -146,9 +148,12 @@ void TEST_DEVICE_LIST::a_rebuild_removes_and_inserts_in_one_step_each()
     QSignalSpy removed(&device_model(), &QAbstractItemModel::rowsRemoved);
     QSignalSpy inserted(&device_model(), &QAbstractItemModel::rowsInserted);
     QSignalSpy reset(&device_model(), &QAbstractItemModel::modelReset);
+    int rows_when_asked = -1;
+    log().on_call(qs("can_add_flash"), [&](const QString&) { rows_when_asked = device_model().rowCount(); });
 
     choose("m_family_cbox", ALDER);
 
+    QCOMPARE(rows_when_asked, 0);
     QCOMPARE(removed.size(), 1);
     QCOMPARE(removed.first().at(1).toInt(), 0);
     QCOMPARE(removed.first().at(2).toInt(), 4);
@@ -370,6 +375,39 @@ void TEST_DEVICE_LIST::an_emptied_selection_loads_nothing()
 
     QCOMPARE(calls(), QStringList());
     QCOMPARE(edit("m_device_name_edit").text(), QStringLiteral("alpha"));
+}
+
+void TEST_DEVICE_LIST::a_change_loads_its_current_row_unless_it_is_the_previous_data()
+{
+    QTest::addColumn<int>("current");
+    QTest::addColumn<int>("previous");
+    QTest::addColumn<QStringList>("loaded");
+
+    QTest::newRow("another row") << 2 << 1 << list_of({R"(mgr.find_flash("W25Q", true))"});
+    QTest::newRow("the same row") << 2 << 2 << QStringList();
+    QTest::newRow("nothing before") << 1 << -1 << list_of({R"(mgr.find_flash("MX25L", true))"});
+    QTest::newRow("nothing now") << -1 << 1 << QStringList();
+}
+
+void TEST_DEVICE_LIST::a_change_loads_its_current_row_unless_it_is_the_previous()
+{
+    QFETCH(const int, current);
+    QFETCH(const int, previous);
+    QFETCH(const QStringList, loaded);
+    open();
+    // Rows of the table are not those of the model: "alpha", "MX25L", "W25Q" are shown.
+    edit("m_filter_line_edit").setText(QStringLiteral("^[amw]"));
+    log().clear();
+    const auto selection_of = [this](int row) {
+        const QModelIndex index = proxy().index(row, 0);
+        return index.isValid() ? QItemSelection(index, index) : QItemSelection();
+    };
+
+    QVERIFY(QMetaObject::invokeMethod(&dlg(), "device_changed", Qt::DirectConnection,
+                                      Q_ARG(QItemSelection, selection_of(current)),
+                                      Q_ARG(QItemSelection, selection_of(previous))));
+
+    QCOMPARE(log().calls_of({qs("find_flash")}), loaded);
 }
 
 void TEST_DEVICE_LIST::names_come_and_go_as_they_are_data()

@@ -272,9 +272,13 @@ void TEST_FAMILY_AND_MODE::a_family_change_shows_the_device_page()
 {
     open();
     tabs().setCurrentIndex(3);
+    int page_while_loading = -1;
+    log().on_call(qs("can_edit_flow"), [&](const QString&) { page_while_loading = tabs().currentIndex(); });
 
     choose("m_family_cbox", ALDER);
 
+    // The list comes first.
+    QCOMPARE(page_while_loading, 3);
     QCOMPARE(tabs().currentIndex(), 0);
 }
 

@@ -64,9 +64,16 @@ void TEST_OK_AND_DELETE::ok_takes_the_current_data_of_the_combos()
     choose("m_family_cbox", 70);
     choose("m_config_mode_cbox", 25);
     pick(QStringLiteral("B"));
+    QStringList at_the_end;
+    connect(&dlg(), &QDialog::rejected, this, [&] {
+        at_the_end << QString::number(dlg().family()) << QString::number(dlg().config_scheme())
+                   << QString::fromStdString(dlg().device_name());
+    });
 
     button("m_ok_button").click();
 
+    // The choice is there before the dialog closes.
+    QCOMPARE(at_the_end, list_of({"70", "25", "B"}));
     QCOMPARE(dlg().family(), 70);
     QCOMPARE(dlg().config_scheme(), 25);
     QCOMPARE(dlg().device_name(), std::string("B"));
@@ -287,6 +294,10 @@ void TEST_OK_AND_DELETE::delete_without_a_new_device_row_selects_the_first_row()
     QCOMPARE(current_row(), QStringLiteral("A"));
     QCOMPARE(edit("m_device_name_edit").text(), QStringLiteral("A"));
     QCOMPARE(log().calls_of({qs("find_flash")}), list_of({R"(mgr.find_flash("A", true))"}));
+    // That row's record is the current one now.
+    log().clear();
+    button("m_delete_button").click();
+    QCOMPARE(log().calls_of({qs("delete_flash")}), list_of({R"(mgr.delete_flash("A", "/db/of/A/"))"}));
 }
 
 void TEST_OK_AND_DELETE::delete_keeps_the_page_and_the_dialog_open()

@@ -1,6 +1,8 @@
 // The operation pages of the device that is shown: which flows they get, and whether they are enabled.
 #include "dialog_test.h"
 
+#include <QGraphicsRectItem>
+
 class TEST_SHOWN_FLOWS : public DIALOG_TEST
 {
     Q_OBJECT
@@ -11,6 +13,8 @@ private slots:
     void flows_go_to_the_page_of_their_kind();
     void a_record_without_flows_empties_the_pages();
     void a_record_that_is_gone_empties_the_pages();
+    void emptied_pages_can_be_edited_data();
+    void emptied_pages_can_be_edited();
     void flows_are_copies();
     void the_flow_flag_reaches_the_pages_data();
     void the_flow_flag_reaches_the_pages();
@@ -21,7 +25,22 @@ private slots:
     void disabled_pages_hand_over_to_the_device_page_at_once();
     void pages_are_disabled_from_the_last_to_the_first();
     void the_device_page_is_never_disabled();
+
+private:
+    // True when an action can be dropped into the chart of an operation page.
+    bool page_takes_drops(int operation) const;
 };
+
+bool TEST_SHOWN_FLOWS::page_takes_drops(int operation) const
+{
+    for (const QGraphicsScene* scene : page(operation).findChildren<QGraphicsScene*>()) {
+        for (const QGraphicsItem* item : scene->items()) {
+            if (dynamic_cast<const QGraphicsRectItem*>(item) != nullptr && item->acceptDrops())
+                return true;
+        }
+    }
+    return false;
+}
 
 void TEST_SHOWN_FLOWS::flows_of_the_shown_variant_are_loaded_data()
 {
@@ -89,6 +108,33 @@ void TEST_SHOWN_FLOWS::a_record_that_is_gone_empties_the_pages()
     for (int operation = 0; operation < 5; ++operation)
         QCOMPARE(page_flow(operation), QStringList());
     QCOMPARE(log().calls_of({qs("get_flow_variant"), qs("get_builtin_template_operations")}), QStringList());
+}
+
+void TEST_SHOWN_FLOWS::emptied_pages_can_be_edited_data()
+{
+    QTest::addColumn<QString>("device");
+
+    QTest::newRow("stored without flows") << qs("B");
+    QTest::newRow("record is gone") << qs("gone");
+    QTest::newRow("new without flows") << qs("<<new device>>");
+}
+
+// The flag that the library gives belongs to flows that are there.
+void TEST_SHOWN_FLOWS::emptied_pages_can_be_edited()
+{
+    QFETCH(const QString, device);
+    mgr().flow_editable = false;
+    mgr().add_custom("A").operations[false] = make_operations("step");
+    mgr().add_custom("B");
+    mgr().custom_names.push_back("gone");
+    open_with("A");
+    for (int operation = 0; operation < 5; ++operation)
+        QVERIFY(!page_takes_drops(operation));
+
+    pick(device);
+
+    for (int operation = 0; operation < 5; ++operation)
+        QVERIFY(page_takes_drops(operation));
 }
 
 void TEST_SHOWN_FLOWS::flows_are_copies()

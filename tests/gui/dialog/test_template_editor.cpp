@@ -207,12 +207,20 @@ void TEST_TEMPLATE_EDITOR::the_stored_templates_are_listed_in_order()
 
 void TEST_TEMPLATE_EDITOR::without_a_manager_there_is_no_editor()
 {
+    QStringList built;
+    log().on_call(qs("report"), [&built](const QString&) {
+        for (const QWidget* widget : QApplication::allWidgets())
+            built.append(widget->objectName());
+    });
+
     QVERIFY_EXCEPTION_THROWN(GFPQ_EDIT_TEMPLATE_DLG(nullptr, nullptr), INTERNAL_ERROR_REPORTED);
 
     const INTERNAL_ERROR_REPORTED& error = reported_internal_errors().back();
     QCOMPARE(error.condition, std::string("m_gfpdb_mgr != NULL"));
     QCOMPARE(error.category, std::string("GFPQ"));
     QCOMPARE(error.source, std::string("pgm/gfpq/gfpq_edit_template_dlg"));
+    QVERIFY(!built.isEmpty());
+    QVERIFY(!built.contains(QStringLiteral("m_template_table_view")));
 }
 
 void TEST_TEMPLATE_EDITOR::remove_takes_the_selected_template()

@@ -21,6 +21,7 @@ private slots:
     void closing_the_editor_unchanged_leaves_the_combo();
     void a_removed_template_leaves_the_combo();
     void the_refilled_combo_keeps_its_text();
+    void the_refilled_combo_tells_texts_apart_by_case();
     void the_refilled_combo_falls_back_to_the_first_item();
     void refilling_runs_no_check();
     void the_combo_works_again_after_the_editor();
@@ -205,6 +206,17 @@ void TEST_TEMPLATES::the_refilled_combo_keeps_its_text()
 
     QCOMPARE(combo("m_flow_template_cbox").currentText(), QStringLiteral("yours"));
     QCOMPARE(combo("m_flow_template_cbox").currentIndex(), 5);
+}
+
+void TEST_TEMPLATES::the_refilled_combo_tells_texts_apart_by_case()
+{
+    mgr().templates.insert(mgr().templates.end() - 1, "YOURS");
+    open();
+    choose_text("m_flow_template_cbox", QStringLiteral("yours"));
+
+    edit_templates([](QWidget& editor) { remove(editor, 0); });
+
+    QCOMPARE(combo("m_flow_template_cbox").currentText(), QStringLiteral("yours"));
 }
 
 void TEST_TEMPLATES::the_refilled_combo_falls_back_to_the_first_item()
