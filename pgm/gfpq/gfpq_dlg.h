@@ -154,6 +154,9 @@ private:
     void check_number(GFPDB_FLASH_PROPERTY property, const QLineEdit* edit) const;
 
     // Templates.
+    std::string chosen_template() const;
+    bool is_stored_template_chosen() const;
+    const std::vector<GFPDB_OPERATION*>* builtin_template_operations(bool flow_variant) const;
     const std::vector<GFPDB_OPERATION*>* shown_template_operations() const;
     const std::vector<GFPDB_OPERATION*>* stored_template_operations(bool flow_variant) const;
     void copy_operations(GFPDB_FLASH& target, const std::vector<GFPDB_OPERATION*>& operations, bool flow_variant);

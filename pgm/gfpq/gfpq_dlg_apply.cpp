@@ -180,7 +180,7 @@ void GFPQ_DLG::store_fields(GFPDB_FLASH& flash) const
     if (is_used(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK))
         flash.set_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, number_of(ui.m_clock_cycle_edit_x4));
     if (is_used(GFPDB_FLASH_FLOW_TEMPLATE))
-        flash.set_string_property(GFPDB_FLASH_FLOW_TEMPLATE, gfpq_to_local(ui.m_flow_template_cbox->currentText()));
+        flash.set_string_property(GFPDB_FLASH_FLOW_TEMPLATE, chosen_template());
 }
 
 // Hands the tabs' actions over to `flash`; the tabs are empty afterwards.

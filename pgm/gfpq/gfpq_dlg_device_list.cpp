@@ -75,9 +75,11 @@ void GFPQ_DLG::fill_device_list()
     QList<QStandardItem*> rows;
     if (m_gfpdb_mgr->can_add_flash())
         rows.append(make_row(QLatin1String(GFPQ_NEW_DEVICE), GFPQ_EDITABLE_ROLE));
-    std::vector<std::string> names;
-    append_rows(rows, m_gfpdb_mgr->get_custom_flash_names(names, family, scheme, 0), GFPQ_EDITABLE_ROLE);
-    append_rows(rows, m_gfpdb_mgr->get_builtin_flash_names(names, family, scheme, 0), GFPQ_READ_ONLY_ROLE);
+    // A list of its own for each: a library may append to what it is given.
+    std::vector<std::string> custom_names;
+    append_rows(rows, m_gfpdb_mgr->get_custom_flash_names(custom_names, family, scheme, 0), GFPQ_EDITABLE_ROLE);
+    std::vector<std::string> builtin_names;
+    append_rows(rows, m_gfpdb_mgr->get_builtin_flash_names(builtin_names, family, scheme, 0), GFPQ_READ_ONLY_ROLE);
     if (!rows.isEmpty())
         m_device_model.invisibleRootItem()->appendRows(rows);
 }

@@ -33,29 +33,38 @@ void GFPQ_DLG::on_edit_template_clicked()
     ui.m_flow_template_cbox->setCurrentIndex(qMax(0, ui.m_flow_template_cbox->findText(chosen)));
 }
 
-// The chosen template's operations in the variant that the tabs show; null when nothing is chosen.
-const std::vector<GFPDB_OPERATION*>* GFPQ_DLG::shown_template_operations() const
+std::string GFPQ_DLG::chosen_template() const
+{
+    return gfpq_to_local(ui.m_flow_template_cbox->currentText());
+}
+
+bool GFPQ_DLG::is_stored_template_chosen() const
+{
+    return ui.m_flow_template_cbox->currentIndex() >= GFPQ_BUILTIN_TEMPLATE_COUNT;
+}
+
+// Null when nothing is chosen.
+const std::vector<GFPDB_OPERATION*>* GFPQ_DLG::builtin_template_operations(bool flow_variant) const
 {
     const int index = ui.m_flow_template_cbox->currentIndex();
-    if (index < 0)
-        return nullptr;
+    return index < 0 ? nullptr : m_gfpdb_mgr->get_builtin_template_operations(index, flow_variant);
+}
+
+// The chosen template's operations in the variant that the tabs show.
+const std::vector<GFPDB_OPERATION*>* GFPQ_DLG::shown_template_operations() const
+{
     const bool variant = m_gfpdb_mgr->get_flow_variant();
-    if (index < GFPQ_BUILTIN_TEMPLATE_COUNT)
-        return m_gfpdb_mgr->get_builtin_template_operations(index, variant);
-    return m_gfpdb_mgr->get_template_operations(gfpq_to_local(ui.m_flow_template_cbox->currentText()), variant);
+    return is_stored_template_chosen() ? m_gfpdb_mgr->get_template_operations(chosen_template(), variant)
+                                       : builtin_template_operations(variant);
 }
 
 // The chosen template's operations in the variant that is stored without being shown. A stored template is found as the
 // record that it is.
 const std::vector<GFPDB_OPERATION*>* GFPQ_DLG::stored_template_operations(bool flow_variant) const
 {
-    const int index = ui.m_flow_template_cbox->currentIndex();
-    if (index < 0)
-        return nullptr;
-    if (index < GFPQ_BUILTIN_TEMPLATE_COUNT)
-        return m_gfpdb_mgr->get_builtin_template_operations(index, flow_variant);
-    const GFPDB_FLASH* const flash =
-        m_gfpdb_mgr->find_flash(gfpq_to_local(ui.m_flow_template_cbox->currentText()), true);
+    if (!is_stored_template_chosen())
+        return builtin_template_operations(flow_variant);
+    const GFPDB_FLASH* const flash = m_gfpdb_mgr->find_flash(chosen_template(), true);
     return flash == nullptr ? nullptr : flash->get_operations(flow_variant);
 }
 

@@ -34,10 +34,11 @@ QStringList with_error(QStringList arguments, const std::string& error)
     return arguments;
 }
 
+// Appends, as a library may that leaves clearing to its caller: whoever asks twice with one list shows it.
 template <typename LIST>
 LIST& filled(LIST& out, const LIST& answer)
 {
-    out = answer;
+    out.insert(out.end(), answer.begin(), answer.end());
     return out;
 }
 

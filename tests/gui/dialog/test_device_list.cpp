@@ -27,6 +27,8 @@ private slots:
     void the_filter_works_while_the_user_types();
     void the_filter_stays_when_the_list_is_rebuilt();
     void a_name_that_the_filter_hides_is_not_selected();
+    void a_name_that_is_gone_leaves_the_first_row_that_the_filter_shows();
+    void no_device_stands_for_the_new_device_row_even_when_the_filter_hides_it();
     void selecting_through_the_filter_takes_the_right_device();
     void the_mouse_selects_a_device();
     void the_keyboard_selects_a_device();
@@ -60,6 +62,7 @@ void TEST_DEVICE_LIST::rows_come_in_order_with_their_marks()
         const QStandardItem* const item = device_model().item(row);
         QCOMPARE(item->data(EDITABLE_ROLE), row < 3 ? QVariant(true) : QVariant());
         QCOMPARE(item->data(READ_ONLY_ROLE), row < 3 ? QVariant() : QVariant(true));
+        QCOMPARE(item->data(row < 3 ? EDITABLE_ROLE : READ_ONLY_ROLE).userType(), static_cast<int>(QMetaType::Bool));
         QCOMPARE(item->data(Qt::UserRole), QVariant());
     }
 }
@@ -316,6 +319,35 @@ void TEST_DEVICE_LIST::a_name_that_the_filter_hides_is_not_selected()
     // The built-in device that was shown before is no longer the current one: Apply would not touch that.
     run("on_apply_clicked");
     QCOMPARE(log().count(qs("create_flash")), 1);
+}
+
+void TEST_DEVICE_LIST::a_name_that_is_gone_leaves_the_first_row_that_the_filter_shows()
+{
+    open_with("W25Q");
+    edit("m_filter_line_edit").setText(QStringLiteral("25"));
+    mgr().builtin_names = {"MX25L", "S25"};
+    log().clear();
+
+    choose("m_family_cbox", ALDER);
+
+    QCOMPARE(shown_rows(), list_of({"MX25L", "S25"}));
+    QCOMPARE(current_row(), QStringLiteral("MX25L"));
+    QCOMPARE(log().calls_of({qs("find_flash")}), list_of({R"(mgr.find_flash("MX25L", true))"}));
+}
+
+void TEST_DEVICE_LIST::no_device_stands_for_the_new_device_row_even_when_the_filter_hides_it()
+{
+    open_with("W25Q");
+    edit("m_filter_line_edit").setText(QStringLiteral("none"));
+    edit("m_filter_line_edit").setText(QStringLiteral("25"));
+    QVERIFY(!table().currentIndex().isValid());
+    log().clear();
+
+    choose("m_family_cbox", ALDER);
+
+    QCOMPARE(shown_rows(), list_of({"MX25L", "W25Q"}));
+    QVERIFY(!table().currentIndex().isValid());
+    QCOMPARE(log().count(qs("find_flash")), 0);
 }
 
 void TEST_DEVICE_LIST::selecting_through_the_filter_takes_the_right_device()

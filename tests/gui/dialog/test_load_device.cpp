@@ -30,6 +30,8 @@ private slots:
     void enabled_states_data();
     void enabled_states();
     void a_lone_voltage_cannot_be_chosen();
+    void a_lone_voltage_cannot_be_chosen_without_a_device();
+    void the_new_device_row_is_known_in_any_case();
     void the_new_device_row_clears_the_fields();
     void any_row_clears_the_template_name();
     void the_first_fitting_voltage_is_chosen();
@@ -346,6 +348,36 @@ void TEST_LOAD_DEVICE::a_lone_voltage_cannot_be_chosen()
     }
 }
 
+void TEST_LOAD_DEVICE::a_lone_voltage_cannot_be_chosen_without_a_device()
+{
+    mgr().add_allowed = false;
+    for (const int count : {0, 1, 2}) {
+        mgr().voltages.assign(static_cast<std::size_t>(count), "1.8 V");
+
+        open();
+
+        QVERIFY(all_rows().isEmpty());
+        QCOMPARE(combo("m_voltage_cbox").isEnabled(), count >= 2);
+    }
+}
+
+void TEST_LOAD_DEVICE::the_new_device_row_is_known_in_any_case()
+{
+    add_full_record("A");
+    mgr().add_builtin("<<New DEVICE>>");
+    mgr().add_allowed = false;
+    open_with("A");
+
+    pick(QStringLiteral("<<New DEVICE>>"));
+
+    QCOMPARE(log().count(qs("find_flash")), 0);
+    QCOMPARE(edit("m_device_id_edit").text(), QString());
+    QVERIFY(edit("m_device_id_edit").isEnabled());
+    QVERIFY(combo("m_flow_template_cbox").isEnabled());
+    QVERIFY(button("m_apply_button").isEnabled());
+    QVERIFY(!button("m_delete_button").isEnabled());
+}
+
 void TEST_LOAD_DEVICE::the_new_device_row_clears_the_fields()
 {
     add_full_record("A");
@@ -419,12 +451,15 @@ void TEST_LOAD_DEVICE::loading_runs_no_check_and_no_box()
 {
     add_full_record("A");
     add_full_record("B").strings = {{2, "3.3 V"}, {3, "128 Mb"}, {8, "added"}};
+    add_full_record("H");
+    mgr().hidden_properties = {"H"};
+    mgr().add_builtin("built-in");
     for (const int property : {0, 1, 2, 3, 4, 5, 6, 8})
         mgr().refuse(property, "refused");
     open();
 
-    pick(QStringLiteral("A"));
-    pick(QStringLiteral("B"));
+    for (const char* device : {"A", "B", "H", "A", "built-in"})
+        pick(qs(device));
     pick(QStringLiteral("<<new device>>"));
 
     QCOMPARE(log().calls_of({qs("check_string_property"), qs("check_int_property")}), QStringList());

@@ -14,6 +14,7 @@ private slots:
     void without_a_list_nothing_is_copied();
     void a_negative_template_index_gives_no_list();
     void an_existing_device_ignores_the_template();
+    void the_new_device_row_is_known_in_any_case();
     void the_copy_is_deep();
     void every_property_is_copied_in_list_order();
     void null_operations_and_lists_are_skipped();
@@ -163,6 +164,22 @@ void TEST_OTHER_VARIANT::an_existing_device_ignores_the_template()
 
     QCOMPARE(stored(0, true), list_of({"0:own 0"}));
     QCOMPARE(log().count(qs("get_builtin_template_operations")), 0);
+}
+
+void TEST_OTHER_VARIANT::the_new_device_row_is_known_in_any_case()
+{
+    mgr().add_allowed = false;
+    mgr().add_custom("<<NEW device>>");
+    mgr().builtin_template_operations[{0, false}] = make_operations("shown");
+    mgr().builtin_template_operations[{0, true}] = make_operations("other");
+    open();
+    QCOMPARE(page_flow(0), list_of({"0:shown 0"}));
+    edit("m_device_name_edit").setText(QStringLiteral("X"));
+
+    QVERIFY(apply());
+
+    QCOMPARE(stored(0, false), list_of({"0:shown 0"}));
+    QCOMPARE(stored(0, true), list_of({"0:other 0"}));
 }
 
 void TEST_OTHER_VARIANT::the_copy_is_deep()
