@@ -58,6 +58,7 @@ private slots:
     void another_code_page_holds_for_all_texts_of_the_library();
     void very_long_values_and_line_breaks_survive_the_editor();
     void a_warning_while_the_chart_waits_for_a_redraw_is_survived();
+    void a_warning_takes_no_waiting_redraw_away_and_adds_none();
     void an_open_editor_can_be_committed();
     void an_open_combo_box_can_be_committed();
     void committing_without_an_open_editor_does_nothing();
@@ -188,6 +189,10 @@ void TEST_FLOW_EDITOR::filling_a_combo_box_again_adds_nothing()
 
     QCOMPARE(combo->count(), 2);
     QCOMPARE(combo->currentIndex(), 1);
+    // Whatever it was before, nothing can be typed into it.
+    combo->setEditable(true);
+    property_table_of(*page)->itemDelegateForColumn(1)->setEditorData(combo, value_cell(*page, 4));
+    QVERIFY(!combo->isEditable());
     // Without a choice nothing is chosen, and nothing breaks.
     m_checker->choices.clear();
     property_table_of(*page)->itemDelegateForColumn(1)->setEditorData(combo, value_cell(*page, 4));
@@ -439,6 +444,9 @@ void TEST_FLOW_EDITOR::another_code_page_holds_for_all_texts_of_the_library()
 
     QCOMPARE(value_cell(*page, 0).data().toString(), QString(QChar(0xE4)));
     QVERIFY(texts_of(scene_of(*page)).at(1).contains(QChar(0xE4)));
+    OPEN_SCENE scene(nullptr, 0);
+    action_of(*page, 0).labels[1] = "\xE9";
+    QVERIFY(scene.create_text_item(&action_of(*page, 0), Qt::AlignCenter)->toPlainText().contains(QChar(0xE9)));
     const auto* const combo = qobject_cast<QComboBox*>(open_editor(*page, 4));
     QVERIFY(combo != nullptr);
     QCOMPARE(combo->currentText(), QString(QChar(0xF6)));
@@ -450,6 +458,8 @@ void TEST_FLOW_EDITOR::another_code_page_holds_for_all_texts_of_the_library()
     page->commit_open_editor();
     QCOMPARE(m_modals.last().text, QString(QChar(0xDF)));
     QCOMPARE(action_of(*page, 0).values[1], std::string("\xFC"));
+    QCOMPARE(log().calls_of({QStringLiteral("check_property_value")}),
+             QStringList{QStringLiteral("action(5:default 38).check_property_value(1, %1)").arg(log_text("\xFC"))});
     // The page's own words are not the library's.
     QVERIFY(PAGE(nullptr, 2).findChild<QLabel*>()->text().contains(QChar(0x201C)));
 }
@@ -498,6 +508,20 @@ void TEST_FLOW_EDITOR::a_warning_while_the_chart_waits_for_a_redraw_is_survived(
     QApplication::setActiveWindow(page.get());
     QTRY_COMPARE(drawn.size(), 1);
     QVERIFY(texts_of(scene_of(*page)).at(1).contains(QStringLiteral("xyz")));
+}
+
+void TEST_FLOW_EDITOR::a_warning_takes_no_waiting_redraw_away_and_adds_none()
+{
+    PAGE page(nullptr, 1);
+    m_modals.expect(MODAL_DRIVER::accept());
+    m_modals.expect(MODAL_DRIVER::accept());
+
+    page.warn_about_value(QStringLiteral("refused"));
+    QVERIFY(!scene_of(page).take_pending_refresh());
+
+    emit page.emit_update_flow_scene();
+    page.warn_about_value(QStringLiteral("refused"));
+    QVERIFY(scene_of(page).take_pending_refresh());
 }
 
 void TEST_FLOW_EDITOR::an_open_editor_can_be_committed()

@@ -2,6 +2,7 @@
 #include "flow_stand.h"
 
 #include <QGraphicsSceneMouseEvent>
+#include <QTranslator>
 
 class TEST_FLOW_MENU : public GUI_TEST
 {
@@ -11,6 +12,7 @@ private slots:
     void the_menu_shows_what_is_possible_data();
     void the_menu_shows_what_is_possible();
     void insert_offers_read_register_first();
+    void only_the_title_of_the_submenu_is_translated();
     void the_menu_stands_where_the_click_was();
     void a_right_click_keeps_the_selection();
     void only_an_arrow_is_an_insertion_point_data();
@@ -84,6 +86,33 @@ void TEST_FLOW_MENU::insert_offers_read_register_first()
     right_click(*view, on_arrow(scene, 0));
 
     QCOMPARE(offered, list({"Read Register", "Write Register", "Write Data", "Read Data", "Erase"}));
+}
+
+void TEST_FLOW_MENU::only_the_title_of_the_submenu_is_translated()
+{
+    // Knows a word for everything, and tells from which context it was asked for.
+    class ANY_LANGUAGE : public QTranslator
+    {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(const char* context, const char* text, const char*, int) const override
+        {
+            return QString::fromLatin1(context) + QLatin1Char(' ') + QString::fromLatin1(text);
+        }
+    };
+    ANY_LANGUAGE language;
+    QCoreApplication::installTranslator(&language);
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+    load_names(scene, {"one"});
+    const auto view = show_view(scene);
+    select_blocks(scene, {0});
+    scene.on_copy_action();
+    m_modals.expect(close_menu());
+
+    right_click(*view, on_arrow(scene, 1));
+
+    QCoreApplication::removeTranslator(&language);
+    QCOMPARE(m_modals.last().menu_entries, list({"Copy", "Paste", "-", "gfpq_dlg Insert", "-", "Refresh", "Delete"}));
 }
 
 void TEST_FLOW_MENU::the_menu_stands_where_the_click_was()
@@ -321,16 +350,26 @@ void TEST_FLOW_MENU::past_the_end_is_the_end()
 
 void TEST_FLOW_MENU::the_whole_height_of_an_arrow_counts()
 {
+    // Blocks narrower than the zones, so that both edges of a zone can be hit beside them.
+    mgr().on_new_action = [](ACTION_DOUBLE& action) {
+        action.properties.resize(1);
+        action.labels[0] = "";
+    };
     OPEN_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
+    load_names(scene, {"", ""});
     const QGraphicsItem& shape = *shapes_of(scene).at(1);
     const double bottom = shape.y() + shape.boundingRect().height();
-    const auto index_at = [&scene](double y) {
-        QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);
-        press.setButton(Qt::LeftButton);
-        // The upper and lower edge of the zone's own rectangle.
-        press.setScenePos(QPointF(on_arrow(scene, 1).x(), y));
-        QApplication::sendEvent(&scene, &press);
+    const auto press = [&scene](double x, double y) {
+        QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
+        event.setButton(Qt::LeftButton);
+        event.setScenePos(QPointF(x, y));
+        QApplication::sendEvent(&scene, &event);
+    };
+    // -1: met, but on no arrow; 0: not met, the press before still counts.
+    const auto index_at = [&](double y) {
+        const QPointF elsewhere = on_arrow(scene, 0);
+        press(elsewhere.x(), elsewhere.y());
+        press(arrows_of(scene).at(1)->drop_zone()->rect().left() + 1, y);
         int index = -7;
         return scene.find_insert_index(index) ? index : -1;
     };
@@ -341,6 +380,7 @@ void TEST_FLOW_MENU::the_whole_height_of_an_arrow_counts()
     // Still on the item, whose outline is half a unit wide on either side, but no longer on the arrow.
     QCOMPARE(index_at(bottom - 0.25), -1);
     QCOMPARE(index_at(bottom + 65.25), -1);
+    QCOMPARE(index_at(bottom + 66), 0);
 }
 
 void TEST_FLOW_MENU::the_manager_is_asked_for_an_action_of_the_type()

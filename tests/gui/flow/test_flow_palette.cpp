@@ -85,6 +85,7 @@ private slots:
     void a_drag_starts_at_the_drag_distance();
     void a_drag_carries_name_and_colour_data();
     void a_drag_carries_name_and_colour();
+    void a_name_has_the_width_of_the_drag_to_its_right_edge();
     void an_entry_stays_where_it_is();
 };
 
@@ -246,6 +247,34 @@ void TEST_FLOW_PALETTE::a_drag_carries_name_and_colour()
     QCOMPARE(drag->pixmap().size(), QSize(120, 20));
     QCOMPARE(drag->pixmap().toImage(), expected.toImage());
     palette.release(QPoint(10, 0));
+}
+
+void TEST_FLOW_PALETTE::a_name_has_the_width_of_the_drag_to_its_right_edge()
+{
+    // Stretched, so that the name is almost as wide as its room, and a little wider, where it is broken.
+    const QFont font = QApplication::font();
+    const QString name = QStringLiteral("Read Data");
+    for (const double width : {114.0, 116.0}) {
+        QFont stretched(font);
+        const double missing = width - QFontMetricsF(font).horizontalAdvance(name);
+        stretched.setLetterSpacing(QFont::AbsoluteSpacing, missing / name.size());
+        QApplication::setFont(stretched);
+        QPixmap expected(120, 20);
+        expected.fill(QColor(85, 255, 255));
+        QPainter painter(&expected);
+        painter.drawText(QRectF(10, 0, 115, 20), name, QTextOption());
+        painter.end();
+        const PALETTE palette(3);
+        const DRAG_WATCH watch(palette.view->viewport());
+
+        palette.press();
+        palette.move(QPoint(10, 0));
+
+        QApplication::setFont(font);
+        QVERIFY(watch.drag() != nullptr);
+        QCOMPARE(watch.drag()->pixmap().toImage(), expected.toImage());
+        palette.release(QPoint(10, 0));
+    }
 }
 
 void TEST_FLOW_PALETTE::an_entry_stays_where_it_is()

@@ -242,6 +242,7 @@ void TEST_FLOW_SCENE::a_refresh_waits_for_the_focus_and_happens_once()
     QCOMPARE(rebuilt.size(), 0);
     focus_in(scene);
     QCOMPARE(rebuilt.size(), 1);
+    QVERIFY(!scene.hasFocus());
     focus_in(scene);
     QCOMPARE(rebuilt.size(), 1);
 }

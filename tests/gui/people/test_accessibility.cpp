@@ -146,6 +146,7 @@ void TEST_ACCESSIBILITY::the_device_table_and_the_parts_of_a_page_have_names()
 {
     open_dialog();
     QCOMPARE(accessible_name(&child<QTableView>("m_device_table_view")), QStringLiteral("Devices"));
+    QCOMPARE(accessible_name(&child<QScrollArea>("m_device_info_scroll_area")), tabs().tabText(0));
 
     for (int operation = 0; operation < GFPDB_OPERATION_COUNT; ++operation) {
         show_operation_page(operation);

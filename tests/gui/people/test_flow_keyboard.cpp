@@ -33,6 +33,7 @@ private slots:
     void other_modifiers_are_left_to_the_view();
     void the_menu_key_means_the_arrow_below_the_last_selected_block();
     void the_menu_key_means_the_first_arrow_when_nothing_is_selected();
+    void the_arrow_that_the_menu_key_means_is_scrolled_into_view();
     void a_block_is_copied_and_pasted_with_keys_alone();
     void the_mouse_opens_the_menu_where_it_points();
     void a_chart_that_cannot_be_edited_scrolls();
@@ -204,6 +205,23 @@ void TEST_FLOW_KEYBOARD::the_menu_key_means_the_first_arrow_when_nothing_is_sele
 
     QCOMPARE(chain().first(), QStringLiteral("default 5"));
     QCOMPARE(chain().size(), 4);
+}
+
+void TEST_FLOW_KEYBOARD::the_arrow_that_the_menu_key_means_is_scrolled_into_view()
+{
+    open_page();
+    QWidget* const window = tabs().window();
+    window->resize(window->width(), window->height() - chart().viewport()->height() / 2);
+    QScrollBar& bar = *chart().verticalScrollBar();
+    press(Qt::Key_End);
+    bar.setValue(bar.minimum());
+    const QRectF block = chart().scene()->selectedItems().first()->sceneBoundingRect();
+    const auto arrow_in_view = [&] { return chart().mapFromScene(block.center().x(), block.bottom() + 30); };
+    QVERIFY(!chart().viewport()->rect().contains(arrow_in_view()));
+
+    open_menu(MODAL_DRIVER::reject());
+
+    QVERIFY(chart().viewport()->rect().contains(arrow_in_view()));
 }
 
 void TEST_FLOW_KEYBOARD::a_block_is_copied_and_pasted_with_keys_alone()
