@@ -194,6 +194,9 @@ void TST_MANAGER_DEVICES::a_record_that_is_not_stored_cannot_be_saved_without_a_
     m_mgr->set_config_scheme(PGMIO_SDMMC_X8);
     QCOMPARE(save_error("A"), std::string("was saved"));
     QCOMPARE(m_mgr->get_last_error(), std::string());
+    QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
+    QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
+    QCOMPARE(m_mgr->get_last_error(), std::string());
 }
 
 void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()
@@ -210,6 +213,8 @@ void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()
     const QString empty_blank = QStringLiteral("The %1 \" \" begins or ends with a blank: remove it.");
     QTest::newRow("a built-in device's") << builtin << none << device.arg(builtin);
     QTest::newRow("a built-in template's") << builtin_template << none << flow.arg(builtin_template);
+    const QString first_template = QString::fromStdString(gfpdb_builtin_template_names()[0]);
+    QTest::newRow("the first built-in template's") << first_template << none << flow.arg(first_template);
     QTest::newRow("a stored template's") << QStringLiteral("TEMPLATE") << none
                                          << QStringLiteral("There is a stored template called \"TEMPLATE\" already.");
     QTest::newRow("a blank") << QStringLiteral(" ") << none << empty_blank.arg(QStringLiteral("device name"));
