@@ -449,6 +449,13 @@ void TEST_FLOW_PARTS::a_part_of_an_unknown_maker_has_flows()
         part.name = name;
         QVERIFY2(traits_line(part).contains("| B7/E9 | - |"), name);
     }
+    // The commands with an address length of their own are used where the row lists one of them.
+    part.name = "S25FL512L";
+    for (const int opcode : {0x20, 0xD8, 0x21, 0xDC}) {
+        part.sector_erase = {{opcode, 65536}};
+        QCOMPARE(traits_line(part).contains("| own | - |"), opcode == 0x21 || opcode == 0xDC);
+    }
+    part.sector_erase = {{0xD8, 65536}};
     for (const bool quad : {false, true})
         QVERIFY(gfpdb_check_flow(pointers(flow_of(part, quad))).empty());
 }
