@@ -122,8 +122,19 @@ open_program() {
     end_program
     "$HOST" --database "$PARTS/" "$@" >"$WORK/host.out" 2>"$WORK/host.err" &
     PROGRAM=$!
-    WINDOW=$(xdotool search --sync --onlyvisible --limit 1 --pid "$PROGRAM" --name .)
+    wait_for_window
     xdotool windowactivate --sync "$WINDOW"
+}
+
+# The program's window, once it is there. A search fails when a window goes while it looks at it.
+wait_for_window() {
+    until WINDOW=$(xdotool search --onlyvisible --limit 1 --pid "$PROGRAM" --name . 2>/dev/null) && [ -n "$WINDOW" ]; do
+        if ! kill -0 "$PROGRAM" 2>/dev/null; then
+            say "The program has ended: $(cat "$WORK/host.err")"
+            exit 1
+        fi
+        sleep "$PAUSE"
+    done
 }
 
 press() { xdotool key --clearmodifiers "$@"; }

@@ -71,16 +71,23 @@ void add_common_options(QCommandLineParser& parser)
     parser.addOption({{QStringLiteral("h"), QLatin1String(OPTION_HELP)}, QStringLiteral("Print this help.")});
 }
 
+// How the command is called, with `options` between its name and its arguments.
+QString synopsis(const CLI_COMMAND& command, const char* options = "")
+{
+    const QStringList parts = {QStringLiteral("gfpdb"), QLatin1String(command.name()), QLatin1String(options),
+                               QLatin1String(command.arguments())};
+    return parts.join(QLatin1Char(' ')).simplified();
+}
+
 std::string usage_of(const CLI_COMMAND& command, const QCommandLineParser& parser)
 {
     QString options = parser.helpText();
     options.remove(0, options.indexOf(QLatin1Char('\n')) + 1);
-    return std::string("Usage: gfpdb ") + command.name() + " [options] " + command.arguments() + "\n" +
-           command.summary() + ".\n" + gfpdb_to_utf8(options);
+    return "Usage: " + gfpdb_to_utf8(synopsis(command, "[options]")) + "\n" + command.summary() + ".\n" +
+           gfpdb_to_utf8(options);
 }
 
-// A sentence about what is wrong with the options and arguments; empty when nothing is.
-QString problem_of(const CLI_COMMAND& command, const QCommandLineParser& parser)
+QString problem_of_numbers(const QCommandLineParser& parser)
 {
     const struct
     {
@@ -101,14 +108,39 @@ QString problem_of(const CLI_COMMAND& command, const QCommandLineParser& parser)
                 .arg(range.lowest)
                 .arg(range.highest);
     }
+    return QString();
+}
+
+// A script's variable that was never set: it would stand for the user's own directory, or for every record.
+QString problem_of_empty_texts(const CLI_COMMAND& command, const QCommandLineParser& parser)
+{
+    const QString directory = QLatin1String(CLI_OPTION_DIR);
+    if (parser.isSet(directory) && parser.value(directory).isEmpty())
+        return QStringLiteral("--%1 is empty.").arg(directory);
+    if (parser.positionalArguments().contains(QString()))
+        return QStringLiteral("An argument is empty: %1").arg(synopsis(command));
+    return QString();
+}
+
+QString problem_of_count(const CLI_COMMAND& command, const QCommandLineParser& parser)
+{
     const auto [fewest, most] = command.argument_range();
     const int count = parser.positionalArguments().size();
     if (count < fewest)
-        return QStringLiteral("An argument is missing: gfpdb %1 %2")
-            .arg(QLatin1String(command.name()), QLatin1String(command.arguments()));
+        return QStringLiteral("An argument is missing: %1").arg(synopsis(command));
     if (most >= 0 && count > most)
-        return QStringLiteral("There are too many arguments: gfpdb %1 %2")
-            .arg(QLatin1String(command.name()), QLatin1String(command.arguments()));
+        return QStringLiteral("There are too many arguments: %1").arg(synopsis(command));
+    return QString();
+}
+
+// A sentence about what is wrong with the options and arguments; empty when nothing is.
+QString problem_of(const CLI_COMMAND& command, const QCommandLineParser& parser)
+{
+    for (const QString& problem :
+         {problem_of_numbers(parser), problem_of_empty_texts(command, parser), problem_of_count(command, parser)}) {
+        if (!problem.isEmpty())
+            return problem;
+    }
     return QString();
 }
 

@@ -84,6 +84,8 @@ void CLI_EXPORT_COMMAND::add_options(QCommandLineParser& parser) const
 
 int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
 {
+    if (call.has(CLI_OPTION_OUTPUT) && call.value(CLI_OPTION_OUTPUT).empty())
+        return call.wrong_usage("--output is empty.");
     int exit_code = CLI_EXIT_OK;
     const std::optional<std::vector<CLI_RECORD>> records = collect(call, exit_code);
     if (!records)

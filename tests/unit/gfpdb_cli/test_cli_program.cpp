@@ -98,7 +98,7 @@ void TEST_CLI_PROGRAM::every_command_explains_itself_data()
 {
     QTest::addColumn<QString>("usage");
     QTest::addColumn<QStringList>("options");
-    QTest::newRow("list") << "[options] \nList devices, templates and built-in devices.\n"
+    QTest::newRow("list") << "[options]\nList devices, templates and built-in devices.\n"
                           << QStringList{"--builtin", "--all", "--filter", "--csv", "--json", "--family", "--scheme"};
     QTest::newRow("show") << "[options] NAME\nShow a record with its flows.\n"
                           << QStringList{"--variant", "--json", "--family", "--scheme"};
@@ -106,7 +106,7 @@ void TEST_CLI_PROGRAM::every_command_explains_itself_data()
                             << QStringList{"-o, --output", "--csv", "--family", "--scheme"};
     QTest::newRow("import") << "[options] FILE...\nRead records from files, all or none.\n"
                             << QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme"};
-    QTest::newRow("check") << "[options] \nCheck every record and the database.\n" << QStringList{"--json"};
+    QTest::newRow("check") << "[options]\nCheck every record and the database.\n" << QStringList{"--json"};
     QTest::newRow("history") << "[options] [NAME]\nList former states of records.\n"
                              << QStringList{"--json", "--family", "--scheme"};
     QTest::newRow("restore") << "[options] ID\nBring a former state back.\n" << QStringList();
@@ -141,7 +141,7 @@ void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
     add({"frob"}, "gfpdb: \"frob\" is no command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
     add({"help", "frob"}, "gfpdb: \"frob\" is no command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
     add({"list", "--frob"}, "gfpdb: Unknown option 'frob'.\n");
-    add({"list", "x"}, "gfpdb: There are too many arguments: gfpdb list \n");
+    add({"list", "x"}, "gfpdb: There are too many arguments: gfpdb list\n");
     add({"show"}, "gfpdb: An argument is missing: gfpdb show NAME\n");
     add({"show", "a", "b"}, "gfpdb: There are too many arguments: gfpdb show NAME\n");
     add({"show", "a", "--variant", "triple"}, "gfpdb: \"triple\" is no flow variant. Allowed: single, quad, both.\n");
@@ -150,6 +150,12 @@ void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
     add({"history", "a", "b"}, "gfpdb: There are too many arguments: gfpdb history [NAME]\n");
     add({"restore", "x"}, "gfpdb: \"x\" is no number of the history.\n");
     add({"restore", "99999999999"}, "gfpdb: \"99999999999\" is no number of the history.\n");
+    add({"list", "--dir", ""}, "gfpdb: --dir is empty.\n");
+    add({"list", "-d", ""}, "gfpdb: --dir is empty.\n");
+    add({"export", "-o", ""}, "gfpdb: --output is empty.\n");
+    add({"show", ""}, "gfpdb: An argument is empty: gfpdb show NAME\n");
+    add({"export", "a", ""}, "gfpdb: An argument is empty: gfpdb export [NAME...]\n");
+    add({"diff", "", "b"}, "gfpdb: An argument is empty: gfpdb diff LEFT RIGHT\n");
     add({"list", "--csv", "--json"}, "gfpdb: --csv and --json do not go together.\n");
     for (const char* number : {"0", "73", "x", ""})
         add({"list", "--family", number}, "gfpdb: --family takes a whole number from 1 to 72.\n");
