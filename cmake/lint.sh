@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Static checks over the tree: formatting, clang-tidy, clazy, cppcheck, shell syntax, words that do not belong here.
+# Static checks over the tree: formatting, clang-tidy, clazy, cppcheck, shell syntax, catalogues, documentation.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -59,6 +59,18 @@ white_space() {
     ! sources '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' '*.sh' '*.py' | xargs grep -nP '\t|[ \t]+$'
 }
 
+# What the pages of the documentation point at is there, and every picture is shown on one of them.
+documentation() {
+    local page target picture failed=0
+    while IFS=: read -r page target; do
+        [ -e "$(dirname "$page")/$target" ] || { printf '%s: there is no %s\n' "$page" "$target"; failed=1; }
+    done < <(sources '*.md' | xargs grep -oHP '\]\(\K(?!https?:|#)[^)#\s]+')
+    for picture in $(sources 'docs/images/*'); do
+        sources '*.md' | xargs grep -qF "images/${picture##*/})" || { printf '%s is not shown\n' "$picture"; failed=1; }
+    done
+    return "$failed"
+}
+
 # The catalogues hold the texts of the sources, no more and no fewer; translations/update.sh brings them up to date.
 catalogues() {
     local copies
@@ -81,5 +93,6 @@ check "clazy" clazy_level1
 check "cppcheck" cppcheck_product
 check "shell syntax" shell_syntax
 check "catalogues" catalogues
+check "documentation" documentation
 check "white space" white_space
 exit "$failed"
