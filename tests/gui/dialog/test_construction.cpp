@@ -3,6 +3,8 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLoggingCategory>
+#include <QScopeGuard>
 
 class TEST_CONSTRUCTION : public DIALOG_TEST
 {
@@ -13,6 +15,8 @@ private slots:
     void the_scheme_and_not_the_family_makes_the_manager_active();
     void the_result_of_making_the_scheme_active_is_ignored();
     void without_a_manager_nothing_is_built();
+    void building_the_form_leaves_the_warnings_as_they_were_data();
+    void building_the_form_leaves_the_warnings_as_they_were();
     void the_window_has_a_title_bar_and_a_close_button_only();
     void the_parent_is_the_host_window();
     void the_directory_is_shown_as_latin_1();
@@ -119,6 +123,26 @@ void TEST_CONSTRUCTION::without_a_manager_nothing_is_built()
              list_of({"GFPDB_HELPER.set_active_flash_family(13)", "GFPDB_HELPER.get_active_flash_manager(true)",
                       R"(MSG_INTERNAL_ERROR.report("m_gfpdb_mgr != nullptr", "GFPQ", )"
                       R"("pgm/gfpq/gfpq_dlg", 94))"}));
+}
+
+void TEST_CONSTRUCTION::building_the_form_leaves_the_warnings_as_they_were_data()
+{
+    QTest::addColumn<bool>("heard");
+
+    QTest::newRow("heard") << true;
+    QTest::newRow("silenced by the host") << false;
+}
+
+void TEST_CONSTRUCTION::building_the_form_leaves_the_warnings_as_they_were()
+{
+    QFETCH(const bool, heard);
+    QLoggingCategory& category = *QLoggingCategory::defaultCategory();
+    const auto restore = qScopeGuard([&category] { category.setEnabled(QtWarningMsg, true); });
+    category.setEnabled(QtWarningMsg, heard);
+
+    open();
+
+    QCOMPARE(category.isWarningEnabled(), heard);
 }
 
 void TEST_CONSTRUCTION::the_window_has_a_title_bar_and_a_close_button_only()
