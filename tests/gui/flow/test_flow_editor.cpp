@@ -1,4 +1,5 @@
 // Editing values in the property table of a page.
+#include "code_page.h"
 #include "page_stand.h"
 
 #include <QComboBox>
@@ -6,29 +7,8 @@
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QStringListModel>
-#include <QTextCodec>
 
 #include <limits>
-
-namespace {
-
-// Another code page for local 8-bit texts, for as long as it lives.
-class CODE_PAGE
-{
-public:
-    explicit CODE_PAGE(const char* name) : m_before(QTextCodec::codecForLocale())
-    {
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName(name));
-    }
-    ~CODE_PAGE() { QTextCodec::setCodecForLocale(m_before); }
-    CODE_PAGE(const CODE_PAGE&) = delete;
-    CODE_PAGE& operator=(const CODE_PAGE&) = delete;
-
-private:
-    QTextCodec* m_before;
-};
-
-} // namespace
 
 class TEST_FLOW_EDITOR : public PAGE_TEST
 {
