@@ -27,6 +27,7 @@ class TEST_CODE_PAGE : public DIALOG_TEST
 private slots:
     void a_record_is_shown_in_the_code_page();
     void choices_are_shown_in_the_code_page();
+    void families_keep_their_own_encoding();
     void a_saved_record_has_the_bytes_of_the_code_page();
     void fields_are_checked_in_the_code_page();
     void refusals_are_shown_in_the_code_page_data();
@@ -81,6 +82,20 @@ void TEST_CODE_PAGE::choices_are_shown_in_the_code_page()
     QCOMPARE(items("m_voltage_cbox"), QStringList({qs("volt"), shown("volt ")}));
     QCOMPARE(items("m_density_cbox"), QStringList({qs("dense"), shown("dense ")}));
     QCOMPARE(items("m_flow_template_cbox").last(), shown("template "));
+}
+
+// The host's names of families are UTF-8, whatever the code page.
+void TEST_CODE_PAGE::families_keep_their_own_encoding()
+{
+    mgr().families = {CEDAR, 8};
+    DIALOG_ARGS args;
+    args.family = 8;
+
+    open(args);
+
+    QCOMPARE(items("m_family_cbox"), QStringList({qs("Cedar"), shown("Nu\xC3\x9F"
+                                                                     "baum ")}));
+    QCOMPARE(combo("m_family_cbox").currentIndex(), 1);
 }
 
 void TEST_CODE_PAGE::a_saved_record_has_the_bytes_of_the_code_page()
