@@ -12,6 +12,7 @@
 #include <QScrollArea>
 #include <QSet>
 #include <QTabBar>
+#include <QTranslator>
 
 namespace {
 
@@ -95,6 +96,7 @@ private:
 private slots:
     void editors_are_named_after_their_labels_data();
     void editors_are_named_after_their_labels();
+    void the_colon_of_other_scripts_is_no_part_of_a_name();
     void the_device_table_and_the_parts_of_a_page_have_names();
     void nothing_that_takes_the_focus_is_nameless();
     void a_value_that_is_edited_is_named_after_its_property();
@@ -140,6 +142,27 @@ void TEST_ACCESSIBILITY::editors_are_named_after_their_labels()
     const bool is_combo = qobject_cast<QComboBox*>(&widget) != nullptr;
     const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&widget);
     QCOMPARE(interface->text(is_combo ? QAccessible::Description : QAccessible::Name), name);
+}
+
+void TEST_ACCESSIBILITY::the_colon_of_other_scripts_is_no_part_of_a_name()
+{
+    class WIDE_COLONS : public QTranslator
+    {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(const char*, const char* text, const char*, int) const override
+        {
+            return QString::fromLatin1(text).replace(QLatin1Char(':'), QChar(0xFF1A));
+        }
+    };
+    WIDE_COLONS language;
+    QCoreApplication::installTranslator(&language);
+    const GFPQ_DLG& dialog = open_dialog();
+    QCoreApplication::removeTranslator(&language);
+
+    const QWidget& editor = child<QLineEdit>("m_device_name_edit");
+    QVERIFY(dialog.findChild<QLabel*>(QStringLiteral("m_device_name_label"))->text().contains(QChar(0xFF1A)));
+    QCOMPARE(editor.accessibleName(), QStringLiteral("Device name"));
 }
 
 void TEST_ACCESSIBILITY::the_device_table_and_the_parts_of_a_page_have_names()

@@ -247,6 +247,9 @@ void TEST_FLOW_KEYBOARD::the_mouse_opens_the_menu_where_it_points()
     QApplication::sendEvent(chart().viewport(), &event);
 
     QCOMPARE(m_modals.last().menu_entries, QStringList({QStringLiteral("Refresh")}));
+    // Beside the viewport, on the frame, it opens none.
+    QApplication::sendEvent(&chart(), &event);
+    QCOMPARE(m_modals.met().size(), 1);
 }
 
 void TEST_FLOW_KEYBOARD::a_chart_that_cannot_be_edited_scrolls()

@@ -41,6 +41,7 @@ private slots:
     void the_template_editor_cuts_nothing();
     void the_device_fields_are_wide_enough_for_their_contents();
     void very_long_texts_leave_room_for_the_list();
+    void a_pane_gets_what_its_contents_and_the_area_around_them_take();
     void a_pane_that_is_wide_enough_is_left_alone();
     void the_handle_is_the_users_afterwards();
     void the_host_window_cuts_nothing();
@@ -174,6 +175,33 @@ void TEST_LONG_TEXTS::very_long_texts_leave_room_for_the_list()
 
     QTRY_COMPARE(splitter().sizes().last(), splitter().width() * 66 / 100);
     QVERIFY(splitter().sizes().first() >= splitter().width() * 3 / 10);
+}
+
+void TEST_LONG_TEXTS::a_pane_gets_what_its_contents_and_the_area_around_them_take()
+{
+    class CONTENTS : public QWidget
+    {
+    public:
+        QSize sizeHint() const override { return {300, 1000}; }
+        QSize minimumSizeHint() const override { return {200, 10}; }
+    };
+    QSplitter panes;
+    QScrollArea area;
+    area.setFrameStyle(QFrame::Box);
+    area.setLineWidth(7);
+    area.setWidget(new CONTENTS);
+    panes.addWidget(new QWidget);
+    panes.addWidget(&area);
+    panes.resize(1000, 100);
+    panes.setSizes({900, 100});
+    new GFPQ_PANE_FITTER(panes, area);
+
+    panes.show();
+
+    const int around = 2 * 7 + area.verticalScrollBar()->sizeHint().width();
+    QVERIFY(around > 2 * 7);
+    QTRY_COMPARE(panes.sizes().last(), 300 + around);
+    QCOMPARE(area.minimumWidth(), 200 + around);
 }
 
 void TEST_LONG_TEXTS::a_pane_that_is_wide_enough_is_left_alone()
