@@ -216,7 +216,8 @@ void TST_BAD_FILES::a_truncated_database_is_left_alone()
 void TST_BAD_FILES::a_damaged_page_is_reported_when_it_is_read()
 {
     make_database();
-    std::string content = read_file(m_place->db_file());
+    const std::string sound = read_file(m_place->db_file());
+    std::string content = sound;
     const int root = run_sql(m_place->db_file(), "SELECT rootpage FROM sqlite_master WHERE name = 'device'").toInt();
     const std::size_t page = 4096;
     content.replace(page * std::size_t(root - 1), page, std::string(page, 'x'));
@@ -237,6 +238,13 @@ void TST_BAD_FILES::a_damaged_page_is_reported_when_it_is_read()
     expect_warning_text(told);
     QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
     QCOMPARE(read_file(m_place->db_file()), content);
+
+    // A copy is put back.
+    QVERIFY(QFile::remove(QString::fromStdString(m_place->db_file())));
+    write_file(m_place->db_file(), sound);
+    expect_warning("was replaced or removed by another program");
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+    QVERIFY(m_mgr->find_flash("A", true) != nullptr);
 }
 
 void TST_BAD_FILES::a_directory_that_is_none_is_reported_data()

@@ -47,6 +47,18 @@ std::string schema_of(const std::string& path)
         .toStdString();
 }
 
+// What this process has open in the directory, or had before it was removed.
+QStringList open_files(const std::string& directory)
+{
+    QStringList found;
+    for (const QFileInfo& link : QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::AllEntries | QDir::System)) {
+        if ((link.symLinkTarget() + QLatin1Char('/')).startsWith(QString::fromStdString(directory)))
+            found.append(link.symLinkTarget());
+    }
+    found.sort();
+    return found;
+}
+
 } // namespace
 
 class TST_STORE : public QObject
@@ -63,6 +75,8 @@ private slots:
     void a_newer_schema_is_left_alone();
     void two_programs_make_one_file();
     void commits_reach_the_disk();
+    void nothing_stays_open_but_the_database();
+    void a_removed_database_is_let_go();
 
     void a_row_comes_back_whole();
     void texts_come_back_byte_for_byte_data();
@@ -221,6 +235,25 @@ void TST_STORE::commits_reach_the_disk()
 
     QCOMPARE(pragma("PRAGMA synchronous"), QStringLiteral("2"));
     QCOMPARE(pragma("PRAGMA journal_mode"), QStringLiteral("truncate"));
+}
+
+void TST_STORE::nothing_stays_open_but_the_database()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    QVERIFY(m_store->save_device(make_row("B")));
+
+    QCOMPARE(open_files(m_place->db_dir()), QStringList{QString::fromStdString(m_place->db_file())});
+}
+
+void TST_STORE::a_removed_database_is_let_go()
+{
+    QVERIFY(m_store->save_device(make_row("A")));
+    QVERIFY(QFile::remove(QString::fromStdString(m_place->db_file())));
+    expect_warning("was replaced or removed by another program");
+
+    QCOMPARE(m_store->get_problem(), std::string());
+
+    QCOMPARE(open_files(m_place->db_dir()), QStringList());
 }
 
 void TST_STORE::a_row_comes_back_whole()
