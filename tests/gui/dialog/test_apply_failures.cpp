@@ -13,6 +13,7 @@ private slots:
     void the_flows_are_copies_of_what_was_handed_over();
     void a_second_apply_stores_the_same_flows();
     void a_second_apply_of_a_new_device_takes_the_template_again();
+    void a_template_chosen_after_a_failed_apply_is_shown();
     void a_second_apply_of_a_stored_device_keeps_its_other_variant();
     void the_new_record_stays_current();
     void a_new_device_that_failed_cannot_be_deleted();
@@ -181,6 +182,24 @@ void TEST_APPLY_FAILURES::a_second_apply_of_a_new_device_takes_the_template_agai
         list_of({R"(mgr.delete_flash("<<new device>>", "/db/custom/"))", R"(mgr.save_flash(new:X, "/db/custom/"))"}));
     QCOMPARE(mgr().last_created->flow(2, false), list_of({"0:single 2"}));
     QCOMPARE(mgr().last_created->flow(2, true), list_of({"0:quad 2"}));
+}
+
+void TEST_APPLY_FAILURES::a_template_chosen_after_a_failed_apply_is_shown()
+{
+    mgr().save_succeeds = false;
+    mgr().builtin_template_operations[{1, false}] = make_operations("second");
+    open();
+    edit("m_device_name_edit").setText(QStringLiteral("X"));
+    QVERIFY(!apply());
+    log().clear();
+
+    choose_text("m_flow_template_cbox", QStringLiteral("Built-in B"));
+
+    // The row is still the new device's, while the record that could not be saved is the current one.
+    QCOMPARE(log().calls_of({qs("get_builtin_template_operations"), qs("get_operations"), qs("is_flow_editable")}),
+             list_of({"mgr.get_builtin_template_operations(1, false)", "mgr.is_flow_editable(new:X)"}));
+    for (int operation = 0; operation < 5; ++operation)
+        QCOMPARE(page_flow(operation), QStringList(QStringLiteral("0:second %1").arg(operation)));
 }
 
 void TEST_APPLY_FAILURES::a_second_apply_of_a_stored_device_keeps_its_other_variant()

@@ -75,9 +75,13 @@ void TEST_DIRECTORY::the_edit_shows_what_the_library_made_of_the_directory()
 {
     world().canonical_dir = [](const std::string&) { return std::string("/canonical/"); };
     open();
+    QString shown_meanwhile;
+    log().on_call(qs("can_edit_flow"), [&](const QString&) { shown_meanwhile = edit("m_directory_edit").text(); });
 
     enter("m_directory_edit", QStringLiteral("/other"));
 
+    // After everything else.
+    QCOMPARE(shown_meanwhile, QStringLiteral("/other"));
     QCOMPARE(edit("m_directory_edit").text(), QStringLiteral("/canonical/"));
 }
 

@@ -14,6 +14,7 @@ private slots:
     void choosing_a_template_shows_its_flows_data();
     void choosing_a_template_shows_its_flows();
     void a_template_without_flows_empties_the_pages();
+    void a_template_of_a_device_whose_record_is_gone_shows_nothing();
     void a_templates_flows_are_copies();
     void kinds_of_a_template_that_are_no_page_are_skipped();
     void the_editor_is_opened_with_the_dialogs_manager();
@@ -110,6 +111,19 @@ void TEST_TEMPLATES::a_template_without_flows_empties_the_pages()
     for (int operation = 0; operation < 5; ++operation)
         QCOMPARE(page_flow(operation), QStringList());
     QCOMPARE(log().count(qs("is_flow_editable")), 0);
+}
+
+void TEST_TEMPLATES::a_template_of_a_device_whose_record_is_gone_shows_nothing()
+{
+    mgr().custom_names.push_back("gone");
+    open_with("gone");
+
+    combo("m_flow_template_cbox").setCurrentIndex(2);
+
+    QCOMPARE(log().calls_of({qs("check_string_property")}), list_of({R"(mgr.check_string_property(8, "Built-in C"))"}));
+    QCOMPARE(log().count(qs("get_builtin_template_operations")), 0);
+    for (int operation = 0; operation < 5; ++operation)
+        QCOMPARE(page_flow(operation), QStringList());
 }
 
 void TEST_TEMPLATES::a_templates_flows_are_copies()
