@@ -104,7 +104,7 @@ void share_with_group(const std::string& path, const std::string& directory)
     if (::stat(directory.c_str(), &shared) != 0 || ::stat(path.c_str(), &status) != 0)
         return;
     if ((shared.st_mode & S_IWGRP) != 0 && shared.st_gid == status.st_gid)
-        ::chmod(path.c_str(), (status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) | S_IRGRP | S_IWGRP);
+        ::chmod(path.c_str(), (status.st_mode & (S_IRWXU | S_IRWXO)) | S_IRGRP | S_IWGRP);
 }
 
 void sync_directory(const std::string& directory)

@@ -6,6 +6,7 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -57,7 +58,10 @@ private slots:
 
     void a_link_in_the_place_of_a_companion_file_is_not_followed_data();
     void a_link_in_the_place_of_a_companion_file_is_not_followed();
+    void a_companion_that_is_no_file_is_not_opened_data();
+    void a_companion_that_is_no_file_is_not_opened();
     void a_link_made_while_the_file_is_open_is_not_followed();
+    void a_link_made_before_the_database_is_not_followed();
     void the_companion_files_of_a_linked_database_are_looked_at_too();
 
     void records_of_the_wrong_type_hurt_no_other();
@@ -98,6 +102,7 @@ void TEST_HOSTILE_DATABASE::verify_refused(const std::string& problem)
     expect_warning(problem);
     const std::string told = GFPDB_HELPER::get_database_problem();
     QVERIFY2(told.find(problem) != std::string::npos, told.c_str());
+    QVERIFY(!GFPDB_EMBEDDED_MGR::instance().store().is_readable());
     QCOMPARE(custom_names(*m_mgr), NAMES());
     expect_warning(problem);
     QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
@@ -273,9 +278,39 @@ void TEST_HOSTILE_DATABASE::a_link_in_the_place_of_a_companion_file_is_not_follo
     ::unlink(companion.c_str());
     QCOMPARE(is_hard ? ::link(victim.c_str(), companion.c_str()) : ::symlink(victim.c_str(), companion.c_str()), 0);
 
-    verify_refused(companion + " is a link or no file. Remove it if you did not put it there.");
+    verify_refused("The database " + m_place->db_file() + " is not used: " + companion +
+                   " is a link or no file. Remove it if you did not put it there.");
     QCOMPARE(read_file(victim), std::string("the user's own"));
     ::unlink(companion.c_str());
+    QCOMPARE(custom_names(*fresh_manager()), (NAMES{"A", "B"}));
+}
+
+// A pipe would keep SQLite waiting, a directory be in its way.
+void TEST_HOSTILE_DATABASE::a_companion_that_is_no_file_is_not_opened_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<bool>("is_pipe");
+    for (const char* suffix : {"-journal", "-wal", "-shm"}) {
+        QTest::addRow("pipe%s", suffix) << QString::fromLatin1(suffix) << true;
+        QTest::addRow("directory%s", suffix) << QString::fromLatin1(suffix) << false;
+    }
+}
+
+void TEST_HOSTILE_DATABASE::a_companion_that_is_no_file_is_not_opened()
+{
+    QFETCH(QString, suffix);
+    QFETCH(bool, is_pipe);
+    make_database();
+    GFPDB_EMBEDDED_MGR::instance().store().reload();
+    const std::string companion = m_place->db_file() + suffix.toStdString();
+    ::unlink(companion.c_str());
+    QCOMPARE(is_pipe ? ::mkfifo(companion.c_str(), 0600) : ::mkdir(companion.c_str(), 0700), 0);
+    // With another end, the pipe of this test keeps no one waiting who opens it all the same.
+    const int other_end = is_pipe ? ::open(companion.c_str(), O_RDWR | O_CLOEXEC) : -1;
+
+    verify_refused(companion + " is a link or no file.");
+    ::close(other_end);
+    QCOMPARE(std::remove(companion.c_str()), 0);
     QCOMPARE(custom_names(*fresh_manager()), (NAMES{"A", "B"}));
 }
 
@@ -292,6 +327,20 @@ void TEST_HOSTILE_DATABASE::a_link_made_while_the_file_is_open_is_not_followed()
     expect_warning("is a link or no file");
     QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
     QCOMPARE(custom_names(*m_mgr), NAMES());
+    QCOMPARE(read_file(victim), std::string("the user's own"));
+}
+
+// There is no database yet, so nothing is wrong until the first change has made it.
+void TEST_HOSTILE_DATABASE::a_link_made_before_the_database_is_not_followed()
+{
+    const std::string victim = m_place->path("victim");
+    write_file(victim, "the user's own");
+    QCOMPARE(::symlink(victim.c_str(), (m_place->db_file() + "-journal").c_str()), 0);
+    m_mgr = fresh_manager();
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+
+    expect_warning("is a link or no file");
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
     QCOMPARE(read_file(victim), std::string("the user's own"));
 }
 

@@ -5,6 +5,10 @@
 
 #include <QDirIterator>
 
+#include <algorithm>
+#include <optional>
+#include <vector>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,6 +44,18 @@ QStringList writable_by_everyone(const std::string& directory)
     return names;
 }
 
+// A group besides his first one that the user may give what is his to: any for root, for others one that they are in as
+// well. None for a user of a single group.
+std::optional<gid_t> other_group()
+{
+    if (::geteuid() == 0)
+        return ::getegid() + 1;
+    std::vector<gid_t> groups(std::size_t(std::max(0, ::getgroups(0, nullptr))));
+    groups.resize(std::size_t(std::max(0, ::getgroups(int(groups.size()), groups.data()))));
+    const auto other = std::find_if(groups.begin(), groups.end(), [](gid_t group) { return group != ::getegid(); });
+    return other == groups.end() ? std::nullopt : std::optional<gid_t>(*other);
+}
+
 } // namespace
 
 class TEST_PERMISSIONS : public QObject
@@ -55,6 +71,7 @@ private slots:
     void the_database_of_a_group_directory_is_the_groups_data();
     void the_database_of_a_group_directory_is_the_groups();
     void a_file_of_another_group_stays_the_users();
+    void a_file_that_the_directory_gives_its_group_is_the_groups();
     void settings_that_everyone_could_write_are_mended();
 
 private:
@@ -135,17 +152,33 @@ void TEST_PERMISSIONS::the_database_of_a_group_directory_is_the_groups()
     QCOMPARE(mode_of(m_place->db_file() + "-journal"), file_mode);
 }
 
-// Without the directory's mark for it, a new file belongs to its maker's first group, which may be everyone's. Needs a
-// user who may give the directory to another group; for any other user there is nothing to see.
+// Without the directory's mark for it, a new file belongs to its maker's first group, which may be everyone's. Who can
+// give the directory to no other group has nothing to see here but that it stays his own group's.
 void TEST_PERMISSIONS::a_file_of_another_group_stays_the_users()
 {
-    const gid_t other_group = ::getegid() + 1;
-    const bool is_given = ::chown(m_place->db_dir().c_str(), uid_t(-1), other_group) == 0;
+    const std::optional<gid_t> group = other_group();
+    if (group)
+        QCOMPARE(::chown(m_place->db_dir().c_str(), uid_t(-1), *group), 0);
     QCOMPARE(::chmod(m_place->db_dir().c_str(), 0775), 0);
     const MASK mask(022);
     save_device();
 
-    QCOMPARE(mode_of(m_place->db_file()), is_given ? 0644 : 0664);
+    QCOMPARE(mode_of(m_place->db_file()), group ? 0644 : 0664);
+}
+
+// The mark makes a new file the directory's group's, whatever the groups of its maker.
+void TEST_PERMISSIONS::a_file_that_the_directory_gives_its_group_is_the_groups()
+{
+    const gid_t group = other_group().value_or(::getegid());
+    QCOMPARE(::chown(m_place->db_dir().c_str(), uid_t(-1), group), 0);
+    QCOMPARE(::chmod(m_place->db_dir().c_str(), 02775), 0);
+    const MASK mask(022);
+    save_device();
+
+    struct stat status = {};
+    QCOMPARE(::stat(m_place->db_file().c_str(), &status), 0);
+    QCOMPARE(status.st_gid, group);
+    QCOMPARE(mode_of(m_place->db_file()), 0664);
 }
 
 void TEST_PERMISSIONS::settings_that_everyone_could_write_are_mended()
