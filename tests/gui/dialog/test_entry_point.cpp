@@ -81,6 +81,8 @@ void TEST_ENTRY_POINT::the_record_has_its_fields_in_order()
         return static_cast<std::size_t>(static_cast<const char*>(member) - start);
     };
 
+    QCOMPARE(args.family, 0);
+    QCOMPARE(args.config_scheme, 0);
     QCOMPARE(offset_of(&args.family), std::size_t(0));
     QCOMPARE(offset_of(&args.config_scheme), sizeof(std::int32_t));
     QCOMPARE(offset_of(&args.device_name), 2 * sizeof(std::int32_t));
@@ -337,7 +339,8 @@ void TEST_ENTRY_POINT::without_an_application_nothing_is_shown()
 
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
     QCOMPARE(child.exitCode(), 0);
-    QVERIFY(child.readAllStandardError().contains("QApplication"));
+    QVERIFY(child.readAllStandardError().contains(
+        "The Configuration Device dialog needs a QApplication, and there is none.\n"));
 }
 
 GFPQ_TEST_MAIN(TEST_ENTRY_POINT)

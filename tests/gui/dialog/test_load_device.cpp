@@ -80,6 +80,9 @@ void TEST_LOAD_DEVICE::the_calls_of_a_selection_come_in_order()
     QStringList made = calls();
     made.removeAll(QStringLiteral("flash:A.is_user_defined()"));
     COMPARE_CALLS(made, expected);
+    // The fields are enabled before the pages are: whether a field is used is not asked once flows are.
+    const QStringList all = log().calls();
+    QVERIFY(all.lastIndexOf(used.last()) < all.indexOf(QStringLiteral("mgr.can_edit_flow()")));
 }
 
 void TEST_LOAD_DEVICE::the_fields_show_the_record()
