@@ -90,6 +90,15 @@ std::string json(const std::vector<LISTED>& records)
     return json_write(list);
 }
 
+// Qt's own wildcards are for paths: their star ends at a slash, which a name may have.
+QRegularExpression wildcard(const QString& pattern)
+{
+    QString expression = QRegularExpression::escape(pattern);
+    expression.replace(QLatin1String("\\*"), QLatin1String(".*")).replace(QLatin1String("\\?"), QLatin1String("."));
+    return QRegularExpression(QRegularExpression::anchoredPattern(expression),
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
 std::vector<LISTED> find(const CLI_CALL& call)
 {
     std::vector<LISTED> found;
@@ -102,9 +111,7 @@ std::vector<LISTED> find(const CLI_CALL& call)
         for (const CLI_RECORD& record : call.database.find_builtin(selection))
             found.push_back({record, true});
     }
-    const QRegularExpression filter(
-        QRegularExpression::wildcardToRegularExpression(gfpdb_from_utf8(call.value(OPTION_FILTER))),
-        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpression filter = wildcard(gfpdb_from_utf8(call.value(OPTION_FILTER)));
     const auto is_out = [&filter](const LISTED& listed) {
         return !filter.match(gfpdb_from_utf8(listed.record.name())).hasMatch();
     };

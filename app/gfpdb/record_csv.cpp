@@ -74,13 +74,26 @@ bool check_columns(const GFPDB_CSV_ROW& head, std::vector<CLI_PROBLEM>& problems
         if (!is_one_of(head.cells, COLUMNS[at]))
             problems.push_back({head.line, COLUMNS[at], "The column is missing."});
     }
+    std::vector<std::string> seen;
     for (const std::string& column : head.cells) {
         if (!is_one_of(COLUMNS, column))
             problems.push_back({head.line, column, "The column is not known. Allowed: " + gfpdb_joined(COLUMNS) + "."});
-        else if (std::count(head.cells.begin(), head.cells.end(), column) > 1)
+        else if (is_one_of(seen, column))
             problems.push_back({head.line, column, "The column occurs twice."});
+        seen.push_back(column);
     }
     return problems.size() == before;
+}
+
+// What is wrong with the row as such; empty when nothing is.
+std::string problem_of(const GFPDB_CSV_ROW& row, std::size_t columns)
+{
+    if (row.quote_is_open)
+        return "A quote that opens in this row is never closed.";
+    if (row.cells.size() == columns)
+        return std::string();
+    return "The row has " + std::to_string(row.cells.size()) + (row.cells.size() == 1 ? " cell" : " cells") +
+           ", the line of column names has " + std::to_string(columns) + ".";
 }
 
 // A row as the JSON object with the same content, so that both formats have the same rules.
@@ -124,12 +137,11 @@ std::vector<CLI_RECORD> records_from_csv(const std::string& text, GFPDB_MGR& man
         return records;
     RECORD_READER reader(manager, checked ? RECORD_RULES::ALL : RECORD_RULES::NAMES, family, scheme);
     for (std::size_t at = 1; at < rows.size(); ++at) {
-        if (rows[at].cells.size() == head.cells.size())
+        const std::string problem = problem_of(rows[at], head.cells.size());
+        if (problem.empty())
             records.push_back(reader.read_record(object_of(head, rows[at]), false, ""));
         else
-            problems.push_back({rows[at].line, "",
-                                "The row has " + std::to_string(rows[at].cells.size()) +
-                                    " cells, the line of column names has " + std::to_string(head.cells.size()) + "."});
+            problems.push_back({rows[at].line, "", problem});
     }
     for (CLI_PROBLEM problem : reader.problems()) {
         problem.field.erase(0, problem.field.rfind('.') + 1);

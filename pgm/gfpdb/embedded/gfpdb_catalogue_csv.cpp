@@ -87,6 +87,7 @@ private:
         if (!m_row.cells.empty() || !m_cell.empty()) {
             end_cell();
             m_row.line = m_row_line;
+            m_row.quote_is_open = m_quoted;
             m_rows.push_back(m_row);
         }
         m_row = GFPDB_CSV_ROW();

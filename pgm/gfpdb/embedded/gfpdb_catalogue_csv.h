@@ -25,6 +25,8 @@ struct GFPDB_CSV_ROW
 {
     int line = 0;
     std::vector<std::string> cells;
+    // The last row's last cell begins with a quote that is never closed: it holds all the rest of the text.
+    bool quote_is_open = false;
 };
 
 struct GFPDB_CATALOGUE_CONTENT

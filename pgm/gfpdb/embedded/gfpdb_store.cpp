@@ -14,6 +14,8 @@
 #include <QSysInfo>
 #include <QVariant>
 
+#include <algorithm>
+
 #include <unistd.h>
 
 namespace {
@@ -254,7 +256,9 @@ bool GFPDB_STORE::check_integrity()
         return m_last_error.empty();
     if (!next_row(query))
         return false;
-    const std::string verdict = text_at(query, 0);
+    std::string verdict = text_at(query, 0);
+    // The reason is one line, as every other.
+    std::replace(verdict.begin(), verdict.end(), '\n', ' ');
     return verdict == "ok" || fail("The database in " + m_directory + " is damaged: " + verdict);
 }
 

@@ -11,6 +11,7 @@ private slots:
     void check_finds_what_breaks_the_rules();
     void check_finds_flows_that_cannot_be_read();
     void check_finds_damage();
+    void what_sqlite_says_in_several_lines_is_printed_in_one();
 };
 
 void TEST_CLI_CHECK::check_finds_what_breaks_the_rules()
@@ -89,6 +90,26 @@ void TEST_CLI_CHECK::check_finds_damage()
     QVERIFY2(run.err.contains("is damaged"), run.err.constData());
     const TOOL_RUN as_json = run_tool({"check", "--json", "-d", q(place.db_dir())});
     QVERIFY(json(as_json).object().value("integrity").toString().contains("is damaged"));
+}
+
+void TEST_CLI_CHECK::what_sqlite_says_in_several_lines_is_printed_in_one()
+{
+    const GFPDB_PLACE place;
+    save_part("Mine");
+    QFile file(q(place.db_file()));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    constexpr int PAGE_SIZE = 4096;
+    file.seek(file.size() - PAGE_SIZE);
+    file.write(QByteArray(PAGE_SIZE, '\xFF'));
+    file.close();
+
+    const TOOL_RUN run = run_tool({"check", "-d", q(place.db_dir())});
+
+    QCOMPARE(run.exit_code, 5);
+    QVERIFY2(run.err.startsWith("gfpdb: The database in " + QByteArray::fromStdString(place.db_dir()) +
+                                " is damaged: *** in database main *** On tree page "),
+             run.err.constData());
+    QCOMPARE(run.err.count('\n'), 1);
 }
 
 QTEST_GUILESS_MAIN(TEST_CLI_CHECK)

@@ -88,7 +88,11 @@ void TEST_CLI_LISTS::mistakes_in_a_list_are_reported_with_line_and_column_data()
     add("name,family,scheme,price\n",
         {"1: price: The column is not known. Allowed: name, family, scheme, device_id, voltage, density, total_die, "
          "single_io_dummy_clock, quad_io_dummy_clock, template_name, flow_template."});
-    add("name,family,scheme,name\n", {"1: name: The column occurs twice.", "1: name: The column occurs twice."});
+    add("name,family,scheme,name\n", {"1: name: The column occurs twice."});
+    add("name,family,scheme,device_id\nA\n", {"2: : The row has 1 cell, the line of column names has 4."});
+    // Even where the cells are as many as the columns: the rows behind the quote would be lost without a word.
+    add("name,family,scheme,device_id\nA,3,7,\"C2\nB,3,7,C2\n",
+        {"2: : A quote that opens in this row is never closed."});
     add("name,family,scheme,device_id\nA,3,7\n", {"2: : The row has 3 cells, the line of column names has 4."});
     add("name,family,scheme,device_id\nA,3,7,C2\nB,three,7,C2\n",
         {"3: family: A whole number or null was expected, but this is a text.",

@@ -66,6 +66,7 @@ void TEST_CLI_SHOW::list_filters_by_name_and_place()
     save_part("Alpha", FAMILY, SERIAL, "Template");
     save_part("Alpha two", FAMILY, QUAD);
     save_part("Beta", OTHER_FAMILY, SERIAL);
+    save_part("[G]/2.5\\", OTHER_FAMILY, QUAD);
     const auto listed = [&place](const QStringList& options) {
         return names(json(run_tool(QStringList{"list", "-d", q(place.db_dir()), "--json"} + options)));
     };
@@ -73,9 +74,16 @@ void TEST_CLI_SHOW::list_filters_by_name_and_place()
     QCOMPARE(listed({"--filter", "B?ta"}), QStringList{"Beta"});
     QCOMPARE(listed({"--filter", "Alph"}), QStringList());
     QCOMPARE(listed({"--filter", "["}), QStringList());
+    QCOMPARE(run_tool({"list", "--filter", "["}).err, QByteArray());
+    // A name is no path and no expression.
+    const QString odd = "[G]/2.5\\";
+    for (const QString& pattern : {odd, QString("[g*"), QString("*5?"), QString("*/*"), QString("[G]?2.5?")})
+        QCOMPARE(listed({"--filter", pattern}), QStringList{odd});
+    for (const QString& pattern : {QString("[G]/2?5"), QString("[Gg]*"), QString("?"), QString("*lpha|*eta")})
+        QCOMPARE(listed({"--filter", pattern}), QStringList());
     QCOMPARE(listed({"--family", "3"}), (QStringList{"Alpha", "Alpha two", "Template"}));
     QCOMPARE(listed({"--scheme", "7"}), (QStringList{"Alpha", "Beta", "Template"}));
-    QCOMPARE(listed({"--family", "5", "--scheme", "13"}), QStringList{"Template"});
+    QCOMPARE(listed({"--family", "5", "--scheme", "13"}), (QStringList{odd, "Template"}));
 }
 
 void TEST_CLI_SHOW::list_prints_json_and_csv()
