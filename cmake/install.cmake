@@ -53,12 +53,26 @@ install(FILES ${host_texts} DESTINATION ${GFPQ_DATADIR}/translations COMPONENT r
 install(FILES ${PROJECT_SOURCE_DIR}/host/dstr/data/families.csv ${PROJECT_SOURCE_DIR}/pgm/gfpdb/data/serial_nor.csv
     DESTINATION ${GFPQ_DATADIR} COMPONENT runtime)
 
+# gfpq_install_compressed(file destination component): as file.gz, without a time, so that it is the same each time.
+find_program(GZIP gzip REQUIRED)
+function(gfpq_install_compressed file destination component)
+    get_filename_component(name ${file} NAME)
+    set(compressed ${PROJECT_BINARY_DIR}/compressed/${name}.gz)
+    if(NOT TARGET compressed_${name})
+        file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/compressed)
+        add_custom_command(OUTPUT ${compressed}
+            COMMAND sh -c "\"$1\" -9nc \"$2\" >\"$3\"" sh ${GZIP} ${file} ${compressed} DEPENDS ${file} VERBATIM)
+        add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
+    endif()
+    install(FILES ${compressed} DESTINATION ${destination} COMPONENT ${component})
+endfunction()
+
 # What a desktop and a shell look for.
 install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.desktop DESTINATION share/applications COMPONENT runtime)
 install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.svg
     DESTINATION share/icons/hicolor/scalable/apps COMPONENT runtime)
-install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.1 ${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.1
-    DESTINATION share/man/man1 COMPONENT runtime)
+gfpq_install_compressed(${PROJECT_SOURCE_DIR}/packaging/gfpq_host.1 share/man/man1 runtime)
+gfpq_install_compressed(${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.1 share/man/man1 runtime)
 install(FILES ${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.bash
     DESTINATION share/bash-completion/completions RENAME gfpdb COMPONENT runtime)
 
@@ -67,6 +81,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
     DESTINATION share/doc/gfpq COMPONENT runtime)
 install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright DESTINATION share/doc/gfpq COMPONENT runtime)
 install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright DESTINATION share/doc/gfpq-dev COMPONENT development)
+gfpq_install_compressed(${PROJECT_SOURCE_DIR}/packaging/changelog share/doc/gfpq runtime)
+gfpq_install_compressed(${PROJECT_SOURCE_DIR}/packaging/changelog share/doc/gfpq-dev development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION share/doc/gfpq/docs COMPONENT runtime
     FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "example-host" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/example-host DESTINATION share/doc/gfpq-dev COMPONENT development)

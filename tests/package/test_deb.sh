@@ -33,12 +33,13 @@ step "what is in them"
 dpkg-deb --contents "$RUNTIME" >runtime.txt
 dpkg-deb --contents "$DEVELOPMENT" >development.txt
 for file in usr/bin/gfpq_host usr/bin/gfpdb usr/lib/gfpq/libpgm_gfpq.so usr/lib/gfpq/libgfpdb.so \
-    usr/share/gfpq/families.csv usr/share/gfpq/translations/gfpq_host_ja.qm usr/share/man/man1/gfpdb.1 \
+    usr/share/gfpq/families.csv usr/share/gfpq/translations/gfpq_host_ja.qm usr/share/man/man1/gfpdb.1.gz \
     usr/share/applications/gfpq_host.desktop usr/share/icons/hicolor/scalable/apps/gfpq_host.svg \
-    usr/share/doc/gfpq/copyright; do
+    usr/share/doc/gfpq/copyright usr/share/doc/gfpq/changelog.gz; do
     grep -q " ./$file$" runtime.txt || fail "gfpq has no $file"
 done
-for file in usr/include/gfpq/gfpq_dyn_dlg.h usr/include/gfpq/gfpdb/gfpdb_mgr.h usr/lib/cmake/gfpq/gfpqConfig.cmake; do
+for file in usr/include/gfpq/gfpq_dyn_dlg.h usr/include/gfpq/gfpdb/gfpdb_mgr.h usr/lib/cmake/gfpq/gfpqConfig.cmake \
+    usr/share/doc/gfpq-dev/changelog.gz; do
     grep -q " ./$file$" development.txt || fail "gfpq-dev has no $file"
 done
 ! grep -q '/usr/include\|/cmake/' runtime.txt || fail "gfpq has development files"
