@@ -179,15 +179,14 @@ def choose(files, wanted, patterns, rng):
 
 
 def choose_again(patterns):
-    """What survived the last run, as far as the lines are still there."""
-    survived = json.loads(REPORT.read_text(encoding="utf-8"))["survived"]
+    """What survived the last run, wherever the same text now stands in the file."""
+    survived = {without_line(each) for each in json.loads(REPORT.read_text(encoding="utf-8"))["survived"]}
     pools = {}
-    for path in {description.split(":", 1)[0] for description in survived}:
-        texts = [without_line(description) for description in survived if description.startswith(path + ":")]
-        found = {without_line(each.describe()): each for each in alterations_of(path)
-                 if not is_unnoticeable(each, patterns)}
-        pools[path] = [found[text] for text in texts if text in found]
-    pools = {path: pool for path, pool in sorted(pools.items()) if pool}
+    for path in sorted({description.split(" ", 1)[0] for description in survived}):
+        pool = [each for each in alterations_of(path)
+                if without_line(each.describe()) in survived and not is_unnoticeable(each, patterns)]
+        if pool:
+            pools[path] = pool
     return pools, {path: len(pool) for path, pool in pools.items()}
 
 
