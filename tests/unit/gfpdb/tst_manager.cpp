@@ -22,6 +22,8 @@ class TST_MANAGER : public MANAGER_TEST
     Q_OBJECT
 
 private slots:
+    void initTestCase();
+
     void the_flow_variant_is_quad_for_active_serial_x4_alone();
     void what_a_scheme_allows_follows_from_its_kind();
     void lists_follow_the_kind_of_the_scheme();
@@ -36,6 +38,16 @@ private slots:
     void builtin_devices_are_found_without_regard_to_case();
     void unknown_properties_of_a_builtin_part_are_not_set();
 };
+
+// The manager lives as long as the process: only before the first test has nobody set a family.
+void TST_MANAGER::initTestCase()
+{
+    const GFPDB_PLACE place;
+    const GFPDB_MGR* const manager = GFPDB_HELPER::get_active_flash_manager(true);
+    std::vector<int> schemes;
+    QCOMPARE(manager->get_device_family(), 0);
+    QCOMPARE(manager->get_config_scheme_list(schemes), std::vector<int>());
+}
 
 void TST_MANAGER::the_flow_variant_is_quad_for_active_serial_x4_alone()
 {

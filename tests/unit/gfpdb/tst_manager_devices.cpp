@@ -3,6 +3,8 @@
 #include "gfpdb_flow_templates.h"
 #include "manager_test.h"
 
+#include <functional>
+
 class TST_MANAGER_DEVICES : public MANAGER_TEST
 {
     Q_OBJECT
@@ -19,6 +21,7 @@ private slots:
     void a_rename_interrupted_after_the_delete_can_be_undone();
     void a_device_can_be_saved_in_another_directory();
     void a_record_that_is_not_stored_cannot_be_saved_without_a_flash();
+    void a_success_clears_the_last_error();
     void saving_refuses_names_that_are_taken_data();
     void saving_refuses_names_that_are_taken();
     void saving_refuses_text_that_is_not_utf8();
@@ -194,9 +197,24 @@ void TST_MANAGER_DEVICES::a_record_that_is_not_stored_cannot_be_saved_without_a_
     m_mgr->set_config_scheme(PGMIO_SDMMC_X8);
     QCOMPARE(save_error("A"), std::string("was saved"));
     QCOMPARE(m_mgr->get_last_error(), std::string());
-    QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
-    QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
-    QCOMPARE(m_mgr->get_last_error(), std::string());
+}
+
+void TST_MANAGER_DEVICES::a_success_clears_the_last_error()
+{
+    save("A", "T");
+    const std::vector<std::function<bool()>> calls = {
+        [&] { return m_mgr->find_flash("A", true) != nullptr; },
+        [&] { return m_mgr->get_template_operations("T", SINGLE_IO) != nullptr; },
+        [&] { return m_mgr->remove_template("T"); },
+        [&] { return m_mgr->delete_flash("A", m_place->db_dir()); },
+        [&] { return m_mgr->restore_flash(2, m_place->db_dir()); },
+    };
+    for (const auto& call : calls) {
+        QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
+        QVERIFY(!m_mgr->get_last_error().empty());
+        QVERIFY(call());
+        QCOMPARE(m_mgr->get_last_error(), std::string());
+    }
 }
 
 void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()
