@@ -1,6 +1,8 @@
 // The device table: its rows and how they are shown, rebuilt, selected and filtered.
 #include "dialog_test.h"
 
+#include "marking_translator.h"
+
 #include <QHeaderView>
 
 class TEST_DEVICE_LIST : public DIALOG_TEST
@@ -13,6 +15,7 @@ private slots:
     void names_are_asked_for_the_current_family_and_mode();
     void rows_cannot_be_edited();
     void the_table_is_set_up();
+    void its_heading_is_translated();
     void the_new_device_row_is_never_translated();
     void a_rebuild_removes_and_inserts_in_one_step_each();
     void a_name_is_selected_exactly_data();
@@ -98,6 +101,14 @@ void TEST_DEVICE_LIST::rows_cannot_be_edited()
 
     for (int row = 0; row < device_model().rowCount(); ++row)
         QVERIFY(!device_model().item(row)->isEditable());
+}
+
+void TEST_DEVICE_LIST::its_heading_is_translated()
+{
+    const MARKING_TRANSLATOR translator("gfpq_dlg");
+    open();
+
+    QCOMPARE(device_model().headerData(0, Qt::Horizontal).toString(), QStringLiteral("[Name]"));
 }
 
 void TEST_DEVICE_LIST::the_table_is_set_up()

@@ -1,6 +1,8 @@
 // The custom database directory, typed by the user.
 #include "dialog_test.h"
 
+#include "marking_translator.h"
+
 #include <QFocusEvent>
 
 namespace {
@@ -34,6 +36,7 @@ private slots:
     void empty_edit_and_empty_directory_change_nothing();
     void a_refused_directory_is_put_back_and_told();
     void a_refused_directory_is_told_as_it_was_typed();
+    void a_refused_directory_is_told_in_the_users_language();
     void a_directory_with_other_letters_is_kept_byte_for_byte();
     void a_typed_directory_goes_out_as_local_8_bit();
     void a_manager_that_is_gone_is_an_internal_error();
@@ -253,6 +256,18 @@ void TEST_DIRECTORY::a_refused_directory_is_put_back_and_told()
     QVERIFY(box.is_modal);
     QVERIFY(!box.has_parent);
     QCOMPARE(current_row(), QStringLiteral("A"));
+}
+
+void TEST_DIRECTORY::a_refused_directory_is_told_in_the_users_language()
+{
+    const MARKING_TRANSLATOR translator("gfpq_dlg");
+    open();
+    world().save_dir_succeeds = false;
+    m_modals.expect(MODAL_DRIVER::accept());
+
+    enter("m_directory_edit", QStringLiteral("/no"));
+
+    QCOMPARE(m_modals.last().text, QStringLiteral("[Failed to set the custom database directory to ]/no\n"));
 }
 
 void TEST_DIRECTORY::a_refused_directory_is_told_as_it_was_typed()

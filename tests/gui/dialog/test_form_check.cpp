@@ -1,6 +1,8 @@
 // The check of the whole form before anything is saved: what is asked in which order, and what the user is told.
 #include "dialog_test.h"
 
+#include "marking_translator.h"
+
 namespace {
 
 // The text of the box for an error on one tab.
@@ -34,6 +36,7 @@ private slots:
     void a_template_name_in_another_case_is_accepted();
     void the_librarys_refusal_of_a_template_name_comes_first();
     void names_with_place_markers_are_told_as_they_stand();
+    void what_the_user_is_told_is_translated();
 
 private:
     void fill_world() override;
@@ -326,6 +329,23 @@ void TEST_FORM_CHECK::names_with_place_markers_are_told_as_they_stand()
     QCOMPARE(
         m_modals.last().text,
         heading("Configuration Device", "Tempate name '%2 <i>%1</i>' is conflicts with the device name %2 <i>%1</i>."));
+}
+
+void TEST_FORM_CHECK::what_the_user_is_told_is_translated()
+{
+    const MARKING_TRANSLATOR translator("gfpq_dlg");
+    open();
+    edit("m_device_name_edit").setText(QStringLiteral("X"));
+    check("m_save_template_check").setChecked(true);
+    edit("m_template_name_edit").setText(QStringLiteral("X"));
+    m_modals.expect(MODAL_DRIVER::accept());
+
+    QVERIFY(!apply());
+
+    QCOMPARE(m_modals.last().text,
+             QLatin1Char('[') +
+                 heading("[Configuration Device]", "[Tempate name 'X' is conflicts with the device name X.]") +
+                 QLatin1Char(']'));
 }
 
 GFPQ_TEST_MAIN(TEST_FORM_CHECK)
