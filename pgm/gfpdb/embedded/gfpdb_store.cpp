@@ -12,7 +12,6 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSysInfo>
-#include <QVariant>
 
 #include <algorithm>
 
@@ -44,14 +43,20 @@ constexpr char REASON_DELETED[] = "deleted";
 constexpr int HISTORY_COLUMNS = 5;
 constexpr int SCALAR_COLUMNS = 12;
 
-void bind_text(QSqlQuery& query, const std::string& text)
+QByteArray bytes_of(const std::string& text)
 {
-    query.addBindValue(QByteArray(text.data(), static_cast<int>(text.size())));
+    return QByteArray(text.data(), static_cast<int>(text.size()));
 }
 
-void bind_number(QSqlQuery& query, const std::optional<int>& number)
+// A name as the statements compare it.
+QByteArray key_of(const std::string& name)
 {
-    query.addBindValue(number ? QVariant(*number) : QVariant(QVariant::Int));
+    return bytes_of(gfpdb_name_key(name));
+}
+
+QVariant value_of(const std::optional<int>& number)
+{
+    return number ? QVariant(*number) : QVariant(QVariant::Int);
 }
 
 QString now()
@@ -66,12 +71,10 @@ QString here()
     return (user.isEmpty() ? QString::number(::geteuid()) : user) + QLatin1Char('@') + QSysInfo::machineHostName();
 }
 
-void bind_history(QSqlQuery& query, bool is_template, const char* reason)
+// What GFPDB_TO_HISTORY asks for.
+QVariantList history_values(bool is_template, const char* reason)
 {
-    query.addBindValue(is_template ? 1 : 0);
-    query.addBindValue(QLatin1String(reason));
-    query.addBindValue(now());
-    query.addBindValue(here());
+    return {is_template ? 1 : 0, QLatin1String(reason), now(), here()};
 }
 
 std::string device_in_the_way(const std::string& name)
@@ -84,26 +87,38 @@ std::string template_in_the_way(const std::string& name)
     return "There is a stored template called " + gfpdb_quoted(name) + " already.";
 }
 
-void bind_row(QSqlQuery& query, const GFPDB_ROW& row)
+// What GFPDB_VALUES asks for.
+QVariantList values_of(const GFPDB_ROW& row)
 {
-    query.addBindValue(row.family);
-    query.addBindValue(row.scheme);
-    for (const std::string* text : {&row.name, &row.device_id, &row.voltage, &row.density})
-        bind_text(query, *text);
-    for (const std::optional<int>* number : {&row.total_die, &row.single_io_dummy_clock, &row.quad_io_dummy_clock})
-        bind_number(query, *number);
-    bind_text(query, row.template_name);
-    bind_text(query, row.flow_template);
-    query.addBindValue(gfpdb_from_utf8(row.revision));
-    query.addBindValue(now());
-    bind_text(query, row.single_flows);
-    bind_text(query, row.quad_flows);
+    return {row.family,
+            row.scheme,
+            bytes_of(row.name),
+            bytes_of(row.device_id),
+            bytes_of(row.voltage),
+            bytes_of(row.density),
+            value_of(row.total_die),
+            value_of(row.single_io_dummy_clock),
+            value_of(row.quad_io_dummy_clock),
+            bytes_of(row.template_name),
+            bytes_of(row.flow_template),
+            gfpdb_from_utf8(row.revision),
+            now(),
+            bytes_of(row.single_flows),
+            bytes_of(row.quad_flows)};
 }
 
 std::string text_at(const QSqlQuery& query, int column)
 {
     const QByteArray bytes = query.value(column).toByteArray();
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+// As text_at(), on one line.
+std::string line_at(const QSqlQuery& query, int column)
+{
+    std::string line = text_at(query, column);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    return line;
 }
 
 std::optional<int> number_at(const QSqlQuery& query, int column)
@@ -151,9 +166,9 @@ GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
 
 } // namespace
 
-bool GFPDB_STORE::start_read(QSqlQuery& query, const char* statement)
+bool GFPDB_STORE::start_read(QSqlQuery& query, const char* statement, const QVariantList& values)
 {
-    return prepare_read() && (prepare(query, statement) || note_read_problem());
+    return prepare_read() && (prepare(query, statement, values) || note_read_problem());
 }
 
 // The next row of `query`, which is run when it has no row yet; false at the end and, with the problem kept, on
@@ -165,11 +180,10 @@ bool GFPDB_STORE::next_row(QSqlQuery& query)
         m_read_problem.clear();
     if (is_run && query.next())
         return true;
-    if (query.lastError().isValid()) {
-        fail(query.lastError());
-        note_read_problem();
-    }
-    return false;
+    if (!query.lastError().isValid())
+        return false;
+    fail(query.lastError());
+    return note_read_problem();
 }
 
 // A lock is forgotten when a read succeeds again; damage stays known until the file is opened anew.
@@ -192,10 +206,9 @@ std::vector<std::string> GFPDB_STORE::read_names(QSqlQuery& query)
 std::vector<std::string> GFPDB_STORE::get_device_names(int family, int scheme)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? ORDER BY name_key"))
+    if (!start_read(query, "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? ORDER BY name_key",
+                    {family, scheme}))
         return {};
-    query.addBindValue(family);
-    query.addBindValue(scheme);
     return read_names(query);
 }
 
@@ -210,42 +223,38 @@ std::vector<std::string> GFPDB_STORE::get_template_names()
 std::optional<GFPDB_ROW> GFPDB_STORE::find_device(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT " GFPDB_ALL_READ
-                           " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)"))
+    if (!start_read(query,
+                    "SELECT " GFPDB_ALL_READ
+                    " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                    {family, scheme, key_of(name)}))
         return std::nullopt;
-    query.addBindValue(family);
-    query.addBindValue(scheme);
-    bind_text(query, gfpdb_name_key(name));
     return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
 }
 
 std::optional<GFPDB_ROW> GFPDB_STORE::find_template(const std::string& template_name)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)"))
+    if (!start_read(query, "SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)",
+                    {key_of(template_name)}))
         return std::nullopt;
-    bind_text(query, gfpdb_name_key(template_name));
     return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
 }
 
 std::string GFPDB_STORE::get_device_revision(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT revision FROM device WHERE family = ? AND scheme = ? AND "
-                           "name_key = CAST(? AS TEXT)"))
+    if (!start_read(query, "SELECT revision FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                    {family, scheme, key_of(name)}))
         return std::string();
-    query.addBindValue(family);
-    query.addBindValue(scheme);
-    bind_text(query, gfpdb_name_key(name));
     return next_row(query) ? text_at(query, 0) : std::string();
 }
 
 std::string GFPDB_STORE::get_template_revision(const std::string& template_name)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)"))
+    if (!start_read(query, "SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)",
+                    {key_of(template_name)}))
         return std::string();
-    bind_text(query, gfpdb_name_key(template_name));
     return next_row(query) ? text_at(query, 0) : std::string();
 }
 
@@ -254,21 +263,15 @@ bool GFPDB_STORE::check_integrity()
     QSqlQuery query;
     if (!start_read(query, "PRAGMA integrity_check"))
         return m_last_error.empty();
-    if (!next_row(query))
-        return false;
-    std::string verdict = text_at(query, 0);
-    // The reason is one line, as every other.
-    std::replace(verdict.begin(), verdict.end(), '\n', ' ');
-    return verdict == "ok" || fail("The database in " + m_directory + " is damaged: " + verdict);
+    return next_row(query) &&
+           (line_at(query, 0) == "ok" || fail("The database in " + m_directory + " is damaged: " + line_at(query, 0)));
 }
 
 bool GFPDB_STORE::has_device(const std::string& name)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)"))
-        return false;
-    bind_text(query, gfpdb_name_key(name));
-    return next_row(query);
+    return start_read(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)", {key_of(name)}) &&
+           next_row(query);
 }
 
 bool GFPDB_STORE::save_device(const GFPDB_ROW& row)
@@ -360,10 +363,7 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_STORE::get_history()
 std::optional<GFPDB_HISTORY_ENTRY> GFPDB_STORE::find_history(int id)
 {
     QSqlQuery query;
-    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?"))
-        return std::nullopt;
-    query.addBindValue(id);
-    if (!next_row(query))
+    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?", {id}) || !next_row(query))
         return std::nullopt;
     GFPDB_HISTORY_ENTRY entry = history_at(query);
     entry.row = row_at(query, HISTORY_COLUMNS);
@@ -384,17 +384,19 @@ bool GFPDB_STORE::put_back(const GFPDB_HISTORY_ENTRY& entry)
     const GFPDB_ROW& row = entry.row;
     if (entry.is_template)
         return check_no_template(row.template_name) && check_no_device(row.template_name) && insert_template(row);
-    if (!check_no_template(row.name))
-        return false;
     QSqlQuery query;
-    if (!prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)"))
-        return false;
-    query.addBindValue(row.family);
-    query.addBindValue(row.scheme);
-    bind_text(query, gfpdb_name_key(row.name));
+    return check_no_template(row.name) &&
+           prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                   {row.family, row.scheme, key_of(row.name)}) &&
+           finds_none(query, device_in_the_way(row.name)) && insert_device(row);
+}
+
+// Runs `query`; false, with `in_the_way` as the reason, when it finds a row.
+bool GFPDB_STORE::finds_none(QSqlQuery& query, const std::string& in_the_way)
+{
     if (next_row(query))
-        return fail(device_in_the_way(row.name));
-    return !query.lastError().isValid() && insert_device(row);
+        return fail(in_the_way);
+    return !query.lastError().isValid();
 }
 
 // A template may be stored again by the device that it is a copy of.
@@ -408,9 +410,9 @@ bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
         return fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) +
                     ".");
     QSqlQuery query;
-    if (!prepare(query, "SELECT CAST(name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)"))
+    if (!prepare(query, "SELECT CAST(name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)",
+                 {key_of(row.template_name)}))
         return false;
-    bind_text(query, gfpdb_name_key(row.template_name));
     if (next_row(query) && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
         return fail(template_in_the_way(row.template_name));
     return !query.lastError().isValid() && check_no_device(row.template_name);
@@ -419,23 +421,15 @@ bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
 bool GFPDB_STORE::check_no_template(const std::string& name)
 {
     QSqlQuery query;
-    if (!prepare(query, "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT)"))
-        return false;
-    bind_text(query, gfpdb_name_key(name));
-    if (next_row(query))
-        return fail(template_in_the_way(name));
-    return !query.lastError().isValid();
+    return prepare(query, "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(name)}) &&
+           finds_none(query, template_in_the_way(name));
 }
 
 bool GFPDB_STORE::check_no_device(const std::string& name)
 {
     QSqlQuery query;
-    if (!prepare(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)"))
-        return false;
-    bind_text(query, gfpdb_name_key(name));
-    if (next_row(query))
-        return fail(device_in_the_way(name));
-    return !query.lastError().isValid();
+    return prepare(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)", {key_of(name)}) &&
+           finds_none(query, device_in_the_way(name));
 }
 
 bool GFPDB_STORE::store(const GFPDB_ROW& row)
@@ -448,22 +442,18 @@ bool GFPDB_STORE::store(const GFPDB_ROW& row)
 bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)
 {
     QSqlQuery query;
-    if (!prepare(query, "INSERT INTO device (name_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")"))
-        return false;
-    bind_text(query, gfpdb_name_key(row.name));
-    bind_row(query, row);
-    return run(query);
+    return prepare(query, "INSERT INTO device (name_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")",
+                   QVariantList{key_of(row.name)} + values_of(row)) &&
+           run(query);
 }
 
 bool GFPDB_STORE::insert_template(const GFPDB_ROW& row)
 {
     QSqlQuery query;
-    if (!prepare(query,
-                 "INSERT INTO template (template_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")"))
-        return false;
-    bind_text(query, gfpdb_name_key(row.template_name));
-    bind_row(query, row);
-    return run(query);
+    return prepare(query,
+                   "INSERT INTO template (template_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")",
+                   QVariantList{key_of(row.template_name)} + values_of(row)) &&
+           run(query);
 }
 
 bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason)
@@ -471,30 +461,20 @@ bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, c
     constexpr char TO_HISTORY[] = GFPDB_TO_HISTORY "FROM device WHERE family = ? AND scheme = ? AND "
                                                    "name_key = CAST(? AS TEXT)";
     constexpr char REMOVAL[] = "DELETE FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
-    const std::string key = gfpdb_name_key(name);
+    const QVariantList which = {family, scheme, key_of(name)};
     QSqlQuery to_history;
     QSqlQuery removal;
-    if (!prepare(to_history, TO_HISTORY) || !prepare(removal, REMOVAL))
-        return false;
-    bind_history(to_history, false, reason);
-    for (QSqlQuery* query : {&to_history, &removal}) {
-        query->addBindValue(family);
-        query->addBindValue(scheme);
-        bind_text(*query, key);
-    }
-    return run(to_history) && run(removal);
+    return prepare(to_history, TO_HISTORY, history_values(false, reason) + which) && prepare(removal, REMOVAL, which) &&
+           run(to_history) && run(removal);
 }
 
 bool GFPDB_STORE::drop_template(const std::string& template_name, const char* reason)
 {
-    const std::string key = gfpdb_name_key(template_name);
+    const QVariantList which = {key_of(template_name)};
     QSqlQuery to_history;
     QSqlQuery removal;
-    if (!prepare(to_history, GFPDB_TO_HISTORY "FROM template WHERE template_key = CAST(? AS TEXT)") ||
-        !prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)"))
-        return false;
-    bind_history(to_history, true, reason);
-    bind_text(to_history, key);
-    bind_text(removal, key);
-    return run(to_history) && run(removal);
+    return prepare(to_history, GFPDB_TO_HISTORY "FROM template WHERE template_key = CAST(? AS TEXT)",
+                   history_values(true, reason) + which) &&
+           prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)", which) && run(to_history) &&
+           run(removal);
 }

@@ -18,6 +18,7 @@
 #include "gfpdb_row.h"
 
 #include <QStringList>
+#include <QVariant>
 
 #include <chrono>
 #include <functional>
@@ -136,7 +137,8 @@ private:
     void set_problem(STATE state, const std::string& problem);
     bool fail(const std::string& error);
     bool fail(const QSqlError& error);
-    bool prepare(QSqlQuery& query, const char* statement);
+    // `values` are what the question marks stand for, in their order.
+    bool prepare(QSqlQuery& query, const char* statement, const QVariantList& values = {});
     bool run(const char* statement);
     bool run(QSqlQuery& query);
 
@@ -150,10 +152,11 @@ private:
     bool is_same_database();
     bool upgrade();
     bool migrate();
+    bool run_steps(int from);
     bool run_step(int from);
 
     // gfpdb_store.cpp: the records.
-    bool start_read(QSqlQuery& query, const char* statement);
+    bool start_read(QSqlQuery& query, const char* statement, const QVariantList& values = {});
     bool next_row(QSqlQuery& query);
     bool note_read_problem();
     std::vector<std::string> read_names(QSqlQuery& query);
@@ -161,6 +164,7 @@ private:
     bool replace_device(const GFPDB_ROW& row);
     bool replace_template(const GFPDB_ROW& row);
     bool put_back(const GFPDB_HISTORY_ENTRY& entry);
+    bool finds_none(QSqlQuery& query, const std::string& in_the_way);
     bool check_free_names(const GFPDB_ROW& row);
     bool check_no_template(const std::string& name);
     bool check_no_device(const std::string& name);

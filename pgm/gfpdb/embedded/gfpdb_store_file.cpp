@@ -143,7 +143,6 @@ QSqlDatabase GFPDB_STORE::database() const
 
 void GFPDB_STORE::reload()
 {
-    close();
     m_state = STATE::CLOSED;
     m_was_replaced = false;
     m_problem.clear();
@@ -194,11 +193,15 @@ bool GFPDB_STORE::fail(const QSqlError& error)
     return fail(describe(error, file_path()));
 }
 
-bool GFPDB_STORE::prepare(QSqlQuery& query, const char* statement)
+bool GFPDB_STORE::prepare(QSqlQuery& query, const char* statement, const QVariantList& values)
 {
     query = QSqlQuery(database());
     query.setForwardOnly(true);
-    return query.prepare(QLatin1String(statement)) || fail(query.lastError());
+    if (!query.prepare(QLatin1String(statement)))
+        return fail(query.lastError());
+    for (const QVariant& value : values)
+        query.addBindValue(value);
+    return true;
 }
 
 bool GFPDB_STORE::run(QSqlQuery& query)
@@ -335,17 +338,11 @@ bool GFPDB_STORE::create_file()
 
 bool GFPDB_STORE::build_new_file(const std::string& path)
 {
-    if (!connect(path, "rwc") || !run("BEGIN"))
-        return false;
-    for (int version = 0; version < SCHEMA_VERSION; ++version) {
-        if (!run_step(version))
-            return false;
-    }
     QSqlQuery query;
-    if (!prepare(query, "INSERT INTO meta (name, value) VALUES ('database_id', ?)"))
-        return false;
-    query.addBindValue(QUuid::createUuid().toString(QUuid::WithoutBraces));
-    return run(query) && run("COMMIT");
+    return connect(path, "rwc") && run("BEGIN") && run_steps(0) &&
+           prepare(query, "INSERT INTO meta (name, value) VALUES ('database_id', ?)",
+                   {QUuid::createUuid().toString(QUuid::WithoutBraces)}) &&
+           run(query) && run("COMMIT");
 }
 
 // True while the name of the file that is open stands for that file.

@@ -95,10 +95,7 @@ const QStringList& known_schema(int version)
 std::optional<std::string> GFPDB_STORE::read_meta(const char* name)
 {
     QSqlQuery query;
-    if (!prepare(query, "SELECT value FROM meta WHERE name = ?"))
-        return std::nullopt;
-    query.addBindValue(QLatin1String(name));
-    if (!run(query))
+    if (!prepare(query, "SELECT value FROM meta WHERE name = ?", {QLatin1String(name)}) || !run(query))
         return std::nullopt;
     return query.next() ? gfpdb_to_utf8(query.value(0).toString()) : std::string();
 }
@@ -183,9 +180,13 @@ bool GFPDB_STORE::upgrade()
 bool GFPDB_STORE::migrate()
 {
     const std::optional<std::string> text = read_meta("schema_version");
-    if (!text)
-        return false;
-    for (int version = QByteArray::fromStdString(*text).toInt(); version < SCHEMA_VERSION; ++version) {
+    return text && run_steps(QByteArray::fromStdString(*text).toInt());
+}
+
+// From the schema `from` to the present one.
+bool GFPDB_STORE::run_steps(int from)
+{
+    for (int version = from; version < SCHEMA_VERSION; ++version) {
         if (!run_step(version))
             return false;
     }
@@ -199,8 +200,6 @@ bool GFPDB_STORE::run_step(int from)
             return false;
     }
     QSqlQuery query;
-    if (!prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'"))
-        return false;
-    query.addBindValue(QString::number(from + 1));
-    return run(query);
+    return prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'", {QString::number(from + 1)}) &&
+           run(query);
 }

@@ -153,6 +153,17 @@ void make_dir(const std::string& path)
         qFatal("cannot make %s", path.c_str());
 }
 
+QStringList open_files(const std::string& directory)
+{
+    QStringList found;
+    for (const QFileInfo& link : QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::AllEntries | QDir::System)) {
+        if ((link.symLinkTarget() + QLatin1Char('/')).startsWith(QString::fromStdString(directory)))
+            found.append(link.symLinkTarget());
+    }
+    found.sort();
+    return found;
+}
+
 QVariant run_sql(const std::string& path, const std::string& statement)
 {
     const QString connection = QStringLiteral("the test's own");

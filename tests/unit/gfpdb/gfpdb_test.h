@@ -64,6 +64,8 @@ std::string text_of(const GFPDB_ROW& row);
 std::string read_file(const std::string& path);
 void write_file(const std::string& path, const std::string& content);
 void make_dir(const std::string& path);
+// What this process has open in the directory, or had before it was removed.
+QStringList open_files(const std::string& directory);
 // The first value of `statement`, run on the database in `path` past the library; invalid when it fails.
 QVariant run_sql(const std::string& path, const std::string& statement);
 

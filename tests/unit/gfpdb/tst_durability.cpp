@@ -434,6 +434,7 @@ void TST_DURABILITY::no_file_is_left_where_there_is_no_room_for_one()
     }
     const QDir directory(QString::fromStdString(m_place->db_dir()));
     QCOMPARE(directory.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+    QCOMPARE(open_files(m_place->db_dir()), QStringList());
     QVERIFY(m_mgr->save_flash(record, std::string()));
     QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
 }

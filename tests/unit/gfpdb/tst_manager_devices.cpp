@@ -22,6 +22,7 @@ private slots:
     void a_device_can_be_saved_in_another_directory();
     void a_record_that_is_not_stored_cannot_be_saved_without_a_flash();
     void a_success_clears_the_last_error();
+    void a_name_that_is_nowhere_is_no_error();
     void saving_refuses_names_that_are_taken_data();
     void saving_refuses_names_that_are_taken();
     void saving_refuses_text_that_is_not_utf8();
@@ -215,6 +216,15 @@ void TST_MANAGER_DEVICES::a_success_clears_the_last_error()
         QVERIFY(call());
         QCOMPARE(m_mgr->get_last_error(), std::string());
     }
+}
+
+void TST_MANAGER_DEVICES::a_name_that_is_nowhere_is_no_error()
+{
+    QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
+
+    QVERIFY(m_mgr->find_flash("A", true) == nullptr);
+
+    QCOMPARE(m_mgr->get_last_error(), std::string());
 }
 
 void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()

@@ -1,6 +1,7 @@
 // The database file: its schema, its rows byte for byte, its history, and files that change under an open program.
 #include "gfpdb_store.h"
 #include "gfpdb_test.h"
+#include "message_recorder.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -47,18 +48,6 @@ std::string schema_of(const std::string& path)
         .toStdString();
 }
 
-// What this process has open in the directory, or had before it was removed.
-QStringList open_files(const std::string& directory)
-{
-    QStringList found;
-    for (const QFileInfo& link : QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::AllEntries | QDir::System)) {
-        if ((link.symLinkTarget() + QLatin1Char('/')).startsWith(QString::fromStdString(directory)))
-            found.append(link.symLinkTarget());
-    }
-    found.sort();
-    return found;
-}
-
 } // namespace
 
 class TST_STORE : public QObject
@@ -70,6 +59,7 @@ private slots:
     void cleanup();
 
     void the_file_is_made_by_the_first_change();
+    void making_the_file_says_nothing();
     void the_schema_is_as_documented();
     void an_older_schema_is_upgraded_and_loses_nothing();
     void a_newer_schema_is_left_alone();
@@ -146,6 +136,15 @@ void TST_STORE::the_file_is_made_by_the_first_change()
     QCOMPARE(read_file(file() + "-journal"), std::string());
     QVERIFY(m_store->check_integrity());
     QCOMPARE(m_store->get_last_error(), std::string());
+}
+
+void TST_STORE::making_the_file_says_nothing()
+{
+    const MESSAGE_RECORDER messages;
+
+    QVERIFY(m_store->save_device(make_row("A")));
+
+    QCOMPARE(messages.texts(), QStringList());
 }
 
 void TST_STORE::the_schema_is_as_documented()
