@@ -410,10 +410,10 @@ bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
         return fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) +
                     ".");
     QSqlQuery query;
-    if (!prepare(query, "SELECT CAST(name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)",
-                 {key_of(row.template_name)}))
-        return false;
-    if (next_row(query) && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
+    const bool is_found = prepare(query, "SELECT CAST(name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)",
+                                  {key_of(row.template_name)}) &&
+                          next_row(query);
+    if (is_found && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
         return fail(template_in_the_way(row.template_name));
     return !query.lastError().isValid() && check_no_device(row.template_name);
 }
@@ -434,9 +434,8 @@ bool GFPDB_STORE::check_no_device(const std::string& name)
 
 bool GFPDB_STORE::store(const GFPDB_ROW& row)
 {
-    if (!drop_device(row.family, row.scheme, row.name, REASON_REPLACED) || !insert_device(row))
-        return false;
-    return row.template_name.empty() || (drop_template(row.template_name, REASON_REPLACED) && insert_template(row));
+    return drop_device(row.family, row.scheme, row.name, REASON_REPLACED) && insert_device(row) &&
+           (row.template_name.empty() || (drop_template(row.template_name, REASON_REPLACED) && insert_template(row)));
 }
 
 bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)
