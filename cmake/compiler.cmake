@@ -14,7 +14,7 @@ endif()
 
 # A report names files and lines; the rest of the debug information would only make the build slower.
 if(GFPQ_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1 -g1)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -Og -g1)
     add_link_options(-fsanitize=address,undefined)
 endif()
 

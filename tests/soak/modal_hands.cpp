@@ -10,8 +10,8 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QTableView>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 MODAL_HANDS::MODAL_HANDS(std::mt19937& random) : m_random(random)
 {

@@ -18,8 +18,8 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QTableView>
+#include <QTest>
 #include <QToolTip>
-#include <QtTest>
 
 #include <numeric>
 

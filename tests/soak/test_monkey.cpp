@@ -7,7 +7,7 @@
 #include "kovq/zui_app.h"
 
 #include <QElapsedTimer>
-#include <QtTest>
+#include <QTest>
 
 #include <deque>
 

@@ -7,8 +7,8 @@
 #include "gfpdb/gfpdb_mgr.h"
 #include "kovq/zui_app.h"
 
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 #include <algorithm>
 

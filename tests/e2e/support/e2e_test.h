@@ -7,7 +7,7 @@
 
 #include <QObject>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <functional>
 #include <memory>

@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QLocalSocket>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

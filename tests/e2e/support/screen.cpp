@@ -2,7 +2,7 @@
 
 #include "deadline.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include <QJsonDocument>
 #include <QRect>
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

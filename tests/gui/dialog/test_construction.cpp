@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLoggingCategory>
 #include <QScopeGuard>
+#include <QSignalSpy>
 
 class TEST_CONSTRUCTION : public DIALOG_TEST
 {

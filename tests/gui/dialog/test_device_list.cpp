@@ -4,6 +4,7 @@
 #include "marking_translator.h"
 
 #include <QHeaderView>
+#include <QSignalSpy>
 
 class TEST_DEVICE_LIST : public DIALOG_TEST
 {

@@ -1,7 +1,7 @@
 // What the module shows to whoever loads it: its one function, and nothing else.
 #include <QLibrary>
 #include <QProcess>
-#include <QtTest>
+#include <QTest>
 
 class TEST_EXPORTED_SYMBOLS : public QObject
 {

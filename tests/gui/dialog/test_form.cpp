@@ -1,9 +1,9 @@
 // The form of the dialog as the Designer file builds it: tree, layouts, properties and texts.
 #include "ui_gfpq_dlg.h"
 
+#include <QTest>
 #include <QTranslator>
 #include <QXmlStreamReader>
-#include <QtTest>
 
 #include <memory>
 

@@ -1,6 +1,8 @@
 // OK, Cancel and Delete.
 #include "dialog_test.h"
 
+#include <QSignalSpy>
+
 class TEST_OK_AND_DELETE : public DIALOG_TEST
 {
     Q_OBJECT

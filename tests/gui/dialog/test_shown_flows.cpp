@@ -2,6 +2,7 @@
 #include "dialog_test.h"
 
 #include <QGraphicsRectItem>
+#include <QSignalSpy>
 
 class TEST_SHOWN_FLOWS : public DIALOG_TEST
 {

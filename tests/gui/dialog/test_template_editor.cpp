@@ -5,6 +5,7 @@
 
 #include <QBoxLayout>
 #include <QHeaderView>
+#include <QSignalSpy>
 #include <QTranslator>
 
 namespace {

@@ -2,7 +2,7 @@
 #include "gfpq_text.h"
 #include "gfpq_vocabulary.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <iterator>
 

@@ -1,6 +1,8 @@
 // Deleting, copying and pasting the selected actions.
 #include "flow_stand.h"
 
+#include <QSignalSpy>
+
 class TEST_FLOW_CLIPBOARD : public GUI_TEST
 {
     Q_OBJECT

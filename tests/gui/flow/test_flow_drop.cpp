@@ -4,6 +4,7 @@
 #include <QGraphicsSceneDragDropEvent>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QSignalSpy>
 
 class TEST_FLOW_DROP : public GUI_TEST
 {

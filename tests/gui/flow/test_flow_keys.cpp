@@ -3,6 +3,7 @@
 
 #include <QGraphicsSceneMouseEvent>
 #include <QScrollBar>
+#include <QSignalSpy>
 
 class TEST_FLOW_KEYS : public GUI_TEST
 {

@@ -2,6 +2,7 @@
 #include "flow_stand.h"
 
 #include <QGraphicsSceneMouseEvent>
+#include <QSignalSpy>
 #include <QTranslator>
 
 class TEST_FLOW_MENU : public GUI_TEST

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QSignalSpy>
 
 #include <algorithm>
 #include <map>

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QFocusEvent>
+#include <QSignalSpy>
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTest>
 #include <QXmlStreamReader>
-#include <QtTest>
 
 #include <algorithm>
 #include <iterator>

@@ -5,7 +5,7 @@
 
 #include "gfpq_vocabulary.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 #include <string>

@@ -5,7 +5,7 @@
 
 #include "gfpdb/gfpdb_enums.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <initializer_list>
 #include <memory>

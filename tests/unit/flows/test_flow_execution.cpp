@@ -11,7 +11,7 @@
 
 #include "gfpdb/gfpdb_enums.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 

@@ -13,7 +13,7 @@
 #include "gfpdb/gfpdb_enums.h"
 
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
 #include <map>
 #include <memory>

@@ -3,7 +3,7 @@
 
 #include <rapidcheck.h>
 
-#include <QtTest>
+#include <QTest>
 
 #include <string>
 

@@ -5,8 +5,8 @@
 #include "gfpdb_row.h"
 
 #include <QTemporaryDir>
+#include <QTest>
 #include <QVariant>
-#include <QtTest>
 
 #include <memory>
 #include <string>

@@ -5,7 +5,7 @@
 #include "gfpdb/gfpdb_mgr.h"
 #include "gfpdb/gfpdb_operation.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cstring>
 #include <type_traits>

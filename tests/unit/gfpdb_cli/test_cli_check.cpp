@@ -1,6 +1,7 @@
 // The real program: check.
 #include "cli_test.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 
 class TEST_CLI_CHECK : public QObject

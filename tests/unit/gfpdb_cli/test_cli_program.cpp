@@ -5,6 +5,7 @@
 #include "cli_test.h"
 
 #include <QJsonObject>
+#include <QProcess>
 
 #include <pty.h>
 #include <sys/wait.h>

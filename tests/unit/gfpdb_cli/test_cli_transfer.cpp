@@ -3,6 +3,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QProcess>
 
 #include <sys/stat.h>
 

@@ -4,7 +4,8 @@
 #include "message_recorder.h"
 #include "probe.h"
 
-#include <QtTest>
+#include <QRegularExpression>
+#include <QTest>
 
 #include <set>
 

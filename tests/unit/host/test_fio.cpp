@@ -4,7 +4,8 @@
 #include "fio/pgm_common.h"
 
 #include <QDir>
-#include <QtTest>
+#include <QRegularExpression>
+#include <QTest>
 
 #include <rapidcheck.h>
 

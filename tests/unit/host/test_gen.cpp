@@ -1,7 +1,7 @@
 // The text helpers of the host.
 #include "gen/gen_text.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <climits>
 

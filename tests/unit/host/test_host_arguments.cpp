@@ -1,7 +1,7 @@
 // The command line of the host program.
 #include "host_arguments.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TEST_HOST_ARGUMENTS : public QObject
 {

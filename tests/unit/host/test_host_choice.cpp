@@ -4,8 +4,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSettings>
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 class TEST_HOST_CHOICE : public QObject
 {

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QtTest>
+#include <QTest>
 
 class TEST_HOST_TRANSLATION : public QObject
 {

@@ -10,8 +10,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 class TEST_HOST_WINDOW : public QObject
 {

@@ -10,8 +10,9 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
 #include <QVBoxLayout>
-#include <QtTest>
 
 #include <type_traits>
 

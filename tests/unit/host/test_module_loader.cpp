@@ -3,7 +3,7 @@
 #include "fake_module.h"
 #include "module_loader.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TEST_MODULE_LOADER : public QObject
 {

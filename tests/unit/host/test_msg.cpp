@@ -6,8 +6,8 @@
 #include "msg/msg.h"
 
 #include <QApplication>
+#include <QTest>
 #include <QTextCodec>
-#include <QtTest>
 
 class TEST_MSG : public QObject
 {

@@ -9,8 +9,8 @@
 #include <QStringListModel>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTest>
 #include <QVBoxLayout>
-#include <QtTest>
 
 // The renderer knows the template editor by its class.
 class GFPQ_EDIT_TEMPLATE_DLG : public QDialog

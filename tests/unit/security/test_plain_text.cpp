@@ -16,9 +16,9 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QTableView>
+#include <QTest>
 #include <QTextDocument>
 #include <QToolTip>
-#include <QtTest>
 
 namespace {
 
