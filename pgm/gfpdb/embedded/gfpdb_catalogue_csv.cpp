@@ -70,11 +70,6 @@ private:
     void end_cell()
     {
         m_row.cells.push_back(m_cell);
-        clear_cell();
-    }
-
-    void clear_cell()
-    {
         m_cell.clear();
         m_quoted_size = 0;
     }
@@ -91,7 +86,6 @@ private:
             m_rows.push_back(m_row);
         }
         m_row = GFPDB_CSV_ROW();
-        clear_cell();
         m_row_line = m_line + 1;
     }
 

@@ -3,8 +3,9 @@
 #include "gfpdb_catalogue_csv.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <string>
 
@@ -161,6 +162,7 @@ void TEST_FLOW_CATALOGUE::every_cell_is_read()
     QVERIFY(!part.flows_hidden);
     QCOMPARE(only_part("A,,C2,,1Mb,,,81:256B 52:1M,,,6,none,,\n").sector_erase[0].size_bytes, 256);
     QCOMPARE(only_part("A,,C2,,1Mb,,,81:256B 52:1M,,,6,none,,\n").sector_erase[1].size_bytes, 1048576);
+    QCOMPARE(only_part("A,,C2,,1Mb,,,81:1024K,,,6,none,,\n").sector_erase[0].size_bytes, 1048576);
     QCOMPARE(only_part("A,,C2,,1Mb,,,,,,6,none,,\n").quad_enable, GFPDB_QUAD_ENABLE::NONE);
     QCOMPARE(only_part("A,,C2,,1Mb,,,,,,6,SR2.1,,\n").quad_enable, GFPDB_QUAD_ENABLE::SR2_BIT1);
 }
@@ -215,6 +217,8 @@ void TEST_FLOW_CATALOGUE::a_wrong_cell_is_reported_with_line_and_column_data()
     add("A,,C2,,1Mb,,,20:4K D8,,,,,,", "column \"sector_erase_opcodes\": \"D8\" is no erase command such as 20:4K");
     add("A,,C2,,1Mb,,,2:4K,,,,,,", "column \"sector_erase_opcodes\": \"2:4K\" is no erase command such as 20:4K");
     add("A,,C2,,1Mb,,,20:4,,,,,,", "column \"sector_erase_opcodes\": \"20:4\" is no erase command such as 20:4K");
+    add("A,,C2,,1Mb,,,20:1025K,,,,,,",
+        "column \"sector_erase_opcodes\": \"20:1025K\" is no erase command such as 20:4K");
     add("A,,C2,,1Mb,,,20:0K,,,,,,", "column \"sector_erase_opcodes\": \"20:0K\" is no erase command such as 20:4K");
     add("A,,C2,,1Mb,,,20:2000M,,,,,,",
         "column \"sector_erase_opcodes\": \"20:2000M\" is no erase command such as 20:4K");
