@@ -147,7 +147,7 @@ std::optional<GFPDB_MODE_CHECK> mode_check(const GFPDB_PART& part, GFPDB_FOUR_BY
 int own_four_byte_opcode(int opcode)
 {
     static const std::map<int, int> OPCODES = {{0x03, 0x13}, {0x0B, 0x0C}, {0x6B, 0x6C}, {0xEB, 0xEC}, {0x02, 0x12},
-                                               {0x32, 0x34}, {0x38, 0x3E}, {0x20, 0x21}, {0x52, 0x5C}, {0xD8, 0xDC}};
+                                               {0x32, 0x34}, {0x20, 0x21}, {0x52, 0x5C}, {0xD8, 0xDC}};
     const auto place = OPCODES.find(opcode);
     return place == OPCODES.end() ? opcode : place->second;
 }
