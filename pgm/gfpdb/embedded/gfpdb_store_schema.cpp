@@ -125,23 +125,25 @@ bool GFPDB_STORE::check_schema()
     static const QString META_ROW = schema_row(
         {QStringLiteral("table"), QStringLiteral("meta"), QStringLiteral("meta"), QStringLiteral(GFPDB_META_TABLE)});
     const std::optional<QStringList> rows = read_schema_rows();
-    if (!rows)
-        return false;
-    const std::optional<std::string> text = rows->contains(META_ROW) ? read_meta("schema_version") : std::string();
-    if (!text)
-        return false;
-    m_schema_version = QByteArray::fromStdString(*text).toInt();
+    const std::optional<std::string> version =
+        rows && rows->contains(META_ROW) ? read_meta("schema_version") : std::string();
+    return rows && version && is_known_schema(*rows, QByteArray::fromStdString(*version).toInt()) && remember_schema();
+}
+
+bool GFPDB_STORE::is_known_schema(const QStringList& rows, int version)
+{
+    m_schema_version = version;
     if (m_schema_version < 1)
         return fail("The file " + file_path() + " is a database of another program. It is left as it is.");
     if (m_schema_version > SCHEMA_VERSION)
         return fail("The database " + file_path() + " was written by a newer program (its schema is " +
                     std::to_string(m_schema_version) + ", this program knows up to " + std::to_string(SCHEMA_VERSION) +
                     "). It is left as it is.");
-    if (*rows != known_schema(m_schema_version))
+    if (rows != known_schema(m_schema_version))
         return fail("The database " + file_path() + " was altered by another program: its tables are not those of " +
                     "schema " + std::to_string(m_schema_version) + ". It is left as it is.");
     m_database_id = read_meta("database_id").value_or(std::string());
-    return remember_schema();
+    return true;
 }
 
 // SQLite counts the changes of a schema.

@@ -100,6 +100,7 @@ private slots:
     void the_device_table_and_the_parts_of_a_page_have_names();
     void nothing_that_takes_the_focus_is_nameless();
     void a_value_that_is_edited_is_named_after_its_property();
+    void keys_stay_in_the_table_after_a_refused_value();
     void the_template_table_is_named_after_its_label();
     void tab_and_backtab_visit_everything_on_each_page_data();
     void tab_and_backtab_visit_everything_on_each_page();
@@ -217,6 +218,27 @@ void TEST_ACCESSIBILITY::a_value_that_is_edited_is_named_after_its_property()
         QCOMPARE(accessible_name(editor), label);
         QTest::keyClick(editor, Qt::Key_Escape);
     }
+}
+
+void TEST_ACCESSIBILITY::keys_stay_in_the_table_after_a_refused_value()
+{
+    mgr().on_new_action = [](ACTION_DOUBLE& action) { action.refused[GFPDB_WR_COMMAND] = "no command"; };
+    open_dialog();
+    show_operation_page(GFPDB_OPERATION_ERASE);
+    chart().setFocus();
+    press(Qt::Key_Down);
+    property_table().setFocus();
+    property_table().setCurrentIndex(property_table().model()->index(1, 1));
+    press(Qt::Key_F2);
+    type(QStringLiteral("x"));
+    m_modals.expect(MODAL_DRIVER::accept());
+
+    press(Qt::Key_Return);
+
+    QTRY_COMPARE(m_modals.met().size(), 1);
+    QCOMPARE(m_modals.last().text, QStringLiteral("no command"));
+    // The focus of the application is the window manager's to give back.
+    QTRY_COMPARE(property_table().window()->focusWidget(), static_cast<QWidget*>(&property_table()));
 }
 
 void TEST_ACCESSIBILITY::the_template_table_is_named_after_its_label()

@@ -1,10 +1,13 @@
 // Databases on a medium that cannot be written.
 #include "gfpdb/gfpdb_helper.h"
+#include "gfpdb_embedded_mgr.h"
 #include "gfpdb_test.h"
 
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 #include <cerrno>
 #include <cstring>
@@ -22,20 +25,23 @@ void expect_warning(const std::string& text)
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(QString::fromStdString(text))));
 }
 
-// A directory that can be filled, then sealed: nothing in it can be written until this object goes. Root, whom no
+// A directory that can be filled, then sealed: nothing in it can be written until it is opened again. Root, whom no
 // permission stops, gets a read-only mount of it; where that is not allowed, the process becomes another user.
 class READ_ONLY_DIR
 {
 public:
     READ_ONLY_DIR() : m_dir(QDir::tempPath() + QLatin1String("/gfpdb-XXXXXX")) { ::chmod(path("").c_str(), 0755); }
-    ~READ_ONLY_DIR();
+    ~READ_ONLY_DIR() { unseal(); }
     std::string path(const std::string& name) const { return m_dir.path().toStdString() + '/' + name; }
     void seal();
+    // Only the database in it; the directory is everyone's.
+    void seal_file();
+    void unseal();
     // What the system says about writing there.
     std::string why() const { return m_why; }
 
 private:
-    void forbid();
+    void forbid(mode_t directory_rights);
 
     QTemporaryDir m_dir;
     bool m_is_mounted = false;
@@ -48,7 +54,7 @@ void READ_ONLY_DIR::seal()
     const std::string dir = path("");
     m_is_mounted = ::geteuid() == 0 && ::mount(dir.c_str(), dir.c_str(), nullptr, MS_BIND, nullptr) == 0;
     if (!m_is_mounted)
-        forbid();
+        forbid(0555);
     else if (::mount(nullptr, dir.c_str(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) != 0)
         qFatal("cannot make %s read-only: %s", dir.c_str(), std::strerror(errno));
     if (::access(dir.c_str(), W_OK) == 0)
@@ -56,20 +62,33 @@ void READ_ONLY_DIR::seal()
     m_why = std::strerror(errno);
 }
 
-void READ_ONLY_DIR::forbid()
+void READ_ONLY_DIR::seal_file()
 {
-    ::chmod(path("gfpdb.sqlite").c_str(), 0444);
-    ::chmod(path("").c_str(), 0555);
+    forbid(0777);
+    if (::access(path("gfpdb.sqlite").c_str(), W_OK) == 0)
+        qFatal("%s can still be written", path("gfpdb.sqlite").c_str());
+    m_why = std::strerror(errno);
+}
+
+void READ_ONLY_DIR::forbid(mode_t directory_rights)
+{
+    for (const char* name : {"gfpdb.sqlite", "gfpdb.sqlite-journal"})
+        ::chmod(path(name).c_str(), 0444);
+    ::chmod(path("").c_str(), directory_rights);
     m_is_nobody = ::geteuid() == 0 && ::setresuid(NOBODY, NOBODY, 0) == 0;
 }
 
-READ_ONLY_DIR::~READ_ONLY_DIR()
+void READ_ONLY_DIR::unseal()
 {
     if (m_is_nobody && ::setresuid(0, 0, 0) != 0)
         qFatal("cannot become root again");
     if (m_is_mounted)
         ::umount2(path("").c_str(), MNT_DETACH);
     ::chmod(path("").c_str(), 0755);
+    for (const char* name : {"gfpdb.sqlite", "gfpdb.sqlite-journal"})
+        ::chmod(path(name).c_str(), 0644);
+    m_is_nobody = false;
+    m_is_mounted = false;
 }
 
 } // namespace
@@ -83,6 +102,10 @@ private slots:
     void cleanup();
 
     void the_devices_of_a_read_only_database_can_be_used_but_not_changed();
+    void a_read_only_file_can_be_used_but_not_changed();
+    void a_database_that_can_be_written_again_is_changed();
+    void a_database_that_is_sealed_while_it_is_open_is_told_as_such();
+    void a_half_written_database_in_a_read_only_directory_is_left_alone();
     void a_read_only_database_of_an_older_schema_can_be_read();
     void a_read_only_directory_without_a_database_is_refused();
 
@@ -96,7 +119,9 @@ private:
 
 void TST_READ_ONLY::init()
 {
-    m_place = std::make_unique<GFPDB_PLACE>();
+    // The other user can go on working there.
+    m_place = std::make_unique<GFPDB_PLACE>(GFPDB_PLACE::ON::MEMORY);
+    ::chmod(m_place->path("").c_str(), 0777);
     m_dir = std::make_unique<READ_ONLY_DIR>();
     GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
 }
@@ -149,6 +174,84 @@ void TST_READ_ONLY::the_devices_of_a_read_only_database_can_be_used_but_not_chan
     QVERIFY(is_refused(m_mgr->delete_flash("A", std::string())));
     expect_warning(problem);
     QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_dir->path(""), false));
+}
+
+void TST_READ_ONLY::a_read_only_file_can_be_used_but_not_changed()
+{
+    make_database();
+    m_dir->seal_file();
+    const std::string problem =
+        "The database " + m_dir->path("gfpdb.sqlite") + " can be read, but not changed: " + m_dir->why() + ".";
+
+    m_mgr = fresh_manager();
+    expect_warning(problem);
+    QCOMPARE(GFPDB_HELPER::get_database_problem(), problem);
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+}
+
+void TST_READ_ONLY::a_database_that_can_be_written_again_is_changed()
+{
+    make_database();
+    m_dir->seal();
+    m_mgr = fresh_manager();
+    expect_warning("can be read, but not changed");
+    expect_warning("can be read, but not changed");
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "B"), m_dir->path("")));
+
+    m_dir->unseal();
+
+    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "B"), m_dir->path("")));
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+}
+
+void TST_READ_ONLY::a_database_that_is_sealed_while_it_is_open_is_told_as_such()
+{
+    make_database();
+    m_mgr = fresh_manager();
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+    m_dir->seal();
+
+    expect_warning("The database " + m_dir->path("gfpdb.sqlite") + " cannot be ");
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "B"), m_dir->path("")));
+
+    m_dir->unseal();
+    m_mgr = fresh_manager();
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+    QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
+}
+
+// What a program that died in the middle of a change leaves: SQLite takes the half of it back when the file is next
+// opened, which it cannot here.
+void TST_READ_ONLY::a_half_written_database_in_a_read_only_directory_is_left_alone()
+{
+    make_database();
+    const std::string file = m_dir->path("gfpdb.sqlite");
+    {
+        QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("half"));
+        connection.setDatabaseName(QString::fromStdString(file));
+        QVERIFY(connection.open());
+        for (const char* statement : {"PRAGMA cache_size = 1", "BEGIN", "UPDATE device SET name = zeroblob(1000000)"})
+            QVERIFY(QSqlQuery(connection).exec(QLatin1String(statement)));
+        for (const char* name : {"gfpdb.sqlite", "gfpdb.sqlite-journal"})
+            QVERIFY(QFile::copy(QString::fromStdString(m_dir->path(name)),
+                                QString::fromStdString(m_dir->path(std::string(name) + ".half"))));
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("half"));
+    for (const char* name : {"gfpdb.sqlite", "gfpdb.sqlite-journal"})
+        QCOMPARE(::rename(m_dir->path(std::string(name) + ".half").c_str(), m_dir->path(name).c_str()), 0);
+    const std::string before = read_file(file);
+    m_dir->seal();
+    const std::string problem = "The database " + file + " cannot be written (";
+
+    m_mgr = fresh_manager();
+    expect_warning(problem);
+    QCOMPARE(GFPDB_HELPER::get_database_problem().substr(0, problem.size()), problem);
+    QCOMPARE(custom_names(*m_mgr), NAMES());
+    QCOMPARE(read_file(file), before);
+
+    m_dir->unseal();
+    m_mgr = fresh_manager();
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
 }
 
 void TST_READ_ONLY::a_read_only_database_of_an_older_schema_can_be_read()

@@ -208,6 +208,10 @@ void TST_STORE::a_newer_schema_is_left_alone()
     QCOMPARE(m_store->get_last_error(), problem);
     QVERIFY(!m_store->remove_device(FAMILY, SERIAL, "A"));
     QCOMPARE(read_file(file()), before);
+
+    QVERIFY(run_sql(file(), "UPDATE meta SET value = '2' WHERE name = 'schema_version'").isValid());
+    QCOMPARE(m_store->get_problem(), std::string());
+    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"A"});
 }
 
 void TST_STORE::two_programs_make_one_file()
