@@ -346,12 +346,11 @@ private:
 
     void insert(int type)
     {
-        static constexpr void (GFPQ_FLOW_SCENE::*COMMANDS[])() = {
-            &GFPQ_FLOW_SCENE::on_insert_wr_action, &GFPQ_FLOW_SCENE::on_insert_rr_action,
-            &GFPQ_FLOW_SCENE::on_insert_wd_action, &GFPQ_FLOW_SCENE::on_insert_rd_action,
-            &GFPQ_FLOW_SCENE::on_insert_e_action};
+        static constexpr const char* SLOTS[] = {"on_insert_wr_action", "on_insert_rr_action", "on_insert_wd_action",
+                                                "on_insert_rd_action", "on_insert_e_action"};
         const int index = m_model.index_at(m_model.menu_y);
-        (m_scene.*COMMANDS[type])();
+        if (!QMetaObject::invokeMethod(&m_scene, SLOTS[type]))
+            qFatal("the scene has no slot %s", SLOTS[type]);
         if (index < 0)
             return;
         insert_into_model(index, m_model.make(type));
