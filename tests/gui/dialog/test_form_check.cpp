@@ -40,12 +40,21 @@ private slots:
 
 private:
     void fill_world() override;
+    // What the user enters of a device that is also to be a template.
+    void name_with_template(const char* device, const char* flow_template);
     bool apply();
 };
 
 void TEST_FORM_CHECK::fill_world()
 {
     mgr().builtin_template_operations[{0, false}] = {};
+}
+
+void TEST_FORM_CHECK::name_with_template(const char* device, const char* flow_template)
+{
+    edit("m_device_name_edit").setText(QString::fromUtf8(device));
+    check("m_save_template_check").setChecked(true);
+    edit("m_template_name_edit").setText(QString::fromUtf8(flow_template));
 }
 
 bool TEST_FORM_CHECK::apply()
@@ -73,9 +82,7 @@ void TEST_FORM_CHECK::the_first_failure_stops_the_check()
     QFETCH(const int, property);
     QFETCH(const int, checks);
     open();
-    edit("m_device_name_edit").setText(QStringLiteral("X"));
-    check("m_save_template_check").setChecked(true);
-    edit("m_template_name_edit").setText(QStringLiteral("T"));
+    name_with_template("X", "T");
     // Everything behind the first failure would fail, too.
     for (int later = property; later <= 8; ++later)
         mgr().refuse(later, "error of " + std::to_string(later));
@@ -276,9 +283,7 @@ void TEST_FORM_CHECK::the_template_name_is_checked_only_when_asked_for()
 void TEST_FORM_CHECK::a_template_name_equal_to_the_device_name_is_refused()
 {
     open();
-    edit("m_device_name_edit").setText(QStringLiteral("X 25"));
-    check("m_save_template_check").setChecked(true);
-    edit("m_template_name_edit").setText(QStringLiteral("X 25"));
+    name_with_template("X 25", "X 25");
     m_modals.expect(MODAL_DRIVER::accept());
 
     QVERIFY(!apply());
@@ -292,9 +297,7 @@ void TEST_FORM_CHECK::a_template_name_equal_to_the_device_name_is_refused()
 void TEST_FORM_CHECK::a_template_name_in_another_case_is_accepted()
 {
     open();
-    edit("m_device_name_edit").setText(QStringLiteral("X"));
-    check("m_save_template_check").setChecked(true);
-    edit("m_template_name_edit").setText(QStringLiteral("x"));
+    name_with_template("X", "x");
 
     QVERIFY(apply());
 
@@ -305,9 +308,7 @@ void TEST_FORM_CHECK::the_librarys_refusal_of_a_template_name_comes_first()
 {
     mgr().refuse(7, "taken");
     open();
-    edit("m_device_name_edit").setText(QStringLiteral("X"));
-    check("m_save_template_check").setChecked(true);
-    edit("m_template_name_edit").setText(QStringLiteral("X"));
+    name_with_template("X", "X");
     m_modals.expect(MODAL_DRIVER::accept());
 
     QVERIFY(!apply());
@@ -319,9 +320,7 @@ void TEST_FORM_CHECK::the_librarys_refusal_of_a_template_name_comes_first()
 void TEST_FORM_CHECK::names_with_place_markers_are_told_as_they_stand()
 {
     open();
-    edit("m_device_name_edit").setText(QStringLiteral("%2 <i>%1</i>"));
-    check("m_save_template_check").setChecked(true);
-    edit("m_template_name_edit").setText(QStringLiteral("%2 <i>%1</i>"));
+    name_with_template("%2 <i>%1</i>", "%2 <i>%1</i>");
     m_modals.expect(MODAL_DRIVER::accept());
 
     QVERIFY(!apply());
@@ -335,9 +334,7 @@ void TEST_FORM_CHECK::what_the_user_is_told_is_translated()
 {
     const MARKING_TRANSLATOR translator("gfpq_dlg");
     open();
-    edit("m_device_name_edit").setText(QStringLiteral("X"));
-    check("m_save_template_check").setChecked(true);
-    edit("m_template_name_edit").setText(QStringLiteral("X"));
+    name_with_template("X", "X");
     m_modals.expect(MODAL_DRIVER::accept());
 
     QVERIFY(!apply());
