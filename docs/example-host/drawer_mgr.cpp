@@ -40,13 +40,13 @@ std::string GFPDB_MGR::get_db_custom_dir()
     return g_directory;
 }
 
-void GFPDB_MGR::set_db_custom_dir(const std::string& directory)
+void GFPDB_MGR::set_db_custom_dir(std::string directory)
 {
-    g_directory = directory;
+    g_directory = std::move(directory);
 }
 
 // The drawer has no files, so any directory will do.
-bool GFPDB_MGR::save_custom_dir_to_ini(const std::string& /*directory*/, bool /*create*/)
+bool GFPDB_MGR::save_custom_dir_to_ini(std::string /*directory*/, bool /*create*/)
 {
     return true;
 }

@@ -368,14 +368,14 @@ std::string GFPDB_MGR::get_db_custom_dir()
     return GFPDB_WORLD::instance().custom_dir;
 }
 
-void GFPDB_MGR::set_db_custom_dir(const std::string& directory)
+void GFPDB_MGR::set_db_custom_dir(std::string directory)
 {
     record_static("GFPDB_MGR", "set_db_custom_dir", {log_text(directory)});
     GFPDB_WORLD& world = GFPDB_WORLD::instance();
-    world.custom_dir = world.canonical_dir ? world.canonical_dir(directory) : directory;
+    world.custom_dir = world.canonical_dir ? world.canonical_dir(directory) : std::move(directory);
 }
 
-bool GFPDB_MGR::save_custom_dir_to_ini(const std::string& directory, bool create)
+bool GFPDB_MGR::save_custom_dir_to_ini(std::string directory, bool create)
 {
     record_static("GFPDB_MGR", "save_custom_dir_to_ini", {log_text(directory), log_bool(create)});
     return GFPDB_WORLD::instance().save_dir_succeeds;

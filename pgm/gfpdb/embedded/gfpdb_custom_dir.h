@@ -8,6 +8,7 @@
 // The directory for a user who never chose one: gfpdb/ in the user's data directory.
 std::string gfpdb_default_dir();
 
-// `directory` in the one form in which the library keeps directories: absolute against the process's current directory,
-// without "." and "..", separated by single slashes, with one at its end. Empty gives the default directory.
-std::string gfpdb_normalised_dir(const std::string& directory);
+// `directory` in the one form in which the library keeps directories: absolute against the base directory
+// (GFPDB_HELPER::set_base_dir()), without "." and "..", separated by single slashes, with one at its end. Empty gives
+// the default directory.
+std::string gfpdb_normalised_dir(std::string directory);

@@ -2,6 +2,7 @@
 // enumerator by its number.
 #include "gfpdb/gfpdb_action.h"
 #include "gfpdb/gfpdb_flash.h"
+#include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
 #include "gfpdb/gfpdb_operation.h"
 
@@ -53,6 +54,7 @@ private slots:
     void each_operation_has_its_slot_data();
     void each_operation_has_its_slot();
     void what_is_not_virtual_takes_no_slot();
+    void static_functions_take_their_texts_by_value();
     void kinds_and_types_are_open_numbers();
     void flash_properties_have_their_numbers();
     void operation_kinds_have_their_numbers();
@@ -139,6 +141,24 @@ void TST_INTERFACE::what_is_not_virtual_takes_no_slot()
     QVERIFY(std::has_virtual_destructor_v<GFPDB_FLASH>);
     QVERIFY(std::has_virtual_destructor_v<GFPDB_OPERATION>);
     QVERIFY(std::has_virtual_destructor_v<GFPDB_ACTION>);
+}
+
+// A module asks for them by linker names that have the argument types in them.
+void TST_INTERFACE::static_functions_take_their_texts_by_value()
+{
+    const bool get_is_exact = std::is_same_v<decltype(&GFPDB_MGR::get_db_custom_dir), std::string (*)()>;
+    const bool set_is_exact = std::is_same_v<decltype(&GFPDB_MGR::set_db_custom_dir), void (*)(std::string)>;
+    const bool save_is_exact =
+        std::is_same_v<decltype(&GFPDB_MGR::save_custom_dir_to_ini), bool (*)(std::string, bool)>;
+    const bool choose_is_exact =
+        std::is_same_v<decltype(&GFPDB_HELPER::set_active_flash_family), bool (*)(PGMIO_CONFIG_SCHEME)>;
+    const bool fetch_is_exact = std::is_same_v<decltype(&GFPDB_HELPER::get_active_flash_manager), GFPDB_MGR* (*)(bool)>;
+
+    QVERIFY(get_is_exact);
+    QVERIFY(set_is_exact);
+    QVERIFY(save_is_exact);
+    QVERIFY(choose_is_exact);
+    QVERIFY(fetch_is_exact);
 }
 
 // Read directly, without a call.

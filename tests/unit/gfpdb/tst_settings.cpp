@@ -4,9 +4,13 @@
 #include "gfpdb_settings.h"
 #include "gfpdb_test.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
+
+#include <cstdio>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,6 +25,29 @@ void expect_warning(const std::string& text)
 QStringList entries(const std::string& directory)
 {
     return QDir(QString::fromStdString(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+constexpr char ASK[] = "--ask-for-the-custom-directory";
+
+// The custom directory of a process that asks for it at its start and after each change of its base directory.
+std::string asked_in_another_process(const QStringList& base_directories)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), QStringList(QLatin1String(ASK)) + base_directories);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        qFatal("the other process ended with an error");
+    return process.readAllStandardOutput().toStdString();
+}
+
+int ask_for_the_custom_directory(const QStringList& base_directories)
+{
+    std::string answer = GFPDB_MGR::get_db_custom_dir();
+    for (const QString& directory : base_directories) {
+        GFPDB_HELPER::set_base_dir(directory.toStdString());
+        answer = GFPDB_MGR::get_db_custom_dir();
+    }
+    std::fputs(answer.c_str(), stdout);
+    return 0;
 }
 
 } // namespace
@@ -49,6 +76,12 @@ private slots:
     void the_default_directory_is_in_the_data_directory();
     void directories_have_one_form_data();
     void directories_have_one_form();
+    void relative_directories_are_relative_to_the_base_directory_data();
+    void relative_directories_are_relative_to_the_base_directory();
+    void a_relative_directory_is_saved_below_the_base_directory();
+    void a_relative_directory_of_the_settings_follows_the_base_directory();
+    void a_directory_that_was_set_stays_when_the_base_directory_changes();
+    void devices_are_saved_and_deleted_below_the_base_directory();
     void an_empty_directory_is_the_default();
     void a_saved_directory_is_found_by_the_next_program();
     void a_directory_in_which_no_database_can_be_used_is_refused_data();
@@ -83,6 +116,7 @@ void TST_SETTINGS::init()
 
 void TST_SETTINGS::cleanup()
 {
+    GFPDB_HELPER::set_base_dir(std::string());
     m_place.reset();
 }
 
@@ -247,6 +281,82 @@ void TST_SETTINGS::directories_have_one_form()
     QCOMPARE(GFPDB_MGR::get_db_custom_dir(), form.toStdString());
 }
 
+void TST_SETTINGS::relative_directories_are_relative_to_the_base_directory_data()
+{
+    QTest::addColumn<QString>("base");
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<QString>("form");
+    const QString here = QDir::currentPath() + QLatin1Char('/');
+    QTest::newRow("below it") << QStringLiteral("/base/") << QStringLiteral("a/b") << QStringLiteral("/base/a/b/");
+    QTest::newRow("no slash at its end") << QStringLiteral("/base") << QStringLiteral("a")
+                                         << QStringLiteral("/base/a/");
+    QTest::newRow("itself") << QStringLiteral("/base/") << QStringLiteral(".") << QStringLiteral("/base/");
+    QTest::newRow("above it") << QStringLiteral("/base/x/") << QStringLiteral("../a") << QStringLiteral("/base/a/");
+    QTest::newRow("absolute") << QStringLiteral("/base/") << QStringLiteral("/a") << QStringLiteral("/a/");
+    QTest::newRow("relative base") << QStringLiteral("base") << QStringLiteral("a") << here + QStringLiteral("base/a/");
+    QTest::newRow("no base") << QString() << QStringLiteral("a") << here + QStringLiteral("a/");
+}
+
+void TST_SETTINGS::relative_directories_are_relative_to_the_base_directory()
+{
+    QFETCH(const QString, base);
+    QFETCH(const QString, directory);
+    QFETCH(const QString, form);
+    GFPDB_HELPER::set_base_dir("/before/");
+    GFPDB_HELPER::set_base_dir(base.toStdString());
+
+    GFPDB_MGR::set_db_custom_dir(directory.toStdString());
+
+    QCOMPARE(GFPDB_MGR::get_db_custom_dir(), form.toStdString());
+}
+
+void TST_SETTINGS::a_relative_directory_is_saved_below_the_base_directory()
+{
+    GFPDB_HELPER::set_base_dir(m_place->path("base"));
+
+    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini("mine", true));
+
+    QCOMPARE(gfpdb_read_setting(GFPDB_SETTING_CUSTOM_DIR), m_place->path("base/mine/"));
+    QVERIFY(QFileInfo(QString::fromStdString(m_place->path("base/mine"))).isDir());
+}
+
+// A directory that is set stays for the rest of a process: what the settings say is asked for by another one.
+void TST_SETTINGS::a_relative_directory_of_the_settings_follows_the_base_directory()
+{
+    write_file(settings(), "[database]\ncustom_dir=mine\n");
+
+    QCOMPARE(asked_in_another_process({}), QDir::currentPath().toStdString() + "/mine/");
+    QCOMPARE(asked_in_another_process({QStringLiteral("/base/")}), std::string("/base/mine/"));
+    QCOMPARE(asked_in_another_process({QStringLiteral("/base/"), QStringLiteral("/other/")}),
+             std::string("/other/mine/"));
+}
+
+void TST_SETTINGS::a_directory_that_was_set_stays_when_the_base_directory_changes()
+{
+    GFPDB_HELPER::set_base_dir("/base/");
+    GFPDB_MGR::set_db_custom_dir("mine");
+
+    GFPDB_HELPER::set_base_dir("/other/");
+
+    QCOMPARE(GFPDB_MGR::get_db_custom_dir(), std::string("/base/mine/"));
+}
+
+void TST_SETTINGS::devices_are_saved_and_deleted_below_the_base_directory()
+{
+    make_dir(m_place->path("base/mine"));
+    GFPDB_HELPER::set_base_dir(m_place->path("base"));
+    GFPDB_MGR* manager = fresh_manager();
+    const std::string file = m_place->path("base/mine/gfpdb.sqlite");
+
+    GFPDB_FLASH* const record = make_device(*manager, "A");
+    QVERIFY(manager->save_flash(record, "mine"));
+    QCOMPARE(record->get_db_dir(), m_place->path("base/mine/"));
+    QCOMPARE(run_sql(file, "SELECT count(*) FROM device").toInt(), 1);
+
+    QVERIFY(manager->delete_flash("A", "./mine"));
+    QCOMPARE(run_sql(file, "SELECT count(*) FROM device").toInt(), 0);
+}
+
 void TST_SETTINGS::an_empty_directory_is_the_default()
 {
     GFPDB_MGR::set_db_custom_dir("");
@@ -377,5 +487,14 @@ void TST_SETTINGS::only_the_default_directory_is_created_on_demand()
     QVERIFY(!QFile::exists(QString::fromStdString(m_place->path("missing"))));
 }
 
-QTEST_GUILESS_MAIN(TST_SETTINGS)
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String(ASK))
+        return ask_for_the_custom_directory(arguments.mid(2));
+    TST_SETTINGS test;
+    return QTest::qExec(&test, arguments);
+}
+
 #include "tst_settings.moc"

@@ -21,4 +21,9 @@ public:
     // What keeps the database of the custom directory from being read or written, as a sentence for the user; empty
     // when nothing does.
     static std::string get_database_problem();
+    // The directory that relative database directories are relative to, wherever one is named: in the calls of the
+    // manager and in the settings file. Empty stands for the process's current directory, which is so until the first
+    // call; a relative one is itself relative to that. A custom directory that was set already stays where it is; one
+    // that comes from the settings file is found again. Local 8-bit.
+    static void set_base_dir(std::string directory);
 };

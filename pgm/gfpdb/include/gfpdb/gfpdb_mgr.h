@@ -93,14 +93,17 @@ public:
     // False: the template is built in, or the database could not be changed and is as it was.
     virtual bool remove_template(const std::string& name) = 0;
 
+    // The static operations take their texts by value: that is a part of their linker names.
+    //
     // The user's database directory: absolute, "/" as separator and at its end, never empty. Local 8-bit.
     static std::string get_db_custom_dir();
-    // Sets the directory for the next fetch of the manager.
-    static void set_db_custom_dir(const std::string& directory);
+    // Sets the directory for the next fetch of the manager. A relative one is relative to the base directory
+    // (GFPDB_HELPER::set_base_dir()); an empty one stands for the default directory.
+    static void set_db_custom_dir(std::string directory);
     // Stores `directory` in the settings file as the user's database directory. False when it is not an existing
     // directory in which a database can be used, or the settings cannot be written (then they stay as they were).
     // With `create` true a missing directory is created.
-    static bool save_custom_dir_to_ini(const std::string& directory, bool create);
+    static bool save_custom_dir_to_ini(std::string directory, bool create);
 
 protected:
     GFPDB_MGR() = default;
