@@ -44,6 +44,9 @@ QProcessEnvironment HOST_SESSION::environment() const
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(E2E_PLUGIN_PATH));
     environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"),
                        QLatin1String("gfpq_inspector:") + m_server.fullServerName());
+    // Where Mesa's drivers are installed the platform plugin would load GL, which nothing here draws with, and which
+    // leaks in a library that is unloaded before leaks are looked for.
+    environment.insert(QStringLiteral("QT_XCB_GL_INTEGRATION"), QStringLiteral("none"));
     // A window may close while the inspector asks the X server which one is under the pointer.
     environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("qt.qpa.xcb.warning=false"));
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_directory + QLatin1String("/config"));
