@@ -14,8 +14,8 @@ public:
     SCREEN(const SCREEN&) = delete;
     SCREEN& operator=(const SCREEN&) = delete;
 
-    // Starts the X server on a free display number and waits until the window manager manages it. False when that does
-    // not come about; problem() says why.
+    // Starts the X server on a free display number and waits until the window manager does as it is told: a window that
+    // is opened from then on gets the focus. False when that does not come about; problem() says why.
     bool start();
     QString problem() const { return m_problem; }
 
@@ -28,6 +28,7 @@ public:
 private:
     bool start_server();
     bool start_window_manager();
+    bool window_manager_obeys() const;
     bool fail(const QString& problem);
 
     QProcess m_server;
