@@ -2,6 +2,8 @@
 
 #include "gfpdb_text.h"
 
+#include <charconv>
+
 namespace {
 
 std::string places_of(const std::vector<CLI_RECORD>& records)
@@ -58,4 +60,12 @@ std::optional<CLI_RECORD> cli_find_one(const CLI_CALL& call, const std::string& 
     else
         call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.directory() + ".");
     return std::nullopt;
+}
+
+std::optional<std::int64_t> cli_history_id(const std::string& text)
+{
+    std::int64_t id = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, id);
+    return error == std::errc() && stop == end ? std::optional<std::int64_t>(id) : std::nullopt;
 }

@@ -5,12 +5,9 @@
 #include "record_file.h"
 #include "record_json.h"
 
-#include "gfpdb_action_value.h"
 #include "gfpdb_text.h"
 
 #include <QFileInfo>
-
-#include <limits>
 
 namespace {
 
@@ -27,10 +24,8 @@ bool is_file(const std::string& operand)
 // A state of the history.
 std::optional<CLI_RECORD> find_state(const CLI_CALL& call, const std::string& number, int& exit_code)
 {
-    const std::optional<std::int64_t> id = gfpdb_parse_decimal(number);
-    const bool is_id = id && *id <= std::numeric_limits<int>::max();
-    const std::optional<GFPDB_HISTORY_ENTRY> entry =
-        is_id ? call.database.store().find_history(static_cast<int>(*id)) : std::nullopt;
+    const std::optional<std::int64_t> id = cli_history_id(number);
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = id ? call.database.store().find_history(*id) : std::nullopt;
     if (entry)
         return CLI_RECORD{entry->is_template, entry->row, 0};
     exit_code = CLI_EXIT_NOT_FOUND;

@@ -38,7 +38,7 @@ _gfpdb()
         mapfile -t COMPREPLY < <(compgen -W "single quad both" -- "$current")
         return
         ;;
-    --family | --scheme | --filter)
+    --family | --scheme | --filter | --as)
         return
         ;;
     esac
@@ -49,6 +49,7 @@ _gfpdb()
     import) options="--replace --dry-run --unchecked --csv --family --scheme" ;;
     check) options="--json" ;;
     history) options="--json --family --scheme" ;;
+    restore) options="--replace --as" ;;
     diff) options="--json --family --scheme" ;;
     help)
         mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$current")

@@ -19,11 +19,6 @@ const char* kind_of(const GFPDB_HISTORY_ENTRY& entry)
     return entry.is_template ? "template" : "device";
 }
 
-const std::string& name_of(const GFPDB_HISTORY_ENTRY& entry)
-{
-    return entry.is_template ? entry.row.template_name : entry.row.name;
-}
-
 std::string line(const std::string& id, const std::string& when, const std::string& who, const std::string& reason,
                  const std::string& kind, const std::string& family, const std::string& scheme, const std::string& name)
 {
@@ -42,7 +37,7 @@ std::string table(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
     std::string text = line("ID", "WHEN", "WHO", "REASON", "KIND", "FAMILY", "SCHEME", "NAME");
     for (const GFPDB_HISTORY_ENTRY& entry : entries)
         text += line(std::to_string(entry.id), entry.changed_at, entry.changed_by, entry.reason, kind_of(entry),
-                     std::to_string(entry.row.family), std::to_string(entry.row.scheme), name_of(entry));
+                     std::to_string(entry.row.family), std::to_string(entry.row.scheme), entry.name());
     return text;
 }
 
@@ -58,7 +53,7 @@ std::string json(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
         object.add("kind", json_string(kind_of(entry)));
         object.add("family", json_number(entry.row.family));
         object.add("scheme", json_number(entry.row.scheme));
-        object.add("name", json_string(name_of(entry)));
+        object.add("name", json_string(entry.name()));
         list.items.push_back(std::move(object));
     }
     return json_write(list);
@@ -66,7 +61,7 @@ std::string json(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
 
 bool is_selected(const CLI_SELECTION& selection, const GFPDB_HISTORY_ENTRY& entry)
 {
-    return (selection.name.empty() || gfpdb_name_key(selection.name) == gfpdb_name_key(name_of(entry))) &&
+    return (selection.name.empty() || gfpdb_name_key(selection.name) == gfpdb_name_key(entry.name())) &&
            selection.family.value_or(entry.row.family) == entry.row.family &&
            selection.scheme.value_or(entry.row.scheme) == entry.row.scheme;
 }

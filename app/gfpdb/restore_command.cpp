@@ -1,32 +1,65 @@
 #include "restore_command.h"
 
-#include "gfpdb_action_value.h"
+#include "cli_find.h"
+
 #include "gfpdb_text.h"
 
-#include <limits>
+namespace {
+
+constexpr const char* OPTION_REPLACE = "replace";
+constexpr const char* OPTION_AS = "as";
+
+// What helps when the name of `state` is in use; empty when it is not.
+std::string hint_for(const CLI_CALL& call, const CLI_RECORD& state)
+{
+    if (call.database.load(state))
+        return "--replace puts the state in its place, --as gives it another name.";
+    const bool is_of_other_kind = state.is_template
+                                      ? call.database.store().has_device(state.name())
+                                      : !call.database.store().get_template_revision(state.name()).empty();
+    return is_of_other_kind ? "--as gives the state another name." : "";
+}
+
+} // namespace
 
 void CLI_RESTORE_COMMAND::add_options(QCommandLineParser& parser) const
 {
-    Q_UNUSED(parser)
+    parser.addOption({QLatin1String(OPTION_REPLACE), QStringLiteral("Replace the record that has the name now; its "
+                                                                    "present state goes into the history.")});
+    parser.addOption({QLatin1String(OPTION_AS),
+                      QStringLiteral("Restore it under this name; of a template: its template name."),
+                      QStringLiteral("name")});
 }
 
 int CLI_RESTORE_COMMAND::run(const CLI_CALL& call) const
 {
-    const std::optional<std::int64_t> id = gfpdb_parse_decimal(call.argument(0));
-    if (!id || *id > std::numeric_limits<int>::max())
-        return call.wrong_usage(gfpdb_quoted(call.argument(0)) + " is no number of the history.");
+    const std::string number = call.argument(0);
+    const std::string new_name = call.value(OPTION_AS);
+    const std::optional<std::int64_t> id = cli_history_id(number);
+    if (!id)
+        return call.wrong_usage(gfpdb_quoted(number) + " is not a number of the history.");
+    if (call.has(OPTION_AS) && new_name.empty())
+        return call.wrong_usage("--as is empty.");
     const std::string problem = call.database.read_problem();
     if (!problem.empty())
         return call.database_failed(problem);
-    const std::optional<GFPDB_HISTORY_ENTRY> entry = call.database.store().find_history(static_cast<int>(*id));
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = call.database.store().find_history(*id);
     if (!entry) {
-        call.output.error("There is no state " + call.argument(0) + " in the history of " + call.database.directory() +
-                          ".");
+        call.output.error("There is no state " + number + " in the history of " + call.database.directory() + ".");
         return CLI_EXIT_NOT_FOUND;
     }
-    if (!call.database.manager().restore_flash(entry->id, std::string()))
-        return call.database_failed(call.database.manager().get_last_error());
-    call.output.print(std::string("Restored the ") + (entry->is_template ? "template " : "device ") +
-                      gfpdb_quoted(entry->is_template ? entry->row.template_name : entry->row.name) + '\n');
+    CLI_RECORD state = {entry->is_template, entry->row, 0};
+    if (!new_name.empty())
+        (state.is_template ? state.row.template_name : state.row.name) = new_name;
+    const GFPDB_RESTORE how = call.has(OPTION_REPLACE) ? GFPDB_RESTORE_REPLACE : GFPDB_RESTORE_KEEP;
+    if (!call.database.manager().restore_flash(*id, std::string(), how, new_name)) {
+        const int exit_code = call.database_failed(call.database.manager().get_last_error());
+        const std::string hint = hint_for(call, state);
+        if (how == GFPDB_RESTORE_KEEP && !hint.empty())
+            call.output.error(hint);
+        return exit_code;
+    }
+    call.output.print(std::string("Restored the ") + (state.is_template ? "template " : "device ") +
+                      gfpdb_quoted(state.name()) + '\n');
     return CLI_EXIT_OK;
 }

@@ -164,7 +164,8 @@ bool DRAWER_MGR::delete_flash(const std::string& name, const std::string& /*dire
 }
 
 // There is no history here.
-bool DRAWER_MGR::restore_flash(int /*history_id*/, const std::string& /*directory*/)
+bool DRAWER_MGR::restore_flash(std::int64_t /*history_id*/, const std::string& /*directory*/, GFPDB_RESTORE /*how*/,
+                               const std::string& /*new_name*/)
 {
     return false;
 }

@@ -67,7 +67,7 @@ void change_records(GFPDB_EMBEDDED_MGR& manager)
     } else {
         FUZZ_CHECK(!manager.get_last_error().empty());
     }
-    manager.restore_flash(1, directory());
+    manager.restore_flash(1, directory(), GFPDB_RESTORE_KEEP, std::string());
 }
 
 } // namespace

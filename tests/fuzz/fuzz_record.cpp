@@ -156,7 +156,7 @@ void look_at_templates(GFPDB_EMBEDDED_MGR& manager)
 void look_at_history(GFPDB_EMBEDDED_MGR& manager)
 {
     for (const GFPDB_HISTORY_ENTRY& entry : manager.store().get_history())
-        manager.restore_flash(entry.id, directory());
+        manager.restore_flash(entry.id, directory(), GFPDB_RESTORE_KEEP, std::string());
 }
 
 } // namespace

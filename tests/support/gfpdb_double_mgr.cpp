@@ -237,9 +237,11 @@ bool MGR_DOUBLE::delete_flash(const std::string& name, const std::string& direct
     return delete_succeeds;
 }
 
-bool MGR_DOUBLE::restore_flash(int history_id, const std::string& directory)
+bool MGR_DOUBLE::restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
+                               const std::string& new_name)
 {
-    record(*this, "restore_flash", {log_int(history_id), log_text(directory)});
+    record(*this, "restore_flash",
+           {QString::number(history_id), log_text(directory), log_int(how), log_text(new_name)});
     return false;
 }
 

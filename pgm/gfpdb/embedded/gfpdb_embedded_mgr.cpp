@@ -306,16 +306,27 @@ bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string
     return store.remove_device(m_family, m_scheme, name) || fail(store.get_last_error());
 }
 
-bool GFPDB_EMBEDDED_MGR::restore_flash(int history_id, const std::string& directory)
+bool GFPDB_EMBEDDED_MGR::restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
+                                       const std::string& new_name)
 {
     m_last_error.clear();
     GFPDB_STORE& store = store_of(directory);
     const std::optional<GFPDB_HISTORY_ENTRY> entry = store.find_history(history_id);
     std::string error;
-    if (entry && !gfpdb_check_record_name(entry->is_template ? entry->row.template_name : entry->row.name,
-                                          entry->is_template ? TEMPLATE_NAME : DEVICE_NAME, error))
+    if (entry && !check_restored_name(*entry, new_name, error))
         return fail(error);
-    return store.restore(history_id) || fail(store.get_last_error());
+    return store.restore(history_id, how, new_name) || fail(store.get_last_error());
+}
+
+// A record that had a built-in device's name before the catalogue did gets it back; a new name must be free of both.
+bool GFPDB_EMBEDDED_MGR::check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name,
+                                             std::string& error)
+{
+    const std::string& what = entry.is_template ? TEMPLATE_NAME : DEVICE_NAME;
+    const std::string& name = new_name.empty() ? entry.name() : new_name;
+    const bool is_old_name = gfpdb_name_key(name) == gfpdb_name_key(entry.name());
+    return is_old_name && gfpdb_builtin_part(name) != nullptr ? gfpdb_check_name(name, what, error)
+                                                              : gfpdb_check_record_name(name, what, error);
 }
 
 void GFPDB_EMBEDDED_MGR::get_family_list(std::vector<int>& families) const

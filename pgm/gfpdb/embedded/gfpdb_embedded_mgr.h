@@ -49,7 +49,8 @@ public:
                                 std::string& error) const override;
     bool save_flash(GFPDB_FLASH* flash, const std::string& directory) override;
     bool delete_flash(const std::string& name, const std::string& directory) override;
-    bool restore_flash(int history_id, const std::string& directory) override;
+    bool restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
+                       const std::string& new_name) override;
     void get_family_list(std::vector<int>& families) const override;
     std::vector<int>& get_config_scheme_list(std::vector<int>& schemes) const override;
     std::vector<std::string>& get_custom_flash_names(std::vector<std::string>& names, int family, int scheme,
@@ -79,6 +80,7 @@ private:
     GFPDB_EMBEDDED_FLASH* nothing_read();
     bool check_device_name(const std::string& name, std::string& error) const;
     bool check_template_name(const std::string& name, std::string& error) const;
+    static bool check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name, std::string& error);
     bool fail(const std::string& error);
 
     int m_family = 0;

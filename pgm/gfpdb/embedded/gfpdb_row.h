@@ -1,6 +1,7 @@
 // What the flash database stores of one record.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -31,7 +32,7 @@ std::string gfpdb_new_revision();
 // A former state of a record.
 struct GFPDB_HISTORY_ENTRY
 {
-    int id = 0;
+    std::int64_t id = 0;
     // True for a stored template, which goes by its template name.
     bool is_template = false;
     // "replaced" or "deleted".
@@ -40,4 +41,7 @@ struct GFPDB_HISTORY_ENTRY
     std::string changed_at;
     std::string changed_by;
     GFPDB_ROW row;
+
+    // The name that the record went by.
+    const std::string& name() const { return is_template ? row.template_name : row.name; }
 };

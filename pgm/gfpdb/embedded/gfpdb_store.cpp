@@ -156,7 +156,7 @@ GFPDB_ROW row_at(const QSqlQuery& query, int first)
 GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
 {
     GFPDB_HISTORY_ENTRY entry;
-    entry.id = query.value(0).toInt();
+    entry.id = query.value(0).toLongLong();
     entry.is_template = query.value(1).toBool();
     entry.reason = gfpdb_to_utf8(query.value(2).toString());
     entry.changed_at = gfpdb_to_utf8(query.value(3).toString());
@@ -360,35 +360,52 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_STORE::get_history()
     return entries;
 }
 
-std::optional<GFPDB_HISTORY_ENTRY> GFPDB_STORE::find_history(int id)
+std::optional<GFPDB_HISTORY_ENTRY> GFPDB_STORE::find_history(std::int64_t id)
 {
     QSqlQuery query;
-    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?", {id}) || !next_row(query))
+    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?",
+                    {static_cast<qlonglong>(id)}) ||
+        !next_row(query))
         return std::nullopt;
     GFPDB_HISTORY_ENTRY entry = history_at(query);
     entry.row = row_at(query, HISTORY_COLUMNS);
     return entry;
 }
 
-bool GFPDB_STORE::restore(int id)
+bool GFPDB_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name)
 {
-    std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
     if (!entry)
         return m_last_error.empty() ? fail("There is no state " + std::to_string(id) + " in the history.") : false;
-    entry->row.revision = gfpdb_new_revision();
-    return prepare_write() && change([&] { return put_back(*entry); });
+    GFPDB_ROW row = entry->row;
+    row.revision = gfpdb_new_revision();
+    if (!new_name.empty())
+        (entry->is_template ? row.template_name : row.name) = new_name;
+    return prepare_write() && change([&] {
+               return check_different_names(row) &&
+                      (entry->is_template ? put_back_template(row, how) : put_back_device(row, how));
+           });
 }
 
-bool GFPDB_STORE::put_back(const GFPDB_HISTORY_ENTRY& entry)
+bool GFPDB_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
 {
-    const GFPDB_ROW& row = entry.row;
-    if (entry.is_template)
-        return check_no_template(row.template_name) && check_no_device(row.template_name) && insert_template(row);
+    if (!check_no_template(row.name))
+        return false;
+    if (how == GFPDB_RESTORE_REPLACE)
+        return drop_device(row.family, row.scheme, row.name, REASON_REPLACED) && insert_device(row);
     QSqlQuery query;
-    return check_no_template(row.name) &&
-           prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+    return prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
                    {row.family, row.scheme, key_of(row.name)}) &&
            finds_none(query, device_in_the_way(row.name)) && insert_device(row);
+}
+
+bool GFPDB_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
+{
+    if (!check_no_device(row.template_name))
+        return false;
+    const bool is_free = how == GFPDB_RESTORE_REPLACE ? drop_template(row.template_name, REASON_REPLACED)
+                                                      : check_no_template(row.template_name);
+    return is_free && insert_template(row);
 }
 
 // Runs `query`; false, with `in_the_way` as the reason, when it finds a row.
@@ -406,9 +423,8 @@ bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
         return false;
     if (row.template_name.empty())
         return true;
-    if (gfpdb_name_key(row.template_name) == gfpdb_name_key(row.name))
-        return fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) +
-                    ".");
+    if (!check_different_names(row))
+        return false;
     QSqlQuery query;
     const bool is_found = prepare(query, "SELECT CAST(name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)",
                                   {key_of(row.template_name)}) &&
@@ -430,6 +446,12 @@ bool GFPDB_STORE::check_no_device(const std::string& name)
     QSqlQuery query;
     return prepare(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)", {key_of(name)}) &&
            finds_none(query, device_in_the_way(name));
+}
+
+bool GFPDB_STORE::check_different_names(const GFPDB_ROW& row)
+{
+    return gfpdb_name_key(row.template_name) != gfpdb_name_key(row.name) ||
+           fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) + ".");
 }
 
 bool GFPDB_STORE::store(const GFPDB_ROW& row)

@@ -17,10 +17,13 @@
 
 #include "gfpdb_row.h"
 
+#include "gfpdb/gfpdb_enums.h"
+
 #include <QStringList>
 #include <QVariant>
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -87,10 +90,11 @@ public:
 
     // The states in the history, oldest first, without their flows.
     std::vector<GFPDB_HISTORY_ENTRY> get_history();
-    std::optional<GFPDB_HISTORY_ENTRY> find_history(int id);
-    // Makes the state `id` the current record again, with a new revision. Refused when its name is in use. The history
-    // keeps it.
-    bool restore(int id);
+    std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id);
+    // Makes the state `id` the current record again, with a new revision, under `new_name` when that is not empty. The
+    // history keeps it. When a record of its kind has the name, `how` decides; refused when one of the other kind has
+    // it, or when a device and the template that was made from it would have the same name.
+    bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name);
 
     // The name of the database file in its directory.
     static const char FILE_NAME[];
@@ -164,11 +168,13 @@ private:
     std::vector<GFPDB_ROW> read_rows(const char* statement);
     bool replace_device(const GFPDB_ROW& row);
     bool replace_template(const GFPDB_ROW& row);
-    bool put_back(const GFPDB_HISTORY_ENTRY& entry);
+    bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how);
+    bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool finds_none(QSqlQuery& query, const std::string& in_the_way);
     bool check_free_names(const GFPDB_ROW& row);
     bool check_no_template(const std::string& name);
     bool check_no_device(const std::string& name);
+    bool check_different_names(const GFPDB_ROW& row);
     bool store(const GFPDB_ROW& row);
     bool insert_device(const GFPDB_ROW& row);
     bool insert_template(const GFPDB_ROW& row);

@@ -137,7 +137,7 @@ void TST_BAD_FILES::verify_unusable(const std::string& told)
     QVERIFY(is_refused(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir())));
     QVERIFY(is_refused(m_mgr->delete_flash("A", m_place->db_dir())));
     QVERIFY(is_refused(m_mgr->remove_template("T")));
-    QVERIFY(is_refused(m_mgr->restore_flash(1, m_place->db_dir())));
+    QVERIFY(is_refused(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string())));
     expect_warning_text(m_place->db_dir() + " was not made the database directory: " + told);
     QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
     QVERIFY(!GFPDB_EMBEDDED_MGR::instance().store().check_integrity());

@@ -332,7 +332,7 @@ void TST_DURABILITY::undo_rename(const REPORT& report)
     const std::vector<GFPDB_HISTORY_ENTRY> entries = GFPDB_EMBEDDED_MGR::instance().store().get_history();
     QVERIFY(!entries.empty());
     QCOMPARE(entries.back().row.name, name);
-    QVERIFY(m_mgr->restore_flash(entries.back().id, std::string()));
+    QVERIFY(m_mgr->restore_flash(entries.back().id, std::string(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(stored_text(*m_mgr, name), expected_text(name, report.mark_before_rename()));
     QVERIFY(m_mgr->delete_flash(name, std::string()));
     ++m_undone_renames;

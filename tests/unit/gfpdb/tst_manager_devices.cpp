@@ -116,7 +116,7 @@ void TST_MANAGER_DEVICES::saving_replaces_and_keeps_the_former_state()
     QCOMPARE(m_mgr->find_flash("A", true)->get_density(), std::string("8Mb"));
     QCOMPARE(history_size(), 1);
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
-    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir()));
+    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(text_of(*m_mgr->find_flash("A", true)), before);
 }
 
@@ -139,7 +139,7 @@ void TST_MANAGER_DEVICES::deleting_keeps_the_former_state()
     QCOMPARE(custom_names(*m_mgr), NAMES{"B"});
     QVERIFY(m_mgr->find_flash("A", true) == nullptr);
     QCOMPARE(run_sql(m_place->db_file(), "SELECT reason FROM history").toString(), QStringLiteral("deleted"));
-    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir()));
+    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(text_of(*m_mgr->find_flash("A", true)), before);
 }
 
@@ -162,7 +162,7 @@ void TST_MANAGER_DEVICES::a_rename_interrupted_after_the_delete_can_be_undone()
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
 
     m_mgr = fresh_manager();
-    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir()));
+    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(text_of(*m_mgr->find_flash("A", true)), before);
 }
 
@@ -208,7 +208,7 @@ void TST_MANAGER_DEVICES::a_success_clears_the_last_error()
         [&] { return m_mgr->get_template_operations("T", SINGLE_IO) != nullptr; },
         [&] { return m_mgr->remove_template("T"); },
         [&] { return m_mgr->delete_flash("A", m_place->db_dir()); },
-        [&] { return m_mgr->restore_flash(2, m_place->db_dir()); },
+        [&] { return m_mgr->restore_flash(2, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()); },
     };
     for (const auto& call : calls) {
         QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));

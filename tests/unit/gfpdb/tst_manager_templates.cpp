@@ -92,7 +92,7 @@ void TST_MANAGER_TEMPLATES::a_removed_template_is_in_the_history_and_can_be_rest
     QVERIFY(m_mgr->find_flash("T", true) == nullptr);
     QVERIFY(m_mgr->find_flash("A", true) != nullptr);
 
-    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir()));
+    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(user_templates(*m_mgr), NAMES{"T"});
     QCOMPARE(text_of(*m_mgr->find_flash("T", true)), before);
     QVERIFY(m_mgr->find_flash("T", true)->is_template());
@@ -160,7 +160,7 @@ void TST_MANAGER_TEMPLATES::restoring_brings_back_everything()
     const std::string before = text_of(*saved);
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
     m_mgr->set_device_family(OTHER_FAMILY);
-    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir()));
+    QVERIFY(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
 
     QVERIFY(m_mgr->find_flash("A", true) == nullptr);
     m_mgr->set_device_family(FAMILY);
@@ -200,21 +200,21 @@ void TST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken()
     QVERIFY(m_mgr->remove_template("T"));
     save(device.toStdString(), template_name.toStdString());
 
-    QVERIFY(!m_mgr->restore_flash(is_template ? 2 : 1, m_place->db_dir()));
+    QVERIFY(!m_mgr->restore_flash(is_template ? 2 : 1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(m_mgr->get_last_error(), error.toStdString());
     QCOMPARE(custom_names(*m_mgr), NAMES{device.toStdString()});
 }
 
 void TST_MANAGER_TEMPLATES::restoring_what_is_not_in_the_history_fails()
 {
-    QVERIFY(!m_mgr->restore_flash(1, m_place->db_dir()));
+    QVERIFY(!m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(m_mgr->get_last_error(), std::string("There is no state 1 in the history."));
     save("A");
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
-    QVERIFY(!m_mgr->restore_flash(2, m_place->db_dir()));
-    run_sql(m_place->db_file(), "UPDATE history SET name = '" + BUILTIN + "'");
-    QVERIFY(!m_mgr->restore_flash(1, m_place->db_dir()));
+    QVERIFY(!m_mgr->restore_flash(2, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
+    QVERIFY(!m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_REPLACE, BUILTIN));
     QCOMPARE(m_mgr->get_last_error(), "There is a built-in device called \"" + BUILTIN + "\": choose another name.");
+    QCOMPARE(custom_names(*m_mgr), NAMES());
 }
 
 QTEST_GUILESS_MAIN(TST_MANAGER_TEMPLATES)

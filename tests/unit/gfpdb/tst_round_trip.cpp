@@ -179,7 +179,7 @@ void TST_ROUND_TRIP::a_restored_record_is_the_deleted_one()
         RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
         ++history_id;
 
-        RC_ASSERT(manager->restore_flash(history_id, m_place->db_dir()));
+        RC_ASSERT(manager->restore_flash(history_id, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
         RC_ASSERT(text_of(manager->find_flash(name, true)) == saved);
         RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
         ++history_id;

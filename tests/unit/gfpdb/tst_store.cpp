@@ -317,7 +317,7 @@ void TST_STORE::texts_come_back_byte_for_byte()
     QVERIFY(m_store->remove_device(FAMILY, SERIAL, row.name));
     QCOMPARE(text_of(m_store->find_history(1)->row), text_of(row));
     QVERIFY(m_store->remove_template(row.template_name));
-    QVERIFY(m_store->restore(1));
+    QVERIFY(m_store->restore(1, GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(text_of(*m_store->find_device(FAMILY, SERIAL, row.name)), text_of(row));
 }
 
@@ -405,7 +405,7 @@ void TST_STORE::history_has_whole_rows()
 
     QCOMPARE(text_of(m_store->find_history(1)->row), text_of(row));
     QVERIFY(!m_store->find_history(2).has_value());
-    QVERIFY(m_store->restore(1));
+    QVERIFY(m_store->restore(1, GFPDB_RESTORE_KEEP, std::string()));
     QVERIFY(m_store->get_device_revision(FAMILY, SERIAL, "A") != row.revision);
     QVERIFY(m_store->find_history(1).has_value());
 }
@@ -438,7 +438,7 @@ void TST_STORE::the_first_change_of_a_replaced_file_is_refused()
         [this] { return m_store->save_device(make_row("C")); },
         [this] { return m_store->remove_device(FAMILY, SERIAL, "B"); },
         [this] { return m_store->remove_template("B"); },
-        [this] { return m_store->restore(1); },
+        [this] { return m_store->restore(1, GFPDB_RESTORE_KEEP, std::string()); },
     };
     QVERIFY(m_store->save_device(make_row("A")));
     for (const auto& change : changes) {

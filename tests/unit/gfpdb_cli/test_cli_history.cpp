@@ -12,6 +12,17 @@ private slots:
     void a_rename_that_died_half_way_is_restored();
     void history_lists_and_filters();
     void restore_refuses_what_it_cannot_do();
+    void restore_replaces_what_is_in_the_way();
+    void restore_gives_another_name();
+    void restore_replaces_no_record_of_the_other_kind();
+    void restore_checks_the_other_name_data();
+    void restore_checks_the_other_name();
+    void a_device_with_a_built_in_name_is_restored();
+    void a_state_whose_name_is_not_allowed_gets_another_one();
+    void every_number_of_the_history_is_known_data();
+    void every_number_of_the_history_is_known();
+    void what_is_no_number_of_the_history_is_refused_data();
+    void what_is_no_number_of_the_history_is_refused();
 
     void diff_compares_records_files_and_states();
     void diff_of_two_files();
@@ -93,10 +104,204 @@ void TEST_CLI_HISTORY::restore_refuses_what_it_cannot_do()
     QCOMPARE(run.err, "gfpdb: There is no state 7 in the history of " + directory.toUtf8() + ".\n");
     run = run_tool({"restore", "1", "-d", directory});
     QCOMPARE(run.exit_code, 5);
-    QCOMPARE(run.err, QByteArray("gfpdb: There is a device called \"Mine\" already.\n"));
+    QCOMPARE(run.err, QByteArray("gfpdb: There is a device called \"Mine\" already.\n"
+                                 "gfpdb: --replace puts the state in its place, --as gives it another name.\n"));
+    run = run_tool({"restore", "1", "--as", "", "-d", directory});
+    QCOMPARE(run.exit_code, 2);
+    QCOMPARE(run.err, QByteArray("gfpdb: --as is empty.\n"));
     save_part("With", FAMILY, SERIAL, "T");
     QVERIFY(fresh_manager()->remove_template("T"));
     QCOMPARE(run_tool({"restore", "2", "-d", directory}).out, QByteArray("Restored the template \"T\"\n"));
+}
+
+void TEST_CLI_HISTORY::restore_replaces_what_is_in_the_way()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    save_part("Mine", FAMILY, SERIAL, "T");
+    const QByteArray before = exported(place.db_dir());
+    const QString file = exported_file(place, "Mine");
+    replace_in_file(file, "\"total_die\": 1", "\"total_die\": 2");
+    QCOMPARE(run_tool({"import", "--replace", file, "-d", directory}).exit_code, 0);
+    QVERIFY(exported(place.db_dir()) != before);
+
+    const TOOL_RUN run = run_tool({"restore", "1", "--replace", "-d", directory});
+
+    QCOMPARE(run.exit_code, 0);
+    QCOMPARE(run.out, QByteArray("Restored the device \"Mine\"\n"));
+    QCOMPARE(exported(place.db_dir()), before);
+    const QJsonArray history = json(run_tool({"history", "Mine", "--json", "-d", directory})).array();
+    QCOMPARE(history.size(), 2);
+    QCOMPARE(history[1].toObject().value("reason").toString(), QString("replaced"));
+    QVERIFY(run_tool({"diff", "history:2", "Mine", "-d", directory}).out.contains("\n-  \"total_die\": 2,\n"));
+}
+
+void TEST_CLI_HISTORY::restore_gives_another_name()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, SERIAL, "T");
+    const QStringList listed = {"Mine", "T"};
+    QCOMPARE(names(json(run_tool({"list", "--json", "-d", directory}))), listed);
+
+    TOOL_RUN run = run_tool({"restore", "1", "--as", "Mine before", "-d", directory});
+    QCOMPARE(run.exit_code, 0);
+    QCOMPARE(run.out, QByteArray("Restored the device \"Mine before\"\n"));
+    run = run_tool({"restore", "2", "--as", "T before", "-d", directory});
+    QCOMPARE(run.out, QByteArray("Restored the template \"T before\"\n"));
+
+    QCOMPARE(names(json(run_tool({"list", "--json", "-d", directory}))),
+             (QStringList{"Mine", "Mine before", "T", "T before"}));
+    QCOMPARE(json(run_tool({"show", "Mine before", "--json", "-d", directory})).object().value("name").toString(),
+             QString("Mine before"));
+    const QJsonObject shown = json(run_tool({"show", "T before", "--json", "-d", directory})).object();
+    QCOMPARE(shown.value("name").toString(), QString("Mine"));
+    QCOMPARE(shown.value("template_name").toString(), QString("T before"));
+    // The states keep their names, and a name in use is replaced here, too.
+    QCOMPARE(run_tool({"restore", "1", "--as", "mine BEFORE", "-d", directory}).exit_code, 5);
+    QCOMPARE(run_tool({"restore", "1", "--as", "mine BEFORE", "--replace", "-d", directory}).exit_code, 0);
+    QCOMPARE(json(run_tool({"history", "--json", "-d", directory})).array().size(), 3);
+    QCOMPARE(run_tool({"restore", "2", "--replace", "-d", directory}).out, QByteArray("Restored the template \"T\"\n"));
+    QCOMPARE(json(run_tool({"history", "--json", "-d", directory})).array().size(), 4);
+}
+
+void TEST_CLI_HISTORY::restore_replaces_no_record_of_the_other_kind()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Other", FAMILY, SERIAL, "U");
+    const QByteArray before = exported(place.db_dir());
+
+    for (const QStringList& arguments :
+         {QStringList{"1", "--as", "u"}, QStringList{"2", "--as", "other"}, QStringList{"1", "--as", "T"}}) {
+        const TOOL_RUN run = run_tool(QStringList{"restore", "-d", directory} + arguments);
+        QCOMPARE(run.exit_code, 5);
+        QVERIFY2(run.err.endsWith("\ngfpdb: --as gives the state another name.\n"), run.err.constData());
+        QCOMPARE(run_tool(QStringList{"restore", "--replace", "-d", directory} + arguments).exit_code, 5);
+    }
+    QCOMPARE(exported(place.db_dir()), before);
+}
+
+void TEST_CLI_HISTORY::restore_checks_the_other_name_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("error");
+    const auto add = [](const char* row, const char* id, const QString& name, const QByteArray& error) {
+        QTest::newRow(row) << QString(id) << name << "gfpdb: " + error + "\n";
+    };
+    add("built-in device", "1", "mx25l1606e", "There is a built-in device called \"mx25l1606e\": choose another name.");
+    add("built-in template", "2", "No QE bit",
+        "There is a built-in template called \"No QE bit\": choose another name.");
+    add("blank at its end", "1", "x ", "The device name \"x \" begins or ends with a blank: remove it.");
+    add("too long", "2", QString(65, 'x'), "The template name has 65 characters: 1 to 64 characters are allowed.");
+    add("device and its template", "1", "t",
+        "The device and its template need different names: both are called \"t\".");
+    add("template and its device", "2", "MINE",
+        "The device and its template need different names: both are called \"Mine\".");
+}
+
+void TEST_CLI_HISTORY::restore_checks_the_other_name()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    QFETCH(QString, id);
+    QFETCH(QString, name);
+    QFETCH(QByteArray, error);
+    save_part("Mine", FAMILY, SERIAL, "T");
+    QVERIFY(fresh_manager()->delete_flash("Mine", place.db_dir()));
+    QVERIFY(fresh_manager()->remove_template("T"));
+
+    const TOOL_RUN run = run_tool({"restore", id, "--as", name, "-d", directory});
+
+    QCOMPARE(run.exit_code, 5);
+    QCOMPARE(run.err, error);
+    QCOMPARE(names(json(run_tool({"list", "--json", "-d", directory}))), QStringList());
+}
+
+// The catalogue has grown, or another version of the program has a smaller one.
+void TEST_CLI_HISTORY::a_device_with_a_built_in_name_is_restored()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    save_part("Mine", FAMILY, SERIAL, "T");
+    QVERIFY(fresh_manager()->delete_flash("Mine", place.db_dir()));
+    QVERIFY(fresh_manager()->remove_template("T"));
+    run_sql(place.db_file(), "UPDATE history SET name = 'MX25L1606E', template_name = 'MX25L3233F'");
+
+    QCOMPARE(run_tool({"restore", "1", "-d", directory}).out, QByteArray("Restored the device \"MX25L1606E\"\n"));
+    QCOMPARE(run_tool({"restore", "2", "-d", directory}).out, QByteArray("Restored the template \"MX25L3233F\"\n"));
+    QCOMPARE(run_tool({"restore", "1", "--replace", "-d", directory}).exit_code, 0);
+    QCOMPARE(run_tool({"restore", "1", "--replace", "--as", "mx25L1606e", "-d", directory}).exit_code, 0);
+    // Another built-in name than the one that it had is refused.
+    QCOMPARE(run_tool({"restore", "1", "--as", "MX25L25645G", "-d", directory}).exit_code, 5);
+}
+
+// What an older program stored has names that would not be accepted today.
+void TEST_CLI_HISTORY::a_state_whose_name_is_not_allowed_gets_another_one()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    save_part("Mine");
+    QVERIFY(fresh_manager()->delete_flash("Mine", place.db_dir()));
+    run_sql(place.db_file(), "UPDATE history SET name = 'Mine '");
+
+    const TOOL_RUN run = run_tool({"restore", "1", "-d", directory});
+    QCOMPARE(run.exit_code, 5);
+    QCOMPARE(run.err, QByteArray("gfpdb: The device name \"Mine \" begins or ends with a blank: remove it.\n"));
+    QCOMPARE(run_tool({"restore", "1", "--as", "Mine", "-d", directory}).exit_code, 0);
+}
+
+void TEST_CLI_HISTORY::every_number_of_the_history_is_known_data()
+{
+    QTest::addColumn<QString>("id");
+    for (const char* id : {"2147483648", "4294967297", "999999999999999999", "9223372036854775807"})
+        QTest::newRow(id) << QString(id);
+}
+
+void TEST_CLI_HISTORY::every_number_of_the_history_is_known()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    QFETCH(QString, id);
+    save_part("Mine");
+    const QByteArray before = exported(place.db_dir());
+    save_part("Other");
+    QVERIFY(fresh_manager()->delete_flash("Other", place.db_dir()));
+    QVERIFY(fresh_manager()->delete_flash("Mine", place.db_dir()));
+    run_sql(place.db_file(), "UPDATE history SET id = " + id.toStdString() + " WHERE name = 'Mine'");
+
+    const QByteArray listed = run_tool({"history", "Mine", "-d", directory}).out;
+    QVERIFY2(listed.contains('\n' + id.toUtf8() + "  "), listed.constData());
+    QVERIFY(run_tool({"history", "--json", "-d", directory}).out.contains("\"id\": " + id.toUtf8() + ",\n"));
+    QCOMPARE(run_tool({"diff", "history:" + id, "history:" + id, "-d", directory}).exit_code, 0);
+    QCOMPARE(run_tool({"restore", id, "-d", directory}).exit_code, 0);
+    QCOMPARE(exported(place.db_dir()), before);
+}
+
+void TEST_CLI_HISTORY::what_is_no_number_of_the_history_is_refused_data()
+{
+    QTest::addColumn<QString>("id");
+    for (const char* id : {"x", "1x", " 1", "1 ", "+1", "1.0", "0x1", "9223372036854775808"})
+        QTest::newRow(id) << QString(id);
+}
+
+void TEST_CLI_HISTORY::what_is_no_number_of_the_history_is_refused()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    QFETCH(QString, id);
+    save_part("Mine");
+    save_part("Mine");
+
+    const TOOL_RUN run = run_tool({"restore", id, "-d", directory});
+
+    QCOMPARE(run.exit_code, 2);
+    QCOMPARE(run.err, "gfpdb: \"" + id.toUtf8() + "\" is not a number of the history.\n");
+    QCOMPARE(run_tool({"diff", "history:" + id, "Mine", "-d", directory}).exit_code, 3);
 }
 
 void TEST_CLI_HISTORY::diff_compares_records_files_and_states()

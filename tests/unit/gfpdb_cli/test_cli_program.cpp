@@ -110,7 +110,7 @@ void TEST_CLI_PROGRAM::every_command_explains_itself_data()
     QTest::newRow("check") << "[options]\nCheck every record and the database.\n" << QStringList{"--json"};
     QTest::newRow("history") << "[options] [NAME]\nList former states of records.\n"
                              << QStringList{"--json", "--family", "--scheme"};
-    QTest::newRow("restore") << "[options] ID\nBring a former state back.\n" << QStringList();
+    QTest::newRow("restore") << "[options] ID\nBring a former state back.\n" << QStringList{"--replace", "--as"};
     QTest::newRow("diff") << "[options] LEFT RIGHT\nCompare two records.\n"
                           << QStringList{"--json", "--family", "--scheme"};
 }
@@ -149,8 +149,7 @@ void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
     add({"import"}, "gfpdb: An argument is missing: gfpdb import FILE...\n");
     add({"diff", "a"}, "gfpdb: An argument is missing: gfpdb diff LEFT RIGHT\n");
     add({"history", "a", "b"}, "gfpdb: There are too many arguments: gfpdb history [NAME]\n");
-    add({"restore", "x"}, "gfpdb: \"x\" is no number of the history.\n");
-    add({"restore", "99999999999"}, "gfpdb: \"99999999999\" is no number of the history.\n");
+    add({"restore", "x"}, "gfpdb: \"x\" is not a number of the history.\n");
     add({"list", "--dir", ""}, "gfpdb: --dir is empty.\n");
     add({"list", "-d", ""}, "gfpdb: --dir is empty.\n");
     add({"export", "-o", ""}, "gfpdb: --output is empty.\n");
@@ -299,7 +298,7 @@ void TEST_CLI_PROGRAM::completion_knows_commands_options_and_names()
     QCOMPARE(completed({"import", "a"}), QStringList{"a file.json"});
     QVERIFY(completed({"diff", "-d", directory, "a"}).contains("a file.json"));
     // Every option that the program has is offered.
-    for (const char* command : {"list", "show", "export", "import", "check", "history", "diff"}) {
+    for (const char* command : {"list", "show", "export", "import", "check", "history", "restore", "diff"}) {
         const QStringList offered = completed({command, "--"});
         const QString help = run_tool({command, "--help"}).out;
         QRegularExpressionMatchIterator options = QRegularExpression("\n  (?:-., )?(--[a-z-]+)").globalMatch(help);

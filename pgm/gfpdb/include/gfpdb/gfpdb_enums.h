@@ -90,6 +90,13 @@ enum GFPDB_ACT_PROPERTY : int
 };
 constexpr int GFPDB_ACT_PROPERTY_COUNT = 40;
 
+// What a state of the history that is brought back does with the record that has its name now.
+enum GFPDB_RESTORE : int
+{
+    GFPDB_RESTORE_KEEP = 0,    // it stays, and the state is not brought back
+    GFPDB_RESTORE_REPLACE = 1, // it goes into the history, and the state takes its place
+};
+
 // A way to configure a device.
 enum PGMIO_CONFIG_SCHEME : int
 {

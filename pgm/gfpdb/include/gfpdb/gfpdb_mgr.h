@@ -5,6 +5,7 @@
 #include "gfpdb/gfpdb_flash.h"
 #include "gfpdb/gfpdb_operation.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -56,9 +57,12 @@ public:
     // Removes the device `name` from the database in `directory`; its state goes into the history. True also when there
     // is no such device. False: the database is as it was.
     virtual bool delete_flash(const std::string& name, const std::string& directory) = 0;
-    // Brings the state `history_id` of the history back as the current record of the family and scheme that it had; the
-    // history keeps it. False when its name is taken.
-    virtual bool restore_flash(int history_id, const std::string& directory) = 0;
+    // Brings the state `history_id` of the history in `directory` back as the current record of the family and scheme
+    // that it had, under `new_name` (of a template: its template name), or under the name that it had when that is
+    // empty. The history keeps the state. `how` decides about a record of the same kind that has the name now. False:
+    // the name is not allowed or in use, and the database is as it was.
+    virtual bool restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
+                               const std::string& new_name) = 0;
     virtual void get_family_list(std::vector<int>& families) const = 0;
     // The schemes of the current family.
     virtual std::vector<int>& get_config_scheme_list(std::vector<int>& schemes) const = 0;
