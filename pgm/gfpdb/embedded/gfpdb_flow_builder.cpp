@@ -40,7 +40,6 @@ constexpr int FLAG_READY = 0x80;
 constexpr int FLAG_ERRORS = 0x32;
 
 constexpr int MILLISECOND_US = 1000;
-constexpr int TEMPLATE_ID_BYTES = 3;
 constexpr int SMALL_SECTOR_MAX = 4096;
 
 // How often and at what interval a busy source is asked.
@@ -50,7 +49,7 @@ struct POLL
     int delay_us;
 };
 
-constexpr POLL REGISTER_POLL = {200, MILLISECOND_US};
+constexpr POLL REGISTER_POLL = {1000, MILLISECOND_US};
 constexpr POLL PROGRAM_POLL = {200, 100};
 constexpr POLL SMALL_SECTOR_POLL = {2000, MILLISECOND_US};
 constexpr POLL SECTOR_POLL = {1000, 10 * MILLISECOND_US};
@@ -113,7 +112,7 @@ public:
         open_die_loop();
         leave_four_byte_mode();
         write_register("Write Disable", WRITE_DISABLE);
-        read_register("Check Idle", READ_STATUS, {0x00}, {SR1_BUSY_AND_WRITE_ENABLED}, IDLE_POLL);
+        read_each_status("Check Idle", SR1_BUSY_AND_WRITE_ENABLED, IDLE_POLL);
         close_die_loop();
         if (has_dies())
             write_register("Select First Die", SELECT_DIE, gfpdb_bytes_text({0x00}));
@@ -171,23 +170,32 @@ private:
 
     void check_id()
     {
-        const std::size_t length = m_traits.id.empty() ? TEMPLATE_ID_BYTES : m_traits.id.size();
-        const std::vector<int> mask(length, 0xFF);
-        GFPDB_ACTION& action = read_register("Check Device ID", READ_ID, m_traits.id, mask, ONCE);
+        std::vector<int> expected = m_traits.id;
+        for (std::size_t at = 0; at < expected.size(); ++at)
+            expected[at] &= m_traits.id_mask[at];
+        GFPDB_ACTION& action = read_register("Check Device ID", READ_ID, expected, m_traits.id_mask, ONCE);
         if (m_traits.id.empty())
             action.set_property_value(GFPDB_RR_EXPECTED_DATA, GFPDB_VALUE_ID);
     }
 
     // Register writes are always watched through the status register, which every part has.
-    void poll_register_write()
+    void poll_register_write() { read_each_status("Poll Write In Progress", SR1_BUSY, REGISTER_POLL); }
+
+    // Waits until the bits of `mask` are clear in the status register of each die. The first die comes last, and stays
+    // selected.
+    void read_each_status(const char* name, int mask, const POLL& poll)
     {
-        read_register("Poll Write In Progress", READ_STATUS, {0x00}, {SR1_BUSY}, REGISTER_POLL);
+        for (int die = m_traits.status_dies - 1; die >= 0; --die) {
+            if (m_traits.status_dies > 1)
+                write_register("Select Die", SELECT_DIE, gfpdb_bytes_text({die}));
+            read_register(name, READ_STATUS, {0x00}, {mask}, poll);
+        }
     }
 
     void poll_busy(const POLL& poll)
     {
         if (!m_traits.flag_status) {
-            read_register("Poll Write In Progress", READ_STATUS, {0x00}, {SR1_BUSY}, poll);
+            read_each_status("Poll Write In Progress", SR1_BUSY, poll);
             return;
         }
         read_register("Poll Ready", READ_FLAG_STATUS, {FLAG_READY}, {FLAG_READY}, poll);
@@ -203,30 +211,33 @@ private:
 
     const char* quad_enable_name() const { return m_traits.verified ? "Quad Enable" : "Quad Enable (unverified)"; }
 
-    // The single-I/O variant leaves the quad-enable bit as it is, and with it a register that can only be written
-    // together with that bit.
+    // The single-I/O variant writes no register that keeps its value without power: it could not put back what it
+    // clears.
     void write_status()
+    {
+        if (m_quad)
+            write_quad_status();
+        if (m_traits.locked_at_power_up)
+            unlock_blocks();
+    }
+
+    void write_quad_status()
     {
         switch (m_traits.status_write) {
         case GFPDB_STATUS_WRITE::CLEAR:
             write_enabled_register("Clear Protection", WRITE_STATUS, {0x00});
             break;
         case GFPDB_STATUS_WRITE::SR1:
-            if (m_quad)
-                write_enabled_register(quad_enable_name(), WRITE_STATUS, {SR1_QUAD_ENABLE});
+            write_enabled_register(quad_enable_name(), WRITE_STATUS, {SR1_QUAD_ENABLE});
             break;
         case GFPDB_STATUS_WRITE::SR2_WITH_SR1:
-            if (m_quad)
-                write_enabled_register(quad_enable_name(), WRITE_STATUS, {0x00, SR2_QUAD_ENABLE});
+            write_enabled_register(quad_enable_name(), WRITE_STATUS, {0x00, SR2_QUAD_ENABLE});
             break;
         case GFPDB_STATUS_WRITE::SR2_OWN_COMMAND:
             write_enabled_register("Clear Protection", WRITE_STATUS, {0x00});
-            if (m_quad)
-                write_enabled_register(quad_enable_name(), WRITE_STATUS_2, {SR2_QUAD_ENABLE});
+            write_enabled_register(quad_enable_name(), WRITE_STATUS_2, {SR2_QUAD_ENABLE});
             break;
         }
-        if (m_traits.locked_at_power_up)
-            unlock_blocks();
     }
 
     void unlock_blocks()
@@ -275,7 +286,8 @@ private:
 
     void leave_four_byte_mode()
     {
-        if (m_traits.four_byte == GFPDB_FOUR_BYTE::NONE || m_traits.four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS)
+        if (m_traits.four_byte == GFPDB_FOUR_BYTE::NONE || m_traits.four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS ||
+            m_traits.four_byte == GFPDB_FOUR_BYTE::MODE_AND_RESET)
             return;
         if (m_traits.four_byte == GFPDB_FOUR_BYTE::MODE_WITH_WRITE_ENABLE)
             write_enable();

@@ -13,6 +13,7 @@ constexpr const char* GIGADEVICE = "GigaDevice";
 constexpr const char* ISSI = "ISSI";
 constexpr const char* INFINEON = "Infineon";
 constexpr const char* SST = "Microchip (SST)";
+constexpr const char* XMC = "XMC";
 
 constexpr const char* SINGLE_WIDTH = "1-1-1";
 constexpr const char* QUAD_DATA_WIDTH = "1-1-4";
@@ -33,6 +34,7 @@ constexpr int DEFAULT_DUMMY_SINGLE = 8;
 constexpr int QUAD_DATA_DUMMY = 8;
 constexpr int DEFAULT_DUMMY_QUAD = 6;
 constexpr int LATENCY_8_DUMMY_QUAD = 10;
+constexpr std::size_t TEMPLATE_ID_BYTES = 3;
 constexpr std::int64_t THREE_BYTE_DEVICE_MAX = 1 << 24;
 
 // The byte of an Infineon ID that tells how the sectors are laid out, and its value for 256K sectors with the lowest
@@ -76,6 +78,27 @@ bool has_selected_dies(const GFPDB_PART& part)
     return part.total_die > 1 && (starts_with(part.name, "W25M") || starts_with(part.name, "GD25S"));
 }
 
+// Winbond's stacks of 512 Mb dies: the addresses run on from die to die, the status does not.
+int status_dies(const GFPDB_PART& part)
+{
+    const bool stacked = starts_with(part.name, "W25Q01") || starts_with(part.name, "W25Q02");
+    return stacked && part.total_die > 1 ? part.total_die : 1;
+}
+
+// Behind the length of what follows, the extended ID of Micron says the generation in one bit, and in the others how
+// the part was ordered.
+std::vector<int> id_mask(const GFPDB_PART& part)
+{
+    constexpr std::size_t GENERATION_BYTE = 4;
+    constexpr int GENERATION_BIT = 0x40;
+    std::vector<int> mask(part.jedec_id.empty() ? TEMPLATE_ID_BYTES : part.jedec_id.size(), 0xFF);
+    if (part.manufacturer == MICRON && mask.size() > GENERATION_BYTE) {
+        std::fill(mask.begin() + GENERATION_BYTE, mask.end(), 0x00);
+        mask[GENERATION_BYTE] = GENERATION_BIT;
+    }
+    return mask;
+}
+
 // A part without a known place of the bit goes with its maker's other parts.
 GFPDB_QUAD_ENABLE assumed_quad_enable(const GFPDB_PART& part)
 {
@@ -94,13 +117,21 @@ GFPDB_FLOW_TEMPLATE template_of(GFPDB_QUAD_ENABLE quad_enable, int address_bytes
     return address_bytes == 4 ? GFPDB_TEMPLATE_SR2_4_BYTE : GFPDB_TEMPLATE_SR2_3_BYTE;
 }
 
+// GigaDevice's parts have a command of their own for the second register, apart from these.
+bool has_second_register_command(const GFPDB_PART& part)
+{
+    return part.manufacturer == GIGADEVICE && !starts_with(part.name, "GD25LQ64") &&
+           !starts_with(part.name, "GD25LQ128") && !starts_with(part.name, "GD25LQ255");
+}
+
 GFPDB_STATUS_WRITE status_write(const GFPDB_PART& part)
 {
     switch (assumed_quad_enable(part)) {
     case GFPDB_QUAD_ENABLE::SR1_BIT6:
         return GFPDB_STATUS_WRITE::SR1;
     case GFPDB_QUAD_ENABLE::SR2_BIT1:
-        return part.manufacturer == GIGADEVICE ? GFPDB_STATUS_WRITE::SR2_OWN_COMMAND : GFPDB_STATUS_WRITE::SR2_WITH_SR1;
+        return has_second_register_command(part) ? GFPDB_STATUS_WRITE::SR2_OWN_COMMAND
+                                                 : GFPDB_STATUS_WRITE::SR2_WITH_SR1;
     default:
         return GFPDB_STATUS_WRITE::CLEAR;
     }
@@ -123,7 +154,9 @@ GFPDB_FOUR_BYTE four_byte(const GFPDB_PART& part, int address_bytes)
         return GFPDB_FOUR_BYTE::OWN_COMMANDS;
     if (infineon_line(part) == INFINEON_LINE::FL_S)
         return GFPDB_FOUR_BYTE::BANK_REGISTER;
-    if (part.manufacturer == MICRON)
+    if (infineon_line(part) == INFINEON_LINE::FS_S)
+        return GFPDB_FOUR_BYTE::MODE_AND_RESET;
+    if (part.manufacturer == MICRON || part.manufacturer == XMC)
         return GFPDB_FOUR_BYTE::MODE_WITH_WRITE_ENABLE;
     return part.manufacturer == ISSI ? GFPDB_FOUR_BYTE::MODE_AND_BANK_EXIT : GFPDB_FOUR_BYTE::MODE;
 }
@@ -268,6 +301,7 @@ GFPDB_FLOW_TRAITS gfpdb_flow_traits(const GFPDB_PART& part, bool quad)
 {
     GFPDB_FLOW_TRAITS traits;
     traits.id = part.jedec_id;
+    traits.id_mask = id_mask(part);
     traits.device_bytes = gfpdb_density_bytes(part.density);
     traits.address_bytes = address_bytes(part);
     traits.verified = part.quad_enable != GFPDB_QUAD_ENABLE::UNKNOWN;
@@ -279,10 +313,10 @@ GFPDB_FLOW_TRAITS gfpdb_flow_traits(const GFPDB_PART& part, bool quad)
     traits.reset_at_start = part.manufacturer == MICRON;
     traits.four_byte = four_byte(part, traits.address_bytes);
     traits.mode_check = mode_check(part, traits.four_byte);
-    traits.reset_at_end = traits.reset_at_start ||
-                          (infineon_line(part) == INFINEON_LINE::FS_S && traits.four_byte == GFPDB_FOUR_BYTE::MODE);
+    traits.reset_at_end = traits.reset_at_start || traits.four_byte == GFPDB_FOUR_BYTE::MODE_AND_RESET;
     traits.clears_extended_address = starts_with(part.name, "W25Q256FV");
     traits.selected_dies = has_selected_dies(part) ? part.total_die : 1;
+    traits.status_dies = status_dies(part);
     traits.program = program_command(part, quad);
     traits.read = read_command(part, quad);
     traits.sector_erase = sector_erase(part, traits.four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS);

@@ -38,6 +38,7 @@ enum class GFPDB_FOUR_BYTE
     MODE,                   // B7 enters, E9 leaves
     MODE_WITH_WRITE_ENABLE, // the same, each after a write enable
     MODE_AND_BANK_EXIT,     // B7 enters, 17 [00] leaves
+    MODE_AND_RESET,         // B7 enters, the reset at the end leaves
     BANK_REGISTER,          // 17 [80] enters, 17 [00] leaves
     OWN_COMMANDS,           // commands that always take four bytes
 };
@@ -64,6 +65,8 @@ struct GFPDB_FLOW_TRAITS
     bool verified = true;
     // Empty in a template, whose flows name the ID of the device that will use them.
     std::vector<int> id;
+    // The bits of the ID that are compared, for each byte that is read.
+    std::vector<int> id_mask;
     // 0 in a template, whose flows name the size of the device that will use them.
     std::int64_t device_bytes = 0;
     int address_bytes = 3;
@@ -81,6 +84,8 @@ struct GFPDB_FLOW_TRAITS
     bool clears_extended_address = false;
     // Dies that must be selected by a command (C2) before they hear anything; 1 when there is nothing to select.
     int selected_dies = 1;
+    // Dies with one row of addresses that each show their own status, when selected by C2; 1 for one status register.
+    int status_dies = 1;
     GFPDB_DATA_COMMAND program = {0, "", 0};
     GFPDB_DATA_COMMAND read = {0, "", 0};
     // The sector erase; none when only the whole device (or die) can be erased for sure.

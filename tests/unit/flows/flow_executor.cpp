@@ -298,6 +298,9 @@ bool FLOW_EXECUTOR::read_data(const GFPDB_ACTION& action, const SCOPE& scope)
     command.opcode_lines = phases.at(0);
     command.address_lines = phases.at(1);
     command.data_lines = phases.at(2);
+    // On several lines the chip answers on lines that the host drives, and the last dummy clock is for letting them go.
+    const bool turns_around = command.data_lines > 1 && command.dummy_clocks > 0;
+    command.driven_dummy_clocks = command.dummy_clocks - (turns_around ? 1 : 0);
     const TEXT expected = value_of(action, GFPDB_RD_EXPECTED_DATA);
     const int mask = byte(value_of(action, GFPDB_RD_EXPECTED_DATA_MASK));
     const bool against_image = expected == "image" && m_purpose == FLOW_PURPOSE::VERIFY;

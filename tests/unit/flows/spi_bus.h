@@ -15,7 +15,9 @@ struct SPI_COMMAND
     int address_bytes = 0;
     std::int64_t address = 0;
     int dummy_clocks = 0;
-    // Driven during the dummy clocks.
+    // The first of the dummy clocks, during which the host drives the lines of the address with the bits of
+    // `dummy_byte`.
+    int driven_dummy_clocks = 0;
     int dummy_byte = 0xFF;
     FLOW_BYTES out;
     std::int64_t in_length = 0;

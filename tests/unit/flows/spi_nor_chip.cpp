@@ -15,7 +15,6 @@ constexpr int REGISTER_LOCK = 0x80;
 constexpr int FLAG_READY = 0x80;
 
 // Times near the worst that data sheets promise.
-constexpr std::int64_t REGISTER_WRITE_US = 150000;
 constexpr std::int64_t PROGRAM_US = 9000;
 constexpr std::int64_t RESET_US = 500;
 constexpr std::int64_t UNLOCK_US = 25;
@@ -46,6 +45,7 @@ bool is_any_of(int opcode, std::initializer_list<int> opcodes)
 
 SPI_NOR_CHIP::SPI_NOR_CHIP(const CHIP_FACTS& facts, int protection)
     : m_facts(facts), m_protection(protection), m_dies(static_cast<std::size_t>(facts.selected_dies)),
+      m_busy_until_us(static_cast<std::size_t>(facts.status_dies)),
       m_blocks(static_cast<std::size_t>(facts.bytes / BLOCK_BYTES), BLOCK::OLD), m_counts(256)
 {
     for (DIE& each : m_dies) {
@@ -58,6 +58,7 @@ SPI_NOR_CHIP::SPI_NOR_CHIP(const CHIP_FACTS& facts, int protection)
 void SPI_NOR_CHIP::power_up()
 {
     m_selected = 0;
+    m_status_die = 0;
     for (DIE& each : m_dies) {
         each.write_enabled = each.four_byte = false;
         each.extended_address = 0;
@@ -79,7 +80,8 @@ void SPI_NOR_CHIP::transfer(const SPI_COMMAND& command, const SPI_SINK& sink)
     ++m_now_us;
     if (command.opcode_lines != 1)
         complain(command, "opcode on several lines");
-    else if (is_busy() && !is_any_of(command.opcode, {0x05, 0x70}))
+    else if (is_busy() && !is_any_of(command.opcode, {0x05, 0x70}) &&
+             !(command.opcode == 0xC2 && m_facts.status_dies > 1))
         complain(command, "while the chip is busy");
     else if (!m_facts.commands.count(command.opcode))
         complain(command, "unknown to this chip");
@@ -160,10 +162,10 @@ std::optional<int> SPI_NOR_CHIP::register_value(int opcode)
 {
     const DIE& chip = die();
     if (opcode == 0x05)
-        return chip.sr1 | (is_busy() ? BUSY : 0) | (chip.write_enabled ? WRITE_ENABLED : 0);
+        return chip.sr1 | (shows_busy() ? BUSY : 0) | (chip.write_enabled ? WRITE_ENABLED : 0);
     const int mode = opcode == m_facts.mode_register && chip.four_byte ? m_facts.mode_bit : 0;
     if (opcode == 0x70)
-        return (is_busy() ? 0 : FLAG_READY) | chip.flag_errors | mode;
+        return (shows_busy() ? 0 : FLAG_READY) | chip.flag_errors | mode;
     if (opcode == 0x35)
         return chip.sr2;
     if (opcode == m_facts.mode_register)
@@ -197,9 +199,12 @@ bool SPI_NOR_CHIP::execute_register_write(const SPI_COMMAND& command)
         command.out.size() > longest)
         return complain(command, "register write with a wrong number of bytes");
     if (command.opcode == 0xC2) {
-        if (command.out[0] >= m_facts.selected_dies)
+        if (command.out[0] >= std::max(m_facts.selected_dies, m_facts.status_dies))
             return complain(command, "no such die");
-        m_selected = command.out[0];
+        if (m_facts.status_dies > 1)
+            m_status_die = command.out[0];
+        else
+            m_selected = command.out[0];
         return true;
     }
     if (command.opcode == 0x17) {
@@ -222,7 +227,7 @@ bool SPI_NOR_CHIP::execute_register_write(const SPI_COMMAND& command)
         if (m_facts.quad_enable == CHIP_FACTS::IN_SR2 && !m_facts.sr2_by_31)
             die().sr2 = command.out.size() == 2 ? command.out[1] : 0;
     }
-    start_busy(REGISTER_WRITE_US);
+    start_busy(m_facts.register_write_us);
     return true;
 }
 
@@ -269,8 +274,16 @@ bool SPI_NOR_CHIP::execute_read(const SPI_COMMAND& command, const SPI_SINK& sink
     if (!has_good_address(command, is_any_of(command.opcode, {0x0C, 0x6C, 0xEC})) ||
         !has_lines(command, quad_address ? 4 : 1, quad_data ? 4 : 1))
         return false;
-    if (command.dummy_clocks != dummy || command.dummy_byte != 0xFF)
+    if (command.dummy_clocks != dummy)
         return complain(command, "needs " + std::to_string(dummy) + " dummy clocks");
+    const int mode_clocks = quad_address ? m_facts.quad_read_mode_clocks
+                            : quad_data  ? 0
+                                         : m_facts.fast_read_mode_clocks;
+    if (command.driven_dummy_clocks < mode_clocks || (mode_clocks > 0 && command.dummy_byte != 0xFF))
+        return complain(command, "mode clocks other than FF");
+    // On one line, the chip answers on another one than it is spoken to.
+    if (command.driven_dummy_clocks > dummy || (quad_data && command.driven_dummy_clocks == dummy))
+        return complain(command, "host and chip drive a line at the same time");
     if (command.in_length < 1 || command.address + command.in_length > die_bytes())
         return complain(command, "reads behind the end");
     const std::int64_t start = m_selected * die_bytes() + command.address;
@@ -318,7 +331,7 @@ bool SPI_NOR_CHIP::execute_program(const SPI_COMMAND& command)
         bytes[static_cast<std::size_t>(start % BLOCK_BYTES) + at] &= command.out[at];
     m_written[block] = bytes;
     m_blocks[static_cast<std::size_t>(block)] = BLOCK::WRITTEN;
-    start_busy(PROGRAM_US);
+    start_busy_at(command.address, PROGRAM_US);
     return true;
 }
 
@@ -366,12 +379,28 @@ void SPI_NOR_CHIP::erase_range(std::int64_t start, std::int64_t length)
     }
     // Few sectors are as slow as a data sheet allows.
     const bool easy = m_erases++ % HARD_ERASE != 0;
-    start_busy(easy ? EASY_ERASE_US : worst_erase_us(length, die_bytes()));
+    const std::int64_t time = easy ? EASY_ERASE_US : worst_erase_us(length, die_bytes());
+    if (length == die_bytes())
+        start_busy(time);
+    else
+        start_busy_at(start, time);
 }
 
 void SPI_NOR_CHIP::start_busy(std::int64_t microseconds)
 {
-    m_busy_until_us = m_now_us + microseconds;
+    std::fill(m_busy_until_us.begin(), m_busy_until_us.end(), m_now_us + microseconds);
+}
+
+void SPI_NOR_CHIP::start_busy_at(std::int64_t address, std::int64_t microseconds)
+{
+    const auto dies = static_cast<std::int64_t>(m_busy_until_us.size());
+    m_busy_until_us[static_cast<std::size_t>(address / (die_bytes() / dies))] = m_now_us + microseconds;
+}
+
+bool SPI_NOR_CHIP::is_busy() const
+{
+    return std::any_of(m_busy_until_us.begin(), m_busy_until_us.end(),
+                       [this](std::int64_t until) { return m_now_us < until; });
 }
 
 FLOW_BYTES SPI_NOR_CHIP::block_bytes(std::int64_t block) const
@@ -400,7 +429,7 @@ bool SPI_NOR_CHIP::holds(const FLOW_IMAGE& image) const
 
 bool SPI_NOR_CHIP::is_at_rest() const
 {
-    return m_selected == 0 && std::none_of(m_dies.begin(), m_dies.end(), [](const DIE& each) {
+    return m_selected == 0 && m_status_die == 0 && std::none_of(m_dies.begin(), m_dies.end(), [](const DIE& each) {
                return each.write_enabled || each.four_byte || each.extended_address != 0;
            });
 }
@@ -415,6 +444,14 @@ bool SPI_NOR_CHIP::is_quad_enabled() const
         return chip.sr2 & SR2_QUAD;
     default:
         return true;
+    }
+}
+
+void SPI_NOR_CHIP::enable_quad()
+{
+    for (DIE& each : m_dies) {
+        each.sr1 |= m_facts.quad_enable == CHIP_FACTS::IN_SR1 ? SR1_QUAD : 0;
+        each.sr2 |= m_facts.quad_enable == CHIP_FACTS::IN_SR2 ? SR2_QUAD : 0;
     }
 }
 

@@ -18,10 +18,15 @@ struct CHIP_FACTS
     int page = 256;
     // Dies that listen only after they were selected; each has its own registers and addresses.
     int selected_dies = 1;
+    // Dies with one row of addresses, of which only the selected one shows in the status register that it is busy.
+    int status_dies = 1;
     int address_bytes = 3;
     int fast_read_dummy = 8;
     // 0: the chip has no quad address read.
     int quad_read_dummy = 0;
+    // The first of those clocks, in which the chip reads its mode bits.
+    int fast_read_mode_clocks = 0;
+    int quad_read_mode_clocks = 2;
     std::vector<GFPDB_ERASE_COMMAND> erase;
     // The lowest 4K sectors that a sector erase leaves alone.
     int split_sectors = 0;
@@ -48,6 +53,7 @@ struct CHIP_FACTS
     bool bank_register = false;
     bool locked_at_power_up = false;
     bool flag_status = false;
+    std::int64_t register_write_us = 150000;
 };
 
 CHIP_FACTS chip_facts(const GFPDB_PART& part);
@@ -69,6 +75,8 @@ public:
     // True when the chip is as it was after power-up, apart from its data, protection and quad-enable bit.
     bool is_at_rest() const;
     bool is_quad_enabled() const;
+    // Sets the quad-enable bit of a chip that has one, as the board that it comes from needs it.
+    void enable_quad();
     bool is_unprotected() const;
     // Commands that were executed, by opcode.
     int count_of(int opcode) const { return opcode < 256 ? m_counts[static_cast<std::size_t>(opcode)] : 0; }
@@ -92,7 +100,10 @@ private:
     };
 
     bool complain(const SPI_COMMAND& command, const std::string& what);
-    bool is_busy() const { return m_now_us < m_busy_until_us; }
+    // Whether the die whose status is shown is busy.
+    bool shows_busy() const { return m_now_us < m_busy_until_us[m_status_die]; }
+    // Whether any die is.
+    bool is_busy() const;
     DIE& die() { return m_dies[static_cast<std::size_t>(m_selected)]; }
     std::int64_t die_bytes() const { return m_facts.bytes / m_facts.selected_dies; }
     bool execute(const SPI_COMMAND& command, const SPI_SINK& sink);
@@ -110,6 +121,8 @@ private:
     std::int64_t graded_size(std::int64_t address) const;
     void erase_range(std::int64_t start, std::int64_t length);
     void start_busy(std::int64_t microseconds);
+    // The die that holds `address`.
+    void start_busy_at(std::int64_t address, std::int64_t microseconds);
     void power_up();
     FLOW_BYTES block_bytes(std::int64_t block) const;
 
@@ -117,9 +130,10 @@ private:
     const int m_protection;
     std::vector<DIE> m_dies;
     int m_selected = 0;
+    std::size_t m_status_die = 0;
     bool m_reset_enabled = false;
     std::int64_t m_now_us = 0;
-    std::int64_t m_busy_until_us = 0;
+    std::vector<std::int64_t> m_busy_until_us;
     int m_erases = 0;
     std::vector<BLOCK> m_blocks;
     std::map<std::int64_t, FLOW_BYTES> m_written;

@@ -51,6 +51,7 @@ void add_micron(CHIP_FACTS& facts, const GFPDB_PART& part)
     facts.mode_register = 0x70;
     facts.mode_bit = 0x01;
     facts.chip_erase = part.total_die == 1;
+    facts.quad_read_mode_clocks = 1;
 }
 
 // Status register 2 with the quad-enable bit, read by 35.
@@ -67,6 +68,10 @@ void add_winbond(CHIP_FACTS& facts, const GFPDB_PART& part)
     facts.mode_register = 0x15;
     facts.mode_bit = 0x01;
     facts.leaving_sets_extended_address = part.name == "W25Q256FV";
+    if (is_any(part.name, {"W25Q01", "W25Q02"})) {
+        add(facts, {0xC2});
+        facts.status_dies = begins(part.name, "W25Q01") ? 2 : 4;
+    }
 }
 
 void add_gigadevice(CHIP_FACTS& facts, const GFPDB_PART& part)
@@ -76,13 +81,23 @@ void add_gigadevice(CHIP_FACTS& facts, const GFPDB_PART& part)
         facts.quad_enable = CHIP_FACTS::IN_SR1;
     else if (!is_any(part.name, {"GD25B512", "GD25LB512"}))
         facts.quad_enable = CHIP_FACTS::IN_SR2;
-    facts.sr2_by_31 = true;
+    if (is_any(part.name, {"GD25LQ64", "GD25LQ128", "GD25LQ255"}))
+        facts.commands.erase(0x31);
+    else
+        facts.sr2_by_31 = true;
+}
+
+void add_xmc(CHIP_FACTS& facts, const GFPDB_PART& part)
+{
+    add_common(facts);
+    facts.write_enable_before_mode = is_any(part.name, {"XM25QH256C", "XM25QH512C"});
 }
 
 void add_infineon(CHIP_FACTS& facts, const GFPDB_PART& part)
 {
     facts.quad_enable = CHIP_FACTS::IN_SR2;
     add(facts, {0x35});
+    facts.register_write_us = 750000;
     const bool fl_s = is_any(part.name, {"S25FL127S", "S25FL128S", "S25FL256S", "S25FL512S"});
     const bool hx_t = is_any(part.name, {"S25HL", "S25HS"});
     if (fl_s) {
@@ -94,13 +109,16 @@ void add_infineon(CHIP_FACTS& facts, const GFPDB_PART& part)
         add(facts, {0x0C, 0x12, 0xEC});
         facts.chip_erase = part.total_die != 2;
         facts.split_sectors = hx_t && part.total_die != 2 ? 32 : 0;
-        if (hx_t)
+        if (hx_t) {
             facts.quad_read_dummy = 10;
-        else
+            facts.fast_read_mode_clocks = 8;
+            facts.fast_read_dummy = 16;
+        } else {
             facts.erase.clear();
+        }
     } else if (begins(part.name, "S25FS")) {
-        // E9 is a password command here; without a password it does nothing.
-        add(facts, {0xEB, 0x66, 0x99, 0xB7, 0xE9});
+        // E9 is a password command here: 4-byte addressing is left by a reset.
+        add(facts, {0xEB, 0x66, 0x99, 0xB7});
         facts.split_sectors = 8;
     } else {
         add(facts, {0x32, 0x34, 0x6B, 0x6C, 0xEB, 0xEC, 0x0C, 0x12, 0xB7, 0xE9});
@@ -126,6 +144,8 @@ void add_maker(CHIP_FACTS& facts, const GFPDB_PART& part)
         add_infineon(facts, part);
     else if (part.manufacturer == "EON" || is_any(part.name, {"XM25QH64A", "XM25QH128A"}))
         add(facts, {0xEB});
+    else if (part.manufacturer == "XMC")
+        add_xmc(facts, part);
     else
         add_common(facts);
 }

@@ -91,7 +91,7 @@ QString command_text(const GFPDB_DATA_COMMAND& command)
 QString traits_line(const GFPDB_PART& part)
 {
     static const char* const STATUS_WRITES[] = {"01[00]", "01[40]", "01[00 02]", "01[00] 31[02]"};
-    static const char* const FOUR_BYTES[] = {"3", "B7/E9", "06+B7/06+E9", "B7/17", "17/17", "own"};
+    static const char* const FOUR_BYTES[] = {"3", "B7/E9", "06+B7/06+E9", "B7/17", "B7/99", "17/17", "own"};
     const GFPDB_FLOW_TRAITS single = gfpdb_flow_traits(part, false);
     const GFPDB_FLOW_TRAITS quad = gfpdb_flow_traits(part, true);
     QStringList extras;
@@ -109,6 +109,8 @@ QString traits_line(const GFPDB_PART& part)
         extras += "C5[00]";
     if (quad.selected_dies > 1)
         extras += QString("dies %1").arg(quad.selected_dies);
+    if (quad.status_dies > 1)
+        extras += QString("status-dies %1").arg(quad.status_dies);
     const QString check = quad.mode_check ? hex(quad.mode_check->opcode) + "&" + hex(quad.mode_check->mask) : "-";
     const QString erase = quad.sector_erase
                               ? QString("%1:%2").arg(hex(quad.sector_erase->opcode)).arg(quad.sector_erase->size_bytes)
@@ -150,17 +152,19 @@ void compare_lines(const QStringList& found, const QStringList& expected)
 }
 
 const char* const PARTS_WITH_WHOLE_FLOWS[] = {
-    "MX25L1606E",    "MX25L12833F", "MX25L25645G", "IS25LP256D", "GD25Q256C",  "W25Q128JV-Q",
-    "W25Q128JW-M",   "W25Q256FV",   "W25M512JV",   "GD25Q64E",   "GD25S512MD", "SST26VF016B",
-    "S25FL256S-64K", "S25FL512S",   "S25FL256L",   "S25FS512S",  "S25HL512T",  "S25HL02GT",
-    "MT25QL01GBBB",  "N25Q128A13",  "EN25QH64A",   "GD25B512ME",
+    "MX25L1606E",    "MX25L12833F", "MX25L25645G", "IS25LP256D", "GD25Q256C",  "W25Q128JV-Q", "W25Q128JW-M",
+    "W25Q256FV",     "W25M512JV",   "W25Q01JV-Q",  "GD25Q64E",   "GD25LQ128E", "GD25S512MD",  "SST26VF016B",
+    "S25FL256S-64K", "S25FL512S",   "S25FL256L",   "S25FS512S",  "S25HL512T",  "S25HL02GT",   "MT25QL01GBBB",
+    "N25Q128A13",    "XM25QH256C",  "EN25QH64A",   "GD25B512ME",
 };
 
 // Runs over the actions of a flow and notes what breaks one of the rules of writing.
 class WRITE_RULES
 {
 public:
-    WRITE_RULES(const FLOW& flow, int busy_opcode) : m_busy_opcode(busy_opcode)
+    // `polled_dies` is 0 for a part with one status register.
+    WRITE_RULES(const FLOW& flow, int busy_opcode, int polled_dies)
+        : m_busy_opcode(busy_opcode), m_polled_dies(polled_dies)
     {
         for (const OPERATION& operation : flow) {
             const auto& actions = *operation->get_actions();
@@ -193,8 +197,21 @@ private:
         if (needs_enable && (at == 0 || opcode_of(*actions[at - 1]) != 0x06))
             m_broken += "no write enable before " + action_line(action);
         const int polled = changes_data ? m_busy_opcode : 0x05;
-        if ((changes_data || changes_status) && (at + 1 == actions.size() || !is_poll(*actions[at + 1], polled)))
+        if ((changes_data || changes_status) && !is_polled(actions, at + 1, polled))
             m_broken += "no poll after " + action_line(action);
+    }
+
+    // The first die is asked last, so that it is the selected one afterwards.
+    bool is_polled(const std::vector<GFPDB_ACTION*>& actions, std::size_t at, int opcode) const
+    {
+        if (m_polled_dies == 0)
+            return at < actions.size() && is_poll(*actions[at], opcode);
+        for (int die = m_polled_dies - 1; die >= 0; --die, at += 2) {
+            if (at + 1 >= actions.size() || opcode_of(*actions[at]) != 0xC2 || !is_poll(*actions[at + 1], opcode) ||
+                value_of(*actions[at], GFPDB_WR_DATA) != "0x0" + std::to_string(die))
+                return false;
+        }
+        return true;
     }
 
     static bool is_poll(const GFPDB_ACTION& action, int opcode)
@@ -209,11 +226,17 @@ private:
     }
 
     const int m_busy_opcode;
+    const int m_polled_dies;
 };
 
 int busy_opcode(const GFPDB_PART& part)
 {
     return part.manufacturer == "Micron" ? 0x70 : 0x05;
+}
+
+int polled_dies(const GFPDB_PART& part)
+{
+    return part.name.rfind("W25Q01", 0) == 0 ? 2 : part.name.rfind("W25Q02", 0) == 0 ? 4 : 0;
 }
 
 // How often an opcode is written as a register command in an operation.
@@ -314,7 +337,7 @@ void TEST_FLOW_PARTS::writes_are_enabled_and_watched()
 {
     for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
         for (const bool quad : {false, true}) {
-            const QStringList broken = WRITE_RULES(flow_of(part, quad), busy_opcode(part)).m_broken;
+            const QStringList broken = WRITE_RULES(flow_of(part, quad), busy_opcode(part), polled_dies(part)).m_broken;
             QVERIFY2(broken.isEmpty(), qPrintable(text(part.name) + ": " + broken.join("; ")));
         }
     }
@@ -326,7 +349,8 @@ void TEST_FLOW_PARTS::four_byte_mode_is_entered_and_left()
         for (const bool quad : {false, true}) {
             const FLOW flow = flow_of(part, quad);
             const int entered = count_of(*flow[0], "0xB7") + count_of(*flow[0], "0x17", "0x80");
-            const int left = count_of(*flow[4], "0xE9") + count_of(*flow[4], "0x17", "0x00");
+            const char* const leave = part.name == "S25FS512S" ? "0x99" : "0xE9";
+            const int left = count_of(*flow[4], leave) + count_of(*flow[4], "0x17", "0x00");
             const bool own_commands = gfpdb_flow_traits(part, quad).four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS;
             const int expected = part.addressing_bytes == 4 && !own_commands ? 1 : 0;
             QVERIFY2(entered == expected && left == expected, part.name.c_str());
@@ -366,9 +390,15 @@ void TEST_FLOW_PARTS::the_id_is_checked_before_anything_is_written()
             const std::size_t at = busy_opcode(part) == 0x70 ? 2 : 0;
             QCOMPARE(value_of(*actions[at], GFPDB_RR_COMMAND), std::string("0x9F"));
             QString id;
-            for (const int byte : part.jedec_id)
-                id += (id.isEmpty() ? "0x" : " 0x") + hex(byte);
+            QString mask;
+            for (std::size_t byte = 0; byte < part.jedec_id.size(); ++byte) {
+                const bool micron_option = part.manufacturer == "Micron" && byte > 3;
+                const int compared = !micron_option ? 0xFF : byte == 4 ? 0x40 : 0x00;
+                id += (id.isEmpty() ? "0x" : " 0x") + hex(part.jedec_id[byte] & compared);
+                mask += (mask.isEmpty() ? "0x" : " 0x") + hex(compared);
+            }
             QCOMPARE(text(value_of(*actions[at], GFPDB_RR_EXPECTED_DATA)), id);
+            QCOMPARE(text(value_of(*actions[at], GFPDB_RR_EXPECTED_DATA_MASK)), mask);
         }
     }
 }
