@@ -16,6 +16,8 @@ private slots:
     void the_record_has_its_fields_in_order();
     void the_record_reaches_the_dialog();
     void the_dialog_is_modal_to_its_parent();
+    void the_dialog_blocks_the_whole_host_data();
+    void the_dialog_blocks_the_whole_host();
     void each_flag_reaches_its_controls_data();
     void each_flag_reaches_its_controls();
     void closing_hands_the_record_back_as_it_came_data();
@@ -27,6 +29,9 @@ private slots:
     void a_failed_ok_keeps_the_dialog_and_the_record();
     void the_name_goes_back_as_local_8_bit();
     void the_map_is_never_written();
+    void the_record_is_untouched_until_the_end();
+    void the_record_may_change_while_the_dialog_is_shown_data();
+    void the_record_may_change_while_the_dialog_is_shown();
     void without_a_record_nothing_is_shown();
     void an_exception_does_not_leave_data();
     void an_exception_does_not_leave();
@@ -120,6 +125,29 @@ void TEST_ENTRY_POINT::the_dialog_is_modal_to_its_parent()
     gfpq_dyn_dlg(&host, &m_args, true, true, true);
 
     QVERIFY(host.findChildren<QDialog*>().isEmpty());
+}
+
+void TEST_ENTRY_POINT::the_dialog_blocks_the_whole_host_data()
+{
+    QTest::addColumn<bool>("has_parent");
+
+    QTest::newRow("parent") << true;
+    QTest::newRow("no parent") << false;
+}
+
+void TEST_ENTRY_POINT::the_dialog_blocks_the_whole_host()
+{
+    QFETCH(const bool, has_parent);
+    QWidget host;
+    Qt::WindowModality modality = Qt::NonModal;
+    m_modals.expect([&modality](QWidget* window) {
+        modality = window->windowModality();
+        MODAL_DRIVER::reject()(window);
+    });
+
+    gfpq_dyn_dlg(has_parent ? &host : nullptr, &m_args, true, true, true);
+
+    QCOMPARE(modality, Qt::ApplicationModal);
 }
 
 void TEST_ENTRY_POINT::each_flag_reaches_its_controls_data()
@@ -267,6 +295,60 @@ void TEST_ENTRY_POINT::the_map_is_never_written()
     run_dialog([](GFPQ_DLG& dialog) { click(dialog, "m_ok_button"); });
 
     QCOMPARE(m_args.family_schemes, (std::map<int, std::vector<int>>{{5, {7, 13}}}));
+}
+
+void TEST_ENTRY_POINT::the_record_is_untouched_until_the_end()
+{
+    GFPQ_DYN_DLG_ARGS at_the_end;
+    QStringList shown_then;
+
+    run_dialog([&](GFPQ_DLG& dialog) {
+        choose_data(dialog, "m_family_cbox", ALDER);
+        choose_data(dialog, "m_config_mode_cbox", SCHEME_X1);
+        select(dialog, 2);
+        connect(&dialog, &QDialog::finished, this, [&] {
+            at_the_end = m_args;
+            shown_then.append(QString::fromStdString(dialog.device_name()));
+        });
+        click(dialog, "m_ok_button");
+    });
+
+    // What OK hands back was there by then, but not in the record.
+    QCOMPARE(shown_then, list_of({"B"}));
+    QCOMPARE(at_the_end.family, CEDAR);
+    QCOMPARE(at_the_end.config_scheme, SCHEME_X4);
+    QCOMPARE(at_the_end.device_name, std::string("A"));
+    QCOMPARE(m_args.device_name, std::string("B"));
+}
+
+void TEST_ENTRY_POINT::the_record_may_change_while_the_dialog_is_shown_data()
+{
+    QTest::addColumn<bool>("accepted");
+
+    QTest::newRow("Cancel") << false;
+    QTest::newRow("OK") << true;
+}
+
+// The dialog lives on copies; at the end the record gets its three values whole, after Cancel those that came in.
+void TEST_ENTRY_POINT::the_record_may_change_while_the_dialog_is_shown()
+{
+    QFETCH(const bool, accepted);
+    m_args.family_schemes = {{5, {7, 13}}, {3, {23}}};
+
+    run_dialog([this, accepted](GFPQ_DLG& dialog) {
+        m_args.family = 99;
+        m_args.config_scheme = 98;
+        m_args.device_name = "something else";
+        m_args.family_schemes = {{9, {10}}};
+        choose_data(dialog, "m_family_cbox", ALDER);
+        QCOMPARE(of<QComboBox>(dialog, "m_config_mode_cbox").currentData().toInt(), 23);
+        click(dialog, accepted ? "m_ok_button" : "m_cancel_button");
+    });
+
+    QCOMPARE(m_args.family, accepted ? ALDER : CEDAR);
+    QCOMPARE(m_args.config_scheme, accepted ? 23 : SCHEME_X4);
+    QCOMPARE(m_args.device_name, std::string("A"));
+    QCOMPARE(m_args.family_schemes, (std::map<int, std::vector<int>>{{9, {10}}}));
 }
 
 void TEST_ENTRY_POINT::without_a_record_nothing_is_shown()

@@ -26,6 +26,10 @@ private slots:
     void the_map_restricts_families_and_modes();
     void a_family_with_an_empty_vector_offers_the_managers_modes();
     void a_map_without_offered_families_leaves_empty_combos();
+    void a_map_without_offered_families_offers_the_managers_modes();
+    void a_family_that_the_map_lacks_is_not_offered_data();
+    void a_family_that_the_map_lacks_is_not_offered();
+    void a_map_outlives_a_change_of_the_mode();
     void values_that_are_no_scheme_are_skipped();
     void an_empty_mode_list_counts_as_mode_0();
     void a_family_change_calls_in_order();
@@ -199,6 +203,69 @@ void TEST_FAMILY_AND_MODE::a_map_without_offered_families_leaves_empty_combos()
     QCOMPARE(items("m_family_cbox"), QStringList());
     QCOMPARE(log().calls_of({qs("set_device_family"), qs("set_config_scheme"), qs("get_custom_flash_names")}),
              list_of({"mgr.set_device_family(0)", "mgr.set_config_scheme(0)", "mgr.get_custom_flash_names(0, 0, 0)"}));
+}
+
+// The family of an empty combo is none of the map's.
+void TEST_FAMILY_AND_MODE::a_map_without_offered_families_offers_the_managers_modes()
+{
+    DIALOG_ARGS args;
+    args.family = 44;
+    args.family_schemes = {{44, {23}}};
+
+    open_recorded(args);
+
+    QCOMPARE(items("m_family_cbox"), QStringList());
+    QCOMPARE(log().count(qs("get_config_scheme_list")), 1);
+    QCOMPARE(combo("m_config_mode_cbox").count(), 5);
+    QCOMPARE(combo("m_config_mode_cbox").currentData().toInt(), SCHEME_X4);
+}
+
+void TEST_FAMILY_AND_MODE::a_family_that_the_map_lacks_is_not_offered_data()
+{
+    QTest::addColumn<int>("family");
+
+    // Beech is one of the manager's families, but not of the map's; 44 is one of the map's, but not of the manager's.
+    QTest::newRow("known to the manager only") << 9;
+    QTest::newRow("known to the map only") << 44;
+    QTest::newRow("known to nobody") << 45;
+}
+
+// What counts for the modes is the family that the combo shows instead.
+void TEST_FAMILY_AND_MODE::a_family_that_the_map_lacks_is_not_offered()
+{
+    QFETCH(const int, family);
+    DIALOG_ARGS args;
+    args.family = family;
+    args.family_schemes = {{5, {7}}, {3, {23, 10}}, {44, {13, 0}}};
+
+    open_recorded(args);
+
+    QCOMPARE(items("m_family_cbox"), list_of({"Alder", "Cedar"}));
+    QCOMPARE(combo("m_family_cbox").currentData().toInt(), ALDER);
+    QCOMPARE(items("m_config_mode_cbox"), list_of({"Passive Parallel x8", "SDMMC x4"}));
+    QCOMPARE(log().calls_of({qs("set_device_family"), qs("set_config_scheme"), qs("get_config_scheme_list"),
+                             qs("get_custom_flash_names"), qs("get_builtin_flash_names")}),
+             list_of({"mgr.set_device_family(3)", "mgr.set_config_scheme(10)", "mgr.get_custom_flash_names(3, 10, 0)",
+                      "mgr.get_builtin_flash_names(3, 10, 0)"}));
+}
+
+void TEST_FAMILY_AND_MODE::a_map_outlives_a_change_of_the_mode()
+{
+    DIALOG_ARGS args;
+    args.family_schemes = {{5, {13, 7}}, {3, {23, 10}}};
+    open(args);
+    MGR_DOUBLE& other = world().add_manager(QStringLiteral("other"));
+    other.families = {9, 3, 5, 1};
+    world().active = &other;
+
+    choose("m_config_mode_cbox", SCHEME_X1);
+
+    QCOMPARE(items("m_family_cbox"), list_of({"Alder", "Cedar"}));
+    QCOMPARE(combo("m_family_cbox").currentData().toInt(), CEDAR);
+    // Only the families are listed anew.
+    QCOMPARE(items("m_config_mode_cbox"), list_of({"Active Serial", "Active Serial x4"}));
+    choose("m_family_cbox", ALDER);
+    QCOMPARE(items("m_config_mode_cbox"), list_of({"Passive Parallel x8", "SDMMC x4"}));
 }
 
 void TEST_FAMILY_AND_MODE::values_that_are_no_scheme_are_skipped()
