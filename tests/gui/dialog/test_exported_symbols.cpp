@@ -1,7 +1,45 @@
-// What the module shows to whoever loads it: its one function, and nothing else.
+// What the module shows to whoever loads it, and what it needs: its one function, the libraries of the host and of Qt,
+// and nothing else.
+#include <QFileInfo>
 #include <QLibrary>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTest>
+
+namespace {
+
+// What `program` says about the module, line by line; empty when it cannot be run.
+QStringList lines_of(const QString& program, QStringList arguments)
+{
+    QProcess process;
+    process.start(program, arguments << QStringLiteral(GFPQ_MODULE));
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        return {};
+    return QString::fromLatin1(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+// The libraries that the module names, as "libQt5Core.so.5".
+QStringList needed_libraries()
+{
+    static const QRegularExpression NEEDED(QStringLiteral("\\(NEEDED\\).*\\[(.+)\\]"));
+    QStringList names;
+    for (const QString& line : lines_of(QStringLiteral("readelf"), {QStringLiteral("--dynamic")})) {
+        const QRegularExpressionMatch match = NEEDED.match(line);
+        if (match.hasMatch())
+            names.append(match.captured(1));
+    }
+    names.sort();
+    return names;
+}
+
+// What the module takes from other libraries, as it stands in C++.
+QStringList needed_symbols()
+{
+    return lines_of(QStringLiteral("nm"),
+                    {QStringLiteral("--dynamic"), QStringLiteral("--undefined-only"), QStringLiteral("--demangle")});
+}
+
+} // namespace
 
 class TEST_EXPORTED_SYMBOLS : public QObject
 {
@@ -10,19 +48,17 @@ class TEST_EXPORTED_SYMBOLS : public QObject
 private slots:
     void the_module_exports_its_entry_point_and_nothing_else();
     void the_entry_point_can_be_loaded();
+    void the_module_needs_the_host_and_qt_and_no_other_library();
+    void the_module_has_no_thread_timer_or_lock_data();
+    void the_module_has_no_thread_timer_or_lock();
 };
 
 void TEST_EXPORTED_SYMBOLS::the_module_exports_its_entry_point_and_nothing_else()
 {
-    QProcess nm;
-    nm.start(QStringLiteral("nm"), {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"),
-                                    QStringLiteral("--format=posix"), QStringLiteral(GFPQ_MODULE)});
-    QVERIFY2(nm.waitForFinished(), "nm cannot be run");
-    QCOMPARE(nm.exitCode(), 0);
-
-    const QString table = QString::fromLatin1(nm.readAllStandardOutput());
     QStringList functions;
-    for (const QString& line : table.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+    for (const QString& line :
+         lines_of(QStringLiteral("nm"),
+                  {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix")})) {
         const QStringList columns = line.split(QLatin1Char(' '));
         functions.append(columns.value(0) + QLatin1Char(' ') + columns.value(1));
     }
@@ -37,6 +73,52 @@ void TEST_EXPORTED_SYMBOLS::the_entry_point_can_be_loaded()
     QVERIFY2(module.load(), qPrintable(module.errorString()));
     QVERIFY(module.resolve("gfpq_dyn_dlg") != nullptr);
     QVERIFY(QFileInfo(module.fileName()).fileName() == QLatin1String("libpgm_gfpq.so"));
+}
+
+// The runtime of the compiler, of its checkers and of C comes with whatever is linked.
+void TEST_EXPORTED_SYMBOLS::the_module_needs_the_host_and_qt_and_no_other_library()
+{
+    static const QRegularExpression RUNTIME(
+        QStringLiteral("^(libstdc\\+\\+|libgcc_s|libc|libm|lib[a-z]+san)\\.so\\.\\d+$"));
+
+    const QStringList needed = needed_libraries();
+    QStringList others;
+    for (const QString& name : needed) {
+        if (!RUNTIME.match(name).hasMatch())
+            others.append(name);
+    }
+
+    QCOMPARE(others,
+             (QStringList{QStringLiteral("libQt5Core.so.5"), QStringLiteral("libQt5Gui.so.5"),
+                          QStringLiteral("libQt5Widgets.so.5"), QStringLiteral("libdstr.so"),
+                          QStringLiteral("libfio.so"), QStringLiteral("libgen.so"), QStringLiteral("libgfpdb.so"),
+                          QStringLiteral("libkovq.so"), QStringLiteral("libmsg.so")}));
+}
+
+void TEST_EXPORTED_SYMBOLS::the_module_has_no_thread_timer_or_lock_data()
+{
+    QTest::addColumn<QString>("pattern");
+
+    QTest::newRow("thread of Qt") << QStringLiteral(
+        "\\bQ(Adopted)?Thread(Pool|Storage\\w*)?::|moveToThread|QRunnable|QtConcurrent|QFuture");
+    QTest::newRow("thread of the language") << QStringLiteral(
+        "std::(__)?(thread|jthread|async|future|promise|__future)|pthread_create|thrd_create|clone$|fork$");
+    QTest::newRow("timer of Qt") << QStringLiteral(
+        "\\bQ(Basic|Deadline|Elapsed)?Timer::|QObject::(start|kill)Timer|QTimeLine|Animation::");
+    QTest::newRow("timer of the system") << QStringLiteral("timer_create|timerfd|setitimer|\\balarm|sleep");
+    QTest::newRow("lock of Qt") << QStringLiteral(
+        "\\bQ(\\w*Mutex|\\w*MutexLocker|ReadWriteLock|Semaphore|WaitCondition|SystemSemaphore|LockFile)::");
+    QTest::newRow("lock of the language") << QStringLiteral(
+        "pthread_(mutex|rwlock|cond|spin|barrier)|std::(mutex|condition_variable|lock)|sem_(wait|init)|flock|mtx_");
+}
+
+void TEST_EXPORTED_SYMBOLS::the_module_has_no_thread_timer_or_lock()
+{
+    QFETCH(const QString, pattern);
+    const QStringList symbols = needed_symbols();
+    QVERIFY(!symbols.filter(QStringLiteral("QDialog::exec()")).isEmpty());
+
+    QCOMPARE(symbols.filter(QRegularExpression(pattern)), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TEST_EXPORTED_SYMBOLS)
