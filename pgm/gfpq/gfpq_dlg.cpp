@@ -33,6 +33,7 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     fill_scheme_list(current_family(), config_scheme);
 
     ui.m_directory_edit->installEventFilter(this);
+    ui.m_cancel_button->installEventFilter(this);
     show_directory();
 
     ui.m_family_cbox->setEnabled(enable_family);
@@ -56,15 +57,20 @@ GFPQ_DLG::~GFPQ_DLG() = default;
 
 bool GFPQ_DLG::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == ui.m_directory_edit && event->type() == QEvent::FocusOut) {
-        // Leaving for Cancel, or because the dialog goes, saves nothing; the line edit's own menu is no leaving at all.
-        const bool closing = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
-        const bool cancelling = QApplication::focusWidget() == ui.m_cancel_button;
-        const bool menu = static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason;
-        if (!closing && !cancelling && !menu)
-            on_directory_editing_finished();
-    }
+    const bool is_directory = watched == ui.m_directory_edit || watched == ui.m_cancel_button;
+    if (is_directory && event->type() == QEvent::FocusOut && leaves_directory(*static_cast<QFocusEvent*>(event)))
+        on_directory_editing_finished();
     return KOVQ_DIALOG::eventFilter(watched, event);
+}
+
+// Going on to Cancel leaves the directory open: whoever cancels saves nothing, whoever leaves Cancel again for another
+// place has left the directory, too. Neither does the dialog that goes save anything; and a menu is no leaving at all.
+bool GFPQ_DLG::leaves_directory(const QFocusEvent& event) const
+{
+    const bool closing = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
+    const bool menu = event.reason() == Qt::PopupFocusReason;
+    const QWidget* const next = QApplication::focusWidget();
+    return !closing && !menu && next != ui.m_cancel_button && next != ui.m_directory_edit;
 }
 
 // The window's close button hands nothing back, and needs nothing of the base class's.

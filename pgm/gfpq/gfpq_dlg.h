@@ -49,7 +49,7 @@ public:
     std::int32_t config_scheme() const { return m_config_scheme; }
     const std::string& device_name() const { return m_device_name; }
 
-    // A directory that was typed is taken over when its line edit loses the focus.
+    // A directory that was typed is taken over when its line edit loses the focus, or Cancel after it.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -96,6 +96,7 @@ private:
     std::vector<int> offered_schemes(int family) const;
 
     // Directory of the user's flash database.
+    bool leaves_directory(const QFocusEvent& event) const;
     bool is_directory_untouched() const;
     std::string directory_text() const;
     std::string entered_directory() const;
@@ -107,8 +108,16 @@ private:
     void fill_device_list();
     // Selects the row of that name, else the first, and loads it; an empty name stands for a new device.
     void select_device(const std::string& name);
-    // Fills the list anew and selects a row with the selection's slot cut, so that the row is loaded once.
+    // The row that is shown when there is none of the name that was looked for; invalid for an empty list.
+    QModelIndex first_row() const;
+    // Fills the list again and selects a row with the selection's slot cut, so that the row is loaded once.
     void rebuild_device_list(const std::string& name_to_select);
+    // Makes the row that the form shows the current and selected one; none is current when the filter hides it. To be
+    // called with the selection's slot cut, or before a load.
+    void make_shown_row_current();
+    // Empties the filter when it hides the row that the form shows, which becomes current without being loaded.
+    void uncover_shown_row();
+    bool shows_new_device() const;
     QModelIndex current_source_index() const;
     std::string selected_device_name() const;
 
@@ -178,7 +187,6 @@ private:
     void store_other_variant(GFPDB_FLASH& flash, const std::string& selected, const GFPDB_FLASH* previous);
     GFPDB_OPERATION* create_operation(int kind);
     void show_unsaved_flows();
-    void show_saved_device(GFPDB_FLASH& flash, const std::string& name);
 
     Ui::gfpq_dlg ui;
     QStandardItemModel m_device_model;
@@ -191,4 +199,7 @@ private:
     std::int32_t m_family;
     std::int32_t m_config_scheme;
     std::string m_device_name;
+    // The row of m_device_model that the form shows. It is the view's current row unless the filter hides it; then no
+    // row is current.
+    QPersistentModelIndex m_shown_row;
 };

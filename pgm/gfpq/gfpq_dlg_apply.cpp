@@ -36,6 +36,7 @@ int number_of(const QLineEdit* edit)
 
 bool GFPQ_DLG::apply()
 {
+    uncover_shown_row();
     const std::string selected = selected_device_name();
     const std::string entered = gfpq_to_local(ui.m_device_name_edit->text());
     if (m_gfpdb_mgr->is_hidden_flash(selected, false))
@@ -60,7 +61,8 @@ bool GFPQ_DLG::apply()
         gfpq_raise_message(GFPQ_UPDATE_DB_FAILED);
         return false;
     }
-    show_saved_device(*m_current_flash, entered);
+    rebuild_device_list(entered);
+    uncover_shown_row();
     show_device_page();
     return true;
 }
@@ -227,23 +229,11 @@ void GFPQ_DLG::show_unsaved_flows()
         load_flows(false);
 }
 
-void GFPQ_DLG::show_saved_device(GFPDB_FLASH& flash, const std::string& name)
-{
-    rebuild_device_list(name);
-    // The filter may hide the name; then no row was loaded, and the form still shows what was saved.
-    if (current_source_index().isValid())
-        return;
-    m_current_flash = &flash;
-    enable_fields(false, true);
-    if (m_gfpdb_mgr->can_edit_flow())
-        load_flows(false);
-}
-
 void GFPQ_DLG::on_delete_clicked()
 {
-    const std::string selected = selected_device_name();
-    if (m_current_flash == nullptr || selected.empty() || gfpq_is_new_device(selected))
+    if (m_current_flash == nullptr || shows_new_device())
         return;
+    uncover_shown_row();
     if (!m_gfpdb_mgr->delete_flash(m_current_flash->get_name(), m_current_flash->get_db_dir())) {
         gfpq_raise_message(GFPQ_DELETE_DB_FAILED);
         return;

@@ -21,6 +21,7 @@ void GFPQ_DLG::load_device(const QModelIndex& source_index)
     const QStandardItem* const item = m_device_model.itemFromIndex(source_index);
     const std::string name = gfpq_to_local(item->text());
     const bool new_device = gfpq_is_new_device(name);
+    m_shown_row = source_index;
     bool editable = new_device || !item->data(GFPQ_READ_ONLY_ROLE).toBool();
 
     if (is_used(GFPDB_FLASH_VOLTAGE))

@@ -45,6 +45,8 @@ void GFPQ_DLG::set_up_device_table()
     m_proxy_model.setSourceModel(&m_device_model);
     m_proxy_model.setFilterKeyColumn(0);
     table.setModel(&m_proxy_model);
+    // Else the view would make its first row current when it gets the focus.
+    table.setCurrentIndex(QModelIndex());
 
     table.setSelectionMode(QAbstractItemView::SingleSelection);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -88,17 +90,22 @@ void GFPQ_DLG::select_device(const std::string& name)
 {
     const QString text = name.empty() ? QString(QLatin1String(GFPQ_NEW_DEVICE)) : gfpq_from_local(name);
     const QList<QStandardItem*> found = m_device_model.findItems(text, Qt::MatchExactly, 0);
-    if (!found.isEmpty())
-        ui.m_device_table_view->selectRow(m_proxy_model.mapFromSource(found.first()->index()).row());
-    else if (m_device_model.rowCount() > 0)
-        ui.m_device_table_view->selectRow(0);
+    const QModelIndex row = found.isEmpty() ? first_row() : found.first()->index();
+    m_shown_row = row;
+    make_shown_row_current();
 
-    // Loaded here whether or not the selection's slot, which is cut in most rebuilds, has seen the row.
-    const QModelIndex current = current_source_index();
-    if (current.isValid())
-        load_device(current);
+    // Loaded here whether or not the selection's slot, which is cut in most rebuilds, has seen the row; and also a row
+    // that the filter hides, so that the form never keeps a device that is not in the list.
+    if (row.isValid())
+        load_device(row);
     else
         m_current_flash = nullptr;
+}
+
+QModelIndex GFPQ_DLG::first_row() const
+{
+    return m_proxy_model.rowCount() > 0 ? m_proxy_model.mapToSource(m_proxy_model.index(0, 0))
+                                        : m_device_model.index(0, 0);
 }
 
 void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
@@ -106,6 +113,24 @@ void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
     const GFPQ_CONNECTION_CUT cut{selection_change()};
     fill_device_list();
     select_device(name_to_select);
+}
+
+// By the index, not by the number of the row: selectRow() finds no column in a layout from right to left.
+void GFPQ_DLG::make_shown_row_current()
+{
+    ui.m_device_table_view->selectionModel()->setCurrentIndex(
+        m_proxy_model.mapFromSource(m_shown_row), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void GFPQ_DLG::uncover_shown_row()
+{
+    if (m_shown_row.isValid() && !m_proxy_model.mapFromSource(m_shown_row).isValid())
+        ui.m_filter_line_edit->clear();
+}
+
+bool GFPQ_DLG::shows_new_device() const
+{
+    return gfpq_is_new_device(gfpq_to_local(m_shown_row.data().toString()));
 }
 
 QModelIndex GFPQ_DLG::current_source_index() const
@@ -124,10 +149,16 @@ void GFPQ_DLG::device_changed(const QItemSelection& current_selection, const QIt
 {
     const QModelIndex current = current_selection.indexes().value(0);
     const QModelIndex previous = previous_selection.indexes().value(0);
-    if (current.isValid() && m_proxy_model.mapToSource(current) != m_proxy_model.mapToSource(previous))
-        load_device(m_proxy_model.mapToSource(current));
+    if (!current.isValid() || m_proxy_model.mapToSource(current) == m_proxy_model.mapToSource(previous))
+        return;
+    // A row can be selected without becoming current: assistive technology does so.
+    ui.m_device_table_view->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    load_device(m_proxy_model.mapToSource(current));
 }
 
+// The rows come back in one step: row by row, the proxy would need time quadratic in the number of rows that the filter
+// shows or hides. The row that the form shows becomes current again, or no row is: the view would else go on to a
+// neighbour of a row that is hidden.
 void GFPQ_DLG::update_filter(const QString& filter_string)
 {
     QString pattern = filter_string;
@@ -135,5 +166,10 @@ void GFPQ_DLG::update_filter(const QString& filter_string)
     QRegularExpression expression(pattern, QRegularExpression::CaseInsensitiveOption);
     if (!expression.isValid())
         expression.setPattern(NEVER_MATCHING);
+    const GFPQ_CONNECTION_CUT cut{selection_change()};
+    m_proxy_model.setSourceModel(nullptr);
     m_proxy_model.setFilterRegularExpression(expression);
+    m_proxy_model.setSourceModel(&m_device_model);
+    ui.m_device_table_view->setCurrentIndex(QModelIndex());
+    make_shown_row_current();
 }

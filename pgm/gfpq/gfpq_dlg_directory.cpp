@@ -61,9 +61,11 @@ std::string GFPQ_DLG::directory_text() const
     return is_directory_untouched() ? GFPDB_MGR::get_db_custom_dir() : gfpq_to_local(ui.m_directory_edit->text());
 }
 
+// An empty edit stands for the directory in use.
 std::string GFPQ_DLG::entered_directory() const
 {
-    return folder(directory_text());
+    const std::string text = directory_text();
+    return folder(text.empty() ? GFPDB_MGR::get_db_custom_dir() : text);
 }
 
 void GFPQ_DLG::show_directory()

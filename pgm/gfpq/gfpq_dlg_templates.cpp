@@ -12,7 +12,7 @@
 void GFPQ_DLG::on_change_flow_template(int /*cursel*/)
 {
     if (check_text(GFPDB_FLASH_FLOW_TEMPLATE, ui.m_flow_template_cbox->currentText()))
-        load_flows(gfpq_is_new_device(selected_device_name()));
+        load_flows(shows_new_device());
 }
 
 void GFPQ_DLG::on_save_template_toggled(bool checked)
@@ -76,8 +76,9 @@ void GFPQ_DLG::copy_operations(GFPDB_FLASH& target, const std::vector<GFPDB_OPER
         GFPDB_OPERATION* const copy = create_operation(source->m_kind);
         if (const std::vector<GFPDB_ACTION*>* const actions = source->get_actions()) {
             for (const GFPDB_ACTION* const action : *actions) {
-                if (action != nullptr)
-                    copy->add_action(gfpq_copy_action(*m_gfpdb_mgr, *action));
+                GFPDB_ACTION* const own = action != nullptr ? gfpq_copy_action(*m_gfpdb_mgr, *action) : nullptr;
+                if (own != nullptr)
+                    copy->add_action(own);
             }
         }
         target.set_operation(copy, flow_variant);

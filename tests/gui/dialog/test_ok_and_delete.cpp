@@ -15,14 +15,14 @@ private slots:
     void ok_on_a_hidden_device_closes();
     void ok_on_a_record_that_cannot_be_made_closes();
     void ok_after_a_rename_hands_back_the_new_name();
-    void ok_with_a_name_that_the_filter_hides_hands_back_no_name();
+    void ok_with_a_name_that_the_filter_hides_hands_it_back();
     void ok_on_the_new_device_row_hands_back_the_saved_name();
     void cancel_rejects_at_once();
     void delete_removes_the_current_record();
     void delete_takes_name_and_directory_from_the_record();
     void a_failed_delete_raises_the_message();
     void delete_on_the_new_device_row_does_nothing();
-    void delete_with_nothing_selected_does_nothing();
+    void delete_with_the_device_hidden_uncovers_it_first();
     void delete_twice_deletes_once();
     void delete_selects_the_new_device_row();
     void delete_without_a_new_device_row_selects_the_first_row();
@@ -148,7 +148,7 @@ void TEST_OK_AND_DELETE::ok_after_a_rename_hands_back_the_new_name()
     QCOMPARE(dlg().device_name(), std::string("renamed"));
 }
 
-void TEST_OK_AND_DELETE::ok_with_a_name_that_the_filter_hides_hands_back_no_name()
+void TEST_OK_AND_DELETE::ok_with_a_name_that_the_filter_hides_hands_it_back()
 {
     open_with("A");
     edit("m_filter_line_edit").setText(QStringLiteral("^A$"));
@@ -160,7 +160,7 @@ void TEST_OK_AND_DELETE::ok_with_a_name_that_the_filter_hides_hands_back_no_name
     QCOMPARE(log().calls_of({qs("delete_flash"), qs("save_flash")}),
              list_of({R"(mgr.delete_flash("A", "/db/custom/"))", R"(mgr.save_flash(new:renamed, "/db/custom/"))"}));
     QCOMPARE(rejected.size(), 1);
-    QCOMPARE(dlg().device_name(), std::string());
+    QCOMPARE(dlg().device_name(), std::string("renamed"));
 }
 
 void TEST_OK_AND_DELETE::ok_on_the_new_device_row_hands_back_the_saved_name()
@@ -251,15 +251,19 @@ void TEST_OK_AND_DELETE::delete_on_the_new_device_row_does_nothing()
     QVERIFY(m_modals.met().isEmpty());
 }
 
-void TEST_OK_AND_DELETE::delete_with_nothing_selected_does_nothing()
+void TEST_OK_AND_DELETE::delete_with_the_device_hidden_uncovers_it_first()
 {
     open_with("A");
     edit("m_filter_line_edit").setText(QStringLiteral("none"));
     log().clear();
+    QString row_of_deletion;
+    log().on_call(qs("delete_flash"), [&](const QString&) { row_of_deletion = current_row(); });
 
     run("on_delete_clicked");
 
-    QCOMPARE(calls(), QStringList());
+    QCOMPARE(log().calls_of({qs("delete_flash")}), list_of({R"(mgr.delete_flash("A", "/db/of/A/"))"}));
+    QCOMPARE(row_of_deletion, QStringLiteral("A"));
+    QCOMPARE(edit("m_filter_line_edit").text(), QString());
 }
 
 void TEST_OK_AND_DELETE::delete_twice_deletes_once()
