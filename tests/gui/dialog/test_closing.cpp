@@ -15,6 +15,9 @@ private slots:
     void a_failed_check_of_a_new_device_leaves_no_record();
     void a_failed_ok_leaves_all_that_is_handed_back_data();
     void a_failed_ok_leaves_all_that_is_handed_back();
+    void an_apply_that_saves_nothing_leaves_the_page_and_the_form_data();
+    void an_apply_that_saves_nothing_leaves_the_page_and_the_form();
+    void a_delete_leaves_the_page();
     void a_warning_leaves_the_focus_in_its_field_data();
     void a_warning_leaves_the_focus_in_its_field();
     void a_warning_about_a_choice_leaves_the_focus_in_its_combo_data();
@@ -168,6 +171,58 @@ void TEST_CLOSING::a_failed_ok_leaves_all_that_is_handed_back()
     // Cancel after it hands nothing back either.
     button("m_cancel_button").click();
     QVERIFY(hands_back_what_came());
+}
+
+void TEST_CLOSING::an_apply_that_saves_nothing_leaves_the_page_and_the_form_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<bool>("can_be_made");
+
+    QTest::newRow("built-in") << qs("B") << true;
+    QTest::newRow("hidden") << qs("C") << true;
+    QTest::newRow("no record can be made") << qs("A") << false;
+}
+
+void TEST_CLOSING::an_apply_that_saves_nothing_leaves_the_page_and_the_form()
+{
+    QFETCH(const QString, device);
+    QFETCH(const bool, can_be_made);
+    mgr().add_builtin("B");
+    mgr().creates_flash = can_be_made;
+    open_with(device.toStdString());
+    mgr().hidden_properties = {"C"};
+    tabs().setCurrentIndex(3);
+    edit("m_device_name_edit").setText(QStringLiteral("typed"));
+    edit("m_device_id_edit").setText(QStringLiteral("typed"));
+    log().clear();
+
+    QVERIFY(apply());
+
+    QCOMPARE(log().calls_of({qs("can_add_flash"), qs("delete_flash"), qs("save_flash"), qs("find_flash")}),
+             QStringList());
+    QCOMPARE(tabs().currentIndex(), 3);
+    QCOMPARE(current_row(), device);
+    QCOMPARE(edit("m_device_name_edit").text(), QStringLiteral("typed"));
+    QCOMPARE(edit("m_device_id_edit").text(), QStringLiteral("typed"));
+    QVERIFY(prompted_messages().empty());
+}
+
+void TEST_CLOSING::a_delete_leaves_the_page()
+{
+    for (const bool succeeds : {false, true}) {
+        mgr().delete_succeeds = succeeds;
+        open_with("A");
+        tabs().setCurrentIndex(3);
+        log().clear();
+
+        run("on_delete_clicked");
+
+        QCOMPARE(log().count(qs("delete_flash")), 1);
+        QCOMPARE(tabs().currentIndex(), 3);
+        QCOMPARE(log().calls_of({qs("save_custom_dir_to_ini"), qs("set_db_custom_dir"), qs("set_device_family"),
+                                 qs("set_config_scheme")}),
+                 QStringList());
+    }
 }
 
 void TEST_CLOSING::a_warning_leaves_the_focus_in_its_field_data()

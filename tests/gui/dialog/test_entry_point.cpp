@@ -22,6 +22,7 @@ private slots:
     void each_flag_reaches_its_controls();
     void closing_hands_the_record_back_as_it_came_data();
     void closing_hands_the_record_back_as_it_came();
+    void what_is_not_offered_comes_back_all_the_same();
     void cancel_after_apply_hands_the_record_back_as_it_came();
     void ok_hands_the_choice_back();
     void ok_without_a_current_row_hands_back_no_name();
@@ -204,6 +205,26 @@ void TEST_ENTRY_POINT::closing_hands_the_record_back_as_it_came()
     QCOMPARE(m_args.config_scheme, SCHEME_X4);
     QCOMPARE(m_args.device_name, std::string("unknown"));
     QCOMPARE(m_args.family_schemes, (std::map<int, std::vector<int>>{{5, {}}, {3, {}}}));
+}
+
+// Without OK, not even a family and a mode that the combos cannot show are changed.
+void TEST_ENTRY_POINT::what_is_not_offered_comes_back_all_the_same()
+{
+    m_args.family = 1000;
+    m_args.config_scheme = -7;
+    m_args.device_name = "unknown";
+
+    run_dialog([](GFPQ_DLG& dialog) {
+        select(dialog, 1);
+        click(dialog, "m_apply_button");
+        click(dialog, "m_cancel_button");
+    });
+
+    QCOMPARE(log().calls().first(), qs("GFPDB_HELPER.set_active_flash_family(-7)"));
+    QCOMPARE(log().count(qs("save_flash")), 1);
+    QCOMPARE(m_args.family, 1000);
+    QCOMPARE(m_args.config_scheme, -7);
+    QCOMPARE(m_args.device_name, std::string("unknown"));
 }
 
 void TEST_ENTRY_POINT::cancel_after_apply_hands_the_record_back_as_it_came()
