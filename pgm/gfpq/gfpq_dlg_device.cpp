@@ -14,6 +14,14 @@ namespace {
 // With fewer voltages there is nothing to choose.
 constexpr int MIN_VOLTAGE_CHOICES = 2;
 
+// The item of that text: letter for letter, so that a stored value is saved as it was, else without regard to case; -1
+// when there is none.
+int find_choice(const QComboBox& combo, const QString& text)
+{
+    const int exact = combo.findText(text, Qt::MatchExactly);
+    return exact >= 0 ? exact : combo.findText(text, Qt::MatchFixedString);
+}
+
 } // namespace
 
 void GFPQ_DLG::load_device(const QModelIndex& source_index)
@@ -91,16 +99,16 @@ void GFPQ_DLG::show_choice(QComboBox* combo, const QString& text, bool cleared)
     if (cleared)
         combo->clear();
     else
-        combo->setCurrentIndex(qMax(0, combo->findText(text, Qt::MatchFixedString)));
+        combo->setCurrentIndex(qMax(0, find_choice(*combo, text)));
 }
 
 // A template that is no longer there is listed all the same while a device that was made from it is shown.
 void GFPQ_DLG::show_template(const QString& name)
 {
     const GFPQ_CONNECTION_CUT cut{change_of(ui.m_flow_template_cbox)};
-    if (ui.m_flow_template_cbox->findText(name, Qt::MatchFixedString) < 0)
+    if (find_choice(*ui.m_flow_template_cbox, name) < 0)
         ui.m_flow_template_cbox->addItem(name);
-    ui.m_flow_template_cbox->setCurrentIndex(qMax(0, ui.m_flow_template_cbox->findText(name, Qt::MatchFixedString)));
+    ui.m_flow_template_cbox->setCurrentIndex(qMax(0, find_choice(*ui.m_flow_template_cbox, name)));
 }
 
 void GFPQ_DLG::refill_choice_combo(QComboBox* combo)

@@ -6,6 +6,7 @@
 #include "text_catalogue.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLoggingCategory>
 
 #include <exception>
@@ -15,6 +16,31 @@ namespace {
 
 Q_LOGGING_CATEGORY(lc_gfpq, "gfpq.dialog")
 
+// Closes a dialog when its parent, or a window above that, is about to be deleted (QObject::deleteLater), and takes it
+// off the parent, which would delete an object of the stack. GUI thread only.
+class PARENT_WATCH : public QObject
+{
+public:
+    explicit PARENT_WATCH(QDialog& dialog) : m_dialog(dialog)
+    {
+        for (QWidget* ancestor = dialog.parentWidget(); ancestor != nullptr; ancestor = ancestor->parentWidget())
+            ancestor->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::DeferredDelete) {
+            qCWarning(lc_gfpq, "The parent of the Configuration Device dialog is deleted: the dialog is closed.");
+            m_dialog.setParent(nullptr, m_dialog.windowFlags());
+            m_dialog.reject();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QDialog& m_dialog;
+};
+
 void run_dialog(QWidget* parent, GFPQ_DYN_DLG_ARGS& args, bool enable_family, bool enable_config_mode, bool enable_edit)
 {
     const TEXT_CATALOGUE texts(QStringLiteral("gfpq"), {QStringLiteral(":/gfpq/translations")});
@@ -22,6 +48,7 @@ void run_dialog(QWidget* parent, GFPQ_DYN_DLG_ARGS& args, bool enable_family, bo
     const std::string device_name = args.device_name;
     GFPQ_DLG dialog(parent, args.family, args.config_scheme, device_name, enable_family, enable_config_mode,
                     enable_edit, family_schemes);
+    const PARENT_WATCH parent_watch(dialog);
     dialog.exec();
 
     // The copy can fail, what follows cannot: the record is written whole or not at all.

@@ -31,8 +31,10 @@ struct GFPQ_DYN_DLG_ARGS
 using GFPQ_DYN_DLG = void (*)(QWidget* parent, GFPQ_DYN_DLG_ARGS* args, bool enable_family, bool enable_config_mode,
                               bool enable_edit);
 
-// Shows the dialog, modal to `parent` (may be null), and returns when it was closed. `enable_family` and
-// `enable_config_mode` enable the two combo boxes, `enable_edit` the device page and the database directory. A null
-// `args` or a process without a QApplication is logged and nothing is shown. Throws nothing. GUI thread only.
+// Shows the dialog, modal to `parent` (may be null), and returns when it was closed. `parent` must outlive the call;
+// when it, or a window above it, is deleted with deleteLater() meanwhile, the dialog closes as by Cancel.
+// `enable_family` and `enable_config_mode` enable the two combo boxes, `enable_edit` the device page and the database
+// directory. A null `args` or a process without a QApplication is logged and nothing is shown. Throws nothing. GUI
+// thread only.
 extern "C" void gfpq_dyn_dlg(QWidget* parent, GFPQ_DYN_DLG_ARGS* args, bool enable_family, bool enable_config_mode,
                              bool enable_edit);

@@ -3,6 +3,7 @@
 
 #include "gfpq_dyn_dlg.h"
 
+#include <QPointer>
 #include <QProcess>
 #include <QTimer>
 
@@ -16,6 +17,8 @@ private slots:
     void the_record_has_its_fields_in_order();
     void the_record_reaches_the_dialog();
     void the_dialog_is_modal_to_its_parent();
+    void a_parent_that_goes_closes_the_dialog_data();
+    void a_parent_that_goes_closes_the_dialog();
     void the_dialog_blocks_the_whole_host_data();
     void the_dialog_blocks_the_whole_host();
     void each_flag_reaches_its_controls_data();
@@ -126,6 +129,34 @@ void TEST_ENTRY_POINT::the_dialog_is_modal_to_its_parent()
     gfpq_dyn_dlg(&host, &m_args, true, true, true);
 
     QVERIFY(host.findChildren<QDialog*>().isEmpty());
+}
+
+void TEST_ENTRY_POINT::a_parent_that_goes_closes_the_dialog_data()
+{
+    QTest::addColumn<bool>("is_window_above");
+
+    QTest::newRow("the parent itself") << false;
+    QTest::newRow("the window that the parent is in") << true;
+}
+
+void TEST_ENTRY_POINT::a_parent_that_goes_closes_the_dialog()
+{
+    QFETCH(const bool, is_window_above);
+    const QPointer<QWidget> window = new QWidget;
+    const QPointer<QWidget> parent = new QWidget(window);
+    expect_warning(qs("parent of the Configuration Device dialog is deleted"));
+    m_modals.expect([&](QWidget* dialog) {
+        select(dynamic_cast<GFPQ_DLG&>(*dialog), 2);
+        QWidget* const going = is_window_above ? window : parent;
+        going->deleteLater();
+        QCoreApplication::sendPostedEvents(going, QEvent::DeferredDelete);
+    });
+
+    gfpq_dyn_dlg(parent, &m_args, true, true, true);
+
+    QVERIFY(parent.isNull());
+    QCOMPARE(m_args.device_name, std::string("A"));
+    delete window;
 }
 
 void TEST_ENTRY_POINT::the_dialog_blocks_the_whole_host_data()
@@ -258,12 +289,10 @@ void TEST_ENTRY_POINT::ok_hands_the_choice_back()
 void TEST_ENTRY_POINT::ok_without_a_current_row_hands_back_no_name()
 {
     mgr().add_allowed = false;
-    m_args.device_name = "B";
+    mgr().custom_names.clear();
+    mgr().builtin_names.clear();
 
-    run_dialog([](GFPQ_DLG& dialog) {
-        of<QLineEdit>(dialog, "m_filter_line_edit").setText(QStringLiteral("none"));
-        click(dialog, "m_ok_button");
-    });
+    run_dialog([](GFPQ_DLG& dialog) { click(dialog, "m_ok_button"); });
 
     QCOMPARE(m_args.device_name, std::string());
     QCOMPARE(m_args.family, CEDAR);
