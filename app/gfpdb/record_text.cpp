@@ -3,6 +3,7 @@
 #include "cli_output.h"
 
 #include "gfpdb_json.h"
+#include "gfpq_vocabulary.h"
 
 #include "gfpdb/gfpdb_enums.h"
 
@@ -10,9 +11,6 @@
 
 namespace {
 
-constexpr const char* OPERATION_TITLES[] = {"Initialization", "Program", "Erase", "Verify/Blank-Check/Examine",
-                                            "Termination"};
-constexpr const char* ACTION_TITLES[] = {"Write Register", "Read Register", "Write Data", "Read Data", "Erase", "Loop"};
 constexpr std::size_t TITLE_WIDTH = 22;
 constexpr std::size_t ACTION_WIDTH = 16;
 
@@ -43,7 +41,7 @@ std::string action_text(const GFPDB_ACTION& action)
         text += (text.empty() ? "" : " | ") + (bare ? std::string() : label + ' ') +
                 cli_printable(action.get_property_value(property));
     }
-    return "    " + padded(ACTION_TITLES[action.m_action_type], ACTION_WIDTH) + text + '\n';
+    return "    " + padded(GFPQ_ACTION_TYPE_NAMES[action.m_action_type], ACTION_WIDTH) + text + '\n';
 }
 
 // False when the flows cannot be read.
@@ -54,7 +52,7 @@ bool add_flows(std::string& text, const char* title, const std::string& json)
         return false;
     text += std::string("\n") + title + (operations->empty() ? ": none\n" : "\n");
     for (const auto& operation : *operations) {
-        text += std::string("  ") + OPERATION_TITLES[operation->m_kind] + '\n';
+        text += std::string("  ") + GFPQ_OPERATION_NAMES[operation->m_kind] + '\n';
         for (const GFPDB_ACTION* action : *operation->get_actions())
             text += action_text(*action);
     }

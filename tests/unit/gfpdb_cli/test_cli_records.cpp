@@ -223,10 +223,10 @@ void TEST_CLI_RECORDS::a_record_is_shown_as_text()
                       "\n"
                       "Single-I/O flow\n"
                       "  Program\n"
-                      "    Loop            page | start\n"
+                      "    Custom          page | start\n"
                       "    Write Data      Program | Command 0x02 | Address loop | Data image | Page size(byte) 256 "
                       "| Addressing mode(byte) 3 | Delay(us) 0 | Command-Address-Data(bus width) 1-1-1\n"
-                      "    Loop            page | end\n"
+                      "    Custom          page | end\n"
                       "\n"
                       "Quad-I/O flow: none\n"),
         qPrintable(text));
