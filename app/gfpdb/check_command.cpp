@@ -13,6 +13,13 @@ struct FOUND
     CLI_PROBLEM problem;
 };
 
+// What was found in all records.
+struct FINDINGS
+{
+    std::vector<FOUND> problems;
+    std::vector<FOUND> warnings;
+};
+
 std::string title(const CLI_RECORD& record)
 {
     if (record.is_template)
@@ -21,28 +28,26 @@ std::string title(const CLI_RECORD& record)
            std::to_string(record.row.scheme) + ')';
 }
 
-void check_record(const CLI_CALL& call, const CLI_RECORD& record, std::vector<FOUND>& found)
+void check_record(const CLI_CALL& call, const CLI_RECORD& record, FINDINGS& found)
 {
     const std::optional<JSON_VALUE> json = record_to_json(record);
     if (!json) {
-        found.push_back({title(record), {0, "", "The flows cannot be read."}});
+        found.problems.push_back({title(record), {0, "", "The flows cannot be read."}});
         return;
     }
-    RECORD_READER reader(call.database.manager(), RECORD_RULES::ALL);
+    RECORD_READER reader(call.database.manager(), RECORD_RULES::STORED);
     reader.read_record(*json, record.is_template, "");
     for (CLI_PROBLEM problem : reader.problems()) {
         if (!problem.field.empty() && problem.field.front() == '.')
             problem.field.erase(0, 1);
-        found.push_back({title(record), problem});
+        found.problems.push_back({title(record), problem});
     }
+    for (const RECORD_REMARK& remark : record_warnings(call.database.manager(), record))
+        found.warnings.push_back({title(record), {0, remark.member, remark.text}});
 }
 
-std::string json(const CLI_CALL& call, std::size_t count, const std::string& damage, const std::vector<FOUND>& found)
+JSON_VALUE json_of(const std::vector<FOUND>& found)
 {
-    JSON_VALUE object = json_object();
-    object.add("directory", json_string(call.database.directory()));
-    object.add("integrity", json_string(damage.empty() ? "ok" : damage));
-    object.add("records", json_number(static_cast<long long>(count)));
     JSON_VALUE list = json_list();
     for (const FOUND& each : found) {
         JSON_VALUE problem = json_object();
@@ -51,18 +56,39 @@ std::string json(const CLI_CALL& call, std::size_t count, const std::string& dam
         problem.add("text", json_string(each.problem.text));
         list.items.push_back(std::move(problem));
     }
-    object.add("problems", std::move(list));
+    return list;
+}
+
+std::string json(const CLI_CALL& call, std::size_t count, const std::string& damage, const FINDINGS& found)
+{
+    JSON_VALUE object = json_object();
+    object.add("directory", json_string(call.database.directory()));
+    object.add("integrity", json_string(damage.empty() ? "ok" : damage));
+    object.add("records", json_number(static_cast<long long>(count)));
+    object.add("problems", json_of(found.problems));
+    object.add("warnings", json_of(found.warnings));
     return json_write(object);
 }
 
-std::string text(std::size_t count, const std::vector<FOUND>& found)
+std::string lines(const std::vector<FOUND>& found, const char* mark)
 {
-    std::string lines;
+    std::string text;
     for (const FOUND& each : found)
-        lines += each.record + (each.problem.field.empty() ? "" : ": " + each.problem.field) + ": " +
-                 each.problem.text + '\n';
-    return lines + std::to_string(count) + (count == 1 ? " record, " : " records, ") + std::to_string(found.size()) +
-           (found.size() == 1 ? " problem\n" : " problems\n");
+        text += each.record + (each.problem.field.empty() ? "" : ": " + each.problem.field) + ": " + mark +
+                each.problem.text + '\n';
+    return text;
+}
+
+std::string counted(std::size_t count, const std::string& what)
+{
+    return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
+}
+
+std::string text(std::size_t count, const FINDINGS& found)
+{
+    const std::string warnings = found.warnings.empty() ? "" : ", " + counted(found.warnings.size(), "warning");
+    return lines(found.problems, "") + lines(found.warnings, "warning: ") + counted(count, "record") + ", " +
+           counted(found.problems.size(), "problem") + warnings + '\n';
 }
 
 } // namespace
@@ -79,7 +105,7 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
         return call.database_failed(problem);
     const std::string damage =
         call.database.store().check_integrity() ? std::string() : call.database.store().get_last_error();
-    std::vector<FOUND> found;
+    FINDINGS found;
     const std::vector<CLI_RECORD> records = call.database.find_stored({});
     int done = 0;
     for (const CLI_RECORD& record : records) {
@@ -92,5 +118,5 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
                                                 : text(records.size(), found));
     if (!damage.empty())
         return call.database_failed(damage);
-    return found.empty() ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;
+    return found.problems.empty() ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;
 }

@@ -49,6 +49,11 @@ void CLI_OUTPUT::problem(const std::string& file, const CLI_PROBLEM& problem)
     error(text + ": " + problem.text);
 }
 
+void CLI_OUTPUT::warning(const std::string& file, const CLI_PROBLEM& problem)
+{
+    this->problem(file, {problem.line, problem.field, "warning: " + problem.text});
+}
+
 // Once per percent: a terminal is slower than the work.
 void CLI_OUTPUT::progress(const char* work, int done, int total)
 {

@@ -18,6 +18,8 @@ public:
     void error(const std::string& text);
     // Prints a problem as "file:line: field: text".
     void problem(const std::string& file, const CLI_PROBLEM& problem);
+    // As problem(), with "warning: " before the text.
+    void warning(const std::string& file, const CLI_PROBLEM& problem);
     // Shows how far a long piece of work has come, when standard error is a terminal: "Importing 120 of 4000". Nothing
     // else may be printed until finish_progress().
     void progress(const char* work, int done, int total);

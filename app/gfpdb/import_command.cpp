@@ -37,7 +37,9 @@ int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
         return call.database_failed(problem);
     const RECORD_FILE_OPTIONS options = {call.has(OPTION_CSV), call.has(OPTION_UNCHECKED),
                                          call.number(CLI_OPTION_FAMILY), call.number(CLI_OPTION_SCHEME)};
-    IMPORT_PLAN plan(call.database, call.has(OPTION_REPLACE));
+    IMPORT_PLAN plan(call.database, call.has(OPTION_REPLACE),
+                     options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::IMPORTED);
+    std::vector<std::pair<std::string, CLI_PROBLEM>> warnings;
     bool good = true;
     for (int at = 0; at < call.argument_count(); ++at) {
         RECORD_FILE file = read_record_file(call.argument(at), call.database.manager(), options);
@@ -45,12 +47,16 @@ int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
             plan.add(file);
         for (const CLI_PROBLEM& each : file.problems)
             call.output.problem(file.path, each);
+        for (const CLI_PROBLEM& each : file.warnings)
+            warnings.emplace_back(file.path, each);
         good = good && file.problems.empty();
     }
     if (!good) {
         call.output.error("Nothing was imported.");
         return CLI_EXIT_BAD_FILE;
     }
+    for (const auto& [path, warning] : warnings)
+        call.output.warning(path, warning);
     if (call.has(OPTION_DRY_RUN)) {
         call.output.print(summary_of(plan, "Would import", call.database.directory()));
         return CLI_EXIT_OK;

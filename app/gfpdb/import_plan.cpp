@@ -55,14 +55,30 @@ void IMPORT_PLAN::add_record(RECORD_FILE& file, CLI_RECORD record)
         ++m_unchanged;
         return;
     }
+    std::vector<RECORD_REMARK> remarks;
+    if (m_rules != RECORD_RULES::NAMES)
+        remarks = record_fill_missing(m_database.manager(), record);
+    if (former && is_same(former->row, record.row)) {
+        ++m_unchanged;
+        return;
+    }
     if (former && !m_may_replace) {
         file.problems.push_back(
             {record.line, "", "The " + what(record) + " exists with another content: --replace replaces it."});
         return;
     }
+    warn(file, record, remarks);
+    if (m_rules != RECORD_RULES::NAMES)
+        warn(file, record, record_warnings(m_database.manager(), record));
     ++(former ? m_replaced : m_new);
     record.row.revision = gfpdb_new_revision();
     (record.is_template ? m_templates : m_devices).push_back(record.row);
+}
+
+void IMPORT_PLAN::warn(RECORD_FILE& file, const CLI_RECORD& record, const std::vector<RECORD_REMARK>& remarks)
+{
+    for (const RECORD_REMARK& remark : remarks)
+        file.warnings.push_back({record.line, what(record) + ": " + remark.member, remark.text});
 }
 
 // No device has the name of a template, neither in the directory nor in the files.

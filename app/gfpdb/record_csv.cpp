@@ -1,5 +1,6 @@
 #include "record_csv.h"
 
+#include "record_fields.h"
 #include "record_json.h"
 
 #include "gfpdb_catalogue_csv.h"
@@ -10,20 +11,12 @@
 namespace {
 
 // The columns are the members of a record in JSON that are no flows.
-const std::vector<std::string> COLUMNS = {"name",
-                                          "family",
-                                          "scheme",
-                                          "device_id",
-                                          "voltage",
-                                          "density",
-                                          "total_die",
-                                          "single_io_dummy_clock",
-                                          "quad_io_dummy_clock",
-                                          "template_name",
-                                          "flow_template"};
+const std::vector<std::string> COLUMNS = {
+    RECORD_NAME,      RECORD_FAMILY,       RECORD_SCHEME,     RECORD_DEVICE_ID,     RECORD_VOLTAGE,      RECORD_DENSITY,
+    RECORD_TOTAL_DIE, RECORD_SINGLE_DUMMY, RECORD_QUAD_DUMMY, RECORD_TEMPLATE_NAME, RECORD_FLOW_TEMPLATE};
 constexpr std::size_t COLUMNS_REQUIRED = 3;
-const std::vector<std::string> NUMBER_COLUMNS = {"family", "scheme", "total_die", "single_io_dummy_clock",
-                                                 "quad_io_dummy_clock"};
+const std::vector<std::string> NUMBER_COLUMNS = {RECORD_FAMILY, RECORD_SCHEME, RECORD_TOTAL_DIE, RECORD_SINGLE_DUMMY,
+                                                 RECORD_QUAD_DUMMY};
 
 bool is_one_of(const std::vector<std::string>& texts, const std::string& text)
 {
@@ -135,7 +128,7 @@ std::vector<CLI_RECORD> records_from_csv(const std::string& text, GFPDB_MGR& man
     const GFPDB_CSV_ROW head = rows.empty() ? GFPDB_CSV_ROW{1, {}} : rows.front();
     if (!check_columns(head, problems))
         return records;
-    RECORD_READER reader(manager, checked ? RECORD_RULES::ALL : RECORD_RULES::NAMES, family, scheme);
+    RECORD_READER reader(manager, checked ? RECORD_RULES::IMPORTED : RECORD_RULES::NAMES, family, scheme);
     for (std::size_t at = 1; at < rows.size(); ++at) {
         const std::string problem = problem_of(rows[at], head.cells.size());
         if (problem.empty())

@@ -36,7 +36,7 @@ void read_json(const std::string& text, GFPDB_MGR& manager, const RECORD_FILE_OP
         file.problems.push_back({error.line, "", "This is no JSON: " + error.text + "."});
         return;
     }
-    RECORD_READER reader(manager, options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::ALL, options.family,
+    RECORD_READER reader(manager, options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::IMPORTED, options.family,
                          options.scheme);
     file.records = reader.read_file(value);
     file.problems = reader.problems();

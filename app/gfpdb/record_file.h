@@ -22,6 +22,8 @@ struct RECORD_FILE
     bool is_csv = false;
     std::vector<CLI_RECORD> records;
     std::vector<CLI_PROBLEM> problems;
+    // What the user is to know about records that are imported all the same.
+    std::vector<CLI_PROBLEM> warnings;
 };
 
 RECORD_FILE read_record_file(const std::string& path, GFPDB_MGR& manager, const RECORD_FILE_OPTIONS& options);

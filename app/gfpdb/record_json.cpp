@@ -1,15 +1,14 @@
 #include "record_json.h"
 
+#include "record_fields.h"
+
 #include "gfpdb_action_model.h"
-#include "gfpdb_builtin_records.h"
-#include "gfpdb_checks.h"
 #include "gfpdb_flow_check.h"
 #include "gfpdb_json.h"
 #include "gfpdb_operation.h"
 #include "gfpdb_text.h"
 
 #include "gfpdb/gfpdb_enums.h"
-#include "gfpdb/gfpdb_mgr.h"
 
 #include <algorithm>
 #include <array>
@@ -20,19 +19,6 @@ namespace {
 
 using OPERATIONS = std::vector<std::unique_ptr<GFPDB_OPERATION>>;
 
-constexpr const char* NAME = "name";
-constexpr const char* FAMILY = "family";
-constexpr const char* SCHEME = "scheme";
-constexpr const char* DEVICE_ID = "device_id";
-constexpr const char* VOLTAGE = "voltage";
-constexpr const char* DENSITY = "density";
-constexpr const char* TOTAL_DIE = "total_die";
-constexpr const char* SINGLE_DUMMY = "single_io_dummy_clock";
-constexpr const char* QUAD_DUMMY = "quad_io_dummy_clock";
-constexpr const char* TEMPLATE_NAME = "template_name";
-constexpr const char* FLOW_TEMPLATE = "flow_template";
-constexpr const char* SINGLE_FLOWS = "single_flows";
-constexpr const char* QUAD_FLOWS = "quad_flows";
 constexpr const char* OPERATION = "operation";
 constexpr const char* ACTIONS = "actions";
 constexpr const char* ACTION = "action";
@@ -42,9 +28,10 @@ constexpr const char* DEVICES = "devices";
 constexpr const char* TEMPLATES = "templates";
 
 // The members of a record in their order; the first three are required.
-const std::vector<std::string> RECORD_MEMBERS = {NAME,          FAMILY,       SCHEME,       DEVICE_ID,  VOLTAGE,
-                                                 DENSITY,       TOTAL_DIE,    SINGLE_DUMMY, QUAD_DUMMY, TEMPLATE_NAME,
-                                                 FLOW_TEMPLATE, SINGLE_FLOWS, QUAD_FLOWS};
+const std::vector<std::string> RECORD_MEMBERS = {
+    RECORD_NAME,          RECORD_FAMILY,       RECORD_SCHEME,       RECORD_DEVICE_ID,  RECORD_VOLTAGE,
+    RECORD_DENSITY,       RECORD_TOTAL_DIE,    RECORD_SINGLE_DUMMY, RECORD_QUAD_DUMMY, RECORD_TEMPLATE_NAME,
+    RECORD_FLOW_TEMPLATE, RECORD_SINGLE_FLOWS, RECORD_QUAD_FLOWS};
 constexpr std::size_t RECORD_MEMBERS_REQUIRED = 3;
 
 const std::vector<std::string> OPERATION_WORDS = {"initialization", "program", "erase", "verify", "termination"};
@@ -138,19 +125,19 @@ std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record)
     if (!single || !quad)
         return std::nullopt;
     JSON_VALUE object = json_object();
-    object.add(NAME, json_string(row.name));
-    object.add(FAMILY, json_number(row.family));
-    object.add(SCHEME, json_number(row.scheme));
-    object.add(DEVICE_ID, json_string(row.device_id));
-    object.add(VOLTAGE, json_string(row.voltage));
-    object.add(DENSITY, json_string(row.density));
-    object.add(TOTAL_DIE, number_to_json(row.total_die));
-    object.add(SINGLE_DUMMY, number_to_json(row.single_io_dummy_clock));
-    object.add(QUAD_DUMMY, number_to_json(row.quad_io_dummy_clock));
-    object.add(TEMPLATE_NAME, json_string(row.template_name));
-    object.add(FLOW_TEMPLATE, json_string(row.flow_template));
-    object.add(SINGLE_FLOWS, flows_to_json(*single));
-    object.add(QUAD_FLOWS, flows_to_json(*quad));
+    object.add(RECORD_NAME, json_string(row.name));
+    object.add(RECORD_FAMILY, json_number(row.family));
+    object.add(RECORD_SCHEME, json_number(row.scheme));
+    object.add(RECORD_DEVICE_ID, json_string(row.device_id));
+    object.add(RECORD_VOLTAGE, json_string(row.voltage));
+    object.add(RECORD_DENSITY, json_string(row.density));
+    object.add(RECORD_TOTAL_DIE, number_to_json(row.total_die));
+    object.add(RECORD_SINGLE_DUMMY, number_to_json(row.single_io_dummy_clock));
+    object.add(RECORD_QUAD_DUMMY, number_to_json(row.quad_io_dummy_clock));
+    object.add(RECORD_TEMPLATE_NAME, json_string(row.template_name));
+    object.add(RECORD_FLOW_TEMPLATE, json_string(row.flow_template));
+    object.add(RECORD_SINGLE_FLOWS, flows_to_json(*single));
+    object.add(RECORD_QUAD_FLOWS, flows_to_json(*quad));
     return object;
 }
 
@@ -246,21 +233,28 @@ CLI_RECORD RECORD_READER::read_record(const JSON_VALUE& value, bool is_template,
     record.line = value.line;
     if (!check_members(value, field, RECORD_MEMBERS, RECORD_MEMBERS_REQUIRED))
         return record;
+    const std::size_t problems_before = m_problems.size();
     GFPDB_ROW& row = record.row;
-    row.name = read_text(value, NAME, field);
-    row.family = m_family ? *m_family : read_number(value, FAMILY, field).value_or(0);
-    row.scheme = m_scheme ? *m_scheme : read_number(value, SCHEME, field).value_or(-1);
-    row.device_id = read_text(value, DEVICE_ID, field);
-    row.voltage = read_text(value, VOLTAGE, field);
-    row.density = read_text(value, DENSITY, field);
-    row.total_die = read_number(value, TOTAL_DIE, field);
-    row.single_io_dummy_clock = read_number(value, SINGLE_DUMMY, field);
-    row.quad_io_dummy_clock = read_number(value, QUAD_DUMMY, field);
-    row.template_name = read_text(value, TEMPLATE_NAME, field);
-    row.flow_template = read_text(value, FLOW_TEMPLATE, field);
-    row.single_flows = read_flows(value, SINGLE_FLOWS, field);
-    row.quad_flows = read_flows(value, QUAD_FLOWS, field);
-    check_values(value, record, field);
+    row.name = read_text(value, RECORD_NAME, field);
+    row.family = m_family ? *m_family : read_number(value, RECORD_FAMILY, field).value_or(0);
+    row.scheme = m_scheme ? *m_scheme : read_number(value, RECORD_SCHEME, field).value_or(-1);
+    row.device_id = read_text(value, RECORD_DEVICE_ID, field);
+    row.voltage = read_text(value, RECORD_VOLTAGE, field);
+    row.density = read_text(value, RECORD_DENSITY, field);
+    row.total_die = read_number(value, RECORD_TOTAL_DIE, field);
+    row.single_io_dummy_clock = read_number(value, RECORD_SINGLE_DUMMY, field);
+    row.quad_io_dummy_clock = read_number(value, RECORD_QUAD_DUMMY, field);
+    row.template_name = read_text(value, RECORD_TEMPLATE_NAME, field);
+    row.flow_template = read_text(value, RECORD_FLOW_TEMPLATE, field);
+    row.single_flows = read_flows(value, RECORD_SINGLE_FLOWS, field);
+    row.quad_flows = read_flows(value, RECORD_QUAD_FLOWS, field);
+    for (const RECORD_REMARK& remark : record_problems(m_manager, record, m_rules)) {
+        const std::string place = field + '.' + remark.member;
+        // What could not be read is not missing.
+        if (std::none_of(m_problems.begin() + static_cast<std::ptrdiff_t>(problems_before), m_problems.end(),
+                         [&place](const CLI_PROBLEM& problem) { return problem.field == place; }))
+            add(place_of(value, remark.member), place, remark.text);
+    }
     return record;
 }
 
@@ -325,7 +319,7 @@ std::string RECORD_READER::read_flows(const JSON_VALUE& object, const char* name
         pointers.push_back(operations.back().get());
         read_operation(item, operation_field, *pointers.back());
     }
-    if (m_rules == RECORD_RULES::ALL && m_problems.size() == problems_before)
+    if (m_rules != RECORD_RULES::NAMES && m_problems.size() == problems_before)
         check_flow(*list, list_field, pointers);
     return gfpdb_flows_to_json(&pointers).value_or(std::string());
 }
@@ -385,60 +379,4 @@ void RECORD_READER::check_flow(const JSON_VALUE& list, const std::string& field,
         }
         add(*value, place, problem.text);
     }
-}
-
-void RECORD_READER::check_values(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field)
-{
-    const GFPDB_ROW& row = record.row;
-    m_manager.set_device_family(row.family);
-    m_manager.set_config_scheme(row.scheme);
-    check_names(object, record, field);
-    if (m_rules != RECORD_RULES::ALL)
-        return;
-    if (row.family < DEV_FAMILY_FIRST || row.family > DEV_FAMILY_LAST)
-        add(place_of(object, FAMILY), field + '.' + FAMILY,
-            "There is no family " + std::to_string(row.family) + ". Allowed: " + std::to_string(DEV_FAMILY_FIRST) +
-                " to " + std::to_string(DEV_FAMILY_LAST) + ".");
-    if (!m_manager.can_add_flash())
-        add(place_of(object, SCHEME), field + '.' + SCHEME,
-            "The configuration mode " + std::to_string(row.scheme) + " has no flash devices.");
-    check_text(object, DEVICE_ID, GFPDB_FLASH_DEVICE_ID, row.device_id, field);
-    if (!row.voltage.empty())
-        check_text(object, VOLTAGE, GFPDB_FLASH_VOLTAGE, row.voltage, field);
-    if (!row.density.empty())
-        check_text(object, DENSITY, GFPDB_FLASH_DENSITY, row.density, field);
-    check_number(object, TOTAL_DIE, GFPDB_FLASH_TOTAL_DIE, row.total_die, field);
-    check_number(object, SINGLE_DUMMY, GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, row.single_io_dummy_clock, field);
-    check_number(object, QUAD_DUMMY, GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, row.quad_io_dummy_clock, field);
-}
-
-// A template goes by its template name; its device name only says what it is a copy of.
-void RECORD_READER::check_names(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field)
-{
-    std::string error;
-    if (!record.is_template && !gfpdb_check_record_name(record.row.name, "device name", error))
-        add(place_of(object, NAME), field + '.' + NAME, error);
-    const bool has_template_name = record.is_template || !record.row.template_name.empty();
-    if (has_template_name && !gfpdb_check_record_name(record.row.template_name, "template name", error))
-        add(place_of(object, TEMPLATE_NAME), field + '.' + TEMPLATE_NAME, error);
-}
-
-void RECORD_READER::check_text(const JSON_VALUE& object, const char* name, int property, const std::string& value,
-                               const std::string& field)
-{
-    const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
-    std::string error;
-    if (!m_manager.is_property_used(id))
-        return;
-    if (!m_manager.check_string_property(id, value, error) || !m_manager.verify_string_property(id, value, error))
-        add(place_of(object, name), field + '.' + name, error);
-}
-
-void RECORD_READER::check_number(const JSON_VALUE& object, const char* name, int property,
-                                 const std::optional<int>& value, const std::string& field)
-{
-    const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
-    std::string error;
-    if (value && m_manager.is_property_used(id) && !m_manager.check_int_property(id, *value, error))
-        add(place_of(object, name), field + '.' + name, error);
 }

@@ -6,6 +6,7 @@
 
 #include "cli_record.h"
 #include "json_text.h"
+#include "record_rules.h"
 
 #include <optional>
 
@@ -19,13 +20,6 @@ constexpr int RECORD_FORMAT_VERSION = 1;
 std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record);
 // A whole file: devices, then templates, each in the given order. None when the flows of a record cannot be read.
 std::optional<JSON_VALUE> records_to_json(const std::vector<CLI_RECORD>& records);
-
-// Which rules the values of a record are held against while it is read.
-enum class RECORD_RULES
-{
-    ALL,   // the library's, as for records that are entered by hand
-    NAMES, // only those without which a record cannot be stored
-};
 
 // Reads records, and notes everything that is wrong with them.
 class RECORD_READER
@@ -54,12 +48,6 @@ private:
     void read_operation(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation);
     void read_action(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation);
     void check_flow(const JSON_VALUE& list, const std::string& field, const std::vector<GFPDB_OPERATION*>& operations);
-    void check_values(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field);
-    void check_names(const JSON_VALUE& object, const CLI_RECORD& record, const std::string& field);
-    void check_text(const JSON_VALUE& object, const char* name, int property, const std::string& value,
-                    const std::string& field);
-    void check_number(const JSON_VALUE& object, const char* name, int property, const std::optional<int>& value,
-                      const std::string& field);
 
     GFPDB_MGR& m_manager;
     const RECORD_RULES m_rules;

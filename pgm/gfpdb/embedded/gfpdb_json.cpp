@@ -97,6 +97,12 @@ std::optional<std::string> gfpdb_flows_to_json(const std::vector<GFPDB_OPERATION
     return json.replace(BYTE_ORDER_MARK, ESCAPED_BYTE_ORDER_MARK).toStdString();
 }
 
+// A quote within a text is escaped, so this can only be the key of an action.
+bool gfpdb_flows_have_actions(const std::string& json)
+{
+    return json.find("\"" + TYPE.toStdString() + "\":") != std::string::npos;
+}
+
 std::optional<OPERATION_LIST> gfpdb_flows_from_json(const std::string& json)
 {
     OPERATION_LIST operations;

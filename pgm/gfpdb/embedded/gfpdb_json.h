@@ -17,6 +17,9 @@
 // stored.
 std::optional<std::string> gfpdb_flows_to_json(const std::vector<GFPDB_OPERATION*>* operations);
 
+// True when `json` has an action; it is a text of gfpdb_flows_to_json(). Cheaper than reading the operations.
+bool gfpdb_flows_have_actions(const std::string& json);
+
 // The operations of `json`, owned by the caller; none when it is no text of gfpdb_flows_to_json(). Properties that an
 // action does not have are left out.
 std::optional<std::vector<std::unique_ptr<GFPDB_OPERATION>>> gfpdb_flows_from_json(const std::string& json);

@@ -30,6 +30,7 @@ void save_part(const std::string& name, int family, int scheme, const std::strin
     record.set_density("256Mb");
     record.set_int_property(GFPDB_FLASH_TOTAL_DIE, 1);
     record.set_int_property(GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 8);
+    record.set_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, 6);
     record.set_string_property(GFPDB_FLASH_FLOW_TEMPLATE, gfpdb_part_template_name(part));
     record.set_string_property(GFPDB_FLASH_TEMPLATE_NAME, template_name);
     gfpdb_fill_part_flows(part, record);

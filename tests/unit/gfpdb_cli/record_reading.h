@@ -17,7 +17,7 @@ struct READ
 };
 
 // Records of a text that is JSON, read for a manager that has just opened the directory.
-READ read_json(const std::string& text, RECORD_RULES rules = RECORD_RULES::ALL,
+READ read_json(const std::string& text, RECORD_RULES rules = RECORD_RULES::IMPORTED,
                std::optional<int> family = std::nullopt, std::optional<int> scheme = std::nullopt);
 // Devices of a CSV text.
 READ read_csv(const std::string& text, bool checked = true);

@@ -10,6 +10,8 @@ class TEST_CLI_CHECK : public QObject
 
 private slots:
     void check_finds_what_breaks_the_rules();
+    void a_warning_alone_is_no_problem();
+    void a_stored_record_keeps_a_built_in_name();
     void check_finds_flows_that_cannot_be_read();
     void check_finds_damage();
     void what_sqlite_says_in_several_lines_is_printed_in_one();
@@ -27,6 +29,7 @@ void TEST_CLI_CHECK::check_finds_what_breaks_the_rules()
     GFPDB_MGR& manager = *fresh_manager();
     GFPDB_FLASH* odd = manager.create_flash("Odd");
     odd->set_string_property(GFPDB_FLASH_DEVICE_ID, "none");
+    odd->set_density("8Mb");
     GFPDB_OPERATION* operation = manager.create_operation(0);
     GFPDB_ACTION* action = manager.create_action(GFPDB_ACT_WRITE_REGISTER);
     action->set_property_value(GFPDB_WR_COMMAND, "6");
@@ -38,16 +41,20 @@ void TEST_CLI_CHECK::check_finds_what_breaks_the_rules()
     QCOMPARE(run.exit_code, 1);
     QCOMPARE(run.err, QByteArray());
     const QList<QByteArray> lines = run.out.split('\n');
-    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines.size(), 7);
     QCOMPARE(lines[0], QByteArray("device \"Odd\" (family 3, scheme 7): quad_flows[0].actions[0].command: \"6\" is not "
                                   "allowed for \"Command\". Allowed: one byte in hexadecimal, such as 0x9F."));
     QVERIFY(lines[1].startsWith("device \"Odd\" (family 3, scheme 7): device_id: \"none\" is no byte"));
-    QCOMPARE(lines[2], QByteArray("3 records, 2 problems"));
+    QVERIFY(lines[2].startsWith("device \"Odd\" (family 3, scheme 7): voltage: The I/O voltage \"\" is not known"));
+    QVERIFY(lines[3].startsWith("device \"Odd\" (family 3, scheme 7): total_die: The total die count 0 is out of"));
+    QCOMPARE(lines[4], QByteArray("device \"Odd\" (family 3, scheme 7): single_flows: warning: There are no flows for "
+                                  "this configuration mode."));
+    QCOMPARE(lines[5], QByteArray("3 records, 4 problems, 1 warning"));
 
     run = run_tool(check + QStringList{"--json"});
     QCOMPARE(run.exit_code, 1);
     const QJsonObject report = json(run).object();
-    QCOMPARE(report.keys(), (QStringList{"directory", "integrity", "problems", "records"}));
+    QCOMPARE(report.keys(), (QStringList{"directory", "integrity", "problems", "records", "warnings"}));
     QCOMPARE(report.value("directory").toString(), q(place.db_dir()));
     QCOMPARE(report.value("integrity").toString(), QString("ok"));
     QCOMPARE(report.value("records").toInt(), 3);
@@ -55,6 +62,40 @@ void TEST_CLI_CHECK::check_finds_what_breaks_the_rules()
     QCOMPARE(problem.value("record").toString(), QString("device \"Odd\" (family 3, scheme 7)"));
     QCOMPARE(problem.value("field").toString(), QString("quad_flows[0].actions[0].command"));
     QVERIFY(problem.value("text").toString().startsWith("\"6\" is not allowed"));
+    const QJsonArray warnings = report.value("warnings").toArray();
+    QCOMPARE(warnings.size(), 1);
+    QCOMPARE(warnings.at(0).toObject().value("field").toString(), QString("single_flows"));
+}
+
+void TEST_CLI_CHECK::a_warning_alone_is_no_problem()
+{
+    const GFPDB_PLACE place;
+    save_part("Mine");
+    run_sql(place.db_file(), "UPDATE device SET single_flows = '', quad_flows = ''");
+
+    const TOOL_RUN run = run_tool({"check", "-d", q(place.db_dir())});
+
+    QCOMPARE(run.exit_code, 0);
+    QCOMPARE(run.out, QByteArray("device \"Mine\" (family 3, scheme 7): single_flows: warning: There are no flows.\n"
+                                 "1 record, 0 problems, 1 warning\n"));
+}
+
+// The catalogue has got a device of that name since.
+void TEST_CLI_CHECK::a_stored_record_keeps_a_built_in_name()
+{
+    const GFPDB_PLACE place;
+    const QStringList to_directory = {"-d", q(place.db_dir())};
+    save_part("Mine", FAMILY, SERIAL, "T");
+    run_sql(place.db_file(), "UPDATE device SET name = 'MX25L1606E', name_key = 'mx25l1606e'");
+    run_sql(place.db_file(), "UPDATE template SET template_name = 'MX25L3233F', template_key = 'mx25l3233f'");
+    const QString file = q(place.path("all.json"));
+
+    QCOMPARE(run_tool(QStringList{"check"} + to_directory).out, QByteArray("2 records, 0 problems\n"));
+    QCOMPARE(run_tool(QStringList{"export", "-o", file} + to_directory).exit_code, 0);
+    replace_in_file(file, "\"total_die\": 1", "\"total_die\": 2");
+    QCOMPARE(run_tool(QStringList{"import", "--replace", file} + to_directory).err, QByteArray());
+    make_dir(place.path("elsewhere/"));
+    QCOMPARE(run_tool({"import", file, "-d", q(place.path("elsewhere/"))}).exit_code, 4);
 }
 
 void TEST_CLI_CHECK::check_finds_flows_that_cannot_be_read()

@@ -319,7 +319,7 @@ void TEST_CLI_HISTORY::diff_compares_records_files_and_states()
     QCOMPARE(run.out, "--- Mine\n+++ " + file.toUtf8() +
                           "\n@@ -5,7 +5,7 @@\n   \"device_id\": \"0xC2 0x20 0x19\",\n   \"voltage\": \"3.3V\",\n"
                           "   \"density\": \"256Mb\",\n-  \"total_die\": 1,\n+  \"total_die\": 2,\n"
-                          "   \"single_io_dummy_clock\": 8,\n   \"quad_io_dummy_clock\": null,\n"
+                          "   \"single_io_dummy_clock\": 8,\n   \"quad_io_dummy_clock\": 6,\n"
                           "   \"template_name\": \"\",\n");
     run = run_tool({"diff", file, "Mine", "-d", directory});
     QVERIFY(run.out.contains("\n-  \"total_die\": 2,\n+  \"total_die\": 1,\n"));

@@ -52,7 +52,8 @@ void TEST_CLI_LISTS::a_list_is_read_again()
     QCOMPARE(result.records.size(), std::size_t(1));
     QCOMPARE(text_of(result.records[0].row), text_of(record.row));
     QCOMPARE(result.records[0].line, 2);
-    QCOMPARE(read_csv("scheme,name,family,device_id\r\n7,A,3,C2\r\n").records.at(0).row.name, std::string("A"));
+    QCOMPARE(read_csv("scheme,name,density,family,device_id\r\n7,A,1Mb,3,C2\r\n").records.at(0).row.name,
+             std::string("A"));
 }
 
 // Values that the rules refuse, as a directory can have them.
@@ -94,20 +95,19 @@ void TEST_CLI_LISTS::mistakes_in_a_list_are_reported_with_line_and_column_data()
     add("name,family,scheme,device_id\nA,3,7,\"C2\nB,3,7,C2\n",
         {"2: : A quote that opens in this row is never closed."});
     add("name,family,scheme,device_id\nA,3,7\n", {"2: : The row has 3 cells, the line of column names has 4."});
-    add("name,family,scheme,device_id\nA,3,7,C2\nB,three,7,C2\n",
-        {"3: family: A whole number or null was expected, but this is a text.",
-         "3: family: There is no family 0. Allowed: 1 to 72."});
-    add("name,family,scheme,device_id,total_die\nA,3,7,C2,1.5\nB,3,7,C2,007\n",
+    add("name,family,scheme,density,device_id\nA,3,7,1Mb,C2\nB,three,7,1Mb,C2\n",
+        {"3: family: A whole number or null was expected, but this is a text."});
+    add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,1.5\nB,3,7,1Mb,C2,007\n",
         {"2: total_die: A whole number or null was expected, but this is 1.5.",
          "3: total_die: A whole number or null was expected, but this is a text."});
-    add("name,family,scheme,device_id,total_die\nA,3,7,C2,null\nB,3,7,C2,true\n",
+    add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,null\nB,3,7,1Mb,C2,true\n",
         {"2: total_die: A whole number or null was expected, but this is a text.",
          "3: total_die: A whole number or null was expected, but this is a text."});
-    add("name,family,scheme,device_id,flow_template\nA,3,7,C2,x\nB,3,7,C2,\xFF\xFE\n",
+    add("name,family,scheme,density,device_id,flow_template\nA,3,7,1Mb,C2,x\nB,3,7,1Mb,C2,\xFF\xFE\n",
         {"3: flow_template: The text is not UTF-8."});
-    add("name,family,scheme,device_id,total_die\nA,3,7,C2,99\n",
+    add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,99\n",
         {"2: total_die: The total die count 99 is out of range: 1 to 16 are allowed."});
-    add("name,family,scheme,device_id\n,3,7,C2\nMX25L1606E,3,7,C2\n",
+    add("name,family,scheme,density,device_id\n,3,7,1Mb,C2\nMX25L1606E,3,7,1Mb,C2\n",
         {"2: name: The device name is empty: 1 to 64 characters are allowed.",
          "3: name: There is a built-in device called \"MX25L1606E\": choose another name."});
 }

@@ -213,9 +213,10 @@ void TEST_CLI_PROGRAM::names_that_are_not_ascii_work_in_any_locale()
 void TEST_CLI_PROGRAM::progress_is_shown_on_a_terminal()
 {
     const GFPDB_PLACE place;
-    QByteArray list = "name,family,scheme,device_id\n";
+    QByteArray list = "name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
+                      "quad_io_dummy_clock,flow_template\n";
     for (int number = 1; number <= 400; ++number)
-        list += "part " + QByteArray::number(number) + ",3,7,C2 20 19\n";
+        list += "part " + QByteArray::number(number) + ",3,7,C2 20 19,3.3V,8Mb,1,8,6,No QE bit\n";
     write_file(place.path("list.csv"), list.toStdString());
     const QString directory = q(place.db_dir());
 

@@ -174,7 +174,8 @@ void TEST_CLI_RECORDS::missing_values_are_empty()
 {
     const GFPDB_PLACE place;
     const READ result = read_json(R"({"format": "gfpdb-records", "version": 1,
-        "devices": [{"name": "Mine", "family": 3, "scheme": 7, "device_id": "C2"}]})");
+        "devices": [{"name": "Mine", "family": 3, "scheme": 7, "device_id": "C2",
+                     "density": "8Mb"}]})");
 
     QCOMPARE(result.problems, QStringList());
     GFPDB_ROW expected;
@@ -182,6 +183,7 @@ void TEST_CLI_RECORDS::missing_values_are_empty()
     expected.family = 3;
     expected.scheme = 7;
     expected.device_id = "C2";
+    expected.density = "8Mb";
     QCOMPARE(text_of(result.records.at(0).row), text_of(expected));
 }
 
@@ -190,7 +192,7 @@ void TEST_CLI_RECORDS::records_can_be_given_another_place()
     const GFPDB_PLACE place;
     const std::string builtin = replaced(replaced(file_with(SMALL_FLOW), "\"family\": 3", "\"family\": \"x\""),
                                          "\"scheme\": 7", "\"scheme\": -1");
-    const READ result = read_json(builtin, RECORD_RULES::ALL, 5, 13);
+    const READ result = read_json(builtin, RECORD_RULES::IMPORTED, 5, 13);
     QCOMPARE(result.problems, QStringList());
     QCOMPARE(result.records.at(0).row.family, 5);
     QCOMPARE(result.records.at(0).row.scheme, 13);

@@ -94,7 +94,7 @@ void TEST_CLI_SHOW::list_prints_json_and_csv()
     QCOMPARE(run.exit_code, 0);
     const QByteArray rest = "    \"family\": 3,\n    \"scheme\": 7,\n    \"device_id\": \"0xC2 0x20 0x19\",\n"
                             "    \"voltage\": \"3.3V\",\n    \"density\": \"256Mb\",\n    \"total_die\": 1,\n"
-                            "    \"single_io_dummy_clock\": 8,\n    \"quad_io_dummy_clock\": null,\n"
+                            "    \"single_io_dummy_clock\": 8,\n    \"quad_io_dummy_clock\": 6,\n"
                             "    \"flow_template\": \"QE in SR1 bit 6, 4-byte address\"\n";
     QCOMPARE(run.out, "[\n  {\n    \"name\": \"Mine\",\n    \"kind\": \"device\",\n" + rest +
                           "  },\n  {\n    \"name\": \"T\",\n    \"kind\": \"template\",\n" + rest + "  }\n]\n");
@@ -105,7 +105,7 @@ void TEST_CLI_SHOW::list_prints_json_and_csv()
     QCOMPARE(run_tool({"list", "-d", q(place.db_dir()), "--csv"}).out,
              QByteArray("name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
                         "quad_io_dummy_clock,template_name,flow_template\n"
-                        "Mine,3,7,0xC2 0x20 0x19,3.3V,256Mb,1,8,,T,\"QE in SR1 bit 6, 4-byte address\"\n"));
+                        "Mine,3,7,0xC2 0x20 0x19,3.3V,256Mb,1,8,6,T,\"QE in SR1 bit 6, 4-byte address\"\n"));
 }
 
 void TEST_CLI_SHOW::show_prints_a_record()

@@ -25,6 +25,7 @@ private slots:
     void import_tries_without_a_change();
     void import_reads_standard_input();
     void import_of_a_built_in_device_needs_a_name_and_a_place();
+    void a_missing_value_gets_its_default_and_the_report_says_so();
     void import_of_a_list_keeps_or_finds_flows();
     void import_says_what_cannot_be_read();
     void a_database_that_cannot_be_changed_is_said();
@@ -173,7 +174,8 @@ void TEST_CLI_TRANSFER::import_refuses_names_that_are_taken()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine");
+    save_part("Other", FAMILY, SERIAL, "T");
     const QString file = exported_file(place, "Mine");
     replace_in_file(file, "\"name\": \"Mine\"", "\"name\": \"t\"");
     TOOL_RUN run = run_tool({"import", file, "-d", directory});
@@ -224,7 +226,7 @@ void TEST_CLI_TRANSFER::import_tries_without_a_change()
 void TEST_CLI_TRANSFER::import_reads_standard_input()
 {
     const GFPDB_PLACE place;
-    const QByteArray list = "name,family,scheme,device_id\nListed,3,7,C2 20 19\n";
+    const QByteArray list = "name,family,scheme,device_id,density\nListed,3,7,C2 20 19,256Mb\n";
     QCOMPARE(run_tool({"import", "-", "--csv", "-d", q(place.db_dir())}, list).exit_code, 0);
     QCOMPARE(names(json(run_tool({"list", "--json", "-d", q(place.db_dir())}))), QStringList{"Listed"});
     QVERIFY(run_tool({"import", "-", "-d", q(place.db_dir())}, list).err.startsWith("gfpdb: -:1: This is no JSON: "));
@@ -242,8 +244,40 @@ void TEST_CLI_TRANSFER::import_of_a_built_in_device_needs_a_name_and_a_place()
     run = run_tool({"import", file, "-d", directory});
     QVERIFY(run.err.contains(":7: devices[0].family: There is no family 0. Allowed: 1 to 72.\n"));
     run = run_tool({"import", file, "--family", "3", "--scheme", "13", "-d", directory});
-    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.exit_code, 0);
     QVERIFY(fresh_manager(3, 13)->is_custom_flash("My W25Q64"));
+}
+
+void TEST_CLI_TRANSFER::a_missing_value_gets_its_default_and_the_report_says_so()
+{
+    const GFPDB_PLACE place;
+    const QStringList to_directory = {"-d", q(place.db_dir())};
+    write_file(place.path("list.csv"),
+               "name,family,scheme,device_id,density,flow_template\nBare,60,7,C2 20 19,8Mb,No QE bit\n");
+    const QByteArray warning = "gfpdb: " + q(place.path("list.csv")).toUtf8() + ":2: device \"Bare\": ";
+
+    const TOOL_RUN run = run_tool(QStringList{"import", q(place.path("list.csv"))} + to_directory);
+
+    QCOMPARE(run.exit_code, 0);
+    QCOMPARE(run.err, warning + "voltage: warning: The value is missing: 1.8V is stored.\n" + warning +
+                          "total_die: warning: The value is missing: 1 is stored.\n" + warning +
+                          "single_io_dummy_clock: warning: The value is missing: 0 is stored.\n" + warning +
+                          "quad_io_dummy_clock: warning: The value is missing: 0 is stored.\n");
+    const QJsonObject stored = json(run_tool(QStringList{"show", "Bare", "--json"} + to_directory)).object();
+    QCOMPARE(stored.value("voltage").toString(), QString("1.8V"));
+    QCOMPARE(stored.value("total_die").toInt(), 1);
+    QCOMPARE(stored.value("quad_io_dummy_clock"), QJsonValue(0));
+    QCOMPARE(run_tool(QStringList{"check"} + to_directory).out, QByteArray("1 record, 0 problems\n"));
+    // It is there now, as the file means it.
+    const TOOL_RUN again = run_tool(QStringList{"import", q(place.path("list.csv"))} + to_directory);
+    QCOMPARE(again.err, QByteArray());
+    QVERIFY(again.out.startsWith("Imported 0 new, 0 replaced; 1 unchanged in "));
+
+    make_dir(place.path("elsewhere/"));
+    const QStringList elsewhere = {"-d", q(place.path("elsewhere/"))};
+    QCOMPARE(run_tool(QStringList{"import", "--unchecked", q(place.path("list.csv"))} + elsewhere).err, QByteArray());
+    QVERIFY(run_tool(QStringList{"export"} + elsewhere).out.contains("\"total_die\": null"));
+    QCOMPARE(run_tool(QStringList{"check"} + elsewhere).exit_code, 1);
 }
 
 void TEST_CLI_TRANSFER::import_of_a_list_keeps_or_finds_flows()
@@ -252,13 +286,18 @@ void TEST_CLI_TRANSFER::import_of_a_list_keeps_or_finds_flows()
     const QString directory = q(place.db_dir());
     save_part("Mine", FAMILY, SERIAL, "T");
     const std::string flows = text_of_flows(fresh_manager()->find_flash("Mine", true)->get_operations(QUAD_IO));
-    write_file(place.path("list.CSV"), "name,family,scheme,device_id,flow_template\n"
-                                       "Mine,3,7,EF,none such\nbuiltin,3,7,EF,no qe BIT\nstored,3,7,EF,t\n"
-                                       "bare,3,7,EF,none such\n");
+    std::string list = "name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
+                       "quad_io_dummy_clock,flow_template\n";
+    for (const char* ends : {"Mine,none such", "builtin,no qe BIT", "stored,t", "bare,none such"}) {
+        const QStringList cells = QString(ends).split(',');
+        list += (cells[0] + ",3,7,EF,1.8V,8Mb,2,0,0," + cells[1] + '\n').toStdString();
+    }
+    write_file(place.path("list.CSV"), list);
 
     const TOOL_RUN run = run_tool({"import", q(place.path("list.CSV")), "--replace", "-d", directory});
 
-    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.err, "gfpdb: " + q(place.path("list.CSV")).toUtf8() +
+                          ":5: device \"bare\": single_flows: warning: There are no flows.\n");
     GFPDB_MGR& manager = *fresh_manager();
     const auto quad_flows = [&manager](const char* name) {
         return text_of_flows(manager.find_flash(name, true)->get_operations(QUAD_IO));

@@ -1,0 +1,39 @@
+// The rules for the values of a record, for import and check alike: those by which the dialog keeps a record that it
+// opens and saves. The rules for flows are the library's (gfpdb_flow_check.h).
+//
+// All functions make the record's family and configuration mode the manager's. Texts are UTF-8.
+#pragma once
+
+#include "cli_record.h"
+
+#include <string>
+#include <vector>
+
+class GFPDB_MGR;
+
+// Which rules a record is held against.
+enum class RECORD_RULES
+{
+    STORED,   // all
+    IMPORTED, // all, but a value that is missing and has a default (record_fill_missing()) is no problem
+    NAMES,    // only those without which a record cannot be stored
+};
+
+// What there is to say about one member of a record.
+struct RECORD_REMARK
+{
+    // Its name in files (record_fields.h).
+    const char* member;
+    std::string text;
+};
+
+// What is wrong with the values of `record`.
+std::vector<RECORD_REMARK> record_problems(GFPDB_MGR& manager, const CLI_RECORD& record, RECORD_RULES rules);
+
+// Gives values that are missing, and that records of its configuration mode have, their default where there is one;
+// says which.
+std::vector<RECORD_REMARK> record_fill_missing(GFPDB_MGR& manager, CLI_RECORD& record);
+
+// What can be stored, but is lost when the dialog saves the record, or is of no use: values and flows that records of
+// its configuration mode do not have, flows that are missing.
+std::vector<RECORD_REMARK> record_warnings(GFPDB_MGR& manager, const CLI_RECORD& record);

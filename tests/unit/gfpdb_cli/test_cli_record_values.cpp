@@ -1,0 +1,287 @@
+// Which values of a record are wrong, missing or of no use, for each kind of configuration mode.
+#include "gfpdb_json.h"
+
+#include "record_fields.h"
+#include "record_reading.h"
+
+namespace {
+
+constexpr int PARALLEL = 8;
+constexpr int CARD = 23;
+// Its pins work at 1.8 V.
+constexpr int LOW_VOLTAGE_FAMILY = 60;
+
+// Flows with one action, and flows with an operation that has none.
+std::string flows(bool with_action)
+{
+    GFPDB_MGR& manager = *fresh_manager();
+    GFPDB_FLASH& record = *manager.create_flash("flows");
+    GFPDB_OPERATION* const operation = manager.create_operation(0);
+    if (with_action)
+        operation->add_action(manager.create_action(GFPDB_ACT_WRITE_REGISTER));
+    record.set_operation(operation, SINGLE_IO);
+    return gfpdb_flows_to_json(record.get_operations(SINGLE_IO)).value();
+}
+
+// A device with all values that devices of `scheme` have, and no other.
+CLI_RECORD complete(int scheme, int family = FAMILY)
+{
+    CLI_RECORD record;
+    GFPDB_ROW& row = record.row;
+    row.name = "Mine";
+    row.family = family;
+    row.scheme = scheme;
+    row.voltage = "1.8V";
+    row.density = scheme == CARD ? "1GB" : "256Mb";
+    if (scheme == CARD)
+        return record;
+    row.device_id = "C2";
+    row.total_die = 2;
+    if (scheme == PARALLEL)
+        return record;
+    row.single_io_dummy_clock = 8;
+    row.quad_io_dummy_clock = 6;
+    row.flow_template = "No QE bit";
+    row.single_flows = flows(true);
+    row.quad_flows = row.single_flows;
+    return record;
+}
+
+void clear(GFPDB_ROW& row, const std::string& member)
+{
+    if (member == RECORD_DEVICE_ID)
+        row.device_id.clear();
+    else if (member == RECORD_VOLTAGE)
+        row.voltage.clear();
+    else if (member == RECORD_DENSITY)
+        row.density.clear();
+    else if (member == RECORD_TOTAL_DIE)
+        row.total_die.reset();
+    else if (member == RECORD_SINGLE_DUMMY)
+        row.single_io_dummy_clock.reset();
+    else if (member == RECORD_QUAD_DUMMY)
+        row.quad_io_dummy_clock.reset();
+    else
+        row.flow_template.clear();
+}
+
+QStringList texts_of(const std::vector<RECORD_REMARK>& remarks)
+{
+    QStringList texts;
+    for (const RECORD_REMARK& remark : remarks)
+        texts += QString(remark.member) + ": " + QString::fromStdString(remark.text).section('.', 0, 0);
+    return texts;
+}
+
+} // namespace
+
+class TEST_CLI_RECORD_VALUES : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void a_complete_record_is_kept_by_the_dialog_data();
+    void a_complete_record_is_kept_by_the_dialog();
+    void a_missing_value_is_wrong_or_gets_its_default_data();
+    void a_missing_value_is_wrong_or_gets_its_default();
+    void a_die_count_of_nothing_is_refused();
+    void a_template_needs_another_name_than_its_device();
+    void what_the_dialog_drops_is_warned_of_data();
+    void what_the_dialog_drops_is_warned_of();
+    void flows_that_are_missing_are_warned_of_data();
+    void flows_that_are_missing_are_warned_of();
+};
+
+void TEST_CLI_RECORD_VALUES::a_complete_record_is_kept_by_the_dialog_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::newRow("single") << SERIAL;
+    QTest::newRow("quad") << QUAD;
+    QTest::newRow("parallel") << PARALLEL;
+    QTest::newRow("card") << CARD;
+}
+
+void TEST_CLI_RECORD_VALUES::a_complete_record_is_kept_by_the_dialog()
+{
+    const GFPDB_PLACE place;
+    QFETCH(int, scheme);
+    CLI_RECORD record = complete(scheme);
+    GFPDB_MGR& manager = *fresh_manager();
+
+    QCOMPARE(texts_of(record_problems(manager, record, RECORD_RULES::STORED)), QStringList());
+    QCOMPARE(texts_of(record_fill_missing(manager, record)), QStringList());
+    QCOMPARE(texts_of(record_warnings(manager, record)), QStringList());
+}
+
+// A problem that is only one of stored records is the reason for a default.
+void TEST_CLI_RECORD_VALUES::a_missing_value_is_wrong_or_gets_its_default_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<int>("family");
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("imported");
+    QTest::addColumn<QString>("value");
+    const auto add = [](int scheme, const char* member, const char* stored, const char* imported, const char* value,
+                        int family = FAMILY) {
+        QTest::addRow("%d %d %s", scheme, family, member)
+            << scheme << family << QString(member) << QString(stored) << QString(imported) << QString(value);
+    };
+    const char* const no_id = "The device ID is empty";
+    const char* const no_voltage = "The I/O voltage \"\" is not known: choose one of 3";
+    const char* const no_density = "The density \"\" is not known: choose one of ";
+    const char* const no_die = "The total die count 0 is out of range: 1 to 16 are allowed";
+    for (const int scheme : {int(SERIAL), int(QUAD), PARALLEL}) {
+        add(scheme, RECORD_DEVICE_ID, no_id, no_id, "");
+        add(scheme, RECORD_TOTAL_DIE, no_die, "", "1");
+    }
+    for (const int scheme : {int(SERIAL), int(QUAD), PARALLEL, CARD}) {
+        add(scheme, RECORD_VOLTAGE, no_voltage, "", "3.3V");
+        add(scheme, RECORD_DENSITY, no_density, no_density, "");
+    }
+    add(SERIAL, RECORD_VOLTAGE, no_voltage, "", "1.8V", LOW_VOLTAGE_FAMILY);
+    add(PARALLEL, RECORD_VOLTAGE, no_voltage, "", "3.3V", LOW_VOLTAGE_FAMILY);
+    for (const int scheme : {int(SERIAL), int(QUAD)}) {
+        add(scheme, RECORD_SINGLE_DUMMY, "", "", "0");
+        add(scheme, RECORD_QUAD_DUMMY, "", "", "0");
+        add(scheme, RECORD_FLOW_TEMPLATE, "", "", "");
+    }
+}
+
+void TEST_CLI_RECORD_VALUES::a_missing_value_is_wrong_or_gets_its_default()
+{
+    const GFPDB_PLACE place;
+    QFETCH(int, scheme);
+    QFETCH(int, family);
+    QFETCH(QString, member);
+    QFETCH(QString, stored);
+    QFETCH(QString, imported);
+    QFETCH(QString, value);
+    CLI_RECORD record = complete(scheme, family);
+    clear(record.row, member.toStdString());
+    GFPDB_MGR& manager = *fresh_manager();
+    const auto is_found = [&member](const std::vector<RECORD_REMARK>& remarks, const QString& text) {
+        return text.isEmpty() ? remarks.empty()
+                              : texts_of(remarks).size() == 1 && texts_of(remarks)[0].startsWith(member + ": " + text);
+    };
+
+    QVERIFY(is_found(record_problems(manager, record, RECORD_RULES::STORED), stored));
+    QVERIFY(is_found(record_problems(manager, record, RECORD_RULES::IMPORTED), imported));
+    QVERIFY(record_problems(manager, record, RECORD_RULES::NAMES).empty());
+    const std::vector<RECORD_REMARK> filled = record_fill_missing(manager, record);
+    QCOMPARE(filled.size(), std::size_t(value.isEmpty() ? 0 : 1));
+    if (!filled.empty()) {
+        QCOMPARE(filled[0].member, member.toUtf8().constData());
+        QCOMPARE(filled[0].text, "The value is missing: " + value.toStdString() + " is stored.");
+        QVERIFY(record_problems(manager, record, RECORD_RULES::STORED).empty());
+        QVERIFY(record_fill_missing(manager, record).empty());
+    }
+}
+
+void TEST_CLI_RECORD_VALUES::a_die_count_of_nothing_is_refused()
+{
+    const GFPDB_PLACE place;
+    CLI_RECORD record = complete(SERIAL);
+    record.row.total_die = 0;
+    GFPDB_MGR& manager = *fresh_manager();
+    for (const RECORD_RULES rules : {RECORD_RULES::STORED, RECORD_RULES::IMPORTED})
+        QCOMPARE(texts_of(record_problems(manager, record, rules)),
+                 QStringList{"total_die: The total die count 0 is out of range: 1 to 16 are allowed"});
+    QVERIFY(record_fill_missing(manager, record).empty());
+}
+
+void TEST_CLI_RECORD_VALUES::a_template_needs_another_name_than_its_device()
+{
+    const GFPDB_PLACE place;
+    CLI_RECORD record = complete(SERIAL);
+    record.row.template_name = "mINE";
+    for (const bool is_template : {false, true}) {
+        record.is_template = is_template;
+        QCOMPARE(texts_of(record_problems(*fresh_manager(), record, RECORD_RULES::NAMES)),
+                 QStringList{"template_name: The device and its template need different names: both are called "
+                             "\"mINE\""});
+    }
+}
+
+void TEST_CLI_RECORD_VALUES::what_the_dialog_drops_is_warned_of_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<QStringList>("members");
+    QTest::newRow("parallel") << PARALLEL
+                              << QStringList{RECORD_SINGLE_DUMMY, RECORD_QUAD_DUMMY, RECORD_FLOW_TEMPLATE,
+                                             RECORD_SINGLE_FLOWS};
+    QTest::newRow("card") << CARD << QStringList{RECORD_DEVICE_ID,  RECORD_TOTAL_DIE,     RECORD_SINGLE_DUMMY,
+                                                 RECORD_QUAD_DUMMY, RECORD_FLOW_TEMPLATE, RECORD_SINGLE_FLOWS};
+}
+
+void TEST_CLI_RECORD_VALUES::what_the_dialog_drops_is_warned_of()
+{
+    const GFPDB_PLACE place;
+    QFETCH(int, scheme);
+    QFETCH(QStringList, members);
+    CLI_RECORD record = complete(SERIAL);
+    record.row.scheme = scheme;
+    record.row.density = scheme == CARD ? "1GB" : "256Mb";
+    GFPDB_MGR& manager = *fresh_manager();
+
+    QStringList expected;
+    for (const QString& member : members)
+        expected += member + (member == RECORD_SINGLE_FLOWS
+                                  ? ": Devices of this configuration mode have no flows: the dialog drops them"
+                                  : ": Devices of this configuration mode have no such value: the dialog drops it");
+    QCOMPARE(texts_of(record_warnings(manager, record)), expected);
+    QVERIFY(record_problems(manager, record, RECORD_RULES::STORED).empty());
+    record.row.single_flows.clear();
+    QVERIFY(texts_of(record_warnings(manager, record)).last().startsWith("quad_flows: "));
+    // A template serves every configuration mode.
+    record.is_template = true;
+    QVERIFY(record_warnings(manager, record).empty());
+}
+
+void TEST_CLI_RECORD_VALUES::flows_that_are_missing_are_warned_of_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<bool>("is_template");
+    QTest::addColumn<QString>("single");
+    QTest::addColumn<QString>("quad");
+    QTest::addColumn<QStringList>("warnings");
+    const GFPDB_PLACE place;
+    const QString some = QString::fromStdString(flows(true));
+    const QString empty = QString::fromStdString(flows(false));
+    const QString none;
+    const char* const nothing = "There are no flows";
+    const char* const not_here = "There are no flows for this configuration mode";
+    QTest::newRow("single") << int(SERIAL) << false << some << none << QStringList();
+    QTest::newRow("quad") << int(QUAD) << false << none << some << QStringList();
+    QTest::newRow("only quad") << int(SERIAL) << false << none << some
+                               << QStringList{QString("single_flows: ") + not_here};
+    QTest::newRow("only single") << int(QUAD) << false << some << empty
+                                 << QStringList{QString("quad_flows: ") + not_here};
+    QTest::newRow("none") << int(SERIAL) << false << none << none << QStringList{QString("single_flows: ") + nothing};
+    QTest::newRow("no action") << int(QUAD) << false << empty << empty
+                               << QStringList{QString("quad_flows: ") + nothing};
+    QTest::newRow("template") << int(SERIAL) << true << none << some << QStringList();
+    QTest::newRow("empty template") << int(SERIAL) << true << none << empty
+                                    << QStringList{QString("single_flows: ") + nothing};
+    QTest::newRow("parallel") << PARALLEL << false << empty << none << QStringList();
+}
+
+void TEST_CLI_RECORD_VALUES::flows_that_are_missing_are_warned_of()
+{
+    const GFPDB_PLACE place;
+    QFETCH(int, scheme);
+    QFETCH(bool, is_template);
+    QFETCH(QString, single);
+    QFETCH(QString, quad);
+    QFETCH(QStringList, warnings);
+    CLI_RECORD record = complete(scheme);
+    record.is_template = is_template;
+    record.row.template_name = is_template ? "T" : "";
+    record.row.single_flows = single.toStdString();
+    record.row.quad_flows = quad.toStdString();
+
+    QCOMPARE(texts_of(record_warnings(*fresh_manager(), record)), warnings);
+}
+
+QTEST_GUILESS_MAIN(TEST_CLI_RECORD_VALUES)
+#include "test_cli_record_values.moc"
