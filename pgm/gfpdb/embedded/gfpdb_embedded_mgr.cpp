@@ -41,6 +41,7 @@ GFPDB_EMBEDDED_MGR::~GFPDB_EMBEDDED_MGR() = default;
 
 void GFPDB_EMBEDDED_MGR::reload()
 {
+    m_taken.reset();
     const std::string directory = get_db_custom_dir();
     if (directory == gfpdb_default_dir())
         gfpdb_create_dir(directory);
@@ -69,6 +70,7 @@ int GFPDB_EMBEDDED_MGR::get_device_family() const
 
 void GFPDB_EMBEDDED_MGR::set_device_family(int family)
 {
+    m_taken.reset();
     m_family = family;
 }
 
@@ -79,6 +81,7 @@ int GFPDB_EMBEDDED_MGR::get_config_scheme() const
 
 void GFPDB_EMBEDDED_MGR::set_config_scheme(int scheme)
 {
+    m_taken.reset();
     m_scheme = scheme;
 }
 
@@ -86,6 +89,7 @@ void GFPDB_EMBEDDED_MGR::set_config_scheme(int scheme)
 GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_flows)
 {
     Q_UNUSED(load_flows)
+    m_taken.reset();
     m_last_error.clear();
     GFPDB_FLASH* found = find_device(name);
     if (found == nullptr && is_builtin_flash(name))
@@ -265,9 +269,30 @@ bool GFPDB_EMBEDDED_MGR::verify_string_property(GFPDB_FLASH_PROPERTY property, c
 
 bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& directory)
 {
-    auto* record = dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash);
-    std::string error;
     m_last_error.clear();
+    GFPDB_STORE& store = store_of(directory);
+    std::optional<GFPDB_TAKEN> taken;
+    taken.swap(m_taken);
+    if (m_taken_from != store.get_directory())
+        taken.reset();
+    if (store_record(dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash), store, taken ? &*taken : nullptr))
+        return true;
+    if (taken)
+        put_back(store, *taken);
+    return false;
+}
+
+// The reason why the save failed stays the last error; that the device is not back is added to it.
+void GFPDB_EMBEDDED_MGR::put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken)
+{
+    if (!store.undo_removal(taken))
+        fail(m_last_error + " The device " + gfpdb_quoted(taken.name) +
+             " that was deleted before was not put back: " + store.get_last_error());
+}
+
+bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_TAKEN* taken)
+{
+    std::string error;
     if (record == nullptr)
         return fail("There is no record to save.");
     if (!can_add_flash())
@@ -281,9 +306,10 @@ bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& direc
     if (!row)
         return fail("The device " + gfpdb_quoted(record->get_name()) + " has a text that is not UTF-8.");
     row->revision = gfpdb_new_revision();
-    GFPDB_STORE& store = store_of(directory);
-    if (!store.save_device(*row))
+    const std::optional<std::string> revision = store.save_device(*row, taken);
+    if (!revision)
         return fail(store.get_last_error());
+    row->revision = *revision;
     record->set_db_dir(store.get_directory());
     record->set_stored(*row);
     return true;
@@ -302,14 +328,17 @@ GFPDB_STORE& GFPDB_EMBEDDED_MGR::store_of(const std::string& directory)
 bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string& directory)
 {
     m_last_error.clear();
+    m_taken.reset();
     GFPDB_STORE& store = store_of(directory);
-    return store.remove_device(m_family, m_scheme, name) || fail(store.get_last_error());
+    m_taken_from = store.get_directory();
+    return store.remove_device(m_family, m_scheme, name, &m_taken) || fail(store.get_last_error());
 }
 
 bool GFPDB_EMBEDDED_MGR::restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
                                        const std::string& new_name)
 {
     m_last_error.clear();
+    m_taken.reset();
     GFPDB_STORE& store = store_of(directory);
     const std::optional<GFPDB_HISTORY_ENTRY> entry = store.find_history(history_id);
     std::string error;
@@ -428,6 +457,7 @@ bool GFPDB_EMBEDDED_MGR::is_flow_editable(const GFPDB_FLASH* flash) const
 bool GFPDB_EMBEDDED_MGR::remove_template(const std::string& name)
 {
     m_last_error.clear();
+    m_taken.reset();
     if (gfpdb_builtin_template(name) >= 0)
         return fail("The template " + gfpdb_quoted(name) + " is built in: it cannot be removed.");
     return m_store->remove_template(name) || fail(m_store->get_last_error());

@@ -7,6 +7,7 @@
 #include "gfpdb_store.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -82,6 +83,8 @@ private:
     bool check_template_name(const std::string& name, std::string& error) const;
     static bool check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name, std::string& error);
     bool fail(const std::string& error);
+    bool store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_TAKEN* taken);
+    void put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken);
 
     int m_family = 0;
     int m_scheme = -1;
@@ -90,6 +93,10 @@ private:
     // The database of another directory than the custom one that was last changed.
     std::unique_ptr<GFPDB_STORE> m_other_store;
     std::string m_last_error;
+    // What the last call took, if that was a delete_flash(), and from which directory. A save_flash() that follows at
+    // once replaces it, or puts it back; any other call that loads or changes something ends it.
+    std::optional<GFPDB_TAKEN> m_taken;
+    std::string m_taken_from;
     // Every record that was made or read; the last one that was read from each place of a database.
     std::vector<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_records;
     std::unordered_map<std::string, GFPDB_EMBEDDED_FLASH*> m_read_records;

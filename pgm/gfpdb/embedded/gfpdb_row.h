@@ -26,6 +26,9 @@ struct GFPDB_ROW
     std::string revision;
 };
 
+// True when both are the same state of a record: all but the revision is the same.
+bool gfpdb_is_same_state(const GFPDB_ROW& row, const GFPDB_ROW& other);
+
 // A text that no record has as its revision yet.
 std::string gfpdb_new_revision();
 
@@ -35,7 +38,8 @@ struct GFPDB_HISTORY_ENTRY
     std::int64_t id = 0;
     // True for a stored template, which goes by its template name.
     bool is_template = false;
-    // "replaced" or "deleted".
+    // "replaced", "deleted", or "put back": deleted first, and the current state again when the save that followed
+    // failed.
     std::string reason;
     // When it became history, UTC, as "2024-05-17T09:30:00Z"; and the user and machine that changed it.
     std::string changed_at;
@@ -44,4 +48,16 @@ struct GFPDB_HISTORY_ENTRY
 
     // The name that the record went by.
     const std::string& name() const { return is_template ? row.template_name : row.name; }
+};
+
+// A device that was removed, and where it is kept: what is needed to put it back, or to tell that it was replaced.
+struct GFPDB_TAKEN
+{
+    // The database, and the entry in its history.
+    std::string database_id;
+    std::int64_t history_id = 0;
+    int family = 0;
+    int scheme = -1;
+    std::string name;
+    std::string revision;
 };

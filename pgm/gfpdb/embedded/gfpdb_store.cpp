@@ -15,12 +15,14 @@
 
 #include <algorithm>
 
+#include <pwd.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr char REASON_REPLACED[] = "replaced";
 constexpr char REASON_DELETED[] = "deleted";
+constexpr char REASON_PUT_BACK[] = "put back";
 
 // The columns that the tables device, template and history share: their names, and how their values are read. In the
 // order of bind_row() and row_of().
@@ -64,11 +66,20 @@ QString now()
     return QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
 }
 
+// Services and containers often start programs without USER.
+QString user_name()
+{
+    const QByteArray user = qgetenv("USER");
+    if (!user.isEmpty())
+        return QString::fromLocal8Bit(user);
+    const passwd* const entry = ::getpwuid(::geteuid());
+    return entry != nullptr ? QString::fromLocal8Bit(entry->pw_name) : QString::number(::geteuid());
+}
+
 // The user and the machine, for people who share a directory.
 QString here()
 {
-    const QString user = QString::fromLocal8Bit(qgetenv("USER"));
-    return (user.isEmpty() ? QString::number(::geteuid()) : user) + QLatin1Char('@') + QSysInfo::machineHostName();
+    return user_name() + QLatin1Char('@') + QSysInfo::machineHostName();
 }
 
 // What GFPDB_TO_HISTORY asks for.
@@ -274,17 +285,126 @@ bool GFPDB_STORE::has_device(const std::string& name)
            next_row(query);
 }
 
-bool GFPDB_STORE::save_device(const GFPDB_ROW& row)
+std::optional<std::string> GFPDB_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken)
 {
-    return prepare_write() && change([&] { return check_free_names(row) && store(row); });
+    std::string revision;
+    const auto work = [&] { return check_free_names(row) && save_over(row, taken, revision) && save_template(row); };
+    return prepare_write() && change(work) ? std::optional<std::string>(revision) : std::nullopt;
+}
+
+// What is stored already stays as it is: saving it again makes no other state. What this program has just taken counts
+// as stored, unless another program has stored something in its place meanwhile.
+bool GFPDB_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision)
+{
+    constexpr char DEVICE[] =
+        "SELECT " GFPDB_ALL_READ " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+    std::optional<GFPDB_ROW> former;
+    if (!look_up(DEVICE, {row.family, row.scheme, key_of(row.name)}, former))
+        return false;
+    const bool is_stored = former.has_value();
+    if (!is_stored && taken != nullptr && !find_taken(*taken, former))
+        return false;
+
+    const bool is_unchanged = former && gfpdb_is_same_state(*former, row);
+    revision = is_unchanged ? former->revision : row.revision;
+    if (is_unchanged && !is_stored)
+        return insert_taken(*taken) && forget_taken(*taken);
+    if (!is_unchanged && is_stored && !drop_device(row.family, row.scheme, row.name, REASON_REPLACED))
+        return false;
+    return (is_unchanged || insert_device(row)) && (taken == nullptr || mark_taken(*taken, REASON_REPLACED));
+}
+
+bool GFPDB_STORE::save_template(const GFPDB_ROW& row)
+{
+    if (row.template_name.empty())
+        return true;
+    std::optional<GFPDB_ROW> former;
+    if (!look_up("SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)",
+                 {key_of(row.template_name)}, former))
+        return false;
+    if (former && gfpdb_is_same_state(*former, row))
+        return true;
+    return (!former || drop_template(row.template_name, REASON_REPLACED)) && insert_template(row);
 }
 
 // Nothing is made just to remove something from it.
-bool GFPDB_STORE::remove_device(int family, int scheme, const std::string& name)
+bool GFPDB_STORE::remove_device(int family, int scheme, const std::string& name, std::optional<GFPDB_TAKEN>* taken)
 {
     if (!prepare_write())
         return false;
-    return m_state == STATE::NO_FILE || change([&] { return drop_device(family, scheme, name, REASON_DELETED); });
+    if (m_state == STATE::NO_FILE)
+        return true;
+    GFPDB_TAKEN removed{std::string(), 0, family, scheme, name, std::string()};
+    const auto work = [&] {
+        return drop_device(family, scheme, name, REASON_DELETED, &removed.history_id) && read_revision(removed);
+    };
+    if (!change(work))
+        return false;
+    removed.database_id = m_database_id;
+    if (taken != nullptr && removed.history_id != 0)
+        *taken = removed;
+    return true;
+}
+
+// The revision of what was just removed, if anything was.
+bool GFPDB_STORE::read_revision(GFPDB_TAKEN& taken)
+{
+    QSqlQuery query;
+    if (!prepare(query, "SELECT revision FROM history WHERE id = ?", {qlonglong(taken.history_id)}))
+        return false;
+    taken.revision = next_row(query) ? text_at(query, 0) : std::string();
+    return !query.lastError().isValid();
+}
+
+bool GFPDB_STORE::undo_removal(const GFPDB_TAKEN& taken)
+{
+    const auto work = [&] {
+        return check_no_template(taken.name) && check_no_such_device(taken.family, taken.scheme, taken.name) &&
+               insert_taken(taken) && mark_taken(taken, REASON_PUT_BACK);
+    };
+    const bool is_ready = prepare_write();
+    if (is_ready && (m_state != STATE::READ_WRITE || m_database_id != taken.database_id))
+        return fail("The database in " + m_directory + " is another one now.");
+    return (is_ready && change(work)) ||
+           fail(m_last_error + " It is state " + std::to_string(taken.history_id) + " of the history.");
+}
+
+// The taken record in the history, by its number and, should that have been given to another one, its revision.
+#define GFPDB_WHERE_TAKEN "WHERE id = ? AND revision = ? AND reason = 'deleted'"
+
+bool GFPDB_STORE::find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row)
+{
+    return look_up("SELECT " GFPDB_ALL_READ " FROM history " GFPDB_WHERE_TAKEN,
+                   {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}, row);
+}
+
+bool GFPDB_STORE::insert_taken(const GFPDB_TAKEN& taken)
+{
+    QSqlQuery query;
+    if (!prepare(query,
+                 "INSERT INTO device (name_key, " GFPDB_COLUMNS ") SELECT CAST(? AS TEXT), " GFPDB_COLUMNS
+                 " FROM history " GFPDB_WHERE_TAKEN,
+                 {key_of(taken.name), qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) ||
+        !run(query))
+        return false;
+    return query.numRowsAffected() == 1 || fail("It is not in the history any more.");
+}
+
+bool GFPDB_STORE::mark_taken(const GFPDB_TAKEN& taken, const char* reason)
+{
+    QSqlQuery query;
+    return prepare(
+               query, "UPDATE history SET reason = ?, changed_at = ?, changed_by = ? " GFPDB_WHERE_TAKEN,
+               {QLatin1String(reason), now(), here(), qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) &&
+           run(query);
+}
+
+bool GFPDB_STORE::forget_taken(const GFPDB_TAKEN& taken)
+{
+    QSqlQuery query;
+    return prepare(query, "DELETE FROM history " GFPDB_WHERE_TAKEN,
+                   {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) &&
+           run(query);
 }
 
 bool GFPDB_STORE::remove_template(const std::string& template_name)
@@ -393,10 +513,7 @@ bool GFPDB_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
         return false;
     if (how == GFPDB_RESTORE_REPLACE)
         return drop_device(row.family, row.scheme, row.name, REASON_REPLACED) && insert_device(row);
-    QSqlQuery query;
-    return prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-                   {row.family, row.scheme, key_of(row.name)}) &&
-           finds_none(query, device_in_the_way(row.name)) && insert_device(row);
+    return check_no_such_device(row.family, row.scheme, row.name) && insert_device(row);
 }
 
 bool GFPDB_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
@@ -413,6 +530,16 @@ bool GFPDB_STORE::finds_none(QSqlQuery& query, const std::string& in_the_way)
 {
     if (next_row(query))
         return fail(in_the_way);
+    return !query.lastError().isValid();
+}
+
+// Runs a part of a change: unlike the public reads, it looks at the file that the transaction is on.
+bool GFPDB_STORE::look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row)
+{
+    QSqlQuery query;
+    if (!prepare(query, statement, values))
+        return false;
+    row = next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
     return !query.lastError().isValid();
 }
 
@@ -454,10 +581,12 @@ bool GFPDB_STORE::check_different_names(const GFPDB_ROW& row)
            fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) + ".");
 }
 
-bool GFPDB_STORE::store(const GFPDB_ROW& row)
+bool GFPDB_STORE::check_no_such_device(int family, int scheme, const std::string& name)
 {
-    return drop_device(row.family, row.scheme, row.name, REASON_REPLACED) && insert_device(row) &&
-           (row.template_name.empty() || (drop_template(row.template_name, REASON_REPLACED) && insert_template(row)));
+    QSqlQuery query;
+    return prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                   {family, scheme, key_of(name)}) &&
+           finds_none(query, device_in_the_way(name));
 }
 
 bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)
@@ -477,7 +606,9 @@ bool GFPDB_STORE::insert_template(const GFPDB_ROW& row)
            run(query);
 }
 
-bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason)
+// `history_id` (may be null) hears the number that the former state got, if there was one.
+bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason,
+                              std::int64_t* history_id)
 {
     constexpr char TO_HISTORY[] = GFPDB_TO_HISTORY "FROM device WHERE family = ? AND scheme = ? AND "
                                                    "name_key = CAST(? AS TEXT)";
@@ -485,8 +616,11 @@ bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, c
     const QVariantList which = {family, scheme, key_of(name)};
     QSqlQuery to_history;
     QSqlQuery removal;
-    return prepare(to_history, TO_HISTORY, history_values(false, reason) + which) && prepare(removal, REMOVAL, which) &&
-           run(to_history) && run(removal);
+    if (!prepare(to_history, TO_HISTORY, history_values(false, reason) + which) || !run(to_history))
+        return false;
+    if (history_id != nullptr && to_history.numRowsAffected() > 0)
+        *history_id = to_history.lastInsertId().toLongLong();
+    return prepare(removal, REMOVAL, which) && run(removal);
 }
 
 bool GFPDB_STORE::drop_template(const std::string& template_name, const char* reason)

@@ -72,10 +72,17 @@ public:
 
     // Stores `row` as the device of its family, scheme and name, and, when it has a template name, a copy of it as the
     // template of that name. A device of that name is replaced. Refused when the name is a stored template's, or the
-    // template name is a device's or the template of another device.
-    bool save_device(const GFPDB_ROW& row);
-    // True also when there is no such record.
-    bool remove_device(int family, int scheme, const std::string& name);
+    // template name is a device's or the template of another device. Gives the revision that is stored now: a former
+    // one when that state is stored already, which changes nothing. None on failure.
+    //
+    // `taken` is what was removed to be replaced by `row`, or null: the history then says that it was replaced. When
+    // `row` is the very state that was taken, all is as it was before the removal.
+    std::optional<std::string> save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken = nullptr);
+    // True also when there is no such record. `taken` (may be null) hears what was removed, if anything was.
+    bool remove_device(int family, int scheme, const std::string& name, std::optional<GFPDB_TAKEN>* taken = nullptr);
+    // Makes what was removed the current record again, as it was; the history says so. Refused when its name is in use,
+    // or when the database is another one now. get_last_error() then says where the record is kept.
+    bool undo_removal(const GFPDB_TAKEN& taken);
     bool remove_template(const std::string& template_name);
 
     // The devices of all families and schemes, and all stored templates, without their flows: ordered by family, scheme
@@ -171,14 +178,23 @@ private:
     bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool finds_none(QSqlQuery& query, const std::string& in_the_way);
+    bool look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
+    bool read_revision(GFPDB_TAKEN& taken);
+    bool find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row);
+    bool save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision);
+    bool save_template(const GFPDB_ROW& row);
+    bool check_no_such_device(int family, int scheme, const std::string& name);
+    bool insert_taken(const GFPDB_TAKEN& taken);
+    bool mark_taken(const GFPDB_TAKEN& taken, const char* reason);
+    bool forget_taken(const GFPDB_TAKEN& taken);
     bool check_free_names(const GFPDB_ROW& row);
     bool check_no_template(const std::string& name);
     bool check_no_device(const std::string& name);
     bool check_different_names(const GFPDB_ROW& row);
-    bool store(const GFPDB_ROW& row);
     bool insert_device(const GFPDB_ROW& row);
     bool insert_template(const GFPDB_ROW& row);
-    bool drop_device(int family, int scheme, const std::string& name, const char* reason);
+    bool drop_device(int family, int scheme, const std::string& name, const char* reason,
+                     std::int64_t* history_id = nullptr);
     bool drop_template(const std::string& template_name, const char* reason);
 
     std::string m_directory;

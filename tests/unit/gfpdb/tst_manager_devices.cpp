@@ -208,7 +208,7 @@ void TST_MANAGER_DEVICES::a_success_clears_the_last_error()
         [&] { return m_mgr->get_template_operations("T", SINGLE_IO) != nullptr; },
         [&] { return m_mgr->remove_template("T"); },
         [&] { return m_mgr->delete_flash("A", m_place->db_dir()); },
-        [&] { return m_mgr->restore_flash(2, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()); },
+        [&] { return m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()); },
     };
     for (const auto& call : calls) {
         QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));

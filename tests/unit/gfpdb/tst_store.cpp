@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -76,6 +77,7 @@ private slots:
     void names_come_from_an_index();
 
     void the_history_tells_what_when_and_by_whom();
+    void the_history_has_the_name_of_the_user_database_without_a_variable();
     void history_has_whole_rows();
 
     void reads_follow_a_replaced_file();
@@ -372,6 +374,7 @@ void TST_STORE::the_history_tells_what_when_and_by_whom()
     row.template_name = "T";
     qputenv("USER", "tester");
     QVERIFY(m_store->save_device(row));
+    row.total_die = 3;
     QVERIFY(m_store->save_device(row));
     QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
     QVERIFY(m_store->remove_template("T"));
@@ -394,6 +397,22 @@ void TST_STORE::the_history_tells_what_when_and_by_whom()
         QCOMPARE(entries[i].changed_by, "tester@" + QSysInfo::machineHostName().toStdString());
         const QDateTime changed = QDateTime::fromString(QString::fromStdString(entries[i].changed_at), Qt::ISODate);
         QVERIFY(qAbs(changed.secsTo(QDateTime::currentDateTimeUtc())) < 60);
+    }
+}
+
+void TST_STORE::the_history_has_the_name_of_the_user_database_without_a_variable()
+{
+    const QString name = QFileInfo(QString::fromStdString(m_place->path("."))).owner();
+    QVERIFY(!name.isEmpty());
+    for (const bool is_set : {false, true}) {
+        if (is_set)
+            qputenv("USER", "");
+        else
+            qunsetenv("USER");
+        QVERIFY(m_store->save_device(make_row("A")));
+        QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+        QCOMPARE(m_store->get_history().back().changed_by,
+                 (name + QLatin1Char('@') + QSysInfo::machineHostName()).toStdString());
     }
 }
 
@@ -435,7 +454,7 @@ void TST_STORE::the_first_change_of_a_replaced_file_is_refused()
                               " was replaced or removed by another program while it was in use. Nothing was changed: "
                               "look at the devices that are there now, then try again.";
     const std::vector<std::function<bool()>> changes = {
-        [this] { return m_store->save_device(make_row("C")); },
+        [this] { return m_store->save_device(make_row("C")).has_value(); },
         [this] { return m_store->remove_device(FAMILY, SERIAL, "B"); },
         [this] { return m_store->remove_template("B"); },
         [this] { return m_store->restore(1, GFPDB_RESTORE_KEEP, std::string()); },

@@ -19,7 +19,7 @@ TOOL_RUN run_tool(const QStringList& arguments, const QByteArray& input)
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-void save_part(const std::string& name, int family, int scheme, const std::string& template_name)
+void save_part(const std::string& name, int family, int scheme, const std::string& template_name, int total_die)
 {
     GFPDB_MGR& manager = *fresh_manager(family, scheme);
     GFPDB_FLASH& record = *manager.create_flash(name);
@@ -28,7 +28,7 @@ void save_part(const std::string& name, int family, int scheme, const std::strin
     record.set_string_property(GFPDB_FLASH_DEVICE_ID, "0xC2 0x20 0x19");
     record.set_string_property(GFPDB_FLASH_VOLTAGE, "3.3V");
     record.set_density("256Mb");
-    record.set_int_property(GFPDB_FLASH_TOTAL_DIE, 1);
+    record.set_int_property(GFPDB_FLASH_TOTAL_DIE, total_die);
     record.set_int_property(GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 8);
     record.set_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, 6);
     record.set_string_property(GFPDB_FLASH_FLOW_TEMPLATE, gfpdb_part_template_name(part));

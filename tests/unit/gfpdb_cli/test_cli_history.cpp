@@ -54,7 +54,7 @@ void TEST_CLI_HISTORY::history_lists_and_filters()
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
     qputenv("USER", "someone");
-    save_part("A", FAMILY, SERIAL, "T");
+    save_part("A", FAMILY, SERIAL, "T", 2);
     save_part("A", FAMILY, SERIAL, "T");
     save_part("B", OTHER_FAMILY, QUAD);
     QVERIFY(fresh_manager(OTHER_FAMILY, QUAD)->delete_flash("B", place.db_dir()));
@@ -97,7 +97,7 @@ void TEST_CLI_HISTORY::restore_refuses_what_it_cannot_do()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine");
+    save_part("Mine", FAMILY, SERIAL, std::string(), 2);
     save_part("Mine");
     TOOL_RUN run = run_tool({"restore", "7", "-d", directory});
     QCOMPARE(run.exit_code, 3);
@@ -140,7 +140,7 @@ void TEST_CLI_HISTORY::restore_gives_another_name()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, SERIAL, "T", 2);
     save_part("Mine", FAMILY, SERIAL, "T");
     const QStringList listed = {"Mine", "T"};
     QCOMPARE(names(json(run_tool({"list", "--json", "-d", directory}))), listed);
@@ -170,7 +170,7 @@ void TEST_CLI_HISTORY::restore_replaces_no_record_of_the_other_kind()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, SERIAL, "T", 2);
     save_part("Mine", FAMILY, SERIAL, "T");
     save_part("Other", FAMILY, SERIAL, "U");
     const QByteArray before = exported(place.db_dir());
@@ -294,7 +294,7 @@ void TEST_CLI_HISTORY::what_is_no_number_of_the_history_is_refused()
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
     QFETCH(QString, id);
-    save_part("Mine");
+    save_part("Mine", FAMILY, SERIAL, std::string(), 2);
     save_part("Mine");
 
     const TOOL_RUN run = run_tool({"restore", id, "-d", directory});

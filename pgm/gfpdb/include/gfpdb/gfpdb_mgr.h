@@ -52,10 +52,15 @@ public:
     virtual bool verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
                                         std::string& error) const = 0;
     // Writes `flash` into the database in `directory` for the current family and scheme. A record of that name is
-    // replaced; its former state goes into the history. False: the database is as it was.
+    // replaced; its former state goes into the history. False: the database is as it was. A state that is stored
+    // already stays as it is, with its revision.
+    //
+    // What the call just before took, if that was delete_flash() for the same directory, is replaced by `flash`; when
+    // the save fails it is put back, and get_last_error() says so if that fails too.
     virtual bool save_flash(GFPDB_FLASH* flash, const std::string& directory) = 0;
-    // Removes the device `name` from the database in `directory`; its state goes into the history. True also when there
-    // is no such device. False: the database is as it was.
+    // Removes the device `name` from the database in `directory`; its state goes into the history, and is back if the
+    // very next call is a save_flash() that fails. True also when there is no such device. False: the database is as it
+    // was.
     virtual bool delete_flash(const std::string& name, const std::string& directory) = 0;
     // Brings the state `history_id` of the history in `directory` back as the current record of the family and scheme
     // that it had, under `new_name` (of a template: its template name), or under the name that it had when that is
