@@ -291,6 +291,8 @@ void TEST_ENTRY_POINT::ok_without_a_current_row_hands_back_no_name()
     mgr().add_allowed = false;
     mgr().custom_names.clear();
     mgr().builtin_names.clear();
+    // Nothing is saved, so that the list stays empty.
+    mgr().creates_flash = false;
 
     run_dialog([](GFPQ_DLG& dialog) { click(dialog, "m_ok_button"); });
 
