@@ -5,6 +5,7 @@
 #include "gfpdb/gfpdb_enums.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace {
 
@@ -26,14 +27,38 @@ int addressing_property(int action_type)
     }
 }
 
+// An action that tells the step of its loop: a Write Data of pages, an Erase of sectors.
+struct LOOP_STEP
+{
+    int action;
+    std::int64_t size;
+    bool has_fixed_address;
+};
+
 // A loop that has been opened and not yet closed.
 struct OPEN_LOOP
 {
     std::string unit;
     int action;
-    // An action that tells the loop's step stands in the loop itself, not in a loop within it.
-    bool has_step;
+    // Those in the loop itself, not in a loop within it.
+    std::vector<LOOP_STEP> steps;
 };
+
+// The number that a property holds; 0 for a word, and for an Erase that erases everything, whatever its size says.
+std::int64_t step_size(const GFPDB_ACTION& action)
+{
+    const bool is_page = action.m_action_type == GFPDB_ACT_WRITE_DATA;
+    if (!is_page && action.get_property_value(GFPDB_ER_ADDRESSING_MODE) == NO_ADDRESSING)
+        return 0;
+    return gfpdb_parse_decimal(action.get_property_value(is_page ? GFPDB_WD_PAGE_SIZE : GFPDB_ER_ERASE_SIZE))
+        .value_or(0);
+}
+
+// Whether both sizes can serve one loop: one of them divides the other. Everything is divided by every size.
+bool go_together(std::int64_t one, std::int64_t other)
+{
+    return one == 0 || other == 0 || std::max(one, other) % std::min(one, other) == 0;
+}
 
 // Walks over the actions of one operation after the other and notes what is wrong.
 class FLOW_CHECKER
@@ -55,7 +80,11 @@ public:
     std::vector<GFPDB_FLOW_PROBLEM> m_problems;
 
 private:
-    void add(int property, const std::string& text) { m_problems.push_back({m_operation, m_action, property, text}); }
+    void add(int property, const std::string& text) { add_at(m_action, property, text); }
+    void add_at(int action, int property, const std::string& text)
+    {
+        m_problems.push_back({m_operation, action, property, text});
+    }
 
     void check(const GFPDB_ACTION& action)
     {
@@ -89,7 +118,7 @@ private:
                                             m_loops.back().unit +
                                             ". Allowed: a loop over each page or sector in a "
                                             "loop over each die.");
-        m_loops.push_back({unit, m_action, unit == GFPDB_LOOP_DIE});
+        m_loops.push_back({unit, m_action, {}});
     }
 
     void close_loop(const std::string& unit)
@@ -103,10 +132,12 @@ private:
         if (loop.unit != unit)
             add(GFPDB_CUSTOM_LOOP_UNIT,
                 "The end of a loop over each " + unit + " closes a loop over each " + loop.unit + ".");
-        if (!loop.has_step)
+        if (loop.unit != GFPDB_LOOP_DIE && loop.steps.empty())
             add(WHOLE_ACTION, "The loop over each " + loop.unit + " has no " +
                                   (loop.unit == GFPDB_LOOP_PAGE ? "Write Data" : "Erase") +
                                   " action, which tells its step.");
+        for (std::size_t at = 0; at < loop.steps.size() && loop.steps.size() > 1; ++at)
+            check_steps_together(loop, at);
     }
 
     // The page loop advances by a page of its Write Data, the sector loop by what its Erase erases.
@@ -115,8 +146,53 @@ private:
         if (m_loops.empty())
             return;
         OPEN_LOOP& loop = m_loops.back();
-        loop.has_step |= (loop.unit == GFPDB_LOOP_PAGE && action.m_action_type == GFPDB_ACT_WRITE_DATA) ||
-                         (loop.unit == GFPDB_LOOP_SECTOR && action.m_action_type == GFPDB_ACT_ERASE);
+        const bool is_sector = loop.unit == GFPDB_LOOP_SECTOR && action.m_action_type == GFPDB_ACT_ERASE;
+        const bool is_page = loop.unit == GFPDB_LOOP_PAGE && action.m_action_type == GFPDB_ACT_WRITE_DATA;
+        if (is_sector || is_page)
+            loop.steps.push_back({m_action, step_size(action), is_sector && has_fixed_address(action)});
+    }
+
+    static bool has_fixed_address(const GFPDB_ACTION& action)
+    {
+        return action.is_property_enabled(GFPDB_ER_ADDRESS) &&
+               gfpdb_parse_address(action.get_property_value(GFPDB_ER_ADDRESS));
+    }
+
+    // Checks a step of a loop with several of them against those before it.
+    void check_steps_together(const OPEN_LOOP& loop, std::size_t at)
+    {
+        const LOOP_STEP& step = loop.steps[at];
+        if (step.has_fixed_address)
+            add_at(step.action, GFPDB_ER_ADDRESS,
+                   "One of several erases in a loop has a fixed address. Allowed: loop or die.");
+        if (loop.unit == GFPDB_LOOP_PAGE)
+            check_page_sizes(loop.steps.front(), step);
+        else
+            check_erase_sizes(loop, at);
+    }
+
+    void check_page_sizes(const LOOP_STEP& first, const LOOP_STEP& step)
+    {
+        if (first.size == step.size || first.size == 0 || step.size == 0)
+            return;
+        add_at(step.action, GFPDB_WD_PAGE_SIZE,
+               "The loop has page sizes of " + std::to_string(first.size) + " and of " + std::to_string(step.size) +
+                   ". Allowed: one page size in a loop.");
+    }
+
+    void check_erase_sizes(const OPEN_LOOP& loop, std::size_t at)
+    {
+        const LOOP_STEP& step = loop.steps[at];
+        const auto before = loop.steps.begin() + static_cast<std::ptrdiff_t>(at);
+        const auto unfit = std::find_if(loop.steps.begin(), before, [&step](const LOOP_STEP& other) {
+            return !go_together(step.size, other.size);
+        });
+        if (unfit == before)
+            return;
+        add_at(step.action, GFPDB_ER_ERASE_SIZE,
+               "The erase sizes " + std::to_string(std::max(step.size, unfit->size)) + " and " +
+                   std::to_string(std::min(step.size, unfit->size)) +
+                   " do not go together in one loop. Allowed: sizes of which each divides every larger one.");
     }
 
     void check_loop_values(const GFPDB_ACTION& action)

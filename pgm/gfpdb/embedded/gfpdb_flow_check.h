@@ -20,6 +20,6 @@ struct GFPDB_FLOW_PROBLEM
 };
 
 // What is wrong with a flow: values that their own action refuses; loops that do not pair up, are nested in the wrong
-// order or have nothing that tells their step; values that need a loop outside of one; different numbers of address
-// bytes. Empty for a flow that can be executed. Pure.
+// order or have nothing that tells their step; steps of one loop that do not go together; values that need a loop
+// outside of one; different numbers of address bytes. Empty for a flow that can be executed. Pure.
 std::vector<GFPDB_FLOW_PROBLEM> gfpdb_check_flow(const std::vector<GFPDB_OPERATION*>& operations);

@@ -416,6 +416,11 @@ FLOW_BYTES SPI_NOR_CHIP::block_bytes(std::int64_t block) const
     return bytes;
 }
 
+std::uint8_t SPI_NOR_CHIP::byte_at(std::int64_t position) const
+{
+    return block_bytes(position / BLOCK_BYTES)[static_cast<std::size_t>(position % BLOCK_BYTES)];
+}
+
 bool SPI_NOR_CHIP::holds(const FLOW_IMAGE& image) const
 {
     for (std::size_t block = 0; block < m_blocks.size(); ++block) {

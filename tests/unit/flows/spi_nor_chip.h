@@ -72,6 +72,7 @@ public:
     // True when every byte of the chip is that of the image.
     bool holds(const FLOW_IMAGE& image) const;
     bool is_blank() const { return holds(FLOW_IMAGE()); }
+    std::uint8_t byte_at(std::int64_t position) const;
     // True when the chip is as it was after power-up, apart from its data, protection and quad-enable bit.
     bool is_at_rest() const;
     bool is_quad_enabled() const;

@@ -1,46 +1,11 @@
 // What the check of a whole flow finds.
-#include "gfpdb_action_model.h"
-#include "gfpdb_flow_check.h"
-#include "gfpdb_operation.h"
+#include "flow_making.h"
 
-#include "gfpdb/gfpdb_enums.h"
+#include "gfpdb_flow_check.h"
 
 #include <QTest>
 
-#include <initializer_list>
-#include <memory>
-
 namespace {
-
-using VALUES = std::initializer_list<std::pair<int, const char*>>;
-
-GFPDB_ACTION* make(int type, VALUES values = {})
-{
-    GFPDB_ACTION* action = gfpdb_make_action(static_cast<GFPDB_ACT_TYPE>(type));
-    for (const auto& [property, value] : values)
-        action->set_property_value(static_cast<GFPDB_ACT_PROPERTY>(property), value);
-    return action;
-}
-
-GFPDB_ACTION* start(const QByteArray& unit)
-{
-    return make(GFPDB_ACT_CUSTOM, {{38, unit.constData()}, {39, "start"}});
-}
-
-GFPDB_ACTION* end(const QByteArray& unit)
-{
-    return make(GFPDB_ACT_CUSTOM, {{38, unit.constData()}, {39, "end"}});
-}
-
-using OPERATION = std::unique_ptr<GFPDB_OPERATION>;
-
-OPERATION operation_of(int kind, std::initializer_list<GFPDB_ACTION*> actions)
-{
-    OPERATION operation(gfpdb_make_operation(kind));
-    for (GFPDB_ACTION* action : actions)
-        operation->add_action(action);
-    return operation;
-}
 
 // Each problem as "operation/action/property text".
 QStringList problems(std::initializer_list<GFPDB_OPERATION*> operations)
@@ -76,6 +41,10 @@ private slots:
     void only_a_die_loop_holds_another_loop_data();
     void only_a_die_loop_holds_another_loop();
     void a_loop_needs_its_step();
+    void several_erases_of_a_loop_fit_each_other_data();
+    void several_erases_of_a_loop_fit_each_other();
+    void one_of_several_erases_takes_its_address_from_the_loop();
+    void the_pages_of_a_loop_have_one_size();
     void loop_and_die_stand_in_their_loops();
     void address_bytes_are_one_and_the_same();
     void an_operation_that_is_missing_is_no_problem();
@@ -160,6 +129,77 @@ void TEST_FLOW_CHECK::a_loop_needs_its_step()
     QCOMPARE(problems({start("die"), end("die")}), QStringList());
     QCOMPARE(problems({make(2, {{15, "0x00000000"}}), start("page"), end("page"), make(2, {{15, "0x00000000"}})}),
              QStringList{"1/2/-1 The loop over each page has no Write Data action, which tells its step."});
+}
+
+void TEST_FLOW_CHECK::several_erases_of_a_loop_fit_each_other_data()
+{
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+    QTest::addColumn<QByteArray>("third");
+    QTest::addColumn<QByteArray>("problem");
+    const auto add = [](const char* first, const char* second, const char* third, const char* problem = "") {
+        QTest::addRow("%s %s %s", first, second, third)
+            << QByteArray(first) << QByteArray(second) << QByteArray(third) << QByteArray(problem);
+    };
+    add("65536", "4096", "32768");
+    add("4096", "4096", "4096");
+    add("device", "65536", "4096");
+    add("24576", "device", "4096");
+    add("65536", "24576", "8192",
+        "1/3/34 The erase sizes 65536 and 24576 do not go together in one loop. Allowed: sizes of which each divides "
+        "every larger one.");
+    add("4096", "6000", "12000",
+        "1/3/34 The erase sizes 6000 and 4096 do not go together in one loop. Allowed: sizes of which each divides "
+        "every larger one.");
+    add("8192", "4096", "12288",
+        "1/4/34 The erase sizes 12288 and 8192 do not go together in one loop. Allowed: sizes of which each divides "
+        "every larger one.");
+}
+
+// The largest erase that fits is chosen for each step: together they have to reach everything.
+void TEST_FLOW_CHECK::several_erases_of_a_loop_fit_each_other()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    QFETCH(QByteArray, third);
+    QFETCH(QByteArray, problem);
+
+    const QStringList found =
+        problems({start("sector"), make(0), make(4, {{34, first.constData()}}), make(4, {{34, second.constData()}}),
+                  make(4, {{34, third.constData()}}), end("sector")});
+
+    // A size is named once, with the first one before it that it does not go with.
+    QCOMPARE(found.mid(0, 1), problem.isEmpty() ? QStringList() : QStringList{problem});
+    // Each loop counts for itself, and one size has nothing to go with.
+    QCOMPARE(problems({start("sector"), make(4, {{34, "65536"}}), end("sector"), start("sector"),
+                       make(4, {{34, "24576"}}), end("sector")}),
+             QStringList());
+}
+
+void TEST_FLOW_CHECK::one_of_several_erases_takes_its_address_from_the_loop()
+{
+    const QString text = " One of several erases in a loop has a fixed address. Allowed: loop or die.";
+    QCOMPARE(problems({start("sector"), make(4, {{33, "0x00000000"}}), make(4), end("sector")}),
+             QStringList{"1/1/33" + text});
+    QCOMPARE(problems({start("sector"), make(4), make(4, {{33, "0x00000000"}}), end("sector")}),
+             QStringList{"1/2/33" + text});
+    QCOMPARE(problems({start("sector"), make(4, {{33, "0x00000000"}}), end("sector")}), QStringList());
+    // A command that erases everything has no address; its size counts as that of everything.
+    QCOMPARE(problems({start("sector"), make(4, {{34, "65536"}}),
+                       make(4, {{33, "0x00000000"}, {34, "1000"}, {35, "0"}}), end("sector")}),
+             QStringList());
+    QCOMPARE(problems({start("die"), start("sector"), make(4, {{33, "die"}}), make(4, {{33, "loop"}}), end("sector"),
+                       end("die")}),
+             QStringList());
+}
+
+void TEST_FLOW_CHECK::the_pages_of_a_loop_have_one_size()
+{
+    QCOMPARE(problems({start("page"), make(2), make(2, {{17, "512"}}), make(2, {{17, "256"}}), end("page")}),
+             QStringList{"1/2/17 The loop has page sizes of 256 and of 512. Allowed: one page size in a loop."});
+    QCOMPARE(problems({start("page"), make(2), end("page"), start("page"), make(2, {{17, "512"}}), end("page")}),
+             QStringList());
+    QCOMPARE(problems({start("page"), make(2), make(2), end("page")}), QStringList());
 }
 
 void TEST_FLOW_CHECK::loop_and_die_stand_in_their_loops()

@@ -306,9 +306,13 @@ struct ALTERED_SESSION
     // True when nobody could tell the altered flow from a good one.
     bool passes()
     {
-        for (const int kind : {0, 2, 1, 3, 4}) {
-            if (!executor.run(*operations[static_cast<std::size_t>(kind)]))
-                return false;
+        try {
+            for (const int kind : {0, 2, 1, 3, 4}) {
+                if (!executor.run(*operations[static_cast<std::size_t>(kind)]))
+                    return false;
+            }
+        } catch (const std::runtime_error&) {
+            return false;
         }
         return chip.complaints().empty() && chip.holds(image) && chip.is_at_rest();
     }
@@ -374,13 +378,7 @@ void TEST_FLOW_EXECUTION::every_step_of_a_flow_counts()
             const std::string what = std::to_string(kind) + "/" + std::to_string(at) + " " +
                                      action.get_property_value(action.get_property_enum_list()[0]);
             session.operations[kind] = without(*session.operations[kind], at);
-            bool passed = true;
-            try {
-                passed = session.passes();
-            } catch (const std::runtime_error&) {
-                passed = false;
-            }
-            QVERIFY2(!passed, what.c_str());
+            QVERIFY2(!session.passes(), what.c_str());
         }
     }
 }
