@@ -10,6 +10,7 @@
 #include "show_command.h"
 
 #include "gfpdb/gfpdb_enums.h"
+#include "gfpdb_catalogue.h"
 #include "gfpdb_text.h"
 
 #include <QCoreApplication>
@@ -165,6 +166,10 @@ int run_command(const CLI_COMMAND& command, const QStringList& arguments, CLI_OU
     // The tool says itself what goes wrong; the log says it once more.
     if (!parser.isSet(QLatin1String(OPTION_VERBOSE)))
         QLoggingCategory::setFilterRules(QStringLiteral("pgm.gfpdb.warning=false"));
+    if (!gfpdb_catalogue_problem().empty()) {
+        output.error(gfpdb_catalogue_problem());
+        return CLI_EXIT_BAD_FILE;
+    }
     CLI_DATABASE database(QFile::encodeName(parser.value(QLatin1String(CLI_OPTION_DIR))).toStdString());
     return command.run({parser, database, output});
 }

@@ -3,11 +3,12 @@
 #include "record_csv.h"
 #include "record_json.h"
 
+#include "gfpdb_read_file.h"
 #include "gfpdb_text.h"
 
 #include <QFile>
 
-#include <cstdio>
+#include <unistd.h>
 
 namespace {
 
@@ -17,15 +18,17 @@ constexpr const char* CSV_SUFFIX = ".csv";
 // False: `problem` says why.
 bool read_text(const std::string& path, std::string& text, std::string& problem)
 {
-    QFile file(gfpdb_from_utf8(path));
-    const bool is_open =
-        path == STANDARD_INPUT ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (is_open)
-        text = file.readAll().toStdString();
-    if (is_open && file.error() == QFile::NoError)
-        return true;
-    problem = "The file cannot be read: " + gfpdb_to_utf8(file.errorString()) + ".";
-    return false;
+    std::string reason;
+    std::optional<std::string> bytes =
+        path == STANDARD_INPUT
+            ? gfpdb_read_descriptor(STDIN_FILENO, RECORD_FILE_LARGEST, reason)
+            : gfpdb_read_file(QFile::encodeName(gfpdb_from_utf8(path)).toStdString(), RECORD_FILE_LARGEST, reason);
+    if (!bytes) {
+        problem = "The file cannot be read: " + reason + ".";
+        return false;
+    }
+    text = std::move(*bytes);
+    return true;
 }
 
 void read_json(const std::string& text, GFPDB_MGR& manager, const RECORD_FILE_OPTIONS& options, RECORD_FILE& file)

@@ -26,4 +26,8 @@ struct RECORD_FILE
     std::vector<CLI_PROBLEM> warnings;
 };
 
+// The largest file that is read, in bytes. An export of 80,000 devices with their flows has as many.
+constexpr std::size_t RECORD_FILE_LARGEST = std::size_t(1) << 30;
+
+// Reads a regular file, or standard input to its end.
 RECORD_FILE read_record_file(const std::string& path, GFPDB_MGR& manager, const RECORD_FILE_OPTIONS& options);

@@ -10,5 +10,10 @@
 // environment variable cannot be read, that is logged and the compiled-in catalogue serves. GUI thread only.
 const std::vector<GFPDB_PART>& gfpdb_catalogue_parts();
 
-// The parts of the catalogue in `path`; `problem` says why it could not be read and is empty otherwise.
+// Why the file that GFPDB_CATALOGUE names is not the catalogue, as a sentence for the user; empty when it is, or when
+// the variable is not set.
+const std::string& gfpdb_catalogue_problem();
+
+// The parts of the catalogue in `path`; `problem` says why it could not be read and is empty otherwise. Only regular
+// files of at most 16 MiB are read, and what is compiled in (":/...").
 std::vector<GFPDB_PART> gfpdb_read_catalogue(const QString& path, QString& problem);

@@ -1,5 +1,6 @@
 #include "gfpdb/gfpdb_helper.h"
 
+#include "gfpdb_catalogue.h"
 #include "gfpdb_embedded_mgr.h"
 
 #include <optional>
@@ -34,5 +35,6 @@ GFPDB_MGR* GFPDB_HELPER::get_active_flash_manager(bool reload)
 
 std::string GFPDB_HELPER::get_database_problem()
 {
-    return GFPDB_EMBEDDED_MGR::instance().store().get_problem();
+    const std::string problem = GFPDB_EMBEDDED_MGR::instance().store().get_problem();
+    return problem.empty() ? gfpdb_catalogue_problem() : problem;
 }

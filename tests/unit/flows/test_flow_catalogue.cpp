@@ -2,12 +2,16 @@
 #include "gfpdb_catalogue.h"
 #include "gfpdb_catalogue_csv.h"
 
+#include "gfpdb/gfpdb_helper.h"
+
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <string>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -41,7 +45,7 @@ void write_file(const QString& path, const std::string& text)
     file.write(text.data(), static_cast<qint64>(text.size()));
 }
 
-// The names of the parts in the catalogue of another process, which reads it once, at its first use.
+// The problem, and the names of the parts, in the catalogue of another process, which reads it once, at its first use.
 QByteArray names_in_other_process(const QString& catalogue_path)
 {
     QProcess process;
@@ -394,22 +398,29 @@ void TEST_FLOW_CATALOGUE::a_file_of_the_environment_replaces_the_catalogue()
     const QTemporaryDir directory;
     const QString path = directory.filePath("own parts.csv");
     write_file(path, "name,jedec_id,density\nMine,C2,1Mb\nbroken,,\nYours,C3,1Mb\n");
-    QCOMPARE(names_in_other_process(path), QByteArray("Mine\nYours\n"));
+    QCOMPARE(names_in_other_process(path), QByteArray("\nMine\nYours\n"));
 }
 
 void TEST_FLOW_CATALOGUE::an_unreadable_file_leaves_the_shipped_catalogue()
 {
-    const QByteArray names = names_in_other_process("/no/such/file.csv");
-    QVERIFY(names.startsWith("MX25L1606E\n"));
-    QCOMPARE(names.count('\n'), 146);
+    const QTemporaryDir directory;
+    const QString pipe = directory.filePath("pipe");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& path : {QString("/no/such/file.csv"), QString("/dev/zero"), pipe, directory.path()}) {
+        const QByteArray names = names_in_other_process(path);
+        QVERIFY2(names.startsWith("GFPDB_CATALOGUE: The catalogue " + path.toUtf8() + " cannot be read: "),
+                 names.constData());
+        QVERIFY(names.contains(".\nMX25L1606E\n"));
+        QCOMPARE(names.count('\n'), 147);
+    }
 }
 
 void TEST_FLOW_CATALOGUE::a_file_that_cannot_be_read_is_a_problem()
 {
     QString problem;
-    QTest::ignoreMessage(QtWarningMsg, "The catalogue /no/such/file.csv cannot be read: No such file or directory");
+    QTest::ignoreMessage(QtWarningMsg, "The catalogue /no/such/file.csv cannot be read: No such file or directory.");
     QVERIFY(gfpdb_read_catalogue("/no/such/file.csv", problem).empty());
-    QCOMPARE(problem, QString("The catalogue /no/such/file.csv cannot be read: No such file or directory"));
+    QCOMPARE(problem, QString("The catalogue /no/such/file.csv cannot be read: No such file or directory."));
 
     const QTemporaryDir directory;
     write_file(directory.filePath("parts.csv"), "name,jedec_id,density\nA,C2\n");
@@ -422,6 +433,7 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     if (application.arguments().contains("--names")) {
+        std::printf("%s\n", GFPDB_HELPER::get_database_problem().c_str());
         for (const GFPDB_PART& part : gfpdb_catalogue_parts())
             std::printf("%s\n", part.name.c_str());
         return 0;

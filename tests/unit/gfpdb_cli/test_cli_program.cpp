@@ -8,6 +8,7 @@
 #include <QProcess>
 
 #include <pty.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -54,6 +55,7 @@ private slots:
     void the_directory_comes_from_the_settings_or_the_option();
     void names_that_are_not_ascii_work_in_any_locale();
 
+    void a_catalogue_that_cannot_be_read_is_an_error();
     void progress_is_shown_on_a_terminal();
     void output_that_cannot_be_written_is_an_error();
     void the_man_page_has_every_command_and_option();
@@ -208,6 +210,28 @@ void TEST_CLI_PROGRAM::names_that_are_not_ascii_work_in_any_locale()
     }
     qputenv("LC_ALL", former);
     QVERIFY(QFile::exists(q(directory) + "gfpdb.sqlite"));
+}
+
+void TEST_CLI_PROGRAM::a_catalogue_that_cannot_be_read_is_an_error()
+{
+    const GFPDB_PLACE place;
+    const QString pipe = q(place.path("pipe"));
+    QCOMPARE(::mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    for (const QString& path : {QString("/no/such.csv"), QString("/dev/zero"), pipe}) {
+        qputenv("GFPDB_CATALOGUE", path.toLocal8Bit());
+        for (const QStringList& arguments : {QStringList{"list"}, QStringList{"show", "x"}, QStringList{"export"},
+                                             QStringList{"import", "x"}, QStringList{"check"}, QStringList{"history"},
+                                             QStringList{"restore", "1"}, QStringList{"diff", "x", "y"}}) {
+            const TOOL_RUN run = run_tool(arguments);
+            QCOMPARE(run.exit_code, 4);
+            QVERIFY2(run.err.startsWith("gfpdb: GFPDB_CATALOGUE: The catalogue " + path.toUtf8() + " cannot be read: "),
+                     run.err.constData());
+            QCOMPARE(run.err.count('\n'), 1);
+            QCOMPARE(run.out, QByteArray());
+        }
+        QCOMPARE(run_tool({"list", "--help"}).exit_code, 0);
+    }
+    qunsetenv("GFPDB_CATALOGUE");
 }
 
 void TEST_CLI_PROGRAM::progress_is_shown_on_a_terminal()

@@ -319,7 +319,15 @@ void TEST_CLI_TRANSFER::import_says_what_cannot_be_read()
     QCOMPARE(run.exit_code, 4);
     QCOMPARE(run.err, QByteArray("gfpdb: /no/such.json: The file cannot be read: No such file or directory.\n"
                                  "gfpdb: Nothing was imported.\n"));
-    QCOMPARE(run_tool({"import", directory, "-d", directory}).exit_code, 4);
+    const QString pipe = q(place.path("pipe"));
+    QCOMPARE(::mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    for (const QString& path : {directory, pipe, QString("/dev/zero")}) {
+        const QByteArray error = "gfpdb: " + path.toUtf8() + ": The file cannot be read: it is not a regular file.\n";
+        run = run_tool({"import", path, "-d", directory});
+        QCOMPARE(run.exit_code, 4);
+        QCOMPARE(run.err, error + "gfpdb: Nothing was imported.\n");
+        QCOMPARE(run_tool({"diff", path, path, "-d", directory}).exit_code, 4);
+    }
     write_file(place.path("broken.json"), "{\n\"format\": nonsense\n}");
     run = run_tool({"import", q(place.path("broken.json")), "-d", directory});
     QVERIFY(run.err.contains("broken.json:2: This is no JSON: a value was expected.\n"));

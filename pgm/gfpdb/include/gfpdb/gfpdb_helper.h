@@ -18,8 +18,8 @@ public:
     // The manager of the active flash; `reload` true opens the database of the custom directory anew. Not owned by the
     // caller. Never null in this library; a caller must not rely on that.
     static GFPDB_MGR* get_active_flash_manager(bool reload);
-    // What keeps the database of the custom directory from being read or written, as a sentence for the user; empty
-    // when nothing does.
+    // What keeps the database of the custom directory from being read or written, or else the catalogue that the
+    // environment names from being used, as a sentence for the user; empty when nothing does.
     static std::string get_database_problem();
     // The directory that relative database directories are relative to, wherever one is named: in the calls of the
     // manager and in the settings file. Empty stands for the process's current directory, which is so until the first

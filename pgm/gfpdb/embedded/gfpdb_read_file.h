@@ -1,0 +1,16 @@
+// Reads whole files that others may have put in their places: nothing is waited for and nothing is read for ever.
+//
+// Throws nothing. Safe from every thread.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+// The bytes of the file `path` (local 8-bit), which must be a regular one of at most `largest` bytes. None: `problem`
+// says why, as what follows "the file cannot be read: ".
+std::optional<std::string> gfpdb_read_file(const std::string& path, std::size_t largest, std::string& problem);
+
+// What comes out of the open `descriptor`, which may be a pipe, up to its end; then as above. The descriptor stays
+// open.
+std::optional<std::string> gfpdb_read_descriptor(int descriptor, std::size_t largest, std::string& problem);
