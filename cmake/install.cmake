@@ -53,17 +53,15 @@ install(FILES ${host_texts} DESTINATION ${GFPQ_DATADIR}/translations COMPONENT r
 install(FILES ${PROJECT_SOURCE_DIR}/host/dstr/data/families.csv ${PROJECT_SOURCE_DIR}/pgm/gfpdb/data/serial_nor.csv
     DESTINATION ${GFPQ_DATADIR} COMPONENT runtime)
 
-# gfpq_install_compressed(file destination component): as file.gz, without a time, so that it is the same each time.
+# gfpq_install_compressed(file destination component): as file.gz, without a time, so that it is the same each time. It is
+# made when the build tree is configured: what is installed must not depend on which targets were built.
 find_program(GZIP gzip REQUIRED)
 function(gfpq_install_compressed file destination component)
     get_filename_component(name ${file} NAME)
     set(compressed ${PROJECT_BINARY_DIR}/compressed/${name}.gz)
-    if(NOT TARGET compressed_${name})
-        file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/compressed)
-        add_custom_command(OUTPUT ${compressed}
-            COMMAND sh -c "\"$1\" -9nc \"$2\" >\"$3\"" sh ${GZIP} ${file} ${compressed} DEPENDS ${file} VERBATIM)
-        add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
-    endif()
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/compressed)
+    execute_process(COMMAND ${GZIP} -9nc ${file} OUTPUT_FILE ${compressed} COMMAND_ERROR_IS_FATAL ANY)
+    set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
     install(FILES ${compressed} DESTINATION ${destination} COMPONENT ${component})
 endfunction()
 
