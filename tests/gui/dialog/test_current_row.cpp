@@ -18,6 +18,7 @@ private slots:
     void a_hidden_row_is_uncovered_before_anything_is_asked_data();
     void a_hidden_row_is_uncovered_before_anything_is_asked();
     void a_new_device_whose_row_is_hidden_still_takes_a_template();
+    void apply_deletes_by_the_row_and_delete_by_the_record();
 
 private:
     void fill_world() override;
@@ -219,6 +220,26 @@ void TEST_CURRENT_ROW::a_new_device_whose_row_is_hidden_still_takes_a_template()
     combo("m_flow_template_cbox").setCurrentIndex(1);
 
     QCOMPARE(page_flow(2), list_of({"0:second 2"}));
+}
+
+void TEST_CURRENT_ROW::apply_deletes_by_the_row_and_delete_by_the_record()
+{
+    mgr().flashes["Zeta"]->name = "of the record";
+    mgr().follows_saves = false;
+    open_with("Zeta");
+    QCOMPARE(edit("m_device_name_edit").text(), QStringLiteral("of the record"));
+
+    button("m_delete_button").click();
+    QCOMPARE(log().calls_of({qs("delete_flash")}), list_of({R"(mgr.delete_flash("of the record", "/db/of/Zeta/"))"}));
+    pick(QStringLiteral("Zeta"));
+    log().clear();
+    button("m_apply_button").click();
+
+    // The name in the form is another one than the selected row's, so it is checked.
+    QCOMPARE(log().calls_of({qs("check_string_property"), qs("create_flash"), qs("delete_flash"), qs("save_flash")}),
+             list_of({R"(mgr.check_string_property(0, "of the record"))", R"(mgr.check_string_property(1, ""))",
+                      R"(mgr.create_flash("of the record"))", R"(mgr.delete_flash("Zeta", "/db/custom/"))",
+                      R"(mgr.save_flash(new:of the record, "/db/custom/"))"}));
 }
 
 GFPQ_TEST_MAIN(TEST_CURRENT_ROW)

@@ -27,6 +27,8 @@ private slots:
     void the_filter_shows_what_contains_the_pattern();
     void a_filter_that_is_no_valid_expression_shows_no_row_data();
     void a_filter_that_is_no_valid_expression_shows_no_row();
+    void the_filter_knows_the_case_of_other_letters_data();
+    void the_filter_knows_the_case_of_other_letters();
     void the_filter_hides_the_new_device_row_too();
     void the_filter_works_while_the_user_types();
     void the_filter_stays_when_the_list_is_rebuilt();
@@ -282,6 +284,29 @@ void TEST_DEVICE_LIST::a_filter_that_is_no_valid_expression_shows_no_row()
     QCOMPARE(shown_rows(), QStringList());
     edit("m_filter_line_edit").clear();
     QCOMPARE(shown_rows().size(), 5);
+}
+
+void TEST_DEVICE_LIST::the_filter_knows_the_case_of_other_letters_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QStringList>("shown");
+
+    QTest::newRow("other case") << qs("GR\xC3\x9CN") << QStringList(qs("gr\xC3\xBCn"));
+    QTest::newRow("any letter") << qs("gr.n") << QStringList(qs("gr\xC3\xBCn"));
+    // Classes are those of ASCII.
+    QTest::newRow("class") << qs("gr\\wn") << QStringList();
+}
+
+void TEST_DEVICE_LIST::the_filter_knows_the_case_of_other_letters()
+{
+    QFETCH(const QString, filter);
+    QFETCH(const QStringList, shown);
+    mgr().add_custom("gr\xC3\xBCn");
+    open();
+
+    edit("m_filter_line_edit").setText(filter);
+
+    QCOMPARE(shown_rows(), shown);
 }
 
 void TEST_DEVICE_LIST::the_filter_hides_the_new_device_row_too()

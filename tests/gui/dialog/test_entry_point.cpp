@@ -36,6 +36,7 @@ private slots:
     void the_record_is_untouched_until_the_end();
     void the_record_may_change_while_the_dialog_is_shown_data();
     void the_record_may_change_while_the_dialog_is_shown();
+    void each_call_starts_anew();
     void without_a_record_nothing_is_shown();
     void an_exception_does_not_leave_data();
     void an_exception_does_not_leave();
@@ -401,6 +402,29 @@ void TEST_ENTRY_POINT::the_record_may_change_while_the_dialog_is_shown()
     QCOMPARE(m_args.config_scheme, accepted ? 23 : SCHEME_X4);
     QCOMPARE(m_args.device_name, std::string("A"));
     QCOMPARE(m_args.family_schemes, (std::map<int, std::vector<int>>{{9, {10}}}));
+}
+
+void TEST_ENTRY_POINT::each_call_starts_anew()
+{
+    run_dialog([](GFPQ_DLG& dialog) {
+        of<QLineEdit>(dialog, "m_filter_line_edit").setText(QStringLiteral("a"));
+        of<QLineEdit>(dialog, "m_device_id_edit").setText(QStringLiteral("typed"));
+        of<QLineEdit>(dialog, "m_directory_edit").setText(QStringLiteral("typed"));
+        of<QCheckBox>(dialog, "m_save_template_check").setChecked(true);
+        of<QTabWidget>(dialog, "m_prog_flows_tab_widget").setCurrentIndex(2);
+        choose_data(dialog, "m_config_mode_cbox", SCHEME_X1);
+        click(dialog, "m_cancel_button");
+    });
+
+    run_dialog([](GFPQ_DLG& dialog) {
+        for (const char* name : {"m_filter_line_edit", "m_device_id_edit", "m_template_name_edit"})
+            QCOMPARE(of<QLineEdit>(dialog, name).text(), QString());
+        QCOMPARE(of<QLineEdit>(dialog, "m_directory_edit").text(), QStringLiteral("/db/custom/"));
+        QVERIFY(!of<QCheckBox>(dialog, "m_save_template_check").isChecked());
+        QCOMPARE(of<QTabWidget>(dialog, "m_prog_flows_tab_widget").currentIndex(), 0);
+        QCOMPARE(of<QComboBox>(dialog, "m_config_mode_cbox").currentData().toInt(), SCHEME_X4);
+        click(dialog, "m_cancel_button");
+    });
 }
 
 void TEST_ENTRY_POINT::without_a_record_nothing_is_shown()

@@ -20,6 +20,7 @@ private slots:
     void the_editor_is_opened_with_the_dialogs_manager();
     void the_editor_is_made_anew_each_time();
     void closing_the_editor_unchanged_leaves_the_combo();
+    void a_removed_template_leaves_the_combo_data();
     void a_removed_template_leaves_the_combo();
     void the_refilled_combo_keeps_its_text();
     void the_refilled_combo_tells_texts_apart_by_case();
@@ -199,11 +200,26 @@ void TEST_TEMPLATES::closing_the_editor_unchanged_leaves_the_combo()
     QCOMPARE(items("m_flow_template_cbox").size(), 7);
 }
 
+void TEST_TEMPLATES::a_removed_template_leaves_the_combo_data()
+{
+    QTest::addColumn<QString>("way");
+
+    for (const char* way : {"Close", "Escape", "close button"})
+        QTest::newRow(way) << qs(way);
+}
+
 void TEST_TEMPLATES::a_removed_template_leaves_the_combo()
 {
+    QFETCH(const QString, way);
     open();
 
-    edit_templates([](QWidget& editor) { remove(editor, 1); });
+    edit_templates([way](QWidget& editor) {
+        remove(editor, 1);
+        if (way == QLatin1String("Close"))
+            editor.findChild<QPushButton*>(QStringLiteral("m_close_button"))->click();
+        else if (way == QLatin1String("Escape"))
+            QTest::keyClick(&editor, Qt::Key_Escape);
+    });
 
     QCOMPARE(calls(), list_of({"mgr.get_user_template_list()", R"(mgr.remove_template("yours"))",
                                "mgr.get_user_template_list()", "mgr.get_template_list()"}));
