@@ -14,6 +14,8 @@ private slots:
     void numbers_are_read_leniently();
     void the_keypad_counts_as_return();
     void leaving_a_field_checks_nothing();
+    void return_elsewhere_checks_nothing_data();
+    void return_elsewhere_checks_nothing();
     void a_refused_text_is_told_and_stays_data();
     void a_refused_text_is_told_and_stays();
     void a_refused_number_is_told_and_stays_data();
@@ -125,6 +127,29 @@ void TEST_FIELD_CHECKS::leaving_a_field_checks_nothing()
     }
 
     QCOMPARE(calls(), QStringList());
+}
+
+void TEST_FIELD_CHECKS::return_elsewhere_checks_nothing_data()
+{
+    QTest::addColumn<QString>("text");
+
+    // Its name is checked when the device is saved, and only then.
+    QTest::newRow("m_template_name_edit") << qs("T");
+    QTest::newRow("m_filter_line_edit") << qs("new");
+}
+
+void TEST_FIELD_CHECKS::return_elsewhere_checks_nothing()
+{
+    QFETCH(const QString, text);
+    for (int property = 0; property <= 8; ++property)
+        mgr().refuse(property, "refused");
+    open();
+    check("m_save_template_check").setChecked(true);
+
+    enter(QTest::currentDataTag(), text);
+
+    QCOMPARE(calls(), QStringList());
+    QCOMPARE(edit(QTest::currentDataTag()).text(), text);
 }
 
 void TEST_FIELD_CHECKS::a_refused_text_is_told_and_stays_data()

@@ -37,6 +37,7 @@ private slots:
     void the_librarys_refusal_of_a_template_name_comes_first();
     void names_with_place_markers_are_told_as_they_stand();
     void what_the_user_is_told_is_translated();
+    void an_operation_is_told_by_its_one_name();
 
 private:
     void fill_world() override;
@@ -343,6 +344,19 @@ void TEST_FORM_CHECK::what_the_user_is_told_is_translated()
              QLatin1Char('[') +
                  heading("[Configuration Device]", "[Tempate name 'X' is conflicts with the device name X.]") +
                  QLatin1Char(']'));
+}
+
+void TEST_FORM_CHECK::an_operation_is_told_by_its_one_name()
+{
+    mgr().builtin_template_operations[{0, false}] = make_operations("step");
+    const MARKING_TRANSLATOR translator("gfpq_dlg");
+    open();
+    dynamic_cast<ACTION_DOUBLE&>(*page(2).get_flow().at(0)).refused = {{GFPDB_WR_DATA, "no data"}};
+    m_modals.expect(MODAL_DRIVER::accept());
+
+    QVERIFY(!apply());
+
+    QCOMPARE(m_modals.last().text, QLatin1Char('[') + heading("Erase", "no data") + QLatin1Char(']'));
 }
 
 GFPQ_TEST_MAIN(TEST_FORM_CHECK)

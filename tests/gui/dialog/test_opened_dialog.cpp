@@ -4,6 +4,8 @@
 
 #include "gfpq_form.h"
 
+#include "marking_translator.h"
+
 #include <QDebug>
 #include <QFormLayout>
 #include <QMetaProperty>
@@ -64,6 +66,9 @@ private slots:
     void a_mode_change_leaves_the_rows_of_the_form();
     void a_mode_change_brings_no_row_back();
     void a_new_directory_leaves_the_rows_of_the_form();
+    void a_slot_reads_its_combo_not_the_index_data();
+    void a_slot_reads_its_combo_not_the_index();
+    void the_vocabulary_is_never_translated();
     void the_map_is_a_copy();
     void the_name_is_a_copy();
 
@@ -395,6 +400,50 @@ void TEST_OPENED_DIALOG::a_new_directory_leaves_the_rows_of_the_form()
     QVERIFY(edit("m_device_id_edit").isHidden());
     QVERIFY(!combo("m_density_cbox").isHidden());
     QCOMPARE(fields().count(), 16);
+}
+
+void TEST_OPENED_DIALOG::a_slot_reads_its_combo_not_the_index_data()
+{
+    QTest::addColumn<QString>("call");
+
+    QTest::newRow("on_change_family") << qs("mgr.set_device_family(5)");
+    QTest::newRow("on_change_config_mode") << qs("GFPDB_HELPER.set_active_flash_family(13)");
+    QTest::newRow("on_change_voltage") << qs(R"(mgr.check_string_property(2, "1.8 V"))");
+    QTest::newRow("on_change_density") << qs(R"(mgr.check_string_property(3, "16 Mb"))");
+    QTest::newRow("on_change_flow_template") << qs(R"(mgr.check_string_property(8, "Built-in A"))");
+}
+
+void TEST_OPENED_DIALOG::a_slot_reads_its_combo_not_the_index()
+{
+    QFETCH(const QString, call);
+    open();
+
+    for (const int index : {-1, 1, 99}) {
+        log().clear();
+        QVERIFY(QMetaObject::invokeMethod(&dlg(), QTest::currentDataTag(), Qt::DirectConnection, Q_ARG(int, index)));
+        QCOMPARE(calls().first(), call);
+    }
+}
+
+// Families, modes and operations have one name in every language.
+void TEST_OPENED_DIALOG::the_vocabulary_is_never_translated()
+{
+    open();
+    const QStringList families = items("m_family_cbox");
+    const QStringList modes = items("m_config_mode_cbox");
+    QStringList titles;
+    for (int position = 1; position < tabs().count(); ++position)
+        titles.append(tabs().tabText(position) + page(position - 1).findChild<QLabel*>()->text());
+
+    const MARKING_TRANSLATOR translator("gfpq_dlg");
+    open();
+
+    QCOMPARE(button("m_ok_button").text(), QStringLiteral("[OK]"));
+    QCOMPARE(edit("m_device_id_edit").placeholderText(), QStringLiteral("[i.e. 0xC2 0x20 0x19]"));
+    QCOMPARE(items("m_family_cbox"), families);
+    QCOMPARE(items("m_config_mode_cbox"), modes);
+    for (int position = 1; position < tabs().count(); ++position)
+        QCOMPARE(tabs().tabText(position) + page(position - 1).findChild<QLabel*>()->text(), titles.at(position - 1));
 }
 
 void TEST_OPENED_DIALOG::the_map_is_a_copy()
