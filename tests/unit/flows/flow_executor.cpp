@@ -139,6 +139,8 @@ bool FLOW_EXECUTOR::run(const GFPDB_OPERATION& operation, FLOW_PURPOSE purpose)
     m_purpose = purpose;
     m_operation = operation.m_kind;
     m_failed_at.clear();
+    if (m_device.bytes % m_device.dies != 0)
+        throw std::runtime_error("dies of different sizes");
     const SCOPE whole = {0, m_device.bytes, 0, -1, 0, nullptr};
     const ACTIONS& all = *operation.get_actions();
     if (m_operation == GFPDB_OPERATION_INITIALIZATION)
@@ -150,8 +152,11 @@ bool FLOW_EXECUTOR::run(const GFPDB_OPERATION& operation, FLOW_PURPOSE purpose)
 void FLOW_EXECUTOR::rehearse(const GFPDB_OPERATION& operation)
 {
     m_is_rehearsing = true;
+    m_rehearsed_reads.clear();
     try {
         run(operation);
+        if (m_operation == GFPDB_OPERATION_VERIFY)
+            require_whole_range(m_rehearsed_reads);
     } catch (const std::runtime_error&) {
         m_is_rehearsing = false;
         throw;
@@ -159,8 +164,29 @@ void FLOW_EXECUTOR::rehearse(const GFPDB_OPERATION& operation)
     m_is_rehearsing = false;
 }
 
+bool FLOW_EXECUTOR::takes_one_step() const
+{
+    return m_is_rehearsing && m_operation != GFPDB_OPERATION_VERIFY;
+}
+
+void FLOW_EXECUTOR::require_whole_range(std::vector<FLOW_RANGE> reads) const
+{
+    std::sort(reads.begin(), reads.end(),
+              [](const FLOW_RANGE& one, const FLOW_RANGE& other) { return one.start < other.start; });
+    std::int64_t reached = m_range.start;
+    for (const FLOW_RANGE& read : reads) {
+        if (read.start <= reached)
+            reached = std::max(reached, read.end());
+    }
+    if (reached < m_range.end())
+        throw std::runtime_error("a part of the range is not read");
+}
+
 void FLOW_EXECUTOR::transfer(const SPI_COMMAND& command, const SPI_SINK& sink)
 {
+    const std::int64_t last = command.address + std::max<std::int64_t>(command.in_length, 1) - 1;
+    if (command.address_bytes > 0 && last >> (8 * command.address_bytes) != 0)
+        throw std::runtime_error("an address that does not fit its bytes");
     if (!m_is_rehearsing)
         m_bus.transfer(command, sink);
 }
@@ -217,12 +243,14 @@ bool FLOW_EXECUTOR::run_page_loop(const ACTIONS& actions, std::size_t start, std
     }
     if (step == 0 || scope.length % step != 0)
         throw std::runtime_error("a loop has no step, or one that does not divide what it walks over");
-    // What can go wrong without a chip goes wrong in the first step.
-    const std::int64_t end_position = scope.start + (m_is_rehearsing ? step : scope.length);
-    for (std::int64_t position = scope.start; position < end_position; position += step) {
+    const FLOW_RANGE range = m_range.common_with({scope.start, scope.length});
+    const std::int64_t last_asked = range.length > 0 ? range.end() - 1 : scope.start;
+    // What can go wrong without a chip goes wrong in the last step.
+    const std::int64_t first = takes_one_step() ? last_asked - (last_asked - scope.start) % step : scope.start;
+    for (std::int64_t position = first; position <= last_asked; position += step) {
         const bool asked = m_range.common_with({position, step}).length > 0;
         const bool left_out = !asked || (only_image && has_blank_bytes(page_bytes(position, step)));
-        if (left_out && !m_is_rehearsing)
+        if (left_out && (!asked || !m_is_rehearsing))
             continue;
         SCOPE inner = scope;
         inner.position = position;
@@ -240,8 +268,8 @@ bool FLOW_EXECUTOR::run_sector_loop(const ACTIONS& actions, std::size_t start, s
     if (asked.length == 0)
         return true;
     const std::int64_t smallest = erases.back().size;
-    const std::int64_t first = (asked.start - scope.start) / smallest * smallest;
     const std::int64_t last = (asked.end() - scope.start + smallest - 1) / smallest * smallest;
+    const std::int64_t first = takes_one_step() ? last - smallest : (asked.start - scope.start) / smallest * smallest;
     for (std::int64_t offset = first; offset < last;) {
         const auto fits = [offset, last](const SECTOR_ERASE& erase) {
             return offset % erase.size == 0 && offset + erase.size <= last;
@@ -252,7 +280,7 @@ bool FLOW_EXECUTOR::run_sector_loop(const ACTIONS& actions, std::size_t start, s
         inner.chosen_erase = chosen->action;
         if (!run_range(actions, start + 1, end, inner))
             return false;
-        offset = m_is_rehearsing ? last : offset + chosen->size;
+        offset += chosen->size;
     }
     return true;
 }
@@ -375,6 +403,8 @@ bool FLOW_EXECUTOR::read_register(const GFPDB_ACTION& action)
     const FLOW_BYTES expected = expected_text == "id"     ? m_device.id
                                 : expected_text == "none" ? FLOW_BYTES()
                                                           : byte_list(expected_text);
+    if (expected_text == "id" && expected.empty())
+        throw std::runtime_error("an ID that the record does not have");
     const std::int64_t attempts = number(value_of(action, GFPDB_RR_ATTEMPT_COUNT));
     const std::int64_t delay = number(value_of(action, GFPDB_RR_DELAY));
     for (std::int64_t attempt = 0; attempt < attempts; ++attempt) {
@@ -431,6 +461,8 @@ bool FLOW_EXECUTOR::read_data(const GFPDB_ACTION& action, const SCOPE& scope)
     if (value_of(action, GFPDB_RD_EXPECTED_DATA) == "image") {
         require_image_range(read, address, scope);
         read = read.common_with(m_range);
+        if (m_is_rehearsing)
+            m_rehearsed_reads.push_back(read);
     }
     if (read.length == 0)
         return true;

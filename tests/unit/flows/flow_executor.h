@@ -74,6 +74,10 @@ private:
         std::int64_t size;
     };
 
+    // A rehearsal of loops with millions of steps is content with one; reading counts to the last byte.
+    bool takes_one_step() const;
+    // Throws when a position of the range is in none of the reads.
+    void require_whole_range(std::vector<FLOW_RANGE> reads) const;
     void transfer(const SPI_COMMAND& command, const SPI_SINK& sink);
     void wait_us(std::int64_t microseconds);
     bool run_range(const ACTIONS& actions, std::size_t first, std::size_t last, const SCOPE& scope);
@@ -104,6 +108,7 @@ private:
     FLOW_IMAGE m_examined;
     bool m_chip_is_unknown = false;
     bool m_is_rehearsing = false;
+    std::vector<FLOW_RANGE> m_rehearsed_reads;
     FLOW_PURPOSE m_purpose = FLOW_PURPOSE::VERIFY;
     int m_operation = 0;
     std::string m_failed_at;

@@ -200,6 +200,10 @@ void TEST_FLOW_CHECK::the_pages_of_a_loop_have_one_size()
     QCOMPARE(problems({start("page"), make(2), end("page"), start("page"), make(2, {{17, "512"}}), end("page")}),
              QStringList());
     QCOMPARE(problems({start("page"), make(2), make(2), end("page")}), QStringList());
+    // A value that is no size is wrong once.
+    QCOMPARE(problems({start("page"), make(2), make(2, {{17, "x"}}), end("page")}).size(), 1);
+    QCOMPARE(problems({start("page"), make(2, {{17, "x"}}), make(2), end("page")}).size(), 1);
+    QCOMPARE(problems({start("sector"), make(4), make(4, {{34, "x"}}), end("sector")}).size(), 1);
 }
 
 void TEST_FLOW_CHECK::loop_and_die_stand_in_their_loops()

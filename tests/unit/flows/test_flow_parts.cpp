@@ -268,6 +268,8 @@ private slots:
     void commands_fit_the_row_of_the_part();
     void the_classes_have_the_known_numbers_of_parts();
     void a_part_of_an_unknown_maker_has_flows();
+    void the_options_in_an_extended_id_are_not_compared();
+    void a_stack_of_dies_needs_their_number();
     void one_dummy_clock_is_one();
     void a_chip_that_reports_by_flags_is_erased_with_patience();
     void a_record_gets_both_variants();
@@ -488,6 +490,40 @@ void TEST_FLOW_PARTS::a_part_of_an_unknown_maker_has_flows()
     part.sector_erase = {{0xD8, 65536}};
     for (const bool quad : {false, true})
         QVERIFY(gfpdb_check_flow(pointers(flow_of(part, quad))).empty());
+}
+
+void TEST_FLOW_PARTS::the_options_in_an_extended_id_are_not_compared()
+{
+    GFPDB_PART part;
+    part.name = "Own1";
+    part.manufacturer = "Micron";
+    part.density = "128Mb";
+    using BYTES = std::vector<int>;
+    const std::pair<BYTES, BYTES> masks[] = {
+        {{1, 2, 3}, {0xFF, 0xFF, 0xFF}},
+        {{1, 2, 3, 4}, {0xFF, 0xFF, 0xFF, 0xFF}},
+        {{1, 2, 3, 4, 5}, {0xFF, 0xFF, 0xFF, 0xFF, 0x40}},
+        {{1, 2, 3, 4, 5, 6, 7}, {0xFF, 0xFF, 0xFF, 0xFF, 0x40, 0x00, 0x00}},
+    };
+    for (const auto& [id, mask] : masks) {
+        part.jedec_id = id;
+        QCOMPARE(gfpdb_flow_traits(part, true).id_mask, mask);
+    }
+    part.manufacturer = "Infineon";
+    QCOMPARE(gfpdb_flow_traits(part, true).id_mask, BYTES(7, 0xFF));
+    QCOMPARE(gfpdb_template_traits(GFPDB_TEMPLATE_NO_QE, true).id_mask, BYTES(3, 0xFF));
+}
+
+void TEST_FLOW_PARTS::a_stack_of_dies_needs_their_number()
+{
+    GFPDB_PART part;
+    part.name = "W25Q01XX";
+    part.density = "1024Mb";
+    QVERIFY(!traits_line(part).contains("status-dies"));
+    part.total_die = 2;
+    QVERIFY(traits_line(part).contains("status-dies 2"));
+    part.name = "W25Q51XX";
+    QVERIFY(!traits_line(part).contains("status-dies"));
 }
 
 void TEST_FLOW_PARTS::one_dummy_clock_is_one()

@@ -97,6 +97,10 @@ private slots:
     void a_read_that_is_not_of_the_image_is_executed_as_it_stands();
     void the_image_ends_with_the_device_data();
     void the_image_ends_with_the_device();
+    void an_address_fits_its_bytes_data();
+    void an_address_fits_its_bytes();
+    void an_id_needs_a_record_with_an_id();
+    void dies_of_different_sizes_are_refused();
     void an_examine_hands_over_what_was_asked_for();
     void the_mask_applies_to_what_is_read_data();
     void the_mask_applies_to_what_is_read();
@@ -416,6 +420,71 @@ void TEST_FLOW_RULES::the_image_ends_with_the_device()
         QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
 
     QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 2 : 0));
+}
+
+void TEST_FLOW_RULES::an_address_fits_its_bytes_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QByteArray>("mode");
+    QTest::addColumn<int>("device_mib");
+    QTest::addColumn<bool>("allowed");
+    for (const int kind : {GFPDB_OPERATION_PROGRAM, GFPDB_OPERATION_ERASE, GFPDB_OPERATION_VERIFY}) {
+        QTest::addRow("%d in 16 MiB", kind) << kind << QByteArray("3") << 16 << true;
+        QTest::addRow("%d behind 16 MiB", kind) << kind << QByteArray("3") << 32 << false;
+        QTest::addRow("%d with four bytes", kind) << kind << QByteArray("4") << 32 << true;
+    }
+}
+
+// A chip would work at another place, from its start on.
+void TEST_FLOW_RULES::an_address_fits_its_bytes()
+{
+    QFETCH(int, kind);
+    QFETCH(QByteArray, mode);
+    QFETCH(int, device_mib);
+    QFETCH(bool, allowed);
+    const std::int64_t bytes = device_mib * K * K;
+    RUN run(bytes);
+    run.bus.answer(0x0B, {0xFF});
+    run.image.add(bytes - 1, {0x00});
+    run.executor.set_range({bytes - K, K - 1});
+    const auto execute = [&] {
+        if (kind == GFPDB_OPERATION_VERIFY)
+            return run.execute(kind, {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESSING_MODE, mode.constData()}})});
+        run.executor.set_range({bytes - K, K});
+        if (kind == GFPDB_OPERATION_PROGRAM)
+            return run.execute(kind, {start("page"),
+                                      make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_ADDRESSING_MODE, mode.constData()}}),
+                                      end("page")});
+        return run.execute(
+            kind,
+            {start("sector"), make(GFPDB_ACT_ERASE, {{GFPDB_ER_ADDRESSING_MODE, mode.constData()}}), end("sector")});
+    };
+
+    if (allowed)
+        QVERIFY(execute());
+    else
+        QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
+
+    QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 1 : 0));
+}
+
+void TEST_FLOW_RULES::dies_of_different_sizes_are_refused()
+{
+    RUN run(256 * K, 3);
+    QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_PROGRAM, {write_enable()}), std::runtime_error);
+    QVERIFY(run.bus.m_commands.empty());
+}
+
+void TEST_FLOW_RULES::an_id_needs_a_record_with_an_id()
+{
+    RECORDING_BUS bus;
+    const FLOW_IMAGE image;
+    FLOW_EXECUTOR executor(bus, FLOW_DEVICE{256, 1, {}}, image);
+    const OPERATION operation =
+        operation_of(GFPDB_OPERATION_INITIALIZATION, {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_EXPECTED_DATA, "id"}})});
+
+    QVERIFY_EXCEPTION_THROWN(executor.run(*operation), std::runtime_error);
+    QVERIFY(bus.m_commands.empty());
 }
 
 void TEST_FLOW_RULES::an_examine_hands_over_what_was_asked_for()

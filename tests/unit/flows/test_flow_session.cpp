@@ -84,7 +84,8 @@ FLOW marked_flow(std::initializer_list<GFPDB_ACTION*> initialization)
 
 struct SESSION
 {
-    explicit SESSION(SPI_BUS& bus) : executor(bus, FLOW_DEVICE{1024, 1, {0x5A}}, image) {}
+    // Nothing but the marks of the operations is sent: they are asked for no position.
+    explicit SESSION(SPI_BUS& bus) : executor(bus, FLOW_DEVICE{1024, 1, {0x5A}}, image) { executor.set_range({0, 0}); }
 
     FLOW_IMAGE image;
     FLOW_EXECUTOR executor;
@@ -111,6 +112,11 @@ private slots:
     void a_flow_that_cannot_be_executed_is_refused_before_anything_is_sent();
     void another_chip_hears_nothing_but_its_id_read();
     void a_chip_is_left_at_rest_after_a_failure();
+    void a_device_that_its_addresses_do_not_reach_is_refused_before_anything_is_sent();
+    void a_range_that_is_not_read_whole_is_refused_before_anything_is_sent_data();
+    void a_range_that_is_not_read_whole_is_refused_before_anything_is_sent();
+    void several_erases_clear_what_is_asked_for_data();
+    void several_erases_clear_what_is_asked_for();
     void a_part_of_the_device_is_programmed_data();
     void a_part_of_the_device_is_programmed();
 };
@@ -323,6 +329,117 @@ void TEST_FLOW_SESSION::a_chip_is_left_at_rest_after_a_failure()
             QVERIFY2(chip.is_at_rest(), name);
             QVERIFY2(chip.complaints().empty(), chip.complaints().empty() ? "" : chip.complaints()[0].c_str());
         }
+    }
+}
+
+// Only the last steps of the loops go too far.
+void TEST_FLOW_SESSION::a_device_that_its_addresses_do_not_reach_is_refused_before_anything_is_sent()
+{
+    for (const FLOW_ORDER& order : {FLOW_ORDER{true, false, false, false, false},
+                                    {false, false, true, false, false},
+                                    {false, false, false, true, false}}) {
+        RECORDING_BUS bus;
+        FLOW_IMAGE image;
+        image.add(32 * 1024 * 1024 - 1, {0x00});
+        FLOW_EXECUTOR executor(bus, FLOW_DEVICE{32 * 1024 * 1024, 1, {0xC2, 0x20, 0x19}}, image);
+        FLOW flow = flow_of(part_called("MX25L12833F"), false);
+        flow[GFPDB_OPERATION_VERIFY] = operation_of(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)});
+
+        QVERIFY_EXCEPTION_THROWN(run_flow_session(executor, pointers(flow), order), std::runtime_error);
+        QVERIFY(bus.m_commands.empty());
+    }
+}
+
+void TEST_FLOW_SESSION::a_range_that_is_not_read_whole_is_refused_before_anything_is_sent_data()
+{
+    QTest::addColumn<QByteArray>("length");
+    QTest::addColumn<QByteArray>("second");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::addColumn<bool>("allowed");
+    QTest::newRow("in one read") << QByteArray("device") << QByteArray("0x00000000") << QByteArray("image") << true;
+    QTest::newRow("more than the range") << QByteArray("384") << QByteArray("0x00000000") << QByteArray("image")
+                                         << true;
+    QTest::newRow("in two reads") << QByteArray("200") << QByteArray("0x000000C8") << QByteArray("image") << true;
+    QTest::newRow("a gap between them") << QByteArray("200") << QByteArray("0x000000C9") << QByteArray("image")
+                                        << false;
+    QTest::newRow("too short") << QByteArray("383") << QByteArray("0x00000000") << QByteArray("image") << false;
+    QTest::newRow("not compared") << QByteArray("device") << QByteArray("0x00000000") << QByteArray("none") << false;
+    QTest::newRow("a constant") << QByteArray("device") << QByteArray("0x00000000") << QByteArray("0xFF") << false;
+}
+
+// Nobody is told that a device is verified or blank of which a part was not looked at. The range ends at 384.
+void TEST_FLOW_SESSION::a_range_that_is_not_read_whole_is_refused_before_anything_is_sent()
+{
+    QFETCH(QByteArray, length);
+    QFETCH(QByteArray, second);
+    QFETCH(QByteArray, expected);
+    QFETCH(bool, allowed);
+    for (const FLOW_ORDER& order : {FLOW_ORDER{false, true, false, false, false},
+                                    {false, false, false, true, false},
+                                    {false, false, false, false, true}}) {
+        RECORDING_BUS bus;
+        bus.answer(0x0B, {0xFF});
+        SESSION session(bus);
+        session.executor.set_range({16, 368});
+        FLOW flow = marked_flow({});
+        for (const char* address : {second.constData(), "0x00000000"})
+            flow[GFPDB_OPERATION_VERIFY]->add_action(
+                make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESS, address},
+                                           {GFPDB_RD_DATA_LENGTH, length.constData()},
+                                           {GFPDB_RD_EXPECTED_DATA, expected.constData()}}));
+        const auto run = [&] { QVERIFY(run_flow_session(session.executor, pointers(flow), order).passed); };
+
+        if (allowed)
+            run();
+        else
+            QVERIFY_EXCEPTION_THROWN(run(), std::runtime_error);
+
+        QCOMPARE(bus.m_commands.empty(), !allowed);
+    }
+}
+
+void TEST_FLOW_SESSION::several_erases_clear_what_is_asked_for_data()
+{
+    QTest::addColumn<qint64>("first");
+    QTest::addColumn<qint64>("length");
+    QTest::addColumn<int>("commands");
+    QTest::newRow("the chip") << qint64(0) << qint64(16 * 1024 * 1024) << 1;
+    QTest::newRow("a large sector") << qint64(0x20000) << qint64(0x10000) << 1;
+    QTest::newRow("a large sector between small ones") << qint64(0x1F000) << qint64(0x12000) << 3;
+    QTest::newRow("bytes") << qint64(0x12345) << qint64(3) << 1;
+}
+
+// All erases of a chip share the write enable and the poll.
+void TEST_FLOW_SESSION::several_erases_clear_what_is_asked_for()
+{
+    QFETCH(qint64, first);
+    QFETCH(qint64, length);
+    QFETCH(int, commands);
+    const GFPDB_PART& part = part_called("MX25L12833F");
+    SPI_NOR_CHIP chip(chip_facts(part), 0);
+    const SPI_NOR_CHIP untouched(chip_facts(part), 0);
+    const FLOW_IMAGE image;
+    FLOW_EXECUTOR executor(chip, device_of(part), image);
+    executor.set_range({first, length});
+    FLOW flow = flow_of(part, false);
+    flow[GFPDB_OPERATION_ERASE] = operation_of(
+        GFPDB_OPERATION_ERASE,
+        {start("sector"), make(GFPDB_ACT_WRITE_REGISTER),
+         make(GFPDB_ACT_ERASE, {{GFPDB_ER_COMMAND, "0xC7"}, {GFPDB_ER_ADDRESSING_MODE, "0"}}), make(GFPDB_ACT_ERASE),
+         make(GFPDB_ACT_ERASE, {{GFPDB_ER_COMMAND, "0x20"}, {GFPDB_ER_ERASE_SIZE, "4096"}}),
+         make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_ATTEMPT_COUNT, "4500"}, {GFPDB_RR_DELAY, "1000000"}}),
+         end("sector")});
+
+    const FLOW_OUTCOME outcome = run_flow_session(executor, pointers(flow), {true, true, false, false, false});
+
+    QVERIFY2(outcome.passed, outcome.failed_at.c_str());
+    QVERIFY(chip.complaints().empty());
+    QCOMPARE(chip.count_of(0xC7) + chip.count_of(0xD8) + chip.count_of(0x20), commands);
+    constexpr std::int64_t SMALL = 4096;
+    const std::int64_t last = (first + length - 1) / SMALL * SMALL + SMALL;
+    for (const std::int64_t position : {std::int64_t(first / SMALL * SMALL - 1), last}) {
+        if (position >= 0 && position < device_of(part).bytes)
+            QCOMPARE(chip.byte_at(position), untouched.byte_at(position));
     }
 }
 
