@@ -338,6 +338,7 @@ void TEST_APPLY::the_typed_directory_is_the_one_saved_into_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("used");
 
+    QTest::newRow("empty") << QString() << qs("/db/custom/");
     QTest::newRow("plain") << qs("/typed") << qs("/typed/");
     QTest::newRow("with separator") << qs("/typed/") << qs("/typed/");
     QTest::newRow("back slashes") << qs("\\typed\\\\sub") << qs("/typed/sub/");

@@ -15,6 +15,7 @@ private slots:
     void without_adding_there_is_no_new_device_row();
     void names_are_asked_for_the_current_family_and_mode();
     void rows_cannot_be_edited();
+    void the_table_is_set_up_data();
     void the_table_is_set_up();
     void its_heading_is_translated();
     void the_new_device_row_is_never_translated();
@@ -114,9 +115,24 @@ void TEST_DEVICE_LIST::its_heading_is_translated()
     QCOMPARE(device_model().headerData(0, Qt::Horizontal).toString(), QStringLiteral("[Name]"));
 }
 
+void TEST_DEVICE_LIST::the_table_is_set_up_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<int>("family");
+
+    QTest::newRow("opened") << QString() << CEDAR;
+    QTest::newRow("filtered") << qs("25") << CEDAR;
+    QTest::newRow("another family") << QString() << ALDER;
+}
+
 void TEST_DEVICE_LIST::the_table_is_set_up()
 {
+    QFETCH(const QString, filter);
+    QFETCH(const int, family);
     open();
+
+    edit("m_filter_line_edit").setText(filter);
+    choose("m_family_cbox", family);
 
     QCOMPARE(table().selectionMode(), QAbstractItemView::SingleSelection);
     QCOMPARE(table().selectionBehavior(), QAbstractItemView::SelectRows);
@@ -128,6 +144,8 @@ void TEST_DEVICE_LIST::the_table_is_set_up()
     QVERIFY(!header.sectionsMovable());
     const QHeaderView& rows = *table().verticalHeader();
     QCOMPARE(rows.defaultSectionSize(), rows.minimumSectionSize());
+    for (int row = 0; row < rows.count(); ++row)
+        QCOMPARE(rows.sectionSize(row), rows.minimumSectionSize());
     QCOMPARE(proxy().filterKeyColumn(), 0);
     QCOMPARE(proxy().sortColumn(), -1);
     QVERIFY(!table().isSortingEnabled());

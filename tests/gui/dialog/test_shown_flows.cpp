@@ -12,6 +12,7 @@ private slots:
     void flows_of_the_shown_variant_are_loaded_data();
     void flows_of_the_shown_variant_are_loaded();
     void flows_go_to_the_page_of_their_kind();
+    void of_two_flows_of_a_kind_the_later_one_is_shown();
     void a_record_without_flows_empties_the_pages();
     void a_record_that_is_gone_empties_the_pages();
     void emptied_pages_can_be_edited_data();
@@ -82,6 +83,17 @@ void TEST_SHOWN_FLOWS::flows_go_to_the_page_of_their_kind()
     QCOMPARE(page_flow(2), QStringList());
     QCOMPARE(page_flow(3), QStringList());
     QCOMPARE(page_flow(4), list_of({"1:kind 4"}));
+}
+
+void TEST_SHOWN_FLOWS::of_two_flows_of_a_kind_the_later_one_is_shown()
+{
+    auto& operations = mgr().add_custom("A").operations[false];
+    for (const char* name : {"earlier", "later"})
+        operations.push_back(new OPERATION_DOUBLE(2, {make_named_action(0, name)}));
+
+    open_with("A");
+
+    QCOMPARE(page_flow(2), list_of({"0:later"}));
 }
 
 void TEST_SHOWN_FLOWS::a_record_without_flows_empties_the_pages()
