@@ -12,6 +12,8 @@ namespace {
 
 const QByteArray SECTION = QByteArrayLiteral("[database]");
 constexpr qint64 LARGEST_FILE = 1 << 20;
+// What some editors put before the first line.
+const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
 
 QString settings_path()
 {
@@ -41,9 +43,13 @@ bool read_lines(const QString& path, QList<QByteArray>& lines)
         return refuse(path, QStringLiteral("cannot be read: ") + file.errorString());
     if (file.size() > LARGEST_FILE)
         return refuse(path, QStringLiteral("is no settings file: it is too large"));
-    const QByteArray content = file.readAll();
+    QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return refuse(path, QStringLiteral("cannot be read: ") + file.errorString());
     if (content.contains('\0'))
         return refuse(path, QStringLiteral("is no settings file: it is not a text"));
+    if (content.startsWith(BYTE_ORDER_MARK))
+        content.remove(0, BYTE_ORDER_MARK.size());
     lines = content.split('\n');
     if (lines.last().isEmpty())
         lines.removeLast();
@@ -88,7 +94,10 @@ bool write_lines(const QString& path, const QList<QByteArray>& lines)
         return refuse(path, QStringLiteral("cannot be written: ") + file.errorString());
     // Who can write the settings decides which database is used.
     file.setPermissions(file.permissions() & ~QFileDevice::WriteOther);
-    file.write(lines.join('\n') + '\n');
+    const QByteArray content = lines.join('\n') + '\n';
+    // Otherwise a file that is not whole would be put in its place.
+    if (file.write(content) != content.size() || !file.flush())
+        file.cancelWriting();
     if (!file.commit())
         return refuse(path, QStringLiteral("cannot be written: ") + file.errorString());
     return true;

@@ -63,6 +63,8 @@ private slots:
     void a_value_is_read_from_its_section();
     void what_is_no_value_of_the_section_is_empty();
     void the_last_line_of_a_key_counts();
+    void a_byte_order_mark_hides_no_setting_data();
+    void a_byte_order_mark_hides_no_setting();
     void writing_makes_the_file_and_its_directory();
     void writing_leaves_every_other_line_alone();
     void writing_adds_the_section_where_it_is_missing();
@@ -147,6 +149,23 @@ void TST_SETTINGS::the_last_line_of_a_key_counts()
     QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/c/"));
     QVERIFY(gfpdb_write_setting("custom_dir", "/d/"));
     QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/d/"));
+}
+
+void TST_SETTINGS::a_byte_order_mark_hides_no_setting_data()
+{
+    QTest::addColumn<QByteArray>("rest");
+    QTest::newRow("the section is first") << QByteArrayLiteral("[database]\ncustom_dir=/a/\n");
+    QTest::newRow("the section comes later") << QByteArrayLiteral("; mine\n[database]\ncustom_dir=/a/\n");
+}
+
+void TST_SETTINGS::a_byte_order_mark_hides_no_setting()
+{
+    QFETCH(QByteArray, rest);
+    write_file(settings(), "\xEF\xBB\xBF" + rest.toStdString());
+
+    QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/a/"));
+    QVERIFY(gfpdb_write_setting("custom_dir", "/b/"));
+    QCOMPARE(read_file(settings()), rest.replace("/a/", "/b/").toStdString());
 }
 
 void TST_SETTINGS::writing_makes_the_file_and_its_directory()
