@@ -138,6 +138,7 @@ private:
     bool is_whole_file();
     bool create_file();
     bool build_new_file(const std::string& path);
+    bool fail_to_make(const std::string& why);
     bool is_same_file() const;
     void refresh();
     bool prepare_read();

@@ -94,17 +94,36 @@ bool publish(const std::string& from, const std::string& to)
     return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0 || errno == EEXIST;
 }
 
-// A file of SQLite can be read by everyone and written by its owner alone, less what the user's mask takes away. Where
-// a group may write into the directory, and the file is that group's, the group may write the file as well. SQLite
-// gives its journals the rights of the file.
-void share_with_group(const std::string& path, const std::string& directory)
+// SQLite's own rights for a new file, less what the user's mask takes away: its owner may write it.
+constexpr mode_t NEW_FILE_MODE = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
+
+// Where a group may write into the directory, and the file is that group's, the group may write the file as well.
+// SQLite gives its journals the rights of the file.
+void share_with_group(int file, const struct stat& status, const std::string& directory)
 {
     struct stat shared = {};
-    struct stat status = {};
-    if (::stat(directory.c_str(), &shared) != 0 || ::stat(path.c_str(), &status) != 0)
-        return;
-    if ((shared.st_mode & S_IWGRP) != 0 && shared.st_gid == status.st_gid)
-        ::chmod(path.c_str(), (status.st_mode & (S_IRWXU | S_IRWXO)) | S_IRGRP | S_IWGRP);
+    if (::stat(directory.c_str(), &shared) == 0 && (shared.st_mode & S_IWGRP) != 0 && shared.st_gid == status.st_gid)
+        ::fchmod(file, (status.st_mode & (S_IRWXU | S_IRWXO)) | S_IRGRP | S_IWGRP);
+}
+
+// Makes an empty file at `path`, where nothing is. Its rights are set while it is open: who may write into the
+// directory can give its name to another file at any time.
+bool make_empty_file(const std::string& path, const std::string& directory, struct stat& status)
+{
+    const int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, NEW_FILE_MODE);
+    if (file < 0)
+        return false;
+    const bool is_made = ::fstat(file, &status) == 0;
+    share_with_group(file, status, directory);
+    ::close(file);
+    return is_made;
+}
+
+// True while `path` is the name of the file with that status, and not of a link to it.
+bool is_file(const std::string& path, const struct stat& status)
+{
+    struct stat now = {};
+    return ::lstat(path.c_str(), &now) == 0 && now.st_dev == status.st_dev && now.st_ino == status.st_ino;
 }
 
 void sync_directory(const std::string& directory)
@@ -190,6 +209,9 @@ bool GFPDB_STORE::fail(const std::string& error)
 bool GFPDB_STORE::fail(const QSqlError& error)
 {
     m_is_locked = code_of(error) == SQLITE_CODE_BUSY;
+    // SQLite opens a file for reading when it could not be opened for writing, and stays with that.
+    if (code_of(error) == SQLITE_CODE_READONLY && m_state == STATE::READ_WRITE)
+        m_state = STATE::CLOSED;
     return fail(describe(error, file_path()));
 }
 
@@ -327,22 +349,29 @@ bool GFPDB_STORE::create_file()
         file_path() + ".new-" + gfpdb_to_utf8(QUuid::createUuid().toString(QUuid::WithoutBraces));
     const bool is_built = build_new_file(unfinished);
     close();
-    share_with_group(unfinished, m_directory);
-    const bool is_published =
-        is_built && (publish(unfinished, file_path()) ||
-                     fail("The database " + file_path() + " cannot be made: " + std::strerror(errno) + "."));
+    const bool is_published = is_built && (publish(unfinished, file_path()) || fail_to_make(std::strerror(errno)));
     ::unlink(unfinished.c_str());
+    ::unlink((unfinished + "-journal").c_str());
     sync_directory(m_directory);
     return is_published;
 }
 
+bool GFPDB_STORE::fail_to_make(const std::string& why)
+{
+    return fail("The database " + file_path() + " cannot be made: " + why + ".");
+}
+
 bool GFPDB_STORE::build_new_file(const std::string& path)
 {
+    struct stat status = {};
+    if (!make_empty_file(path, m_directory, status))
+        return fail_to_make(std::strerror(errno));
     QSqlQuery query;
-    return connect(path, "rwc") && run("BEGIN") && run_steps(0) &&
+    return connect(path, "rw") && run("BEGIN") && run_steps(0) &&
            prepare(query, "INSERT INTO meta (name, value) VALUES ('database_id', ?)",
                    {QUuid::createUuid().toString(QUuid::WithoutBraces)}) &&
-           run(query) && run("COMMIT");
+           run(query) && run("COMMIT") &&
+           (is_file(path, status) || fail_to_make("its name was given to another file meanwhile"));
 }
 
 // True while the name of the file that is open stands for that file.

@@ -1,0 +1,82 @@
+// What Apply does to the database, with system calls that fail in it.
+#include "fault_stand.h"
+#include "gfpdb/gfpdb_helper.h"
+#include "gfpdb_embedded_mgr.h"
+#include "gfpdb_test.h"
+
+namespace {
+
+GFPDB_MGR* manager()
+{
+    return GFPDB_HELPER::get_active_flash_manager(false);
+}
+
+std::string complaint(const GFPDB_MGR& mgr)
+{
+    return mgr.get_last_error().empty() ? FAULT_TOLD_NOTHING : mgr.get_last_error();
+}
+
+// As the dialog does it: the name that was selected is deleted, then the name that was entered is saved.
+std::string press_apply(const std::string& selected, const std::string& entered)
+{
+    GFPDB_MGR* mgr = manager();
+    if (!selected.empty() && !mgr->delete_flash(selected, std::string()))
+        return complaint(*mgr);
+    GFPDB_FLASH* record = make_device(*mgr, entered);
+    record->set_string_property(GFPDB_FLASH_DEVICE_ID, "0x01 0x02 0x03");
+    return mgr->save_flash(record, std::string()) ? std::string() : complaint(*mgr);
+}
+
+} // namespace
+
+class TEST_APPLY_FAULTS : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void records_are_the_former_or_the_new_ones_data();
+    void records_are_the_former_or_the_new_ones();
+};
+
+void TEST_APPLY_FAULTS::records_are_the_former_or_the_new_ones_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("selected");
+    QTest::addColumn<QString>("entered");
+    QTest::newRow("the first device of a directory") << ""
+                                                     << ""
+                                                     << "B";
+    QTest::newRow("a new device") << "A"
+                                  << ""
+                                  << "B";
+}
+
+void TEST_APPLY_FAULTS::records_are_the_former_or_the_new_ones()
+{
+    QFETCH(QString, stored);
+    QFETCH(QString, selected);
+    QFETCH(QString, entered);
+    FAULT_SCENE scene;
+    scene.prepare = [&](const GFPDB_PLACE& place) {
+        write_file(place.settings(), SETTINGS_FOR_FAULTS);
+        GFPDB_MGR* mgr = fresh_manager();
+        if (!stored.isEmpty())
+            mgr->save_flash(make_device(*mgr, stored.toStdString()), std::string());
+    };
+    scene.begin = [](const GFPDB_PLACE& place) { all_records(place); };
+    scene.change = [&](const GFPDB_PLACE&) { return press_apply(selected.toStdString(), entered.toStdString()); };
+    scene.state = &all_records;
+    FAULT_STAND stand(scene);
+
+    const QStringList problems = stand.run();
+
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+
+    QVERIFY(stand.count(FAULT_CALL::WRITE) > 0);
+    QVERIFY(stand.count(FAULT_CALL::SYNC) > 0);
+    QVERIFY(stand.count(FAULT_CALL::LOCK) > 0);
+    qInfo("%d faults", stand.fault_count());
+}
+
+QTEST_GUILESS_MAIN(TEST_APPLY_FAULTS)
+#include "test_apply_faults.moc"
