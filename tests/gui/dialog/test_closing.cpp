@@ -18,6 +18,8 @@ private slots:
     void an_apply_that_saves_nothing_leaves_the_page_and_the_form_data();
     void an_apply_that_saves_nothing_leaves_the_page_and_the_form();
     void a_delete_leaves_the_page();
+    void apply_and_delete_leave_the_dialog_open_data();
+    void apply_and_delete_leave_the_dialog_open();
     void a_warning_leaves_the_focus_in_its_field_data();
     void a_warning_leaves_the_focus_in_its_field();
     void a_warning_about_a_choice_leaves_the_focus_in_its_combo_data();
@@ -223,6 +225,34 @@ void TEST_CLOSING::a_delete_leaves_the_page()
                                  qs("set_config_scheme")}),
                  QStringList());
     }
+}
+
+void TEST_CLOSING::apply_and_delete_leave_the_dialog_open_data()
+{
+    QTest::addColumn<QString>("button_name");
+    QTest::addColumn<bool>("succeeds");
+
+    for (const char* name : {"m_apply_button", "m_delete_button"}) {
+        QTest::addRow("%s", name) << qs(name) << true;
+        QTest::addRow("%s, failing", name) << qs(name) << false;
+    }
+}
+
+void TEST_CLOSING::apply_and_delete_leave_the_dialog_open()
+{
+    QFETCH(const QString, button_name);
+    QFETCH(const bool, succeeds);
+    open_edited();
+    mgr().delete_succeeds = succeeds;
+    QSignalSpy finished(&dlg(), &QDialog::finished);
+
+    button(button_name.toLatin1().constData()).click();
+
+    QCOMPARE(log().count(qs("delete_flash")), 1);
+    QCOMPARE(prompted_messages().size(), std::size_t(succeeds ? 0 : 1));
+    QVERIFY(dlg().isVisible());
+    QCOMPARE(finished.size(), 0);
+    QVERIFY(hands_back_what_came());
 }
 
 void TEST_CLOSING::a_warning_leaves_the_focus_in_its_field_data()

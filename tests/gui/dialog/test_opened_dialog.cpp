@@ -125,6 +125,7 @@ void TEST_OPENED_DIALOG::the_dialog_goes_on_from_its_form_in_a_few_places_only()
     open();
     QCOMPARE(dlg().objectName(), QStringLiteral("gfpq_dlg"));
     QCOMPARE(dlg().windowTitle(), QStringLiteral("Configuration Device"));
+    QCOMPARE(dlg().size(), QSize(994, 892));
 
     QStringList differences;
     const QList<QWidget*> of_the_form = bare.findChildren<QWidget*>(QRegularExpression(QStringLiteral("^[^q].*")));

@@ -180,6 +180,8 @@ void TEST_TEMPLATES::the_editor_is_made_anew_each_time()
 
     QCOMPARE(log().count(qs("get_user_template_list")), 2);
     QVERIFY(editors.at(0) != editors.at(1));
+    for (const QPointer<QWidget>& editor : qAsConst(editors))
+        QVERIFY(!editor.isNull() && editor->parentWidget() == &dlg());
     // They are the dialog's children, and go with it at the latest.
     close_dialog();
     for (const QPointer<QWidget>& editor : qAsConst(editors))
