@@ -19,6 +19,7 @@ private slots:
     void the_dialog_is_modal_to_its_parent();
     void a_parent_that_goes_closes_the_dialog_data();
     void a_parent_that_goes_closes_the_dialog();
+    void a_parent_that_goes_saves_nothing();
     void the_dialog_blocks_the_whole_host_data();
     void the_dialog_blocks_the_whole_host();
     void each_flag_reaches_its_controls_data();
@@ -158,6 +159,29 @@ void TEST_ENTRY_POINT::a_parent_that_goes_closes_the_dialog()
     QVERIFY(parent.isNull());
     QCOMPARE(m_args.device_name, std::string("A"));
     delete window;
+}
+
+// A typed directory is taken over when its edit loses the focus, but not because the dialog closes.
+void TEST_ENTRY_POINT::a_parent_that_goes_saves_nothing()
+{
+    const QPointer<QWidget> parent = new QWidget;
+    expect_warning(qs("parent of the Configuration Device dialog is deleted"));
+    m_modals.expect([&](QWidget* window) {
+        auto& dialog = dynamic_cast<GFPQ_DLG&>(*window);
+        auto& directory = of<QLineEdit>(dialog, "m_directory_edit");
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        directory.setFocus();
+        QVERIFY(directory.hasFocus());
+        directory.setText(QStringLiteral("/typed"));
+        log().clear();
+        parent->deleteLater();
+        QCoreApplication::sendPostedEvents(parent, QEvent::DeferredDelete);
+    });
+
+    gfpq_dyn_dlg(parent, &m_args, true, true, true);
+
+    QVERIFY(parent.isNull());
+    QCOMPARE(calls(), QStringList());
 }
 
 void TEST_ENTRY_POINT::the_dialog_blocks_the_whole_host_data()
