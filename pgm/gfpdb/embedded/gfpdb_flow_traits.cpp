@@ -92,10 +92,10 @@ std::vector<int> id_mask(const GFPDB_PART& part)
     constexpr std::size_t GENERATION_BYTE = 4;
     constexpr int GENERATION_BIT = 0x40;
     std::vector<int> mask(part.jedec_id.empty() ? TEMPLATE_ID_BYTES : part.jedec_id.size(), 0xFF);
-    if (part.manufacturer == MICRON && mask.size() > GENERATION_BYTE) {
-        std::fill(mask.begin() + GENERATION_BYTE, mask.end(), 0x00);
-        mask[GENERATION_BYTE] = GENERATION_BIT;
-    }
+    if (part.manufacturer != MICRON)
+        return mask;
+    for (std::size_t at = GENERATION_BYTE; at < mask.size(); ++at)
+        mask[at] = at == GENERATION_BYTE ? GENERATION_BIT : 0x00;
     return mask;
 }
 

@@ -519,11 +519,11 @@ void TEST_FLOW_PARTS::a_stack_of_dies_needs_their_number()
     GFPDB_PART part;
     part.name = "W25Q01XX";
     part.density = "1024Mb";
-    QVERIFY(!traits_line(part).contains("status-dies"));
+    QCOMPARE(gfpdb_flow_traits(part, true).status_dies, 1);
     part.total_die = 2;
     QVERIFY(traits_line(part).contains("status-dies 2"));
     part.name = "W25Q51XX";
-    QVERIFY(!traits_line(part).contains("status-dies"));
+    QCOMPARE(gfpdb_flow_traits(part, true).status_dies, 1);
 }
 
 void TEST_FLOW_PARTS::one_dummy_clock_is_one()

@@ -222,7 +222,8 @@ void TEST_FLOW_SESSION::an_unknown_chip_hears_nothing_more()
         for (const int each : failing)
             bus.answer(each, {0x01});
         SESSION session(bus);
-        FLOW flow = marked_flow({check("0x15"), check_id(opcode.constData(), expected.constData()), check("0x16")});
+        FLOW flow = marked_flow(
+            {check("0x14"), check("0x15"), check_id(opcode.constData(), expected.constData()), check("0x16")});
         if (second_check)
             flow.front()->add_action(check_id("0x9E", "id"));
         return run_flow_session(session.executor, pointers(flow), EVERYTHING).executed;
