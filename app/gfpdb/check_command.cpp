@@ -2,8 +2,6 @@
 
 #include "record_json.h"
 
-#include "gfpdb_text.h"
-
 namespace {
 
 // A record and one thing that is wrong with it.
@@ -20,19 +18,11 @@ struct FINDINGS
     std::vector<FOUND> warnings;
 };
 
-std::string title(const CLI_RECORD& record)
-{
-    if (record.is_template)
-        return "template " + gfpdb_quoted(record.name());
-    return "device " + gfpdb_quoted(record.name()) + " (family " + std::to_string(record.row.family) + ", scheme " +
-           std::to_string(record.row.scheme) + ')';
-}
-
 void check_record(const CLI_CALL& call, const CLI_RECORD& record, FINDINGS& found)
 {
     const std::optional<JSON_VALUE> json = record_to_json(record);
     if (!json) {
-        found.problems.push_back({title(record), {0, "", "The flows cannot be read."}});
+        found.problems.push_back({cli_title(record), {0, "", "The flows cannot be read."}});
         return;
     }
     RECORD_READER reader(call.database.manager(), RECORD_RULES::STORED);
@@ -40,10 +30,10 @@ void check_record(const CLI_CALL& call, const CLI_RECORD& record, FINDINGS& foun
     for (CLI_PROBLEM problem : reader.problems()) {
         if (!problem.field.empty() && problem.field.front() == '.')
             problem.field.erase(0, 1);
-        found.problems.push_back({title(record), problem});
+        found.problems.push_back({cli_title(record), problem});
     }
     for (const RECORD_REMARK& remark : record_warnings(call.database.manager(), record))
-        found.warnings.push_back({title(record), {0, remark.member, remark.text}});
+        found.warnings.push_back({cli_title(record), {0, remark.member, remark.text}});
 }
 
 JSON_VALUE json_of(const std::vector<FOUND>& found)

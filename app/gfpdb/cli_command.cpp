@@ -45,6 +45,14 @@ void cli_add_json_option(QCommandLineParser& parser)
     parser.addOption({QLatin1String(CLI_OPTION_JSON), QStringLiteral("Print JSON.")});
 }
 
+void cli_add_csv_options(QCommandLineParser& parser, const char* explanation)
+{
+    parser.addOption({QLatin1String(CLI_OPTION_CSV), QLatin1String(explanation)});
+    parser.addOption({QLatin1String(CLI_OPTION_SPREADSHEET),
+                      QStringLiteral("As --csv, with a quote before texts that a spreadsheet would run as formulas. "
+                                     "Such a list is not for import.")});
+}
+
 void cli_add_place_options(QCommandLineParser& parser, const char* what)
 {
     parser.addOption({QLatin1String(CLI_OPTION_FAMILY),

@@ -64,8 +64,12 @@ protected:
 // Options that several commands have.
 void cli_add_json_option(QCommandLineParser& parser);
 void cli_add_place_options(QCommandLineParser& parser, const char* what);
+// --csv, explained by `explanation`, and --spreadsheet.
+void cli_add_csv_options(QCommandLineParser& parser, const char* explanation);
 constexpr const char* CLI_OPTION_JSON = "json";
 constexpr const char* CLI_OPTION_FAMILY = "family";
 constexpr const char* CLI_OPTION_SCHEME = "scheme";
 constexpr const char* CLI_OPTION_DIR = "dir";
 constexpr const char* CLI_OPTION_OUTPUT = "output";
+constexpr const char* CLI_OPTION_CSV = "csv";
+constexpr const char* CLI_OPTION_SPREADSHEET = "spreadsheet";

@@ -15,21 +15,32 @@ void write(std::FILE* stream, const std::string& text)
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
-} // namespace
-
-std::string cli_printable(const std::string& text)
+// `text` with "?" for every control character that is not one of `kept`.
+std::string printable(const std::string& text, const QString& kept)
 {
     QString shown = gfpdb_from_utf8(text);
     for (QChar& character : shown) {
-        if (!character.isPrint() && !character.isSurrogate())
+        if (!character.isPrint() && !character.isSurrogate() && !kept.contains(character))
             character = QLatin1Char('?');
     }
     return gfpdb_to_utf8(shown);
 }
 
+std::string printable_lines(const std::string& text)
+{
+    return printable(text, QStringLiteral("\n"));
+}
+
+} // namespace
+
+std::string cli_printable(const std::string& text)
+{
+    return printable(text, QString());
+}
+
 void CLI_OUTPUT::print(const std::string& text)
 {
-    write(stdout, text);
+    write(stdout, ::isatty(STDOUT_FILENO) == 1 ? printable_lines(text) : text);
 }
 
 void CLI_OUTPUT::error(const std::string& text)

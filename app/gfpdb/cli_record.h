@@ -18,6 +18,9 @@ struct CLI_RECORD
     const std::string& name() const { return is_template ? row.template_name : row.name; }
 };
 
+// "device "X" (family 3, scheme 7)", "template "T"": as messages call the record.
+std::string cli_title(const CLI_RECORD& record);
+
 // One thing that is wrong.
 struct CLI_PROBLEM
 {

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr const char* OPTION_CSV = "csv";
-
 // The named records, or all of the directory, with their flows. None: a message was printed.
 std::optional<std::vector<CLI_RECORD>> collect(const CLI_CALL& call, int& exit_code)
 {
@@ -77,8 +75,7 @@ void CLI_EXPORT_COMMAND::add_options(QCommandLineParser& parser) const
     parser.addOption({{QStringLiteral("o"), QLatin1String(CLI_OPTION_OUTPUT)},
                       QStringLiteral("Write to this file instead of standard output."),
                       QStringLiteral("file")});
-    parser.addOption({QLatin1String(OPTION_CSV), QStringLiteral("Write a list of the devices, without their flows, as "
-                                                                "comma-separated values.")});
+    cli_add_csv_options(parser, "Write a list of the devices, without their flows, as comma-separated values.");
     cli_add_place_options(parser, "Only devices");
 }
 
@@ -90,17 +87,15 @@ int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
     const std::optional<std::vector<CLI_RECORD>> records = collect(call, exit_code);
     if (!records)
         return exit_code;
-    std::string text;
-    if (call.has(OPTION_CSV)) {
-        text = records_to_csv(*records);
-    } else {
-        const std::optional<JSON_VALUE> json = records_to_json(*records);
-        if (!json)
-            return call.database_failed("The flows of a record cannot be read: gfpdb check says which.");
-        text = json_write(*json);
-    }
+    std::vector<CLI_RECORD> unreadable;
+    const std::optional<CSV_FOR> csv = csv_reader(call);
+    const std::string text = csv ? records_to_csv(*records, *csv) : json_write(records_to_json(*records, unreadable));
     if (call.has(CLI_OPTION_OUTPUT))
-        return write_file(call, text);
-    call.output.print(text);
-    return CLI_EXIT_OK;
+        exit_code = write_file(call, text);
+    else
+        call.output.print(text);
+    for (const CLI_RECORD& record : unreadable)
+        exit_code =
+            call.database_failed("The flows of the " + cli_title(record) + " cannot be read: it is not exported.");
+    return exit_code;
 }

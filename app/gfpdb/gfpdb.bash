@@ -43,9 +43,9 @@ _gfpdb()
         ;;
     esac
     case $command in
-    list) options="--builtin --all --filter --csv --json --family --scheme" ;;
+    list) options="--builtin --all --filter --csv --spreadsheet --json --family --scheme" ;;
     show) options="--variant --json --family --scheme" ;;
-    export) options="--output --csv --family --scheme" ;;
+    export) options="--output --csv --spreadsheet --family --scheme" ;;
     import) options="--replace --dry-run --unchecked --csv --family --scheme" ;;
     check) options="--json" ;;
     history) options="--json --family --scheme" ;;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <unordered_set>
 
 namespace {
 
@@ -257,6 +258,7 @@ private:
         ++m_at;
         if (skip('}'))
             return true;
+        std::unordered_set<std::string> names;
         do {
             skip_blanks();
             std::string name;
@@ -264,7 +266,7 @@ private:
                 return fail("an object needs a name in double quotes here");
             if (!read_text(name))
                 return false;
-            if (value.member(name))
+            if (!names.insert(name).second)
                 return fail("the name \"" + name + "\" occurs twice");
             if (!skip(':'))
                 return fail("\":\" is missing after \"" + name + "\"");
@@ -282,12 +284,31 @@ private:
     int m_line = 1;
 };
 
+void write_escape(std::string& out, unsigned code)
+{
+    char escape[8];
+    std::snprintf(escape, sizeof escape, "\\u%04x", code & 0xFFFFU);
+    out += escape;
+}
+
+// U+0080 to U+009F: control characters that a terminal obeys like those of ASCII. Their second byte is their code.
+bool is_c1_control(const std::string& text, std::size_t at)
+{
+    if (at + 1 >= text.size() || text[at] != '\xC2')
+        return false;
+    const auto second = static_cast<unsigned char>(text[at + 1]);
+    return second >= 0x80 && second < 0xA0;
+}
+
 void write_text(std::string& out, const std::string& text)
 {
     out += '"';
-    for (const char character : text) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char character = text[at];
         const auto byte = static_cast<unsigned char>(character);
-        if (character == '"' || character == '\\') {
+        if (is_c1_control(text, at)) {
+            write_escape(out, static_cast<unsigned char>(text[++at]));
+        } else if (character == '"' || character == '\\') {
             out += '\\';
             out += character;
         } else if (character == '\n') {
@@ -297,9 +318,7 @@ void write_text(std::string& out, const std::string& text)
         } else if (character == '\r') {
             out += "\\r";
         } else if (byte < 0x20 || byte == 0x7F) {
-            char escape[8];
-            std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(byte));
-            out += escape;
+            write_escape(out, byte);
         } else {
             out += character;
         }

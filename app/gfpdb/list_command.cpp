@@ -17,9 +17,10 @@ namespace {
 constexpr const char* OPTION_BUILTIN = "builtin";
 constexpr const char* OPTION_ALL = "all";
 constexpr const char* OPTION_FILTER = "filter";
-constexpr const char* OPTION_CSV = "csv";
 
 constexpr std::size_t COLUMN_COUNT = 7;
+// A name that is longer than the rules allow shifts its own line, not all others.
+constexpr int COLUMN_WIDTH_MAX = 64;
 using LINE = std::array<std::string, COLUMN_COUNT>;
 
 struct LISTED
@@ -44,6 +45,12 @@ LINE line_of(const LISTED& listed)
             row.device_id.empty() ? "-" : row.device_id};
 }
 
+// Two blanks at least stand behind a cell, also behind one that is too long for its column.
+QString padded(const QString& cell, int width)
+{
+    return cell.leftJustified(std::max(width, cell.size()) + 2);
+}
+
 std::string table(const std::vector<LISTED>& records)
 {
     std::vector<LINE> lines = {{"NAME", "KIND", "FAMILY", "SCHEME", "DENSITY", "VOLTAGE", "ID"}};
@@ -52,12 +59,12 @@ std::string table(const std::vector<LISTED>& records)
     std::array<int, COLUMN_COUNT> widths = {};
     for (const LINE& line : lines) {
         for (std::size_t at = 0; at < COLUMN_COUNT; ++at)
-            widths[at] = std::max(widths[at], gfpdb_from_utf8(line[at]).size());
+            widths[at] = std::min(std::max(widths[at], gfpdb_from_utf8(line[at]).size()), COLUMN_WIDTH_MAX);
     }
     QString text;
     for (const LINE& line : lines) {
         for (std::size_t at = 0; at + 1 < COLUMN_COUNT; ++at)
-            text += gfpdb_from_utf8(cli_printable(line[at])).leftJustified(widths[at] + 2);
+            text += padded(gfpdb_from_utf8(cli_printable(line[at])), widths[at]);
         text += gfpdb_from_utf8(cli_printable(line.back())) + QLatin1Char('\n');
     }
     return gfpdb_to_utf8(text);
@@ -120,13 +127,13 @@ std::vector<LISTED> find(const CLI_CALL& call)
     return found;
 }
 
-std::string csv(const std::vector<LISTED>& listed)
+std::string csv(const std::vector<LISTED>& listed, CSV_FOR reader)
 {
     std::vector<CLI_RECORD> records;
     records.reserve(listed.size());
     for (const LISTED& each : listed)
         records.push_back(each.record);
-    return records_to_csv(records);
+    return records_to_csv(records, reader);
 }
 
 } // namespace
@@ -137,17 +144,18 @@ void CLI_LIST_COMMAND::add_options(QCommandLineParser& parser) const
     parser.addOption({QLatin1String(OPTION_ALL), QStringLiteral("The built-in devices as well.")});
     parser.addOption({QLatin1String(OPTION_FILTER), QStringLiteral("Only names that match, as in \"MX25*\"."),
                       QStringLiteral("wildcard")});
-    parser.addOption({QLatin1String(OPTION_CSV), QStringLiteral("Print the devices as comma-separated values.")});
+    cli_add_csv_options(parser, "Print the devices as comma-separated values.");
     cli_add_place_options(parser, "Only devices");
     cli_add_json_option(parser);
 }
 
 int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
 {
-    if (call.has(OPTION_CSV) && call.has(CLI_OPTION_JSON))
+    const std::optional<CSV_FOR> reader = csv_reader(call);
+    if (reader && call.has(CLI_OPTION_JSON))
         return call.wrong_usage("--csv and --json do not go together.");
     const std::vector<LISTED> records = find(call);
-    call.output.print(call.has(CLI_OPTION_JSON) ? json(records) : call.has(OPTION_CSV) ? csv(records) : table(records));
+    call.output.print(call.has(CLI_OPTION_JSON) ? json(records) : reader ? csv(records, *reader) : table(records));
     const std::string problem = call.has(OPTION_BUILTIN) ? std::string() : call.database.read_problem();
     return problem.empty() ? CLI_EXIT_OK : call.database_failed(problem);
 }

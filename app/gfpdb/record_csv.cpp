@@ -36,6 +36,13 @@ std::string cell(const std::string& text)
     return quoted + '"';
 }
 
+// Spreadsheets take what begins like this for a formula, some of them also behind blanks and line breaks.
+bool is_formula(const std::string& text)
+{
+    const std::size_t start = text.find_first_not_of(" \t\r\n");
+    return start != std::string::npos && std::string("=+-@").find(text[start]) != std::string::npos;
+}
+
 std::string line(const std::vector<std::string>& cells)
 {
     std::string text;
@@ -105,16 +112,26 @@ JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
 
 } // namespace
 
-std::string records_to_csv(const std::vector<CLI_RECORD>& records)
+std::optional<CSV_FOR> csv_reader(const CLI_CALL& call)
 {
+    if (call.has(CLI_OPTION_SPREADSHEET))
+        return CSV_FOR::SPREADSHEET;
+    return call.has(CLI_OPTION_CSV) ? std::optional<CSV_FOR>(CSV_FOR::IMPORT) : std::nullopt;
+}
+
+std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reader)
+{
+    const auto shown = [reader](const std::string& value) {
+        return reader == CSV_FOR::SPREADSHEET && is_formula(value) ? '\'' + value : value;
+    };
     std::string text = line(COLUMNS);
     for (const CLI_RECORD& record : records) {
         const GFPDB_ROW& row = record.row;
         if (record.is_template)
             continue;
-        text += line({row.name, std::to_string(row.family), std::to_string(row.scheme), row.device_id, row.voltage,
-                      row.density, number(row.total_die), number(row.single_io_dummy_clock),
-                      number(row.quad_io_dummy_clock), row.template_name, row.flow_template});
+        text += line({shown(row.name), std::to_string(row.family), std::to_string(row.scheme), shown(row.device_id),
+                      shown(row.voltage), shown(row.density), number(row.total_die), number(row.single_io_dummy_clock),
+                      number(row.quad_io_dummy_clock), shown(row.template_name), shown(row.flow_template)});
     }
     return text;
 }

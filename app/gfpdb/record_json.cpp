@@ -141,7 +141,7 @@ std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record)
     return object;
 }
 
-std::optional<JSON_VALUE> records_to_json(const std::vector<CLI_RECORD>& records)
+JSON_VALUE records_to_json(const std::vector<CLI_RECORD>& records, std::vector<CLI_RECORD>& unreadable)
 {
     JSON_VALUE file = json_object();
     file.add(FORMAT, json_string(RECORD_FORMAT));
@@ -152,9 +152,10 @@ std::optional<JSON_VALUE> records_to_json(const std::vector<CLI_RECORD>& records
             if (record.is_template != templates)
                 continue;
             std::optional<JSON_VALUE> object = record_to_json(record);
-            if (!object)
-                return std::nullopt;
-            list.items.push_back(std::move(*object));
+            if (object)
+                list.items.push_back(std::move(*object));
+            else
+                unreadable.push_back(record);
         }
         file.add(templates ? TEMPLATES : DEVICES, std::move(list));
     }

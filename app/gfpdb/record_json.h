@@ -18,8 +18,9 @@ constexpr int RECORD_FORMAT_VERSION = 1;
 
 // The record; none when its flows cannot be read.
 std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record);
-// A whole file: devices, then templates, each in the given order. None when the flows of a record cannot be read.
-std::optional<JSON_VALUE> records_to_json(const std::vector<CLI_RECORD>& records);
+// A whole file: devices, then templates, each in the given order. Records whose flows cannot be read are left out, and
+// added to `unreadable`.
+JSON_VALUE records_to_json(const std::vector<CLI_RECORD>& records, std::vector<CLI_RECORD>& unreadable);
 
 // Reads records, and notes everything that is wrong with them.
 class RECORD_READER

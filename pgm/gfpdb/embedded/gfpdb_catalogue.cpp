@@ -14,7 +14,7 @@ namespace {
 constexpr const char* CATALOGUE_VARIABLE = "GFPDB_CATALOGUE";
 constexpr const char* BUILTIN_CATALOGUE = ":/gfpdb/serial_nor.csv";
 
-constexpr std::size_t LARGEST_FILE = 16 * 1024 * 1024;
+constexpr std::size_t LARGEST_FILE = std::size_t(16) << 20;
 
 struct CATALOGUE
 {

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t BLOCK = 64 * 1024;
+constexpr std::size_t BLOCK = std::size_t(64) << 10;
 constexpr std::size_t KIBIBYTE = 1024;
 
 std::nullopt_t fail(std::string& problem, const std::string& text)

@@ -13,6 +13,7 @@ private slots:
     void a_warning_alone_is_no_problem();
     void a_stored_record_keeps_a_built_in_name();
     void check_finds_flows_that_cannot_be_read();
+    void export_leaves_out_only_what_cannot_be_read();
     void check_finds_damage();
     void what_sqlite_says_in_several_lines_is_printed_in_one();
 };
@@ -107,9 +108,36 @@ void TEST_CLI_CHECK::check_finds_flows_that_cannot_be_read()
     QCOMPARE(run.exit_code, 1);
     QCOMPARE(run.out, QByteArray("device \"Mine\" (family 3, scheme 7): The flows cannot be read.\n"
                                  "2 records, 1 problem\n"));
-    for (const QStringList& arguments :
-         {QStringList{"show", "Mine"}, QStringList{"export"}, QStringList{"diff", "Mine", "T"}})
+    for (const QStringList& arguments : {QStringList{"show", "Mine"}, QStringList{"diff", "Mine", "T"}})
         QCOMPARE(run_tool(arguments + QStringList{"-d", q(place.db_dir())}).exit_code, 5);
+}
+
+void TEST_CLI_CHECK::export_leaves_out_only_what_cannot_be_read()
+{
+    const GFPDB_PLACE place;
+    const QStringList to_directory = {"-d", q(place.db_dir())};
+    save_part("A");
+    save_part("Broken", FAMILY, SERIAL, "T");
+    run_sql(place.db_file(), "UPDATE device SET quad_flows = 'nonsense' WHERE name = 'Broken'");
+    const QByteArray error = "gfpdb: The flows of the device \"Broken\" (family 3, scheme 7) cannot be read: it is not "
+                             "exported.\n";
+
+    const TOOL_RUN run = run_tool(QStringList{"export"} + to_directory);
+    QCOMPARE(run.exit_code, 5);
+    QCOMPARE(run.err, error);
+    const QJsonObject file = json(run).object();
+    QCOMPARE(names(QJsonDocument(file.value("devices").toArray())), QStringList{"A"});
+    QCOMPARE(file.value("templates").toArray().size(), 1);
+
+    const QString path = q(place.path("out.json"));
+    const TOOL_RUN to_file = run_tool(QStringList{"export", "Broken", "A", "-o", path} + to_directory);
+    QCOMPARE(to_file.exit_code, 5);
+    QCOMPARE(to_file.err, error);
+    QCOMPARE(run_tool({"diff", "A", path, "-d", q(place.db_dir())}).exit_code, 0);
+    // A list has no flows.
+    const TOOL_RUN list = run_tool(QStringList{"export", "--csv"} + to_directory);
+    QCOMPARE(list.exit_code, 0);
+    QVERIFY(list.out.contains("\nBroken,3,7,"));
 }
 
 void TEST_CLI_CHECK::check_finds_damage()

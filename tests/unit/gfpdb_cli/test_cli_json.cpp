@@ -41,6 +41,7 @@ private slots:
     void what_is_no_json_is_refused_with_its_line_data();
     void what_is_no_json_is_refused_with_its_line();
     void nesting_has_an_end();
+    void an_object_may_have_half_a_million_members();
     void one_value_per_line_is_written();
     void control_characters_are_written_as_escapes();
     void what_is_written_is_read_again();
@@ -173,6 +174,20 @@ void TEST_CLI_JSON::nesting_has_an_end()
     QCOMPARE(error_of(std::string(1000000, '[')), std::string("1: values are nested too deeply"));
 }
 
+// Each name is compared with all others: one by one, that would take an hour.
+void TEST_CLI_JSON::an_object_may_have_half_a_million_members()
+{
+    std::string text = "{\n";
+    for (int number = 0; number < 500000; ++number)
+        text += "\"" + std::to_string(number) + "\": 1,\n";
+
+    const JSON_VALUE value = parsed(text + "\"last\": 2}");
+
+    QCOMPARE(value.members.size(), std::size_t(500001));
+    QCOMPARE(value.member("last")->line, 500002);
+    QCOMPARE(error_of(text + "\"7\": 2}"), std::string("500002: the name \"7\" occurs twice"));
+}
+
 void TEST_CLI_JSON::one_value_per_line_is_written()
 {
     JSON_VALUE object = json_object();
@@ -199,6 +214,8 @@ void TEST_CLI_JSON::one_value_per_line_is_written()
 
 void TEST_CLI_JSON::control_characters_are_written_as_escapes()
 {
+    QCOMPARE(json_write(json_string("\xC2\x7F\xC2\x80\xC2\x9B[\xC2\x9F\xC2\xA0\xC3\x80\xC2")),
+             std::string("\"\xC2\\u007f\\u0080\\u009b[\\u009f\xC2\xA0\xC3\x80\xC2\"\n"));
     QCOMPARE(json_write(json_string(std::string("a\"\\/\n\r\t\b\0\x1b\x7f\xC3\xA4", 13))),
              std::string("\"a\\\"\\\\/\\n\\r\\t\\u0008\\u0000\\u001b\\u007f\xC3\xA4\"\n"));
 }

@@ -12,6 +12,8 @@ class TEST_CLI_LISTS : public QObject
 
 private slots:
     void a_list_has_a_line_for_each_device();
+    void a_list_for_a_spreadsheet_has_no_formula_data();
+    void a_list_for_a_spreadsheet_has_no_formula();
     void a_list_is_read_again();
     void odd_values_in_a_list_are_read_again();
     void mistakes_in_a_list_are_reported_with_line_and_column_data();
@@ -35,6 +37,35 @@ void TEST_CLI_LISTS::a_list_has_a_line_for_each_device()
                          "quad_io_dummy_clock,template_name,flow_template\n"
                          "A,3,7,,,,,,,,\n"
                          "\"B, \"\"best\"\"\r\n\",3,7,0xC2 0x20 0x19,1.8V,256Mb,2,8,10,T,a flow template\n"));
+}
+
+// For a spreadsheet formulas become texts; for an import every text stays as it is.
+void TEST_CLI_LISTS::a_list_for_a_spreadsheet_has_no_formula_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("is_formula");
+    for (const char* text : {"=1+1", "+1", "-1", "@SUM(A1)", " =1", "\t=1", "\r\n@x", "="})
+        QTest::newRow(text) << QString(text) << true;
+    for (const char* text : {"", " ", "1", "A=1", "'=1", "3.3V", "0xC2 -1", "\xC3\xA4"})
+        QTest::newRow(text) << QString(text) << false;
+}
+
+void TEST_CLI_LISTS::a_list_for_a_spreadsheet_has_no_formula()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, is_formula);
+    CLI_RECORD record;
+    GFPDB_ROW& row = record.row;
+    for (std::string* value :
+         {&row.name, &row.device_id, &row.voltage, &row.density, &row.template_name, &row.flow_template})
+        *value = text.toStdString();
+    CLI_RECORD quoted = record;
+    GFPDB_ROW& quoted_row = quoted.row;
+    for (std::string* value : {&quoted_row.name, &quoted_row.device_id, &quoted_row.voltage, &quoted_row.density,
+                               &quoted_row.template_name, &quoted_row.flow_template})
+        *value = is_formula ? "'" + *value : *value;
+
+    QCOMPARE(records_to_csv({record}, CSV_FOR::SPREADSHEET), records_to_csv({quoted}));
 }
 
 void TEST_CLI_LISTS::a_list_is_read_again()

@@ -55,6 +55,8 @@ private slots:
     void the_directory_comes_from_the_settings_or_the_option();
     void names_that_are_not_ascii_work_in_any_locale();
 
+    void no_control_character_reaches_a_terminal_data();
+    void no_control_character_reaches_a_terminal();
     void a_catalogue_that_cannot_be_read_is_an_error();
     void progress_is_shown_on_a_terminal();
     void output_that_cannot_be_written_is_an_error();
@@ -102,11 +104,12 @@ void TEST_CLI_PROGRAM::every_command_explains_itself_data()
     QTest::addColumn<QString>("usage");
     QTest::addColumn<QStringList>("options");
     QTest::newRow("list") << "[options]\nList devices, templates and built-in devices.\n"
-                          << QStringList{"--builtin", "--all", "--filter", "--csv", "--json", "--family", "--scheme"};
+                          << QStringList{"--builtin",     "--all",  "--filter", "--csv",
+                                         "--spreadsheet", "--json", "--family", "--scheme"};
     QTest::newRow("show") << "[options] NAME\nShow a record with its flows.\n"
                           << QStringList{"--variant", "--json", "--family", "--scheme"};
     QTest::newRow("export") << "[options] [NAME...]\nWrite records to a file.\n"
-                            << QStringList{"-o, --output", "--csv", "--family", "--scheme"};
+                            << QStringList{"-o, --output", "--csv", "--spreadsheet", "--family", "--scheme"};
     QTest::newRow("import") << "[options] FILE...\nRead records from files, all or none.\n"
                             << QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme"};
     QTest::newRow("check") << "[options]\nCheck every record and the database.\n" << QStringList{"--json"};
@@ -210,6 +213,51 @@ void TEST_CLI_PROGRAM::names_that_are_not_ascii_work_in_any_locale()
     }
     qputenv("LC_ALL", former);
     QVERIFY(QFile::exists(q(directory) + "gfpdb.sqlite"));
+}
+
+// What a name could do to a terminal, it must not do; a file gets every byte.
+void TEST_CLI_PROGRAM::no_control_character_reaches_a_terminal_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("list") << QStringList{"list"};
+    QTest::newRow("list --json") << QStringList{"list", "--json"};
+    QTest::newRow("list --csv") << QStringList{"list", "--csv"};
+    QTest::newRow("show") << QStringList{"show", "A"};
+    QTest::newRow("export") << QStringList{"export"};
+    QTest::newRow("check") << QStringList{"check"};
+    QTest::newRow("history") << QStringList{"history"};
+    QTest::newRow("diff") << QStringList{"diff", "A", "B"};
+    QTest::newRow("import") << QStringList{"import", "all.json"};
+}
+
+void TEST_CLI_PROGRAM::no_control_character_reaches_a_terminal()
+{
+    const GFPDB_PLACE place;
+    QFETCH(QStringList, arguments);
+    const std::string directory = place.path("a\x1B[31mb\xC2\x9B/");
+    make_dir(directory);
+    GFPDB_MGR::set_db_custom_dir(directory);
+    save_part("A");
+    save_part("B");
+    save_part("B");
+    for (const char* table : {"device", "history"})
+        run_sql(directory + "gfpdb.sqlite", std::string("UPDATE ") + table +
+                                                " SET flow_template = 'x\x1B[2J\xC2\x9B' || char(13), "
+                                                "name = name || CASE name WHEN 'A' THEN '' ELSE '\x1B]0;\x07' END");
+    const QString file = q(place.path("all.json"));
+    QCOMPARE(run_tool({"export", "-d", q(directory), "-o", file}).exit_code, 0);
+    arguments.replaceInStrings(QRegularExpression("^all.json$"), file);
+
+    QByteArray shown = run_on_terminal(arguments + QStringList{"-d", q(directory)});
+
+    QVERIFY(!shown.isEmpty());
+    shown.replace("\r\n", "\n");
+    for (const char* progress : {"\rExporting ", "\rChecking "})
+        shown.replace(progress, "");
+    for (const char* control : {"\x1B", "\x07", "\r", "\xC2\x9B"})
+        QVERIFY2(!shown.contains(control), shown.toPercentEncoding(" \n\"{}[]:,").constData());
+    const QByteArray list = run_tool({"list", "--csv", "-d", q(directory)}).out;
+    QVERIFY(list.contains("x\x1B[2J\xC2\x9B\r"));
 }
 
 void TEST_CLI_PROGRAM::a_catalogue_that_cannot_be_read_is_an_error()

@@ -11,6 +11,7 @@ class TEST_CLI_SHOW : public QObject
 private slots:
     void list_shows_what_is_stored();
     void list_shows_the_built_in_devices();
+    void list_prints_a_very_long_name();
     void list_filters_by_name_and_place();
     void list_prints_json_and_csv();
 
@@ -60,6 +61,24 @@ void TEST_CLI_SHOW::list_shows_the_built_in_devices()
     QCOMPARE(without.out.count('\n'), 147);
 }
 
+// One line must not make all the others as long.
+void TEST_CLI_SHOW::list_prints_a_very_long_name()
+{
+    const GFPDB_PLACE place;
+    const std::string name(2000000, 'x');
+    save_part("A");
+    save_part("Long");
+    run_sql(place.db_file(), "UPDATE device SET name = '" + name + "', name_key = '" + name + "' WHERE name = 'Long'");
+
+    const TOOL_RUN run = run_tool({"list", "-d", q(place.db_dir())});
+
+    QCOMPARE(run.exit_code, 0);
+    const QList<QByteArray> lines = run.out.split('\n');
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines[1].startsWith("A ") && lines[1].size() < 200);
+    QVERIFY(lines[2].startsWith(QByteArray::fromStdString(name) + "  device "));
+}
+
 void TEST_CLI_SHOW::list_filters_by_name_and_place()
 {
     const GFPDB_PLACE place;
@@ -102,6 +121,13 @@ void TEST_CLI_SHOW::list_prints_json_and_csv()
     QCOMPARE(builtin.value("kind").toString(), QString("builtin"));
     QVERIFY(builtin.value("family").isNull() && builtin.value("scheme").isNull());
 
+    save_part("=A1", FAMILY, QUAD);
+    for (const char* command : {"list", "export"}) {
+        QVERIFY(run_tool({command, "-d", q(place.db_dir()), "--spreadsheet"}).out.contains("\n'=A1,3,13,"));
+        QVERIFY(run_tool({command, "-d", q(place.db_dir()), "--csv"}).out.contains("\n=A1,3,13,"));
+    }
+    QCOMPARE(run_tool({"list", "--spreadsheet", "--json"}).exit_code, 2);
+    QVERIFY(fresh_manager(FAMILY, QUAD)->delete_flash("=A1", place.db_dir()));
     QCOMPARE(run_tool({"list", "-d", q(place.db_dir()), "--csv"}).out,
              QByteArray("name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
                         "quad_io_dummy_clock,template_name,flow_template\n"

@@ -1,0 +1,11 @@
+#include "cli_record.h"
+
+#include "gfpdb_text.h"
+
+std::string cli_title(const CLI_RECORD& record)
+{
+    if (record.is_template)
+        return "template " + gfpdb_quoted(record.name());
+    return "device " + gfpdb_quoted(record.name()) + " (family " + std::to_string(record.row.family) + ", scheme " +
+           std::to_string(record.row.scheme) + ')';
+}
