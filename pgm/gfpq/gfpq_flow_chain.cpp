@@ -10,6 +10,7 @@
 #include "gfpdb/gfpdb_action.h"
 #include "msg/msg.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBrush>
 #include <QGraphicsEllipseItem>
 #include <QGraphicsView>
@@ -105,6 +106,16 @@ QString action_text(const GFPDB_ACTION& action)
     return text;
 }
 
+// Qt lays long texts out in steps, most of them when the event loop comes to it, and the item learns its extent from the
+// first. Asking the document for its size takes them all; the item is told at once, not by the last of them.
+void finish_layout(const QGraphicsTextItem& item)
+{
+    QTextDocument& document = *item.document();
+    const QSizeF size = document.size();
+    if (item.boundingRect().size() != size)
+        emit document.documentLayout()->documentSizeChanged(size);
+}
+
 // The item keeps its natural width: no line is wrapped, and each is aligned within the widest. Format and text go in as
 // one edit, and nothing is kept for an undo: every step of its own would lay the document out anew. The lines that the
 // text brings take the format over from the empty one.
@@ -119,7 +130,9 @@ void set_aligned_text(GFPQ_GRAPHICS_TEXT_ITEM& item, const QString& text, Qt::Al
     cursor.mergeBlockFormat(format);
     cursor.insertText(text);
     cursor.endEditBlock();
+    finish_layout(item);
     item.setTextWidth(item.boundingRect().width());
+    finish_layout(item);
 }
 
 void fill(QAbstractGraphicsShapeItem& shape, const QColor& color)

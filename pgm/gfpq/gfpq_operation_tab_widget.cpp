@@ -38,6 +38,14 @@ constexpr int VALUE_COLUMN = 1;
 // The part of a long value that a tool tip shows.
 constexpr int TOOL_TIP_MAX_LENGTH = 1000;
 
+// The action's own label is shown where the words have none: the library may know more properties than they do.
+QString label_of(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property)
+{
+    const bool has_word = property >= 0 && property < GFPDB_ACT_PROPERTY_COUNT;
+    return has_word ? gfpq_from_utf8(GFPQ_PROPERTY_LABELS[property])
+                    : gfpq_from_local(action.get_property_label(property));
+}
+
 // The colours of charts and palettes are fixed, so is what they are drawn on.
 constexpr Qt::GlobalColor PAPER_COLOR = Qt::white;
 
@@ -217,7 +225,7 @@ void GPFQ_OPERATION_TAB_WIDGET::update_property_table(GFPDB_ACTION* action)
 
 void GPFQ_OPERATION_TAB_WIDGET::append_property_row(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property)
 {
-    auto* const label = new QStandardItem(gfpq_from_utf8(GFPQ_PROPERTY_LABELS[property]));
+    auto* const label = new QStandardItem(label_of(action, property));
     label->setData(static_cast<int>(property), GFPQ_PROPERTY_DELEGATE::PROPERTY_ROLE);
     label->setEditable(false);
     auto* const value = new QStandardItem(gfpq_from_local(action.get_property_value(property)));

@@ -110,9 +110,10 @@ void GFPQ_PROPERTY_DELEGATE::setModelData(QWidget* editor, QAbstractItemModel* m
         if (m_value_checker != nullptr && !m_value_checker->check_property_value(property, gfpq_to_local(text), error))
             tab->warn_about_value(gfpq_from_local(error));
     }
-    if (cell.isValid()) {
-        std_model->setData(cell, text, Qt::EditRole);
-        std_model->setData(cell, text, Qt::ToolTipRole);
-    }
+    // Where the table was filled again while the box was open, it shows another action now.
+    if (!cell.isValid())
+        return;
+    std_model->setData(cell, text, Qt::EditRole);
+    std_model->setData(cell, text, Qt::ToolTipRole);
     tab->store_property_value(property, text);
 }

@@ -117,6 +117,7 @@ private slots:
     void a_first_loop_end_leads_back_to_the_origin();
     void every_loop_end_widens_the_chart();
     void lines_of_an_action_are_centred_and_never_wrapped();
+    void a_text_of_many_lines_stays_within_its_block();
     void a_text_is_aligned_as_asked_and_in_no_scene_yet();
     void labels_are_the_actions_own_words();
     void a_text_knows_its_action_and_a_label_knows_none();
@@ -327,6 +328,30 @@ void TEST_FLOW_CHAIN::lines_of_an_action_are_centred_and_never_wrapped()
         QCOMPARE(block.layout()->lineCount(), 1);
     }
     QCOMPARE(blocks_of(scene).first()->rect(), text_of(*blocks_of(scene).first())->boundingRect());
+}
+
+// Qt lays long texts out in steps, when it comes to it. The widest line is the last one.
+void TEST_FLOW_CHAIN::a_text_of_many_lines_stays_within_its_block()
+{
+    std::string lines;
+    for (int line = 0; line < 300; ++line)
+        lines += "line\n";
+    const ACTION_LIST actions({make_named_action(4, lines + "a last line that is wider than all of the others"),
+                               make_named_action(0, "next")});
+    GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+    load(scene, actions.get());
+
+    const QGraphicsRectItem& block = *blocks_of(scene).first();
+    const GFPQ_GRAPHICS_TEXT_ITEM& text = *text_of(block);
+    const QRectF drawn = block.rect();
+    const QSizeF laid_out = text.document()->size();
+    QCOMPARE(text.document()->blockCount(), 307);
+    QCOMPARE(drawn.size(), laid_out);
+    QCOMPARE(text.boundingRect(), drawn);
+    QCOMPARE(shapes_of(scene).at(2)->y(), block.y() + block.boundingRect().height() + 65);
+    for (QTextBlock line = text.document()->begin(); line.isValid(); line = line.next())
+        QCOMPARE(line.layout()->lineCount(), 1);
 }
 
 void TEST_FLOW_CHAIN::a_text_is_aligned_as_asked_and_in_no_scene_yet()

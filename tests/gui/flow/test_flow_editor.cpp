@@ -40,6 +40,7 @@ private slots:
     void very_long_values_and_line_breaks_survive_the_editor();
     void a_warning_while_the_chart_waits_for_a_redraw_is_survived();
     void a_warning_takes_no_waiting_redraw_away_and_adds_none();
+    void a_value_whose_cell_is_gone_is_stored_nowhere_else();
     void an_open_editor_can_be_committed();
     void an_open_combo_box_can_be_committed();
     void committing_without_an_open_editor_does_nothing();
@@ -503,6 +504,28 @@ void TEST_FLOW_EDITOR::a_warning_takes_no_waiting_redraw_away_and_adds_none()
     emit page.emit_update_flow_scene();
     page.warn_about_value(QStringLiteral("refused"));
     QVERIFY(scene_of(page).take_pending_refresh());
+}
+
+void TEST_FLOW_EDITOR::a_value_whose_cell_is_gone_is_stored_nowhere_else()
+{
+    const ACTION_LIST actions({make_named_action(0, "first"), make_named_action(0, "second")});
+    const auto page = show_selected(actions.get());
+    m_checker->refused[1] = "refused";
+    QSignalSpy updated(page.get(), SIGNAL(emit_update_flow_scene()));
+    type_text(open_editor(*page, 1), "xyz");
+    m_modals.expect([&](QWidget* box) {
+        page->update_property_table(page->get_flow().at(1));
+        MODAL_DRIVER::accept()(box);
+    });
+
+    page->commit_open_editor();
+
+    QCOMPARE(m_modals.met().size(), 1);
+    QCOMPARE(action_of(*page, 0).values[1], std::string("default 1"));
+    QCOMPARE(action_of(*page, 1).values[1], std::string("default 1"));
+    QCOMPARE(column_of(*page, 1).mid(0, 2), list({"second", "default 1"}));
+    QCOMPARE(value_cell(*page, 1).data(Qt::ToolTipRole), QVariant());
+    QCOMPARE(updated.size(), 0);
 }
 
 void TEST_FLOW_EDITOR::an_open_editor_can_be_committed()

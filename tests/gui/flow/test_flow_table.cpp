@@ -16,6 +16,7 @@ private slots:
     void cells_carry_their_property_and_only_values_can_be_edited();
     void a_value_without_effect_is_disabled();
     void the_loop_marker_has_no_row();
+    void a_property_without_a_label_in_the_table_gets_the_actions_own();
     void custom_actions_and_null_show_no_rows();
     void filling_replaces_the_rows();
     void the_label_column_fits_its_labels();
@@ -115,6 +116,25 @@ void TEST_FLOW_TABLE::the_loop_marker_has_no_row()
 
     QCOMPARE(column_of(*page, 0), list({"Command-Address(bus width):", "", "Name:"}));
     QCOMPARE(column_of(*page, 1), list({"", "unit", "default 0"}));
+}
+
+// A flash database that is newer than the dialog knows more properties.
+void TEST_FLOW_TABLE::a_property_without_a_label_in_the_table_gets_the_actions_own()
+{
+    const ACTION_LIST actions({new ACTION_DOUBLE(GFPDB_ACT_WRITE_REGISTER)});
+    const auto page = show_selected(actions.get());
+    ACTION_DOUBLE& action = action_of(*page, 0);
+    action.properties.clear();
+    for (const int property : {40, 100000, -1, 0}) {
+        action.properties.push_back(static_cast<GFPDB_ACT_PROPERTY>(property));
+        action.values[property] = "value of " + std::to_string(property);
+        action.labels[property] = "own " + std::to_string(property);
+    }
+
+    page->update_property_table(&action);
+
+    QCOMPARE(column_of(*page, 0), list({"own 40", "own 100000", "own -1", "Name:"}));
+    QCOMPARE(column_of(*page, 1), list({"value of 40", "value of 100000", "value of -1", "value of 0"}));
 }
 
 void TEST_FLOW_TABLE::custom_actions_and_null_show_no_rows()
