@@ -2,17 +2,25 @@
 #pragma once
 
 #include <QDialog>
-#include <QLoggingCategory>
-#include <QScopeGuard>
+#include <QtGlobal>
+
+// Holds back, as long as it lives, the lines that the automatic connection by object name prints for each slot that it
+// does not know a signal for. Every other line goes to the message handler that was installed before. GUI thread only;
+// lines of other threads pass.
+class GFPQ_CONNECTION_LINES_CUT
+{
+public:
+    GFPQ_CONNECTION_LINES_CUT();
+    ~GFPQ_CONNECTION_LINES_CUT();
+    GFPQ_CONNECTION_LINES_CUT(const GFPQ_CONNECTION_LINES_CUT&) = delete;
+    GFPQ_CONNECTION_LINES_CUT& operator=(const GFPQ_CONNECTION_LINES_CUT&) = delete;
+};
 
 // Builds `form` on `dialog`. Building ends with the automatic connection by object name, which recognises none of the
-// module's slot names and would print a warning for each: those are held back.
+// module's slot names and would print a warning for each.
 template <typename FORM>
 void gfpq_build_form(FORM& form, QDialog* dialog)
 {
-    QLoggingCategory& category = *QLoggingCategory::defaultCategory();
-    const bool warns = category.isWarningEnabled();
-    const auto restore = qScopeGuard([&category, warns] { category.setEnabled(QtWarningMsg, warns); });
-    category.setEnabled(QtWarningMsg, false);
+    const GFPQ_CONNECTION_LINES_CUT cut;
     form.setupUi(dialog);
 }
