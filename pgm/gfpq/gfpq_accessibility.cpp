@@ -188,7 +188,6 @@ void make_operation_page_accessible(const QWidget& page, const QString& title)
 
 void gfpq_make_accessible(const QWidget& dialog, QAbstractItemView& devices, QTabWidget& pages)
 {
-    pages.setUsesScrollButtons(false);
     name_editors(dialog);
     make_table_accessible(devices, QCoreApplication::translate("gfpq_dlg", "Devices"));
     const QList<QScrollArea*> areas = dialog.findChildren<QScrollArea*>();

@@ -50,6 +50,7 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     select_device(device_name);
     connect_controls();
     new GFPQ_PANE_FITTER(*ui.m_config_device_splitter, *ui.m_device_info_scroll_area);
+    gfpq_fit_titles(*this, *ui.m_prog_flows_tab_widget);
     gfpq_make_accessible(*this, *ui.m_device_table_view, *ui.m_prog_flows_tab_widget);
 }
 

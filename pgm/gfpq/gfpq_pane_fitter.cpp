@@ -4,14 +4,15 @@
 
 #include <QEvent>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QSplitter>
+#include <QTabWidget>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
-constexpr int LARGEST_SHARE_PERCENT = 66;
+constexpr int LARGEST_SHARE_PERCENT = 75;
 constexpr int PERCENT = 100;
 
 } // namespace
@@ -20,38 +21,63 @@ GFPQ_PANE_FITTER::GFPQ_PANE_FITTER(QSplitter& splitter, const QScrollArea& area)
     : QObject(&splitter), m_splitter(splitter), m_area(area)
 {
     splitter.installEventFilter(this);
+    area.viewport()->installEventFilter(this);
+    area.widget()->installEventFilter(this);
     kovq_safe_connect(&splitter, SIGNAL(splitterMoved(int, int)), this, SLOT(leave_to_user()));
 }
 
-// The splitter divides itself anew first; and only what is shown knows what it needs.
+// Everything is laid out first; and only what is shown knows what it needs. A combo box, for one, learns it when it is
+// shown, and has its surroundings laid out again.
 bool GFPQ_PANE_FITTER::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
+    const bool of_contents = watched == m_area.widget();
+    if ((of_contents && event->type() == QEvent::LayoutRequest) ||
+        (!of_contents && (event->type() == QEvent::Show || event->type() == QEvent::Resize)))
         QMetaObject::invokeMethod(this, &GFPQ_PANE_FITTER::fit, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
 
 void GFPQ_PANE_FITTER::leave_to_user()
 {
-    m_splitter.removeEventFilter(this);
+    m_is_users = true;
 }
 
-int GFPQ_PANE_FITTER::width_around(int contents) const
+// The size hint, because the smallest size leaves the texts of combo boxes out.
+int GFPQ_PANE_FITTER::needed_width(int whole) const
 {
-    return contents + 2 * m_area.frameWidth() + m_area.verticalScrollBar()->sizeHint().width();
+    // Frames, and the scroll bar where there is one.
+    const int around = m_splitter.sizes().last() - m_area.viewport()->width();
+    return std::min(m_area.widget()->sizeHint().width() + around, whole * LARGEST_SHARE_PERCENT / PERCENT);
 }
 
 void GFPQ_PANE_FITTER::fit()
 {
-    QWidget* const pane = m_splitter.widget(m_splitter.count() - 1);
-    pane->setMinimumWidth(width_around(m_area.widget()->minimumSizeHint().width()));
-
-    QList<int> sizes = m_splitter.sizes();
-    const int share = m_splitter.width() * LARGEST_SHARE_PERCENT / PERCENT;
-    const int missing = std::min(width_around(m_area.widget()->sizeHint().width()), share) - sizes.last();
-    if (missing <= 0)
+    if (m_is_users)
         return;
-    sizes.last() += missing;
-    sizes.first() -= missing;
+    QList<int> sizes = m_splitter.sizes();
+    const int whole = std::accumulate(sizes.cbegin(), sizes.cend(), 0);
+    const int present = sizes.last();
+    const int own = m_own_share > 0.0 ? qRound(whole * m_own_share) : present;
+    const int needed = needed_width(whole);
+    if (needed <= own)
+        m_own_share = 0.0;
+    else if (m_own_share <= 0.0)
+        m_own_share = static_cast<double>(own) / whole;
+
+    const int wanted = std::max(own, needed);
+    if (wanted == present)
+        return;
+    sizes.last() = wanted;
+    sizes.first() += present - wanted;
     m_splitter.setSizes(sizes);
+}
+
+// With all titles in sight, the dialog's smallest width is what they take.
+void gfpq_fit_titles(QWidget& dialog, QTabWidget& pages)
+{
+    const bool scrolls = pages.usesScrollButtons();
+    pages.setUsesScrollButtons(false);
+    const int width = dialog.minimumSizeHint().width();
+    pages.setUsesScrollButtons(scrolls);
+    dialog.resize(std::max(dialog.width(), width), dialog.height());
 }

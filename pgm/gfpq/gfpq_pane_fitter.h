@@ -1,14 +1,15 @@
-// Room for the device fields, however long their texts are in the user's language.
+// Room for texts, however long they are in the user's language.
 #pragma once
 
 #include <QObject>
 
 class QScrollArea;
 class QSplitter;
+class QTabWidget;
 
-// Keeps the pane of `splitter` that holds `area`, its last, so wide that the contents of the area are never cut
-// sideways, and gives it what the contents would like to have, up to two thirds of the splitter. From the moment on
-// that the user moves the handle, it stays where the user puts it. Owned by `splitter`.
+// Widens the pane of `splitter` that holds `area`, its last, as long as the contents of the area would be cut sideways
+// otherwise, up to three quarters of the splitter. What fits is left as the splitter divides it. From the moment on that
+// the user moves the handle, it stays where the user puts it. Owned by `splitter`.
 class GFPQ_PANE_FITTER : public QObject
 {
     Q_OBJECT
@@ -24,9 +25,16 @@ private slots:
     void leave_to_user();
 
 private:
-    // The width of the area around contents of the width `contents`.
-    int width_around(int contents) const;
+    // The width of the pane in which nothing is cut, for a splitter whose panes share `whole`.
+    int needed_width(int whole) const;
 
     QSplitter& m_splitter;
     const QScrollArea& m_area;
+    // The part of the splitter that the pane had before it was widened; 0 while it is not widened.
+    double m_own_share = 0.0;
+    bool m_is_users = false;
 };
+
+// Makes `dialog` as wide as all the titles of `pages` take, if it is narrower. The user can still make it narrower: the
+// titles are scrolled then.
+void gfpq_fit_titles(QWidget& dialog, QTabWidget& pages);

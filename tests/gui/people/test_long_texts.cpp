@@ -40,8 +40,13 @@ private slots:
     void the_dialog_cuts_nothing();
     void the_template_editor_cuts_nothing();
     void the_device_fields_are_wide_enough_for_their_contents();
+    void panes_that_cut_nothing_are_as_the_form_has_them_data();
+    void panes_that_cut_nothing_are_as_the_form_has_them();
+    void the_dialog_can_be_made_narrow();
+    void titles_that_fit_leave_the_size_of_the_form();
     void very_long_texts_leave_room_for_the_list();
     void a_pane_gets_what_its_contents_and_the_area_around_them_take();
+    void a_pane_that_was_widened_goes_back_when_there_is_room();
     void a_pane_that_is_wide_enough_is_left_alone();
     void the_handle_is_the_users_afterwards();
     void the_host_window_cuts_nothing();
@@ -162,10 +167,71 @@ void TEST_LONG_TEXTS::the_device_fields_are_wide_enough_for_their_contents()
     mgr().templates = {"one template of some", "b"};
     open_new_device();
 
-    QTRY_VERIFY(fields().widget()->width() >= fields().widget()->sizeHint().width());
+    QTRY_VERIFY(fields().viewport()->width() >= fields().widget()->sizeHint().width());
     QCOMPARE(fields().horizontalScrollBar()->maximum(), 0);
     const auto& combo = child<QComboBox>("m_flow_template_cbox");
     QVERIFY(combo.width() >= combo.fontMetrics().horizontalAdvance(combo.itemText(0)));
+}
+
+void TEST_LONG_TEXTS::panes_that_cut_nothing_are_as_the_form_has_them_data()
+{
+    QTest::addColumn<int>("width");
+    // That of the form, and a wide one.
+    QTest::newRow("994") << 994;
+    QTest::newRow("1600") << 1600;
+}
+
+void TEST_LONG_TEXTS::panes_that_cut_nothing_are_as_the_form_has_them()
+{
+    QFETCH(int, width);
+    const auto sizes_after = [](GFPQ_DLG& dialog, int new_width) {
+        dialog.show();
+        QCoreApplication::processEvents();
+        dialog.resize(new_width, dialog.height());
+        QCoreApplication::processEvents();
+        return dialog.findChild<QSplitter*>(QStringLiteral("m_config_device_splitter"))->sizes();
+    };
+    // Fields of growing width, up to those that are cut.
+    for (std::size_t length = 0;; length += 2) {
+        mgr().templates = {std::string(length, 'x'), "b"};
+        GFPQ_DLG plain(nullptr, FAMILY, SCHEME, "My part", true, true, true, {});
+        delete plain.findChild<GFPQ_PANE_FITTER*>();
+        GFPQ_DLG fitted(nullptr, FAMILY, SCHEME, "My part", true, true, true, {});
+        QVERIFY(fitted.findChild<GFPQ_PANE_FITTER*>() != nullptr);
+        const QList<int> of_the_form = sizes_after(plain, width);
+        const QScrollArea& area = *plain.findChild<QScrollArea*>(QStringLiteral("m_device_info_scroll_area"));
+        if (area.viewport()->width() < area.widget()->sizeHint().width()) {
+            QVERIFY(length > 0);
+            QVERIFY(sizes_after(fitted, width).last() > of_the_form.last());
+            break;
+        }
+
+        QCOMPARE(sizes_after(fitted, width), of_the_form);
+    }
+}
+
+void TEST_LONG_TEXTS::the_dialog_can_be_made_narrow()
+{
+    GFPQ_DLG& dialog = open_new_device();
+
+    dialog.resize(700, dialog.height());
+
+    QTRY_COMPARE(dialog.width(), 700);
+    QTRY_COMPARE(fields().horizontalScrollBar()->maximum(), 0);
+    // Down to what the family combo box takes.
+    dialog.resize(600, dialog.height());
+    QTRY_COMPARE(dialog.width(), 600);
+    QTRY_VERIFY(splitter().sizes().last() >= splitter().width() * 70 / 100);
+    QVERIFY(fields().horizontalScrollBar()->maximum() > 0);
+    // What does not fit is scrolled to, titles as well.
+    tabs().setCurrentIndex(5);
+    const QTabBar& bar = *tabs().tabBar();
+    QTRY_VERIFY(bar.rect().contains(bar.tabRect(5)));
+}
+
+void TEST_LONG_TEXTS::titles_that_fit_leave_the_size_of_the_form()
+{
+    QCOMPARE(open_dialog().size(), QSize(994, 892));
 }
 
 void TEST_LONG_TEXTS::very_long_texts_leave_room_for_the_list()
@@ -173,8 +239,8 @@ void TEST_LONG_TEXTS::very_long_texts_leave_room_for_the_list()
     mgr().templates = {std::string(1000, 'x'), "b"};
     open_new_device();
 
-    QTRY_COMPARE(splitter().sizes().last(), splitter().width() * 66 / 100);
-    QVERIFY(splitter().sizes().first() >= splitter().width() * 3 / 10);
+    QTRY_COMPARE(splitter().sizes().last(), (splitter().width() - splitter().handleWidth()) * 75 / 100);
+    QVERIFY(splitter().sizes().first() >= splitter().width() * 24 / 100);
 }
 
 void TEST_LONG_TEXTS::a_pane_gets_what_its_contents_and_the_area_around_them_take()
@@ -201,7 +267,44 @@ void TEST_LONG_TEXTS::a_pane_gets_what_its_contents_and_the_area_around_them_tak
     const int around = 2 * 7 + area.verticalScrollBar()->sizeHint().width();
     QVERIFY(around > 2 * 7);
     QTRY_COMPARE(panes.sizes().last(), 300 + around);
-    QCOMPARE(area.minimumWidth(), 200 + around);
+    QCOMPARE(area.horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(area.minimumWidth(), 0);
+    // Room for the scroll bar only where there is one.
+    panes.resize(1000, 1200);
+    QTRY_COMPARE(panes.sizes().last(), 300 + 2 * 7);
+    panes.resize(400, 1200);
+    QTRY_COMPARE(panes.sizes().last(), (400 - panes.handleWidth()) * 75 / 100);
+}
+
+void TEST_LONG_TEXTS::a_pane_that_was_widened_goes_back_when_there_is_room()
+{
+    QSplitter panes;
+    QScrollArea area;
+    auto* const contents = new QWidget;
+    auto* const layout = new QVBoxLayout(contents);
+    auto* const wide = new QWidget;
+    wide->setMinimumWidth(380);
+    layout->addWidget(wide);
+    area.setWidgetResizable(true);
+    area.setWidget(contents);
+    panes.addWidget(new QWidget);
+    panes.addWidget(&area);
+    panes.resize(1200, 300);
+    panes.setSizes({600, 600});
+    new GFPQ_PANE_FITTER(panes, area);
+    panes.show();
+    QCoreApplication::processEvents();
+    const QList<int> before = panes.sizes();
+    const int needed = contents->minimumSizeHint().width() + 2 * area.frameWidth();
+    QVERIFY(needed > 380 && needed < 600);
+
+    panes.resize(700, 300);
+    QTRY_COMPARE(panes.sizes().last(), needed);
+    panes.resize(650, 300);
+    QTRY_COMPARE(panes.sizes().last(), needed);
+    panes.resize(1200, 300);
+
+    QTRY_VERIFY(qAbs(panes.sizes().last() - before.last()) <= 1);
 }
 
 void TEST_LONG_TEXTS::a_pane_that_is_wide_enough_is_left_alone()
@@ -230,7 +333,7 @@ void TEST_LONG_TEXTS::the_handle_is_the_users_afterwards()
     QWidget& handle = *splitter().handle(1);
     const QPoint grip = handle.rect().center();
     QTest::mousePress(&handle, Qt::LeftButton, Qt::NoModifier, grip);
-    const QPoint there = grip + QPoint(100, 0);
+    const QPoint there = grip + QPoint(200, 0);
     QMouseEvent drag(QEvent::MouseMove, there, handle.mapToGlobal(there), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&handle, &drag);
     QTest::mouseRelease(&handle, Qt::LeftButton, Qt::NoModifier, grip);
