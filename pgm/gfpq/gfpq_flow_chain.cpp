@@ -106,8 +106,8 @@ QString action_text(const GFPDB_ACTION& action)
     return text;
 }
 
-// Qt lays long texts out in steps, most of them when the event loop comes to it, and the item learns its extent from the
-// first. Asking the document for its size takes them all; the item is told at once, not by the last of them.
+// Qt lays long texts out in steps, most of them when the event loop comes to it, and the item learns its extent from
+// the first. Asking the document for its size takes them all; the item is told at once, not by the last of them.
 void finish_layout(const QGraphicsTextItem& item)
 {
     QTextDocument& document = *item.document();

@@ -24,6 +24,16 @@ bool stands_above(const QGraphicsItem* left, const QGraphicsItem* right)
     return left->sceneBoundingRect().top() < right->sceneBoundingRect().top();
 }
 
+// What of `block` is to be seen in a view of that width: of one that is wider, its middle, where the chain runs.
+QRectF middle_of(const QGraphicsItem& block, int view_width)
+{
+    QRectF middle = block.sceneBoundingRect();
+    const double hidden = middle.width() - view_width / 2.0;
+    if (hidden > 0.0)
+        middle.adjust(hidden / 2.0, 0.0, -hidden / 2.0, 0.0);
+    return middle;
+}
+
 // The drop zone of the first arrow that begins below `y`; null when there is none.
 const QGraphicsItem* drop_zone_below(const QGraphicsScene& scene, double y)
 {
@@ -82,7 +92,7 @@ bool GFPQ_FLOW_KEYBOARD::move(const QKeyEvent& event)
         m_view.scene()->clearSelection();
     if (m_place != NO_BLOCK) {
         chain.at(m_place)->setSelected(true);
-        m_view.ensureVisible(chain.at(m_place));
+        m_view.ensureVisible(middle_of(*chain.at(m_place), m_view.viewport()->width()));
     }
     return true;
 }

@@ -18,10 +18,12 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTableView>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -35,8 +37,13 @@ constexpr double OWN_ACTION_Y = 210.0;
 constexpr int PROPERTY_COLUMN = 0;
 constexpr int VALUE_COLUMN = 1;
 
-// The part of a long value that a tool tip shows.
-constexpr int TOOL_TIP_MAX_LENGTH = 1000;
+// The part of a long value that a tool tip shows: all of 256 data bytes, however they are written.
+constexpr int TOOL_TIP_MAX_LENGTH = 4000;
+
+// What fits into the Value column, in digits, when the chart takes all the room there is.
+constexpr int MIN_VALUE_DIGITS = 12;
+// Of row numbers in the vertical header.
+constexpr int ROW_NUMBER_DIGITS = 2;
 
 // The action's own label is shown where the words have none: the library may know more properties than they do.
 QString label_of(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property)
@@ -44,6 +51,25 @@ QString label_of(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property)
     const bool has_word = property >= 0 && property < GFPDB_ACT_PROPERTY_COUNT;
     return has_word ? gfpq_from_utf8(GFPQ_PROPERTY_LABELS[property])
                     : gfpq_from_local(action.get_property_label(property));
+}
+
+// A tool tip that shows `text` as it stands, never as markup, with its blanks, and in lines that fit on the screen.
+QString plain_tool_tip(const QString& text)
+{
+    return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
+}
+
+// The width in which the table shows every label and the beginning of every value.
+int usable_width(const QTableView& table)
+{
+    const QFontMetrics metrics = table.fontMetrics();
+    int label = 0;
+    for (const char* const text : GFPQ_PROPERTY_LABELS)
+        label = std::max(label, metrics.horizontalAdvance(gfpq_from_utf8(text)));
+    const int digits = (MIN_VALUE_DIGITS + ROW_NUMBER_DIGITS) * metrics.horizontalAdvance(QLatin1Char('0'));
+    // Of the two columns and the vertical header, on either side.
+    const int margins = 3 * 2 * table.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &table);
+    return label + digits + margins + table.verticalScrollBar()->sizeHint().width() + 2 * table.frameWidth();
 }
 
 // The colours of charts and palettes are fixed, so is what they are drawn on.
@@ -105,6 +131,8 @@ QBoxLayout* GPFQ_OPERATION_TAB_WIDGET::create_editor(int operation)
 
     QGraphicsView* const palette_view = create_view(create_palette_scene(operation), Qt::AlignTop);
     palette_view->setMaximumWidth(PALETTE_MAX_WIDTH);
+    // Nor does the chart take the entries' room.
+    palette_view->setMinimumWidth(std::min(palette_view->sizeHint().width(), PALETTE_MAX_WIDTH));
     layout->addWidget(palette_view, 0);
 
     m_flow_scene = new GFPQ_FLOW_SCENE(this, operation);
@@ -113,6 +141,8 @@ QBoxLayout* GPFQ_OPERATION_TAB_WIDGET::create_editor(int operation)
 
     m_property_table = new QTableView(this);
     m_property_table->setObjectName(QStringLiteral("m_property_table"));
+    // A block with a long value makes the chart ask for as much room as there is.
+    m_property_table->setMinimumWidth(usable_width(*m_property_table));
     m_property_table->viewport()->installEventFilter(this);
     layout->addWidget(m_property_table, 0);
     return layout;
@@ -279,18 +309,26 @@ void GPFQ_OPERATION_TAB_WIDGET::center_chart()
     bar.setValue((bar.minimum() + bar.maximum()) / 2);
 }
 
-// The tool tip of a cell is the cell's text as it stands, never markup.
+// What the user stored last, or else the text, if not all of it is in sight.
+QString GPFQ_OPERATION_TAB_WIDGET::tool_tip_of(const QModelIndex& cell) const
+{
+    const QString stored = cell.data(Qt::ToolTipRole).toString();
+    const bool is_elided =
+        m_property_table->sizeHintForIndex(cell).width() > m_property_table->visualRect(cell).width();
+    return stored.isEmpty() && is_elided ? cell.data().toString() : stored;
+}
+
 bool GPFQ_OPERATION_TAB_WIDGET::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != m_property_table->viewport() || event->type() != QEvent::ToolTip)
         return QWidget::eventFilter(watched, event);
     const auto& help = static_cast<const QHelpEvent&>(*event);
     const QModelIndex index = m_property_table->indexAt(help.pos());
-    const QString text = index.data(Qt::ToolTipRole).toString().left(TOOL_TIP_MAX_LENGTH);
+    const QString text = tool_tip_of(index).left(TOOL_TIP_MAX_LENGTH);
     if (text.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(help.globalPos(), Qt::convertFromPlainText(text), m_property_table->viewport(),
+        QToolTip::showText(help.globalPos(), plain_tool_tip(text), m_property_table->viewport(),
                            m_property_table->visualRect(index));
     return true;
 }

@@ -66,6 +66,7 @@ private:
     GFPQ_ACTION_MENU_ITEM* add_palette_entry(QGraphicsScene& scene, GFPDB_ACT_TYPE type, double y);
     void set_up_property_table();
     void append_property_row(const GFPDB_ACTION& action, GFPDB_ACT_PROPERTY property);
+    QString tool_tip_of(const QModelIndex& cell) const;
     void center_chart();
 
     QStandardItemModel m_property_model;

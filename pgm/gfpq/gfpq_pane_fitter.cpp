@@ -75,9 +75,14 @@ void GFPQ_PANE_FITTER::fit()
 // With all titles in sight, the dialog's smallest width is what they take.
 void gfpq_fit_titles(QWidget& dialog, QTabWidget& pages)
 {
+    // As long as the pages are not shown, their surroundings must be told that they need another size.
+    const auto set_scrolls = [&pages](bool scrolls) {
+        pages.setUsesScrollButtons(scrolls);
+        pages.updateGeometry();
+    };
     const bool scrolls = pages.usesScrollButtons();
-    pages.setUsesScrollButtons(false);
+    set_scrolls(false);
     const int width = dialog.minimumSizeHint().width();
-    pages.setUsesScrollButtons(scrolls);
+    set_scrolls(scrolls);
     dialog.resize(std::max(dialog.width(), width), dialog.height());
 }

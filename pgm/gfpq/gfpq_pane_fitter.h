@@ -8,8 +8,8 @@ class QSplitter;
 class QTabWidget;
 
 // Widens the pane of `splitter` that holds `area`, its last, as long as the contents of the area would be cut sideways
-// otherwise, up to three quarters of the splitter. What fits is left as the splitter divides it. From the moment on that
-// the user moves the handle, it stays where the user puts it. Owned by `splitter`.
+// otherwise, up to three quarters of the splitter. What fits is left as the splitter divides it. From the moment on
+// that the user moves the handle, it stays where the user puts it. Owned by `splitter`.
 class GFPQ_PANE_FITTER : public QObject
 {
     Q_OBJECT

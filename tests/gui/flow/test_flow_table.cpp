@@ -3,8 +3,45 @@
 
 #include <QHelpEvent>
 #include <QLineEdit>
-#include <QTextDocument>
+#include <QScreen>
+#include <QScrollBar>
 #include <QToolTip>
+
+namespace {
+
+// `count` data bytes as the flash database writes them.
+std::string data_bytes(int count)
+{
+    std::string text;
+    for (int byte = 0; byte < count; ++byte)
+        text += QStringLiteral("%1 ").arg(byte % 256, 2, 16, QLatin1Char('0')).toUpper().toStdString();
+    return text.empty() ? text : text.substr(0, text.size() - 1);
+}
+
+// What the mouse brings about when it rests on a cell; off the cells for an invalid index.
+void ask_for_tool_tip(QTableView& table, const QModelIndex& index)
+{
+    const QPoint pos = index.isValid() ? table.visualRect(index).center() : table.viewport()->rect().bottomLeft();
+    QHelpEvent help(QEvent::ToolTip, pos, table.viewport()->mapToGlobal(pos));
+    QApplication::sendEvent(table.viewport(), &help);
+}
+
+QString plain_tip(const QString& text)
+{
+    return QStringLiteral("<p style=\"white-space: pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
+}
+
+QWidget* shown_tool_tip()
+{
+    const QList<QWidget*> windows = QApplication::topLevelWidgets();
+    for (QWidget* const window : windows) {
+        if (window->inherits("QTipLabel") && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+} // namespace
 
 class TEST_FLOW_TABLE : public PAGE_TEST
 {
@@ -22,6 +59,10 @@ private slots:
     void the_label_column_fits_its_labels();
     void values_are_shown_as_they_stand();
     void tool_tips_are_plain_text();
+    void long_values_leave_the_table_a_usable_width_data();
+    void long_values_leave_the_table_a_usable_width();
+    void the_tool_tip_of_an_elided_cell_shows_all_of_it();
+    void a_cell_that_is_whole_has_no_tool_tip();
 };
 
 void TEST_FLOW_TABLE::rows_show_label_and_value_in_the_actions_order_data()
@@ -208,17 +249,87 @@ void TEST_FLOW_TABLE::tool_tips_are_plain_text()
     page->commit_open_editor();
     QCOMPARE(value_cell(*page, 0).data(Qt::ToolTipRole).toString(), text);
     QTableView& table = *property_table_of(*page);
-    const auto ask = [&table](const QPoint& pos) {
-        QHelpEvent help(QEvent::ToolTip, pos, table.viewport()->mapToGlobal(pos));
-        QApplication::sendEvent(table.viewport(), &help);
-    };
 
-    ask(table.visualRect(value_cell(*page, 0)).center());
+    ask_for_tool_tip(table, value_cell(*page, 0));
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text(), Qt::convertFromPlainText(text.left(1000)));
+    QCOMPARE(QToolTip::text(), plain_tip(text.left(4000)));
 
-    ask(table.visualRect(value_cell(*page, 1)).center());
+    ask_for_tool_tip(table, value_cell(*page, 1));
     QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TEST_FLOW_TABLE::long_values_leave_the_table_a_usable_width_data()
+{
+    QTest::addColumn<int>("bytes");
+
+    for (const int bytes : {0, 16, 256, 4096})
+        QTest::addRow("%d bytes", bytes) << bytes;
+}
+
+void TEST_FLOW_TABLE::long_values_leave_the_table_a_usable_width()
+{
+    QFETCH(const int, bytes);
+    const ACTION_LIST actions({make_action(2, {{16, data_bytes(bytes)}})});
+    const auto page = show_page(1, actions.get(), true, QSize(740, 500));
+    const QTableView& table = *property_table_of(*page);
+
+    click(*flow_view_of(*page), on_shape(scene_of(*page), 1));
+
+    // The longest label and a value of a dozen digits, whatever the chart would like to have.
+    const QFontMetrics metrics = table.fontMetrics();
+    const int label = metrics.horizontalAdvance(QStringLiteral("Command-Address-Data(bus width):"));
+    QVERIFY(table.columnWidth(0) >= label);
+    QVERIFY(table.columnWidth(1) >= metrics.horizontalAdvance(QStringLiteral("000000000000")));
+    QCOMPARE(table.horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(page->width(), 740);
+    // The palette shows its entries, and the chart scrolls.
+    QCOMPARE(palette_view_of(*page)->horizontalScrollBar()->minimum(),
+             palette_view_of(*page)->horizontalScrollBar()->maximum());
+    const QGraphicsView& view = *flow_view_of(*page);
+    QVERIFY(view.width() >= view.minimumSizeHint().width());
+    QCOMPARE(view.horizontalScrollBar()->maximum() > view.horizontalScrollBar()->minimum(),
+             view.sceneRect().width() > view.viewport()->width());
+    QCOMPARE(table.textElideMode(), Qt::ElideRight);
+}
+
+void TEST_FLOW_TABLE::the_tool_tip_of_an_elided_cell_shows_all_of_it()
+{
+    const std::string data = data_bytes(256);
+    const ACTION_LIST actions({make_action(2, {{16, data}})});
+    const auto page = show_selected(actions.get());
+    QTableView& table = *property_table_of(*page);
+
+    ask_for_tool_tip(table, value_cell(*page, 3));
+
+    QVERIFY(QToolTip::isVisible());
+    QCOMPARE(QToolTip::text(), plain_tip(QString::fromStdString(data)));
+    const QWidget* const tip = shown_tool_tip();
+    QVERIFY(tip != nullptr);
+    QVERIFY(tip->width() < tip->screen()->geometry().width());
+    QVERIFY(tip->height() > 2 * tip->fontMetrics().height());
+    // The cell itself has no tool tip of its own before it is edited.
+    QCOMPARE(value_cell(*page, 3).data(Qt::ToolTipRole), QVariant());
+    // A label that the user has made too narrow, as well.
+    table.setColumnWidth(0, 30);
+    ask_for_tool_tip(table, rows_of(*page).index(7, 0));
+    QCOMPARE(QToolTip::text(), plain_tip(QStringLiteral("Command-Address-Data(bus width):")));
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void TEST_FLOW_TABLE::a_cell_that_is_whole_has_no_tool_tip()
+{
+    const ACTION_LIST actions({make_action(2, {{16, data_bytes(2)}})});
+    const auto page = show_selected(actions.get());
+
+    for (int row = 0; row < rows_of(*page).rowCount(); ++row) {
+        for (int column = 0; column < 2; ++column) {
+            ask_for_tool_tip(*property_table_of(*page), rows_of(*page).index(row, column));
+            QVERIFY(!QToolTip::isVisible());
+        }
+    }
+    ask_for_tool_tip(*property_table_of(*page), QModelIndex());
+    QVERIFY(!QToolTip::isVisible());
 }
 
 GFPQ_TEST_MAIN(TEST_FLOW_TABLE)

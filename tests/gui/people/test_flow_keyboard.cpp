@@ -30,6 +30,7 @@ private slots:
     void keys_go_on_from_their_place_after_a_rebuild();
     void the_selected_block_fills_the_property_table();
     void the_block_that_the_keys_go_to_is_scrolled_into_view();
+    void of_a_block_wider_than_the_view_the_middle_is_shown();
     void other_modifiers_are_left_to_the_view();
     void the_menu_key_means_the_arrow_below_the_last_selected_block();
     void the_menu_key_means_the_first_arrow_when_nothing_is_selected();
@@ -163,6 +164,25 @@ void TEST_FLOW_KEYBOARD::the_block_that_the_keys_go_to_is_scrolled_into_view()
     QVERIFY(shown());
     press(Qt::Key_Home);
     QVERIFY(shown());
+}
+
+void TEST_FLOW_KEYBOARD::of_a_block_wider_than_the_view_the_middle_is_shown()
+{
+    GFPDB_OPERATION* const operation = mgr().flashes.at("My part")->operations.at(false).front();
+    operation->add_action(make_named_action(GFPDB_ACT_WRITE_REGISTER, std::string(500, 'x')));
+    open_dialog();
+    show_operation_page(GFPDB_OPERATION_INITIALIZATION);
+    for (const bool from_the_left : {true, false}) {
+        QScrollBar& bar = *chart().horizontalScrollBar();
+        bar.setValue(from_the_left ? bar.minimum() : bar.maximum());
+
+        press(Qt::Key_End);
+
+        const QGraphicsItem& block = *chart().scene()->selectedItems().first();
+        QVERIFY(block.sceneBoundingRect().width() > 2 * chart().viewport()->width());
+        const QPoint middle = chart().mapFromScene(block.sceneBoundingRect().center());
+        QVERIFY(chart().viewport()->rect().contains(middle));
+    }
 }
 
 void TEST_FLOW_KEYBOARD::other_modifiers_are_left_to_the_view()

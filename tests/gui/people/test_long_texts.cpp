@@ -212,18 +212,16 @@ void TEST_LONG_TEXTS::panes_that_cut_nothing_are_as_the_form_has_them()
 
 void TEST_LONG_TEXTS::the_dialog_can_be_made_narrow()
 {
+    // Before it is shown, too: that is when a host brings its size back.
+    GFPQ_DLG hidden(nullptr, FAMILY, SCHEME, "My part", true, true, true, {});
+    QVERIFY(hidden.minimumSizeHint().width() <= 700);
     GFPQ_DLG& dialog = open_new_device();
 
     dialog.resize(700, dialog.height());
 
     QTRY_COMPARE(dialog.width(), 700);
     QTRY_COMPARE(fields().horizontalScrollBar()->maximum(), 0);
-    // Down to what the family combo box takes.
-    dialog.resize(600, dialog.height());
-    QTRY_COMPARE(dialog.width(), 600);
-    QTRY_VERIFY(splitter().sizes().last() >= splitter().width() * 70 / 100);
-    QVERIFY(fields().horizontalScrollBar()->maximum() > 0);
-    // What does not fit is scrolled to, titles as well.
+    // Titles that do not fit are scrolled to.
     tabs().setCurrentIndex(5);
     const QTabBar& bar = *tabs().tabBar();
     QTRY_VERIFY(bar.rect().contains(bar.tabRect(5)));
