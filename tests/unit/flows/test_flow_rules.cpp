@@ -97,6 +97,8 @@ private slots:
     void a_read_that_is_not_of_the_image_is_executed_as_it_stands();
     void the_image_ends_with_the_device_data();
     void the_image_ends_with_the_device();
+    void delays_are_waited_for_data();
+    void delays_are_waited_for();
     void an_address_fits_its_bytes_data();
     void an_address_fits_its_bytes();
     void an_id_needs_a_record_with_an_id();
@@ -420,6 +422,43 @@ void TEST_FLOW_RULES::the_image_ends_with_the_device()
         QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
 
     QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 2 : 0));
+}
+
+void TEST_FLOW_RULES::delays_are_waited_for_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("property");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<qint64>("waited");
+    const auto add = [](const char* name, int type, int property, int answer, qint64 waited) {
+        QTest::newRow(name) << type << property << answer << waited;
+    };
+    add("after a register write", GFPDB_ACT_WRITE_REGISTER, GFPDB_WR_DELAY, 0, 70);
+    add("not after a register read that passes", GFPDB_ACT_READ_REGISTER, GFPDB_RR_DELAY, 0, 0);
+    add("between its attempts", GFPDB_ACT_READ_REGISTER, GFPDB_RR_DELAY, 1, 140);
+    add("after a page", GFPDB_ACT_WRITE_DATA, GFPDB_WD_DELAY, 0, 70);
+    add("after a read", GFPDB_ACT_READ_DATA, GFPDB_RD_DELAY, 0, 70);
+    add("after an erase", GFPDB_ACT_ERASE, GFPDB_ER_DELAY, 0, 70);
+}
+
+// Three attempts with two delays between them; one delay after each other command.
+void TEST_FLOW_RULES::delays_are_waited_for()
+{
+    QFETCH(int, type);
+    QFETCH(int, property);
+    QFETCH(int, answer);
+    QFETCH(qint64, waited);
+    RUN run(256);
+    run.image.add(0, FLOW_BYTES(256, 0x00));
+    run.bus.answer(0x05, {static_cast<std::uint8_t>(answer)});
+    GFPDB_ACTION* action = make(type, {{property, "70"},
+                                       {GFPDB_RR_ATTEMPT_COUNT, "3"},
+                                       {GFPDB_WD_ADDRESS, "0x00000000"},
+                                       {GFPDB_ER_ADDRESS, "0x00000000"}});
+
+    QCOMPARE(run.execute(GFPDB_OPERATION_PROGRAM, {action}), answer == 0);
+
+    QCOMPARE(qint64(run.bus.m_waited_us), waited);
 }
 
 void TEST_FLOW_RULES::an_address_fits_its_bytes_data()
