@@ -68,6 +68,17 @@ const std::vector<std::string>& gfpdb_builtin_names()
     return NAMES;
 }
 
+const std::vector<std::string>& gfpdb_builtin_keys()
+{
+    static const std::vector<std::string> KEYS = [] {
+        std::vector<std::string> keys;
+        for (const std::string& name : gfpdb_builtin_names())
+            keys.push_back(gfpdb_name_key(name));
+        return keys;
+    }();
+    return KEYS;
+}
+
 const GFPDB_PART* gfpdb_builtin_part(const std::string& name)
 {
     const auto place = parts_by_key().find(gfpdb_name_key(name));
@@ -100,10 +111,13 @@ bool gfpdb_check_record_name(const std::string& name, const std::string& what, s
 {
     if (!gfpdb_check_name(name, what, error))
         return false;
-    const bool is_device = gfpdb_builtin_part(name) != nullptr;
-    if (!is_device && gfpdb_builtin_template(name) < 0)
+    const GFPDB_PART* part = gfpdb_builtin_part(name);
+    const int template_index = gfpdb_builtin_template(name);
+    if (part == nullptr && template_index < 0)
         return true;
-    error = std::string("There is a built-in ") + (is_device ? "device" : "template") + " called " +
-            gfpdb_quoted(name) + ": choose another name.";
+    const std::string& stored =
+        part != nullptr ? part->name : gfpdb_builtin_template_names()[static_cast<std::size_t>(template_index)];
+    error = std::string("There is a built-in ") + (part != nullptr ? "device" : "template") + " called " +
+            gfpdb_quoted(stored) + ": choose another name." + gfpdb_case_note(stored, name);
     return false;
 }

@@ -12,6 +12,8 @@
 
 // The names of the parts, in the order of the catalogue.
 const std::vector<std::string>& gfpdb_builtin_names();
+// Their keys (gfpdb_name_key()), in the same order.
+const std::vector<std::string>& gfpdb_builtin_keys();
 // The part called `name`, or null.
 const GFPDB_PART* gfpdb_builtin_part(const std::string& name);
 // The record of the part called `name`, or null. What the catalogue does not know of the part is not set.

@@ -13,6 +13,8 @@
 
 #include "dstr/dstr.h"
 
+#include <algorithm>
+
 namespace {
 
 const std::string DEVICE_NAME = "device name";
@@ -101,15 +103,37 @@ GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_f
     return found;
 }
 
+std::string GFPDB_EMBEDDED_MGR::device_place(const std::string& name) const
+{
+    return "device " + std::to_string(m_family) + ' ' + std::to_string(m_scheme) + ' ' + gfpdb_name_key(name);
+}
+
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
 {
-    const std::string place =
-        "device " + std::to_string(m_family) + ' ' + std::to_string(m_scheme) + ' ' + gfpdb_name_key(name);
+    const std::string place = device_place(name);
     const std::string revision = m_store->get_device_revision(m_family, m_scheme, name);
-    if (GFPDB_EMBEDDED_FLASH* record = find_read(place, revision))
-        return record;
-    const std::optional<GFPDB_ROW> row = m_store->find_device(m_family, m_scheme, name);
-    return row ? keep_read(place, *row, false) : nothing_read();
+    GFPDB_EMBEDDED_FLASH* record = find_read(place, revision);
+    if (record == nullptr) {
+        const std::optional<GFPDB_ROW> row = m_store->find_device(m_family, m_scheme, name);
+        record = row ? keep_read(place, *row, false) : nothing_read();
+    }
+    if (record != nullptr || m_last_error.empty())
+        m_unread.erase(m_store->get_directory() + place);
+    else
+        m_unread[m_store->get_directory() + place] = m_last_error;
+    return record;
+}
+
+// What a user has not seen is neither deleted nor replaced. What is wrong with the whole database is said first.
+bool GFPDB_EMBEDDED_MGR::check_seen(GFPDB_STORE& store, const std::string& name)
+{
+    const auto unread = m_unread.find(store.get_directory() + device_place(name));
+    if (unread == m_unread.end())
+        return true;
+    if (!store.can_be_changed())
+        return fail(store.get_last_error());
+    return fail("The device " + gfpdb_quoted(name) + " is neither deleted nor replaced, because it could not be read " +
+                "when it was last looked for: " + unread->second);
 }
 
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
@@ -169,6 +193,8 @@ std::string GFPDB_EMBEDDED_MGR::get_last_error() const
 // A custom device of the part's name is the user's own and never hidden.
 bool GFPDB_EMBEDDED_MGR::is_hidden_flash(const std::string& name, bool flows) const
 {
+    if (!flows)
+        m_asked = GFPDB_ASKED_DEVICE{name, std::string()};
     const GFPDB_PART* part = is_builtin_flash(name) ? gfpdb_builtin_part(name) : nullptr;
     const bool is_hidden = part != nullptr && (flows ? part->flows_hidden : part->properties_hidden);
     return is_hidden && !is_custom_flash(name);
@@ -227,16 +253,33 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
 
 bool GFPDB_EMBEDDED_MGR::check_device_name(const std::string& name, std::string& error) const
 {
-    if (!gfpdb_check_record_name(name, DEVICE_NAME, error))
+    m_asked.entered = name;
+    if (!gfpdb_check_name(name, DEVICE_NAME, error))
+        return false;
+    const std::string stored = m_store->get_device_name(m_family, m_scheme, name);
+    if (stored.empty() && !gfpdb_check_record_name(name, DEVICE_NAME, error))
         return false;
     if (!m_store->is_writable())
         return refuse(error, m_store->get_problem());
-    if (!m_store->get_template_revision(name).empty())
-        return refuse(error, "There is a stored template called " + gfpdb_quoted(name) + ": choose another name.");
-    if (is_custom_flash(name))
-        return refuse(error, "There is a device called " + gfpdb_quoted(name) +
-                                 " for this family and configuration mode: choose another name.");
-    return true;
+    const std::string in_the_way = m_store->get_template_name(name);
+    if (!in_the_way.empty())
+        return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
+                                 ": choose another name." + gfpdb_case_note(in_the_way, name));
+    return stored.empty() || check_stored_device_name(stored, name, error);
+}
+
+// The device that is shown may change the case of its name.
+bool GFPDB_EMBEDDED_MGR::check_stored_device_name(const std::string& stored, const std::string& name,
+                                                  std::string& error) const
+{
+    const bool is_shown = stored == m_asked.shown;
+    if (is_shown && stored != name)
+        return true;
+    const std::string device = "There is a device called " + gfpdb_quoted(stored);
+    if (is_shown)
+        return refuse(error, device + ": it is the one that is shown. Enter another name to rename it.");
+    return refuse(error, device + " for this family and configuration mode: choose another name." +
+                             gfpdb_case_note(stored, name));
 }
 
 bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::string& error) const
@@ -245,12 +288,30 @@ bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::strin
         return false;
     if (!m_store->is_writable())
         return refuse(error, m_store->get_problem());
-    if (!m_store->get_template_revision(name).empty())
-        return refuse(error, "There is a stored template called " + gfpdb_quoted(name) +
-                                 ": choose another name, or remove that template first.");
-    if (m_store->has_device(name))
-        return refuse(error, "There is a device called " + gfpdb_quoted(name) + ": choose another name.");
-    return true;
+    const std::string in_the_way = m_store->get_template_name(name);
+    if (!in_the_way.empty())
+        return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
+                                 ": choose another name, or remove that template first." +
+                                 gfpdb_case_note(in_the_way, name));
+    // A dialog has words of its own for a template name that is the device's.
+    if (name == m_asked.name())
+        return true;
+    if (gfpdb_name_key(name) == gfpdb_name_key(m_asked.name()))
+        return refuse(error, "The template name " + gfpdb_quoted(name) + " differs from the device name " +
+                                 gfpdb_quoted(m_asked.name()) + " in case only: choose another name.");
+    const std::string device = m_store->get_any_device_name(name);
+    return device.empty() || refuse(error, "There is a device called " + gfpdb_quoted(device) +
+                                               ": choose another name." + gfpdb_case_note(device, name));
+}
+
+// A device whose name a built-in part has got since can be saved; a new one cannot take such a name.
+bool GFPDB_EMBEDDED_MGR::check_saved_name(GFPDB_STORE& store, const std::string& name, const GFPDB_TAKEN* taken,
+                                          std::string& error) const
+{
+    const bool is_taken = taken != nullptr && gfpdb_name_key(taken->name) == gfpdb_name_key(name);
+    const bool is_known = is_taken || !store.get_device_name(m_family, m_scheme, name).empty();
+    return is_known && gfpdb_builtin_part(name) != nullptr ? gfpdb_check_name(name, DEVICE_NAME, error)
+                                                           : gfpdb_check_record_name(name, DEVICE_NAME, error);
 }
 
 bool GFPDB_EMBEDDED_MGR::is_property_used(GFPDB_FLASH_PROPERTY property) const
@@ -297,8 +358,10 @@ bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE&
         return fail("There is no record to save.");
     if (!can_add_flash())
         return fail("The configuration mode has no flash devices.");
-    if (!gfpdb_check_record_name(record->get_name(), DEVICE_NAME, error))
+    if (!check_saved_name(store, record->get_name(), taken, error))
         return fail(error);
+    if (!check_seen(store, record->get_name()))
+        return false;
     const std::string template_name = record->get_string_property(GFPDB_FLASH_TEMPLATE_NAME);
     if (!template_name.empty() && !gfpdb_check_record_name(template_name, TEMPLATE_NAME, error))
         return fail(error);
@@ -331,6 +394,8 @@ bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string
     m_taken.reset();
     GFPDB_STORE& store = store_of(directory);
     m_taken_from = store.get_directory();
+    if (!check_seen(store, name))
+        return false;
     return store.remove_device(m_family, m_scheme, name, &m_taken) || fail(store.get_last_error());
 }
 
@@ -378,11 +443,16 @@ std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_custom_flash_names(std::vector
 std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_builtin_flash_names(std::vector<std::string>& names, int family,
                                                                       int scheme, int reserved) const
 {
-    Q_UNUSED(family)
     Q_UNUSED(reserved)
     names.clear();
-    if (gfpdb_scheme_kind(scheme) == GFPDB_SCHEME_KIND::SERIAL)
-        names = gfpdb_builtin_names();
+    if (gfpdb_scheme_kind(scheme) != GFPDB_SCHEME_KIND::SERIAL)
+        return names;
+    const std::vector<std::string>& keys = gfpdb_builtin_keys();
+    const std::vector<std::string> custom = m_store->find_device_keys(family, scheme, keys);
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (std::find(custom.begin(), custom.end(), keys[i]) == custom.end())
+            names.push_back(gfpdb_builtin_names()[i]);
+    }
     return names;
 }
 

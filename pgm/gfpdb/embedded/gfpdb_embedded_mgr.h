@@ -12,6 +12,18 @@
 #include <unordered_map>
 #include <vector>
 
+// Which device the user is asked about, as far as the calls tell: what checks of names go by.
+struct GFPDB_ASKED_DEVICE
+{
+    // The name that is_hidden_flash(name, false) was last asked about, which begins with every device that is shown and
+    // with every Apply.
+    std::string shown;
+    // The device name that was checked last since then: the one that is about to be given. Empty when none was.
+    std::string entered;
+
+    const std::string& name() const { return entered.empty() ? shown : entered; }
+};
+
 // The one manager of the process: custom devices and stored templates from the database of the custom directory,
 // built-in devices from the catalogue. docs/database.md has the rules. A read that fails gives what there is without
 // the database; what is wrong is in get_last_error(), in GFPDB_HELPER::get_database_problem() and in the log.
@@ -79,8 +91,13 @@ private:
     GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::string& revision) const;
     GFPDB_EMBEDDED_FLASH* keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template);
     GFPDB_EMBEDDED_FLASH* nothing_read();
+    bool check_seen(GFPDB_STORE& store, const std::string& name);
+    std::string device_place(const std::string& name) const;
     bool check_device_name(const std::string& name, std::string& error) const;
     bool check_template_name(const std::string& name, std::string& error) const;
+    bool check_stored_device_name(const std::string& stored, const std::string& name, std::string& error) const;
+    bool check_saved_name(GFPDB_STORE& store, const std::string& name, const GFPDB_TAKEN* taken,
+                          std::string& error) const;
     static bool check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name, std::string& error);
     bool fail(const std::string& error);
     bool store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_TAKEN* taken);
@@ -97,6 +114,9 @@ private:
     // once replaces it, or puts it back; any other call that loads or changes something ends it.
     std::optional<GFPDB_TAKEN> m_taken;
     std::string m_taken_from;
+    mutable GFPDB_ASKED_DEVICE m_asked;
+    // The places of devices that could not be read when they were last looked for, and why.
+    std::unordered_map<std::string, std::string> m_unread;
     // Every record that was made or read; the last one that was read from each place of a database.
     std::vector<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_records;
     std::unordered_map<std::string, GFPDB_EMBEDDED_FLASH*> m_read_records;

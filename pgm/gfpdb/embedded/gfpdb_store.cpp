@@ -42,6 +42,16 @@ constexpr char REASON_PUT_BACK[] = "put back";
     "INSERT INTO history (is_template, reason, changed_at, changed_by, " GFPDB_COLUMNS                                 \
     ") SELECT ?, ?, ?, ?, " GFPDB_COLUMNS " "
 
+// The name of a record as it is stored.
+constexpr char DEVICE_NAME_OF_KEY[] =
+    "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+constexpr char ANY_DEVICE_NAME_OF_KEY[] = "SELECT CAST(name AS BLOB) FROM device WHERE name_key = CAST(? AS TEXT)";
+constexpr char TEMPLATE_NAME_OF_KEY[] =
+    "SELECT CAST(template_name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)";
+
+// So many question marks are asked for in one statement.
+constexpr std::size_t KEYS_AT_ONCE = 500;
+
 constexpr int HISTORY_COLUMNS = 5;
 constexpr int SCALAR_COLUMNS = 12;
 
@@ -88,14 +98,13 @@ QVariantList history_values(bool is_template, const char* reason)
     return {is_template ? 1 : 0, QLatin1String(reason), now(), here()};
 }
 
-std::string device_in_the_way(const std::string& name)
-{
-    return "There is a device called " + gfpdb_quoted(name) + " already.";
-}
+constexpr char A_DEVICE[] = "device";
+constexpr char A_TEMPLATE[] = "stored template";
 
-std::string template_in_the_way(const std::string& name)
+std::string in_the_way(const char* what, const std::string& stored, const std::string& name)
 {
-    return "There is a stored template called " + gfpdb_quoted(name) + " already.";
+    return std::string("There is a ") + what + " called " + gfpdb_quoted(stored) + " already." +
+           gfpdb_case_note(stored, name);
 }
 
 // What GFPDB_VALUES asks for.
@@ -231,6 +240,48 @@ std::vector<std::string> GFPDB_STORE::get_template_names()
     return read_names(query);
 }
 
+std::string GFPDB_STORE::read_text(const char* statement, const QVariantList& values)
+{
+    QSqlQuery query;
+    return start_read(query, statement, values) && next_row(query) ? text_at(query, 0) : std::string();
+}
+
+std::string GFPDB_STORE::get_device_name(int family, int scheme, const std::string& name)
+{
+    return read_text(DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)});
+}
+
+std::string GFPDB_STORE::get_template_name(const std::string& template_name)
+{
+    return read_text(TEMPLATE_NAME_OF_KEY, {key_of(template_name)});
+}
+
+std::string GFPDB_STORE::get_any_device_name(const std::string& name)
+{
+    return read_text(ANY_DEVICE_NAME_OF_KEY, {key_of(name)});
+}
+
+std::vector<std::string> GFPDB_STORE::find_device_keys(int family, int scheme, const std::vector<std::string>& keys)
+{
+    std::vector<std::string> found;
+    for (std::size_t first = 0; first < keys.size(); first += KEYS_AT_ONCE) {
+        const std::size_t end = std::min(first + KEYS_AT_ONCE, keys.size());
+        std::string statement =
+            "SELECT CAST(name_key AS BLOB) FROM device WHERE family = ? AND scheme = ? AND name_key IN (";
+        QVariantList values = {family, scheme};
+        for (std::size_t i = first; i < end; ++i) {
+            statement += i == first ? "CAST(? AS TEXT)" : ", CAST(? AS TEXT)";
+            values << bytes_of(keys[i]);
+        }
+        QSqlQuery query;
+        if (!start_read(query, (statement + ')').c_str(), values))
+            return {};
+        const std::vector<std::string> part = read_names(query);
+        found.insert(found.end(), part.begin(), part.end());
+    }
+    return found;
+}
+
 std::optional<GFPDB_ROW> GFPDB_STORE::find_device(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
@@ -253,20 +304,13 @@ std::optional<GFPDB_ROW> GFPDB_STORE::find_template(const std::string& template_
 
 std::string GFPDB_STORE::get_device_revision(int family, int scheme, const std::string& name)
 {
-    QSqlQuery query;
-    if (!start_read(query, "SELECT revision FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-                    {family, scheme, key_of(name)}))
-        return std::string();
-    return next_row(query) ? text_at(query, 0) : std::string();
+    return read_text("SELECT revision FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                     {family, scheme, key_of(name)});
 }
 
 std::string GFPDB_STORE::get_template_revision(const std::string& template_name)
 {
-    QSqlQuery query;
-    if (!start_read(query, "SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)",
-                    {key_of(template_name)}))
-        return std::string();
-    return next_row(query) ? text_at(query, 0) : std::string();
+    return read_text("SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(template_name)});
 }
 
 bool GFPDB_STORE::check_integrity()
@@ -525,11 +569,11 @@ bool GFPDB_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
     return is_free && insert_template(row);
 }
 
-// Runs `query`; false, with `in_the_way` as the reason, when it finds a row.
-bool GFPDB_STORE::finds_none(QSqlQuery& query, const std::string& in_the_way)
+// Runs `query`; false, with the reason, when it finds the name of a record that `name` cannot be used beside.
+bool GFPDB_STORE::finds_none(QSqlQuery& query, const char* what, const std::string& name)
 {
     if (next_row(query))
-        return fail(in_the_way);
+        return fail(in_the_way(what, text_at(query, 0), name));
     return !query.lastError().isValid();
 }
 
@@ -553,26 +597,26 @@ bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
     if (!check_different_names(row))
         return false;
     QSqlQuery query;
-    const bool is_found = prepare(query, "SELECT CAST(name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)",
+    const bool is_found = prepare(query,
+                                  "SELECT CAST(name AS BLOB), CAST(template_name AS BLOB) FROM template "
+                                  "WHERE template_key = CAST(? AS TEXT)",
                                   {key_of(row.template_name)}) &&
                           next_row(query);
     if (is_found && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
-        return fail(template_in_the_way(row.template_name));
+        return fail(in_the_way(A_TEMPLATE, text_at(query, 1), row.template_name));
     return !query.lastError().isValid() && check_no_device(row.template_name);
 }
 
 bool GFPDB_STORE::check_no_template(const std::string& name)
 {
     QSqlQuery query;
-    return prepare(query, "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(name)}) &&
-           finds_none(query, template_in_the_way(name));
+    return prepare(query, TEMPLATE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_TEMPLATE, name);
 }
 
 bool GFPDB_STORE::check_no_device(const std::string& name)
 {
     QSqlQuery query;
-    return prepare(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)", {key_of(name)}) &&
-           finds_none(query, device_in_the_way(name));
+    return prepare(query, ANY_DEVICE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_DEVICE, name);
 }
 
 bool GFPDB_STORE::check_different_names(const GFPDB_ROW& row)
@@ -584,9 +628,7 @@ bool GFPDB_STORE::check_different_names(const GFPDB_ROW& row)
 bool GFPDB_STORE::check_no_such_device(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
-    return prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-                   {family, scheme, key_of(name)}) &&
-           finds_none(query, device_in_the_way(name));
+    return prepare(query, DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)}) && finds_none(query, A_DEVICE, name);
 }
 
 bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)

@@ -50,6 +50,8 @@ public:
     // True when the records of the directory can be read: also when there is no file yet, but one can be made.
     bool is_readable();
     bool is_writable();
+    // False, with the reason in get_last_error(), when a change would be refused now whatever it is.
+    bool can_be_changed() { return prepare_write(); }
     // What keeps the database from being read or written, as a sentence for the user; empty when nothing does.
     std::string get_problem();
     // Why the last call failed; empty when it did not.
@@ -64,6 +66,13 @@ public:
     // The record, or none; names are compared without regard to case.
     std::optional<GFPDB_ROW> find_device(int family, int scheme, const std::string& name);
     std::optional<GFPDB_ROW> find_template(const std::string& template_name);
+    // The name of the record as it is stored; empty when there is none.
+    std::string get_device_name(int family, int scheme, const std::string& name);
+    std::string get_template_name(const std::string& template_name);
+    // The name, as it is stored, of a device of any family and scheme; empty when none has that name.
+    std::string get_any_device_name(const std::string& name);
+    // Those of `keys` (gfpdb_name_key()) that are the keys of devices of (family, scheme), in no order.
+    std::vector<std::string> find_device_keys(int family, int scheme, const std::vector<std::string>& keys);
     // The revision of the record alone; empty when there is none.
     std::string get_device_revision(int family, int scheme, const std::string& name);
     std::string get_template_revision(const std::string& template_name);
@@ -173,12 +182,13 @@ private:
     bool next_row(QSqlQuery& query);
     bool note_read_problem();
     std::vector<std::string> read_names(QSqlQuery& query);
+    std::string read_text(const char* statement, const QVariantList& values);
     std::vector<GFPDB_ROW> read_rows(const char* statement);
     bool replace_device(const GFPDB_ROW& row);
     bool replace_template(const GFPDB_ROW& row);
     bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how);
-    bool finds_none(QSqlQuery& query, const std::string& in_the_way);
+    bool finds_none(QSqlQuery& query, const char* what, const std::string& name);
     bool look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
     bool read_revision(GFPDB_TAKEN& taken);
     bool find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row);

@@ -39,6 +39,14 @@ std::string gfpdb_name_key(const std::string& name)
     return gfpdb_to_utf8(gfpdb_from_utf8(name).normalized(QString::NormalizationForm_C).toCaseFolded());
 }
 
+std::string gfpdb_case_note(const std::string& stored, const std::string& asked)
+{
+    const auto form = [](const std::string& name) {
+        return gfpdb_from_utf8(name).normalized(QString::NormalizationForm_C);
+    };
+    return form(stored) == form(asked) ? std::string() : " Upper and lower case count as the same.";
+}
+
 std::string gfpdb_quoted(const std::string& text)
 {
     QString shown = gfpdb_from_utf8(text);

@@ -18,6 +18,10 @@ bool gfpdb_is_utf8(const std::string& text);
 // is encoded, have the same key.
 std::string gfpdb_name_key(const std::string& name);
 
+// What is to be added to the refusal of the name `asked` that is `stored` already: that case does not count, where the
+// two are spelled differently; else nothing.
+std::string gfpdb_case_note(const std::string& stored, const std::string& asked);
+
 // `text` in double quotes for a message to the user: line breaks and other control characters are shown as "?", and a
 // text of more than 64 characters is cut.
 std::string gfpdb_quoted(const std::string& text);

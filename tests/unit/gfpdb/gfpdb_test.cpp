@@ -11,6 +11,8 @@
 
 namespace {
 
+const QString OTHER_PROGRAM = QStringLiteral("another program");
+
 QString base_of(GFPDB_PLACE::ON medium)
 {
     const QFileInfo memory(QStringLiteral("/dev/shm"));
@@ -178,6 +180,20 @@ QVariant run_sql(const std::string& path, const std::string& statement)
     }
     QSqlDatabase::removeDatabase(connection);
     return value;
+}
+
+FOREIGN_LOCK::FOREIGN_LOCK(const std::string& file)
+{
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), OTHER_PROGRAM);
+    database.setDatabaseName(gfpdb_from_utf8(file));
+    if (!database.open() || !QSqlQuery(database).exec(QStringLiteral("BEGIN EXCLUSIVE")))
+        qFatal("cannot lock %s", file.c_str());
+}
+
+FOREIGN_LOCK::~FOREIGN_LOCK()
+{
+    QSqlDatabase::database(OTHER_PROGRAM).close();
+    QSqlDatabase::removeDatabase(OTHER_PROGRAM);
 }
 
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, const std::string& value)

@@ -69,6 +69,16 @@ QStringList open_files(const std::string& directory);
 // The first value of `statement`, run on the database in `path` past the library; invalid when it fails.
 QVariant run_sql(const std::string& path, const std::string& statement);
 
+// Another program that has the database in `file` locked, until the object goes.
+class FOREIGN_LOCK
+{
+public:
+    explicit FOREIGN_LOCK(const std::string& file);
+    ~FOREIGN_LOCK();
+    FOREIGN_LOCK(const FOREIGN_LOCK&) = delete;
+    FOREIGN_LOCK& operator=(const FOREIGN_LOCK&) = delete;
+};
+
 // The one text that a check gives back; empty when it passed.
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, const std::string& value);
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, int value);

@@ -237,7 +237,7 @@ void TST_BAD_FILES::a_damaged_page_is_reported_when_it_is_read()
     QVERIFY(!store.check_integrity());
     QVERIFY(store.get_last_error().find("The database in " + m_place->db_dir() + " is damaged: ") == 0);
     expect_warning_text(told);
-    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
+    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
     QCOMPARE(read_file(m_place->db_file()), content);
 
     // A copy is put back.

@@ -5,8 +5,6 @@
 #include "message_recorder.h"
 
 #include <QRegularExpression>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 #include <functional>
 
@@ -19,29 +17,6 @@ void expect_warning(const char* text)
 {
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(text)));
 }
-
-// Another program that has the database locked, until the object goes.
-class FOREIGN_LOCK
-{
-public:
-    explicit FOREIGN_LOCK(const std::string& file)
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), NAME);
-        database.setDatabaseName(QString::fromStdString(file));
-        if (!database.open() || !QSqlQuery(database).exec(QStringLiteral("BEGIN EXCLUSIVE")))
-            qFatal("cannot lock the database");
-    }
-    ~FOREIGN_LOCK()
-    {
-        QSqlDatabase::database(NAME).close();
-        QSqlDatabase::removeDatabase(NAME);
-    }
-    FOREIGN_LOCK(const FOREIGN_LOCK&) = delete;
-    FOREIGN_LOCK& operator=(const FOREIGN_LOCK&) = delete;
-
-private:
-    const QString NAME = QStringLiteral("another program");
-};
 
 } // namespace
 

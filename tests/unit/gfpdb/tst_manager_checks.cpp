@@ -25,13 +25,16 @@ void TST_MANAGER_CHECKS::device_names_are_checked_against_all_other_names()
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "fine"), std::string());
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, ""),
              std::string("The device name is empty: 1 to 64 characters are allowed."));
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "a"),
+             std::string("There is a device called \"A\" for this family and configuration mode: choose another name. "
+                         "Upper and lower case count as the same."));
     QCOMPARE(
-        checked(*m_mgr, GFPDB_FLASH_NAME, "a"),
-        std::string("There is a device called \"a\" for this family and configuration mode: choose another name."));
-    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "t"),
-             std::string("There is a stored template called \"t\": choose another name."));
+        checked(*m_mgr, GFPDB_FLASH_NAME, "t"),
+        std::string(
+            "There is a stored template called \"T\": choose another name. Upper and lower case count as the same."));
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "mx25l25645G"),
-             std::string("There is a built-in device called \"mx25l25645G\": choose another name."));
+             std::string("There is a built-in device called \"MX25L25645G\": choose another name. Upper and lower case "
+                         "count as the same."));
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, template_name),
              "There is a built-in template called \"" + template_name + "\": choose another name.");
     m_mgr->set_config_scheme(PGMIO_AVST_X8);
@@ -48,13 +51,15 @@ void TST_MANAGER_CHECKS::template_names_are_checked_against_all_other_names()
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "fine"), std::string());
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, ""),
              std::string("The template name is empty: 1 to 64 characters are allowed."));
-    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "a"),
-             std::string("There is a device called \"a\": choose another name."));
     QCOMPARE(
-        checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "t"),
-        std::string("There is a stored template called \"t\": choose another name, or remove that template first."));
+        checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "a"),
+        std::string("There is a device called \"A\": choose another name. Upper and lower case count as the same."));
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "t"),
+             std::string("There is a stored template called \"T\": choose another name, or remove that template first. "
+                         "Upper and lower case count as the same."));
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "mx25l25645G"),
-             std::string("There is a built-in device called \"mx25l25645G\": choose another name."));
+             std::string("There is a built-in device called \"MX25L25645G\": choose another name. Upper and lower case "
+                         "count as the same."));
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, template_name),
              "There is a built-in template called \"" + template_name + "\": choose another name.");
 }

@@ -239,23 +239,31 @@ void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()
     const QString device = QStringLiteral("There is a built-in device called \"%1\": choose another name.");
     const QString flow = QStringLiteral("There is a built-in template called \"%1\": choose another name.");
     const QString empty_blank = QStringLiteral("The %1 \" \" begins or ends with a blank: remove it.");
-    QTest::newRow("a built-in device's") << builtin << none << device.arg(builtin);
+    QTest::newRow("a built-in device's") << builtin << none
+                                         << device.arg(QString::fromStdString(BUILTIN)) +
+                                                QStringLiteral(" Upper and lower case count as the same.");
     QTest::newRow("a built-in template's") << builtin_template << none << flow.arg(builtin_template);
     const QString first_template = QString::fromStdString(gfpdb_builtin_template_names()[0]);
     QTest::newRow("the first built-in template's") << first_template << none << flow.arg(first_template);
-    QTest::newRow("a stored template's") << QStringLiteral("TEMPLATE") << none
-                                         << QStringLiteral("There is a stored template called \"TEMPLATE\" already.");
+    QTest::newRow("a stored template's")
+        << QStringLiteral("TEMPLATE") << none
+        << QStringLiteral(
+               "There is a stored template called \"Template\" already. Upper and lower case count as the same.");
     QTest::newRow("a blank") << QStringLiteral(" ") << none << empty_blank.arg(QStringLiteral("device name"));
     QTest::newRow("the new device's")
         << QStringLiteral("<<New device>>") << none
         << QStringLiteral("The device name \"<<New device>>\" is reserved for a new device: choose another.");
-    QTest::newRow("template: a built-in device's") << fine << builtin << device.arg(builtin);
+    QTest::newRow("template: a built-in device's")
+        << fine << builtin
+        << device.arg(QString::fromStdString(BUILTIN)) + QStringLiteral(" Upper and lower case count as the same.");
     QTest::newRow("template: a built-in template's") << fine << builtin_template << flow.arg(builtin_template);
     QTest::newRow("template: a device's")
-        << fine << QStringLiteral("dEVICE") << QStringLiteral("There is a device called \"dEVICE\" already.");
+        << fine << QStringLiteral("dEVICE")
+        << QStringLiteral("There is a device called \"Device\" already. Upper and lower case count as the same.");
     QTest::newRow("template: another device's template")
         << fine << QStringLiteral("TEMPLATE")
-        << QStringLiteral("There is a stored template called \"TEMPLATE\" already.");
+        << QStringLiteral(
+               "There is a stored template called \"Template\" already. Upper and lower case count as the same.");
     QTest::newRow("template: a blank") << fine << QStringLiteral(" ")
                                        << empty_blank.arg(QStringLiteral("template name"));
 }

@@ -81,7 +81,8 @@ void TST_MANAGER_TEMPLATES::a_template_can_be_stored_again_by_its_own_device_onl
     QCOMPARE(user_templates(*m_mgr), NAMES{"t"});
     QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM history WHERE is_template = 1").toInt(), 1);
     QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM history WHERE is_template = 0").toInt(), 1);
-    QCOMPARE(save_error("B", "T"), std::string("There is a stored template called \"T\" already."));
+    QCOMPARE(save_error("B", "T"),
+             std::string("There is a stored template called \"t\" already. Upper and lower case count as the same."));
 }
 
 void TST_MANAGER_TEMPLATES::a_removed_template_is_in_the_history_and_can_be_restored()
@@ -179,14 +180,16 @@ void TST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken_data()
     QTest::addColumn<QString>("device");
     QTest::addColumn<QString>("template_name");
     QTest::addColumn<QString>("error");
-    const QString a_device = QStringLiteral("There is a device called \"%1\" already.");
-    const QString a_template = QStringLiteral("There is a stored template called \"%1\" already.");
-    QTest::newRow("device by device") << false << QStringLiteral("a") << QString() << a_device.arg(QLatin1String("A"));
+    const QString a_device =
+        QStringLiteral("There is a device called \"%1\" already. Upper and lower case count as the same.");
+    const QString a_template =
+        QStringLiteral("There is a stored template called \"%1\" already. Upper and lower case count as the same.");
+    QTest::newRow("device by device") << false << QStringLiteral("a") << QString() << a_device.arg(QLatin1String("a"));
     QTest::newRow("device by template") << false << QStringLiteral("X") << QStringLiteral("a")
-                                        << a_template.arg(QLatin1String("A"));
-    QTest::newRow("template by device") << true << QStringLiteral("t") << QString() << a_device.arg(QLatin1String("T"));
+                                        << a_template.arg(QLatin1String("a"));
+    QTest::newRow("template by device") << true << QStringLiteral("t") << QString() << a_device.arg(QLatin1String("t"));
     QTest::newRow("template by template")
-        << true << QStringLiteral("X") << QStringLiteral("t") << a_template.arg(QLatin1String("T"));
+        << true << QStringLiteral("X") << QStringLiteral("t") << a_template.arg(QLatin1String("t"));
 }
 
 void TST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken()

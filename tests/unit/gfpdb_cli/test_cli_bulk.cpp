@@ -89,11 +89,14 @@ void TEST_CLI_BULK::one_record_that_is_refused_leaves_all_out_data()
     QTest::addColumn<QByteArray>("error");
     QTest::newRow("device like a stored template")
         << QByteArray("OLD template") << QByteArray("New template")
-        << QByteArray("There is a stored template called \"OLD template\" already.");
-    QTest::newRow("template like a stored device") << QByteArray("New") << QByteArray("OLD device")
-                                                   << QByteArray("There is a device called \"OLD device\" already.");
+        << QByteArray(
+               "There is a stored template called \"Old template\" already. Upper and lower case count as the same.");
+    QTest::newRow("template like a stored device")
+        << QByteArray("New") << QByteArray("OLD device")
+        << QByteArray("There is a device called \"Old device\" already. Upper and lower case count as the same.");
     QTest::newRow("device and template alike")
-        << QByteArray("New") << QByteArray("nEW") << QByteArray("There is a device called \"nEW\" already.");
+        << QByteArray("New") << QByteArray("nEW")
+        << QByteArray("There is a device called \"New\" already. Upper and lower case count as the same.");
 }
 
 void TEST_CLI_BULK::one_record_that_is_refused_leaves_all_out()

@@ -193,7 +193,9 @@ void TEST_CLI_HISTORY::restore_checks_the_other_name_data()
     const auto add = [](const char* row, const char* id, const QString& name, const QByteArray& error) {
         QTest::newRow(row) << QString(id) << name << "gfpdb: " + error + "\n";
     };
-    add("built-in device", "1", "mx25l1606e", "There is a built-in device called \"mx25l1606e\": choose another name.");
+    add("built-in device", "1", "mx25l1606e",
+        "There is a built-in device called \"MX25L1606E\": choose another name. Upper and lower case count as the "
+        "same.");
     add("built-in template", "2", "No QE bit",
         "There is a built-in template called \"No QE bit\": choose another name.");
     add("blank at its end", "1", "x ", "The device name \"x \" begins or ends with a blank: remove it.");

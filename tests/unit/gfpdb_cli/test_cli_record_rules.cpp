@@ -53,9 +53,11 @@ void TEST_CLI_RECORD_RULES::a_mistake_is_reported_with_line_and_field_data()
     add("\"family\": 3", "\"family\": 73", "7: devices[0].family: There is no family 73. Allowed: 1 to 72.");
     add("\"scheme\": 7", "\"scheme\": 14", "8: devices[0].scheme: The configuration mode 14 has no flash devices.");
     add("\"Mine\"", "\"mx25l1606e\"",
-        "6: devices[0].name: There is a built-in device called \"mx25l1606e\": choose another name.");
+        "6: devices[0].name: There is a built-in device called \"MX25L1606E\": choose another name. Upper and lower "
+        "case count as the same.");
     add("\"Mine\"", "\"no QE bit\"",
-        "6: devices[0].name: There is a built-in template called \"no QE bit\": choose another name.");
+        "6: devices[0].name: There is a built-in template called \"No QE bit\": choose another name. Upper and lower "
+        "case count as the same.");
     add("\"template_name\": \"\"", "\"template_name\": \"MX25L1606E\"",
         "15: devices[0].template_name: There is a built-in device called \"MX25L1606E\": choose another name.");
     add("\"quad_flows\": []", "\"quad_flows\": {}",
