@@ -30,7 +30,7 @@ const QStringList OF_THE_MOMENT =
 const QStringList OF_THE_DIALOG =
     list_of({"m_device_id_edit placeholderText", "m_device_table_view alternatingRowColors",
              "m_device_table_view selectionBehavior", "m_device_table_view selectionMode",
-             "m_device_table_view tabKeyNavigation", "m_prog_flows_tab_widget usesScrollButtons"});
+             "m_device_table_view tabKeyNavigation"});
 
 QString as_text(const QVariant& value)
 {
@@ -128,7 +128,8 @@ void TEST_OPENED_DIALOG::the_dialog_goes_on_from_its_form_in_a_few_places_only()
     QCOMPARE(dlg().size(), QSize(994, 892));
 
     QStringList differences;
-    const QList<QWidget*> of_the_form = bare.findChildren<QWidget*>(QRegularExpression(QStringLiteral("^[^q].*")));
+    // Without what Qt's widgets are made of, the scroll buttons of the tab bar among them.
+    const QList<QWidget*> of_the_form = bare.findChildren<QWidget*>(QRegularExpression(QStringLiteral("^[^qS].*")));
     for (const QWidget* const part : of_the_form) {
         const QWidget& opened = widget(part->objectName().toLatin1().constData());
         const QMetaObject& kind = *part->metaObject();
