@@ -1,5 +1,7 @@
 #include "module_loader.h"
 
+#include "path_trust.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
@@ -10,12 +12,6 @@ namespace {
 
 constexpr const char* ENTRY_POINT = "gfpq_dyn_dlg";
 const QString MODULE_NAME = QStringLiteral("libpgm_gfpq.so");
-
-// Everyone who may write there decides what this process runs.
-bool is_writable_by_everyone(const QString& path)
-{
-    return QFileInfo(path).permission(QFileDevice::WriteOther);
-}
 
 } // namespace
 
@@ -50,10 +46,13 @@ GFPQ_DYN_DLG MODULE_LOADER::load()
     if (file == m_files.cend())
         return fail(QStringLiteral("The dialog module is missing; it was looked for here:\n%1")
                         .arg(m_files.join(QLatin1Char('\n'))));
-    if (is_writable_by_everyone(*file) || is_writable_by_everyone(QFileInfo(*file).path()))
-        return fail(QStringLiteral("The dialog module %1 is not loaded: everyone may change it.").arg(*file));
+    // Everyone who may write there decides what this process runs.
+    const TRUSTED_PATH path = follow_path(*file);
+    if (!path.open_place.isEmpty())
+        return fail(
+            QStringLiteral("The dialog module %1 is not loaded: everyone may change %2.").arg(*file, path.open_place));
 
-    QLibrary library(*file);
+    QLibrary library(path.real_path);
     // A symbol that is missing is to be noticed here, not in the middle of the user's work.
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library.load())

@@ -25,10 +25,23 @@ std::vector<QString> file_names()
     return names;
 }
 
+struct TABLE
+{
+    TABLE() : rows(read_first_families(file_names(), &problem_of_first)) {}
+
+    QString problem_of_first;
+    std::vector<FAMILY_ROW> rows;
+};
+
+const TABLE& the_table()
+{
+    static const TABLE table;
+    return table;
+}
+
 const std::vector<FAMILY_ROW>& table()
 {
-    static const std::vector<FAMILY_ROW> rows = read_first_families(file_names());
-    return rows;
+    return the_table().rows;
 }
 
 // Null when the table does not have `family`.
@@ -59,4 +72,12 @@ std::vector<int> dstr_get_config_schemes(int family)
 {
     const FAMILY_ROW* row = find(family);
     return row ? row->schemes : std::vector<int>();
+}
+
+std::string dstr_get_problem()
+{
+    const QString& problem = the_table().problem_of_first;
+    if (problem.isEmpty() || !qEnvironmentVariableIsSet(FILE_VARIABLE))
+        return std::string();
+    return QStringLiteral("%1: %2.").arg(QLatin1String(FILE_VARIABLE), problem).toStdString();
 }

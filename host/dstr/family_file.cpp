@@ -7,13 +7,19 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <cerrno>
 #include <set>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
 Q_LOGGING_CATEGORY(DSTR_LOG, "host.dstr")
 
 constexpr int LAST_SCHEME = 25;
+constexpr int LARGEST_FILE = 1024 * 1024;
 const QByteArray HEADING = QByteArrayLiteral("value,name,schemes");
 const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
 
@@ -99,6 +105,44 @@ std::optional<FAMILY_ROW> LINE_READER::read(const QByteArray& line)
     return row;
 }
 
+struct FILE_CONTENT
+{
+    QByteArray content;
+    // Empty when the content is all of the file.
+    QString problem;
+};
+
+FILE_CONTENT read_resource(const QString& file_name)
+{
+    QFile file(file_name);
+    if (!file.open(QIODevice::ReadOnly))
+        return {QByteArray(), file.errorString()};
+    return {file.readAll(), QString()};
+}
+
+// What is open is looked at, not what the name led to before; opening waits for nobody.
+FILE_CONTENT read_regular_file(const QString& file_name)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(file_name).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        return {QByteArray(), qt_error_string(errno)};
+    QFile file;
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) ||
+        !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return {QByteArray(), QStringLiteral("it is not a regular file")};
+    }
+    // One byte more than may be there: the file's own word on its size is not asked.
+    const QByteArray content = file.read(LARGEST_FILE + 1);
+    if (file.error() != QFileDevice::NoError)
+        return {QByteArray(), file.errorString()};
+    if (content.size() > LARGEST_FILE)
+        return {QByteArray(), QStringLiteral("it is larger than 1 MiB")};
+    return {content, QString()};
+}
+
 } // namespace
 
 std::vector<FAMILY_ROW> parse_families(const QByteArray& content, const QString& file_name)
@@ -120,18 +164,27 @@ std::vector<FAMILY_ROW> parse_families(const QByteArray& content, const QString&
     return rows;
 }
 
-std::vector<FAMILY_ROW> read_first_families(const std::vector<QString>& file_names)
+FAMILY_FILE read_family_file(const QString& file_name)
+{
+    const FILE_CONTENT file =
+        file_name.startsWith(QLatin1String(":/")) ? read_resource(file_name) : read_regular_file(file_name);
+    if (!file.problem.isEmpty())
+        return {{}, QStringLiteral("%1 cannot be read: %2").arg(file_name, file.problem)};
+    std::vector<FAMILY_ROW> rows = parse_families(file.content, file_name);
+    if (rows.empty())
+        return {{}, QStringLiteral("%1 names no device family").arg(file_name)};
+    return {std::move(rows), QString()};
+}
+
+std::vector<FAMILY_ROW> read_first_families(const std::vector<QString>& file_names, QString* first_problem)
 {
     for (const QString& file_name : file_names) {
-        QFile file(file_name);
-        if (!file.open(QIODevice::ReadOnly)) {
-            qCWarning(DSTR_LOG, "%s cannot be read: %s", qUtf8Printable(file_name), qUtf8Printable(file.errorString()));
-            continue;
-        }
-        std::vector<FAMILY_ROW> rows = parse_families(file.readAll(), file_name);
-        if (!rows.empty())
-            return rows;
-        qCWarning(DSTR_LOG, "%s names no device family", qUtf8Printable(file_name));
+        FAMILY_FILE file = read_family_file(file_name);
+        if (first_problem && &file_name == &file_names.front())
+            *first_problem = file.problem;
+        if (file.problem.isEmpty())
+            return std::move(file.rows);
+        qCWarning(DSTR_LOG, "%s", qUtf8Printable(file.problem));
     }
     return {};
 }

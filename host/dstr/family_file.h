@@ -25,6 +25,17 @@ struct FAMILY_ROW
 // The rows of `content`, in its order. Lines that cannot be read are logged as lines of `file_name` and left out.
 std::vector<FAMILY_ROW> parse_families(const QByteArray& content, const QString& file_name);
 
-// The rows of the first of `file_names` that can be read and names at least one family; the others before it are
-// logged.
-std::vector<FAMILY_ROW> read_first_families(const std::vector<QString>& file_names);
+// The rows of one file, or why there are none: "FILE cannot be read: ..." or "FILE names no device family".
+struct FAMILY_FILE
+{
+    std::vector<FAMILY_ROW> rows;
+    QString problem;
+};
+
+// Reads a file that is compiled in (":/...") or a regular one of at most 1 MiB. Nothing else is read, nor waited for: a
+// pipe or a device may never end.
+FAMILY_FILE read_family_file(const QString& file_name);
+
+// The rows of the first of `file_names` that can be read and names at least one family. What is wrong with the others
+// before it is logged; `first_problem` gets what is wrong with the first of all, null when nothing is.
+std::vector<FAMILY_ROW> read_first_families(const std::vector<QString>& file_names, QString* first_problem = nullptr);

@@ -28,6 +28,8 @@ void print_families()
             std::printf(" %d", scheme);
         std::printf("\n");
     }
+    if (!dstr_get_problem().empty())
+        std::printf("problem: %s\n", dstr_get_problem().c_str());
 }
 
 void report_internal_error()

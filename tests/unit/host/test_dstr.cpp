@@ -9,6 +9,8 @@
 
 #include <set>
 
+#include <sys/stat.h>
+
 class TEST_DSTR : public QObject
 {
     Q_OBJECT
@@ -32,7 +34,13 @@ private slots:
     void unknown_family_has_a_text_and_no_schemes();
 
     void environment_names_the_file();
-    void unreadable_environment_file_falls_back();
+    void environment_file_that_cannot_be_used_is_a_problem_data();
+    void environment_file_that_cannot_be_used_is_a_problem();
+    void pipe_that_nobody_writes_is_not_waited_for();
+    void device_that_never_ends_is_not_read();
+    void families_file_has_a_largest_size_data();
+    void families_file_has_a_largest_size();
+    void usable_environment_file_is_no_problem();
     void file_beside_the_programs_is_preferred_to_the_built_in_one();
     void environment_comes_before_the_file_beside_the_programs();
     void table_without_an_application();
@@ -40,6 +48,7 @@ private slots:
 
 namespace {
 
+constexpr int FAMILIES_BUILT_IN = 72;
 const QString FILE_NAME = QStringLiteral("families.csv");
 
 std::vector<FAMILY_ROW> parse(const QByteArray& content)
@@ -289,12 +298,88 @@ void TEST_DSTR::environment_names_the_file()
     QCOMPARE(result.output, QByteArray("7 Mine: 7 13\n4 Yours:\n"));
 }
 
-void TEST_DSTR::unreadable_environment_file_falls_back()
+void TEST_DSTR::environment_file_that_cannot_be_used_is_a_problem_data()
 {
-    const PROBE_RESULT result = probe_families(QStringLiteral("/no/such/families.csv"));
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("problem");
 
-    QCOMPARE(result.output.count('\n'), 72);
-    QVERIFY2(result.log.contains("/no/such/families.csv cannot be read"), result.log.constData());
+    QTest::newRow("missing") << QStringLiteral("missing.csv")
+                             << QByteArray("PLACE cannot be read: No such file or directory");
+    QTest::newRow("directory") << QStringLiteral(".") << QByteArray("PLACE cannot be read: it is not a regular file");
+    QTest::newRow("without a family") << QStringLiteral("empty.csv") << QByteArray("PLACE names no device family");
+}
+
+// The families of the program are there all the same.
+void TEST_DSTR::environment_file_that_cannot_be_used_is_a_problem()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, problem);
+    QTemporaryDir directory;
+    write_file(directory, QStringLiteral("empty.csv"), "# nothing here\n");
+    const QString file = directory.filePath(name);
+    problem.replace("PLACE", QFile::encodeName(file));
+
+    const PROBE_RESULT result = probe_families(file);
+
+    QCOMPARE(result.output.count('\n'), FAMILIES_BUILT_IN + 1);
+    QVERIFY2(result.output.endsWith("problem: GFPQ_FAMILIES: " + problem + ".\n"), result.output.constData());
+    QVERIFY2(result.log.contains(problem), result.log.constData());
+}
+
+void TEST_DSTR::pipe_that_nobody_writes_is_not_waited_for()
+{
+    QTemporaryDir directory;
+    const QString pipe = directory.filePath(QStringLiteral("pipe"));
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+
+    const PROBE_RESULT result = probe_families(pipe);
+
+    QVERIFY(result.ended);
+    QVERIFY2(result.output.contains("pipe cannot be read: it is not a regular file"), result.output.constData());
+}
+
+void TEST_DSTR::device_that_never_ends_is_not_read()
+{
+    const PROBE_RESULT result = probe_families(QStringLiteral("/dev/zero"));
+
+    QVERIFY(result.ended);
+    QVERIFY2(result.output.contains("/dev/zero cannot be read: it is not a regular file"), result.output.constData());
+}
+
+void TEST_DSTR::families_file_has_a_largest_size_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("is_read");
+
+    QTest::newRow("largest") << 1024 * 1024 << true;
+    QTest::newRow("one byte more") << 1024 * 1024 + 1 << false;
+}
+
+void TEST_DSTR::families_file_has_a_largest_size()
+{
+    QFETCH(int, size);
+    QFETCH(bool, is_read);
+    QTemporaryDir directory;
+    const QByteArray family("7,Mine,7 13\n#");
+    const QString file =
+        write_file(directory, QStringLiteral("large.csv"), family + QByteArray(size - family.size(), '-'));
+
+    const PROBE_RESULT result = probe_families(file);
+
+    QCOMPARE(result.output.contains("7 Mine: 7 13\n"), is_read);
+    QCOMPARE(result.output.contains("large.csv cannot be read: it is larger than 1 MiB"), !is_read);
+}
+
+void TEST_DSTR::usable_environment_file_is_no_problem()
+{
+    QTemporaryDir directory;
+    const QString file = write_file(directory, QStringLiteral("mine.csv"), "7,Mine,7 13\n");
+    QVERIFY(QFile::link(file, directory.filePath(QStringLiteral("link.csv"))));
+
+    const PROBE_RESULT result = probe_families(directory.filePath(QStringLiteral("link.csv")));
+
+    QCOMPARE(result.output, QByteArray("7 Mine: 7 13\n"));
+    QCOMPARE(result.log, QByteArray());
 }
 
 void TEST_DSTR::file_beside_the_programs_is_preferred_to_the_built_in_one()

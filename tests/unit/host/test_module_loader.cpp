@@ -2,8 +2,22 @@
 #include "dialog_call.h"
 #include "fake_module.h"
 #include "module_loader.h"
+#include "path_trust.h"
 
 #include <QTest>
+
+#include <dlfcn.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+// A directory that everyone may write, and one in which everyone may put things as in /tmp.
+constexpr mode_t OPEN = 0777;
+constexpr mode_t SHARED = 01777;
+constexpr uid_t OTHER_USER = 12345;
+
+} // namespace
 
 class TEST_MODULE_LOADER : public QObject
 {
@@ -21,12 +35,30 @@ private slots:
     void missing_function_is_told();
     void missing_symbol_is_told_at_once();
     void module_that_everyone_may_change_is_not_loaded();
-    void module_in_a_place_that_everyone_may_change_is_not_loaded();
+    void module_below_a_place_that_everyone_may_change_is_not_loaded_data();
+    void module_below_a_place_that_everyone_may_change_is_not_loaded();
+    void module_by_a_link_in_a_place_that_everyone_may_change_is_not_loaded_data();
+    void module_by_a_link_in_a_place_that_everyone_may_change_is_not_loaded();
+    void module_behind_a_chain_of_links_is_looked_at_link_by_link();
+    void module_by_a_directory_that_is_left_again_is_not_loaded();
+    void entry_of_another_user_in_a_shared_directory_is_not_trusted_data();
+    void entry_of_another_user_in_a_shared_directory_is_not_trusted();
+    void module_of_ones_own_in_a_shared_directory_is_loaded();
+    void module_by_links_that_only_the_user_may_change_is_loaded();
+    void module_that_is_loaded_is_the_one_that_was_looked_at();
+    void links_in_a_circle_are_a_missing_module();
     void loading_is_tried_again_after_a_failure();
 
 private:
     QString place(const QString& name) const { return m_scratch->filePath(name); }
+    // Names are those of entries of the scratch directory; missing directories are made.
     QString copy_of_module(const QString& name);
+    void make_link(const QString& target, const QString& name);
+    void set_mode(const QString& name, mode_t mode) const;
+    // What the loader says of `path`; empty when it takes the module.
+    static QString problem_of(const QString& path);
+    // What it says when it does not take `path` because everyone may change `open_place`.
+    QString refusal(const QString& path, const QString& open_place) const;
 
     std::unique_ptr<QTemporaryDir> m_scratch;
 };
@@ -39,9 +71,37 @@ void TEST_MODULE_LOADER::init()
 QString TEST_MODULE_LOADER::copy_of_module(const QString& name)
 {
     const QString copy = place(name);
+    QDir().mkpath(QFileInfo(copy).path());
     if (!QFile::copy(QStringLiteral(FAKE_MODULE), copy))
         qFatal("cannot copy the module");
     return copy;
+}
+
+void TEST_MODULE_LOADER::make_link(const QString& target, const QString& name)
+{
+    QDir().mkpath(QFileInfo(place(name)).path());
+    if (!QFile::link(target, place(name)))
+        qFatal("cannot make the link");
+}
+
+void TEST_MODULE_LOADER::set_mode(const QString& name, mode_t mode) const
+{
+    if (::chmod(QFile::encodeName(place(name)).constData(), mode) != 0)
+        qFatal("cannot set the mode");
+}
+
+QString TEST_MODULE_LOADER::problem_of(const QString& path)
+{
+    MODULE_LOADER loader({path});
+    const bool is_loaded = loader.entry_point() != nullptr;
+    if (is_loaded != loader.problem().isEmpty())
+        qFatal("the loader contradicts itself");
+    return loader.problem();
+}
+
+QString TEST_MODULE_LOADER::refusal(const QString& path, const QString& open_place) const
+{
+    return QStringLiteral("The dialog module %1 is not loaded: everyone may change %2.").arg(path, place(open_place));
 }
 
 void TEST_MODULE_LOADER::module_is_looked_for_beside_the_programs_only()
@@ -150,23 +210,144 @@ void TEST_MODULE_LOADER::missing_symbol_is_told_at_once()
 void TEST_MODULE_LOADER::module_that_everyone_may_change_is_not_loaded()
 {
     const QString path = copy_of_module(QStringLiteral("open.so"));
-    QVERIFY(QFile::setPermissions(path, QFile::permissions(path) | QFile::WriteOther));
-    MODULE_LOADER loader({path});
+    set_mode(QStringLiteral("open.so"), OPEN);
 
-    QVERIFY(!loader.entry_point());
-
-    QCOMPARE(loader.problem(), QStringLiteral("The dialog module %1 is not loaded: everyone may change it.").arg(path));
+    QCOMPARE(problem_of(path), refusal(path, QStringLiteral("open.so")));
 }
 
-void TEST_MODULE_LOADER::module_in_a_place_that_everyone_may_change_is_not_loaded()
+void TEST_MODULE_LOADER::module_below_a_place_that_everyone_may_change_is_not_loaded_data()
 {
-    const QString path = copy_of_module(QStringLiteral("closed.so"));
-    QVERIFY(QFile::setPermissions(m_scratch->path(), QFile::permissions(m_scratch->path()) | QFile::WriteOther));
-    MODULE_LOADER loader({path});
+    QTest::addColumn<QString>("open_directory");
 
-    QVERIFY(!loader.entry_point());
+    QTest::newRow("in it") << QStringLiteral("a/b/c");
+    QTest::newRow("one below") << QStringLiteral("a/b");
+    QTest::newRow("two below") << QStringLiteral("a");
+}
 
-    QCOMPARE(loader.problem(), QStringLiteral("The dialog module %1 is not loaded: everyone may change it.").arg(path));
+void TEST_MODULE_LOADER::module_below_a_place_that_everyone_may_change_is_not_loaded()
+{
+    QFETCH(QString, open_directory);
+    const QString path = copy_of_module(QStringLiteral("a/b/c/module.so"));
+    set_mode(open_directory, OPEN);
+
+    QCOMPARE(problem_of(path), refusal(path, open_directory));
+}
+
+void TEST_MODULE_LOADER::module_by_a_link_in_a_place_that_everyone_may_change_is_not_loaded_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("link");
+    QTest::addColumn<QString>("module");
+
+    QTest::newRow("link to the file") << QStringLiteral("good/module.so") << QStringLiteral("open/link.so")
+                                      << QStringLiteral("open/link.so");
+    QTest::newRow("link to its directory")
+        << QStringLiteral("good") << QStringLiteral("open/link") << QStringLiteral("open/link/module.so");
+    QTest::newRow("link below") << QStringLiteral("good/module.so") << QStringLiteral("open/below/link.so")
+                                << QStringLiteral("open/below/link.so");
+    QTest::newRow("link into it") << QStringLiteral("open/module.so") << QStringLiteral("good/link.so")
+                                  << QStringLiteral("good/link.so");
+}
+
+void TEST_MODULE_LOADER::module_by_a_link_in_a_place_that_everyone_may_change_is_not_loaded()
+{
+    QFETCH(QString, target);
+    QFETCH(QString, link);
+    QFETCH(QString, module);
+    copy_of_module(QStringLiteral("good/module.so"));
+    copy_of_module(QStringLiteral("open/module.so"));
+    make_link(place(target), link);
+    set_mode(QStringLiteral("open"), OPEN);
+
+    QCOMPARE(problem_of(place(module)), refusal(place(module), QStringLiteral("open")));
+}
+
+void TEST_MODULE_LOADER::module_behind_a_chain_of_links_is_looked_at_link_by_link()
+{
+    copy_of_module(QStringLiteral("good/module.so"));
+    make_link(place(QStringLiteral("good/module.so")), QStringLiteral("open/second.so"));
+    make_link(QStringLiteral("../open/second.so"), QStringLiteral("good/first.so"));
+    set_mode(QStringLiteral("open"), OPEN);
+    const QString path = place(QStringLiteral("good/first.so"));
+
+    QCOMPARE(problem_of(path), refusal(path, QStringLiteral("open")));
+}
+
+void TEST_MODULE_LOADER::module_by_a_directory_that_is_left_again_is_not_loaded()
+{
+    copy_of_module(QStringLiteral("good/module.so"));
+    QVERIFY(QDir().mkpath(place(QStringLiteral("open/away"))));
+    set_mode(QStringLiteral("open"), OPEN);
+    const QString path = place(QStringLiteral("open/away/../../good/module.so"));
+
+    QCOMPARE(problem_of(path), refusal(path, QStringLiteral("open")));
+}
+
+void TEST_MODULE_LOADER::entry_of_another_user_in_a_shared_directory_is_not_trusted_data()
+{
+    QTest::addColumn<QString>("entry");
+
+    QTest::newRow("file") << QStringLiteral("shared/module.so");
+    QTest::newRow("directory") << QStringLiteral("shared/below");
+    QTest::newRow("link") << QStringLiteral("shared/link.so");
+}
+
+// Only root can give a file away; for everyone else the rule is shown by what belongs to the user already.
+void TEST_MODULE_LOADER::entry_of_another_user_in_a_shared_directory_is_not_trusted()
+{
+    QFETCH(QString, entry);
+    copy_of_module(QStringLiteral("good/module.so"));
+    copy_of_module(QStringLiteral("shared/module.so"));
+    copy_of_module(QStringLiteral("shared/below/module.so"));
+    make_link(place(QStringLiteral("good/module.so")), QStringLiteral("shared/link.so"));
+    set_mode(QStringLiteral("shared"), SHARED);
+    const bool is_directory = QFileInfo(place(entry)).isDir();
+    const QString path = is_directory ? place(entry) + QLatin1String("/module.so") : place(entry);
+    QCOMPARE(problem_of(path), QString());
+
+    const bool is_given = ::lchown(QFile::encodeName(place(entry)).constData(), OTHER_USER, gid_t(-1)) == 0;
+
+    QCOMPARE(is_given, ::geteuid() == 0);
+    QCOMPARE(problem_of(path), is_given ? refusal(path, entry) : QString());
+}
+
+void TEST_MODULE_LOADER::module_of_ones_own_in_a_shared_directory_is_loaded()
+{
+    const QString path = copy_of_module(QStringLiteral("shared/below/module.so"));
+    set_mode(QStringLiteral("shared"), SHARED);
+
+    QCOMPARE(problem_of(path), QString());
+}
+
+void TEST_MODULE_LOADER::module_by_links_that_only_the_user_may_change_is_loaded()
+{
+    copy_of_module(QStringLiteral("good/module.so"));
+    make_link(QStringLiteral("module.so"), QStringLiteral("good/second.so"));
+    make_link(place(QStringLiteral("good")), QStringLiteral("link"));
+
+    QCOMPARE(problem_of(place(QStringLiteral("link/./second.so"))), QString());
+}
+
+void TEST_MODULE_LOADER::module_that_is_loaded_is_the_one_that_was_looked_at()
+{
+    const QString path = copy_of_module(QStringLiteral("good/module.so"));
+    make_link(path, QStringLiteral("link.so"));
+
+    MODULE_LOADER loader({place(QStringLiteral("link.so"))});
+    Dl_info loaded = {};
+    QVERIFY(::dladdr(reinterpret_cast<void*>(loader.entry_point()), &loaded) != 0);
+
+    QCOMPARE(QFile::decodeName(loaded.dli_fname), QFileInfo(path).canonicalFilePath());
+}
+
+void TEST_MODULE_LOADER::links_in_a_circle_are_a_missing_module()
+{
+    make_link(QStringLiteral("second.so"), QStringLiteral("first.so"));
+    make_link(QStringLiteral("first.so"), QStringLiteral("second.so"));
+    const QString path = place(QStringLiteral("first.so"));
+
+    QVERIFY2(problem_of(path).startsWith(QLatin1String("The dialog module is missing")), qPrintable(problem_of(path)));
+    QCOMPARE(follow_path(path).real_path, QString());
 }
 
 void TEST_MODULE_LOADER::loading_is_tried_again_after_a_failure()
