@@ -2,6 +2,7 @@
 
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
+#include "gfpq_message.h"
 
 #include <QDir>
 
@@ -27,4 +28,12 @@ DATABASE_STATE database_state()
     state.directory = text_of(GFPDB_MGR::get_db_custom_dir());
     state.problem = text_of(GFPDB_HELPER::get_database_problem());
     return state;
+}
+
+std::string reason_of_message(int id)
+{
+    if (id != GFPQ_UPDATE_DB_FAILED && id != GFPQ_DELETE_DB_FAILED)
+        return std::string();
+    const GFPDB_MGR* manager = GFPDB_HELPER::get_active_flash_manager(false);
+    return manager ? manager->get_last_error() : std::string();
 }

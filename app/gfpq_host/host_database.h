@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <string>
+
 // `directory` (may be relative to the current directory) becomes the user's database directory of this run; the
 // settings stay as they are.
 void use_database_directory(const QString& directory);
@@ -16,3 +18,7 @@ struct DATABASE_STATE
 
 // The state now, for a window that shows it.
 DATABASE_STATE database_state();
+
+// Why the module raises the host message `id` now, in the database's own words (local 8-bit); empty for a message that
+// is not about the database, and when the database knows no reason.
+std::string reason_of_message(int id);

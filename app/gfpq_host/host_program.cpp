@@ -9,6 +9,7 @@
 #include "page_renderer.h"
 
 #include "kovq/zui_app.h"
+#include "msg/msg.h"
 
 #include <QSettings>
 #include <QTextStream>
@@ -89,6 +90,8 @@ int run_host(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
         app.get_ui_mgr()->set_base_dir(arguments.base_directory.toLocal8Bit().toStdString());
     if (!arguments.database_directory.isEmpty())
         use_database_directory(arguments.database_directory);
+
+    MSG_O::set_reason_source(reason_of_message);
 
     QSettings settings(QStringLiteral("gfpq"), QLatin1String(HOST_PROGRAM_NAME));
     MODULE_LOADER module = module_of(arguments);

@@ -176,6 +176,8 @@ public:
     bool flow_editable = true;
     std::vector<int> families;
     std::vector<int> schemes;
+    // Schemes of one family only; where there is an entry it stands for schemes.
+    std::map<int, std::vector<int>> schemes_of;
     std::vector<std::string> custom_names;
     std::vector<std::string> builtin_names;
     // Names for one (family, scheme) only; where there is an entry it stands for custom_names or builtin_names.
@@ -190,6 +192,8 @@ public:
     std::set<std::string> hidden_properties;
     std::set<std::string> hidden_flows;
     std::set<int> unused_properties;
+    // For one scheme only; where there is an entry it stands for unused_properties.
+    std::map<int, std::set<int>> unused_properties_of;
     std::map<int, std::string> refused_properties;
     std::map<std::pair<int, std::string>, std::string> refused_values;
     // Voltages (or other values) that verify_string_property refuses.
@@ -198,6 +202,8 @@ public:
     bool save_succeeds = true;
     bool delete_succeeds = true;
     bool remove_succeeds = true;
+    // What get_last_error answers.
+    std::string last_error;
     bool creates_flash = true;
     // Kinds of operation and types of action that are answered with null.
     std::set<int> refused_operations;

@@ -157,7 +157,7 @@ bool MGR_DOUBLE::is_custom_flash(const std::string& name) const
 std::string MGR_DOUBLE::get_last_error() const
 {
     record(*this, "get_last_error");
-    return std::string();
+    return last_error;
 }
 
 bool MGR_DOUBLE::is_hidden_flash(const std::string& name, bool flows) const
@@ -200,7 +200,9 @@ bool MGR_DOUBLE::check_string_property(GFPDB_FLASH_PROPERTY property, const std:
 bool MGR_DOUBLE::is_property_used(GFPDB_FLASH_PROPERTY property) const
 {
     record(*this, "is_property_used", {log_int(property)});
-    return unused_properties.count(property) == 0;
+    const auto found = unused_properties_of.find(m_scheme);
+    const std::set<int>& unused = found == unused_properties_of.end() ? unused_properties : found->second;
+    return unused.count(property) == 0;
 }
 
 bool MGR_DOUBLE::verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
@@ -254,7 +256,8 @@ void MGR_DOUBLE::get_family_list(std::vector<int>& list) const
 std::vector<int>& MGR_DOUBLE::get_config_scheme_list(std::vector<int>& list) const
 {
     record(*this, "get_config_scheme_list");
-    return filled(list, schemes);
+    const auto found = schemes_of.find(m_family);
+    return filled(list, found == schemes_of.end() ? schemes : found->second);
 }
 
 std::vector<std::string>& MGR_DOUBLE::get_custom_flash_names(std::vector<std::string>& names, int of_family,

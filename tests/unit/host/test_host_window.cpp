@@ -37,6 +37,9 @@ private slots:
     void quit_closes_the_window();
     void database_directory_is_made_absolute_data();
     void database_directory_is_made_absolute();
+    void messages_about_the_database_have_its_reason_data();
+    void messages_about_the_database_have_its_reason();
+    void database_that_is_not_there_gives_no_reason();
 
 private:
     static QString shown(const HOST_WINDOW& window, const char* name);
@@ -278,6 +281,33 @@ void TEST_HOST_WINDOW::database_directory_is_made_absolute()
 
     QCOMPARE(QByteArray::fromStdString(GFPDB_WORLD::instance().custom_dir),
              expected.replace("HERE", QFile::encodeName(QDir::currentPath())));
+}
+
+void TEST_HOST_WINDOW::messages_about_the_database_have_its_reason_data()
+{
+    QTest::addColumn<int>("message");
+    QTest::addColumn<QByteArray>("reason");
+
+    QTest::newRow("save") << 20439 << QByteArray("Read-only file system");
+    QTest::newRow("delete") << 20440 << QByteArray("Read-only file system");
+    QTest::newRow("number before") << 20438 << QByteArray();
+    QTest::newRow("number behind") << 20441 << QByteArray();
+}
+
+void TEST_HOST_WINDOW::messages_about_the_database_have_its_reason()
+{
+    QFETCH(int, message);
+    QFETCH(QByteArray, reason);
+    gfpdb_mgr().last_error = "Read-only file system";
+
+    QCOMPARE(QByteArray::fromStdString(reason_of_message(message)), reason);
+}
+
+void TEST_HOST_WINDOW::database_that_is_not_there_gives_no_reason()
+{
+    GFPDB_WORLD::instance().active = nullptr;
+
+    QCOMPARE(reason_of_message(20439), std::string());
 }
 
 QTEST_MAIN(TEST_HOST_WINDOW)

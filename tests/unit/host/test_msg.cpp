@@ -6,6 +6,9 @@
 #include "msg/msg.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QTest>
 #include <QTextCodec>
 
@@ -28,6 +31,15 @@ private slots:
     void prompt_is_modal_to_the_active_window();
     void prompt_is_logged();
     void prompt_without_widgets_is_logged_only();
+    void reason_stands_beside_the_message();
+    void message_without_a_reason_has_none_data();
+    void message_without_a_reason_has_none();
+    void reason_is_shown_as_it_stands_data();
+    void reason_is_shown_as_it_stands();
+    void long_reason_fits_on_the_screen_data();
+    void long_reason_fits_on_the_screen();
+    void long_reason_is_cut_between_letters();
+    void reason_is_logged_whole();
     void values_of_answers();
 
     void internal_error_ends_the_process_data();
@@ -44,6 +56,12 @@ namespace {
 
 constexpr int NUMBER = 20439;
 const QString TITLE = QStringLiteral("Host under test");
+
+// What the message library has logged, without what the platform has to say.
+QStringList logged(const MESSAGE_RECORDER& messages)
+{
+    return messages.texts().filter(QRegularExpression(QStringLiteral("^host\\.msg")));
+}
 
 MSG_VALUE prompt(const std::string& args, int id)
 {
@@ -63,6 +81,7 @@ void TEST_MSG::initTestCase()
 
 void TEST_MSG::init()
 {
+    MSG_O::set_reason_source(nullptr);
     m_modals.reset();
 }
 
@@ -188,6 +207,122 @@ void TEST_MSG::prompt_without_widgets_is_logged_only()
     QCOMPARE(result.exit_code, 0);
     QVERIFY2(result.log.contains("nobody there (message 7)"), result.log.constData());
     QCOMPARE(result.output, QByteArray("0\n"));
+}
+
+void TEST_MSG::reason_stands_beside_the_message()
+{
+    QList<int> asked_for;
+    MSG_O::set_reason_source([&asked_for](int id) {
+        asked_for.append(id);
+        return std::string("Schreibgesch\xC3\xBCtzt");
+    });
+    m_modals.expect(MODAL_DRIVER::accept());
+    prompt("Failed to save./OSAVE_FAILED", NUMBER);
+
+    QCOMPARE(asked_for, QList<int>{NUMBER});
+    QCOMPARE(m_modals.last().text, QStringLiteral("Failed to save. (message 20439)"));
+    QCOMPARE(m_modals.last().informative_text, QStringLiteral("Schreibgesch\u00fctzt"));
+}
+
+void TEST_MSG::message_without_a_reason_has_none_data()
+{
+    QTest::addColumn<bool>("has_source");
+
+    QTest::newRow("nobody to ask") << false;
+    QTest::newRow("nothing known") << true;
+}
+
+void TEST_MSG::message_without_a_reason_has_none()
+{
+    QFETCH(bool, has_source);
+    MESSAGE_RECORDER messages;
+    if (has_source)
+        MSG_O::set_reason_source([](int) { return std::string(); });
+    m_modals.expect(MODAL_DRIVER::accept());
+    prompt("Failed.", NUMBER);
+
+    QCOMPARE(m_modals.last().informative_text, QString());
+    QCOMPARE(logged(messages), QStringList(QStringLiteral("host.msg: Failed. (message 20439)")));
+}
+
+void TEST_MSG::reason_is_shown_as_it_stands_data()
+{
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<QString>("shown");
+
+    const auto as_it_is = [](const char* name, const QString& text) { QTest::newRow(name) << text << text; };
+    as_it_is("markup", QStringLiteral("<b>bold</b> &amp; more"));
+    as_it_is("conversions", QStringLiteral("100 %s %1 %n"));
+    QTest::newRow("lines") << QStringLiteral("one\n\n\n two\t three\n") << QStringLiteral("one two three");
+    QTest::newRow("escape sequence") << QStringLiteral("\x1b[31mred\x9b") << QStringLiteral("\ufffd[31mred\ufffd");
+}
+
+void TEST_MSG::reason_is_shown_as_it_stands()
+{
+    QFETCH(QString, reason);
+    QFETCH(QString, shown);
+    MESSAGE_RECORDER messages;
+    MSG_O::set_reason_source([&reason](int) { return reason.toStdString(); });
+    Qt::TextFormat format = Qt::AutoText;
+    m_modals.expect([&format](QWidget* box) {
+        format = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))->textFormat();
+        MODAL_DRIVER::accept()(box);
+    });
+    prompt("Failed.", NUMBER);
+
+    QCOMPARE(m_modals.last().informative_text, shown);
+    QCOMPARE(format, Qt::PlainText);
+    QCOMPARE(logged(messages), QStringList(QStringLiteral("host.msg: Failed. (message 20439): ") + shown));
+}
+
+void TEST_MSG::long_reason_fits_on_the_screen_data()
+{
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("one word") << QString(10000, QLatin1Char('W'));
+    QTest::newRow("path") << QStringLiteral("/%1").arg(QString(200, QLatin1Char('W'))).repeated(20);
+    QTest::newRow("words") << QStringLiteral("word ").repeated(2000);
+    QTest::newRow("lines") << QStringLiteral("line\n").repeated(2000);
+}
+
+void TEST_MSG::long_reason_fits_on_the_screen()
+{
+    QFETCH(QString, reason);
+    MSG_O::set_reason_source([&reason](int) { return reason.toStdString(); });
+    QSize size;
+    m_modals.expect([&size](QWidget* box) {
+        size = box->frameGeometry().size();
+        MODAL_DRIVER::accept()(box);
+    });
+    prompt("Failed.", NUMBER);
+
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    QVERIFY2(size.width() > 0 && size.width() <= screen.width(), qPrintable(QString::number(size.width())));
+    QVERIFY2(size.height() <= screen.height(), qPrintable(QString::number(size.height())));
+}
+
+// A letter of two units at the place of the cut.
+void TEST_MSG::long_reason_is_cut_between_letters()
+{
+    const QString reason =
+        QStringLiteral("%1 \U0001F600 end").arg(QStringLiteral("word ").repeated(99) + QLatin1String("abc"));
+    MSG_O::set_reason_source([&reason](int) { return reason.toStdString(); });
+    m_modals.expect(MODAL_DRIVER::accept());
+    prompt("Failed.", NUMBER);
+
+    QCOMPARE(reason.indexOf(QChar(0xD83D)), 499);
+    QCOMPARE(m_modals.last().informative_text, reason.left(499) + QChar(0x2026));
+}
+
+void TEST_MSG::reason_is_logged_whole()
+{
+    const QString reason = QString(10000, QLatin1Char('W'));
+    MESSAGE_RECORDER messages;
+    MSG_O::set_reason_source([&reason](int) { return reason.toStdString(); });
+    m_modals.expect(MODAL_DRIVER::accept());
+    prompt("Failed.", NUMBER);
+
+    QCOMPARE(logged(messages), QStringList(QStringLiteral("host.msg: Failed. (message 20439): ") + reason));
 }
 
 void TEST_MSG::values_of_answers()

@@ -3,6 +3,7 @@
 // GUI thread only. Texts are in the local 8-bit encoding.
 #pragma once
 
+#include <functional>
 #include <string>
 
 // What the user answered to a message.
@@ -41,12 +42,20 @@ private:
 class MSG_O : public MSG_BASE
 {
 public:
+    // Says why the message with the number `id` is being raised (local 8-bit); empty when it does not know.
+    using REASON_SOURCE = std::function<std::string(int id)>;
+
+    // Who is asked for the reason of every message from now on; null for nobody, as at the start of the process.
+    static void set_reason_source(REASON_SOURCE source);
+
     // `report` may be null; it is not owned.
     explicit MSG_O(MSG_REPORT* report = nullptr);
 
     // Logs the message, shows it as "<text> (message <number>)" in a modal warning box over the active window, titled
     // with the application's display name, and waits until that is closed. Without a QApplication it is only logged.
-    // The text is shown as it stands, never as markup.
+    // The text is shown as it stands, never as markup. The reason, if there is one, is logged too, and stands in
+    // smaller letters below the text: in one paragraph of at most 500 characters, which may be broken anywhere in a
+    // long word.
     MSG_VALUE prompt(MSG_REPORT* report = nullptr);
 };
 
