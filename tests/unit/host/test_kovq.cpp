@@ -10,10 +10,13 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <memory>
 #include <type_traits>
 
 class TEST_KOVQ : public QObject
@@ -42,6 +45,22 @@ private slots:
     void return_with_a_modifier_clicks_nothing();
     void escape_rejects();
 
+    void dialog_larger_than_its_screen_is_shown_on_it();
+    void dialog_that_fits_has_the_size_of_its_form();
+    void dialog_is_never_smaller_than_its_contents();
+    void dialog_can_be_made_smaller();
+    void dialog_below_a_window_fits_on_its_screen();
+    void size_of_last_time_comes_back();
+    void sizes_are_kept_by_the_name_of_the_dialog();
+    void size_that_the_user_left_alone_is_not_kept();
+    void size_of_a_larger_screen_is_kept_on_a_smaller_one();
+    void maximized_dialog_keeps_the_size_it_had_before();
+    void dialog_without_a_name_or_settings_forgets_its_size_data();
+    void dialog_without_a_name_or_settings_forgets_its_size();
+    void damaged_settings_are_no_size_data();
+    void damaged_settings_are_no_size();
+    void dialog_within_a_window_is_left_alone();
+
     void file_dialog_is_set_up_as_told();
     void file_dialog_gives_back_what_was_chosen();
     void file_dialog_can_be_cancelled();
@@ -51,7 +70,11 @@ private slots:
     void no_application_is_null();
 
 private:
+    QString settings_file() const { return m_scratch->filePath(QStringLiteral("settings.ini")); }
+
     MODAL_DRIVER m_modals;
+    std::unique_ptr<QTemporaryDir> m_scratch;
+    std::unique_ptr<QSettings> m_settings;
 };
 
 namespace {
@@ -105,6 +128,44 @@ struct CLICKS
     QSignalSpy plain;
 };
 
+// What a window manager puts around a window; there is none here.
+constexpr QSize FRAME(10, 40);
+constexpr QSize FORM_SIZE(300, 200);
+constexpr QSize USERS_SIZE(350, 260);
+
+QSize room_on_screen()
+{
+    return QGuiApplication::primaryScreen()->availableSize() - FRAME;
+}
+
+// A dialog as a form makes one: with a name and a size.
+struct NAMED_DIALOG : KOVQ_DIALOG
+{
+    explicit NAMED_DIALOG(const QString& name = QStringLiteral("probe_dlg"), const QSize& form_size = FORM_SIZE)
+    {
+        setObjectName(name);
+        resize(form_size);
+    }
+};
+
+// Shows a dialog, lets the user make it `users_size` (not at all when that is invalid), and closes it. The size that it
+// was shown with.
+QSize use_dialog(KOVQ_DIALOG& dialog, const QSize& users_size = QSize())
+{
+    dialog.show();
+    const QSize shown = dialog.size();
+    if (users_size.isValid())
+        dialog.resize(users_size);
+    dialog.close();
+    return shown;
+}
+
+QSize use_named_dialog(const QSize& users_size = QSize(), const QString& name = QStringLiteral("probe_dlg"))
+{
+    NAMED_DIALOG dialog(name);
+    return use_dialog(dialog, users_size);
+}
+
 void show_active(QWidget& window)
 {
     window.show();
@@ -128,10 +189,15 @@ void add_return_keys()
 void TEST_KOVQ::init()
 {
     m_modals.reset();
+    m_scratch = std::make_unique<QTemporaryDir>();
+    m_settings = std::make_unique<QSettings>(settings_file(), QSettings::IniFormat);
+    KOVQ_DIALOG::set_settings(m_settings.get());
 }
 
 void TEST_KOVQ::cleanup()
 {
+    KOVQ_DIALOG::set_settings(nullptr);
+    m_settings.reset();
     QCOMPARE(m_modals.problems(), QStringList());
     QCOMPARE(QApplication::topLevelWidgets().size(), 0);
 }
@@ -297,6 +363,170 @@ void TEST_KOVQ::escape_rejects()
 
     QCOMPARE(rejected.count(), 1);
     QVERIFY(!form.isVisible());
+}
+
+void TEST_KOVQ::dialog_larger_than_its_screen_is_shown_on_it()
+{
+    NAMED_DIALOG dialog(QStringLiteral("large_dlg"), QSize(994, 892));
+    dialog.show();
+
+    QCOMPARE(dialog.size(), room_on_screen());
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QVERIFY(screen.contains(dialog.frameGeometry()));
+}
+
+void TEST_KOVQ::dialog_that_fits_has_the_size_of_its_form()
+{
+    QCOMPARE(use_named_dialog(), FORM_SIZE);
+
+    NAMED_DIALOG largest(QStringLiteral("largest_dlg"), room_on_screen());
+    QCOMPARE(use_dialog(largest), room_on_screen());
+}
+
+void TEST_KOVQ::dialog_is_never_smaller_than_its_contents()
+{
+    NAMED_DIALOG dialog;
+    dialog.setMinimumSize(5000, 100);
+
+    QCOMPARE(use_dialog(dialog), QSize(5000, FORM_SIZE.height()));
+}
+
+void TEST_KOVQ::dialog_can_be_made_smaller()
+{
+    NAMED_DIALOG dialog(QStringLiteral("large_dlg"), QSize(994, 892));
+    dialog.show();
+
+    dialog.resize(FORM_SIZE);
+
+    QCOMPARE(dialog.size(), FORM_SIZE);
+}
+
+void TEST_KOVQ::dialog_below_a_window_fits_on_its_screen()
+{
+    QWidget window;
+    window.show();
+    KOVQ_DIALOG dialog(&window);
+    dialog.resize(2000, 2000);
+
+    QCOMPARE(use_dialog(dialog), room_on_screen());
+}
+
+void TEST_KOVQ::size_of_last_time_comes_back()
+{
+    QCOMPARE(use_named_dialog(USERS_SIZE), FORM_SIZE);
+    QCOMPARE(use_named_dialog(), USERS_SIZE);
+
+    // The same in the next process.
+    m_settings->sync();
+    QSettings again(settings_file(), QSettings::IniFormat);
+    KOVQ_DIALOG::set_settings(&again);
+    QCOMPARE(use_named_dialog(FORM_SIZE), USERS_SIZE);
+    QCOMPARE(use_named_dialog(), FORM_SIZE);
+}
+
+void TEST_KOVQ::sizes_are_kept_by_the_name_of_the_dialog()
+{
+    use_named_dialog(USERS_SIZE, QStringLiteral("one_dlg"));
+
+    QCOMPARE(use_named_dialog(QSize(), QStringLiteral("other_dlg")), FORM_SIZE);
+    QCOMPARE(use_named_dialog(QSize(), QStringLiteral("one_dlg")), USERS_SIZE);
+    QCOMPARE(m_settings->allKeys(), QStringList(QStringLiteral("dialog_size/one_dlg")));
+}
+
+void TEST_KOVQ::size_that_the_user_left_alone_is_not_kept()
+{
+    use_named_dialog();
+
+    QCOMPARE(m_settings->allKeys(), QStringList());
+}
+
+void TEST_KOVQ::size_of_a_larger_screen_is_kept_on_a_smaller_one()
+{
+    const QSize large(1900, 1300);
+    m_settings->setValue(QStringLiteral("dialog_size/probe_dlg"), large);
+
+    QCOMPARE(use_named_dialog(), room_on_screen());
+    QCOMPARE(m_settings->value(QStringLiteral("dialog_size/probe_dlg")).toSize(), large);
+
+    QCOMPARE(use_named_dialog(USERS_SIZE), room_on_screen());
+    QCOMPARE(use_named_dialog(), USERS_SIZE);
+}
+
+void TEST_KOVQ::maximized_dialog_keeps_the_size_it_had_before()
+{
+    NAMED_DIALOG dialog;
+    dialog.show();
+    dialog.resize(USERS_SIZE);
+    dialog.showMaximized();
+    QTRY_VERIFY(dialog.width() > USERS_SIZE.width());
+    dialog.close();
+
+    QCOMPARE(use_named_dialog(), USERS_SIZE);
+}
+
+void TEST_KOVQ::dialog_without_a_name_or_settings_forgets_its_size_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("has_settings");
+
+    QTest::newRow("no name") << QString() << true;
+    QTest::newRow("no settings") << QStringLiteral("probe_dlg") << false;
+}
+
+void TEST_KOVQ::dialog_without_a_name_or_settings_forgets_its_size()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, has_settings);
+    if (!has_settings)
+        KOVQ_DIALOG::set_settings(nullptr);
+
+    use_named_dialog(USERS_SIZE, name);
+
+    QCOMPARE(use_named_dialog(QSize(), name), FORM_SIZE);
+    QCOMPARE(m_settings->allKeys(), QStringList());
+}
+
+void TEST_KOVQ::damaged_settings_are_no_size_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QSize>("shown");
+
+    QTest::newRow("text") << QByteArray("large") << FORM_SIZE;
+    QTest::newRow("number") << QByteArray("350") << FORM_SIZE;
+    QTest::newRow("empty") << QByteArray() << FORM_SIZE;
+    QTest::newRow("half a size") << QByteArray("@Size(350") << FORM_SIZE;
+    QTest::newRow("nothing") << QByteArray("@Size(0 0)") << FORM_SIZE;
+    QTest::newRow("no height") << QByteArray("@Size(350 0)") << FORM_SIZE;
+    QTest::newRow("negative") << QByteArray("@Size(-350 -260)") << FORM_SIZE;
+    QTest::newRow("another kind") << QByteArray("@Rect(0 0 350 260)") << FORM_SIZE;
+    QTest::newRow("more than a number holds") << QByteArray("@Size(99999999999 99999999999)") << FORM_SIZE;
+    QTest::newRow("gigantic") << QByteArray("@Size(2147483647 2147483647)") << room_on_screen();
+}
+
+void TEST_KOVQ::damaged_settings_are_no_size()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QSize, shown);
+    QFile file(settings_file());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[dialog_size]\nprobe_dlg=" + value + "\n");
+    file.close();
+    m_settings->sync();
+
+    QCOMPARE(use_named_dialog(), shown);
+}
+
+void TEST_KOVQ::dialog_within_a_window_is_left_alone()
+{
+    QWidget window;
+    KOVQ_DIALOG dialog(&window, Qt::Widget);
+    dialog.setWindowFlags(Qt::Widget);
+    dialog.setObjectName(QStringLiteral("inner_dlg"));
+    dialog.resize(2000, 2000);
+    window.show();
+
+    QCOMPARE(use_dialog(dialog, USERS_SIZE), QSize(2000, 2000));
+    QCOMPARE(m_settings->allKeys(), QStringList());
 }
 
 void TEST_KOVQ::file_dialog_is_set_up_as_told()
