@@ -8,26 +8,6 @@
         <translation>keiner</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>Bausteinfamilie:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>Konfigurationsmodus:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>Konfigurationsbaustein:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>Datenbankverzeichnis:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>Konfigurationsbaustein...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>&amp;Programmiergerät</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Baustein&amp;familie:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>Konfigurations&amp;modus:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>Konfigurationsbau&amp;stein:</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>Datenbank&amp;verzeichnis:</translation>
     </message>
 </context>
 </TS>

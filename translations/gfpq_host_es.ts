@@ -8,26 +8,6 @@
         <translation>ninguno</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>Familia de dispositivos:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>Modo de configuración:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>Dispositivo de configuración:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>Directorio de la base de datos:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>Dispositivo de configuración...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>&amp;Programador</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Familia de dispositivos:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Modo de configuración:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>Disposi&amp;tivo de configuración:</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>Directorio de la &amp;base de datos:</translation>
     </message>
 </context>
 </TS>

@@ -8,26 +8,6 @@
         <translation>aucun</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>Famille de composants&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>Mode de configuration&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>Composant de configuration&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>Répertoire de la base de données&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>Composant de configuration...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>&amp;Programmateur</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Famille de composants&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Mode de configuration&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>Composan&amp;t de configuration&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>&amp;Répertoire de la base de données&#xa0;:</translation>
     </message>
 </context>
 </TS>

@@ -8,26 +8,6 @@
         <translation>nessuno</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>Famiglia di dispositivi:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>Modalità di configurazione:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>Dispositivo di configurazione:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>Cartella del database:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>Dispositivo di configurazione...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>&amp;Programmatore</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Famiglia di dispositivi:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Modalità di configurazione:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>Disposi&amp;tivo di configurazione:</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>&amp;Cartella del database:</translation>
     </message>
 </context>
 </TS>

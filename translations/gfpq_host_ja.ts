@@ -8,26 +8,6 @@
         <translation>なし</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>デバイスファミリー:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>コンフィギュレーションモード:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>コンフィギュレーションデバイス:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>データベースのフォルダー:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>コンフィギュレーションデバイス...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>プログラマー(&amp;P)</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>デバイスファミリー(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>コンフィギュレーションモード(&amp;M):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>コンフィギュレーションデバイス(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>データベースのフォルダー(&amp;R):</translation>
     </message>
 </context>
 </TS>

@@ -8,26 +8,6 @@
         <translation>없음</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>디바이스 제품군:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>구성 모드:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>구성 디바이스:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>데이터베이스 폴더:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>구성 디바이스...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>프로그래머(&amp;P)</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>종료(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>디바이스 제품군(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>구성 모드(&amp;M):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>구성 디바이스(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>데이터베이스 폴더(&amp;R):</translation>
     </message>
 </context>
 </TS>

@@ -8,26 +8,6 @@
         <translation>nenhum</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>Família de dispositivos:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>Modo de configuração:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>Dispositivo de configuração:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>Diretório do banco de dados:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>Dispositivo de configuração...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>&amp;Programador</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Família de dispositivos:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Modo de configuração:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>Disposi&amp;tivo de configuração:</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>Diretório do &amp;banco de dados:</translation>
     </message>
 </context>
 </TS>

@@ -8,26 +8,6 @@
         <translation>нет</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>Семейство устройств:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>Режим конфигурирования:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>Конфигурационное устройство:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>Каталог базы данных:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>Конфигурационное устройство...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>&amp;Программатор</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Выход</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Се&amp;мейство устройств:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Режим конфигурирования:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>Конфигурационное &amp;устройство:</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>Каталог &amp;базы данных:</translation>
     </message>
 </context>
 </TS>

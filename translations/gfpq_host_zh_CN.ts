@@ -8,26 +8,6 @@
         <translation>无</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>器件系列:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>配置模式:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>配置器件:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>数据库目录:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>配置器件...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>编程器(&amp;P)</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>器件系列(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>配置模式(&amp;M):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>配置器件(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>数据库目录(&amp;R):</translation>
     </message>
 </context>
 </TS>

@@ -8,26 +8,6 @@
         <translation>無</translation>
     </message>
     <message>
-        <source>Device family:</source>
-        <translation>元件系列:</translation>
-    </message>
-    <message>
-        <source>Configuration mode:</source>
-        <translation>組態模式:</translation>
-    </message>
-    <message>
-        <source>Configuration device:</source>
-        <translation>組態元件:</translation>
-    </message>
-    <message>
-        <source>Database directory:</source>
-        <translation>資料庫目錄:</translation>
-    </message>
-    <message>
-        <source>Configuration Device...</source>
-        <translation>組態元件...</translation>
-    </message>
-    <message>
         <source>&amp;Programmer</source>
         <translation>燒錄器(&amp;P)</translation>
     </message>
@@ -38,6 +18,22 @@
     <message>
         <source>&amp;Quit</source>
         <translation>結束(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>元件系列(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>組態模式(&amp;M):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;device:</source>
+        <translation>組態元件(&amp;D):</translation>
+    </message>
+    <message>
+        <source>Database di&amp;rectory:</source>
+        <translation>資料庫目錄(&amp;R):</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,12 @@
 #include "host_database.h"
 
+#include "dstr/dstr.h"
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
 #include "gfpq_message.h"
 
 #include <QDir>
+#include <QStringList>
 
 namespace {
 
@@ -26,7 +28,9 @@ DATABASE_STATE database_state()
 {
     DATABASE_STATE state;
     state.directory = text_of(GFPDB_MGR::get_db_custom_dir());
-    state.problem = text_of(GFPDB_HELPER::get_database_problem());
+    QStringList problems{text_of(GFPDB_HELPER::get_database_problem()), text_of(dstr_get_problem())};
+    problems.removeAll(QString());
+    state.problem = problems.join(QLatin1Char('\n'));
     return state;
 }
 

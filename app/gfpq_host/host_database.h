@@ -12,7 +12,8 @@ void use_database_directory(const QString& directory);
 struct DATABASE_STATE
 {
     QString directory;
-    // Why the database there cannot be used, a sentence; empty when it can.
+    // Why the database there, or the file of families that the user named, cannot be used: a sentence each, on a line
+    // of its own; empty when they can.
     QString problem;
 };
 

@@ -3,14 +3,18 @@
 #include "dialog_call.h"
 #include "host_choice.h"
 #include "host_database.h"
+#include "host_offer.h"
 #include "host_translation.h"
 #include "host_window.h"
 #include "module_loader.h"
 #include "page_renderer.h"
 
+#include "dstr/dstr.h"
+#include "kovq/kovq_dialog.h"
 #include "kovq/zui_app.h"
 #include "msg/msg.h"
 
+#include <QScopeGuard>
 #include <QSettings>
 #include <QTextStream>
 
@@ -47,6 +51,15 @@ HOST_CHOICE first_choice(const HOST_ARGUMENTS& arguments, const QSettings& setti
     return choice;
 }
 
+// The dialog's options for an opening with `choice`.
+DIALOG_OPTIONS options_for(const HOST_CHOICE& choice, const HOST_ARGUMENTS& arguments)
+{
+    const HOST_OFFER offer(arguments.dialog.family_schemes);
+    DIALOG_OPTIONS options = arguments.dialog;
+    options.family_schemes = offer.for_opening(offer.nearest(choice).config_scheme);
+    return options;
+}
+
 int run_window(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, QSettings& settings)
 {
     HOST_WINDOW window(module, arguments.dialog, first_choice(arguments, settings));
@@ -60,8 +73,9 @@ int run_dialog(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSe
     const GFPQ_DYN_DLG entry_point = module.entry_point();
     if (!entry_point)
         return fail(module.problem());
-    const HOST_CHOICE choice = open_dialog(entry_point, nullptr, first_choice(arguments, settings), arguments.dialog);
-    std::printf("%s\n", choice_to_json(choice).constData());
+    const HOST_CHOICE before = first_choice(arguments, settings);
+    const HOST_CHOICE after = open_dialog(entry_point, nullptr, before, options_for(before, arguments));
+    std::printf("%s\n", choice_to_json(after).constData());
     return HOST_EXIT_OK;
 }
 
@@ -71,7 +85,8 @@ int run_render(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSe
     if (!entry_point)
         return fail(module.problem());
     PAGE_RENDERER renderer(arguments.render_directory);
-    open_dialog(entry_point, nullptr, first_choice(arguments, settings), arguments.dialog);
+    const HOST_CHOICE choice = first_choice(arguments, settings);
+    open_dialog(entry_point, nullptr, choice, options_for(choice, arguments));
     for (const QString& file : renderer.files())
         print(stdout, file);
     if (renderer.files().isEmpty() && renderer.problem().isEmpty())
@@ -94,7 +109,14 @@ int run_host(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
     MSG_O::set_reason_source(reason_of_message);
 
     QSettings settings(QStringLiteral("gfpq"), QLatin1String(HOST_PROGRAM_NAME));
+    // Pictures do not depend on what somebody did to a window.
+    KOVQ_DIALOG::set_settings(arguments.task == HOST_TASK::RENDER ? nullptr : &settings);
+    const auto forget_settings = qScopeGuard([] { KOVQ_DIALOG::set_settings(nullptr); });
     MODULE_LOADER module = module_of(arguments);
+    // The window shows it; a dialog of its own has no place for it.
+    const std::string families_problem = dstr_get_problem();
+    if (arguments.task != HOST_TASK::WINDOW && !families_problem.empty())
+        return fail(QString::fromStdString(families_problem));
     switch (arguments.task) {
     case HOST_TASK::DIALOG:
         return run_dialog(module, arguments, settings);

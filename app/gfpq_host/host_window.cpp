@@ -8,6 +8,7 @@
 #include "gfpq_vocabulary.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -16,8 +17,12 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -33,6 +38,25 @@ QString scheme_text(int scheme)
 QString device_text(const std::string& device_name)
 {
     return device_name.empty() ? HOST_WINDOW::tr("none") : QString::fromLocal8Bit(device_name.c_str());
+}
+
+QString family_text(int family)
+{
+    return QString::fromStdString(dstr_get_user_string(family));
+}
+
+// Fills `combo` with `values`, sorted by their texts, and makes `current` the current one, which comes in when it is
+// not among them. No change is reported.
+void show_values(QComboBox* combo, std::vector<int> values, int current, QString (*text_of)(int value))
+{
+    const QSignalBlocker silence(combo);
+    if (std::find(values.begin(), values.end(), current) == values.end())
+        values.push_back(current);
+    combo->clear();
+    for (const int value : values)
+        combo->addItem(text_of(value), value);
+    combo->model()->sort(0);
+    combo->setCurrentIndex(combo->findData(current));
 }
 
 void show_text(QLineEdit* field, const QString& text)
@@ -51,7 +75,8 @@ void show_problem(QWidget* parent, const QString& text)
 } // namespace
 
 HOST_WINDOW::HOST_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice)
-    : m_module(module), m_options(options), m_choice(choice)
+    : m_module(module), m_options(options), m_offer(options.family_schemes), m_wanted(choice),
+      m_choice(m_offer.nearest(choice))
 {
     setWindowTitle(QGuiApplication::applicationDisplayName());
     create_contents();
@@ -61,9 +86,20 @@ HOST_WINDOW::HOST_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, c
 
 HOST_WINDOW::~HOST_WINDOW() = default;
 
+// The names of families come from a file, so they have no say in the size of the window.
+QComboBox* HOST_WINDOW::add_combo(QFormLayout* rows, const QString& title, const QString& object_name)
+{
+    auto* combo = new QComboBox;
+    combo->setObjectName(object_name);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    rows->addRow(title, combo);
+    return combo;
+}
+
 // Names and paths are the user's own texts, of any length: shown as they stand from their beginning, free to be copied,
 // and without a say in the size of the window.
-QLineEdit* HOST_WINDOW::add_row(QFormLayout* rows, const QString& title, const QString& object_name)
+QLineEdit* HOST_WINDOW::add_field(QFormLayout* rows, const QString& title, const QString& object_name)
 {
     auto* field = new QLineEdit;
     field->setObjectName(object_name);
@@ -101,12 +137,16 @@ QWidget* HOST_WINDOW::create_problem_row()
 void HOST_WINDOW::create_contents()
 {
     auto* rows = new QFormLayout;
-    m_family_field = add_row(rows, tr("Device family:"), QStringLiteral("m_family_field"));
-    m_mode_field = add_row(rows, tr("Configuration mode:"), QStringLiteral("m_mode_field"));
-    m_device_field = add_row(rows, tr("Configuration device:"), QStringLiteral("m_device_field"));
-    m_directory_field = add_row(rows, tr("Database directory:"), QStringLiteral("m_directory_field"));
+    m_family_combo = add_combo(rows, tr("Device &family:"), QStringLiteral("m_family_combo"));
+    m_family_combo->setEnabled(m_options.enable_family);
+    connect(m_family_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &HOST_WINDOW::choose_family);
+    m_mode_combo = add_combo(rows, tr("Configuration &mode:"), QStringLiteral("m_mode_combo"));
+    m_mode_combo->setEnabled(m_options.enable_config_mode);
+    connect(m_mode_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &HOST_WINDOW::choose_mode);
+    m_device_field = add_field(rows, tr("Configuration &device:"), QStringLiteral("m_device_field"));
+    m_directory_field = add_field(rows, tr("Database di&rectory:"), QStringLiteral("m_directory_field"));
 
-    auto* button = new QPushButton(tr("Configuration Device..."));
+    auto* button = new QPushButton(tr("&Configuration Device..."));
     button->setObjectName(QStringLiteral("m_dialog_button"));
     connect(button, &QPushButton::clicked, this, &HOST_WINDOW::open_dialog);
 
@@ -131,16 +171,46 @@ void HOST_WINDOW::create_menus()
     quit->setShortcut(QKeySequence::Quit);
 }
 
+// What the combos cannot show is taken as it is: the dialog knows better.
+void HOST_WINDOW::show_choice()
+{
+    show_values(m_family_combo, m_offer.families(), m_choice.family, family_text);
+    show_values(m_mode_combo, m_offer.schemes(m_choice.family), m_choice.config_scheme, scheme_text);
+    show_text(m_device_field, device_text(m_choice.device_name));
+}
+
 void HOST_WINDOW::show_state()
 {
-    show_text(m_family_field, QString::fromStdString(dstr_get_user_string(m_choice.family)));
-    show_text(m_mode_field, scheme_text(m_choice.config_scheme));
-    show_text(m_device_field, device_text(m_choice.device_name));
-
+    show_choice();
     const DATABASE_STATE database = database_state();
     show_text(m_directory_field, database.directory);
     m_problem_label->setText(database.problem);
     m_problem_row->setVisible(!database.problem.isEmpty());
+}
+
+void HOST_WINDOW::choose(const HOST_CHOICE& wanted)
+{
+    m_wanted = wanted;
+    m_choice = m_offer.nearest(wanted);
+    if (!m_offer.has_device(m_choice))
+        m_choice.device_name.clear();
+    show_choice();
+    emit choice_changed();
+}
+
+void HOST_WINDOW::choose_family()
+{
+    HOST_CHOICE wanted = m_wanted;
+    wanted.family = m_family_combo->currentData().toInt();
+    choose(wanted);
+}
+
+void HOST_WINDOW::choose_mode()
+{
+    HOST_CHOICE wanted = m_wanted;
+    wanted.family = m_choice.family;
+    wanted.config_scheme = m_mode_combo->currentData().toInt();
+    choose(wanted);
 }
 
 void HOST_WINDOW::open_dialog()
@@ -150,7 +220,10 @@ void HOST_WINDOW::open_dialog()
         show_problem(this, m_module.problem());
         return;
     }
-    m_choice = ::open_dialog(entry_point, this, m_choice, m_options);
+    DIALOG_OPTIONS options = m_options;
+    options.family_schemes = m_offer.for_opening(m_choice.config_scheme);
+    m_choice = ::open_dialog(entry_point, this, m_choice, options);
+    m_wanted = m_choice;
     show_state();
     emit choice_changed();
 }

@@ -3,20 +3,24 @@
 
 #include "host_arguments.h"
 #include "host_choice.h"
+#include "host_offer.h"
 
 #include <QMainWindow>
 
 class MODULE_LOADER;
+class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
 
+// The family and the mode are chosen here, because one opening of the dialog offers modes of one kind only.
 class HOST_WINDOW : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    // Opens the dialog of `module` (not owned, must outlive the window) with `options`, first with `choice`.
+    // Opens the dialog of `module` (not owned, must outlive the window) with `options`, first with what comes nearest
+    // to `choice`.
     HOST_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice);
     ~HOST_WINDOW() override;
 
@@ -27,21 +31,32 @@ public slots:
     void open_dialog();
 
 signals:
-    // The dialog was closed; `choice()` is what it returned.
+    // The user has chosen, here or in the dialog, which was closed; `choice()` is what it returned.
     void choice_changed();
 
+private slots:
+    void choose_family();
+    void choose_mode();
+
 private:
-    QLineEdit* add_row(QFormLayout* rows, const QString& title, const QString& object_name);
+    QComboBox* add_combo(QFormLayout* rows, const QString& title, const QString& object_name);
+    QLineEdit* add_field(QFormLayout* rows, const QString& title, const QString& object_name);
     QWidget* create_problem_row();
     void create_contents();
     void create_menus();
+    void choose(const HOST_CHOICE& wanted);
     void show_state();
+    void show_choice();
 
     MODULE_LOADER& m_module;
     const DIALOG_OPTIONS m_options;
+    const HOST_OFFER m_offer;
+    // What the user last asked for, and what of it there is: a device that the family on the way does not have is there
+    // again on the way back.
+    HOST_CHOICE m_wanted;
     HOST_CHOICE m_choice;
-    QLineEdit* m_family_field = nullptr;
-    QLineEdit* m_mode_field = nullptr;
+    QComboBox* m_family_combo = nullptr;
+    QComboBox* m_mode_combo = nullptr;
     QLineEdit* m_device_field = nullptr;
     QLineEdit* m_directory_field = nullptr;
     QWidget* m_problem_row = nullptr;

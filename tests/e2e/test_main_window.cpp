@@ -38,8 +38,8 @@ void TEST_MAIN_WINDOW::choice_is_shown_and_remembered()
 {
     QVERIFY(start({}));
     QVERIFY(wait_for_window(TITLE));
-    QVERIFY(wait_for_property("m_family_field", "text", text("Poplar")));
-    QVERIFY(wait_for_property("m_mode_field", "text", text("Active Serial")));
+    QVERIFY(wait_for_property("m_family_combo", "currentText", text("Poplar")));
+    QVERIFY(wait_for_property("m_mode_combo", "currentText", text("Active Serial")));
     QVERIFY(wait_for_property("m_device_field", "text", text("none")));
     QVERIFY(wait_for_property("m_directory_field", "text", QString(session().database_directory() + QLatin1Char('/'))));
     QVERIFY(wait_for_property("m_problem_label", "visible", false));
@@ -53,16 +53,16 @@ void TEST_MAIN_WINDOW::choice_is_shown_and_remembered()
     QVERIFY(user().click(widget_called("m_ok_button")));
 
     QVERIFY(wait_for_window(TITLE));
-    QVERIFY(wait_for_property("m_family_field", "text", text("Heather")));
-    QVERIFY(wait_for_property("m_mode_field", "text", text("Active Serial x4")));
+    QVERIFY(wait_for_property("m_family_combo", "currentText", text("Heather")));
+    QVERIFY(wait_for_property("m_mode_combo", "currentText", text("Active Serial x4")));
     QVERIFY(wait_for_property("m_device_field", "text", DEVICE));
     QVERIFY(quit());
     QVERIFY(ended_well());
 
     QVERIFY(start({}));
     QVERIFY(wait_for_window(TITLE));
-    QVERIFY(wait_for_property("m_family_field", "text", text("Heather")));
-    QVERIFY(wait_for_property("m_mode_field", "text", text("Active Serial x4")));
+    QVERIFY(wait_for_property("m_family_combo", "currentText", text("Heather")));
+    QVERIFY(wait_for_property("m_mode_combo", "currentText", text("Active Serial x4")));
     QVERIFY(wait_for_property("m_device_field", "text", DEVICE));
     QVERIFY(user().click(widget_called("m_dialog_button")));
     QVERIFY(wait_for_window(DIALOG_TITLE));

@@ -194,6 +194,9 @@ public:
     std::set<int> unused_properties;
     // For one scheme only; where there is an entry it stands for unused_properties.
     std::map<int, std::set<int>> unused_properties_of;
+    // Schemes for which can_add_flash and can_edit_flow answer false whatever add_allowed and flow_edit_allowed say.
+    std::set<int> schemes_without_devices;
+    std::set<int> schemes_without_flows;
     std::map<int, std::string> refused_properties;
     std::map<std::pair<int, std::string>, std::string> refused_values;
     // Voltages (or other values) that verify_string_property refuses.

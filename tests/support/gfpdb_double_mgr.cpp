@@ -169,13 +169,13 @@ bool MGR_DOUBLE::is_hidden_flash(const std::string& name, bool flows) const
 bool MGR_DOUBLE::can_add_flash() const
 {
     record(*this, "can_add_flash");
-    return add_allowed;
+    return add_allowed && schemes_without_devices.count(m_scheme) == 0;
 }
 
 bool MGR_DOUBLE::can_edit_flow() const
 {
     record(*this, "can_edit_flow");
-    return flow_edit_allowed;
+    return flow_edit_allowed && schemes_without_flows.count(m_scheme) == 0;
 }
 
 bool MGR_DOUBLE::is_writable() const

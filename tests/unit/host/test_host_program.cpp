@@ -3,6 +3,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 
 class TEST_HOST_PROGRAM : public QObject
@@ -22,6 +23,9 @@ private slots:
     void dialog_begins_with_what_is_remembered();
     void command_line_overrules_what_is_remembered();
     void printing_the_record_remembers_nothing();
+    void one_opening_offers_modes_of_one_kind();
+    void restriction_goes_through_as_it_is();
+    void families_file_that_cannot_be_used_ends_with_one();
     void base_directory_reaches_the_module();
     void language_is_set();
     void texts_are_utf8_in_any_locale();
@@ -166,11 +170,11 @@ void TEST_HOST_PROGRAM::missing_display_is_told()
 
 void TEST_HOST_PROGRAM::dialog_s_record_is_printed()
 {
-    const PROBE_RESULT result = run_with_fake({QStringLiteral("--dialog")});
+    const PROBE_RESULT result = run_with_fake({QStringLiteral("--dialog"), QStringLiteral("--restrict=1:7")});
 
     QCOMPARE(result.exit_code, 0);
     QCOMPARE(result.output, QByteArray("{\"family\":70,\"config_scheme\":13,\"device_name\":\"parent=none family=1 "
-                                       "scheme=7 device= flags=111 map= base= locale=C platform=offscreen\"}\n"));
+                                       "scheme=7 device= flags=111 map=1:7,; base= locale=C platform=offscreen\"}\n"));
     QCOMPARE(result.log, QByteArray());
 }
 
@@ -199,6 +203,42 @@ void TEST_HOST_PROGRAM::printing_the_record_remembers_nothing()
     run_with_fake({QStringLiteral("--dialog")});
 
     QVERIFY(!QFile::exists(settings_file()));
+}
+
+void TEST_HOST_PROGRAM::one_opening_offers_modes_of_one_kind()
+{
+    const QString families = m_scratch->filePath(QStringLiteral("families.csv"));
+    write_file(families, "1,One,0 7 8 13 23\n2,Two,13 14\n3,Three,8 24\n");
+    const auto map_of = [&](const char* scheme) {
+        const QString device = device_of(run_with_fake({QStringLiteral("--dialog"), QLatin1String(scheme)},
+                                                       {{QStringLiteral("GFPQ_FAMILIES"), families}}));
+        return QRegularExpression(QStringLiteral("map=(\\S*)")).match(device).captured(1);
+    };
+
+    QCOMPARE(map_of("--scheme=7"), QStringLiteral("1:7,13,;2:13,;"));
+    QCOMPARE(map_of("--scheme=8"), QStringLiteral("1:8,;3:8,;"));
+    QCOMPARE(map_of("--scheme=24"), QStringLiteral("1:23,;3:24,;"));
+    QCOMPARE(map_of("--scheme=0"), QStringLiteral("1:0,;2:14,;"));
+}
+
+void TEST_HOST_PROGRAM::restriction_goes_through_as_it_is()
+{
+    const QString device =
+        device_of(run_with_fake({QStringLiteral("--dialog"), QStringLiteral("--restrict=3:7,8,23;5:")}));
+
+    QVERIFY2(device.contains(QLatin1String(" map=3:7,8,23,;5:; ")), qPrintable(device));
+}
+
+void TEST_HOST_PROGRAM::families_file_that_cannot_be_used_ends_with_one()
+{
+    const PROBE_RESULT result =
+        run_with_fake({QStringLiteral("--dialog")}, {{QStringLiteral("GFPQ_FAMILIES"), QStringLiteral("/dev/zero")}});
+
+    QVERIFY(result.ended);
+    QCOMPARE(result.exit_code, 1);
+    QVERIFY2(result.log.endsWith("gfpq_host: GFPQ_FAMILIES: /dev/zero cannot be read: it is not a regular file.\n"),
+             result.log.constData());
+    QCOMPARE(result.output, QByteArray());
 }
 
 void TEST_HOST_PROGRAM::base_directory_reaches_the_module()
