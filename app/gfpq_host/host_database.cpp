@@ -17,9 +17,15 @@ QString text_of(const std::string& text)
 
 } // namespace
 
-void use_database_directory(const QString& directory)
+void use_base_directory(const QString& directory)
 {
-    const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(directory));
+    GFPDB_HELPER::set_base_dir(directory.toLocal8Bit().toStdString());
+}
+
+void use_database_directory(const QString& directory, const QString& base_directory)
+{
+    const QDir base = base_directory.isEmpty() ? QDir::current() : QDir(base_directory);
+    const QString path = QDir::cleanPath(base.absoluteFilePath(directory));
     const QString with_slash = path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
     GFPDB_MGR::set_db_custom_dir(with_slash.toLocal8Bit().toStdString());
 }

@@ -5,9 +5,13 @@
 
 #include <string>
 
-// `directory` (may be relative to the current directory) becomes the user's database directory of this run; the
-// settings stay as they are.
-void use_database_directory(const QString& directory);
+// Relative database directories are relative to `directory`, an absolute path, from now on: those of the settings and
+// those that the user types.
+void use_base_directory(const QString& directory);
+
+// `directory` (may be relative to `base_directory`, without one to the current directory) becomes the user's database
+// directory of this run; the settings stay as they are.
+void use_database_directory(const QString& directory, const QString& base_directory);
 
 struct DATABASE_STATE
 {

@@ -14,6 +14,7 @@
 #include "kovq/zui_app.h"
 #include "msg/msg.h"
 
+#include <QDir>
 #include <QScopeGuard>
 #include <QSettings>
 #include <QTextStream>
@@ -49,6 +50,19 @@ HOST_CHOICE first_choice(const HOST_ARGUMENTS& arguments, const QSettings& setti
     if (arguments.device_name)
         choice.device_name = arguments.device_name->toLocal8Bit().toStdString();
     return choice;
+}
+
+// The dialog makes the database directory the current one, so a relative base directory would not stay where it is.
+void set_directories(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
+{
+    const QString& given = arguments.base_directory;
+    const QString base = given.isEmpty() ? QString() : QDir::cleanPath(QDir::current().absoluteFilePath(given));
+    if (!base.isEmpty()) {
+        app.get_ui_mgr()->set_base_dir(base.toLocal8Bit().toStdString());
+        use_base_directory(base);
+    }
+    if (!arguments.database_directory.isEmpty())
+        use_database_directory(arguments.database_directory, base);
 }
 
 // The dialog's options for an opening with `choice`.
@@ -101,10 +115,7 @@ int run_host(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
     const HOST_TRANSLATION translation(arguments.language,
                                        HOST_TRANSLATION::installed_directories(QCoreApplication::applicationDirPath()),
                                        HOST_TRANSLATION::qt_directory());
-    if (!arguments.base_directory.isEmpty())
-        app.get_ui_mgr()->set_base_dir(arguments.base_directory.toLocal8Bit().toStdString());
-    if (!arguments.database_directory.isEmpty())
-        use_database_directory(arguments.database_directory);
+    set_directories(app, arguments);
 
     MSG_O::set_reason_source(reason_of_message);
 

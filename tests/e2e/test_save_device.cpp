@@ -251,6 +251,10 @@ void TEST_SAVE_DEVICE::lost_directory_is_told_and_the_form_keeps_its_values()
     QVERIFY(user().click(widget_called("m_apply_button")));
 
     QVERIFY(wait_for_box(QStringLiteral("Failed to save flash into database. (message 20439)")));
+    QString reason = look(widget_called("qt_msgbox_informativelabel")).value(QLatin1String("text")).toString();
+    // The places where a long word may be broken.
+    reason.remove(QChar(0x200B));
+    QVERIFY2(reason.contains(session().database_directory()), qPrintable(reason));
     QVERIFY(user().press(QStringLiteral("Return")));
     QVERIFY(wait_for_window(TITLE));
     QVERIFY(wait_for_property("m_device_name_edit", "text", QStringLiteral("Kept")));

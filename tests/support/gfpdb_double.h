@@ -244,6 +244,8 @@ public:
     // What get_active_flash_manager answers; null on request.
     MGR_DOUBLE* active = nullptr;
     std::string custom_dir = "/db/custom/";
+    // What GFPDB_HELPER::set_base_dir was called with last.
+    std::string base_dir;
     // What GFPDB_HELPER::get_database_problem answers.
     std::string database_problem;
     // What the library makes of a directory that it is set to; the directory itself when empty.

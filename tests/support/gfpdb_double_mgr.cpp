@@ -398,6 +398,12 @@ GFPDB_MGR* GFPDB_HELPER::get_active_flash_manager(bool reload)
     return GFPDB_WORLD::instance().active;
 }
 
+void GFPDB_HELPER::set_base_dir(std::string directory)
+{
+    record_static("GFPDB_HELPER", "set_base_dir", {log_text(directory)});
+    GFPDB_WORLD::instance().base_dir = std::move(directory);
+}
+
 std::string GFPDB_HELPER::get_database_problem()
 {
     record_static("GFPDB_HELPER", "get_database_problem");
@@ -414,6 +420,7 @@ void GFPDB_WORLD::reset()
 {
     m_managers.clear();
     custom_dir = "/db/custom/";
+    base_dir.clear();
     canonical_dir = nullptr;
     database_problem.clear();
     save_dir_succeeds = true;

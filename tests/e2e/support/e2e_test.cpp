@@ -13,7 +13,7 @@ E2E_TEST::~E2E_TEST() = default;
 
 void E2E_TEST::initTestCase()
 {
-    QVERIFY2(m_screen.start(), qPrintable(m_screen.problem()));
+    QVERIFY2(m_screen.start(screen_size()), qPrintable(m_screen.problem()));
 }
 
 void E2E_TEST::init()

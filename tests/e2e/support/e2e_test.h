@@ -21,6 +21,9 @@ public:
     ~E2E_TEST() override;
 
 protected:
+    // The screen that the test needs: by default one with room for everything.
+    virtual QSize screen_size() const { return {1600, 1200}; }
+
     // Starts the program anew on the same directory; the former run must have ended.
     bool start(const QStringList& options);
     bool start_with_database(const QString& database_directory, const QStringList& options);

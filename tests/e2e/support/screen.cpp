@@ -42,17 +42,17 @@ bool SCREEN::fail(const QString& problem)
     return false;
 }
 
-bool SCREEN::start()
+bool SCREEN::start(const QSize& size)
 {
-    return start_server() && start_window_manager();
+    return start_server(size) && start_window_manager();
 }
 
-bool SCREEN::start_server()
+bool SCREEN::start_server(const QSize& size)
 {
     // The server chooses the display number and tells it on its standard output once it takes connections.
     m_server.start(SERVER, {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                            QStringLiteral("0"), QStringLiteral("1600x1200x24"), QStringLiteral("-nolisten"),
-                            QStringLiteral("tcp"), QStringLiteral("-noreset")});
+                            QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height()),
+                            QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
     if (!m_server.waitForStarted(DEADLINE_MS))
         return fail(QStringLiteral("%1 cannot be started: %2").arg(SERVER, m_server.errorString()));
     while (!m_server.canReadLine()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QProcess>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -14,9 +15,10 @@ public:
     SCREEN(const SCREEN&) = delete;
     SCREEN& operator=(const SCREEN&) = delete;
 
-    // Starts the X server on a free display number and waits until the window manager does as it is told: a window that
-    // is opened from then on gets the focus. False when that does not come about; problem() says why.
-    bool start();
+    // Starts the X server with a screen of `size` on a free display number and waits until the window manager does as
+    // it is told: a window that is opened from then on gets the focus. False when that does not come about; problem()
+    // says why.
+    bool start(const QSize& size);
     QString problem() const { return m_problem; }
 
     // ":7"; what a program needs in DISPLAY.
@@ -26,7 +28,7 @@ public:
     bool run(const QString& program, const QStringList& arguments, QByteArray* output = nullptr) const;
 
 private:
-    bool start_server();
+    bool start_server(const QSize& size);
     bool start_window_manager();
     bool window_manager_obeys() const;
     bool fail(const QString& problem);

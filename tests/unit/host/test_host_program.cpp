@@ -27,6 +27,7 @@ private slots:
     void restriction_goes_through_as_it_is();
     void families_file_that_cannot_be_used_ends_with_one();
     void base_directory_reaches_the_module();
+    void relative_base_directory_stays_where_it_is();
     void language_is_set();
     void texts_are_utf8_in_any_locale();
 
@@ -247,6 +248,14 @@ void TEST_HOST_PROGRAM::base_directory_reaches_the_module()
         device_of(run_with_fake({QStringLiteral("--dialog"), QStringLiteral("--base-dir=/projects/\u00e4")}));
 
     QVERIFY2(device.contains(QStringLiteral(" base=/projects/\u00e4 ")), qPrintable(device));
+}
+
+void TEST_HOST_PROGRAM::relative_base_directory_stays_where_it_is()
+{
+    const QString device =
+        device_of(run_with_fake({QStringLiteral("--dialog"), QStringLiteral("--base-dir=./projects/../mine/")}));
+
+    QVERIFY2(device.contains(QStringLiteral(" base=%1/mine ").arg(QDir::currentPath())), qPrintable(device));
 }
 
 void TEST_HOST_PROGRAM::language_is_set()

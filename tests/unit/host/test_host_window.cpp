@@ -55,6 +55,7 @@ private slots:
     void quit_closes_the_window();
     void database_directory_is_made_absolute_data();
     void database_directory_is_made_absolute();
+    void database_gets_the_base_directory();
     void messages_about_the_database_have_its_reason_data();
     void messages_about_the_database_have_its_reason();
     void database_that_is_not_there_gives_no_reason();
@@ -490,25 +491,38 @@ void TEST_HOST_WINDOW::quit_closes_the_window()
 void TEST_HOST_WINDOW::database_directory_is_made_absolute_data()
 {
     QTest::addColumn<QString>("directory");
+    QTest::addColumn<QString>("base");
     QTest::addColumn<QByteArray>("expected");
 
-    QTest::newRow("absolute") << QStringLiteral("/data/mine") << QByteArray("/data/mine/");
-    QTest::newRow("slash at the end") << QStringLiteral("/data/mine/") << QByteArray("/data/mine/");
-    QTest::newRow("dots") << QStringLiteral("/data/./x/../mine") << QByteArray("/data/mine/");
-    QTest::newRow("relative") << QStringLiteral("mine") << QByteArray("HERE/mine/");
-    QTest::newRow("letters outside ASCII") << QStringLiteral("/\u00e4") << QByteArray("/\xC3\xA4/");
-    QTest::newRow("root") << QStringLiteral("/") << QByteArray("/");
+    QTest::newRow("absolute") << QStringLiteral("/data/mine") << QString() << QByteArray("/data/mine/");
+    QTest::newRow("slash at the end") << QStringLiteral("/data/mine/") << QString() << QByteArray("/data/mine/");
+    QTest::newRow("dots") << QStringLiteral("/data/./x/../mine") << QString() << QByteArray("/data/mine/");
+    QTest::newRow("relative") << QStringLiteral("mine") << QString() << QByteArray("HERE/mine/");
+    QTest::newRow("relative to the base")
+        << QStringLiteral("mine") << QStringLiteral("/base") << QByteArray("/base/mine/");
+    QTest::newRow("absolute in spite of the base")
+        << QStringLiteral("/data/mine") << QStringLiteral("/base") << QByteArray("/data/mine/");
+    QTest::newRow("letters outside ASCII") << QStringLiteral("/\u00e4") << QString() << QByteArray("/\xC3\xA4/");
+    QTest::newRow("root") << QStringLiteral("/") << QString() << QByteArray("/");
 }
 
 void TEST_HOST_WINDOW::database_directory_is_made_absolute()
 {
     QFETCH(QString, directory);
+    QFETCH(QString, base);
     QFETCH(QByteArray, expected);
 
-    use_database_directory(directory);
+    use_database_directory(directory, base);
 
     QCOMPARE(QByteArray::fromStdString(GFPDB_WORLD::instance().custom_dir),
              expected.replace("HERE", QFile::encodeName(QDir::currentPath())));
+}
+
+void TEST_HOST_WINDOW::database_gets_the_base_directory()
+{
+    use_base_directory(QStringLiteral("/base/\u00e4"));
+
+    QCOMPARE(GFPDB_WORLD::instance().base_dir, std::string("/base/\xC3\xA4"));
 }
 
 void TEST_HOST_WINDOW::messages_about_the_database_have_its_reason_data()
