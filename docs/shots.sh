@@ -200,6 +200,21 @@ shot_host-window() {
     picture host-window
 }
 
+# The database is gone when the new device is applied.
+shot_message() {
+    open_program --dialog --family 8 --scheme 23
+    local dialog=$WINDOW
+    # From the family, over the page title and the list, to the name; from there to the button below the page.
+    times 8 Tab
+    xdotool type CARD
+    mv "$PARTS" "$PARTS-away"
+    times 5 Tab
+    press space
+    until front_window && [ "$WINDOW" != "$dialog" ]; do sleep "$PAUSE"; done
+    picture message
+    mv "$PARTS-away" "$PARTS"
+}
+
 shot_template-editor() {
     open_program --dialog --family 1 --scheme 7
     local dialog=$WINDOW
@@ -238,7 +253,7 @@ shot_language-ja() {
 }
 
 readonly PICTURES=(device-page page-initialization page-program page-erase page-verify page-termination template-editor
-    host-window dark-device-page dark-erase scale-150 scale-200 language-ja)
+    host-window message dark-device-page dark-erase scale-150 scale-200 language-ja)
 
 main() {
     rm -rf "$WORK"

@@ -234,8 +234,12 @@ bool USER::choose(const char* combo, const QString& text)
     const auto is_current = [&text](const QJsonObject& answer) {
         return answer.value(QLatin1String("currentText")).toString() == text;
     };
-    return click(widget_called(combo)) && click(item_in(combo, text)) &&
-           m_session.wait_for(widget_called(combo), is_current);
+    // For a moment the list takes a click that is near the one that opened it for a part of that, until the pointer has
+    // gone some way.
+    const QStringList aside{QStringLiteral("mousemove_relative"), QStringLiteral("--sync"), QStringLiteral("30"),
+                            QStringLiteral("0")};
+    return click(widget_called(combo)) && move_to(item_in(combo, text)) && mouse(aside) &&
+           click(item_in(combo, text)) && m_session.wait_for(widget_called(combo), is_current);
 }
 
 bool USER::open_property_editor(const QString& label, const char* editor_class)
