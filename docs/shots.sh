@@ -200,16 +200,13 @@ shot_host-window() {
     picture host-window
 }
 
-# The database is gone when the new device is applied.
+# The database is gone when the device is applied.
 shot_message() {
-    open_program --dialog --family 8 --scheme 23
+    open_program "${DEVICE[@]}"
     local dialog=$WINDOW
-    # From the family, over the page title and the list, to the name; from there to the button below the page.
-    times 8 Tab
-    xdotool type CARD
     mv "$PARTS" "$PARTS-away"
-    times 5 Tab
-    press space
+    # From the family, which comes first, to the button that comes last.
+    press shift+Tab space
     until front_window && [ "$WINDOW" != "$dialog" ]; do sleep "$PAUSE"; done
     picture message
     mv "$PARTS-away" "$PARTS"

@@ -24,7 +24,10 @@ GFPQ_DLG& PEOPLE_TEST::open_dialog()
 {
     m_dialog = std::make_unique<GFPQ_DLG>(nullptr, FAMILY, SCHEME, "My part", true, true, true,
                                           std::map<int, std::vector<int>>());
+    // The screen of these tests is smaller than the form, and the dialog keeps to its screen.
+    const QSize size_of_form = m_dialog->size();
     m_dialog->show();
+    m_dialog->resize(size_of_form);
     m_dialog->activateWindow();
     if (!QTest::qWaitForWindowActive(m_dialog.get()))
         qFatal("the dialog never became the active window");
