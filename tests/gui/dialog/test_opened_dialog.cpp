@@ -9,7 +9,6 @@
 #include <QDebug>
 #include <QFormLayout>
 #include <QMetaProperty>
-#include <QTabBar>
 #include <QValidator>
 
 namespace {
