@@ -30,6 +30,7 @@ private slots:
     void a_family_that_the_map_lacks_is_not_offered_data();
     void a_family_that_the_map_lacks_is_not_offered();
     void a_map_outlives_a_change_of_the_mode();
+    void a_value_that_comes_twice_is_offered_twice();
     void values_that_are_no_scheme_are_skipped();
     void an_empty_mode_list_counts_as_mode_0();
     void a_family_change_calls_in_order();
@@ -266,6 +267,18 @@ void TEST_FAMILY_AND_MODE::a_map_outlives_a_change_of_the_mode()
     QCOMPARE(items("m_config_mode_cbox"), list_of({"Active Serial", "Active Serial x4"}));
     choose("m_family_cbox", ALDER);
     QCOMPARE(items("m_config_mode_cbox"), list_of({"Passive Parallel x8", "SDMMC x4"}));
+}
+
+void TEST_FAMILY_AND_MODE::a_value_that_comes_twice_is_offered_twice()
+{
+    mgr().families = {5, 3, 5};
+    DIALOG_ARGS args;
+    args.family_schemes = {{5, {13, 7, 13}}, {3, {}}};
+
+    open(args);
+
+    QCOMPARE(items("m_family_cbox"), list_of({"Alder", "Cedar", "Cedar"}));
+    QCOMPARE(items("m_config_mode_cbox"), list_of({"Active Serial", "Active Serial x4", "Active Serial x4"}));
 }
 
 void TEST_FAMILY_AND_MODE::values_that_are_no_scheme_are_skipped()

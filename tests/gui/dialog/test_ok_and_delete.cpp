@@ -14,6 +14,7 @@ private slots:
     void ok_on_a_builtin_device_closes();
     void ok_on_a_hidden_device_closes();
     void ok_on_a_record_that_cannot_be_made_closes();
+    void ok_on_a_new_device_that_cannot_be_made_hands_back_its_row();
     void ok_after_a_rename_hands_back_the_new_name();
     void ok_with_a_name_that_the_filter_hides_hands_it_back();
     void ok_on_the_new_device_row_hands_back_the_saved_name();
@@ -136,6 +137,19 @@ void TEST_OK_AND_DELETE::ok_on_a_record_that_cannot_be_made_closes()
     QCOMPARE(rejected.size(), 1);
     QCOMPARE(log().count(qs("save_flash")), 0);
     QCOMPARE(dlg().device_name(), std::string("A"));
+}
+
+void TEST_OK_AND_DELETE::ok_on_a_new_device_that_cannot_be_made_hands_back_its_row()
+{
+    mgr().creates_flash = false;
+    open();
+    edit("m_device_name_edit").setText(QStringLiteral("X"));
+    QSignalSpy rejected(&dlg(), &QDialog::rejected);
+
+    button("m_ok_button").click();
+
+    QCOMPARE(rejected.size(), 1);
+    QCOMPARE(dlg().device_name(), std::string("<<new device>>"));
 }
 
 void TEST_OK_AND_DELETE::ok_after_a_rename_hands_back_the_new_name()

@@ -22,6 +22,7 @@ private slots:
     void the_flow_flag_reaches_the_pages();
     void operation_pages_are_enabled_data();
     void operation_pages_are_enabled();
+    void pages_are_loaded_before_they_are_enabled();
     void pages_that_are_disabled_are_not_loaded();
     void disabled_pages_hand_over_to_the_device_page_at_once_data();
     void disabled_pages_hand_over_to_the_device_page_at_once();
@@ -232,6 +233,21 @@ void TEST_SHOWN_FLOWS::operation_pages_are_enabled()
     QCOMPARE(pages_enabled(), (QList<bool>{enabled, enabled, enabled, enabled, enabled}));
     if (device == QLatin1String("built-in"))
         QVERIFY(log().calls().contains(qs(R"(mgr.is_hidden_flash("built-in", true))")));
+}
+
+void TEST_SHOWN_FLOWS::pages_are_loaded_before_they_are_enabled()
+{
+    mgr().add_builtin("B");
+    mgr().hidden_flows = {"B"};
+    mgr().add_custom("A").operations[false] = make_operations("step");
+    open_with("B");
+    QList<bool> enabled_while_loading;
+    log().on_call(qs("is_flow_editable"), [&](const QString&) { enabled_while_loading = pages_enabled(); });
+
+    pick(QStringLiteral("A"));
+
+    QCOMPARE(enabled_while_loading, (QList<bool>{false, false, false, false, false}));
+    QCOMPARE(pages_enabled(), (QList<bool>{true, true, true, true, true}));
 }
 
 void TEST_SHOWN_FLOWS::pages_that_are_disabled_are_not_loaded()
