@@ -26,8 +26,9 @@ struct GFPDB_ROW
     std::string revision;
 };
 
-// True when both are the same state of a record: all but the revision is the same.
-bool gfpdb_is_same_state(const GFPDB_ROW& row, const GFPDB_ROW& other);
+// True when saving `next` over `former` would change nothing: all but the revision is the same, and `next` has the same
+// template name or none.
+bool gfpdb_is_same_state(const GFPDB_ROW& former, const GFPDB_ROW& next);
 
 // A text that no record has as its revision yet.
 std::string gfpdb_new_revision();
