@@ -26,6 +26,15 @@ bool refuse(std::string& error, const std::string& text)
     return false;
 }
 
+// A form that shows a stored value leaves it as it is when it is saved. A missing value is no choice.
+void add_missing(std::vector<std::string>& options, const std::set<std::string>& used)
+{
+    for (const std::string& value : used) {
+        if (!value.empty() && std::find(options.begin(), options.end(), value) == options.end())
+            options.push_back(value);
+    }
+}
+
 } // namespace
 
 GFPDB_EMBEDDED_MGR& GFPDB_EMBEDDED_MGR::instance()
@@ -458,12 +467,16 @@ std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_builtin_flash_names(std::vecto
 
 std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_voltage_list(std::vector<std::string>& voltages) const
 {
-    return voltages = gfpdb_voltage_options(kind());
+    voltages = gfpdb_voltage_options(kind());
+    add_missing(voltages, m_store->get_used_values(gfpdb_schemes_of(kind())).voltages);
+    return voltages;
 }
 
 std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_density_list(std::vector<std::string>& densities) const
 {
-    return densities = gfpdb_density_options(kind());
+    densities = gfpdb_density_options(kind());
+    add_missing(densities, m_store->get_used_values(gfpdb_schemes_of(kind())).densities);
+    return densities;
 }
 
 std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_template_list(std::vector<std::string>& templates) const

@@ -10,10 +10,14 @@ namespace {
 
 constexpr double LOW_VOLTAGE = 1.8;
 
-const std::vector<std::string> SERIAL_VOLTAGES = {"3.3V", "3.0V",     "2.5V",     "1.8V",
-                                                  "1.2V", "2.5-3.6V", "2.3-3.6V", "1.65-3.6V"};
-const std::vector<std::string> PARALLEL_VOLTAGES = {"3.3V", "3.0V", "2.5V", "1.8V"};
-const std::vector<std::string> CARD_VOLTAGES = {"3.3V", "1.8V"};
+// A new device begins with the first one that fits, so that the nominal voltages come first. The ranges are those of
+// data sheets.
+const std::vector<std::string> SERIAL_VOLTAGES = {"3.3V",      "3.0V",     "2.5V",      "1.8V",      "1.2V",
+                                                  "2.5-3.6V",  "2.3-3.6V", "1.65-3.6V", "2.7-3.6V",  "3.0-3.6V",
+                                                  "2.65-3.6V", "1.7-2.0V", "1.65-2.0V", "1.7-1.95V", "1.65-1.95V"};
+const std::vector<std::string> PARALLEL_VOLTAGES = {"3.3V",     "3.0V",     "2.5V",     "1.8V",     "2.7-3.6V",
+                                                    "3.0-3.6V", "2.3-3.6V", "1.7-2.0V", "1.7-1.95V"};
+const std::vector<std::string> CARD_VOLTAGES = {"3.3V", "1.8V", "2.7-3.6V", "1.7-1.95V"};
 
 const std::vector<std::string> SERIAL_DENSITIES = {"1Mb",   "2Mb",   "4Mb",   "8Mb",    "16Mb",   "32Mb",  "64Mb",
                                                    "128Mb", "256Mb", "512Mb", "1024Mb", "2048Mb", "4096Mb"};

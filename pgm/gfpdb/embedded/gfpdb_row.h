@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 
 // One device or stored template as a row of the database. Texts are UTF-8.
@@ -61,4 +62,11 @@ struct GFPDB_TAKEN
     int scheme = -1;
     std::string name;
     std::string revision;
+};
+
+// The voltages and densities that records have, in the order of their bytes.
+struct GFPDB_USED_VALUES
+{
+    std::set<std::string> voltages;
+    std::set<std::string> densities;
 };

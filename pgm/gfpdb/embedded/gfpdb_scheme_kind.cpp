@@ -23,6 +23,17 @@ GFPDB_SCHEME_KIND gfpdb_scheme_kind(int scheme)
     }
 }
 
+std::vector<int> gfpdb_schemes_of(GFPDB_SCHEME_KIND kind)
+{
+    const GFPDB_SCHEME_KIND wanted = kind == GFPDB_SCHEME_KIND::NONE ? GFPDB_SCHEME_KIND::SERIAL : kind;
+    std::vector<int> schemes;
+    for (int scheme = 0; scheme < PGMIO_ILLEGAL_SCHEME; ++scheme) {
+        if (gfpdb_scheme_kind(scheme) == wanted)
+            schemes.push_back(scheme);
+    }
+    return schemes;
+}
+
 bool gfpdb_is_quad_scheme(int scheme)
 {
     return scheme == PGMIO_ACTIVE_SERIAL_X4;

@@ -5,6 +5,8 @@
 
 #include "gfpdb/gfpdb_enums.h"
 
+#include <vector>
+
 enum class GFPDB_SCHEME_KIND
 {
     NONE,     // the scheme configures without a flash: no devices
@@ -15,6 +17,9 @@ enum class GFPDB_SCHEME_KIND
 
 // The kind of `scheme`; NONE for a value that is no scheme.
 GFPDB_SCHEME_KIND gfpdb_scheme_kind(int scheme);
+
+// The schemes of `kind`, ascending; NONE has those of SERIAL, as it has its properties and lists.
+std::vector<int> gfpdb_schemes_of(GFPDB_SCHEME_KIND kind);
 
 // True when the devices of `scheme` are read and written over four data lines.
 bool gfpdb_is_quad_scheme(int scheme);

@@ -240,6 +240,53 @@ std::vector<std::string> GFPDB_STORE::get_template_names()
     return read_names(query);
 }
 
+// The rows are large, and a directory may have many of them: they are not read again for every list.
+GFPDB_USED_VALUES GFPDB_STORE::get_used_values(const std::vector<int>& schemes)
+{
+    const std::string foreign_changes = read_text("PRAGMA data_version", {});
+    if (foreign_changes != m_foreign_changes)
+        m_used_values.clear();
+    m_foreign_changes = foreign_changes;
+    const auto known = m_used_values.find(schemes);
+    if (known != m_used_values.end())
+        return known->second;
+    GFPDB_USED_VALUES values;
+    if (read_used_values(schemes, values))
+        m_used_values[schemes] = values;
+    return values;
+}
+
+bool GFPDB_STORE::read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values)
+{
+    QStringList numbers;
+    for (const int scheme : schemes)
+        numbers << QString::number(scheme);
+    const QString select = QStringLiteral("SELECT CAST(voltage AS BLOB), CAST(density AS BLOB) FROM %1 "
+                                          "WHERE scheme IN (%2)");
+    const QString list = numbers.join(QLatin1Char(','));
+    const QString statement = select.arg(QStringLiteral("device"), list) + QLatin1String(" UNION ") +
+                              select.arg(QStringLiteral("template"), list);
+    QSqlQuery query;
+    if (!start_read(query, statement.toLatin1().constData()))
+        return false;
+    while (next_row(query)) {
+        values.voltages.insert(text_at(query, 0));
+        values.densities.insert(text_at(query, 1));
+    }
+    return !query.lastError().isValid();
+}
+
+// Other programs' changes are counted by SQLite; this program's own are not.
+void GFPDB_STORE::note_used_values(const GFPDB_ROW& row)
+{
+    for (auto& [schemes, values] : m_used_values) {
+        if (std::find(schemes.begin(), schemes.end(), row.scheme) == schemes.end())
+            continue;
+        values.voltages.insert(row.voltage);
+        values.densities.insert(row.density);
+    }
+}
+
 std::string GFPDB_STORE::read_text(const char* statement, const QVariantList& values)
 {
     QSqlQuery query;
@@ -333,7 +380,10 @@ std::optional<std::string> GFPDB_STORE::save_device(const GFPDB_ROW& row, const 
 {
     std::string revision;
     const auto work = [&] { return check_free_names(row) && save_over(row, taken, revision) && save_template(row); };
-    return prepare_write() && change(work) ? std::optional<std::string>(revision) : std::nullopt;
+    if (!prepare_write() || !change(work))
+        return std::nullopt;
+    note_used_values(row);
+    return revision;
 }
 
 // What is stored already stays as it is: saving it again makes no other state. What this program has just taken counts
@@ -483,6 +533,7 @@ std::vector<GFPDB_ROW> GFPDB_STORE::get_templates()
 bool GFPDB_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
                            const std::function<void(int)>& progress)
 {
+    m_used_values.clear();
     return prepare_write() && change([&] {
                int done = 0;
                for (const GFPDB_ROW& row : devices) {
@@ -545,6 +596,7 @@ bool GFPDB_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string&
     row.revision = gfpdb_new_revision();
     if (!new_name.empty())
         (entry->is_template ? row.template_name : row.name) = new_name;
+    m_used_values.clear();
     return prepare_write() && change([&] {
                return check_different_names(row) &&
                       (entry->is_template ? put_back_template(row, how) : put_back_device(row, how));

@@ -25,6 +25,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -63,6 +64,9 @@ public:
     std::vector<std::string> get_device_names(int family, int scheme);
     // The names of the stored templates, ordered likewise.
     std::vector<std::string> get_template_names();
+    // The voltages and densities of the devices and templates of `schemes`. They are read once, and again when another
+    // program has changed the database; what this program removed stays until then, or until the file is opened anew.
+    GFPDB_USED_VALUES get_used_values(const std::vector<int>& schemes);
     // The record, or none; names are compared without regard to case.
     std::optional<GFPDB_ROW> find_device(int family, int scheme, const std::string& name);
     std::optional<GFPDB_ROW> find_template(const std::string& template_name);
@@ -178,6 +182,8 @@ private:
     bool run_step(int from);
 
     // gfpdb_store.cpp: the records.
+    bool read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values);
+    void note_used_values(const GFPDB_ROW& row);
     bool start_read(QSqlQuery& query, const char* statement, const QVariantList& values = {});
     bool next_row(QSqlQuery& query);
     bool note_read_problem();
@@ -217,6 +223,9 @@ private:
     int m_schema_version = 0;
     // The count of the schema that was found to be a known one.
     std::optional<int> m_schema_count;
+    // What get_used_values() gave for which schemes, and SQLite's count of other programs' changes at that time.
+    std::map<std::vector<int>, GFPDB_USED_VALUES> m_used_values;
+    std::string m_foreign_changes;
     // The file that the user has seen is gone, and no change was refused for that yet.
     bool m_was_replaced = false;
     // The last error was another program's lock; then an unusable database is not tried again before that time.

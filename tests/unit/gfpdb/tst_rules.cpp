@@ -317,12 +317,15 @@ void TST_RULES::each_kind_has_its_properties()
 
 void TST_RULES::voltage_lists()
 {
-    const NAMES serial = {"3.3V", "3.0V", "2.5V", "1.8V", "1.2V", "2.5-3.6V", "2.3-3.6V", "1.65-3.6V"};
+    const NAMES serial = {"3.3V",      "3.0V",     "2.5V",      "1.8V",      "1.2V",
+                          "2.5-3.6V",  "2.3-3.6V", "1.65-3.6V", "2.7-3.6V",  "3.0-3.6V",
+                          "2.65-3.6V", "1.7-2.0V", "1.65-2.0V", "1.7-1.95V", "1.65-1.95V"};
 
     QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::SERIAL), serial);
     QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::NONE), serial);
-    QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::PARALLEL), (NAMES{"3.3V", "3.0V", "2.5V", "1.8V"}));
-    QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::CARD), (NAMES{"3.3V", "1.8V"}));
+    QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::PARALLEL),
+             (NAMES{"3.3V", "3.0V", "2.5V", "1.8V", "2.7-3.6V", "3.0-3.6V", "2.3-3.6V", "1.7-2.0V", "1.7-1.95V"}));
+    QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::CARD), (NAMES{"3.3V", "1.8V", "2.7-3.6V", "1.7-1.95V"}));
 }
 
 void TST_RULES::density_lists()
