@@ -43,10 +43,13 @@ bool PAGE_RENDERER::eventFilter(QObject* watched, QEvent* event)
 {
     auto* shown = event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
     if (shown) {
-        // From within the dialog's own event loop, which starts after it was shown.
-        QTimer::singleShot(0, this, [this, dialog = QPointer<QDialog>(shown)] {
-            if (dialog)
-                meet(dialog);
+        // From within the dialog's own event loop, which starts after it was shown. Nobody sees the screen that it
+        // keeps to, so it gets the size back that it comes with.
+        QTimer::singleShot(0, this, [this, dialog = QPointer<QDialog>(shown), size = shown->size()] {
+            if (!dialog)
+                return;
+            dialog->resize(size);
+            meet(dialog);
         });
     }
     return QObject::eventFilter(watched, event);

@@ -7,6 +7,7 @@ class TEST_MAIN_WINDOW : public E2E_TEST
 
 private slots:
     void choice_is_shown_and_remembered();
+    void choice_of_the_window_decides_what_the_dialog_offers();
     void menu_opens_the_dialog_too();
     void dialog_is_modal_to_the_window();
     void unusable_database_is_told_data();
@@ -67,6 +68,29 @@ void TEST_MAIN_WINDOW::choice_is_shown_and_remembered()
     QVERIFY(user().click(widget_called("m_dialog_button")));
     QVERIFY(wait_for_window(DIALOG_TITLE));
     QVERIFY(wait_for_property("m_device_name_edit", "text", DEVICE));
+}
+
+void TEST_MAIN_WINDOW::choice_of_the_window_decides_what_the_dialog_offers()
+{
+    QVERIFY(start({}));
+    QVERIFY(wait_for_window(TITLE));
+    QVERIFY(user().choose("m_family_combo", QStringLiteral("Myrtle")));
+    QVERIFY(wait_for_property("m_mode_combo", "currentText", text("Active Serial")));
+    QVERIFY(user().choose("m_mode_combo", QStringLiteral("SDMMC x8")));
+
+    QVERIFY(user().click(widget_called("m_dialog_button")));
+    QVERIFY(wait_for_window(DIALOG_TITLE));
+    QVERIFY(wait_for_property("m_family_cbox", "currentText", text("Myrtle")));
+    QVERIFY(wait_for_property("m_config_mode_cbox", "currentText", text("SDMMC x8")));
+    QCOMPARE(column_of("m_config_mode_cbox"), (QStringList{QStringLiteral("SDMMC x4"), QStringLiteral("SDMMC x8")}));
+    QVERIFY(user().press(QStringLiteral("Escape")));
+    QVERIFY(wait_for_window(TITLE));
+    QVERIFY(quit());
+    QVERIFY(ended_well());
+
+    QVERIFY(start({}));
+    QVERIFY(wait_for_property("m_family_combo", "currentText", text("Myrtle")));
+    QVERIFY(wait_for_property("m_mode_combo", "currentText", text("SDMMC x8")));
 }
 
 void TEST_MAIN_WINDOW::menu_opens_the_dialog_too()

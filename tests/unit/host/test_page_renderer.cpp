@@ -28,6 +28,7 @@ class TEST_PAGE_RENDERER : public QObject
 private slots:
     void every_page_and_the_template_editor_are_drawn();
     void pictures_show_their_pages();
+    void pictures_are_as_large_as_the_form();
     void dialog_without_a_template_editor_data();
     void dialog_without_a_template_editor();
     void foreign_window_is_closed_and_told();
@@ -121,6 +122,26 @@ void TEST_PAGE_RENDERER::pictures_show_their_pages()
         QCOMPARE(picture.size(), form.size());
         QCOMPARE(picture.pixelColor(picture.rect().center()), COLOURS[page]);
     }
+}
+
+// The dialog makes itself smaller for a small screen.
+void TEST_PAGE_RENDERER::pictures_are_as_large_as_the_form()
+{
+    class MODEST_FORM : public FORM
+    {
+        void showEvent(QShowEvent* event) override
+        {
+            resize(200, 150);
+            FORM::showEvent(event);
+        }
+    };
+    QTemporaryDir directory;
+    PAGE_RENDERER renderer(directory.path());
+    MODEST_FORM form;
+    form.exec();
+
+    QCOMPARE(renderer.problem(), QString());
+    QCOMPARE(QImage(renderer.files().constFirst()).size(), QSize(400, 300));
 }
 
 void TEST_PAGE_RENDERER::dialog_without_a_template_editor_data()
