@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr const char* OPTION_REBUILD_KEYS = "rebuild-keys";
+
 // A record and one thing that is wrong with it.
 struct FOUND
 {
@@ -85,6 +87,8 @@ std::string text(std::size_t count, const FINDINGS& found)
 
 void CLI_CHECK_COMMAND::add_options(QCommandLineParser& parser) const
 {
+    parser.addOption({QLatin1String(OPTION_REBUILD_KEYS), QStringLiteral("First store records that no search finds "
+                                                                         "under the keys of their names.")});
     cli_add_json_option(parser);
 }
 
@@ -93,10 +97,14 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
     const std::string problem = call.database.read_problem();
     if (!problem.empty())
         return call.database_failed(problem);
+    if (call.has(OPTION_REBUILD_KEYS) && !call.database.store().rebuild_keys())
+        return call.database_failed(call.database.store().get_last_error());
     const std::string damage =
         call.database.store().check_integrity() ? std::string() : call.database.store().get_last_error();
     FINDINGS found;
     const std::vector<CLI_RECORD> records = call.database.find_stored({});
+    for (const CLI_RECORD& record : call.database.find_misplaced({}))
+        found.problems.push_back({cli_title(record), {0, "", CLI_MISPLACED}});
     int done = 0;
     for (const CLI_RECORD& record : records) {
         if (const std::optional<CLI_RECORD> loaded = call.database.load(record))

@@ -71,5 +71,7 @@ constexpr const char* CLI_OPTION_FAMILY = "family";
 constexpr const char* CLI_OPTION_SCHEME = "scheme";
 constexpr const char* CLI_OPTION_DIR = "dir";
 constexpr const char* CLI_OPTION_OUTPUT = "output";
+constexpr const char* CLI_OPTION_OLDER_THAN = "older-than";
+constexpr const char* CLI_OPTION_KEEP = "keep";
 constexpr const char* CLI_OPTION_CSV = "csv";
 constexpr const char* CLI_OPTION_SPREADSHEET = "spreadsheet";

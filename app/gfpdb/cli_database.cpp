@@ -94,3 +94,13 @@ std::optional<CLI_RECORD> CLI_DATABASE::load(const CLI_RECORD& record)
                            : m_store.find_device(record.row.family, record.row.scheme, record.row.name);
     return row ? std::optional<CLI_RECORD>({record.is_template, *row, 0}) : std::nullopt;
 }
+
+std::vector<CLI_RECORD> CLI_DATABASE::find_misplaced(const CLI_SELECTION& selection)
+{
+    std::vector<CLI_RECORD> records;
+    for (const GFPDB_MISPLACED& record : m_store.get_misplaced()) {
+        if (has_name(selection, record.name()) && (record.is_template || has_place(selection, record.row)))
+            records.push_back({record.is_template, record.row, 0});
+    }
+    return records;
+}

@@ -19,6 +19,11 @@ struct CLI_SELECTION
     std::optional<int> scheme;
 };
 
+// What is said of a record that find_misplaced() finds.
+constexpr const char* CLI_MISPLACED =
+    "The stored key does not fit the name, so that no search finds the record: \"gfpdb "
+    "check --rebuild-keys\" repairs that, unless another record has the name.";
+
 class CLI_DATABASE
 {
 public:
@@ -38,6 +43,8 @@ public:
     std::vector<CLI_RECORD> find_builtin(const CLI_SELECTION& selection);
     // The record with its flows; none when it is gone, or cannot be read.
     std::optional<CLI_RECORD> load(const CLI_RECORD& record);
+    // Records that load() does not find, because their key in the database is not that of their name.
+    std::vector<CLI_RECORD> find_misplaced(const CLI_SELECTION& selection);
 
 private:
     GFPDB_MGR& m_manager;

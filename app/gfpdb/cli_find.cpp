@@ -48,8 +48,11 @@ std::optional<CLI_RECORD> cli_find_one(const CLI_CALL& call, const std::string& 
     }
     if (!stored.empty()) {
         std::optional<CLI_RECORD> record = call.database.load(stored.front());
-        if (!record)
-            exit_code = call.database_failed(call.database.store().get_last_error());
+        const std::string error = call.database.store().get_last_error();
+        if (!record && error.empty() && !call.database.find_misplaced(selection).empty())
+            exit_code = call.database_failed(cli_title(stored.front()) + ": " + CLI_MISPLACED);
+        else if (!record)
+            exit_code = call.database_failed(error);
         return record;
     }
     if (!builtin.empty())

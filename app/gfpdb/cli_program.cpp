@@ -17,12 +17,15 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include <limits>
 #include <memory>
 
 namespace {
 
 constexpr const char* OPTION_HELP = "help";
 constexpr const char* OPTION_VERBOSE = "verbose";
+// A hundred years.
+constexpr int DAYS_MAX = 36500;
 constexpr int NAME_WIDTH = 10;
 
 using COMMANDS = std::vector<std::unique_ptr<CLI_COMMAND>>;
@@ -96,7 +99,9 @@ QString problem_of_numbers(const QCommandLineParser& parser)
         int lowest;
         int highest;
     } ranges[] = {{CLI_OPTION_FAMILY, DEV_FAMILY_FIRST, DEV_FAMILY_LAST},
-                  {CLI_OPTION_SCHEME, 0, PGMIO_ILLEGAL_SCHEME - 1}};
+                  {CLI_OPTION_SCHEME, 0, PGMIO_ILLEGAL_SCHEME - 1},
+                  {CLI_OPTION_OLDER_THAN, 0, DAYS_MAX},
+                  {CLI_OPTION_KEEP, 0, std::numeric_limits<int>::max()}};
     for (const auto& range : ranges) {
         const QString name = QLatin1String(range.name);
         if (!parser.optionNames().contains(name))

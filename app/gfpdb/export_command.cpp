@@ -24,7 +24,12 @@ std::optional<std::vector<CLI_RECORD>> collect(const CLI_CALL& call, int& exit_c
     }
     if (call.argument_count() > 0)
         return records;
-    const std::vector<CLI_RECORD> found = call.database.find_stored(cli_selection(call, std::string()));
+    const CLI_SELECTION selection = cli_selection(call, std::string());
+    for (const CLI_RECORD& record : call.database.find_misplaced(selection))
+        exit_code = call.database_failed(cli_title(record) + ": " + CLI_MISPLACED);
+    if (exit_code != CLI_EXIT_OK)
+        return std::nullopt;
+    const std::vector<CLI_RECORD> found = call.database.find_stored(selection);
     for (const CLI_RECORD& each : found) {
         // What another program has removed meanwhile is not there to be exported.
         if (const std::optional<CLI_RECORD> record = call.database.load(each))
@@ -87,6 +92,7 @@ int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
     const std::optional<std::vector<CLI_RECORD>> records = collect(call, exit_code);
     if (!records)
         return exit_code;
+    exit_code = CLI_EXIT_OK;
     std::vector<CLI_RECORD> unreadable;
     const std::optional<CSV_FOR> csv = csv_reader(call);
     const std::string text = csv ? records_to_csv(*records, *csv) : json_write(records_to_json(*records, unreadable));

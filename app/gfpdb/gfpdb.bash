@@ -38,7 +38,7 @@ _gfpdb()
         mapfile -t COMPREPLY < <(compgen -W "single quad both" -- "$current")
         return
         ;;
-    --family | --scheme | --filter | --as)
+    --family | --scheme | --filter | --as | --older-than | --keep)
         return
         ;;
     esac
@@ -47,8 +47,8 @@ _gfpdb()
     show) options="--variant --json --family --scheme" ;;
     export) options="--output --csv --spreadsheet --family --scheme" ;;
     import) options="--replace --dry-run --unchecked --csv --family --scheme" ;;
-    check) options="--json" ;;
-    history) options="--json --family --scheme" ;;
+    check) options="--rebuild-keys --json" ;;
+    history) options="--prune --older-than --keep --force --json --family --scheme" ;;
     restore) options="--replace --as" ;;
     diff) options="--json --family --scheme" ;;
     help)

@@ -5,7 +5,12 @@
 
 #include "gfpdb_text.h"
 
+#include <QDateTime>
+
 namespace {
+
+constexpr const char* OPTION_PRUNE = "prune";
+constexpr const char* OPTION_FORCE = "force";
 
 constexpr int ID_WIDTH = 6;
 constexpr int WHEN_WIDTH = 22;
@@ -66,10 +71,44 @@ bool is_selected(const CLI_SELECTION& selection, const GFPDB_HISTORY_ENTRY& entr
            selection.scheme.value_or(entry.row.scheme) == entry.row.scheme;
 }
 
+// What is wrong with the options for pruning; empty when nothing is.
+std::string problem_of_pruning(const CLI_CALL& call)
+{
+    const bool has_limit = call.has(CLI_OPTION_OLDER_THAN) || call.has(CLI_OPTION_KEEP);
+    if (call.has(OPTION_PRUNE))
+        return has_limit ? "" : "--prune needs --older-than or --keep.";
+    return has_limit || call.has(OPTION_FORCE) ? "--older-than, --keep and --force go with --prune." : "";
+}
+
+int prune(const CLI_CALL& call, const CLI_SELECTION& selection)
+{
+    GFPDB_PRUNING pruning;
+    pruning.is_selected = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return is_selected(selection, entry); };
+    pruning.keep = call.number(CLI_OPTION_KEEP).value_or(0);
+    pruning.last_of_deleted = call.has(OPTION_FORCE);
+    if (const std::optional<int> days = call.number(CLI_OPTION_OLDER_THAN))
+        pruning.before = gfpdb_to_utf8(QDateTime::currentDateTimeUtc().addDays(-*days).toString(Qt::ISODate));
+    const std::optional<int> count = call.database.store().prune_history(pruning);
+    if (!count)
+        return call.database_failed(call.database.store().get_last_error());
+    call.output.print("Removed " + std::to_string(*count) + (*count == 1 ? " state" : " states") +
+                      " from the history of " + cli_printable(call.database.directory()) + '\n');
+    return CLI_EXIT_OK;
+}
+
 } // namespace
 
 void CLI_HISTORY_COMMAND::add_options(QCommandLineParser& parser) const
 {
+    parser.addOption({QLatin1String(OPTION_PRUNE), QStringLiteral("Remove states instead of listing them; not the last "
+                                                                  "one of a record that is not there any more.")});
+    parser.addOption({QLatin1String(CLI_OPTION_OLDER_THAN),
+                      QStringLiteral("Remove only states that are older than this many days."),
+                      QStringLiteral("days")});
+    parser.addOption({QLatin1String(CLI_OPTION_KEEP), QStringLiteral("Keep this many states of each record."),
+                      QStringLiteral("number")});
+    parser.addOption({QLatin1String(OPTION_FORCE), QStringLiteral("Remove also the last state of a record that is not "
+                                                                  "there any more: nothing is left of it then.")});
     cli_add_place_options(parser, "Only records");
     cli_add_json_option(parser);
 }
@@ -77,6 +116,11 @@ void CLI_HISTORY_COMMAND::add_options(QCommandLineParser& parser) const
 int CLI_HISTORY_COMMAND::run(const CLI_CALL& call) const
 {
     const CLI_SELECTION selection = cli_selection(call, call.argument(0));
+    const std::string usage_problem = problem_of_pruning(call);
+    if (!usage_problem.empty())
+        return call.wrong_usage(usage_problem);
+    if (call.has(OPTION_PRUNE))
+        return prune(call, selection);
     std::vector<GFPDB_HISTORY_ENTRY> entries;
     for (const GFPDB_HISTORY_ENTRY& entry : call.database.store().get_history()) {
         if (is_selected(selection, entry))

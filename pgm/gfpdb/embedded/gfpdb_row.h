@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -69,4 +70,26 @@ struct GFPDB_USED_VALUES
 {
     std::set<std::string> voltages;
     std::set<std::string> densities;
+};
+
+// Which states are removed from the history: of those that `is_selected` picks, the ones that became history before
+// `before` (UTC, as changed_at; empty for any time) and are not among the `keep` newest of their record.
+struct GFPDB_PRUNING
+{
+    std::function<bool(const GFPDB_HISTORY_ENTRY&)> is_selected;
+    std::string before;
+    int keep = 0;
+    // Also the newest state of a record that is not there any more, with which nothing is left of it.
+    bool last_of_deleted = false;
+};
+
+// A record whose key in the database is not that of its name.
+struct GFPDB_MISPLACED
+{
+    bool is_template = false;
+    GFPDB_ROW row;
+    // Its number in its table.
+    std::int64_t row_id = 0;
+
+    const std::string& name() const { return is_template ? row.template_name : row.name; }
 };

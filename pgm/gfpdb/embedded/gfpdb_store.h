@@ -116,6 +116,17 @@ public:
     // it, or when a device and the template that was made from it would have the same name.
     bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name);
 
+    // Removes states from the history, all at once; their number, or none on failure.
+    std::optional<int> prune_history(const GFPDB_PRUNING& pruning);
+
+    // Records that no search by name finds, because the key under which they are stored is not that of their name: the
+    // Unicode tables by which names are compared have changed, or another program has written the file. Each with its
+    // place, names and revision.
+    std::vector<GFPDB_MISPLACED> get_misplaced();
+    // Stores them under the keys of their names, all at once; their number, or none on failure. Those whose name
+    // another record has stay misplaced.
+    std::optional<int> rebuild_keys();
+
     // The name of the database file in its directory.
     static const char FILE_NAME[];
     static constexpr int SCHEMA_VERSION = 2;
@@ -213,6 +224,14 @@ private:
     bool drop_device(int family, int scheme, const std::string& name, const char* reason,
                      std::int64_t* history_id = nullptr);
     bool drop_template(const std::string& template_name, const char* reason);
+
+    // gfpdb_store_upkeep.cpp: keeping the history small and the keys right.
+    bool is_stored(const GFPDB_HISTORY_ENTRY& entry);
+    bool find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::int64_t>& ids);
+    bool remove_states(const std::vector<std::int64_t>& ids);
+    bool read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced);
+    bool set_key(const GFPDB_MISPLACED& record, const std::string& key);
+    bool place(const GFPDB_MISPLACED& record, int& placed);
 
     std::string m_directory;
     int m_connection;

@@ -14,6 +14,8 @@ private slots:
     void a_stored_record_keeps_a_built_in_name();
     void check_finds_flows_that_cannot_be_read();
     void export_leaves_out_only_what_cannot_be_read();
+    void a_record_that_no_search_finds_is_named();
+    void keys_are_rebuilt_as_far_as_names_are_free();
     void check_finds_damage();
     void what_sqlite_says_in_several_lines_is_printed_in_one();
 };
@@ -138,6 +140,66 @@ void TEST_CLI_CHECK::export_leaves_out_only_what_cannot_be_read()
     const TOOL_RUN list = run_tool(QStringList{"export", "--csv"} + to_directory);
     QCOMPARE(list.exit_code, 0);
     QVERIFY(list.out.contains("\nBroken,3,7,"));
+}
+
+// The tables by which names are compared have changed, or another program has written the file.
+void TEST_CLI_CHECK::a_record_that_no_search_finds_is_named()
+{
+    const GFPDB_PLACE place;
+    const QStringList to_directory = {"-d", q(place.db_dir())};
+    save_part("A", FAMILY, SERIAL, "T");
+    save_part("Lost");
+    const QByteArray before = exported(place.db_dir());
+    run_sql(place.db_file(), "UPDATE device SET name_key = 'lo\xC5\xBFt' WHERE name = 'Lost'");
+    run_sql(place.db_file(), "UPDATE template SET template_key = 'T'");
+    const QByteArray how = "The stored key does not fit the name, so that no search finds the record: \"gfpdb check "
+                           "--rebuild-keys\" repairs that, unless another record has the name.\n";
+    const QByteArray device = "device \"Lost\" (family 3, scheme 7): ";
+
+    const TOOL_RUN check = run_tool(QStringList{"check"} + to_directory);
+    QCOMPARE(check.exit_code, 1);
+    QCOMPARE(check.out, device + how + "template \"T\": " + how + "3 records, 2 problems\n");
+    const QString file = q(place.path("out.json"));
+    const TOOL_RUN all = run_tool(QStringList{"export", "-o", file} + to_directory);
+    QCOMPARE(all.exit_code, 5);
+    QCOMPARE(all.err, "gfpdb: " + device + how + "gfpdb: template \"T\": " + how);
+    QVERIFY(!QFile::exists(file));
+    for (const char* command : {"export", "show"}) {
+        const TOOL_RUN one = run_tool(QStringList{command, "Lost"} + to_directory);
+        QCOMPARE(one.exit_code, 5);
+        QCOMPARE(one.err, "gfpdb: " + device + how);
+    }
+    QCOMPARE(run_tool(QStringList{"export", "A"} + to_directory).exit_code, 0);
+
+    const TOOL_RUN rebuilt = run_tool(QStringList{"check", "--rebuild-keys"} + to_directory);
+    QCOMPARE(rebuilt.exit_code, 0);
+    QCOMPARE(rebuilt.out, QByteArray("3 records, 0 problems\n"));
+    QCOMPARE(exported(place.db_dir()), before);
+}
+
+// What has the name of another record keeps waiting; what has another's key gets its own.
+void TEST_CLI_CHECK::keys_are_rebuilt_as_far_as_names_are_free()
+{
+    const GFPDB_PLACE place;
+    const QStringList to_directory = {"-d", q(place.db_dir())};
+    for (const char* name : {"A", "B", "C", "D", "E"})
+        save_part(name);
+    save_part("F", FAMILY, SERIAL, "T");
+    run_sql(place.db_file(), "UPDATE device SET name_key = CASE name WHEN 'A' THEN 'x' WHEN 'B' THEN 'a' ELSE name_key "
+                             "END WHERE name IN ('A', 'B')");
+    run_sql(place.db_file(), "UPDATE device SET name_key = 'b' WHERE name = 'A'");
+    run_sql(place.db_file(), "UPDATE device SET name = 'c' WHERE name = 'D'");
+    run_sql(place.db_file(), "UPDATE device SET name = 't' WHERE name = 'E'");
+
+    const TOOL_RUN run = run_tool(QStringList{"check", "--rebuild-keys"} + to_directory);
+
+    QCOMPARE(run.exit_code, 1);
+    QVERIFY(run.out.startsWith("device \"c\" (family 3, scheme 7): The stored key"));
+    QVERIFY(run.out.contains("\ndevice \"t\" (family 3, scheme 7): The stored key"));
+    QVERIFY2(run.out.endsWith("\n7 records, 2 problems\n"), run.out.constData());
+    for (const char* name : {"A", "B"})
+        QCOMPARE(json(run_tool(QStringList{"show", name, "--json"} + to_directory)).object().value("name").toString(),
+                 QString(name));
 }
 
 void TEST_CLI_CHECK::check_finds_damage()

@@ -24,6 +24,10 @@ private slots:
     void what_is_no_number_of_the_history_is_refused_data();
     void what_is_no_number_of_the_history_is_refused();
 
+    void prune_keeps_what_it_is_told_data();
+    void prune_keeps_what_it_is_told();
+    void a_history_that_cannot_be_changed_is_not_pruned();
+
     void diff_compares_records_files_and_states();
     void diff_of_two_files();
     void diff_says_what_it_cannot_find();
@@ -304,6 +308,85 @@ void TEST_CLI_HISTORY::what_is_no_number_of_the_history_is_refused()
     QCOMPARE(run.exit_code, 2);
     QCOMPARE(run.err, "gfpdb: \"" + id.toUtf8() + "\" is not a number of the history.\n");
     QCOMPARE(run_tool({"diff", "history:" + id, "Mine", "-d", directory}).exit_code, 3);
+}
+
+void TEST_CLI_HISTORY::prune_keeps_what_it_is_told_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("left");
+    const auto add = [](const QStringList& options, const char* left) {
+        QTest::newRow(qPrintable(options.join(' '))) << options << QString(left);
+    };
+    add({"--keep", "0"}, "5 6");
+    add({"--keep", "0", "--force"}, "");
+    add({"--keep", "1"}, "3 4 5 6");
+    add({"--keep", "2"}, "2 3 4 5 6");
+    add({"--keep", "2", "--force"}, "2 3 4 5 6");
+    add({"--older-than", "40"}, "2 3 4 5 6");
+    add({"--older-than", "20"}, "3 4 5 6");
+    add({"--older-than", "5"}, "4 5 6");
+    add({"--older-than", "5", "--force"}, "4 6");
+    add({"--older-than", "5", "--keep", "1"}, "3 4 5 6");
+    add({"--keep", "0", "mine"}, "5 6");
+    add({"--keep", "0", "mine", "--family", "3", "--scheme", "7"}, "4 5 6");
+    add({"--keep", "0", "--force", "GONE"}, "1 2 3 4 6");
+    add({"--keep", "0", "--scheme", "13"}, "1 2 3 5 6");
+}
+
+// 1 to 3 are states of a device that is there, 4 is one of the same name elsewhere, 5 and 6 are all that is left of a
+// device and of a template.
+void TEST_CLI_HISTORY::prune_keeps_what_it_is_told()
+{
+    const GFPDB_PLACE place;
+    const QString directory = q(place.db_dir());
+    QFETCH(QStringList, options);
+    QFETCH(QString, left);
+    save_part("Mine");
+    save_part("Mine", FAMILY, QUAD);
+    save_part("Gone", FAMILY, SERIAL, "Gone template");
+    const std::string copy = "INSERT INTO history SELECT ";
+    const std::string columns =
+        ", family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, quad_io_dummy_clock, "
+        "template_name, flow_template, revision, saved_at, single_flows, quad_flows, 'me' FROM ";
+    const auto add = [&](int id, int days, const std::string& from) {
+        run_sql(place.db_file(), copy + std::to_string(id) + ", " + (from[0] == 't' ? "1" : "0") +
+                                     ", 'replaced', strftime('%Y-%m-%dT%H:%M:%SZ', 'now', '-" + std::to_string(days) +
+                                     " days')" + columns + from);
+    };
+    add(1, 50, "device WHERE name = 'Mine' AND scheme = 7");
+    add(2, 30, "device WHERE name = 'Mine' AND scheme = 7");
+    add(3, 10, "device WHERE name = 'Mine' AND scheme = 7");
+    add(4, 1, "device WHERE name = 'Mine' AND scheme = 13");
+    add(5, 10, "device WHERE name = 'Gone'");
+    add(6, 1, "template WHERE template_name = 'Gone template'");
+    run_sql(place.db_file(), "DELETE FROM device WHERE name = 'Gone'");
+    run_sql(place.db_file(), "DELETE FROM template");
+
+    const TOOL_RUN run = run_tool(QStringList{"history", "--prune", "-d", directory} + options);
+
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.exit_code, 0);
+    QStringList ids;
+    for (const QJsonValue entry : json(run_tool({"history", "--json", "-d", directory})).array())
+        ids += QString::number(entry.toObject().value("id").toInt());
+    QCOMPARE(ids.join(' '), left);
+    const int removed = 6 - ids.size();
+    QCOMPARE(run.out, "Removed " + QByteArray::number(removed) + (removed == 1 ? " state" : " states") +
+                          " from the history of " + directory.toUtf8() + "\n");
+}
+
+void TEST_CLI_HISTORY::a_history_that_cannot_be_changed_is_not_pruned()
+{
+    const GFPDB_PLACE place;
+    save_part("Mine");
+    save_part("Mine");
+    write_file(place.db_file(), "this is no database, but long enough to be one" + std::string(1000, '.'));
+    QCOMPARE(run_tool({"history", "--prune", "--keep", "0", "-d", q(place.db_dir())}).exit_code, 5);
+    // Nothing is made to remove something from it.
+    make_dir(place.path("empty/"));
+    QCOMPARE(run_tool({"history", "--prune", "--keep", "0", "-d", q(place.path("empty/"))}).exit_code, 0);
+    QCOMPARE(run_tool({"check", "--rebuild-keys", "-d", q(place.path("empty/"))}).exit_code, 0);
+    QVERIFY(!QFile::exists(q(place.path("empty/gfpdb.sqlite"))));
 }
 
 void TEST_CLI_HISTORY::diff_compares_records_files_and_states()

@@ -112,9 +112,11 @@ void TEST_CLI_PROGRAM::every_command_explains_itself_data()
                             << QStringList{"-o, --output", "--csv", "--spreadsheet", "--family", "--scheme"};
     QTest::newRow("import") << "[options] FILE...\nRead records from files, all or none.\n"
                             << QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme"};
-    QTest::newRow("check") << "[options]\nCheck every record and the database.\n" << QStringList{"--json"};
+    QTest::newRow("check") << "[options]\nCheck every record and the database.\n"
+                           << QStringList{"--rebuild-keys", "--json"};
     QTest::newRow("history") << "[options] [NAME]\nList former states of records.\n"
-                             << QStringList{"--json", "--family", "--scheme"};
+                             << QStringList{"--prune", "--older-than", "--keep",  "--force",
+                                            "--json",  "--family",     "--scheme"};
     QTest::newRow("restore") << "[options] ID\nBring a former state back.\n" << QStringList{"--replace", "--as"};
     QTest::newRow("diff") << "[options] LEFT RIGHT\nCompare two records.\n"
                           << QStringList{"--json", "--family", "--scheme"};
@@ -164,6 +166,12 @@ void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
     add({"list", "--csv", "--json"}, "gfpdb: --csv and --json do not go together.\n");
     for (const char* number : {"0", "73", "x", ""})
         add({"list", "--family", number}, "gfpdb: --family takes a whole number from 1 to 72.\n");
+    add({"history", "--prune"}, "gfpdb: --prune needs --older-than or --keep.\n");
+    for (const QStringList& options :
+         {QStringList{"--keep", "1"}, QStringList{"--older-than", "1"}, QStringList{"--force"}})
+        add(QStringList{"history"} + options, "gfpdb: --older-than, --keep and --force go with --prune.\n");
+    add({"history", "--prune", "--keep", "-1"}, "gfpdb: --keep takes a whole number from 0 to 2147483647.\n");
+    add({"history", "--prune", "--older-than", "36501"}, "gfpdb: --older-than takes a whole number from 0 to 36500.\n");
     for (const char* number : {"-1", "25", "seven"})
         add({"list", "--scheme", number}, "gfpdb: --scheme takes a whole number from 0 to 24.\n");
 }
@@ -226,7 +234,7 @@ void TEST_CLI_PROGRAM::no_control_character_reaches_a_terminal_data()
     QTest::newRow("export") << QStringList{"export"};
     QTest::newRow("check") << QStringList{"check"};
     QTest::newRow("history") << QStringList{"history"};
-    QTest::newRow("diff") << QStringList{"diff", "A", "B"};
+    QTest::newRow("diff") << QStringList{"diff", "A", "B\x1B]0;\x07"};
     QTest::newRow("import") << QStringList{"import", "all.json"};
 }
 
@@ -240,10 +248,11 @@ void TEST_CLI_PROGRAM::no_control_character_reaches_a_terminal()
     save_part("A");
     save_part("B");
     save_part("B");
-    for (const char* table : {"device", "history"})
-        run_sql(directory + "gfpdb.sqlite", std::string("UPDATE ") + table +
-                                                " SET flow_template = 'x\x1B[2J\xC2\x9B' || char(13), "
-                                                "name = name || CASE name WHEN 'A' THEN '' ELSE '\x1B]0;\x07' END");
+    const std::string odd = "x\x1B[2J\xC2\x9B' || char(13)";
+    run_sql(directory + "gfpdb.sqlite", "UPDATE history SET flow_template = '" + odd);
+    run_sql(directory + "gfpdb.sqlite", "UPDATE device SET flow_template = '" + odd);
+    run_sql(directory + "gfpdb.sqlite",
+            "UPDATE device SET name = 'B\x1B]0;\x07', name_key = 'b\x1B]0;\x07' WHERE name = 'B'");
     const QString file = q(place.path("all.json"));
     QCOMPARE(run_tool({"export", "-d", q(directory), "-o", file}).exit_code, 0);
     arguments.replaceInStrings(QRegularExpression("^all.json$"), file);

@@ -104,7 +104,9 @@ void TEST_CLI_TRANSFER::export_of_single_records_keeps_their_order()
     const GFPDB_PLACE place;
     save_part("B");
     save_part("A", FAMILY, SERIAL, "T");
-    const QJsonObject file = json(run_tool({"export", "T", "B", "MX25L1606E", "A", "-d", q(place.db_dir())})).object();
+    const TOOL_RUN run = run_tool({"export", "T", "B", "MX25L1606E", "A", "-d", q(place.db_dir())});
+    QCOMPARE(run.exit_code, 0);
+    const QJsonObject file = json(run).object();
     QCOMPARE(names(QJsonDocument(file.value("devices").toArray())), (QStringList{"B", "MX25L1606E", "A"}));
     QCOMPARE(file.value("templates").toArray().at(0).toObject().value("template_name").toString(), QString("T"));
     QCOMPARE(run_tool({"export", "--scheme", "13", "-d", q(place.db_dir())}).out.count("\"scheme\""), 1);
