@@ -29,6 +29,7 @@ private slots:
     void the_property_is_that_of_the_value_cell();
     void an_invalid_value_is_warned_about_and_stored_all_the_same();
     void a_warning_leaves_the_focus_where_the_user_went();
+    void blanks_at_both_ends_are_part_of_a_value();
     void a_chosen_value_is_stored_without_a_check();
     void a_stored_value_is_drawn_when_the_chart_gets_the_focus();
     void a_foreign_model_is_an_internal_error();
@@ -287,6 +288,37 @@ void TEST_FLOW_EDITOR::a_warning_leaves_the_focus_where_the_user_went()
     QApplication::setActiveWindow(page.get());
 
     QTRY_COMPARE(QApplication::focusWidget(), palette_view_of(*page));
+}
+
+void TEST_FLOW_EDITOR::blanks_at_both_ends_are_part_of_a_value()
+{
+    const ACTION_LIST actions({make_action(0, {{1, "  06h "}, {4, " 1-4  "}})});
+    const auto page = show_selected(actions.get());
+    m_checker->choices[4] = {"1-4", " 1-4  ", "  2-2 "};
+    QCOMPARE(column_of(*page, 1).at(1), QStringLiteral("  06h "));
+    auto* const edit = qobject_cast<QLineEdit*>(open_editor(*page, 1));
+    QVERIFY(edit != nullptr);
+    QCOMPARE(edit->text(), QStringLiteral("  06h "));
+    log().clear();
+
+    type_text(edit, " \t05h  ");
+    page->commit_open_editor();
+
+    QCOMPARE(log().calls_of({QStringLiteral("check_property_value"), QStringLiteral("set_property_value")}),
+             QStringList({QStringLiteral("action(5:default 38).check_property_value(1, %1)").arg(log_text(" \t05h  ")),
+                          QStringLiteral("action(0:default 0).set_property_value(1, %1)").arg(log_text(" \t05h  "))}));
+    QCOMPARE(action_of(*page, 0).values[1], std::string(" \t05h  "));
+    QCOMPARE(value_cell(*page, 1).data().toString(), QStringLiteral(" \t05h  "));
+    QCOMPARE(value_cell(*page, 1).data(Qt::ToolTipRole).toString(), QStringLiteral(" \t05h  "));
+
+    auto* const combo = qobject_cast<QComboBox*>(open_editor(*page, 4));
+    QVERIFY(combo != nullptr);
+    QCOMPARE(combo->currentIndex(), 1);
+    QTest::keyClick(combo, Qt::Key_Down);
+    page->commit_open_editor();
+    QCOMPARE(action_of(*page, 0).values[4], std::string("  2-2 "));
+    QCOMPARE(value_cell(*page, 4).data().toString(), QStringLiteral("  2-2 "));
+    QCOMPARE(value_cell(*page, 4).data(Qt::ToolTipRole).toString(), QStringLiteral("  2-2 "));
 }
 
 void TEST_FLOW_EDITOR::a_chosen_value_is_stored_without_a_check()
