@@ -14,6 +14,8 @@
 #include <QTabBar>
 #include <QTranslator>
 
+#include <algorithm>
+
 namespace {
 
 // More Tab presses than any page has stops.
@@ -64,6 +66,17 @@ QList<QWidget*> expected_stops(const QWidget& window)
     return expected;
 }
 
+// What each stop is called, in order: the parts of an operation page by their accessible names.
+QStringList stop_names(const QList<QWidget*>& widgets, bool of_operation_page)
+{
+    QStringList names;
+    for (QWidget* const widget : widgets) {
+        const bool is_part = of_operation_page && qobject_cast<QAbstractScrollArea*>(widget) != nullptr;
+        names.append(is_part ? accessible_name(widget) : widget->objectName());
+    }
+    return names;
+}
+
 QStringList names(const QList<QWidget*>& widgets)
 {
     QStringList texts;
@@ -105,6 +118,9 @@ private slots:
     void tab_and_backtab_visit_everything_on_each_page_data();
     void tab_and_backtab_visit_everything_on_each_page();
     void tab_goes_through_a_page_from_left_to_right();
+    void tab_goes_through_the_dialog_in_reading_order_data();
+    void tab_goes_through_the_dialog_in_reading_order();
+    void the_order_outlives_what_happens_on_a_page();
     void tab_visits_everything_in_the_template_editor();
     void a_device_is_made_with_keys_alone();
 };
@@ -287,6 +303,94 @@ void TEST_ACCESSIBILITY::tab_goes_through_a_page_from_left_to_right()
                  QStringList({title + QStringLiteral(": actions"), title + QStringLiteral(": flow chart"),
                               title + QStringLiteral(": properties of the selected action"), QStringLiteral("OK")}));
     }
+}
+
+void TEST_ACCESSIBILITY::tab_goes_through_the_dialog_in_reading_order_data()
+{
+    QTest::addColumn<QString>("kind");
+
+    for (const char* const kind : {"new device", "stored device", "no edit", "no template row", "right to left"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+void TEST_ACCESSIBILITY::tab_goes_through_the_dialog_in_reading_order()
+{
+    QFETCH(QString, kind);
+    const bool is_new = kind == QLatin1String("new device");
+    const bool can_edit = kind != QLatin1String("no edit");
+    const bool has_template = kind != QLatin1String("no template row");
+    if (!has_template)
+        mgr().unused_properties.insert(GFPDB_FLASH_FLOW_TEMPLATE);
+    if (kind == QLatin1String("right to left"))
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    GFPQ_DLG dialog(nullptr, FAMILY, SCHEME, is_new ? "" : "My part", true, true, can_edit, {});
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto& pages = *dialog.findChild<QTabWidget*>(QStringLiteral("m_prog_flows_tab_widget"));
+
+    QStringList top{QStringLiteral("m_family_cbox"), QStringLiteral("m_config_mode_cbox")};
+    QStringList fields;
+    if (can_edit) {
+        top += QStringList({QStringLiteral("m_directory_edit"), QStringLiteral("m_browse_button")});
+        fields = QStringList({QStringLiteral("m_filter_line_edit"), QStringLiteral("m_device_table_view"),
+                              QStringLiteral("m_delete_button"), QStringLiteral("m_device_info_scroll_area"),
+                              QStringLiteral("m_device_name_edit"), QStringLiteral("m_device_id_edit"),
+                              QStringLiteral("m_voltage_cbox"), QStringLiteral("m_density_cbox"),
+                              QStringLiteral("m_total_die_edit"), QStringLiteral("m_clock_cycle_edit"),
+                              QStringLiteral("m_clock_cycle_edit_x4"), QStringLiteral("m_flow_template_cbox"),
+                              QStringLiteral("m_edit_template_button"), QStringLiteral("m_save_template_check")});
+    }
+    if (is_new)
+        fields.removeOne(QStringLiteral("m_delete_button"));
+    if (!is_new || !has_template) {
+        fields.removeOne(QStringLiteral("m_flow_template_cbox"));
+        fields.removeOne(QStringLiteral("m_edit_template_button"));
+    }
+    if (!has_template)
+        fields.removeOne(QStringLiteral("m_save_template_check"));
+    const QStringList bottom{QStringLiteral("m_ok_button"), QStringLiteral("m_cancel_button"),
+                             QStringLiteral("m_apply_button")};
+    for (int page = 0; page < pages.count(); ++page) {
+        pages.setCurrentIndex(page);
+        const QString title = pages.tabText(page);
+        const QStringList parts{title + QStringLiteral(": actions"), title + QStringLiteral(": flow chart"),
+                                title + QStringLiteral(": properties of the selected action")};
+        const QStringList expected =
+            top + QStringList{QStringLiteral("qt_tabwidget_tabbar")} + (page == 0 ? fields : parts) + bottom;
+        dialog.findChild<QPushButton*>(QStringLiteral("m_apply_button"))->setFocus();
+
+        const QList<QWidget*> forward = stops(Qt::Key_Tab);
+
+        QCOMPARE(stop_names(forward, page > 0).join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')));
+        QList<QWidget*> backward = stops(Qt::Key_Backtab);
+        std::reverse(backward.begin(), backward.end());
+        QCOMPARE(stop_names(backward, page > 0).join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')));
+    }
+}
+
+void TEST_ACCESSIBILITY::the_order_outlives_what_happens_on_a_page()
+{
+    open_dialog();
+    show_operation_page(GFPDB_OPERATION_ERASE);
+    child<QPushButton>("m_apply_button").setFocus();
+    const QStringList before = stop_names(stops(Qt::Key_Tab), true);
+    chart().setFocus();
+    press(Qt::Key_Down);
+    property_table().setFocus();
+    property_table().setCurrentIndex(property_table().model()->index(0, 1));
+    press(Qt::Key_F2);
+    type(QStringLiteral("renamed"));
+    press(Qt::Key_Return);
+    chart().setFocus();
+    press(Qt::Key_F5);
+    show_operation_page(GFPDB_OPERATION_PROGRAM);
+    tabs().setCurrentIndex(0);
+    show_operation_page(GFPDB_OPERATION_ERASE);
+    child<QPushButton>("m_apply_button").setFocus();
+
+    QCOMPARE(stop_names(stops(Qt::Key_Tab), true), before);
 }
 
 void TEST_ACCESSIBILITY::tab_visits_everything_in_the_template_editor()
