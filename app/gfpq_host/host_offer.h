@@ -25,7 +25,7 @@ public:
     // nothing is offered.
     HOST_CHOICE nearest(const HOST_CHOICE& wanted) const;
 
-    // True when the device of `choice` exists for its family and mode, and when the database cannot tell.
+    // True when the device of `choice` exists for its family and mode, and when the database cannot be asked.
     bool has_device(const HOST_CHOICE& choice) const;
 
     // What one opening of the dialog with `scheme` may offer: its form is made for one kind of modes. The restriction

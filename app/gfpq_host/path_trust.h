@@ -8,7 +8,7 @@ struct TRUSTED_PATH
 {
     // The file itself, without links, "." and ".."; empty when the path leads nowhere.
     QString real_path;
-    // The first place on the way that everyone may change: the file, a directory in which one of its names stands, or
+    // The first place on the way that everyone may change: the file, a directory that has one of its names, or
     // an entry of a shared directory (one with the sticky bit, as /tmp) that belongs to neither root nor this user.
     // Empty when there is none.
     QString open_place;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// What a window manager usually puts around a window: as much as QDialog reckons with when it places one.
+// What a window manager usually puts around a window: as much as QDialog allows for when it places one.
 constexpr QSize USUAL_FRAME(10, 40);
 
 QSettings* g_settings = nullptr;

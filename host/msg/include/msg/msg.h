@@ -53,9 +53,8 @@ public:
 
     // Logs the message, shows it as "<text> (message <number>)" in a modal warning box over the active window, titled
     // with the application's display name, and waits until that is closed. Without a QApplication it is only logged.
-    // The text is shown as it stands, never as markup. The reason, if there is one, is logged too, and stands in
-    // smaller letters below the text: in one paragraph of at most 500 characters, which may be broken anywhere in a
-    // long word.
+    // The text is shown as it stands, never as markup. The reason, if there is one, is logged too, and shown below the
+    // text: in one paragraph of at most 500 characters, which may be broken anywhere in a long word.
     MSG_VALUE prompt(MSG_REPORT* report = nullptr);
 };
 
