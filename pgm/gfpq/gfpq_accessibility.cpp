@@ -15,8 +15,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
 
 namespace {
 
@@ -142,6 +144,14 @@ void make_chart_accessible(QGraphicsView& view, const QString& page_title, const
     new GFPQ_FLOW_KEYBOARD(view);
 }
 
+// The arrow keys bring every title into sight. The buttons that do it for the mouse are no stops of their own.
+void make_titles_accessible(const QTabWidget& pages)
+{
+    const QList<QToolButton*> buttons = pages.tabBar()->findChildren<QToolButton*>();
+    for (QToolButton* const button : buttons)
+        button->setFocusPolicy(Qt::NoFocus);
+}
+
 // The last widget of `page` that Tab comes to.
 QWidget* last_stop(QWidget* page)
 {
@@ -188,6 +198,7 @@ void make_operation_page_accessible(const QWidget& page, const QString& title)
 
 void gfpq_make_accessible(const QWidget& dialog, QAbstractItemView& devices, QTabWidget& pages)
 {
+    make_titles_accessible(pages);
     name_editors(dialog);
     make_table_accessible(devices, QCoreApplication::translate("gfpq_dlg", "Devices"));
     const QList<QScrollArea*> areas = dialog.findChildren<QScrollArea*>();
