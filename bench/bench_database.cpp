@@ -1,6 +1,6 @@
 // The dialog and the flash database together, on a database of their own on the disk of the working directory.
 //
-// Floors: a bare form of the same dialog, and the bare SQL for the same rows with the same durability.
+// Floor: the bare SQL for the same rows with the same durability.
 #include "bench_harness.h"
 
 #include "gfpq_dlg.h"
@@ -28,7 +28,6 @@ constexpr int MANY_NAMES = 100000;
 constexpr int DEVICES = 1000;
 constexpr double NAMES_GOAL = 1.5;
 constexpr double SAVE_GOAL = 1.3;
-constexpr double OPEN_GOAL = 1.5;
 
 void require(bool holds, const char* what)
 {
@@ -218,25 +217,6 @@ void show_painted(QWidget& window)
     QCoreApplication::processEvents();
 }
 
-void bench_open(BENCH_HARNESS& bench)
-{
-    const QTemporaryDir directory(QDir::current().filePath(QStringLiteral("bench-XXXXXX")));
-    use_directory(directory.path());
-    std::unique_ptr<QDialog> window;
-    Ui::gfpq_dlg form;
-    const auto open_bare = [&] {
-        window = std::make_unique<QDialog>();
-        form.setupUi(window.get());
-        show_painted(*window);
-    };
-    const auto open_ours = [&] {
-        window = make_dialog("MX25L25645G");
-        show_painted(*window);
-    };
-    bench.compare(QStringLiteral("open the dialog, call to first paint, full catalogue"), OPEN_GOAL, open_bare,
-                  open_ours, [&] { window.reset(); });
-}
-
 void select_row(GFPQ_DLG& dialog, int row)
 {
     dialog.findChild<QTableView*>(QStringLiteral("m_device_table_view"))->selectRow(row);
@@ -299,7 +279,6 @@ int main(int argc, char** argv)
     ZUI_APP app(argc, argv);
     BENCH_HARNESS bench;
     try {
-        bench_open(bench);
         bench_names(bench);
         bench_save(bench);
         bench_apply(bench);
