@@ -147,21 +147,33 @@ QString FAULT_STAND::check(const FAULT& fault)
         self.say(m_scene.change(*m_place));
     });
     const std::string told = child.hear();
-    const QString problem = check_state(told, state_now());
+    const QString problem = check_state(fault, told);
     child.say("go on");
     return problem + check_end(child.hear());
 }
 
-QString FAULT_STAND::check_state(const std::string& told, const std::string& state) const
+QString FAULT_STAND::check_state(const FAULT& fault, const std::string& told) const
 {
     if (told == FAULT_TOLD_NOTHING)
         return QStringLiteral("The change failed without a word. ");
+    std::string state = state_now();
     if (state != m_after && told.empty())
         return QStringLiteral("The change was reported as made, but there is: ") + QString::fromStdString(state);
+    if (state != m_after && state != m_before && fault.is_lasting && m_scene.recover)
+        state = recovered_state(told);
     if (state != m_after && state != m_before)
         return QStringLiteral("Neither before nor after; told: %1; there is: %2")
             .arg(QString::fromStdString(told), QString::fromStdString(state));
     return QString();
+}
+
+std::string FAULT_STAND::recovered_state(const std::string& told) const
+{
+    in_child([&] {
+        m_scene.recover(*m_place, told);
+        return std::string();
+    });
+    return state_now();
 }
 
 // The same change was made again in the same process, without a fault.

@@ -24,6 +24,9 @@ struct FAULT_SCENE
     // Makes the change. Gives back what the user is told when it fails; nothing when it is reported as made. Called a
     // second time it makes the same change again.
     std::function<std::string(const GFPDB_PLACE& place)> change;
+    // Follows what the user was told, for a change that nothing could undo because everything went on failing. Empty
+    // where that must not happen.
+    std::function<void(const GFPDB_PLACE& place, const std::string& told)> recover;
     // Everything that the change must leave as it was or make whole, read from the files, as a text to compare.
     std::function<std::string(const GFPDB_PLACE& place)> state;
 };
@@ -58,7 +61,8 @@ public:
 private:
     QString make_references();
     QString check(const FAULT& fault);
-    QString check_state(const std::string& told, const std::string& state) const;
+    QString check_state(const FAULT& fault, const std::string& told) const;
+    std::string recovered_state(const std::string& told) const;
     QString check_end(const std::string& told) const;
     void reset() const;
     std::string state_now() const;

@@ -4,6 +4,8 @@
 #include "gfpdb_embedded_mgr.h"
 #include "gfpdb_test.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 GFPDB_MGR* manager()
@@ -25,6 +27,18 @@ std::string press_apply(const std::string& selected, const std::string& entered)
     GFPDB_FLASH* record = make_device(*mgr, entered);
     record->set_string_property(GFPDB_FLASH_DEVICE_ID, "0x01 0x02 0x03");
     return mgr->save_flash(record, std::string()) ? std::string() : complaint(*mgr);
+}
+
+// "... It is state 7 of the history.", or that it cannot be said: then the newest state is looked at.
+void restore_what_was_told(const GFPDB_PLACE& place, const std::string& told)
+{
+    const QRegularExpression not_put_back(QStringLiteral("was not put back: .* It is state (\\d+) of the history"));
+    const qlonglong named = not_put_back.match(QString::fromStdString(told)).captured(1).toLongLong();
+    const bool is_unknown = told.find("Whether the change was stored cannot be read") != std::string::npos;
+    GFPDB_MGR* mgr = fresh_manager();
+    const std::vector<GFPDB_HISTORY_ENTRY> history = GFPDB_EMBEDDED_MGR::instance().store().get_history();
+    const std::int64_t newest = is_unknown && !history.empty() ? history.back().id : 0;
+    mgr->restore_flash(named > 0 ? named : newest, place.db_dir(), GFPDB_RESTORE_KEEP, std::string());
 }
 
 } // namespace
@@ -49,6 +63,12 @@ void TEST_APPLY_FAULTS::records_are_the_former_or_the_new_ones_data()
     QTest::newRow("a new device") << "A"
                                   << ""
                                   << "B";
+    QTest::newRow("a changed device") << "A"
+                                      << "A"
+                                      << "A";
+    QTest::newRow("a renamed device") << "A"
+                                      << "A"
+                                      << "B";
 }
 
 void TEST_APPLY_FAULTS::records_are_the_former_or_the_new_ones()
@@ -65,6 +85,7 @@ void TEST_APPLY_FAULTS::records_are_the_former_or_the_new_ones()
     };
     scene.begin = [](const GFPDB_PLACE& place) { all_records(place); };
     scene.change = [&](const GFPDB_PLACE&) { return press_apply(selected.toStdString(), entered.toStdString()); };
+    scene.recover = &restore_what_was_told;
     scene.state = &all_records;
     FAULT_STAND stand(scene);
 

@@ -170,6 +170,9 @@ private:
     bool refuse_replaced_file();
     bool change(const WORK& work);
     bool run_transaction(const WORK& work);
+    bool set_mark(int mark);
+    std::optional<int> read_mark();
+    bool is_stored(int mark, const std::string& error);
     void set_problem(STATE state, const std::string& problem);
     bool fail(const std::string& error);
     bool fail(const QSqlError& error);

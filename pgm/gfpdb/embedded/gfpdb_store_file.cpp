@@ -6,6 +6,7 @@
 #include "gfpdb_settings.h"
 #include "gfpdb_text.h"
 
+#include <QRandomGenerator>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -16,6 +17,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <memory>
 
 #include <fcntl.h>
@@ -439,16 +441,44 @@ bool GFPDB_STORE::change(const WORK& work)
     return run_transaction(work);
 }
 
+// Each transaction leaves a number of its own in the file, in a place that is written in any case. A commit whose last
+// calls fail (to sync an empty journal, to go on reading) is reported as failed although all of it is there.
+bool GFPDB_STORE::set_mark(int mark)
+{
+    return run(("PRAGMA user_version = " + std::to_string(mark)).c_str());
+}
+
+std::optional<int> GFPDB_STORE::read_mark()
+{
+    QSqlQuery query;
+    if (!prepare(query, "PRAGMA user_version") || !run(query) || !query.next())
+        return std::nullopt;
+    return query.value(0).toInt();
+}
+
+// After a commit that failed with `error`.
+bool GFPDB_STORE::is_stored(int mark, const std::string& error)
+{
+    const std::optional<int> stored = read_mark();
+    if (!stored)
+        return fail(error + " Whether the change was stored cannot be read: look at the devices before you try again.");
+    return *stored == mark || fail(error);
+}
+
 bool GFPDB_STORE::run_transaction(const WORK& work)
 {
     if (!run("BEGIN IMMEDIATE"))
         return false;
     const bool is_same = is_same_file() && is_same_database();
-    if (is_same && work() && run("COMMIT"))
+    const int mark = QRandomGenerator::system()->bounded(1, std::numeric_limits<int>::max());
+    const bool is_done = is_same && set_mark(mark) && work();
+    if (is_done && run("COMMIT"))
         return true;
 
     const std::string error = m_last_error;
     run("ROLLBACK");
+    if (is_done)
+        return is_stored(mark, error);
     if (!is_same) {
         open();
         return m_state == STATE::UNUSABLE ? fail(m_problem) : refuse_replaced_file();
