@@ -233,7 +233,6 @@ void GFPQ_DLG::on_delete_clicked()
 {
     if (m_current_flash == nullptr || shows_new_device())
         return;
-    uncover_shown_row();
     if (!m_gfpdb_mgr->delete_flash(m_current_flash->get_name(), m_current_flash->get_db_dir())) {
         gfpq_raise_message(GFPQ_DELETE_DB_FAILED);
         return;

@@ -118,6 +118,10 @@ void TEST_APPLY::opening_and_saving_changes_no_value_data()
     QTest::addColumn<QString>("column");
     QTest::addColumn<QString>("value");
 
+    QTest::newRow("a range that no list has") << qs("voltage") << qs("2.75-3.45V");
+    QTest::newRow("a listed voltage in another case") << qs("voltage") << qs("3.3v");
+    QTest::newRow("a density that no list has") << qs("density") << qs("96Mb");
+    QTest::newRow("a listed density in another case") << qs("density") << qs("128MB");
     QTest::newRow("a template that is gone") << qs("flow_template") << qs("Removed");
     QTest::newRow("an ID in another form") << qs("device_id") << qs("c2,20,19");
 }

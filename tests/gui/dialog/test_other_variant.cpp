@@ -18,6 +18,7 @@ private slots:
     void the_copy_is_deep();
     void every_property_is_copied_in_list_order();
     void null_operations_and_lists_are_skipped();
+    void an_action_that_cannot_be_made_is_left_out();
     void kinds_are_kept_as_they_are();
     void no_flow_editing_still_copies_the_other_variant();
     void the_boundary_between_builtin_and_stored_templates_data();
@@ -234,6 +235,19 @@ void TEST_OTHER_VARIANT::null_operations_and_lists_are_skipped()
              list_of({"new:A.set_operation(op1, true)", "new:A.set_operation(op2, true)"}));
     QCOMPARE(stored(1, true), QStringList());
     QCOMPARE(stored(2, true), list_of({"0:kept"}));
+}
+
+void TEST_OTHER_VARIANT::an_action_that_cannot_be_made_is_left_out()
+{
+    mgr().add_custom("A").operations[true] = {new OPERATION_DOUBLE(
+        2, {make_named_action(0, "first"), make_named_action(4, "refused"), make_named_action(1, "last")})};
+    open_with("A");
+    mgr().refused_actions = {4};
+
+    QVERIFY(apply());
+
+    QCOMPARE(stored(2, true), list_of({"0:first", "1:last"}));
+    QVERIFY(log().calls_of({qs("add_action")}).filter(QStringLiteral("null")).isEmpty());
 }
 
 void TEST_OTHER_VARIANT::kinds_are_kept_as_they_are()
