@@ -124,6 +124,8 @@ void TEST_APPLY::opening_and_saving_changes_no_value_data()
     QTest::newRow("a listed density in another case") << qs("density") << qs("128MB");
     QTest::newRow("a template that is gone") << qs("flow_template") << qs("Removed");
     QTest::newRow("an ID in another form") << qs("device_id") << qs("c2,20,19");
+    QTest::newRow("a voltage of no list") << qs("voltage") << qs("4.5-5.5V");
+    QTest::newRow("a density of no list") << qs("density") << qs("96Mb");
 }
 
 void TEST_APPLY::opening_and_saving_changes_no_value()

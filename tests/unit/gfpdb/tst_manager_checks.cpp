@@ -4,6 +4,8 @@
 
 #include "dstr/dstr.h"
 
+Q_DECLARE_METATYPE(std::string)
+
 class TST_MANAGER_CHECKS : public MANAGER_TEST
 {
     Q_OBJECT
@@ -13,6 +15,9 @@ private slots:
     void template_names_are_checked_against_all_other_names();
     void numbers_are_checked();
     void choices_are_checked();
+    void blanks_at_both_ends_reach_every_check_data();
+    void blanks_at_both_ends_reach_every_check();
+    void blanks_at_both_ends_are_stored_and_looked_for();
     void a_check_asks_for_a_property_of_its_kind();
     void voltages_are_verified_for_the_family();
 };
@@ -107,6 +112,58 @@ void TST_MANAGER_CHECKS::choices_are_checked()
     QVERIFY(error.find(", My template.") != std::string::npos);
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_DEVICE_ID, "0xC2 0x20 0x19"), std::string());
     QVERIFY(checked(*m_mgr, GFPDB_FLASH_DEVICE_ID, "").find("The device ID is empty.") == 0);
+}
+
+void TST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check_data()
+{
+    QTest::addColumn<int>("property");
+    QTest::addColumn<std::string>("value");
+    QTest::addColumn<std::string>("error");
+    const std::string ends = " begins or ends with a blank: remove it.";
+    QTest::newRow("name") << int(GFPDB_FLASH_NAME) << std::string(" A ") << "The device name \" A \"" + ends;
+    QTest::newRow("template name") << int(GFPDB_FLASH_TEMPLATE_NAME) << std::string("\tA")
+                                   << std::string("The template name has a line break or another control character");
+    QTest::newRow("device ID") << int(GFPDB_FLASH_DEVICE_ID) << std::string(" 0xC2 0x20 ") << std::string();
+    QTest::newRow("voltage") << int(GFPDB_FLASH_VOLTAGE) << std::string(" 3.3V ")
+                             << std::string("The I/O voltage \" 3.3V \" is not known");
+    QTest::newRow("density") << int(GFPDB_FLASH_DENSITY) << std::string("8Mb ")
+                             << std::string("The density \"8Mb \" is not known");
+    QTest::newRow("flow template") << int(GFPDB_FLASH_FLOW_TEMPLATE) << ' ' + gfpdb_builtin_template_names()[0] + ' '
+                                   << "The flow template \" " + gfpdb_builtin_template_names()[0] + " \" is not known";
+}
+
+void TST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check()
+{
+    QFETCH(const int, property);
+    QFETCH(const std::string, value);
+    QFETCH(const std::string, error);
+
+    const std::string answer = checked(*m_mgr, static_cast<GFPDB_FLASH_PROPERTY>(property), value);
+
+    QCOMPARE(answer.empty(), error.empty());
+    QVERIFY2(answer.find(error) == 0, answer.c_str());
+}
+
+void TST_MANAGER_CHECKS::blanks_at_both_ends_are_stored_and_looked_for()
+{
+    GFPDB_FLASH* const record = make_device(*m_mgr, "A");
+    for (const GFPDB_FLASH_PROPERTY property :
+         {GFPDB_FLASH_DEVICE_ID, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY, GFPDB_FLASH_FLOW_TEMPLATE})
+        record->set_string_property(property, "  value \t");
+    record->find_operation(GFPDB_OPERATION_ERASE, SINGLE_IO)
+        ->get_actions()
+        ->front()
+        ->set_property_value(GFPDB_WR_NAME, "  step ");
+    QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
+    const std::string saved = text_of(*record);
+
+    m_mgr = fresh_manager();
+
+    QCOMPARE(text_of(*m_mgr->find_flash("A", true)), saved);
+    QVERIFY(m_mgr->find_flash(" A ", true) == nullptr);
+    QVERIFY(!m_mgr->is_custom_flash("A "));
+    QVERIFY(m_mgr->delete_flash(" A", m_place->db_dir()));
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
 }
 
 void TST_MANAGER_CHECKS::a_check_asks_for_a_property_of_its_kind()
