@@ -84,6 +84,9 @@ public:
         m_database.setDatabaseName(directory + QStringLiteral("/gfpdb.sqlite"));
         require(m_database.open(), "the bare connection cannot be opened");
         run(QStringLiteral("PRAGMA synchronous = FULL"));
+        // A journal that is deleted is only gone on the disk when its directory is synced, and SQLite does not do that:
+        // a machine that loses power would roll back what was reported as saved.
+        run(QStringLiteral("PRAGMA journal_mode = TRUNCATE"));
     }
     ~BARE_DATABASE()
     {

@@ -317,10 +317,11 @@ bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::strin
 bool GFPDB_EMBEDDED_MGR::check_saved_name(GFPDB_STORE& store, const std::string& name, const GFPDB_TAKEN* taken,
                                           std::string& error) const
 {
+    if (gfpdb_builtin_part(name) == nullptr)
+        return gfpdb_check_record_name(name, DEVICE_NAME, error);
     const bool is_taken = taken != nullptr && gfpdb_name_key(taken->name) == gfpdb_name_key(name);
     const bool is_known = is_taken || !store.get_device_name(m_family, m_scheme, name).empty();
-    return is_known && gfpdb_builtin_part(name) != nullptr ? gfpdb_check_name(name, DEVICE_NAME, error)
-                                                           : gfpdb_check_record_name(name, DEVICE_NAME, error);
+    return is_known ? gfpdb_check_name(name, DEVICE_NAME, error) : gfpdb_check_record_name(name, DEVICE_NAME, error);
 }
 
 bool GFPDB_EMBEDDED_MGR::is_property_used(GFPDB_FLASH_PROPERTY property) const

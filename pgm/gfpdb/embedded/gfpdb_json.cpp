@@ -27,9 +27,10 @@ std::optional<QJsonObject> action_to_json(const GFPDB_ACTION& action)
     QJsonObject values;
     for (const GFPDB_ACT_PROPERTY property : action.get_property_enum_list()) {
         const std::string value = action.get_property_value(property);
-        if (!gfpdb_is_utf8(value))
+        const QString text = gfpdb_from_utf8(value);
+        if (gfpdb_to_utf8(text) != value)
             return std::nullopt;
-        values.insert(QString::number(property), gfpdb_from_utf8(value));
+        values.insert(QString::number(property), text);
     }
     return QJsonObject{{TYPE, static_cast<int>(action.get_action_type())}, {VALUES, values}};
 }

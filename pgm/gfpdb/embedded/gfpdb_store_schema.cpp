@@ -170,7 +170,8 @@ bool GFPDB_STORE::is_same_database()
     return check_schema() && m_schema_version == SCHEMA_VERSION && m_database_id == database_id;
 }
 
-// The journal is kept and emptied, which is as safe as deleting it and one write of the directory cheaper.
+// The journal is kept, emptied and synced. SQLite does not sync the directory of a journal that it deletes, so that a
+// machine that loses power could find it again and roll back what was reported as saved.
 bool GFPDB_STORE::upgrade()
 {
     if (!run("PRAGMA journal_mode = TRUNCATE"))
