@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -14,6 +15,9 @@ namespace {
 
 constexpr int LARGEST_SHARE_PERCENT = 75;
 constexpr int PERCENT = 100;
+
+// More than what stands to the left and right of the page titles.
+constexpr int AROUND_TITLES = 80;
 
 } // namespace
 
@@ -75,6 +79,9 @@ void GFPQ_PANE_FITTER::fit()
 // With all titles in sight, the dialog's smallest width is what they take.
 void gfpq_fit_titles(QWidget& dialog, QTabWidget& pages)
 {
+    // Mostly they fit, and the smallest width of the whole dialog takes its time.
+    if (pages.tabBar()->sizeHint().width() + AROUND_TITLES <= dialog.width())
+        return;
     // As long as the pages are not shown, their surroundings must be told that they need another size.
     const auto set_scrolls = [&pages](bool scrolls) {
         pages.setUsesScrollButtons(scrolls);
