@@ -34,8 +34,8 @@ public:
     virtual bool is_custom_flash(const std::string& name) const = 0;
     // Why the last find, save, delete, remove or restore failed; empty when it did not.
     virtual std::string get_last_error() const = 0;
-    // True for a device whose properties (`flows` false) or whose flows (`flows` true) are not to be shown. With `flows`
-    // false it also says which device the user is asked about: checks of names go by it.
+    // True for a device whose properties (`flows` false) or whose flows (`flows` true) are not to be shown. With
+    // `flows` false it also says which device the user is asked about: checks of names go by it.
     virtual bool is_hidden_flash(const std::string& name, bool flows) const = 0;
     // True when devices can be added for the current scheme.
     virtual bool can_add_flash() const = 0;
@@ -43,8 +43,8 @@ public:
     virtual bool can_edit_flow() const = 0;
     // False when the database cannot be written now.
     virtual bool is_writable() const = 0;
-    // Checks of a property value: false and a text for the user in `error` when the value is not allowed. The device name
-    // that was checked last is the one that a template name is compared with.
+    // Checks of a property value: false and a text for the user in `error` when the value is not allowed. The device
+    // name that was checked last is the one that a template name is compared with.
     virtual bool check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const = 0;
     virtual bool check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
                                        std::string& error) const = 0;
