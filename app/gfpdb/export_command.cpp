@@ -44,12 +44,18 @@ std::optional<std::vector<CLI_RECORD>> collect(const CLI_CALL& call, int& exit_c
     return std::nullopt;
 }
 
-// False, with the reason in the file's error.
-template <typename FILE_TYPE>
-bool write_all(FILE_TYPE& file, QIODevice::OpenMode mode, const std::string& text)
+// False, with the reason in the device's error.
+bool write_all(QFileDevice& file, const std::string& text)
 {
     const auto length = static_cast<qint64>(text.size());
-    return file.open(mode) && file.write(text.data(), length) == length && file.flush();
+    return file.write(text.data(), length) == length && file.flush();
+}
+
+// Not even a careless mask, or the former file's rights, let everyone write what is made.
+bool replace_file(QSaveFile& file, const std::string& text)
+{
+    return file.open(QIODevice::WriteOnly) && file.setPermissions(file.permissions() & ~QFileDevice::WriteOther) &&
+           write_all(file, text) && file.commit();
 }
 
 // A regular file is replaced as a whole. A device or pipe is written to: it must not be replaced by a file.
@@ -60,11 +66,11 @@ int write_file(const CLI_CALL& call, const std::string& text)
     QString error;
     if (existing.exists() && !existing.isFile()) {
         QFile file(path);
-        if (!write_all(file, QIODevice::WriteOnly | QIODevice::Unbuffered, text))
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !write_all(file, text))
             error = file.errorString();
     } else {
         QSaveFile file(path);
-        if (!write_all(file, QIODevice::WriteOnly, text) || !file.commit())
+        if (!replace_file(file, text))
             error = file.errorString();
     }
     if (error.isEmpty())

@@ -56,6 +56,7 @@ private slots:
     void libraries_come_from_places_that_others_cannot_write_data();
     void libraries_come_from_places_that_others_cannot_write();
     void nothing_that_the_host_makes_can_be_written_by_everyone();
+    void nothing_that_the_tool_makes_can_be_written_by_everyone();
 
 private:
     RESULT run(const QStringList& command, const QString& directory) const;
@@ -162,6 +163,22 @@ void TEST_PROGRAMS::nothing_that_the_host_makes_can_be_written_by_everyone()
     // The directory and a picture of each of the six pages at least.
     QVERIFY(made >= 7);
     QCOMPARE(mode_of(path(QStringLiteral("data/gfpdb"))) & S_IWOTH, mode_t(0));
+}
+
+void TEST_PROGRAMS::nothing_that_the_tool_makes_can_be_written_by_everyone()
+{
+    const QString directory = path(QStringLiteral("database"));
+    const QString file = path(QStringLiteral("exported.json"));
+    QVERIFY(QDir().mkdir(directory));
+    const RESULT result =
+        run({QStringLiteral("/bin/sh"), QStringLiteral("-c"),
+             QStringLiteral("umask 0; \"$1\" export -d \"$2\" -o \"$3\" && \"$1\" import -d \"$2\" \"$3\""),
+             QStringLiteral("sh"), QStringLiteral(DATABASE_TOOL), directory, file},
+            path(QString()));
+    QVERIFY2(result.exit_code == 0, qPrintable(result.errors));
+
+    QVERIFY(QFile::exists(file));
+    QCOMPARE(mode_of(file) & S_IWOTH, mode_t(0));
 }
 
 QTEST_GUILESS_MAIN(TEST_PROGRAMS)
