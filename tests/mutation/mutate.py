@@ -8,7 +8,8 @@ repeatable: the seed is printed.
 
 tests/mutation/unnoticeable.txt lists alterations that nobody can notice, one a line; path and text may hold * and ?:
     path | kind | the line's text, stripped | why
-They are left out and others of the same file taken. `--again` judges only what survived the last run.
+They are left out and others of the same file taken. `--again` judges only what survived the last run, `--since REV` alters
+only lines that were added or changed since that commit.
 """
 
 import argparse
@@ -41,7 +42,7 @@ AFFECTED = [
     (r"pgm/gfpdb/embedded/gfpdb_store", r"^unit_(gfpdb|durability)"),
     (r"pgm/gfpdb/", r"^unit_gfpdb"),
 ]
-QUICK_LABELS = "unit|gui"
+QUICK_LABELS = "unit|gui|lost_work"
 # Kills processes for half a minute: run only for the files it belongs to.
 SLOW_TESTS = {"unit_durability"}
 # Nobody debugs these builds: what counts is how soon a test runs.
@@ -165,11 +166,24 @@ def is_unnoticeable(alteration, patterns):
                fnmatch.fnmatchcase(alteration.original.strip(), text) for path, kind, text in patterns)
 
 
-def choose(files, wanted, patterns, rng):
+def changed_lines(path, revision):
+    """The numbers (from 0) of the lines of `path` that were added or changed since `revision`."""
+    diff = subprocess.run(["git", "diff", "-U0", revision, "--", path], cwd=ROOT, stdout=subprocess.PIPE, text=True,
+                          check=True).stdout
+    lines = set()
+    for start, count in re.findall(r"^@@ -\S+ \+(\d+)(?:,(\d+))? @@", diff, re.MULTILINE):
+        lines.update(range(int(start) - 1, int(start) - 1 + int(count or 1)))
+    return lines
+
+
+def choose(files, wanted, patterns, rng, since):
     """Spreads `wanted` places over the files, the larger ones getting more; returns a shuffled queue per file."""
     pools = {}
     for path in files:
         pool = [found for found in dict.fromkeys(alterations_of(path)) if not is_unnoticeable(found, patterns)]
+        if since:
+            lines = changed_lines(path, since)
+            pool = [found for found in pool if found.first in lines]
         rng.shuffle(pool)
         if pool:
             pools[path] = pool
@@ -310,6 +324,7 @@ def main():
     parser.add_argument("--seed", type=int, default=None, help="seed of the choice (printed)")
     parser.add_argument("--jobs", type=int, default=max(1, min(4, os.cpu_count() or 1)), help="workers")
     parser.add_argument("--only", default="", help="regular expression: only files whose path matches")
+    parser.add_argument("--since", default="", help="only lines that were added or changed since this commit")
     parser.add_argument("--again", action="store_true", help="judge only what survived the last run")
     parser.add_argument("--list", action="store_true", help="list the places that could be altered and stop")
     arguments = parser.parse_args()
@@ -321,7 +336,7 @@ def main():
     if arguments.again:
         pools, shares = choose_again(patterns)
     else:
-        pools, shares = choose(files, arguments.places, patterns, random.Random(seed))
+        pools, shares = choose(files, arguments.places, patterns, random.Random(seed), arguments.since)
     if arguments.list:
         for pool in pools.values():
             for alteration in pool:
