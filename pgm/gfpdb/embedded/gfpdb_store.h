@@ -210,14 +210,7 @@ private:
     bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool finds_none(QSqlQuery& query, const char* what, const std::string& name);
     bool look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
-    bool read_revision(GFPDB_TAKEN& taken);
-    bool find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row);
-    bool save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision);
-    bool save_template(const GFPDB_ROW& row);
     bool check_no_such_device(int family, int scheme, const std::string& name);
-    bool insert_taken(const GFPDB_TAKEN& taken);
-    bool mark_taken(const GFPDB_TAKEN& taken, const char* reason);
-    bool forget_taken(const GFPDB_TAKEN& taken);
     bool check_free_names(const GFPDB_ROW& row);
     bool check_no_template(const std::string& name);
     bool check_no_device(const std::string& name);
@@ -227,6 +220,15 @@ private:
     bool drop_device(int family, int scheme, const std::string& name, const char* reason,
                      std::int64_t* history_id = nullptr);
     bool drop_template(const std::string& template_name, const char* reason);
+
+    // gfpdb_store_apply.cpp: saving and removing one device.
+    bool read_revision(GFPDB_TAKEN& taken);
+    bool find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row);
+    bool save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision);
+    bool save_template(const GFPDB_ROW& row);
+    bool insert_taken(const GFPDB_TAKEN& taken);
+    bool mark_taken(const GFPDB_TAKEN& taken, const char* reason);
+    bool forget_taken(const GFPDB_TAKEN& taken);
 
     // gfpdb_store_upkeep.cpp: keeping the history small and the keys right.
     bool is_stored(const GFPDB_HISTORY_ENTRY& entry);
