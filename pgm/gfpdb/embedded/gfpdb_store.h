@@ -186,6 +186,7 @@ private:
     std::optional<QStringList> read_schema_rows();
     bool read_schema();
     bool check_schema();
+    bool check_encoding();
     bool is_known_schema(const QStringList& rows, int version);
     std::optional<int> read_schema_count();
     bool remember_schema();

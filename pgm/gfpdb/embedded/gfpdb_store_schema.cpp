@@ -116,7 +116,19 @@ std::optional<QStringList> GFPDB_STORE::read_schema_rows()
 // In one transaction, so that the size and the schema belong to the content.
 bool GFPDB_STORE::read_schema()
 {
-    return run("BEGIN") && check_schema() && is_whole_file() && run("COMMIT");
+    return run("BEGIN") && check_schema() && check_encoding() && is_whole_file() && run("COMMIT");
+}
+
+// Texts are compared and cast as the bytes that they are: another encoding would cut them.
+bool GFPDB_STORE::check_encoding()
+{
+    QSqlQuery query;
+    if (!prepare(query, "PRAGMA encoding") || !run(query) || !query.next())
+        return fail(query.lastError());
+    const QString encoding = query.value(0).toString();
+    return encoding == QLatin1String("UTF-8") ||
+           fail("The database " + file_path() + " was altered by another program: its texts are " +
+                gfpdb_to_utf8(encoding) + ", not UTF-8. It is left as it is.");
 }
 
 // Nothing but the list of what is in the file is read before that list is known to be ours.

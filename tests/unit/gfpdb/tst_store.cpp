@@ -64,6 +64,7 @@ private slots:
     void the_schema_is_as_documented();
     void an_older_schema_is_upgraded_and_loses_nothing();
     void a_newer_schema_is_left_alone();
+    void another_text_encoding_is_left_alone();
     void two_programs_make_one_file();
     void commits_reach_the_disk();
     void nothing_stays_open_but_the_database();
@@ -214,6 +215,33 @@ void TST_STORE::a_newer_schema_is_left_alone()
     QVERIFY(run_sql(file(), "UPDATE meta SET value = '2' WHERE name = 'schema_version'").isValid());
     QCOMPARE(m_store->get_problem(), std::string());
     QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"A"});
+}
+
+// Texts that are compared as bytes would be cut at the first zero byte of a character.
+void TST_STORE::another_text_encoding_is_left_alone()
+{
+    const QString connection = QStringLiteral("another encoding");
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        database.setDatabaseName(QString::fromStdString(file()));
+        QVERIFY(database.open());
+        QSqlQuery query(database);
+        QVERIFY(query.exec(QStringLiteral("PRAGMA encoding = 'UTF-16le'")));
+        for (const std::string& statement : SCHEMA_1)
+            QVERIFY(query.exec(QString::fromStdString(statement)));
+    }
+    QSqlDatabase::removeDatabase(connection);
+    const std::string before = read_file(file());
+    const std::string problem = "The database " + file() +
+                                " was altered by another program: its texts are UTF-16le, not UTF-8. It is left as " +
+                                "it is.";
+
+    expect_warning("its texts are UTF-16le, not UTF-8");
+    QVERIFY(!m_store->is_readable());
+    QCOMPARE(m_store->get_problem(), problem);
+    QVERIFY(!m_store->save_device(make_row("A")));
+    QCOMPARE(m_store->get_last_error(), problem);
+    QCOMPARE(read_file(file()), before);
 }
 
 void TST_STORE::two_programs_make_one_file()
