@@ -102,10 +102,10 @@ int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
     std::vector<CLI_RECORD> unreadable;
     const std::optional<CSV_FOR> csv = csv_reader(call);
     const std::string text = csv ? records_to_csv(*records, *csv) : json_write(records_to_json(*records, unreadable));
-    if (call.has(CLI_OPTION_OUTPUT))
-        exit_code = write_file(call, text);
-    else
+    if (!call.has(CLI_OPTION_OUTPUT))
         call.output.print(text);
+    else if (exit_code = write_file(call, text); exit_code != CLI_EXIT_OK)
+        return exit_code;
     for (const CLI_RECORD& record : unreadable)
         exit_code =
             call.database_failed("The flows of the " + cli_title(record) + " cannot be read: it is not exported.");
