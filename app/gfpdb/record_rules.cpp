@@ -5,6 +5,8 @@
 #include "gfpdb_builtin_records.h"
 #include "gfpdb_checks.h"
 #include "gfpdb_json.h"
+#include "gfpdb_options.h"
+#include "gfpdb_part.h"
 #include "gfpdb_text.h"
 
 #include "gfpdb/gfpdb_enums.h"
@@ -12,16 +14,26 @@
 
 namespace {
 
+bool is_density(const std::string& text)
+{
+    return gfpdb_density_bytes(text) > 0;
+}
+
 struct TEXT_FIELD
 {
     const char* member;
     GFPDB_FLASH_PROPERTY property;
     std::string GFPDB_ROW::*value;
+    // Of a value that is chosen from a list: what it is called, the list, and what a value may be that is not in it.
+    const char* label = nullptr;
+    std::vector<std::string> (*options)(GFPDB_SCHEME_KIND kind) = nullptr;
+    bool (*is_possible)(const std::string& value) = nullptr;
 };
 constexpr TEXT_FIELD TEXTS[] = {
     {RECORD_DEVICE_ID, GFPDB_FLASH_DEVICE_ID, &GFPDB_ROW::device_id},
-    {RECORD_VOLTAGE, GFPDB_FLASH_VOLTAGE, &GFPDB_ROW::voltage},
-    {RECORD_DENSITY, GFPDB_FLASH_DENSITY, &GFPDB_ROW::density},
+    {RECORD_VOLTAGE, GFPDB_FLASH_VOLTAGE, &GFPDB_ROW::voltage, "I/O voltage", &gfpdb_voltage_options,
+     &gfpdb_is_voltage},
+    {RECORD_DENSITY, GFPDB_FLASH_DENSITY, &GFPDB_ROW::density, "density", &gfpdb_density_options, &is_density},
 };
 
 struct NUMBER_FIELD
@@ -94,6 +106,22 @@ std::string default_voltage(const GFPDB_MGR& manager)
     return std::string();
 }
 
+// The manager's lists have what stored devices have, wrong or not: here only the standard ones count.
+std::vector<std::string> usual_values(const TEXT_FIELD& field, const GFPDB_ROW& row)
+{
+    return field.options(gfpdb_scheme_kind(row.scheme));
+}
+
+bool check_text(const GFPDB_MGR& manager, const TEXT_FIELD& field, const GFPDB_ROW& row, std::string& error)
+{
+    const std::string& value = row.*field.value;
+    const bool is_right =
+        field.options == nullptr
+            ? manager.check_string_property(field.property, value, error)
+            : field.is_possible(value) || gfpdb_check_choice(value, usual_values(field, row), field.label, error);
+    return is_right && manager.verify_string_property(field.property, value, error);
+}
+
 void check_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, RECORD_RULES rules, std::vector<RECORD_REMARK>& found)
 {
     const bool may_miss = rules == RECORD_RULES::IMPORTED;
@@ -101,9 +129,7 @@ void check_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, RECORD_RULES r
         const std::string& value = row.*field.value;
         std::string error;
         const bool has_default = may_miss && value.empty() && field.property == GFPDB_FLASH_VOLTAGE;
-        if (manager.is_property_used(field.property) && !has_default &&
-            (!manager.check_string_property(field.property, value, error) ||
-             !manager.verify_string_property(field.property, value, error)))
+        if (manager.is_property_used(field.property) && !has_default && !check_text(manager, field, row, error))
             found.push_back({field.member, error});
     }
     for (const NUMBER_FIELD& field : NUMBERS) {
@@ -112,6 +138,20 @@ void check_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, RECORD_RULES r
         if (manager.is_property_used(field.property) && (value || !may_miss) &&
             !manager.check_int_property(field.property, value.value_or(UNSET_NUMBER), error))
             found.push_back({field.member, error});
+    }
+}
+
+void warn_of_unusual_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, std::vector<RECORD_REMARK>& found)
+{
+    for (const TEXT_FIELD& field : TEXTS) {
+        const std::string& value = row.*field.value;
+        std::string error;
+        if (field.options == nullptr || !manager.is_property_used(field.property) || !field.is_possible(value) ||
+            gfpdb_check_choice(value, usual_values(field, row), field.label, error))
+            continue;
+        found.push_back({field.member, std::string("The ") + field.label + ' ' + gfpdb_quoted(value) +
+                                           " is not a usual one. Usual: " + gfpdb_joined(usual_values(field, row)) +
+                                           '.'});
     }
 }
 
@@ -183,6 +223,7 @@ std::vector<RECORD_REMARK> record_warnings(GFPDB_MGR& manager, const CLI_RECORD&
             note(field.member, field.property, (record.row.*field.value).has_value());
         note(RECORD_FLOW_TEMPLATE, GFPDB_FLASH_FLOW_TEMPLATE, !record.row.flow_template.empty());
     }
+    warn_of_unusual_values(manager, record.row, found);
     warn_of_flows(manager, record, found);
     return found;
 }

@@ -1,5 +1,6 @@
 // The rules for the values of a record, for import and check alike: those by which the dialog keeps a record that it
-// opens and saves. The rules for flows are the library's (gfpdb_flow_check.h).
+// opens and saves, except that a voltage or density is not right just because a stored record has it. The rules for
+// flows are the library's (gfpdb_flow_check.h).
 //
 // All functions make the record's family and configuration mode the manager's. Texts are UTF-8.
 #pragma once
@@ -34,6 +35,7 @@ std::vector<RECORD_REMARK> record_problems(GFPDB_MGR& manager, const CLI_RECORD&
 // says which.
 std::vector<RECORD_REMARK> record_fill_missing(GFPDB_MGR& manager, CLI_RECORD& record);
 
-// What can be stored, but is lost when the dialog saves the record, or is of no use: values and flows that records of
-// its configuration mode do not have, flows that are missing.
+// What can be stored, but is lost when the dialog saves the record, is of no use, or may be a mistake: values and flows
+// that records of its configuration mode do not have, flows that are missing, a voltage or density that is none of the
+// usual ones.
 std::vector<RECORD_REMARK> record_warnings(GFPDB_MGR& manager, const CLI_RECORD& record);

@@ -35,6 +35,13 @@ std::vector<std::string> with_catalogue(std::vector<std::string> options, std::s
     return options;
 }
 
+// The number, or the two numbers of a range.
+QRegularExpressionMatch match_voltage(const std::string& text)
+{
+    static const QRegularExpression SHAPE(QStringLiteral("\\A([0-9]+(?:\\.[0-9]+)?)(?:-([0-9]+(?:\\.[0-9]+)?))?V\\z"));
+    return SHAPE.match(QString::fromStdString(text));
+}
+
 } // namespace
 
 std::vector<std::string> gfpdb_voltage_options(GFPDB_SCHEME_KIND kind)
@@ -61,10 +68,14 @@ std::vector<std::string> gfpdb_density_options(GFPDB_SCHEME_KIND kind)
     }
 }
 
+bool gfpdb_is_voltage(const std::string& text)
+{
+    return match_voltage(text).hasMatch();
+}
+
 bool gfpdb_voltage_fits(const std::string& voltage, int family, int scheme)
 {
-    static const QRegularExpression SHAPE(QStringLiteral("\\A([0-9]+(?:\\.[0-9]+)?)(?:-([0-9]+(?:\\.[0-9]+)?))?V\\z"));
-    const QRegularExpressionMatch match = SHAPE.match(QString::fromStdString(voltage));
+    const QRegularExpressionMatch match = match_voltage(voltage);
     if (!match.hasMatch())
         return false;
     const bool needs_low_voltage = family >= GFPDB_FIRST_LOW_VOLTAGE_FAMILY && family <= DEV_FAMILY_LAST &&

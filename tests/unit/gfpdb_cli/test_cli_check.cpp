@@ -11,9 +11,11 @@ class TEST_CLI_CHECK : public QObject
 private slots:
     void check_finds_what_breaks_the_rules();
     void a_warning_alone_is_no_problem();
+    void a_wrong_voltage_or_density_is_found_in_what_is_stored();
     void a_stored_record_keeps_a_built_in_name();
     void check_finds_flows_that_cannot_be_read();
     void export_leaves_out_only_what_cannot_be_read();
+    void an_export_that_cannot_be_written_says_only_that();
     void a_record_that_no_search_finds_is_named();
     void keys_are_rebuilt_as_far_as_names_are_free();
     void check_finds_damage();
@@ -83,6 +85,34 @@ void TEST_CLI_CHECK::a_warning_alone_is_no_problem()
                                  "1 record, 0 problems, 1 warning\n"));
 }
 
+// The dialog offers what stored devices have; that makes it no right value.
+void TEST_CLI_CHECK::a_wrong_voltage_or_density_is_found_in_what_is_stored()
+{
+    const GFPDB_PLACE place;
+    const QStringList check = {"check", "-d", q(place.db_dir())};
+    save_part("Mine");
+    save_part("Other");
+    const QByteArray mine = "device \"Mine\" (family 3, scheme 7): ";
+    const auto lines = [&check](int exit_code) {
+        const TOOL_RUN run = run_tool(check);
+        return run.exit_code == exit_code ? run.out.split('\n') : QList<QByteArray>{run.out};
+    };
+
+    run_sql(place.db_file(), "UPDATE device SET voltage = 'foo', density = 'large' WHERE name = 'Mine'");
+    const QList<QByteArray> wrong = lines(1);
+    QCOMPARE(wrong.size(), 4);
+    QVERIFY(wrong[0].startsWith(mine + "voltage: The I/O voltage \"foo\" is not known: choose one of "));
+    QVERIFY(wrong[1].startsWith(mine + "density: The density \"large\" is not known: choose one of "));
+    QCOMPARE(wrong[2], QByteArray("2 records, 2 problems"));
+
+    run_sql(place.db_file(), "UPDATE device SET voltage = '5V', density = '3Mb' WHERE name = 'Mine'");
+    const QList<QByteArray> unusual = lines(0);
+    QCOMPARE(unusual.size(), 4);
+    QVERIFY(unusual[0].startsWith(mine + "voltage: warning: The I/O voltage \"5V\" is not a usual one. Usual: "));
+    QVERIFY(unusual[1].startsWith(mine + "density: warning: The density \"3Mb\" is not a usual one. Usual: "));
+    QCOMPARE(unusual[2], QByteArray("2 records, 0 problems, 2 warnings"));
+}
+
 // The catalogue has got a device of that name since.
 void TEST_CLI_CHECK::a_stored_record_keeps_a_built_in_name()
 {
@@ -140,6 +170,21 @@ void TEST_CLI_CHECK::export_leaves_out_only_what_cannot_be_read()
     const TOOL_RUN list = run_tool(QStringList{"export", "--csv"} + to_directory);
     QCOMPARE(list.exit_code, 0);
     QVERIFY(list.out.contains("\nBroken,3,7,"));
+}
+
+// Nobody is told that the other records were written.
+void TEST_CLI_CHECK::an_export_that_cannot_be_written_says_only_that()
+{
+    const GFPDB_PLACE place;
+    save_part("A");
+    save_part("Broken");
+    run_sql(place.db_file(), "UPDATE device SET quad_flows = 'nonsense' WHERE name = 'Broken'");
+    const QString path = q(place.path("no such directory/out.json"));
+
+    const TOOL_RUN run = run_tool({"export", "-o", path, "-d", q(place.db_dir())});
+
+    QCOMPARE(run.exit_code, 4);
+    QCOMPARE(run.err, "gfpdb: " + path.toUtf8() + ": The file cannot be written: No such file or directory.\n");
 }
 
 // The tables by which names are compared have changed, or another program has written the file.

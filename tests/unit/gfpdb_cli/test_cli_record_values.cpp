@@ -1,5 +1,6 @@
 // Which values of a record are wrong, missing or of no use, for each kind of configuration mode.
 #include "gfpdb_json.h"
+#include "gfpdb_text.h"
 
 #include "record_fields.h"
 #include "record_reading.h"
@@ -65,12 +66,34 @@ void clear(GFPDB_ROW& row, const std::string& member)
         row.flow_template.clear();
 }
 
-QStringList texts_of(const std::vector<RECORD_REMARK>& remarks)
+QStringList whole_texts_of(const std::vector<RECORD_REMARK>& remarks)
 {
     QStringList texts;
     for (const RECORD_REMARK& remark : remarks)
-        texts += QString(remark.member) + ": " + QString::fromStdString(remark.text).section('.', 0, 0);
+        texts += QString(remark.member) + ": " + QString::fromStdString(remark.text);
     return texts;
+}
+
+QStringList texts_of(const std::vector<RECORD_REMARK>& remarks)
+{
+    QStringList texts = whole_texts_of(remarks);
+    for (QString& text : texts)
+        text = text.section('.', 0, 0);
+    return texts;
+}
+
+// A device of the same configuration mode with the voltage and density of `record`.
+void save_values_of(const CLI_RECORD& record)
+{
+    GFPDB_MGR& manager = *fresh_manager();
+    manager.set_config_scheme(record.row.scheme);
+    GFPDB_FLASH* const stored = manager.create_flash("Stored");
+    stored->set_string_property(GFPDB_FLASH_VOLTAGE, record.row.voltage);
+    stored->set_density(record.row.density);
+    QVERIFY(manager.save_flash(stored, std::string()));
+    std::vector<std::string> offered;
+    QVERIFY(gfpdb_joined(manager.get_voltage_list(offered)).find(record.row.voltage) != std::string::npos);
+    QVERIFY(gfpdb_joined(manager.get_density_list(offered)).find(record.row.density) != std::string::npos);
 }
 
 } // namespace
@@ -85,6 +108,10 @@ private slots:
     void a_missing_value_is_wrong_or_gets_its_default_data();
     void a_missing_value_is_wrong_or_gets_its_default();
     void a_die_count_of_nothing_is_refused();
+    void a_text_that_is_no_voltage_or_size_is_refused_data();
+    void a_text_that_is_no_voltage_or_size_is_refused();
+    void an_unusual_voltage_or_size_is_warned_of_data();
+    void an_unusual_voltage_or_size_is_warned_of();
     void a_template_needs_another_name_than_its_device();
     void what_the_dialog_drops_is_warned_of_data();
     void what_the_dialog_drops_is_warned_of();
@@ -188,6 +215,106 @@ void TEST_CLI_RECORD_VALUES::a_die_count_of_nothing_is_refused()
         QCOMPARE(texts_of(record_problems(manager, record, rules)),
                  QStringList{"total_die: The total die count 0 is out of range: 1 to 16 are allowed"});
     QVERIFY(record_fill_missing(manager, record).empty());
+}
+
+void TEST_CLI_RECORD_VALUES::a_text_that_is_no_voltage_or_size_is_refused_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<QString>("value");
+    const auto add = [](int scheme, const char* member, const char* value) {
+        QTest::addRow("%d %s %s", scheme, member, value) << scheme << QString(member) << QString(value);
+    };
+    for (const char* voltage : {"foo", "5", "V", "-5V", "5v", " 5V", "2.7-V", "2.7-3.6-5V", "2.7V-3.6V", "2,7V"})
+        add(SERIAL, RECORD_VOLTAGE, voltage);
+    for (const char* density : {"foo", "256", "Mb", "256 Mb", "256mb", "0Mb", "-1Mb", "2.5Mb", "256Tb"})
+        add(SERIAL, RECORD_DENSITY, density);
+    for (const int scheme : {int(QUAD), PARALLEL, CARD}) {
+        add(scheme, RECORD_VOLTAGE, "foo");
+        add(scheme, RECORD_DENSITY, "foo");
+    }
+}
+
+// Also when a stored device has it, which puts it into the dialog's list.
+void TEST_CLI_RECORD_VALUES::a_text_that_is_no_voltage_or_size_is_refused()
+{
+    const GFPDB_PLACE place;
+    QFETCH(int, scheme);
+    QFETCH(QString, member);
+    QFETCH(QString, value);
+    CLI_RECORD record = complete(scheme);
+    const bool is_voltage = member == RECORD_VOLTAGE;
+    (is_voltage ? record.row.voltage : record.row.density) = value.toStdString();
+    const QString problem =
+        member +
+        QString(": The %1 \"%2\" is not known: choose one of ").arg(is_voltage ? "I/O voltage" : "density", value);
+
+    for (const bool is_stored : {false, true}) {
+        if (is_stored)
+            save_values_of(record);
+        GFPDB_MGR& manager = *fresh_manager();
+        for (const RECORD_RULES rules : {RECORD_RULES::STORED, RECORD_RULES::IMPORTED}) {
+            const QStringList problems = whole_texts_of(record_problems(manager, record, rules));
+            QCOMPARE(problems.size(), 1);
+            QVERIFY2(problems[0].startsWith(problem), qPrintable(problems[0]));
+        }
+        QVERIFY(record_problems(manager, record, RECORD_RULES::NAMES).empty());
+        QCOMPARE(texts_of(record_warnings(manager, record)), QStringList());
+    }
+}
+
+void TEST_CLI_RECORD_VALUES::an_unusual_voltage_or_size_is_warned_of_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<bool>("is_template");
+    QTest::addColumn<QString>("voltage");
+    QTest::addColumn<QString>("density");
+    QTest::addColumn<QStringList>("warnings");
+    const auto voltage = [](const char* value) {
+        return QString("voltage: The I/O voltage \"%1\" is not a usual one. Usual: 3.3V, ").arg(value);
+    };
+    const auto density = [](const char* value, const char* first) {
+        return QString("density: The density \"%1\" is not a usual one. Usual: %2, ").arg(value, first);
+    };
+    QTest::newRow("usual") << int(SERIAL) << false << "2.7-3.6V"
+                           << "64Mb" << QStringList();
+    QTest::newRow("voltage") << int(SERIAL) << false << "5V"
+                             << "64Mb" << QStringList{voltage("5V")};
+    QTest::newRow("range") << int(QUAD) << false << "1.5-5.5V"
+                           << "64Mb" << QStringList{voltage("1.5-5.5V")};
+    QTest::newRow("both of a template") << int(SERIAL) << true << "5V"
+                                        << "3Kb" << QStringList{voltage("5V"), density("3Kb", "1Mb")};
+    QTest::newRow("a serial one's of a parallel one") << PARALLEL << false << "1.2V"
+                                                      << "4Mb" << QStringList{voltage("1.2V"), density("4Mb", "8Mb")};
+    QTest::newRow("a serial one's of a card") << CARD << false << "2.5V"
+                                              << "8Mb" << QStringList{voltage("2.5V"), density("8Mb", "1GB")};
+}
+
+// Also when a stored device has it, which puts it into the dialog's list.
+void TEST_CLI_RECORD_VALUES::an_unusual_voltage_or_size_is_warned_of()
+{
+    const GFPDB_PLACE place;
+    QFETCH(int, scheme);
+    QFETCH(bool, is_template);
+    QFETCH(QString, voltage);
+    QFETCH(QString, density);
+    QFETCH(QStringList, warnings);
+    CLI_RECORD record = complete(scheme);
+    record.is_template = is_template;
+    record.row.template_name = is_template ? "T" : "";
+    record.row.voltage = voltage.toStdString();
+    record.row.density = density.toStdString();
+
+    for (const bool is_stored : {false, true}) {
+        if (is_stored)
+            save_values_of(record);
+        GFPDB_MGR& manager = *fresh_manager();
+        QCOMPARE(texts_of(record_problems(manager, record, RECORD_RULES::STORED)), QStringList());
+        const QStringList found = whole_texts_of(record_warnings(manager, record));
+        QCOMPARE(found.size(), warnings.size());
+        for (int i = 0; i < found.size(); ++i)
+            QVERIFY2(found[i].startsWith(warnings[i]), qPrintable(found[i]));
+    }
 }
 
 void TEST_CLI_RECORD_VALUES::a_template_needs_another_name_than_its_device()
