@@ -67,9 +67,10 @@ using namespace GFPDB_SQL;
 namespace {
 
 #define GFPDB_HISTORY_READ "SELECT id, is_template, reason, changed_at, changed_by, "
+// After the highest number that there can be, SQLite chooses one that is free.
 #define GFPDB_TO_HISTORY                                                                                               \
-    "INSERT INTO history (is_template, reason, changed_at, changed_by, " GFPDB_COLUMNS                                 \
-    ") SELECT ?, ?, ?, ?, " GFPDB_COLUMNS " "
+    "INSERT INTO history (id, is_template, reason, changed_at, changed_by, " GFPDB_COLUMNS                             \
+    ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, " GFPDB_COLUMNS " "
 
 // The name of a record as it is stored.
 constexpr char DEVICE_NAME_OF_KEY[] =

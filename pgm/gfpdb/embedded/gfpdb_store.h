@@ -234,6 +234,7 @@ private:
     // gfpdb_store_upkeep.cpp: keeping the history small and the keys right.
     bool is_stored(const GFPDB_HISTORY_ENTRY& entry);
     bool find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::int64_t>& ids);
+    bool note_last_state();
     bool remove_states(const std::vector<std::int64_t>& ids);
     bool read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced);
     bool set_key(const GFPDB_MISPLACED& record, const std::string& key);

@@ -129,7 +129,8 @@ bool GFPDB_STORE::mark_taken(const GFPDB_TAKEN& taken, const char* reason)
 bool GFPDB_STORE::forget_taken(const GFPDB_TAKEN& taken)
 {
     QSqlQuery query;
-    return prepare(query, "DELETE FROM history " GFPDB_WHERE_TAKEN,
+    return note_last_state() &&
+           prepare(query, "DELETE FROM history " GFPDB_WHERE_TAKEN,
                    {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) &&
            run(query);
 }

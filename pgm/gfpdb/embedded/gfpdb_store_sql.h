@@ -24,6 +24,12 @@ class QSqlQuery;
     "CAST(flow_template AS BLOB), revision"
 #define GFPDB_ALL_READ GFPDB_SCALARS_READ ", CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB)"
 
+// The highest number that a state of the history was ever given; 0 before the first. Users name states by their
+// numbers: those of removed states are not given again, so meta has what was the highest when states were last removed.
+#define GFPDB_LAST_STATE                                                                                               \
+    "max(coalesce((SELECT max(id) FROM history), 0), "                                                                 \
+    "coalesce((SELECT CAST(value AS INTEGER) FROM meta WHERE name = 'last_state'), 0))"
+
 constexpr char REASON_REPLACED[] = "replaced";
 constexpr char REASON_DELETED[] = "deleted";
 constexpr char REASON_PUT_BACK[] = "put back";

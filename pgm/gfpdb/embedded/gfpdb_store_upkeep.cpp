@@ -1,5 +1,6 @@
 // The part of GFPDB_STORE that keeps the history small and the keys right. The records are in gfpdb_store.cpp.
 #include "gfpdb_store.h"
+#include "gfpdb_store_sql.h"
 
 #include "gfpdb_text.h"
 
@@ -8,25 +9,12 @@
 
 #include <unordered_map>
 
+using namespace GFPDB_SQL;
+
 namespace {
 
 // No name may have this character, so no key begins with it.
 constexpr char PARKED_KEY = '\x01';
-
-QByteArray bytes_of(const std::string& text)
-{
-    return QByteArray(text.data(), static_cast<int>(text.size()));
-}
-
-std::string text_at(const QSqlQuery& query, int column)
-{
-    return query.value(column).toByteArray().toStdString();
-}
-
-QByteArray key_of(const std::string& name)
-{
-    return bytes_of(gfpdb_name_key(name));
-}
 
 // What the states of one record have in common.
 std::string record_of(const GFPDB_HISTORY_ENTRY& entry)
@@ -87,10 +75,18 @@ bool GFPDB_STORE::is_stored(const GFPDB_HISTORY_ENTRY& entry)
     return is_prepared && next_row(query);
 }
 
+// Must be called before states are removed, in the same transaction.
+bool GFPDB_STORE::note_last_state()
+{
+    return run("INSERT OR REPLACE INTO meta (name, value) VALUES ('last_state', " GFPDB_LAST_STATE ")");
+}
+
 bool GFPDB_STORE::remove_states(const std::vector<std::int64_t>& ids)
 {
     QSqlQuery query;
-    if (!prepare(query, "DELETE FROM history WHERE id = ?"))
+    if (ids.empty())
+        return true;
+    if (!note_last_state() || !prepare(query, "DELETE FROM history WHERE id = ?"))
         return false;
     for (const std::int64_t id : ids) {
         query.bindValue(0, static_cast<qlonglong>(id));
