@@ -262,10 +262,10 @@ void LOST_WORK_TEST::run_foreign(const QString& statement) const
     QSqlDatabase::removeDatabase(READER);
 }
 
-void LOST_WORK_TEST::lock()
+void LOST_WORK_TEST::lock(const QString& how)
 {
     QSqlQuery query(foreign_connection(LOCKER, directory()));
-    if (!query.exec(QStringLiteral("BEGIN IMMEDIATE")))
+    if (!query.exec(qs("BEGIN ") + how))
         qFatal("no lock: %s", qPrintable(query.lastError().text()));
 }
 

@@ -99,8 +99,9 @@ protected:
     QStringList history() const;
     // Runs one statement on the database file, as a foreign program.
     void run_foreign(const QString& statement) const;
-    // Another program holds the database for writing until unlock().
-    void lock();
+    // Another program holds the database until unlock(): "IMMEDIATE" keeps others from writing, "EXCLUSIVE" from
+    // reading too.
+    void lock(const QString& how = qs("IMMEDIATE"));
     void unlock();
 
     MODAL_DRIVER m_modals;

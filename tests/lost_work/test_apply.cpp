@@ -39,6 +39,11 @@ private slots:
     void a_custom_device_with_the_name_of_a_part_is_the_users_own();
     void a_new_device_cannot_take_the_name_of_a_part();
     void a_message_that_fails_to_save_keeps_the_flows();
+    void the_new_device_row_is_not_the_device_shown_before_data();
+    void the_new_device_row_is_not_the_device_shown_before();
+    void the_name_of_an_unreadable_device_that_is_gone_is_free();
+    void no_name_is_free_while_the_database_cannot_be_read();
+    void a_mode_without_devices_is_accepted();
 };
 
 QString TEST_APPLY::click_and_read(const char* button_name)
@@ -338,6 +343,79 @@ void TEST_APPLY::a_message_that_fails_to_save_keeps_the_flows()
     QCOMPARE(page(1).get_flow().size(), actions);
     click("m_apply_button");
     QCOMPARE(page(1).get_flow().size(), actions);
+}
+
+void TEST_APPLY::the_new_device_row_is_not_the_device_shown_before_data()
+{
+    QTest::addColumn<bool>("is_opened_again");
+    QTest::addColumn<QString>("name");
+
+    for (const bool is_opened_again : {false, true}) {
+        const char* const where = is_opened_again ? "in the next dialog" : "in the same dialog";
+        QTest::addRow("its name, %s", where) << is_opened_again << qs("Mine");
+        QTest::addRow("its name in another case, %s", where) << is_opened_again << qs("MINE");
+    }
+}
+
+void TEST_APPLY::the_new_device_row_is_not_the_device_shown_before()
+{
+    QFETCH(const bool, is_opened_again);
+    QFETCH(const QString, name);
+    store("Mine");
+    open("Mine");
+    if (is_opened_again) {
+        close_dialog();
+        open();
+    } else {
+        click_row(qs("<<new device>>"));
+    }
+    type("m_device_name_edit", name);
+
+    const QString told = return_in_name();
+
+    QVERIFY2(told.contains(qs("\"Mine\" for this family and configuration mode")), qPrintable(told));
+}
+
+void TEST_APPLY::the_name_of_an_unreadable_device_that_is_gone_is_free()
+{
+    store("Mine");
+    run_foreign(qs("UPDATE device SET single_flows = '{', revision = 'broken'"));
+    open("Mine");
+    run_foreign(qs("DELETE FROM device"));
+    open();
+    type("m_device_name_edit", qs("Mine"));
+    type("m_device_id_edit", qs("0x01"));
+    type("m_total_die_edit", qs("1"));
+
+    click("m_apply_button");
+
+    QCOMPARE(stored(qs("Mine")), qs("0x01"));
+}
+
+void TEST_APPLY::no_name_is_free_while_the_database_cannot_be_read()
+{
+    store("Mine");
+    store("Other");
+    open("Mine");
+    type("m_device_name_edit", qs("OTHER"));
+    lock(qs("EXCLUSIVE"));
+
+    const QString told = return_in_name();
+    unlock();
+
+    QVERIFY2(told.contains(qs("locked by another program")), qPrintable(told));
+}
+
+void TEST_APPLY::a_mode_without_devices_is_accepted()
+{
+    store("Mine");
+    open(std::string(), 0);
+    QCOMPARE(shown_rows(), QStringList());
+
+    click("m_ok_button");
+
+    QVERIFY(!dlg().isVisible());
+    QCOMPARE(stored_names(), QStringList{qs("Mine")});
 }
 
 LOST_WORK_TEST_MAIN(TEST_APPLY)

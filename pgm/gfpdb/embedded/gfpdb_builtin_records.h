@@ -17,7 +17,7 @@ const std::vector<std::string>& gfpdb_builtin_keys();
 // The part called `name`, or null.
 const GFPDB_PART* gfpdb_builtin_part(const std::string& name);
 // The record of the part called `name`, or null. What the catalogue does not know of the part is not set, but for the
-// number of dice, which is 1 then.
+// number of dies, which is 1 then.
 GFPDB_EMBEDDED_FLASH* gfpdb_builtin_record(const std::string& name);
 
 // The index of the built-in template `name`, compared as names are; -1 when there is none.

@@ -52,7 +52,7 @@ GFPDB_EMBEDDED_MGR::~GFPDB_EMBEDDED_MGR() = default;
 
 void GFPDB_EMBEDDED_MGR::reload()
 {
-    m_taken.reset();
+    m_deletion.reset();
     const std::string directory = get_db_custom_dir();
     if (directory == gfpdb_default_dir())
         gfpdb_create_dir(directory);
@@ -81,7 +81,7 @@ int GFPDB_EMBEDDED_MGR::get_device_family() const
 
 void GFPDB_EMBEDDED_MGR::set_device_family(int family)
 {
-    m_taken.reset();
+    m_deletion.reset();
     m_family = family;
 }
 
@@ -92,7 +92,7 @@ int GFPDB_EMBEDDED_MGR::get_config_scheme() const
 
 void GFPDB_EMBEDDED_MGR::set_config_scheme(int scheme)
 {
-    m_taken.reset();
+    m_deletion.reset();
     m_scheme = scheme;
 }
 
@@ -100,7 +100,7 @@ void GFPDB_EMBEDDED_MGR::set_config_scheme(int scheme)
 GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_flows)
 {
     Q_UNUSED(load_flows)
-    m_taken.reset();
+    m_deletion.reset();
     m_last_error.clear();
     GFPDB_FLASH* found = find_device(name);
     if (found == nullptr && is_builtin_flash(name))
@@ -133,12 +133,17 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
     return record;
 }
 
-// What a user has not seen is neither deleted nor replaced. What is wrong with the whole database is said first.
+// What a user has not seen is neither deleted nor replaced, unless it is gone. What is wrong with the whole database is
+// said first.
 bool GFPDB_EMBEDDED_MGR::check_seen(GFPDB_STORE& store, const std::string& name)
 {
     const auto unread = m_unread.find(store.get_directory() + device_place(name));
     if (unread == m_unread.end())
         return true;
+    if (store.get_device_name(m_family, m_scheme, name).empty() && store.get_last_error().empty()) {
+        m_unread.erase(unread);
+        return true;
+    }
     if (!store.can_be_changed())
         return fail(store.get_last_error());
     return fail("The device " + gfpdb_quoted(name) + " is neither deleted nor replaced, because it could not be read " +
@@ -199,11 +204,14 @@ std::string GFPDB_EMBEDDED_MGR::get_last_error() const
     return m_last_error;
 }
 
-// A custom device of the part's name is the user's own and never hidden.
+// A custom device of the part's name is the user's own and never hidden. A mode without devices has nothing to show,
+// and nothing that an OK would have to save.
 bool GFPDB_EMBEDDED_MGR::is_hidden_flash(const std::string& name, bool flows) const
 {
     if (!flows)
         m_asked = GFPDB_ASKED_DEVICE{name, std::string()};
+    if (!flows && kind() == GFPDB_SCHEME_KIND::NONE)
+        return true;
     const GFPDB_PART* part = is_builtin_flash(name) ? gfpdb_builtin_part(name) : nullptr;
     const bool is_hidden = part != nullptr && (flows ? part->flows_hidden : part->properties_hidden);
     return is_hidden && !is_custom_flash(name);
@@ -250,7 +258,7 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
     case GFPDB_FLASH_VOLTAGE:
         return gfpdb_check_choice(value, get_voltage_list(allowed), "I/O voltage", error);
     case GFPDB_FLASH_DENSITY:
-        return gfpdb_check_choice(value, get_density_list(allowed), "density", error);
+        return gfpdb_check_choice(value, densities(), "density", error);
     case GFPDB_FLASH_TEMPLATE_NAME:
         return check_template_name(value, error);
     case GFPDB_FLASH_FLOW_TEMPLATE:
@@ -260,17 +268,25 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
     }
 }
 
+// What could not be read is not free.
+bool GFPDB_EMBEDDED_MGR::was_read(std::string& error) const
+{
+    return m_store->get_last_error().empty() || refuse(error, m_store->get_last_error());
+}
+
 bool GFPDB_EMBEDDED_MGR::check_device_name(const std::string& name, std::string& error) const
 {
     m_asked.entered = name;
     if (!gfpdb_check_name(name, DEVICE_NAME, error))
         return false;
     const std::string stored = m_store->get_device_name(m_family, m_scheme, name);
-    if (stored.empty() && !gfpdb_check_record_name(name, DEVICE_NAME, error))
+    if (!was_read(error) || (stored.empty() && !gfpdb_check_record_name(name, DEVICE_NAME, error)))
         return false;
     if (!m_store->is_writable())
         return refuse(error, m_store->get_problem());
     const std::string in_the_way = m_store->get_template_name(name);
+    if (!was_read(error))
+        return false;
     if (!in_the_way.empty())
         return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
                                  ": choose another name." + gfpdb_case_note(in_the_way, name));
@@ -298,6 +314,8 @@ bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::strin
     if (!m_store->is_writable())
         return refuse(error, m_store->get_problem());
     const std::string in_the_way = m_store->get_template_name(name);
+    if (!was_read(error))
+        return false;
     if (!in_the_way.empty())
         return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
                                  ": choose another name, or remove that template first." +
@@ -309,8 +327,10 @@ bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::strin
         return refuse(error, "The template name " + gfpdb_quoted(name) + " differs from the device name " +
                                  gfpdb_quoted(m_asked.name()) + " in case only: choose another name.");
     const std::string device = m_store->get_any_device_name(name);
-    return device.empty() || refuse(error, "There is a device called " + gfpdb_quoted(device) +
-                                               ": choose another name." + gfpdb_case_note(device, name));
+    if (device.empty())
+        return was_read(error);
+    return refuse(error, "There is a device called " + gfpdb_quoted(device) + ": choose another name." +
+                             gfpdb_case_note(device, name));
 }
 
 // A device whose name a built-in part has got since can be saved; a new one cannot take such a name.
@@ -342,14 +362,14 @@ bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& direc
 {
     m_last_error.clear();
     GFPDB_STORE& store = store_of(directory);
-    std::optional<GFPDB_TAKEN> taken;
-    taken.swap(m_taken);
-    if (m_taken_from != store.get_directory())
-        taken.reset();
-    if (store_record(dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash), store, taken ? &*taken : nullptr))
+    std::optional<GFPDB_DELETION> deletion;
+    deletion.swap(m_deletion);
+    if (deletion && deletion->directory != store.get_directory())
+        deletion.reset();
+    if (store_record(dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash), store, deletion ? &*deletion : nullptr))
         return true;
-    if (taken)
-        put_back(store, *taken);
+    if (deletion && deletion->taken)
+        put_back(store, *deletion->taken);
     return false;
 }
 
@@ -361,9 +381,11 @@ void GFPDB_EMBEDDED_MGR::put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken)
              " that was deleted before was not put back: " + store.get_last_error());
 }
 
-bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_TAKEN* taken)
+// A rename and a new device take a name that was free when it was checked: what has it by now is not replaced.
+bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_DELETION* deletion)
 {
     std::string error;
+    const GFPDB_TAKEN* taken = deletion != nullptr && deletion->taken ? &*deletion->taken : nullptr;
     if (record == nullptr)
         return fail("There is no record to save.");
     if (!can_add_flash())
@@ -379,7 +401,9 @@ bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE&
     if (!row)
         return fail("The device " + gfpdb_quoted(record->get_name()) + " has a text that is not UTF-8.");
     row->revision = gfpdb_new_revision();
-    const std::optional<std::string> revision = store.save_device(*row, taken);
+    const bool is_new_name =
+        deletion != nullptr && gfpdb_name_key(deletion->name) != gfpdb_name_key(record->get_name());
+    const std::optional<std::string> revision = store.save_device(*row, taken, is_new_name);
     if (!revision)
         return fail(store.get_last_error());
     row->revision = *revision;
@@ -401,19 +425,22 @@ GFPDB_STORE& GFPDB_EMBEDDED_MGR::store_of(const std::string& directory)
 bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string& directory)
 {
     m_last_error.clear();
-    m_taken.reset();
+    m_deletion.reset();
     GFPDB_STORE& store = store_of(directory);
-    m_taken_from = store.get_directory();
     if (!check_seen(store, name))
         return false;
-    return store.remove_device(m_family, m_scheme, name, &m_taken) || fail(store.get_last_error());
+    GFPDB_DELETION deletion{store.get_directory(), name, std::nullopt};
+    if (!store.remove_device(m_family, m_scheme, name, &deletion.taken))
+        return fail(store.get_last_error());
+    m_deletion = deletion;
+    return true;
 }
 
 bool GFPDB_EMBEDDED_MGR::restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
                                        const std::string& new_name)
 {
     m_last_error.clear();
-    m_taken.reset();
+    m_deletion.reset();
     GFPDB_STORE& store = store_of(directory);
     const std::optional<GFPDB_HISTORY_ENTRY> entry = store.find_history(history_id);
     std::string error;
@@ -475,7 +502,13 @@ std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_voltage_list(std::vector<std::
 
 std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_density_list(std::vector<std::string>& densities) const
 {
-    densities = gfpdb_density_options(kind());
+    m_asked = GFPDB_ASKED_DEVICE();
+    return densities = this->densities();
+}
+
+std::vector<std::string> GFPDB_EMBEDDED_MGR::densities() const
+{
+    std::vector<std::string> densities = gfpdb_density_options(kind());
     add_missing(densities, m_store->get_used_values(gfpdb_schemes_of(kind())).densities);
     return densities;
 }
@@ -541,7 +574,7 @@ bool GFPDB_EMBEDDED_MGR::is_flow_editable(const GFPDB_FLASH* flash) const
 bool GFPDB_EMBEDDED_MGR::remove_template(const std::string& name)
 {
     m_last_error.clear();
-    m_taken.reset();
+    m_deletion.reset();
     if (gfpdb_builtin_template(name) >= 0)
         return fail("The template " + gfpdb_quoted(name) + " is built in: it cannot be removed.");
     return m_store->remove_template(name) || fail(m_store->get_last_error());

@@ -12,16 +12,27 @@
 #include <unordered_map>
 #include <vector>
 
-// Which device the user is asked about, as far as the calls tell: what checks of names go by.
+// Which device the user is asked about, as far as the calls tell: what checks of names go by. Every load of a device or
+// of the row of a new one fills the choice lists first, so get_density_list() begins it afresh.
 struct GFPDB_ASKED_DEVICE
 {
-    // The name that is_hidden_flash(name, false) was last asked about, which begins with every device that is shown and
-    // with every Apply.
+    // The name that is_hidden_flash(name, false) was last asked about since then, which begins with every device that
+    // is shown and with every Apply. Empty when none was.
     std::string shown;
     // The device name that was checked last since then: the one that is about to be given. Empty when none was.
     std::string entered;
 
     const std::string& name() const { return entered.empty() ? shown : entered; }
+};
+
+// What a save_flash() that follows a delete_flash() at once has to know of it.
+struct GFPDB_DELETION
+{
+    // Both as they were given, the directory in its one form.
+    std::string directory;
+    std::string name;
+    // None when there was no such device.
+    std::optional<GFPDB_TAKEN> taken;
 };
 
 // The one manager of the process: custom devices and stored templates from the database of the custom directory,
@@ -91,6 +102,8 @@ private:
     GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::string& revision) const;
     GFPDB_EMBEDDED_FLASH* keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template);
     GFPDB_EMBEDDED_FLASH* nothing_read();
+    std::vector<std::string> densities() const;
+    bool was_read(std::string& error) const;
     bool check_seen(GFPDB_STORE& store, const std::string& name);
     std::string device_place(const std::string& name) const;
     bool check_device_name(const std::string& name, std::string& error) const;
@@ -100,7 +113,7 @@ private:
                           std::string& error) const;
     static bool check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name, std::string& error);
     bool fail(const std::string& error);
-    bool store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_TAKEN* taken);
+    bool store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_DELETION* deletion);
     void put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken);
 
     int m_family = 0;
@@ -110,10 +123,9 @@ private:
     // The database of another directory than the custom one that was last changed.
     std::unique_ptr<GFPDB_STORE> m_other_store;
     std::string m_last_error;
-    // What the last call took, if that was a delete_flash(), and from which directory. A save_flash() that follows at
-    // once replaces it, or puts it back; any other call that loads or changes something ends it.
-    std::optional<GFPDB_TAKEN> m_taken;
-    std::string m_taken_from;
+    // The last call, if that was a delete_flash() that succeeded. A save_flash() that follows at once replaces what it
+    // took, or puts it back; any other call that loads or changes something ends it.
+    std::optional<GFPDB_DELETION> m_deletion;
     mutable GFPDB_ASKED_DEVICE m_asked;
     // The places of devices that could not be read when they were last looked for, and why.
     std::unordered_map<std::string, std::string> m_unread;

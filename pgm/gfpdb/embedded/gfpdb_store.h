@@ -90,7 +90,10 @@ public:
     //
     // `taken` is what was removed to be replaced by `row`, or null: the history then says that it was replaced. When
     // `row` is the very state that was taken, all is as it was before the removal.
-    std::optional<std::string> save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken = nullptr);
+    //
+    // With `is_new_name` a device of that name is not replaced: the save is refused.
+    std::optional<std::string> save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken = nullptr,
+                                           bool is_new_name = false);
     // True also when there is no such record. `taken` (may be null) hears what was removed, if anything was.
     bool remove_device(int family, int scheme, const std::string& name, std::optional<GFPDB_TAKEN>* taken = nullptr);
     // Makes what was removed the current record again, as it was; the history says so. Refused when its name is in use,

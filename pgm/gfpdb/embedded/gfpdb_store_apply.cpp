@@ -9,10 +9,13 @@
 
 using namespace GFPDB_SQL;
 
-std::optional<std::string> GFPDB_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken)
+std::optional<std::string> GFPDB_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, bool is_new_name)
 {
     std::string revision;
-    const auto work = [&] { return check_free_names(row) && save_over(row, taken, revision) && save_template(row); };
+    const auto work = [&] {
+        return check_free_names(row) && (!is_new_name || check_no_such_device(row.family, row.scheme, row.name)) &&
+               save_over(row, taken, revision) && save_template(row);
+    };
     if (!prepare_write() || !change(work))
         return std::nullopt;
     note_used_values(row);

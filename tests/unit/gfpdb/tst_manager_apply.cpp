@@ -41,6 +41,9 @@ private slots:
     void a_failed_save_puts_the_device_back();
     void a_device_that_was_put_back_can_be_saved_again();
     void nothing_is_put_over_a_device_of_another_program();
+    void a_device_that_no_one_has_seen_is_not_replaced_data();
+    void a_device_that_no_one_has_seen_is_not_replaced();
+    void a_save_that_no_delete_precedes_replaces();
     void nothing_is_put_into_another_database();
     void nothing_is_put_back_in_another_directory();
     void a_failure_to_put_back_says_where_the_device_is();
@@ -315,6 +318,46 @@ void TST_MANAGER_APPLY::nothing_is_put_over_a_device_of_another_program()
     QCOMPARE(reasons(), QStringLiteral("deleted"));
 }
 
+void TST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced_data()
+{
+    QTest::addColumn<QString>("deleted");
+    QTest::addColumn<QString>("history");
+    QTest::newRow("by a rename") << QStringLiteral("A") << QStringLiteral("put back");
+    QTest::newRow("by a new device") << QStringLiteral("<<new device>>") << QString();
+}
+
+void TST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced()
+{
+    QFETCH(const QString, deleted);
+    QFETCH(const QString, history);
+    save("A");
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, std::string("B")), std::string());
+    GFPDB_STORE other(m_place->db_dir());
+    QVERIFY(other.save_device(make_row("b")));
+
+    QVERIFY(remove(deleted.toStdString()));
+    expect_warning("\\AThere is a device called \"b\" already\\.");
+    QVERIFY(!save_record(make_changed("B")));
+
+    QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "b"}));
+    QCOMPARE(GFPDB_EMBEDDED_MGR::instance().store().find_device(FAMILY, SERIAL, "b")->single_flows,
+             std::string("single flows of b"));
+    QCOMPARE(reasons(), history);
+}
+
+void TST_MANAGER_APPLY::a_save_that_no_delete_precedes_replaces()
+{
+    save("A");
+    QVERIFY(remove("<<new device>>"));
+    m_mgr->find_flash("A", true);
+    QVERIFY(save_record(make_changed("A")));
+    make_dir(m_place->path("other/"));
+    QVERIFY(m_mgr->delete_flash("B", m_place->path("other/")));
+    QVERIFY(save_record(make_device(*m_mgr, "A")));
+
+    QCOMPARE(reasons(), QStringLiteral("replaced,replaced"));
+}
+
 void TST_MANAGER_APPLY::nothing_is_put_into_another_database()
 {
     save("A");
@@ -395,7 +438,8 @@ void TST_MANAGER_APPLY::other_calls_in_between_end_the_memory()
     QVERIFY(!save_record(make_bad("D")));
 
     QVERIFY(!m_mgr->is_custom_flash("A"));
-    QVERIFY(!reasons().contains(QLatin1String("put back,")));
+    QCOMPARE(run_sql(m_place->db_file(), "SELECT reason FROM history WHERE name = 'A'").toString(),
+             QStringLiteral("deleted"));
 }
 
 void TST_MANAGER_APPLY::only_the_next_save_puts_back()

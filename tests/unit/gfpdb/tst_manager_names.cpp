@@ -28,6 +28,9 @@ private slots:
     void the_name_of_the_shown_device_is_refused_as_its_own();
     void a_rename_that_changes_only_case_is_one_entry();
     void looking_at_another_device_starts_afresh();
+    void asking_for_the_densities_starts_afresh();
+    void no_name_is_free_while_the_database_cannot_be_read_data();
+    void no_name_is_free_while_the_database_cannot_be_read();
 
     void a_template_name_that_differs_in_case_from_the_device_is_refused_data();
     void a_template_name_that_differs_in_case_from_the_device_is_refused();
@@ -44,6 +47,7 @@ private slots:
     void a_device_that_no_one_could_read_is_not_replaced();
     void a_device_is_deleted_once_it_was_read();
     void a_device_that_was_not_read_for_a_lock_is_not_deleted();
+    void a_device_that_no_one_could_read_and_that_is_gone_is_forgotten();
 
 private:
     void look_at(const std::string& name) { QVERIFY(!m_mgr->is_hidden_flash(name, false)); }
@@ -144,7 +148,52 @@ void TST_MANAGER_NAMES::looking_at_another_device_starts_afresh()
     QCOMPARE(device_error("DEVICE"), std::string());
 
     look_at("Other");
-    QVERIFY(template_error("DEVICE").find("differs") == std::string::npos);
+    QCOMPARE(template_error("DEVICE"), "There is a device called \"Device\": choose another name." + CASE_NOTE);
+}
+
+// As every device, and the row of a new one, begins.
+void TST_MANAGER_NAMES::asking_for_the_densities_starts_afresh()
+{
+    save("Device");
+    look_at("Device");
+    QCOMPARE(device_error("Entered"), std::string());
+    NAMES densities;
+
+    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_DENSITY, std::string("8Mb")), std::string());
+    QCOMPARE(device_error("DEVICE"), std::string());
+    m_mgr->get_density_list(densities);
+
+    QCOMPARE(template_error("Device"), std::string("There is a device called \"Device\": choose another name."));
+    QCOMPARE(device_error("DEVICE"), "There is a device called \"Device\" for this family and configuration mode: "
+                                     "choose another name." +
+                                         CASE_NOTE);
+}
+
+void TST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read_data()
+{
+    QTest::addColumn<int>("property");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a device's") << int(GFPDB_FLASH_NAME) << QStringLiteral("DEVICE");
+    QTest::newRow("a template's") << int(GFPDB_FLASH_NAME) << QStringLiteral("Template");
+    QTest::newRow("no one's") << int(GFPDB_FLASH_NAME) << QStringLiteral("Free");
+    QTest::newRow("a device's for a template") << int(GFPDB_FLASH_TEMPLATE_NAME) << QStringLiteral("Device");
+    QTest::newRow("a template's for a template") << int(GFPDB_FLASH_TEMPLATE_NAME) << QStringLiteral("Template");
+}
+
+void TST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read()
+{
+    QFETCH(const int, property);
+    QFETCH(const QString, name);
+    write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
+    m_mgr = fresh_manager();
+    save("Device", "Template");
+    look_at("Other");
+    const FOREIGN_LOCK lock(m_place->db_file());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is locked by another program")));
+
+    const std::string error = checked(*m_mgr, GFPDB_FLASH_PROPERTY(property), name.toStdString());
+
+    QVERIFY2(error.find("is locked by another program") != std::string::npos, error.c_str());
 }
 
 void TST_MANAGER_NAMES::a_template_name_that_differs_in_case_from_the_device_is_refused_data()
@@ -341,6 +390,26 @@ void TST_MANAGER_NAMES::a_device_that_was_not_read_for_a_lock_is_not_deleted()
     QVERIFY(!remove("A"));
 
     QVERIFY(m_mgr->find_flash("A", true) != nullptr);
+    QVERIFY(remove("A"));
+}
+
+void TST_MANAGER_NAMES::a_device_that_no_one_could_read_and_that_is_gone_is_forgotten()
+{
+    write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
+    m_mgr = fresh_manager();
+    save("A");
+    break_flows();
+    expect_warning(flows_error());
+    QVERIFY(m_mgr->find_flash("A", true) == nullptr);
+    run_sql(m_place->db_file(), "DELETE FROM device");
+
+    {
+        const FOREIGN_LOCK lock(m_place->db_file());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is locked by another program")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("\\AThe device \"A\" is neither")));
+        QVERIFY(!remove("A"));
+    }
+    QCOMPARE(save_error("A"), std::string("was saved"));
     QVERIFY(remove("A"));
 }
 

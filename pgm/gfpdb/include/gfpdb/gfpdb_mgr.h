@@ -58,7 +58,9 @@ public:
     // already stays as it is, with its revision.
     //
     // What the call just before took, if that was delete_flash() for the same directory, is replaced by `flash`; when
-    // the save fails it is put back, and get_last_error() says so if that fails too.
+    // the save fails it is put back, and get_last_error() says so if that fails too. After such a delete_flash() only
+    // the device whose deletion was asked for is replaced: when another one has the name of `flash`, the save is
+    // refused.
     virtual bool save_flash(GFPDB_FLASH* flash, const std::string& directory) = 0;
     // Removes the device `name` from the database in `directory`; its state goes into the history, and is back if the
     // very next call is a save_flash() that fails. True also when there is no such device. False: the database is as it
@@ -79,6 +81,8 @@ public:
     virtual std::vector<std::string>& get_builtin_flash_names(std::vector<std::string>& names, int family, int scheme,
                                                               int reserved) const = 0;
     virtual std::vector<std::string>& get_voltage_list(std::vector<std::string>& voltages) const = 0;
+    // Also ends which device the user is asked about: a form fills its lists, then shows a device or asks for a new
+    // one.
     virtual std::vector<std::string>& get_density_list(std::vector<std::string>& densities) const = 0;
     // The five built-in templates, then the stored ones.
     virtual std::vector<std::string>& get_template_list(std::vector<std::string>& templates) const = 0;
