@@ -126,6 +126,9 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
         const std::optional<GFPDB_ROW> row = m_store->find_device(m_family, m_scheme, name);
         record = row ? keep_read(place, *row, false) : nothing_read();
     }
+    if (record != nullptr)
+        m_store->note_used_values(gfpdb_schemes_of(kind()), record->get_string_property(GFPDB_FLASH_VOLTAGE),
+                                  record->get_density());
     if (record != nullptr || m_last_error.empty())
         m_unread.erase(m_store->get_directory() + place);
     else

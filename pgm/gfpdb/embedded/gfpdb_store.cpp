@@ -232,20 +232,18 @@ std::vector<std::string> GFPDB_STORE::get_template_names()
     return read_names(query);
 }
 
-// The rows are large, and a directory may have many of them: they are not read again for every list.
+// The rows are large, and a directory may have many of them: they are not read again for every list. A list that lacks
+// the value of a device would have a form show another one.
 GFPDB_USED_VALUES GFPDB_STORE::get_used_values(const std::vector<int>& schemes)
 {
     const std::string foreign_changes = read_text("PRAGMA data_version", {});
-    if (foreign_changes != m_foreign_changes)
-        m_used_values.clear();
-    m_foreign_changes = foreign_changes;
-    const auto known = m_used_values.find(schemes);
-    if (known != m_used_values.end())
-        return known->second;
+    KNOWN_VALUES& known = m_used_values[schemes];
+    if (!m_last_error.empty() || (!foreign_changes.empty() && foreign_changes == known.foreign_changes))
+        return known.values;
     GFPDB_USED_VALUES values;
-    if (read_used_values(schemes, values))
-        m_used_values[schemes] = values;
-    return values;
+    if (read_used_values(schemes, values) || m_last_error.empty())
+        known = {values, foreign_changes};
+    return known.values;
 }
 
 bool GFPDB_STORE::read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values)
@@ -271,12 +269,25 @@ bool GFPDB_STORE::read_used_values(const std::vector<int>& schemes, GFPDB_USED_V
 // Other programs' changes are counted by SQLite; this program's own are not.
 void GFPDB_STORE::note_used_values(const GFPDB_ROW& row)
 {
-    for (auto& [schemes, values] : m_used_values) {
-        if (std::find(schemes.begin(), schemes.end(), row.scheme) == schemes.end())
-            continue;
-        values.voltages.insert(row.voltage);
-        values.densities.insert(row.density);
+    for (const auto& known : m_used_values) {
+        if (std::find(known.first.begin(), known.first.end(), row.scheme) != known.first.end())
+            note_used_values(known.first, row.voltage, row.density);
     }
+}
+
+void GFPDB_STORE::note_used_values(const std::vector<int>& schemes, const std::string& voltage,
+                                   const std::string& density)
+{
+    GFPDB_USED_VALUES& values = m_used_values[schemes].values;
+    values.voltages.insert(voltage);
+    values.densities.insert(density);
+}
+
+// They are offered until they can be read again.
+void GFPDB_STORE::forget_used_values()
+{
+    for (auto& known : m_used_values)
+        known.second.foreign_changes.clear();
 }
 
 std::string GFPDB_STORE::read_text(const char* statement, const QVariantList& values)
@@ -400,7 +411,7 @@ std::vector<GFPDB_ROW> GFPDB_STORE::get_templates()
 bool GFPDB_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
                            const std::function<void(int)>& progress)
 {
-    m_used_values.clear();
+    forget_used_values();
     return prepare_write() && change([&] {
                int done = 0;
                for (const GFPDB_ROW& row : devices) {
@@ -463,7 +474,7 @@ bool GFPDB_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string&
     row.revision = gfpdb_new_revision();
     if (!new_name.empty())
         (entry->is_template ? row.template_name : row.name) = new_name;
-    m_used_values.clear();
+    forget_used_values();
     return prepare_write() && change([&] {
                return check_different_names(row) &&
                       (entry->is_template ? put_back_template(row, how) : put_back_device(row, how));

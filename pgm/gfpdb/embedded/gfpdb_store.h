@@ -66,7 +66,10 @@ public:
     std::vector<std::string> get_template_names();
     // The voltages and densities of the devices and templates of `schemes`. They are read once, and again when another
     // program has changed the database; what this program removed stays until then, or until the file is opened anew.
+    // While they cannot be read, those that are known stay.
     GFPDB_USED_VALUES get_used_values(const std::vector<int>& schemes);
+    // Adds those of a device that was read to what is known for `schemes`.
+    void note_used_values(const std::vector<int>& schemes, const std::string& voltage, const std::string& density);
     // The record, or none; names are compared without regard to case.
     std::optional<GFPDB_ROW> find_device(int family, int scheme, const std::string& name);
     std::optional<GFPDB_ROW> find_template(const std::string& template_name);
@@ -202,6 +205,7 @@ private:
     // gfpdb_store.cpp: the records.
     bool read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values);
     void note_used_values(const GFPDB_ROW& row);
+    void forget_used_values();
     bool start_read(QSqlQuery& query, const char* statement, const QVariantList& values = {});
     bool next_row(QSqlQuery& query);
     bool note_read_problem();
@@ -252,9 +256,14 @@ private:
     int m_schema_version = 0;
     // The count of the schema that was found to be a known one.
     std::optional<int> m_schema_count;
-    // What get_used_values() gave for which schemes, and SQLite's count of other programs' changes at that time.
-    std::map<std::vector<int>, GFPDB_USED_VALUES> m_used_values;
-    std::string m_foreign_changes;
+    // What is known of used values for which schemes, and SQLite's count of other programs' changes when it was read;
+    // empty when it is to be read again.
+    struct KNOWN_VALUES
+    {
+        GFPDB_USED_VALUES values;
+        std::string foreign_changes;
+    };
+    std::map<std::vector<int>, KNOWN_VALUES> m_used_values;
     // The file that the user has seen is gone, and no change was refused for that yet.
     bool m_was_replaced = false;
     // The last error was another program's lock; then an unusable database is not tried again before that time.

@@ -242,7 +242,7 @@ bool GFPDB_STORE::run(const char* statement)
 void GFPDB_STORE::open()
 {
     close();
-    m_used_values.clear();
+    forget_used_values();
     m_read_problem.clear();
     m_is_locked = false;
     if (!examine_directory() || !examine_file() || !has_own_companions())

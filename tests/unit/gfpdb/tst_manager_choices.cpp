@@ -3,8 +3,18 @@
 #include "gfpdb_options.h"
 #include "manager_test.h"
 
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+
+namespace {
+
+void expect_lock()
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("is locked by another program")));
+}
+
+} // namespace
 
 class TST_MANAGER_CHOICES : public MANAGER_TEST
 {
@@ -21,6 +31,8 @@ private slots:
     void values_of_a_restored_device_are_offered();
     void values_that_are_gone_are_not_offered_after_a_reload();
     void values_of_another_directory_are_not_offered();
+    void values_stay_offered_while_they_cannot_be_read();
+    void the_values_of_a_device_that_was_found_are_offered();
 
 private:
     void save_with(const std::string& name, const std::string& voltage, const std::string& density,
@@ -182,6 +194,41 @@ void TST_MANAGER_CHOICES::values_of_another_directory_are_not_offered()
     m_mgr = fresh_manager();
 
     QCOMPARE(more_voltages(), NAMES());
+}
+
+void TST_MANAGER_CHOICES::values_stay_offered_while_they_cannot_be_read()
+{
+    write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
+    m_mgr = fresh_manager();
+    save_with("A", "5V", "96Mb");
+    QCOMPARE(more_voltages(), NAMES{"5V"});
+    {
+        const FOREIGN_LOCK lock(m_place->db_file());
+        expect_lock();
+        QCOMPARE(more_voltages(), NAMES{"5V"});
+        QCOMPARE(more_densities(), NAMES{"96Mb"});
+    }
+    run_sql(m_place->db_file(), "UPDATE device SET voltage = '6V'");
+    {
+        const FOREIGN_LOCK lock(m_place->db_file());
+        QCOMPARE(more_voltages(), NAMES{"5V"});
+    }
+    QCOMPARE(more_voltages(), NAMES{"6V"});
+}
+
+// A form asks for the lists first.
+void TST_MANAGER_CHOICES::the_values_of_a_device_that_was_found_are_offered()
+{
+    write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
+    save_with("A", "5V", "96Mb");
+    m_mgr = fresh_manager();
+    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+    QVERIFY(m_mgr->find_flash("A", true) != nullptr);
+
+    const FOREIGN_LOCK lock(m_place->db_file());
+    expect_lock();
+    QCOMPARE(more_voltages(), NAMES{"5V"});
+    QCOMPARE(more_densities(), NAMES{"96Mb"});
 }
 
 QTEST_GUILESS_MAIN(TST_MANAGER_CHOICES)
