@@ -162,14 +162,16 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
     return row ? keep_read(place, *row, true) : nothing_read();
 }
 
-// The record that was read from `place` of the current database, if it is still what is stored there.
+// The record that was read from `place` of the current database, if it is still what is stored there, and as much the
+// user's to change as it was.
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_read(const std::string& place, const std::string& revision) const
 {
     const auto found = m_read_records.find(m_store->get_directory() + place);
     if (found == m_read_records.end())
         return nullptr;
     GFPDB_EMBEDDED_FLASH* record = found->second;
-    return record->get_revision() == revision && record->is_unchanged() ? record : nullptr;
+    const bool is_same = record->get_revision() == revision && record->is_unchanged();
+    return is_same && record->is_user_defined() != m_store->is_read_only() ? record : nullptr;
 }
 
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template)
@@ -180,6 +182,9 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::keep_read(const std::string& place, co
         fail("The flows of " + gfpdb_quoted(row.name) + " in " + directory + " cannot be read.");
         return nullptr;
     }
+    // A form that would save it with every OK could not be accepted.
+    record->set_user_defined(!m_store->is_read_only());
+    record->set_unchanged();
     m_records.push_back(std::move(record));
     return m_read_records[directory + place] = m_records.back().get();
 }

@@ -51,6 +51,8 @@ public:
     // True when the records of the directory can be read: also when there is no file yet, but one can be made.
     bool is_readable();
     bool is_writable();
+    // True when the records can be read, but not changed.
+    bool is_read_only();
     // False, with the reason in get_last_error(), when a change would be refused now whatever it is.
     bool can_be_changed() { return prepare_write(); }
     // What keeps the database from being read or written, as a sentence for the user; empty when nothing does.

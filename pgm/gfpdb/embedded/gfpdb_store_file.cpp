@@ -181,6 +181,12 @@ bool GFPDB_STORE::is_writable()
     return m_state == STATE::NO_FILE || m_state == STATE::READ_WRITE;
 }
 
+bool GFPDB_STORE::is_read_only()
+{
+    refresh();
+    return m_state == STATE::READ_ONLY;
+}
+
 std::string GFPDB_STORE::get_problem()
 {
     refresh();

@@ -103,6 +103,7 @@ private slots:
 
     void the_devices_of_a_read_only_database_can_be_used_but_not_changed();
     void a_read_only_file_can_be_used_but_not_changed();
+    void a_device_in_a_read_only_directory_is_not_the_users_to_change();
     void a_database_that_can_be_written_again_is_changed();
     void a_database_that_is_sealed_while_it_is_open_is_told_as_such();
     void a_half_written_database_in_a_read_only_directory_is_left_alone();
@@ -187,6 +188,27 @@ void TST_READ_ONLY::a_read_only_file_can_be_used_but_not_changed()
     expect_warning(problem);
     QCOMPARE(GFPDB_HELPER::get_database_problem(), problem);
     QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+}
+
+void TST_READ_ONLY::a_device_in_a_read_only_directory_is_not_the_users_to_change()
+{
+    make_database();
+    m_mgr = fresh_manager();
+    const GFPDB_FLASH* const own = m_mgr->find_flash("A", true);
+    QVERIFY(own->is_user_defined());
+    m_dir->seal();
+
+    m_mgr = fresh_manager();
+    expect_warning("can be read, but not changed");
+    const GFPDB_FLASH* const shared = m_mgr->find_flash("A", true);
+    QVERIFY(!shared->is_user_defined());
+    QVERIFY(!m_mgr->is_flow_editable(shared));
+    QCOMPARE(shared->get_density(), own->get_density());
+    QCOMPARE(m_mgr->find_flash("A", true), shared);
+
+    m_dir->unseal();
+    m_mgr = fresh_manager();
+    QVERIFY(m_mgr->find_flash("A", true)->is_user_defined());
 }
 
 void TST_READ_ONLY::a_database_that_can_be_written_again_is_changed()
