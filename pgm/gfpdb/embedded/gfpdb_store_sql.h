@@ -11,7 +11,7 @@
 class QSqlQuery;
 
 // The columns that the tables device, template and history share: their names, and how their values are read. In the
-// order of bind_row() and row_of().
+// order in which gfpdb_store.cpp binds and reads them.
 #define GFPDB_COLUMNS                                                                                                  \
     "family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, quad_io_dummy_clock, "       \
     "template_name, flow_template, revision, saved_at, single_flows, quad_flows"
