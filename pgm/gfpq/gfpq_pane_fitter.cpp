@@ -50,7 +50,7 @@ void GFPQ_PANE_FITTER::leave_to_user()
 int GFPQ_PANE_FITTER::needed_width(int whole) const
 {
     // Frames, and the scroll bar where there is one.
-    const int around = m_splitter.sizes().last() - m_area.viewport()->width();
+    const int around = m_splitter.sizes().constLast() - m_area.viewport()->width();
     return std::min(m_area.widget()->sizeHint().width() + around, whole * LARGEST_SHARE_PERCENT / PERCENT);
 }
 
