@@ -18,10 +18,12 @@ std::string complaint(const GFPDB_MGR& mgr)
     return mgr.get_last_error().empty() ? FAULT_TOLD_NOTHING : mgr.get_last_error();
 }
 
-// As the dialog does it: the name that was selected is deleted, then the name that was entered is saved.
-std::string press_apply(const std::string& selected, const std::string& entered)
+// As the dialog does it: the name that was selected is deleted, then the name that was entered is saved. When that has
+// been stored already, it is the one that is selected.
+std::string press_apply(const std::string& former, const std::string& entered)
 {
     GFPDB_MGR* mgr = manager();
+    const std::string selected = mgr->is_custom_flash(entered) ? entered : former;
     if (!selected.empty() && !mgr->delete_flash(selected, std::string()))
         return complaint(*mgr);
     GFPDB_FLASH* record = make_device(*mgr, entered);

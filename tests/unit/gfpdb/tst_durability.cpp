@@ -98,16 +98,18 @@ std::string random_mark()
     return std::to_string(number) + std::string(number % MARK_LENGTH, 'x');
 }
 
-// Saves, renames and deletes until it is killed. As the dialog does, a save deletes the name first.
+// Saves, renames and deletes until it is killed. As the dialog does, a save deletes the name first, and a device gets
+// no name that another one has.
 int work()
 {
     GFPDB_MGR* manager = fresh_manager();
     for (;;) {
         const std::string old_name = random_name();
         const int action = QRandomGenerator::global()->bounded(4);
+        const std::string wish = action <= 1 ? random_name() : old_name;
+        const std::string new_name = manager->is_custom_flash(wish) ? old_name : wish;
         if (!remove(*manager, old_name))
             return 1;
-        const std::string new_name = action <= 1 ? random_name() : old_name;
         if (action != 2 && !save(*manager, new_name, random_mark()))
             return 1;
     }
