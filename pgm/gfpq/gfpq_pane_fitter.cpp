@@ -22,7 +22,7 @@ constexpr int AROUND_TITLES = 80;
 } // namespace
 
 GFPQ_PANE_FITTER::GFPQ_PANE_FITTER(QSplitter& splitter, const QScrollArea& area)
-    : QObject(&splitter), m_splitter(splitter), m_area(area)
+    : QObject(&splitter), m_splitter(splitter), m_area(area), m_contents(area.widget())
 {
     splitter.installEventFilter(this);
     area.viewport()->installEventFilter(this);
@@ -34,7 +34,7 @@ GFPQ_PANE_FITTER::GFPQ_PANE_FITTER(QSplitter& splitter, const QScrollArea& area)
 // shown, and has its surroundings laid out again.
 bool GFPQ_PANE_FITTER::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool of_contents = watched == m_area.widget();
+    const bool of_contents = watched == m_contents;
     if ((of_contents && event->type() == QEvent::LayoutRequest) ||
         (!of_contents && (event->type() == QEvent::Show || event->type() == QEvent::Resize)))
         QMetaObject::invokeMethod(this, &GFPQ_PANE_FITTER::fit, Qt::QueuedConnection);

@@ -30,6 +30,8 @@ private:
 
     QSplitter& m_splitter;
     const QScrollArea& m_area;
+    // Of the area; only compared, because it sends events still when the area is being destroyed.
+    const QObject* const m_contents;
     // The part of the splitter that the pane had before it was widened; 0 while it is not widened.
     double m_own_share = 0.0;
     bool m_is_users = false;
