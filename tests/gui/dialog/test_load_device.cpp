@@ -22,6 +22,8 @@ private slots:
     void texts_match_without_regard_to_case();
     void a_text_that_is_not_offered_shows_the_first_item();
     void a_template_that_is_not_listed_is_added();
+    void the_first_template_is_listed_once();
+    void texts_are_found_letter_for_letter_first();
     void an_added_template_leaves_with_its_device();
     void a_builtin_device_shows_no_voltage_and_density();
     void a_hidden_device_shows_nothing();
@@ -213,6 +215,26 @@ void TEST_LOAD_DEVICE::a_template_that_is_not_listed_is_added()
              list_of({"Built-in A", "Built-in B", "Built-in C", "Built-in D", "Built-in E", "gone template"}));
     QCOMPARE(combo("m_flow_template_cbox").currentIndex(), 5);
     QCOMPARE(combo("m_flow_template_cbox").itemData(5), QVariant());
+}
+
+void TEST_LOAD_DEVICE::the_first_template_is_listed_once()
+{
+    add_full_record("A").strings[8] = "Built-in A";
+
+    open_with("A");
+
+    QCOMPARE(items("m_flow_template_cbox").size(), 5);
+    QCOMPARE(combo("m_flow_template_cbox").currentIndex(), 0);
+}
+
+void TEST_LOAD_DEVICE::texts_are_found_letter_for_letter_first()
+{
+    mgr().voltages = {"3.3V", "3.3v"};
+    add_full_record("A").strings[2] = "3.3v";
+
+    open_with("A");
+
+    QCOMPARE(combo("m_voltage_cbox").currentText(), QStringLiteral("3.3v"));
 }
 
 void TEST_LOAD_DEVICE::an_added_template_leaves_with_its_device()
