@@ -35,6 +35,8 @@ private slots:
     void the_filter_stays_when_the_list_is_rebuilt();
     void a_name_that_the_filter_hides_is_not_selected();
     void a_name_that_is_gone_leaves_the_first_row_that_the_filter_shows();
+    void a_name_that_is_gone_leaves_the_only_row_that_the_filter_shows();
+    void a_name_that_is_gone_leaves_the_first_row_of_all_when_the_filter_shows_none();
     void no_device_stands_for_the_new_device_row_even_when_the_filter_hides_it();
     void selecting_through_the_filter_takes_the_right_device();
     void the_mouse_selects_a_device();
@@ -388,6 +390,38 @@ void TEST_DEVICE_LIST::a_name_that_is_gone_leaves_the_first_row_that_the_filter_
     QCOMPARE(shown_rows(), list_of({"MX25L", "S25"}));
     QCOMPARE(current_row(), QStringLiteral("MX25L"));
     QCOMPARE(log().calls_of({qs("find_flash")}), list_of({R"(mgr.find_flash("MX25L", true))"}));
+}
+
+void TEST_DEVICE_LIST::a_name_that_is_gone_leaves_the_only_row_that_the_filter_shows()
+{
+    open_with("W25Q");
+    edit("m_filter_line_edit").setText(QStringLiteral("25"));
+    mgr().builtin_names = {"S26", "MX25L"};
+    log().clear();
+
+    choose("m_family_cbox", ALDER);
+
+    QCOMPARE(shown_rows(), list_of({"MX25L"}));
+    QCOMPARE(current_row(), QStringLiteral("MX25L"));
+    QCOMPARE(log().calls_of({qs("find_flash")}), list_of({R"(mgr.find_flash("MX25L", true))"}));
+}
+
+void TEST_DEVICE_LIST::a_name_that_is_gone_leaves_the_first_row_of_all_when_the_filter_shows_none()
+{
+    open_with("W25Q");
+    edit("m_filter_line_edit").setText(QStringLiteral("25Q"));
+    QCOMPARE(current_row(), QStringLiteral("W25Q"));
+    mgr().builtin_names = {"MX25L"};
+    log().clear();
+
+    choose("m_family_cbox", ALDER);
+
+    QCOMPARE(shown_rows(), QStringList());
+    QVERIFY(!table().currentIndex().isValid());
+    QCOMPARE(log().count(qs("find_flash")), 0);
+    QCOMPARE(edit("m_device_name_edit").text(), QString());
+    edit("m_filter_line_edit").clear();
+    QCOMPARE(current_row(), QStringLiteral("<<new device>>"));
 }
 
 void TEST_DEVICE_LIST::no_device_stands_for_the_new_device_row_even_when_the_filter_hides_it()
