@@ -2,8 +2,8 @@
 // centred or kept.
 #pragma once
 
-#include "gfpq_flow_items.h"
-#include "gfpq_text.h"
+#include "flow/gfpq_flow_items.h"
+#include "words/gfpq_text.h"
 
 #include "gfpdb/gfpdb_action.h"
 

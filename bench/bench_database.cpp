@@ -3,7 +3,7 @@
 // Floor: the bare SQL for the same rows with the same durability.
 #include "bench_harness.h"
 
-#include "gfpq_dlg.h"
+#include "dialog/gfpq_dlg.h"
 
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"

@@ -4,8 +4,8 @@
 // list and the fields of one device.
 #include "bench_harness.h"
 
+#include "dialog/gfpq_dlg.h"
 #include "gfpdb_double.h"
-#include "gfpq_dlg.h"
 
 #include "kovq/zui_app.h"
 

@@ -4,9 +4,9 @@
 #include "bare_chart.h"
 #include "bench_harness.h"
 
-#include "gfpq_flow_scene.h"
-#include "gfpq_operation_tab_widget.h"
-#include "gfpq_text.h"
+#include "flow/gfpq_flow_scene.h"
+#include "flow/gfpq_operation_tab_widget.h"
+#include "words/gfpq_text.h"
 
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"

@@ -6,8 +6,8 @@
 #include "bare_chart.h"
 #include "bench_harness.h"
 
-#include "gfpq_dlg.h"
-#include "gfpq_vocabulary.h"
+#include "dialog/gfpq_dlg.h"
+#include "words/gfpq_vocabulary.h"
 
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"

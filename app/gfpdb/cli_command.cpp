@@ -1,6 +1,6 @@
 #include "cli_command.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 std::string CLI_CALL::argument(int index) const
 {

@@ -1,8 +1,8 @@
 #include "cli_database.h"
 
-#include "gfpdb_builtin_records.h"
-#include "gfpdb_embedded_mgr.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_builtin_records.h"
+#include "manager/gfpdb_embedded_mgr.h"
 
 #include "gfpdb/gfpdb_helper.h"
 

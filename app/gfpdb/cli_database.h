@@ -4,7 +4,7 @@
 #include "cli_record.h"
 
 #include "gfpdb/gfpdb_mgr.h"
-#include "gfpdb_store.h"
+#include "store/gfpdb_store.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "cli_find.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 #include <charconv>
 

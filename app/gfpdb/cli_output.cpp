@@ -1,6 +1,6 @@
 #include "cli_output.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 #include <cstdio>
 

@@ -9,9 +9,9 @@
 #include "restore_command.h"
 #include "show_command.h"
 
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_catalogue.h"
 #include "gfpdb/gfpdb_enums.h"
-#include "gfpdb_catalogue.h"
-#include "gfpdb_text.h"
 
 #include <QCoreApplication>
 #include <QFile>

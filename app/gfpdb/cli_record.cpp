@@ -1,6 +1,6 @@
 #include "cli_record.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 std::string cli_title(const CLI_RECORD& record)
 {

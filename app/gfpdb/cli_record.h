@@ -1,7 +1,7 @@
 // What the tool's commands pass to each other: records, and what is wrong with them.
 #pragma once
 
-#include "gfpdb_row.h"
+#include "model/gfpdb_row.h"
 
 #include <string>
 #include <vector>

@@ -5,7 +5,7 @@
 #include "record_file.h"
 #include "record_json.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 #include <QFileInfo>
 

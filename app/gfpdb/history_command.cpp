@@ -3,7 +3,7 @@
 #include "cli_find.h"
 #include "json_text.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 #include <QDateTime>
 

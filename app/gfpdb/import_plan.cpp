@@ -1,9 +1,9 @@
 #include "import_plan.h"
 
-#include "gfpdb_builtin_records.h"
-#include "gfpdb_flow_templates.h"
-#include "gfpdb_json.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_builtin_records.h"
+#include "catalogue/gfpdb_flow_templates.h"
+#include "model/gfpdb_json.h"
 
 namespace {
 

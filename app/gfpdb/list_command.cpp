@@ -4,7 +4,7 @@
 #include "record_csv.h"
 #include "record_json.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 #include <QRegularExpression>
 #include <QString>

@@ -3,8 +3,8 @@
 #include "record_fields.h"
 #include "record_json.h"
 
-#include "gfpdb_catalogue_csv.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_catalogue_csv.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 #include "record_csv.h"
 #include "record_json.h"
 
-#include "gfpdb_read_file.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_read_file.h"
+#include "base/gfpdb_text.h"
 
 #include <QFile>
 

@@ -2,11 +2,11 @@
 
 #include "record_fields.h"
 
-#include "gfpdb_action_model.h"
-#include "gfpdb_flow_check.h"
-#include "gfpdb_json.h"
-#include "gfpdb_operation.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_json.h"
+#include "model/gfpdb_operation.h"
+#include "rules/gfpdb_flow_check.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

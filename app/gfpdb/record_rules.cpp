@@ -2,12 +2,12 @@
 
 #include "record_fields.h"
 
-#include "gfpdb_builtin_records.h"
-#include "gfpdb_checks.h"
-#include "gfpdb_json.h"
-#include "gfpdb_options.h"
-#include "gfpdb_part.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_builtin_records.h"
+#include "catalogue/gfpdb_part.h"
+#include "model/gfpdb_json.h"
+#include "rules/gfpdb_checks.h"
+#include "rules/gfpdb_options.h"
 
 #include "gfpdb/gfpdb_enums.h"
 #include "gfpdb/gfpdb_mgr.h"

@@ -2,8 +2,8 @@
 
 #include "cli_output.h"
 
-#include "gfpdb_json.h"
-#include "gfpq_vocabulary.h"
+#include "model/gfpdb_json.h"
+#include "words/gfpq_vocabulary.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

@@ -2,7 +2,7 @@
 
 #include "cli_find.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "record_json.h"
 #include "record_text.h"
 
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "dstr/dstr.h"
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
-#include "gfpq_message.h"
+#include "words/gfpq_message.h"
 
 #include <QDir>
 #include <QStringList>

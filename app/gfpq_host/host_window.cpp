@@ -5,7 +5,7 @@
 #include "module_loader.h"
 
 #include "dstr/dstr.h"
-#include "gfpq_vocabulary.h"
+#include "words/gfpq_vocabulary.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -2,7 +2,7 @@
 
 #include "gfpq_dyn_dlg.h"
 
-#include "gfpq_dlg.h"
+#include "dialog/gfpq_dlg.h"
 #include "text_catalogue.h"
 
 #include <QApplication>

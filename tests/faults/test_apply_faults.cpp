@@ -1,8 +1,8 @@
 // What Apply does to the database, with system calls that fail in it.
 #include "fault_stand.h"
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_embedded_mgr.h"
 #include "gfpdb_test.h"
+#include "manager/gfpdb_embedded_mgr.h"
 
 #include <QRegularExpression>
 

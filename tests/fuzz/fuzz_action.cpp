@@ -3,11 +3,11 @@
 // Input: a byte for the type of the action; then, again and again, a byte for a property and a text.
 #include "fuzz_target.h"
 
-#include "gfpdb_action_model.h"
-#include "gfpdb_action_rules.h"
-#include "gfpdb_json.h"
-#include "gfpdb_operation.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_json.h"
+#include "model/gfpdb_operation.h"
+#include "rules/gfpdb_action_rules.h"
 
 #include <algorithm>
 #include <memory>

@@ -3,11 +3,11 @@
 // Input: the content of the file.
 #include "fuzz_target.h"
 
-#include "gfpdb_catalogue_csv.h"
-#include "gfpdb_checks.h"
-#include "gfpdb_embedded_flash.h"
-#include "gfpdb_flow_templates.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_catalogue_csv.h"
+#include "catalogue/gfpdb_flow_templates.h"
+#include "model/gfpdb_embedded_flash.h"
+#include "rules/gfpdb_checks.h"
 
 #include <algorithm>
 

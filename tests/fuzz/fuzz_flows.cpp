@@ -3,7 +3,7 @@
 // Input: the text.
 #include "fuzz_target.h"
 
-#include "gfpdb_json.h"
+#include "model/gfpdb_json.h"
 
 namespace {
 

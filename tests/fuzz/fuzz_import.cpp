@@ -4,8 +4,8 @@
 // of the rest, then both.
 #include "fuzz_target.h"
 
-#include "gfpdb_embedded_mgr.h"
 #include "import_plan.h"
+#include "manager/gfpdb_embedded_mgr.h"
 #include "record_csv.h"
 #include "record_file.h"
 #include "record_json.h"

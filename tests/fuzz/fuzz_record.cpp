@@ -4,8 +4,8 @@
 // value; a record that the table does not take is left out.
 #include "fuzz_target.h"
 
-#include "gfpdb_embedded_mgr.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "manager/gfpdb_embedded_mgr.h"
 
 #include <QDir>
 #include <QFile>

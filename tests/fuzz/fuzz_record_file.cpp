@@ -3,8 +3,8 @@
 // Input: a byte for the format and the rules, then the content of the file.
 #include "fuzz_target.h"
 
-#include "gfpdb_embedded_mgr.h"
 #include "import_plan.h"
+#include "manager/gfpdb_embedded_mgr.h"
 #include "record_csv.h"
 #include "record_file.h"
 #include "record_json.h"

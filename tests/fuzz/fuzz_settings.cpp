@@ -3,8 +3,8 @@
 // Input: the content of the file.
 #include "fuzz_target.h"
 
-#include "gfpdb_custom_dir.h"
-#include "gfpdb_settings.h"
+#include "base/gfpdb_settings.h"
+#include "manager/gfpdb_custom_dir.h"
 
 #include <QFile>
 

@@ -15,9 +15,9 @@
 // count. A lock of another program is not waited for.
 #pragma once
 
-#include "gfpq_dlg.h"
-#include "gfpq_flow_scene.h"
-#include "gfpq_operation_tab_widget.h"
+#include "dialog/gfpq_dlg.h"
+#include "flow/gfpq_flow_scene.h"
+#include "flow/gfpq_operation_tab_widget.h"
 #include "modal_driver.h"
 
 #include "gfpdb/gfpdb_enums.h"

@@ -1,11 +1,11 @@
 #include "invariants.h"
 
-#include "gfpq_dlg.h"
-#include "gfpq_flow_items.h"
-#include "gfpq_flow_scene.h"
-#include "gfpq_operation_tab_widget.h"
-#include "gfpq_property_delegate.h"
-#include "gfpq_text.h"
+#include "dialog/gfpq_dlg.h"
+#include "flow/gfpq_flow_items.h"
+#include "flow/gfpq_flow_scene.h"
+#include "flow/gfpq_operation_tab_widget.h"
+#include "flow/gfpq_property_delegate.h"
+#include "words/gfpq_text.h"
 
 #include "gfpdb/gfpdb_action.h"
 #include "gfpdb/gfpdb_helper.h"

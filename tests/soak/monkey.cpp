@@ -3,9 +3,9 @@
 #include "invariants.h"
 #include "soak_stand.h"
 
-#include "gfpq_dlg.h"
-#include "gfpq_flow_scene.h"
-#include "gfpq_operation_tab_widget.h"
+#include "dialog/gfpq_dlg.h"
+#include "flow/gfpq_flow_scene.h"
+#include "flow/gfpq_operation_tab_widget.h"
 
 #include "dstr/dstr.h"
 

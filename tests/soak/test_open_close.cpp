@@ -1,7 +1,7 @@
 // Opening and closing the dialog again and again keeps memory flat.
 #include "soak_stand.h"
 
-#include "gfpq_dlg.h"
+#include "dialog/gfpq_dlg.h"
 
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"

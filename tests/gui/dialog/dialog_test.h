@@ -4,8 +4,8 @@
 // each test function. Widgets are found by their object names; a name that does not exist ends the test program.
 #pragma once
 
-#include "gfpq_dlg.h"
-#include "gfpq_operation_tab_widget.h"
+#include "dialog/gfpq_dlg.h"
+#include "flow/gfpq_operation_tab_widget.h"
 #include "gui_test.h"
 
 #include <QCheckBox>

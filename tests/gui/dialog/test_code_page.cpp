@@ -3,7 +3,7 @@
 #include "code_page.h"
 #include "dialog_test.h"
 
-#include "gfpq_edit_template_dlg.h"
+#include "dialog/gfpq_edit_template_dlg.h"
 
 #include <filesystem>
 

@@ -2,8 +2,8 @@
 // its arguments can be seen; that each connection also works is shown by the other tests.
 #include "dialog_test.h"
 
-#include "gfpq_edit_template_dlg.h"
-#include "gfpq_operation_tab_widget.h"
+#include "dialog/gfpq_edit_template_dlg.h"
+#include "flow/gfpq_operation_tab_widget.h"
 #include "kovq/kovq_connect.h"
 
 #include <QAction>

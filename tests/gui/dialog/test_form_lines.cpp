@@ -1,5 +1,5 @@
 // What Qt prints while a form is built, and what is held back of it.
-#include "gfpq_form.h"
+#include "dialog/gfpq_form.h"
 #include "gui_test.h"
 
 #include <QDialog>

@@ -1,7 +1,7 @@
 // The slots of the dialogs, by their method index: other code may run them by number.
 #include "dialog_test.h"
 
-#include "gfpq_edit_template_dlg.h"
+#include "dialog/gfpq_edit_template_dlg.h"
 
 #include <QItemSelection>
 #include <QMetaMethod>

@@ -2,7 +2,7 @@
 // and that it lives on copies of what its caller handed in.
 #include "dialog_test.h"
 
-#include "gfpq_form.h"
+#include "dialog/gfpq_form.h"
 
 #include "marking_translator.h"
 

@@ -1,7 +1,7 @@
 // The template editor: its form, its list, Remove and Close.
 #include "dialog_test.h"
 
-#include "gfpq_edit_template_dlg.h"
+#include "dialog/gfpq_edit_template_dlg.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>

@@ -1,7 +1,7 @@
 // Flow templates in the dialog: what the combo shows and does, and what opening the template editor does to it.
 #include "dialog_test.h"
 
-#include "gfpq_edit_template_dlg.h"
+#include "dialog/gfpq_edit_template_dlg.h"
 
 #include <QHeaderView>
 

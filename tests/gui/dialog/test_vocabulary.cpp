@@ -1,6 +1,6 @@
 // The five tables of words that the dialog shows for the flash database's numbers.
-#include "gfpq_text.h"
-#include "gfpq_vocabulary.h"
+#include "words/gfpq_text.h"
+#include "words/gfpq_vocabulary.h"
 
 #include <QTest>
 

@@ -2,9 +2,9 @@
 // user's hands.
 #pragma once
 
+#include "flow/gfpq_flow_items.h"
+#include "flow/gfpq_flow_scene.h"
 #include "gfpdb_double.h"
-#include "gfpq_flow_items.h"
-#include "gfpq_flow_scene.h"
 #include "gui_test.h"
 
 #include <QGraphicsView>

@@ -3,7 +3,7 @@
 
 #include "flow_stand.h"
 
-#include "gfpq_operation_tab_widget.h"
+#include "flow/gfpq_operation_tab_widget.h"
 
 #include <QTableView>
 

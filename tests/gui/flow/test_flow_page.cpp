@@ -1,7 +1,7 @@
 // The page of one operation: its widgets, loading, reading and releasing its flow, activation.
 #include "page_stand.h"
 
-#include "gfpq_vocabulary.h"
+#include "words/gfpq_vocabulary.h"
 
 #include <QBoxLayout>
 #include <QFrame>

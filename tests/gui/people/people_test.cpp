@@ -1,7 +1,7 @@
 #include "people_test.h"
 
-#include "gfpq_flow_scene.h"
-#include "gfpq_operation_tab_widget.h"
+#include "flow/gfpq_flow_scene.h"
+#include "flow/gfpq_operation_tab_widget.h"
 
 void PEOPLE_TEST::set_up()
 {

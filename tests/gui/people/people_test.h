@@ -2,7 +2,7 @@
 // of each sort.
 #pragma once
 
-#include "gfpq_dlg.h"
+#include "dialog/gfpq_dlg.h"
 #include "gui_test.h"
 
 #include <QGraphicsView>

@@ -1,7 +1,7 @@
 // The dialogs with a screen reader, and without a mouse.
 #include "people_test.h"
 
-#include "gfpq_edit_template_dlg.h"
+#include "dialog/gfpq_edit_template_dlg.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -1,5 +1,5 @@
 // The catalogues as translators keep them: complete, and true to what surrounds the words of a text.
-#include "gfpq_vocabulary.h"
+#include "words/gfpq_vocabulary.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,9 +2,9 @@
 #include "people_test.h"
 
 #include "cut_labels.h"
+#include "dialog/gfpq_edit_template_dlg.h"
+#include "dialog/gfpq_pane_fitter.h"
 #include "dialog_call.h"
-#include "gfpq_edit_template_dlg.h"
-#include "gfpq_pane_fitter.h"
 #include "host_choice.h"
 #include "host_window.h"
 #include "module_loader.h"

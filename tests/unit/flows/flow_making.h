@@ -1,8 +1,8 @@
 // Short ways to write actions and operations in tests.
 #pragma once
 
-#include "gfpdb_action_model.h"
-#include "gfpdb_operation.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_operation.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

@@ -4,7 +4,7 @@
 
 #include "spi_bus.h"
 
-#include "gfpdb_part.h"
+#include "catalogue/gfpdb_part.h"
 
 #include <optional>
 #include <set>

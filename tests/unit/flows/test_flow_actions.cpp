@@ -1,9 +1,9 @@
 // The action model: labels, defaults, choices, checks, and what depends on what.
-#include "gfpdb_action_model.h"
-#include "gfpdb_action_rules.h"
-#include "gfpdb_operation.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_operation.h"
+#include "rules/gfpdb_action_rules.h"
 
-#include "gfpq_vocabulary.h"
+#include "words/gfpq_vocabulary.h"
 
 #include <QTest>
 

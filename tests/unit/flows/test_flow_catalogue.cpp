@@ -1,6 +1,6 @@
 // The catalogue of built-in parts and the reader of its file.
-#include "gfpdb_catalogue.h"
-#include "gfpdb_catalogue_csv.h"
+#include "catalogue/gfpdb_catalogue.h"
+#include "catalogue/gfpdb_catalogue_csv.h"
 
 #include "gfpdb/gfpdb_helper.h"
 

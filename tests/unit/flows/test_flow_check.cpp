@@ -1,7 +1,7 @@
 // What the check of a whole flow finds.
 #include "flow_making.h"
 
-#include "gfpdb_flow_check.h"
+#include "rules/gfpdb_flow_check.h"
 
 #include <QTest>
 

@@ -2,12 +2,12 @@
 #include "flow_executor.h"
 #include "spi_nor_chip.h"
 
-#include "gfpdb_action_model.h"
-#include "gfpdb_catalogue.h"
-#include "gfpdb_flow_builder.h"
-#include "gfpdb_flow_templates.h"
-#include "gfpdb_flow_traits.h"
-#include "gfpdb_operation.h"
+#include "catalogue/gfpdb_catalogue.h"
+#include "catalogue/gfpdb_flow_builder.h"
+#include "catalogue/gfpdb_flow_templates.h"
+#include "catalogue/gfpdb_flow_traits.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_operation.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

@@ -2,13 +2,13 @@
 //
 // expected_traits.txt has a line for every part, expected_flows.txt whole flows of one part of each kind; both were
 // written down from the facts that docs/flows.md gives, and are compared word for word.
-#include "gfpdb_action_model.h"
-#include "gfpdb_catalogue.h"
-#include "gfpdb_embedded_flash.h"
-#include "gfpdb_flow_builder.h"
-#include "gfpdb_flow_check.h"
-#include "gfpdb_flow_templates.h"
-#include "gfpdb_flow_traits.h"
+#include "catalogue/gfpdb_catalogue.h"
+#include "catalogue/gfpdb_flow_builder.h"
+#include "catalogue/gfpdb_flow_templates.h"
+#include "catalogue/gfpdb_flow_traits.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_embedded_flash.h"
+#include "rules/gfpdb_flow_check.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

@@ -5,9 +5,9 @@
 #include "recording_bus.h"
 #include "spi_nor_chip.h"
 
-#include "gfpdb_catalogue.h"
-#include "gfpdb_flow_builder.h"
-#include "gfpdb_flow_traits.h"
+#include "catalogue/gfpdb_catalogue.h"
+#include "catalogue/gfpdb_flow_builder.h"
+#include "catalogue/gfpdb_flow_traits.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 // How the values of actions are written.
-#include "gfpdb_action_value.h"
+#include "model/gfpdb_action_value.h"
 
 #include <rapidcheck.h>
 

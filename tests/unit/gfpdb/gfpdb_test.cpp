@@ -1,7 +1,7 @@
 #include "gfpdb_test.h"
 
+#include "base/gfpdb_text.h"
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_text.h"
 
 #include <QDir>
 #include <QFile>

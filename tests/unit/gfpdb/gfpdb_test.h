@@ -2,7 +2,7 @@
 #pragma once
 
 #include "gfpdb/gfpdb_mgr.h"
-#include "gfpdb_row.h"
+#include "model/gfpdb_row.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -1,7 +1,7 @@
 // Databases that cannot be used: what the user is told, what works all the same, and that nothing is overwritten.
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_embedded_mgr.h"
 #include "gfpdb_test.h"
+#include "manager/gfpdb_embedded_mgr.h"
 #include "message_recorder.h"
 
 #include <QDir>

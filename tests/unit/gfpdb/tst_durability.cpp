@@ -3,8 +3,8 @@
 // The program is its own helper: "work" and "fill" (see main) run as processes of their own. GFPDB_KILLS and
 // GFPDB_RECORDS set how often and how much, 200 and 1000 if not set.
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_embedded_mgr.h"
 #include "gfpdb_test.h"
+#include "manager/gfpdb_embedded_mgr.h"
 
 #include <QDir>
 #include <QFile>

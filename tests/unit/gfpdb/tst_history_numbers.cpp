@@ -1,6 +1,6 @@
 // The numbers by which users name states of the history: none stands for another state later.
-#include "gfpdb_store.h"
 #include "gfpdb_test.h"
+#include "store/gfpdb_store.h"
 
 #include <limits>
 

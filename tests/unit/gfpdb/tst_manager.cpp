@@ -1,6 +1,6 @@
 // The manager: what it answers for a family and scheme, and the built-in devices.
+#include "catalogue/gfpdb_flow_templates.h"
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_flow_templates.h"
 #include "manager_test.h"
 
 #include "dstr/dstr.h"

@@ -1,6 +1,6 @@
 // The manager: a device that is deleted and saved again at once, as the dialog's Apply does it.
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_embedded_mgr.h"
+#include "manager/gfpdb_embedded_mgr.h"
 #include "manager_test.h"
 #include "message_recorder.h"
 

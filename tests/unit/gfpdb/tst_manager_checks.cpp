@@ -1,5 +1,5 @@
 // The manager: which values of a device it accepts.
-#include "gfpdb_flow_templates.h"
+#include "catalogue/gfpdb_flow_templates.h"
 #include "manager_test.h"
 
 #include "dstr/dstr.h"

@@ -1,7 +1,7 @@
 // The manager: the voltages and densities that it offers beside the standard ones, those that are stored.
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_options.h"
 #include "manager_test.h"
+#include "rules/gfpdb_options.h"
 
 #include <QRegularExpression>
 #include <QSqlDatabase>

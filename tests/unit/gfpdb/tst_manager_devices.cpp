@@ -1,6 +1,6 @@
 // The manager: what becomes of the devices that are saved, replaced and deleted.
+#include "catalogue/gfpdb_flow_templates.h"
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_flow_templates.h"
 #include "manager_test.h"
 
 #include <functional>

@@ -1,5 +1,5 @@
 // The manager: stored templates, and bringing back what was replaced, deleted or removed.
-#include "gfpdb_flow_templates.h"
+#include "catalogue/gfpdb_flow_templates.h"
 #include "manager_test.h"
 
 class TST_MANAGER_TEMPLATES : public MANAGER_TEST

@@ -1,6 +1,6 @@
 // A host's own catalogue: its order, its voltages and densities, and parts that are not to be shown.
-#include "gfpdb_options.h"
 #include "gfpdb_test.h"
+#include "rules/gfpdb_options.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Reading whole files: which ones, how much of them, and what is said about the others.
-#include "gfpdb_read_file.h"
+#include "base/gfpdb_read_file.h"
 #include "gfpdb_test.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // Databases on a medium that cannot be written.
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_embedded_mgr.h"
 #include "gfpdb_test.h"
+#include "manager/gfpdb_embedded_mgr.h"
 
 #include <QDir>
 #include <QFile>

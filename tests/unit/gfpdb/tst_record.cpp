@@ -1,8 +1,8 @@
 // The record in memory: its properties, its operations and who owns them.
-#include "gfpdb_action_model.h"
-#include "gfpdb_embedded_flash.h"
-#include "gfpdb_operation.h"
 #include "gfpdb_test.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_embedded_flash.h"
+#include "model/gfpdb_operation.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // What is saved is what is read, byte for byte, for records and changes that no one thought of.
-#include "gfpdb_checks.h"
+#include "base/gfpdb_text.h"
 #include "gfpdb_test.h"
-#include "gfpdb_text.h"
+#include "rules/gfpdb_checks.h"
 
 #include <rapidcheck.h>
 

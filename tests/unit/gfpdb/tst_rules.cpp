@@ -1,10 +1,10 @@
 // The rules for values, the lists of choices, and what a configuration scheme has.
-#include "gfpdb_catalogue.h"
-#include "gfpdb_checks.h"
-#include "gfpdb_options.h"
-#include "gfpdb_scheme_kind.h"
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_catalogue.h"
 #include "gfpdb_test.h"
-#include "gfpdb_text.h"
+#include "rules/gfpdb_checks.h"
+#include "rules/gfpdb_options.h"
+#include "rules/gfpdb_scheme_kind.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // The settings file, and the custom database directory that it keeps.
+#include "base/gfpdb_settings.h"
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_custom_dir.h"
-#include "gfpdb_settings.h"
 #include "gfpdb_test.h"
+#include "manager/gfpdb_custom_dir.h"
 
 #include <QCoreApplication>
 #include <QDir>

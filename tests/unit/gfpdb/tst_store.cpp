@@ -1,7 +1,7 @@
 // The database file: its schema, its rows byte for byte, its history, and files that change under an open program.
-#include "gfpdb_store.h"
 #include "gfpdb_test.h"
 #include "message_recorder.h"
+#include "store/gfpdb_store.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,5 +1,5 @@
-#include "gfpdb_builtin_records.h"
-#include "gfpdb_flow_templates.h"
+#include "catalogue/gfpdb_builtin_records.h"
+#include "catalogue/gfpdb_flow_templates.h"
 
 #include "cli_command.h"
 #include "cli_test.h"

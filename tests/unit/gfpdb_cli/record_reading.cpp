@@ -1,4 +1,4 @@
-#include "gfpdb_json.h"
+#include "model/gfpdb_json.h"
 
 #include "record_csv.h"
 #include "record_reading.h"

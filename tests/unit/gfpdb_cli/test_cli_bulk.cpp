@@ -1,5 +1,5 @@
 // Saving many records at once, as an import does.
-#include "gfpdb_store.h"
+#include "store/gfpdb_store.h"
 
 // The constants of the tests have names that enumerators of the library have as well.
 #include "cli_test.h"

@@ -1,5 +1,5 @@
 // Lists of devices as CSV: what is written, what is read, and what is said about mistakes.
-#include "gfpdb_embedded_mgr.h"
+#include "manager/gfpdb_embedded_mgr.h"
 
 #include "record_csv.h"
 #include "record_reading.h"

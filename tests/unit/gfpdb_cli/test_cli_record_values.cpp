@@ -1,6 +1,6 @@
 // Which values of a record are wrong, missing or of no use, for each kind of configuration mode.
-#include "gfpdb_json.h"
-#include "gfpdb_text.h"
+#include "base/gfpdb_text.h"
+#include "model/gfpdb_json.h"
 
 #include "record_fields.h"
 #include "record_reading.h"

@@ -1,6 +1,6 @@
 // Records as JSON and as text: what is written, and that it is read again.
-#include "gfpdb_embedded_mgr.h"
-#include "gfpdb_json.h"
+#include "manager/gfpdb_embedded_mgr.h"
+#include "model/gfpdb_json.h"
 
 #include "record_reading.h"
 #include "record_text.h"

@@ -1,7 +1,7 @@
 // A database that someone else wrote, and texts that mean something to SQL or to the file system.
 #include "gfpdb/gfpdb_helper.h"
-#include "gfpdb_embedded_mgr.h"
 #include "gfpdb_test.h"
+#include "manager/gfpdb_embedded_mgr.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 // Who may write what the library makes: never everyone, whatever the user's mask.
-#include "gfpdb_create_dir.h"
-#include "gfpdb_settings.h"
+#include "base/gfpdb_create_dir.h"
+#include "base/gfpdb_settings.h"
 #include "gfpdb_test.h"
 
 #include <QDirIterator>

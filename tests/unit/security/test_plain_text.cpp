@@ -2,10 +2,10 @@
 #include "modal_driver.h"
 #include "soak_stand.h"
 
-#include "gfpq_dlg.h"
-#include "gfpq_flow_items.h"
-#include "gfpq_operation_tab_widget.h"
-#include "gfpq_warning.h"
+#include "dialog/gfpq_dlg.h"
+#include "flow/gfpq_flow_items.h"
+#include "flow/gfpq_operation_tab_widget.h"
+#include "words/gfpq_warning.h"
 
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"

@@ -1,0 +1,81 @@
+#include "base/gfpdb_read_file.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t BLOCK = std::size_t(64) << 10;
+constexpr std::size_t KIBIBYTE = 1024;
+
+std::nullopt_t fail(std::string& problem, const std::string& text)
+{
+    problem = text;
+    return std::nullopt;
+}
+
+// "it is larger than 16 MiB": the largest unit in which the number is whole.
+std::string too_large(std::size_t largest)
+{
+    constexpr std::array<const char*, 4> UNITS = {"bytes", "KiB", "MiB", "GiB"};
+    std::size_t unit = 0;
+    for (; unit + 1 < UNITS.size() && largest >= KIBIBYTE && largest % KIBIBYTE == 0; ++unit)
+        largest /= KIBIBYTE;
+    return "it is larger than " + std::to_string(largest) + ' ' + UNITS[unit];
+}
+
+// A caller's pipe may be one that does not wait.
+bool wait_for_input(int descriptor)
+{
+    struct pollfd input = {descriptor, POLLIN, 0};
+    return ::poll(&input, 1, -1) >= 0 || errno == EINTR;
+}
+
+} // namespace
+
+std::optional<std::string> gfpdb_read_file(const std::string& path, std::size_t largest, std::string& problem)
+{
+    // A pipe is opened at once and never read; a terminal does not become the program's own.
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        return fail(problem, std::strerror(errno));
+    struct stat status = {};
+    std::optional<std::string> bytes;
+    // What is open is looked at, not what the name stood for before.
+    if (::fstat(descriptor, &status) != 0)
+        problem = std::strerror(errno);
+    else if (!S_ISREG(status.st_mode))
+        problem = "it is not a regular file";
+    else if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) > largest)
+        problem = too_large(largest);
+    else
+        bytes = gfpdb_read_descriptor(descriptor, largest, problem);
+    ::close(descriptor);
+    return bytes;
+}
+
+std::optional<std::string> gfpdb_read_descriptor(int descriptor, std::size_t largest, std::string& problem)
+{
+    std::string bytes;
+    std::array<char, BLOCK> block;
+    for (;;) {
+        const ssize_t count = ::read(descriptor, block.data(), block.size());
+        if (count == 0)
+            return bytes;
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0 && errno == EAGAIN && wait_for_input(descriptor))
+            continue;
+        if (count < 0)
+            return fail(problem, std::strerror(errno));
+        bytes.append(block.data(), static_cast<std::size_t>(count));
+        if (bytes.size() > largest)
+            return fail(problem, too_large(largest));
+    }
+}

@@ -1,0 +1,589 @@
+#include "manager/gfpdb_embedded_mgr.h"
+
+#include "base/gfpdb_create_dir.h"
+#include "base/gfpdb_log.h"
+#include "base/gfpdb_text.h"
+#include "catalogue/gfpdb_builtin_records.h"
+#include "catalogue/gfpdb_flow_templates.h"
+#include "manager/gfpdb_custom_dir.h"
+#include "model/gfpdb_action_model.h"
+#include "model/gfpdb_operation.h"
+#include "rules/gfpdb_checks.h"
+#include "rules/gfpdb_options.h"
+
+#include "dstr/dstr.h"
+
+#include <algorithm>
+
+namespace {
+
+const std::string DEVICE_NAME = "device name";
+const std::string TEMPLATE_NAME = "template name";
+
+bool refuse(std::string& error, const std::string& text)
+{
+    error = text;
+    return false;
+}
+
+// A form that shows a stored value leaves it as it is when it is saved. A missing value is no choice.
+void add_missing(std::vector<std::string>& options, const std::set<std::string>& used)
+{
+    for (const std::string& value : used) {
+        if (!value.empty() && std::find(options.begin(), options.end(), value) == options.end())
+            options.push_back(value);
+    }
+}
+
+} // namespace
+
+GFPDB_EMBEDDED_MGR& GFPDB_EMBEDDED_MGR::instance()
+{
+    static auto& manager = *new GFPDB_EMBEDDED_MGR();
+    return manager;
+}
+
+GFPDB_EMBEDDED_MGR::GFPDB_EMBEDDED_MGR()
+{
+    reload();
+}
+
+GFPDB_EMBEDDED_MGR::~GFPDB_EMBEDDED_MGR() = default;
+
+void GFPDB_EMBEDDED_MGR::reload()
+{
+    m_deletion.reset();
+    const std::string directory = get_db_custom_dir();
+    if (directory == gfpdb_default_dir())
+        gfpdb_create_dir(directory);
+    m_other_store.reset();
+    if (!m_store || m_store->get_directory() != directory)
+        m_store = std::make_unique<GFPDB_STORE>(directory);
+    m_store->reload();
+}
+
+bool GFPDB_EMBEDDED_MGR::fail(const std::string& error)
+{
+    m_last_error = error;
+    qCWarning(GFPDB_LOG, "%s", error.c_str());
+    return false;
+}
+
+bool GFPDB_EMBEDDED_MGR::get_flow_variant() const
+{
+    return gfpdb_is_quad_scheme(m_scheme);
+}
+
+int GFPDB_EMBEDDED_MGR::get_device_family() const
+{
+    return m_family;
+}
+
+void GFPDB_EMBEDDED_MGR::set_device_family(int family)
+{
+    m_deletion.reset();
+    m_family = family;
+}
+
+int GFPDB_EMBEDDED_MGR::get_config_scheme() const
+{
+    return m_scheme;
+}
+
+void GFPDB_EMBEDDED_MGR::set_config_scheme(int scheme)
+{
+    m_deletion.reset();
+    m_scheme = scheme;
+}
+
+// The flows come along in any case: a record without them could not be told from one that has none.
+GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_flows)
+{
+    Q_UNUSED(load_flows)
+    m_deletion.reset();
+    m_last_error.clear();
+    GFPDB_FLASH* found = find_device(name);
+    if (found == nullptr && is_builtin_flash(name))
+        found = gfpdb_builtin_record(name);
+    if (found == nullptr)
+        found = find_template(name);
+    if (found != nullptr)
+        m_last_error.clear();
+    return found;
+}
+
+std::string GFPDB_EMBEDDED_MGR::device_place(const std::string& name) const
+{
+    return "device " + std::to_string(m_family) + ' ' + std::to_string(m_scheme) + ' ' + gfpdb_name_key(name);
+}
+
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
+{
+    const std::string place = device_place(name);
+    const std::string revision = m_store->get_device_revision(m_family, m_scheme, name);
+    GFPDB_EMBEDDED_FLASH* record = find_read(place, revision);
+    if (record == nullptr) {
+        const std::optional<GFPDB_ROW> row = m_store->find_device(m_family, m_scheme, name);
+        record = row ? keep_read(place, *row, false) : nothing_read();
+    }
+    if (record != nullptr)
+        m_store->note_used_values(gfpdb_schemes_of(kind()), record->get_string_property(GFPDB_FLASH_VOLTAGE),
+                                  record->get_density());
+    if (record != nullptr || m_last_error.empty())
+        m_unread.erase(m_store->get_directory() + place);
+    else
+        m_unread[m_store->get_directory() + place] = m_last_error;
+    return record;
+}
+
+// What a user has not seen is neither deleted nor replaced, unless it is gone. What is wrong with the whole database is
+// said first.
+bool GFPDB_EMBEDDED_MGR::check_seen(GFPDB_STORE& store, const std::string& name)
+{
+    const auto unread = m_unread.find(store.get_directory() + device_place(name));
+    if (unread == m_unread.end())
+        return true;
+    if (store.get_device_name(m_family, m_scheme, name).empty() && store.get_last_error().empty()) {
+        m_unread.erase(unread);
+        return true;
+    }
+    if (!store.can_be_changed())
+        return fail(store.get_last_error());
+    return fail("The device " + gfpdb_quoted(name) + " is neither deleted nor replaced, because it could not be read " +
+                "when it was last looked for: " + unread->second);
+}
+
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
+{
+    const std::string place = "template " + gfpdb_name_key(name);
+    if (GFPDB_EMBEDDED_FLASH* record = find_read(place, m_store->get_template_revision(name)))
+        return record;
+    const std::optional<GFPDB_ROW> row = m_store->find_template(name);
+    return row ? keep_read(place, *row, true) : nothing_read();
+}
+
+// The record that was read from `place` of the current database, if it is still what is stored there, and as much the
+// user's to change as it was.
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_read(const std::string& place, const std::string& revision) const
+{
+    const auto found = m_read_records.find(m_store->get_directory() + place);
+    if (found == m_read_records.end())
+        return nullptr;
+    GFPDB_EMBEDDED_FLASH* record = found->second;
+    const bool is_same = record->get_revision() == revision && record->is_unchanged();
+    return is_same && record->is_user_defined() != m_store->is_read_only() ? record : nullptr;
+}
+
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template)
+{
+    const std::string& directory = m_store->get_directory();
+    std::unique_ptr<GFPDB_EMBEDDED_FLASH> record = GFPDB_EMBEDDED_FLASH::from_row(row, directory, is_template);
+    if (!record) {
+        fail("The flows of " + gfpdb_quoted(row.name) + " in " + directory + " cannot be read.");
+        return nullptr;
+    }
+    // A form that would save it with every OK could not be accepted.
+    record->set_user_defined(!m_store->is_read_only());
+    record->set_unchanged();
+    m_records.push_back(std::move(record));
+    return m_read_records[directory + place] = m_records.back().get();
+}
+
+// Remembers why, if the database could not be read.
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::nothing_read()
+{
+    if (!m_store->get_last_error().empty())
+        m_last_error = m_store->get_last_error();
+    return nullptr;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_builtin_flash(const std::string& name) const
+{
+    return kind() == GFPDB_SCHEME_KIND::SERIAL && gfpdb_builtin_part(name) != nullptr;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_custom_flash(const std::string& name) const
+{
+    return !m_store->get_device_revision(m_family, m_scheme, name).empty();
+}
+
+std::string GFPDB_EMBEDDED_MGR::get_last_error() const
+{
+    return m_last_error;
+}
+
+// A custom device of the part's name is the user's own and never hidden. A mode without devices has nothing to show,
+// and nothing that an OK would have to save.
+bool GFPDB_EMBEDDED_MGR::is_hidden_flash(const std::string& name, bool flows) const
+{
+    if (!flows)
+        m_asked = GFPDB_ASKED_DEVICE{name, std::string()};
+    if (!flows && kind() == GFPDB_SCHEME_KIND::NONE)
+        return true;
+    const GFPDB_PART* part = is_builtin_flash(name) ? gfpdb_builtin_part(name) : nullptr;
+    const bool is_hidden = part != nullptr && (flows ? part->flows_hidden : part->properties_hidden);
+    return is_hidden && !is_custom_flash(name);
+}
+
+bool GFPDB_EMBEDDED_MGR::can_add_flash() const
+{
+    return kind() != GFPDB_SCHEME_KIND::NONE;
+}
+
+bool GFPDB_EMBEDDED_MGR::can_edit_flow() const
+{
+    return kind() == GFPDB_SCHEME_KIND::SERIAL;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_writable() const
+{
+    return m_store->is_writable();
+}
+
+bool GFPDB_EMBEDDED_MGR::check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const
+{
+    switch (property) {
+    case GFPDB_FLASH_TOTAL_DIE:
+        return gfpdb_check_range(value, GFPDB_TOTAL_DIE_MIN, GFPDB_TOTAL_DIE_MAX, "total die count", error);
+    case GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK:
+        return gfpdb_check_range(value, 0, GFPDB_SINGLE_IO_DUMMY_CLOCK_MAX, "number of single-I/O dummy clocks", error);
+    case GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK:
+        return gfpdb_check_range(value, 0, GFPDB_QUAD_IO_DUMMY_CLOCK_MAX, "number of quad-I/O dummy clocks", error);
+    default:
+        return refuse(error, "Property " + std::to_string(property) + " of a device is not a number.");
+    }
+}
+
+bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                               std::string& error) const
+{
+    std::vector<std::string> allowed;
+    switch (property) {
+    case GFPDB_FLASH_NAME:
+        return check_device_name(value, error);
+    case GFPDB_FLASH_DEVICE_ID:
+        return gfpdb_check_device_id(value, error);
+    case GFPDB_FLASH_VOLTAGE:
+        return gfpdb_check_choice(value, get_voltage_list(allowed), "I/O voltage", error);
+    case GFPDB_FLASH_DENSITY:
+        return gfpdb_check_choice(value, densities(), "density", error);
+    case GFPDB_FLASH_TEMPLATE_NAME:
+        return check_template_name(value, error);
+    case GFPDB_FLASH_FLOW_TEMPLATE:
+        return gfpdb_check_choice(value, get_template_list(allowed), "flow template", error);
+    default:
+        return refuse(error, "Property " + std::to_string(property) + " of a device is not a text.");
+    }
+}
+
+// What could not be read is not free.
+bool GFPDB_EMBEDDED_MGR::was_read(std::string& error) const
+{
+    return m_store->get_last_error().empty() || refuse(error, m_store->get_last_error());
+}
+
+bool GFPDB_EMBEDDED_MGR::check_device_name(const std::string& name, std::string& error) const
+{
+    m_asked.entered = name;
+    if (!gfpdb_check_name(name, DEVICE_NAME, error))
+        return false;
+    const std::string stored = m_store->get_device_name(m_family, m_scheme, name);
+    if (!was_read(error) || (stored.empty() && !gfpdb_check_record_name(name, DEVICE_NAME, error)))
+        return false;
+    if (!m_store->is_writable())
+        return refuse(error, m_store->get_problem());
+    const std::string in_the_way = m_store->get_template_name(name);
+    if (!was_read(error))
+        return false;
+    if (!in_the_way.empty())
+        return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
+                                 ": choose another name." + gfpdb_case_note(in_the_way, name));
+    return stored.empty() || check_stored_device_name(stored, name, error);
+}
+
+// The device that is shown may change the case of its name.
+bool GFPDB_EMBEDDED_MGR::check_stored_device_name(const std::string& stored, const std::string& name,
+                                                  std::string& error) const
+{
+    const bool is_shown = stored == m_asked.shown;
+    if (is_shown && stored != name)
+        return true;
+    const std::string device = "There is a device called " + gfpdb_quoted(stored);
+    if (is_shown)
+        return refuse(error, device + ": it is the one that is shown. Enter another name to rename it.");
+    return refuse(error, device + " for this family and configuration mode: choose another name." +
+                             gfpdb_case_note(stored, name));
+}
+
+bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::string& error) const
+{
+    if (!gfpdb_check_record_name(name, TEMPLATE_NAME, error))
+        return false;
+    if (!m_store->is_writable())
+        return refuse(error, m_store->get_problem());
+    const std::string in_the_way = m_store->get_template_name(name);
+    if (!was_read(error))
+        return false;
+    if (!in_the_way.empty())
+        return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
+                                 ": choose another name, or remove that template first." +
+                                 gfpdb_case_note(in_the_way, name));
+    // A dialog has words of its own for a template name that is the device's.
+    if (name == m_asked.name())
+        return true;
+    if (gfpdb_name_key(name) == gfpdb_name_key(m_asked.name()))
+        return refuse(error, "The template name " + gfpdb_quoted(name) + " differs from the device name " +
+                                 gfpdb_quoted(m_asked.name()) + " in case only: choose another name.");
+    const std::string device = m_store->get_any_device_name(name);
+    if (device.empty())
+        return was_read(error);
+    return refuse(error, "There is a device called " + gfpdb_quoted(device) + ": choose another name." +
+                             gfpdb_case_note(device, name));
+}
+
+// A device whose name a built-in part has got since can be saved; a new one cannot take such a name.
+bool GFPDB_EMBEDDED_MGR::check_saved_name(GFPDB_STORE& store, const std::string& name, const GFPDB_TAKEN* taken,
+                                          std::string& error) const
+{
+    if (gfpdb_builtin_part(name) == nullptr)
+        return gfpdb_check_record_name(name, DEVICE_NAME, error);
+    const bool is_taken = taken != nullptr && gfpdb_name_key(taken->name) == gfpdb_name_key(name);
+    const bool is_known = is_taken || !store.get_device_name(m_family, m_scheme, name).empty();
+    return is_known ? gfpdb_check_name(name, DEVICE_NAME, error) : gfpdb_check_record_name(name, DEVICE_NAME, error);
+}
+
+bool GFPDB_EMBEDDED_MGR::is_property_used(GFPDB_FLASH_PROPERTY property) const
+{
+    return gfpdb_kind_has_property(kind(), property);
+}
+
+bool GFPDB_EMBEDDED_MGR::verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
+                                                std::string& error) const
+{
+    if (property != GFPDB_FLASH_VOLTAGE || gfpdb_voltage_fits(value, m_family, m_scheme))
+        return true;
+    return refuse(error, "A flash with the I/O voltage " + gfpdb_quoted(value) + " cannot be connected to " +
+                             dstr_get_user_string(m_family) + " devices: it must work at 1.8 V.");
+}
+
+bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& directory)
+{
+    m_last_error.clear();
+    GFPDB_STORE& store = store_of(directory);
+    std::optional<GFPDB_DELETION> deletion;
+    deletion.swap(m_deletion);
+    if (deletion && deletion->directory != store.get_directory())
+        deletion.reset();
+    if (store_record(dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash), store, deletion ? &*deletion : nullptr))
+        return true;
+    if (deletion && deletion->taken)
+        put_back(store, *deletion->taken);
+    return false;
+}
+
+// The reason why the save failed stays the last error; that the device is not back is added to it.
+void GFPDB_EMBEDDED_MGR::put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken)
+{
+    if (!store.undo_removal(taken))
+        fail(m_last_error + " The device " + gfpdb_quoted(taken.name) +
+             " that was deleted before was not put back: " + store.get_last_error());
+}
+
+// A rename and a new device take a name that was free when it was checked: what has it by now is not replaced.
+bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_DELETION* deletion)
+{
+    std::string error;
+    const GFPDB_TAKEN* taken = deletion != nullptr && deletion->taken ? &*deletion->taken : nullptr;
+    if (record == nullptr)
+        return fail("There is no record to save.");
+    if (!can_add_flash())
+        return fail("The configuration mode has no flash devices.");
+    if (!check_saved_name(store, record->get_name(), taken, error))
+        return fail(error);
+    if (!check_seen(store, record->get_name()))
+        return false;
+    const std::string template_name = record->get_string_property(GFPDB_FLASH_TEMPLATE_NAME);
+    if (!template_name.empty() && !gfpdb_check_record_name(template_name, TEMPLATE_NAME, error))
+        return fail(error);
+    std::optional<GFPDB_ROW> row = record->to_row(m_family, m_scheme);
+    if (!row)
+        return fail("The device " + gfpdb_quoted(record->get_name()) + " has a text that is not UTF-8.");
+    row->revision = gfpdb_new_revision();
+    const bool is_new_name =
+        deletion != nullptr && gfpdb_name_key(deletion->name) != gfpdb_name_key(record->get_name());
+    const std::optional<std::string> revision = store.save_device(*row, taken, is_new_name);
+    if (!revision)
+        return fail(store.get_last_error());
+    row->revision = *revision;
+    record->set_db_dir(store.get_directory());
+    record->set_stored(*row);
+    return true;
+}
+
+GFPDB_STORE& GFPDB_EMBEDDED_MGR::store_of(const std::string& directory)
+{
+    const std::string normalised = directory.empty() ? m_store->get_directory() : gfpdb_normalised_dir(directory);
+    if (normalised == m_store->get_directory())
+        return *m_store;
+    if (!m_other_store || m_other_store->get_directory() != normalised)
+        m_other_store = std::make_unique<GFPDB_STORE>(normalised);
+    return *m_other_store;
+}
+
+bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string& directory)
+{
+    m_last_error.clear();
+    m_deletion.reset();
+    GFPDB_STORE& store = store_of(directory);
+    if (!check_seen(store, name))
+        return false;
+    GFPDB_DELETION deletion{store.get_directory(), name, std::nullopt};
+    if (!store.remove_device(m_family, m_scheme, name, &deletion.taken))
+        return fail(store.get_last_error());
+    m_deletion = deletion;
+    return true;
+}
+
+bool GFPDB_EMBEDDED_MGR::restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
+                                       const std::string& new_name)
+{
+    m_last_error.clear();
+    m_deletion.reset();
+    GFPDB_STORE& store = store_of(directory);
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = store.find_history(history_id);
+    std::string error;
+    if (entry && !check_restored_name(*entry, new_name, error))
+        return fail(error);
+    return store.restore(history_id, how, new_name) || fail(store.get_last_error());
+}
+
+// A record that had a built-in device's name before the catalogue did gets it back; a new name must be free of both.
+bool GFPDB_EMBEDDED_MGR::check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name,
+                                             std::string& error)
+{
+    const std::string& what = entry.is_template ? TEMPLATE_NAME : DEVICE_NAME;
+    const std::string& name = new_name.empty() ? entry.name() : new_name;
+    const bool is_old_name = gfpdb_name_key(name) == gfpdb_name_key(entry.name());
+    return is_old_name && gfpdb_builtin_part(name) != nullptr ? gfpdb_check_name(name, what, error)
+                                                              : gfpdb_check_record_name(name, what, error);
+}
+
+void GFPDB_EMBEDDED_MGR::get_family_list(std::vector<int>& families) const
+{
+    families = dstr_get_families();
+}
+
+std::vector<int>& GFPDB_EMBEDDED_MGR::get_config_scheme_list(std::vector<int>& schemes) const
+{
+    return schemes = dstr_get_config_schemes(m_family);
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_custom_flash_names(std::vector<std::string>& names, int family,
+                                                                     int scheme, int reserved) const
+{
+    Q_UNUSED(reserved)
+    return names = m_store->get_device_names(family, scheme);
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_builtin_flash_names(std::vector<std::string>& names, int family,
+                                                                      int scheme, int reserved) const
+{
+    Q_UNUSED(reserved)
+    names.clear();
+    if (gfpdb_scheme_kind(scheme) != GFPDB_SCHEME_KIND::SERIAL)
+        return names;
+    const std::vector<std::string>& keys = gfpdb_builtin_keys();
+    const std::vector<std::string> custom = m_store->find_device_keys(family, scheme, keys);
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (std::find(custom.begin(), custom.end(), keys[i]) == custom.end())
+            names.push_back(gfpdb_builtin_names()[i]);
+    }
+    return names;
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_voltage_list(std::vector<std::string>& voltages) const
+{
+    voltages = gfpdb_voltage_options(kind());
+    add_missing(voltages, m_store->get_used_values(gfpdb_schemes_of(kind())).voltages);
+    return voltages;
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_density_list(std::vector<std::string>& densities) const
+{
+    m_asked = GFPDB_ASKED_DEVICE();
+    return densities = this->densities();
+}
+
+std::vector<std::string> GFPDB_EMBEDDED_MGR::densities() const
+{
+    std::vector<std::string> densities = gfpdb_density_options(kind());
+    add_missing(densities, m_store->get_used_values(gfpdb_schemes_of(kind())).densities);
+    return densities;
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_template_list(std::vector<std::string>& templates) const
+{
+    templates = gfpdb_builtin_template_names();
+    const std::vector<std::string> stored = m_store->get_template_names();
+    templates.insert(templates.end(), stored.begin(), stored.end());
+    return templates;
+}
+
+std::vector<std::string>& GFPDB_EMBEDDED_MGR::get_user_template_list(std::vector<std::string>& templates) const
+{
+    return templates = m_store->get_template_names();
+}
+
+bool GFPDB_EMBEDDED_MGR::is_template(const std::string& name) const
+{
+    return gfpdb_builtin_template(name) >= 0 || !m_store->get_template_revision(name).empty();
+}
+
+// Only an empty name gives no record: what else is wrong with a name is said by save_flash(), which a user notices.
+GFPDB_FLASH* GFPDB_EMBEDDED_MGR::create_flash(const std::string& name)
+{
+    if (name.empty())
+        return nullptr;
+    m_records.push_back(std::make_unique<GFPDB_EMBEDDED_FLASH>(name));
+    return m_records.back().get();
+}
+
+GFPDB_ACTION* GFPDB_EMBEDDED_MGR::create_action(GFPDB_ACT_TYPE type)
+{
+    return gfpdb_make_action(type);
+}
+
+GFPDB_OPERATION* GFPDB_EMBEDDED_MGR::create_operation(int kind)
+{
+    return gfpdb_make_operation(kind);
+}
+
+const std::vector<GFPDB_OPERATION*>* GFPDB_EMBEDDED_MGR::get_builtin_template_operations(int index, bool flow_variant)
+{
+    return gfpdb_builtin_template_operations(index, flow_variant);
+}
+
+const std::vector<GFPDB_OPERATION*>* GFPDB_EMBEDDED_MGR::get_template_operations(const std::string& name,
+                                                                                 bool flow_variant)
+{
+    m_last_error.clear();
+    const int index = gfpdb_builtin_template(name);
+    if (index >= 0)
+        return gfpdb_builtin_template_operations(index, flow_variant);
+    const GFPDB_EMBEDDED_FLASH* record = find_template(name);
+    return record != nullptr ? record->get_operations(flow_variant) : nullptr;
+}
+
+bool GFPDB_EMBEDDED_MGR::is_flow_editable(const GFPDB_FLASH* flash) const
+{
+    return can_edit_flow() && (flash == nullptr || flash->is_user_defined());
+}
+
+bool GFPDB_EMBEDDED_MGR::remove_template(const std::string& name)
+{
+    m_last_error.clear();
+    m_deletion.reset();
+    if (gfpdb_builtin_template(name) >= 0)
+        return fail("The template " + gfpdb_quoted(name) + " is built in: it cannot be removed.");
+    return m_store->remove_template(name) || fail(m_store->get_last_error());
+}

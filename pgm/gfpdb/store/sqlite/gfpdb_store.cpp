@@ -1,0 +1,560 @@
+// The part of GFPDB_STORE that deals with the records. Saving and removing one device is in gfpdb_store_apply.cpp, the
+// file in gfpdb_store_file.cpp.
+//
+// Texts go in as CAST(? AS TEXT) and come out as CAST(... AS BLOB): bytes as they are, where a conversion to UTF-16 and
+// back would drop byte order marks and replace some characters.
+#include "store/gfpdb_store.h"
+
+#include "base/gfpdb_log.h"
+#include "base/gfpdb_text.h"
+#include "store/sqlite/gfpdb_store_sql.h"
+
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <algorithm>
+
+using namespace GFPDB_SQL;
+
+namespace {
+
+#define GFPDB_HISTORY_READ "SELECT id, is_template, reason, changed_at, changed_by, "
+// After the highest number that there can be, SQLite chooses one that is free.
+#define GFPDB_TO_HISTORY                                                                                               \
+    "INSERT INTO history (id, is_template, reason, changed_at, changed_by, " GFPDB_COLUMNS                             \
+    ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, " GFPDB_COLUMNS " "
+
+// The name of a record as it is stored.
+constexpr char DEVICE_NAME_OF_KEY[] =
+    "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+constexpr char ANY_DEVICE_NAME_OF_KEY[] = "SELECT CAST(name AS BLOB) FROM device WHERE name_key = CAST(? AS TEXT)";
+constexpr char TEMPLATE_NAME_OF_KEY[] =
+    "SELECT CAST(template_name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)";
+
+// So many question marks are asked for in one statement.
+constexpr std::size_t KEYS_AT_ONCE = 500;
+
+constexpr int HISTORY_COLUMNS = 5;
+constexpr int SCALAR_COLUMNS = 12;
+
+QVariant value_of(const std::optional<int>& number)
+{
+    return number ? QVariant(*number) : QVariant(QVariant::Int);
+}
+
+// What GFPDB_TO_HISTORY asks for.
+QVariantList history_values(bool is_template, const char* reason)
+{
+    return {is_template ? 1 : 0, QLatin1String(reason), now(), here()};
+}
+
+constexpr char A_DEVICE[] = "device";
+constexpr char A_TEMPLATE[] = "stored template";
+
+std::string in_the_way(const char* what, const std::string& stored, const std::string& name)
+{
+    return std::string("There is a ") + what + " called " + gfpdb_quoted(stored) + " already." +
+           gfpdb_case_note(stored, name);
+}
+
+// What GFPDB_VALUES asks for.
+QVariantList values_of(const GFPDB_ROW& row)
+{
+    return {row.family,
+            row.scheme,
+            bytes_of(row.name),
+            bytes_of(row.device_id),
+            bytes_of(row.voltage),
+            bytes_of(row.density),
+            value_of(row.total_die),
+            value_of(row.single_io_dummy_clock),
+            value_of(row.quad_io_dummy_clock),
+            bytes_of(row.template_name),
+            bytes_of(row.flow_template),
+            gfpdb_from_utf8(row.revision),
+            now(),
+            bytes_of(row.single_flows),
+            bytes_of(row.quad_flows)};
+}
+
+// As text_at(), on one line.
+std::string line_at(const QSqlQuery& query, int column)
+{
+    std::string line = text_at(query, column);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    return line;
+}
+
+std::optional<int> number_at(const QSqlQuery& query, int column)
+{
+    const QVariant value = query.value(column);
+    return value.isNull() ? std::nullopt : std::optional<int>(value.toInt());
+}
+
+// The columns of GFPDB_SCALARS_READ from `first` on.
+GFPDB_ROW scalars_at(const QSqlQuery& query, int first)
+{
+    GFPDB_ROW row;
+    row.family = query.value(first).toInt();
+    row.scheme = query.value(first + 1).toInt();
+    int column = first + 2;
+    for (std::string* text : {&row.name, &row.device_id, &row.voltage, &row.density})
+        *text = text_at(query, column++);
+    for (std::optional<int>* number : {&row.total_die, &row.single_io_dummy_clock, &row.quad_io_dummy_clock})
+        *number = number_at(query, column++);
+    for (std::string* text : {&row.template_name, &row.flow_template, &row.revision})
+        *text = text_at(query, column++);
+    return row;
+}
+
+// The columns of GFPDB_ALL_READ from `first` on.
+GFPDB_ROW row_at(const QSqlQuery& query, int first)
+{
+    GFPDB_ROW row = scalars_at(query, first);
+    row.single_flows = text_at(query, first + SCALAR_COLUMNS);
+    row.quad_flows = text_at(query, first + SCALAR_COLUMNS + 1);
+    return row;
+}
+
+// The columns of GFPDB_HISTORY_READ.
+GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
+{
+    GFPDB_HISTORY_ENTRY entry;
+    entry.id = query.value(0).toLongLong();
+    entry.is_template = query.value(1).toBool();
+    entry.reason = gfpdb_to_utf8(query.value(2).toString());
+    entry.changed_at = gfpdb_to_utf8(query.value(3).toString());
+    entry.changed_by = gfpdb_to_utf8(query.value(4).toString());
+    return entry;
+}
+
+} // namespace
+
+bool GFPDB_STORE::start_read(QSqlQuery& query, const char* statement, const QVariantList& values)
+{
+    return prepare_read() && (prepare(query, statement, values) || note_read_problem());
+}
+
+// The next row of `query`, which is run when it has no row yet; false at the end and, with the problem kept, on
+// failure.
+bool GFPDB_STORE::next_row(QSqlQuery& query)
+{
+    const bool is_run = query.isActive() || query.exec();
+    if (is_run && m_is_locked)
+        m_read_problem.clear();
+    if (is_run && query.next())
+        return true;
+    if (!query.lastError().isValid())
+        return false;
+    fail(query.lastError());
+    return note_read_problem();
+}
+
+// A lock is forgotten when a read succeeds again; damage stays known until the file is opened anew.
+bool GFPDB_STORE::note_read_problem()
+{
+    if (m_read_problem != m_last_error)
+        qCWarning(GFPDB_LOG, "%s", m_last_error.c_str());
+    m_read_problem = m_last_error;
+    return false;
+}
+
+std::vector<std::string> GFPDB_STORE::read_names(QSqlQuery& query)
+{
+    std::vector<std::string> names;
+    while (next_row(query))
+        names.push_back(text_at(query, 0));
+    return names;
+}
+
+std::vector<std::string> GFPDB_STORE::get_device_names(int family, int scheme)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? ORDER BY name_key",
+                    {family, scheme}))
+        return {};
+    return read_names(query);
+}
+
+std::vector<std::string> GFPDB_STORE::get_template_names()
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT CAST(template_name AS BLOB) FROM template ORDER BY template_key"))
+        return {};
+    return read_names(query);
+}
+
+// The rows are large, and a directory may have many of them: they are not read again for every list. A list that lacks
+// the value of a device would have a form show another one.
+GFPDB_USED_VALUES GFPDB_STORE::get_used_values(const std::vector<int>& schemes)
+{
+    const std::string foreign_changes = read_text("PRAGMA data_version", {});
+    KNOWN_VALUES& known = m_used_values[schemes];
+    if (!m_last_error.empty() || (!foreign_changes.empty() && foreign_changes == known.foreign_changes))
+        return known.values;
+    GFPDB_USED_VALUES values;
+    if (read_used_values(schemes, values) || m_last_error.empty())
+        known = {values, foreign_changes};
+    return known.values;
+}
+
+bool GFPDB_STORE::read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values)
+{
+    QStringList numbers;
+    for (const int scheme : schemes)
+        numbers << QString::number(scheme);
+    const QString select = QStringLiteral("SELECT CAST(voltage AS BLOB), CAST(density AS BLOB) FROM %1 "
+                                          "WHERE scheme IN (%2)");
+    const QString list = numbers.join(QLatin1Char(','));
+    const QString statement = select.arg(QStringLiteral("device"), list) + QLatin1String(" UNION ") +
+                              select.arg(QStringLiteral("template"), list);
+    QSqlQuery query;
+    if (!start_read(query, statement.toLatin1().constData()))
+        return false;
+    while (next_row(query)) {
+        values.voltages.insert(text_at(query, 0));
+        values.densities.insert(text_at(query, 1));
+    }
+    return !query.lastError().isValid();
+}
+
+// Other programs' changes are counted by SQLite; this program's own are not.
+void GFPDB_STORE::note_used_values(const GFPDB_ROW& row)
+{
+    for (const auto& known : m_used_values) {
+        if (std::find(known.first.begin(), known.first.end(), row.scheme) != known.first.end())
+            note_used_values(known.first, row.voltage, row.density);
+    }
+}
+
+void GFPDB_STORE::note_used_values(const std::vector<int>& schemes, const std::string& voltage,
+                                   const std::string& density)
+{
+    GFPDB_USED_VALUES& values = m_used_values[schemes].values;
+    values.voltages.insert(voltage);
+    values.densities.insert(density);
+}
+
+// They are offered until they can be read again.
+void GFPDB_STORE::forget_used_values()
+{
+    for (auto& known : m_used_values)
+        known.second.foreign_changes.clear();
+}
+
+std::string GFPDB_STORE::read_text(const char* statement, const QVariantList& values)
+{
+    QSqlQuery query;
+    return start_read(query, statement, values) && next_row(query) ? text_at(query, 0) : std::string();
+}
+
+std::string GFPDB_STORE::get_device_name(int family, int scheme, const std::string& name)
+{
+    return read_text(DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)});
+}
+
+std::string GFPDB_STORE::get_template_name(const std::string& template_name)
+{
+    return read_text(TEMPLATE_NAME_OF_KEY, {key_of(template_name)});
+}
+
+std::string GFPDB_STORE::get_any_device_name(const std::string& name)
+{
+    return read_text(ANY_DEVICE_NAME_OF_KEY, {key_of(name)});
+}
+
+std::vector<std::string> GFPDB_STORE::find_device_keys(int family, int scheme, const std::vector<std::string>& keys)
+{
+    std::vector<std::string> found;
+    for (std::size_t first = 0; first < keys.size(); first += KEYS_AT_ONCE) {
+        const std::size_t end = std::min(first + KEYS_AT_ONCE, keys.size());
+        std::string statement =
+            "SELECT CAST(name_key AS BLOB) FROM device WHERE family = ? AND scheme = ? AND name_key IN (";
+        QVariantList values = {family, scheme};
+        for (std::size_t i = first; i < end; ++i) {
+            statement += i == first ? "CAST(? AS TEXT)" : ", CAST(? AS TEXT)";
+            values << bytes_of(keys[i]);
+        }
+        QSqlQuery query;
+        if (!start_read(query, (statement + ')').c_str(), values))
+            return {};
+        const std::vector<std::string> part = read_names(query);
+        found.insert(found.end(), part.begin(), part.end());
+    }
+    return found;
+}
+
+std::optional<GFPDB_ROW> GFPDB_STORE::find_device(int family, int scheme, const std::string& name)
+{
+    QSqlQuery query;
+    if (!start_read(query,
+                    "SELECT " GFPDB_ALL_READ
+                    " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                    {family, scheme, key_of(name)}))
+        return std::nullopt;
+    return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+}
+
+std::optional<GFPDB_ROW> GFPDB_STORE::find_template(const std::string& template_name)
+{
+    QSqlQuery query;
+    if (!start_read(query, "SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)",
+                    {key_of(template_name)}))
+        return std::nullopt;
+    return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+}
+
+std::string GFPDB_STORE::get_device_revision(int family, int scheme, const std::string& name)
+{
+    return read_text("SELECT revision FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                     {family, scheme, key_of(name)});
+}
+
+std::string GFPDB_STORE::get_template_revision(const std::string& template_name)
+{
+    return read_text("SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(template_name)});
+}
+
+bool GFPDB_STORE::check_integrity()
+{
+    QSqlQuery query;
+    if (!start_read(query, "PRAGMA integrity_check"))
+        return m_last_error.empty();
+    return next_row(query) &&
+           (line_at(query, 0) == "ok" || fail("The database in " + m_directory + " is damaged: " + line_at(query, 0)));
+}
+
+bool GFPDB_STORE::has_device(const std::string& name)
+{
+    QSqlQuery query;
+    return start_read(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)", {key_of(name)}) &&
+           next_row(query);
+}
+
+bool GFPDB_STORE::remove_template(const std::string& template_name)
+{
+    if (!prepare_write())
+        return false;
+    return m_state == STATE::NO_FILE || change([&] { return drop_template(template_name, REASON_DELETED); });
+}
+
+std::vector<GFPDB_ROW> GFPDB_STORE::read_rows(const char* statement)
+{
+    std::vector<GFPDB_ROW> rows;
+    QSqlQuery query;
+    if (!start_read(query, statement))
+        return rows;
+    while (next_row(query))
+        rows.push_back(scalars_at(query, 0));
+    return rows;
+}
+
+std::vector<GFPDB_ROW> GFPDB_STORE::get_devices()
+{
+    return read_rows("SELECT " GFPDB_SCALARS_READ " FROM device ORDER BY family, scheme, name_key");
+}
+
+std::vector<GFPDB_ROW> GFPDB_STORE::get_templates()
+{
+    return read_rows("SELECT " GFPDB_SCALARS_READ " FROM template ORDER BY template_key");
+}
+
+// The devices first: then a name that is used twice within what is saved is found by the templates.
+bool GFPDB_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
+                           const std::function<void(int)>& progress)
+{
+    forget_used_values();
+    return prepare_write() && change([&] {
+               int done = 0;
+               for (const GFPDB_ROW& row : devices) {
+                   if (!replace_device(row))
+                       return false;
+                   progress(++done);
+               }
+               for (const GFPDB_ROW& row : templates) {
+                   if (!replace_template(row))
+                       return false;
+                   progress(++done);
+               }
+               return true;
+           });
+}
+
+bool GFPDB_STORE::replace_device(const GFPDB_ROW& row)
+{
+    return check_no_template(row.name) && drop_device(row.family, row.scheme, row.name, REASON_REPLACED) &&
+           insert_device(row);
+}
+
+bool GFPDB_STORE::replace_template(const GFPDB_ROW& row)
+{
+    return check_no_device(row.template_name) && drop_template(row.template_name, REASON_REPLACED) &&
+           insert_template(row);
+}
+
+std::vector<GFPDB_HISTORY_ENTRY> GFPDB_STORE::get_history()
+{
+    std::vector<GFPDB_HISTORY_ENTRY> entries;
+    QSqlQuery query;
+    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_SCALARS_READ " FROM history ORDER BY id"))
+        return entries;
+    while (next_row(query)) {
+        entries.push_back(history_at(query));
+        entries.back().row = scalars_at(query, HISTORY_COLUMNS);
+    }
+    return entries;
+}
+
+std::optional<GFPDB_HISTORY_ENTRY> GFPDB_STORE::find_history(std::int64_t id)
+{
+    QSqlQuery query;
+    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?",
+                    {static_cast<qlonglong>(id)}) ||
+        !next_row(query))
+        return std::nullopt;
+    GFPDB_HISTORY_ENTRY entry = history_at(query);
+    entry.row = row_at(query, HISTORY_COLUMNS);
+    return entry;
+}
+
+bool GFPDB_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name)
+{
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
+    if (!entry)
+        return m_last_error.empty() ? fail("There is no state " + std::to_string(id) + " in the history.") : false;
+    GFPDB_ROW row = entry->row;
+    row.revision = gfpdb_new_revision();
+    if (!new_name.empty())
+        (entry->is_template ? row.template_name : row.name) = new_name;
+    forget_used_values();
+    return prepare_write() && change([&] {
+               return check_different_names(row) &&
+                      (entry->is_template ? put_back_template(row, how) : put_back_device(row, how));
+           });
+}
+
+bool GFPDB_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
+{
+    if (!check_no_template(row.name))
+        return false;
+    if (how == GFPDB_RESTORE_REPLACE)
+        return drop_device(row.family, row.scheme, row.name, REASON_REPLACED) && insert_device(row);
+    return check_no_such_device(row.family, row.scheme, row.name) && insert_device(row);
+}
+
+bool GFPDB_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
+{
+    if (!check_no_device(row.template_name))
+        return false;
+    const bool is_free = how == GFPDB_RESTORE_REPLACE ? drop_template(row.template_name, REASON_REPLACED)
+                                                      : check_no_template(row.template_name);
+    return is_free && insert_template(row);
+}
+
+// Runs `query`; false, with the reason, when it finds the name of a record that `name` cannot be used beside.
+bool GFPDB_STORE::finds_none(QSqlQuery& query, const char* what, const std::string& name)
+{
+    if (next_row(query))
+        return fail(in_the_way(what, text_at(query, 0), name));
+    return !query.lastError().isValid();
+}
+
+// Runs a part of a change: unlike the public reads, it looks at the file that the transaction is on.
+bool GFPDB_STORE::look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row)
+{
+    QSqlQuery query;
+    if (!prepare(query, statement, values))
+        return false;
+    row = next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+    return !query.lastError().isValid();
+}
+
+// A template may be stored again by the device that it is a copy of.
+bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
+{
+    if (!check_no_template(row.name))
+        return false;
+    if (row.template_name.empty())
+        return true;
+    if (!check_different_names(row))
+        return false;
+    QSqlQuery query;
+    const bool is_found = prepare(query,
+                                  "SELECT CAST(name AS BLOB), CAST(template_name AS BLOB) FROM template "
+                                  "WHERE template_key = CAST(? AS TEXT)",
+                                  {key_of(row.template_name)}) &&
+                          next_row(query);
+    if (is_found && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
+        return fail(in_the_way(A_TEMPLATE, text_at(query, 1), row.template_name));
+    return !query.lastError().isValid() && check_no_device(row.template_name);
+}
+
+bool GFPDB_STORE::check_no_template(const std::string& name)
+{
+    QSqlQuery query;
+    return prepare(query, TEMPLATE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_TEMPLATE, name);
+}
+
+bool GFPDB_STORE::check_no_device(const std::string& name)
+{
+    QSqlQuery query;
+    return prepare(query, ANY_DEVICE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_DEVICE, name);
+}
+
+bool GFPDB_STORE::check_different_names(const GFPDB_ROW& row)
+{
+    return gfpdb_name_key(row.template_name) != gfpdb_name_key(row.name) ||
+           fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) + ".");
+}
+
+bool GFPDB_STORE::check_no_such_device(int family, int scheme, const std::string& name)
+{
+    QSqlQuery query;
+    return prepare(query, DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)}) && finds_none(query, A_DEVICE, name);
+}
+
+bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)
+{
+    QSqlQuery query;
+    return prepare(query, "INSERT INTO device (name_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")",
+                   QVariantList{key_of(row.name)} + values_of(row)) &&
+           run(query);
+}
+
+bool GFPDB_STORE::insert_template(const GFPDB_ROW& row)
+{
+    QSqlQuery query;
+    return prepare(query,
+                   "INSERT INTO template (template_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")",
+                   QVariantList{key_of(row.template_name)} + values_of(row)) &&
+           run(query);
+}
+
+// `history_id` (may be null) hears the number that the former state got, if there was one.
+bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason,
+                              std::int64_t* history_id)
+{
+    constexpr char TO_HISTORY[] = GFPDB_TO_HISTORY "FROM device WHERE family = ? AND scheme = ? AND "
+                                                   "name_key = CAST(? AS TEXT)";
+    constexpr char REMOVAL[] = "DELETE FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+    const QVariantList which = {family, scheme, key_of(name)};
+    QSqlQuery to_history;
+    QSqlQuery removal;
+    if (!prepare(to_history, TO_HISTORY, history_values(false, reason) + which) || !run(to_history))
+        return false;
+    if (history_id != nullptr && to_history.numRowsAffected() > 0)
+        *history_id = to_history.lastInsertId().toLongLong();
+    return prepare(removal, REMOVAL, which) && run(removal);
+}
+
+bool GFPDB_STORE::drop_template(const std::string& template_name, const char* reason)
+{
+    const QVariantList which = {key_of(template_name)};
+    QSqlQuery to_history;
+    QSqlQuery removal;
+    return prepare(to_history, GFPDB_TO_HISTORY "FROM template WHERE template_key = CAST(? AS TEXT)",
+                   history_values(true, reason) + which) &&
+           prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)", which) && run(to_history) &&
+           run(removal);
+}

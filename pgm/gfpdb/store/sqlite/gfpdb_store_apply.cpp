@@ -1,0 +1,139 @@
+// The part of GFPDB_STORE that deals with saving and removing one device, which belong together in one Apply: what a
+// removal takes is replaced by the save that follows, or put back.
+#include "base/gfpdb_text.h"
+#include "store/gfpdb_store.h"
+#include "store/sqlite/gfpdb_store_sql.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+using namespace GFPDB_SQL;
+
+std::optional<std::string> GFPDB_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, bool is_new_name)
+{
+    std::string revision;
+    const auto work = [&] {
+        return check_free_names(row) && (!is_new_name || check_no_such_device(row.family, row.scheme, row.name)) &&
+               save_over(row, taken, revision) && save_template(row);
+    };
+    if (!prepare_write() || !change(work))
+        return std::nullopt;
+    note_used_values(row);
+    return revision;
+}
+
+// What is stored already stays as it is: saving it again makes no other state. What this program has just taken counts
+// as stored, unless another program has stored something in its place meanwhile.
+bool GFPDB_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision)
+{
+    constexpr char DEVICE[] =
+        "SELECT " GFPDB_ALL_READ " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+    std::optional<GFPDB_ROW> former;
+    if (!look_up(DEVICE, {row.family, row.scheme, key_of(row.name)}, former))
+        return false;
+    const bool is_stored = former.has_value();
+    if (!is_stored && taken != nullptr && !find_taken(*taken, former))
+        return false;
+
+    const bool is_unchanged = former && gfpdb_is_same_state(*former, row);
+    revision = is_unchanged ? former->revision : row.revision;
+    if (is_unchanged && !is_stored)
+        return insert_taken(*taken) && forget_taken(*taken);
+    if (!is_unchanged && is_stored && !drop_device(row.family, row.scheme, row.name, REASON_REPLACED))
+        return false;
+    return (is_unchanged || insert_device(row)) && (taken == nullptr || mark_taken(*taken, REASON_REPLACED));
+}
+
+bool GFPDB_STORE::save_template(const GFPDB_ROW& row)
+{
+    if (row.template_name.empty())
+        return true;
+    std::optional<GFPDB_ROW> former;
+    if (!look_up("SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)",
+                 {key_of(row.template_name)}, former))
+        return false;
+    if (former && gfpdb_is_same_state(*former, row))
+        return true;
+    return (!former || drop_template(row.template_name, REASON_REPLACED)) && insert_template(row);
+}
+
+// Nothing is made just to remove something from it.
+bool GFPDB_STORE::remove_device(int family, int scheme, const std::string& name, std::optional<GFPDB_TAKEN>* taken)
+{
+    if (!prepare_write())
+        return false;
+    if (m_state == STATE::NO_FILE)
+        return true;
+    GFPDB_TAKEN removed{std::string(), 0, family, scheme, name, std::string()};
+    const auto work = [&] {
+        return drop_device(family, scheme, name, REASON_DELETED, &removed.history_id) && read_revision(removed);
+    };
+    if (!change(work))
+        return false;
+    removed.database_id = m_database_id;
+    if (taken != nullptr && removed.history_id != 0)
+        *taken = removed;
+    return true;
+}
+
+// The revision of what was just removed, if anything was.
+bool GFPDB_STORE::read_revision(GFPDB_TAKEN& taken)
+{
+    QSqlQuery query;
+    if (!prepare(query, "SELECT revision FROM history WHERE id = ?", {qlonglong(taken.history_id)}))
+        return false;
+    taken.revision = next_row(query) ? text_at(query, 0) : std::string();
+    return !query.lastError().isValid();
+}
+
+bool GFPDB_STORE::undo_removal(const GFPDB_TAKEN& taken)
+{
+    const auto work = [&] {
+        return check_no_template(taken.name) && check_no_such_device(taken.family, taken.scheme, taken.name) &&
+               insert_taken(taken) && mark_taken(taken, REASON_PUT_BACK);
+    };
+    const bool is_ready = prepare_write();
+    if (is_ready && (m_state != STATE::READ_WRITE || m_database_id != taken.database_id))
+        return fail("The database in " + m_directory + " is another one now.");
+    return (is_ready && change(work)) ||
+           fail(m_last_error + " It is state " + std::to_string(taken.history_id) + " of the history.");
+}
+
+// The taken record in the history, by its number and, should that have been given to another one, its revision.
+#define GFPDB_WHERE_TAKEN "WHERE id = ? AND revision = ? AND reason = 'deleted'"
+
+bool GFPDB_STORE::find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row)
+{
+    return look_up("SELECT " GFPDB_ALL_READ " FROM history " GFPDB_WHERE_TAKEN,
+                   {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}, row);
+}
+
+bool GFPDB_STORE::insert_taken(const GFPDB_TAKEN& taken)
+{
+    QSqlQuery query;
+    if (!prepare(query,
+                 "INSERT INTO device (name_key, " GFPDB_COLUMNS ") SELECT CAST(? AS TEXT), " GFPDB_COLUMNS
+                 " FROM history " GFPDB_WHERE_TAKEN,
+                 {key_of(taken.name), qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) ||
+        !run(query))
+        return false;
+    return query.numRowsAffected() == 1 || fail("It is not in the history any more.");
+}
+
+bool GFPDB_STORE::mark_taken(const GFPDB_TAKEN& taken, const char* reason)
+{
+    QSqlQuery query;
+    return prepare(
+               query, "UPDATE history SET reason = ?, changed_at = ?, changed_by = ? " GFPDB_WHERE_TAKEN,
+               {QLatin1String(reason), now(), here(), qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) &&
+           run(query);
+}
+
+bool GFPDB_STORE::forget_taken(const GFPDB_TAKEN& taken)
+{
+    QSqlQuery query;
+    return note_last_state() &&
+           prepare(query, "DELETE FROM history " GFPDB_WHERE_TAKEN,
+                   {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) &&
+           run(query);
+}

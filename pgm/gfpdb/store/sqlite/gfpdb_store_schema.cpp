@@ -1,0 +1,220 @@
+// The part of GFPDB_STORE that deals with the schema: what it must be, reading it, upgrading it. The file is in
+// gfpdb_store_file.cpp.
+//
+// A file that others can write is believed only as far as its schema is, word for word, one that this library makes:
+// then nothing runs but the library's own statements. A view in the place of a table could run for ever, a trigger
+// could remove what is being saved.
+#include "store/gfpdb_store.h"
+
+#include "base/gfpdb_text.h"
+
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <array>
+
+namespace {
+
+#define GFPDB_META_TABLE "CREATE TABLE meta (name TEXT NOT NULL PRIMARY KEY, value TEXT NOT NULL)"
+#define GFPDB_RECORD_COLUMNS                                                                                           \
+    "family INTEGER NOT NULL, scheme INTEGER NOT NULL, name TEXT NOT NULL, device_id TEXT NOT NULL, "                  \
+    "voltage TEXT NOT NULL, density TEXT NOT NULL, total_die INTEGER, single_io_dummy_clock INTEGER, "                 \
+    "quad_io_dummy_clock INTEGER, template_name TEXT NOT NULL, flow_template TEXT NOT NULL, revision TEXT NOT NULL, "  \
+    "saved_at TEXT NOT NULL, single_flows TEXT NOT NULL, quad_flows TEXT NOT NULL"
+
+// What leads from schema version N to N + 1; a new file takes all steps. A step is never changed once it was released.
+const std::vector<std::vector<const char*>> MIGRATIONS = {
+    {
+        GFPDB_META_TABLE,
+        "INSERT INTO meta (name, value) VALUES ('schema_version', '0')",
+        "CREATE TABLE device (name_key TEXT NOT NULL, " GFPDB_RECORD_COLUMNS
+        ", PRIMARY KEY (family, scheme, name_key))",
+        "CREATE TABLE template (template_key TEXT NOT NULL PRIMARY KEY, " GFPDB_RECORD_COLUMNS ")",
+        "CREATE TABLE history (id INTEGER NOT NULL PRIMARY KEY, is_template INTEGER NOT NULL, reason TEXT NOT NULL, "
+        "changed_at TEXT NOT NULL, " GFPDB_RECORD_COLUMNS ")",
+    },
+    {
+        // The list of 100,000 names comes from the index alone, without a look at the records.
+        "CREATE INDEX device_names ON device (family, scheme, name_key, name)",
+        "CREATE INDEX device_keys ON device (name_key)",
+        "CREATE INDEX template_names ON template (template_key, template_name)",
+        "ALTER TABLE history ADD COLUMN changed_by TEXT NOT NULL DEFAULT ''",
+    },
+};
+
+constexpr int SCHEMA_COLUMNS = 4;
+// One text for each table and index; each is a row that SCHEMA_STATEMENT gives.
+constexpr char SCHEMA_STATEMENT[] = "SELECT type, name, tbl_name, sql FROM sqlite_master ORDER BY type, name";
+
+QString schema_row(const std::array<QString, SCHEMA_COLUMNS>& columns)
+{
+    return QStringList(columns.begin(), columns.end()).join(QLatin1Char('\n'));
+}
+
+QStringList schema_rows(QSqlQuery& query)
+{
+    QStringList rows;
+    while (query.next())
+        rows << schema_row({query.value(0).toString(), query.value(1).toString(), query.value(2).toString(),
+                            query.value(3).toString()});
+    return rows;
+}
+
+// Makes a database of schema `version` in memory; its rows.
+QStringList make_schema(int version, const QString& connection_name)
+{
+    QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_name);
+    connection.setDatabaseName(QStringLiteral(":memory:"));
+    connection.open();
+    QSqlQuery query(connection);
+    for (int step = 0; step < version; ++step) {
+        for (const char* statement : MIGRATIONS[static_cast<std::size_t>(step)])
+            query.exec(QLatin1String(statement));
+    }
+    query.exec(QLatin1String(SCHEMA_STATEMENT));
+    return schema_rows(query);
+}
+
+// The rows of schema `version`, which must be one of ours.
+const QStringList& known_schema(int version)
+{
+    static std::array<QStringList, GFPDB_STORE::SCHEMA_VERSION + 1> schemas;
+    QStringList& rows = schemas[static_cast<std::size_t>(version)];
+    if (rows.isEmpty()) {
+        const QString connection_name = QStringLiteral("gfpdb schema");
+        rows = make_schema(version, connection_name);
+        QSqlDatabase::removeDatabase(connection_name);
+    }
+    return rows;
+}
+
+} // namespace
+
+std::optional<std::string> GFPDB_STORE::read_meta(const char* name)
+{
+    QSqlQuery query;
+    if (!prepare(query, "SELECT value FROM meta WHERE name = ?", {QLatin1String(name)}) || !run(query))
+        return std::nullopt;
+    return query.next() ? gfpdb_to_utf8(query.value(0).toString()) : std::string();
+}
+
+std::optional<QStringList> GFPDB_STORE::read_schema_rows()
+{
+    QSqlQuery query;
+    if (!prepare(query, SCHEMA_STATEMENT) || !run(query))
+        return std::nullopt;
+    const QStringList rows = schema_rows(query);
+    if (query.lastError().isValid()) {
+        fail(query.lastError());
+        return std::nullopt;
+    }
+    return rows;
+}
+
+// In one transaction, so that the size and the schema belong to the content.
+bool GFPDB_STORE::read_schema()
+{
+    return run("BEGIN") && check_schema() && check_encoding() && is_whole_file() && run("COMMIT");
+}
+
+// Texts are compared and cast as the bytes that they are: another encoding would cut them.
+bool GFPDB_STORE::check_encoding()
+{
+    QSqlQuery query;
+    if (!prepare(query, "PRAGMA encoding") || !run(query) || !query.next())
+        return fail(query.lastError());
+    const QString encoding = query.value(0).toString();
+    return encoding == QLatin1String("UTF-8") ||
+           fail("The database " + file_path() + " was altered by another program: its texts are " +
+                gfpdb_to_utf8(encoding) + ", not UTF-8. It is left as it is.");
+}
+
+// Nothing but the list of what is in the file is read before that list is known to be ours.
+bool GFPDB_STORE::check_schema()
+{
+    static const QString META_ROW = schema_row(
+        {QStringLiteral("table"), QStringLiteral("meta"), QStringLiteral("meta"), QStringLiteral(GFPDB_META_TABLE)});
+    const std::optional<QStringList> rows = read_schema_rows();
+    const std::optional<std::string> version =
+        rows && rows->contains(META_ROW) ? read_meta("schema_version") : std::string();
+    return rows && version && is_known_schema(*rows, QByteArray::fromStdString(*version).toInt()) && remember_schema();
+}
+
+bool GFPDB_STORE::is_known_schema(const QStringList& rows, int version)
+{
+    m_schema_version = version;
+    if (m_schema_version < 1)
+        return fail("The file " + file_path() + " is a database of another program. It is left as it is.");
+    if (m_schema_version > SCHEMA_VERSION)
+        return fail("The database " + file_path() + " was written by a newer program (its schema is " +
+                    std::to_string(m_schema_version) + ", this program knows up to " + std::to_string(SCHEMA_VERSION) +
+                    "). It is left as it is.");
+    if (rows != known_schema(m_schema_version))
+        return fail("The database " + file_path() + " was altered by another program: its tables are not those of " +
+                    "schema " + std::to_string(m_schema_version) + ". It is left as it is.");
+    m_database_id = read_meta("database_id").value_or(std::string());
+    return true;
+}
+
+// SQLite counts the changes of a schema.
+std::optional<int> GFPDB_STORE::read_schema_count()
+{
+    QSqlQuery query;
+    if (!prepare(query, "PRAGMA schema_version") || !run(query) || !query.next())
+        return std::nullopt;
+    return query.value(0).toInt();
+}
+
+bool GFPDB_STORE::remember_schema()
+{
+    m_schema_count = read_schema_count();
+    return m_schema_count.has_value();
+}
+
+// True in a transaction on the file as it was opened: the same database with the same schema.
+bool GFPDB_STORE::is_same_database()
+{
+    if (m_schema_count == read_schema_count())
+        return m_database_id == read_meta("database_id");
+    const std::string database_id = m_database_id;
+    return check_schema() && m_schema_version == SCHEMA_VERSION && m_database_id == database_id;
+}
+
+// The journal is kept, emptied and synced. SQLite does not sync the directory of a journal that it deletes, so that a
+// machine that loses power could find it again and roll back what was reported as saved.
+bool GFPDB_STORE::upgrade()
+{
+    if (!run("PRAGMA journal_mode = TRUNCATE"))
+        return false;
+    return m_schema_version == SCHEMA_VERSION || run_transaction([this] { return migrate(); });
+}
+
+// Reads the version again: another program may have upgraded the file meanwhile.
+bool GFPDB_STORE::migrate()
+{
+    const std::optional<std::string> text = read_meta("schema_version");
+    return text && run_steps(QByteArray::fromStdString(*text).toInt());
+}
+
+// From the schema `from` to the present one.
+bool GFPDB_STORE::run_steps(int from)
+{
+    for (int version = from; version < SCHEMA_VERSION; ++version) {
+        if (!run_step(version))
+            return false;
+    }
+    return true;
+}
+
+bool GFPDB_STORE::run_step(int from)
+{
+    for (const char* statement : MIGRATIONS[static_cast<std::size_t>(from)]) {
+        if (!run(statement))
+            return false;
+    }
+    QSqlQuery query;
+    return prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'", {QString::number(from + 1)}) &&
+           run(query);
+}

@@ -1,0 +1,186 @@
+// The part of GFPDB_STORE that keeps the history small and the keys right. The records are in gfpdb_store.cpp.
+#include "store/gfpdb_store.h"
+#include "store/sqlite/gfpdb_store_sql.h"
+
+#include "base/gfpdb_text.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <unordered_map>
+
+using namespace GFPDB_SQL;
+
+namespace {
+
+// No name may have this character, so no key begins with it.
+constexpr char PARKED_KEY = '\x01';
+
+// What the states of one record have in common.
+std::string record_of(const GFPDB_HISTORY_ENTRY& entry)
+{
+    const std::string place =
+        entry.is_template ? "template" : std::to_string(entry.row.family) + ' ' + std::to_string(entry.row.scheme);
+    return place + ' ' + gfpdb_name_key(entry.name());
+}
+
+} // namespace
+
+std::optional<int> GFPDB_STORE::prune_history(const GFPDB_PRUNING& pruning)
+{
+    std::vector<std::int64_t> ids;
+    if (!prepare_write())
+        return std::nullopt;
+    const bool is_done =
+        m_state == STATE::NO_FILE || change([&] { return find_prunable(pruning, ids) && remove_states(ids); });
+    return is_done ? std::optional<int>(static_cast<int>(ids.size())) : std::nullopt;
+}
+
+// From the newest state of each record on.
+bool GFPDB_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::int64_t>& ids)
+{
+    QSqlQuery query;
+    if (!prepare(query, "SELECT id, is_template, changed_at, family, scheme, CAST(name AS BLOB), "
+                        "CAST(template_name AS BLOB) FROM history ORDER BY id DESC"))
+        return false;
+    std::unordered_map<std::string, int> newer_states;
+    while (next_row(query)) {
+        GFPDB_HISTORY_ENTRY entry;
+        entry.id = query.value(0).toLongLong();
+        entry.is_template = query.value(1).toBool();
+        entry.changed_at = text_at(query, 2);
+        entry.row.family = query.value(3).toInt();
+        entry.row.scheme = query.value(4).toInt();
+        entry.row.name = text_at(query, 5);
+        entry.row.template_name = text_at(query, 6);
+        const int newer = newer_states[record_of(entry)]++;
+        const bool is_old = pruning.before.empty() || entry.changed_at < pruning.before;
+        if (newer < pruning.keep || !is_old || !pruning.is_selected(entry))
+            continue;
+        if (newer > 0 || pruning.last_of_deleted || is_stored(entry))
+            ids.push_back(entry.id);
+    }
+    return !query.lastError().isValid();
+}
+
+// True when the record of `entry` is there now; what cannot be read counts as gone, so that its last state is kept.
+bool GFPDB_STORE::is_stored(const GFPDB_HISTORY_ENTRY& entry)
+{
+    QSqlQuery query;
+    const bool is_prepared =
+        entry.is_template
+            ? prepare(query, "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(entry.name())})
+            : prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                      {entry.row.family, entry.row.scheme, key_of(entry.name())});
+    return is_prepared && next_row(query);
+}
+
+// Must be called before states are removed, in the same transaction.
+bool GFPDB_STORE::note_last_state()
+{
+    return run("INSERT OR REPLACE INTO meta (name, value) VALUES ('last_state', " GFPDB_LAST_STATE ")");
+}
+
+bool GFPDB_STORE::remove_states(const std::vector<std::int64_t>& ids)
+{
+    QSqlQuery query;
+    if (ids.empty())
+        return true;
+    if (!note_last_state() || !prepare(query, "DELETE FROM history WHERE id = ?"))
+        return false;
+    for (const std::int64_t id : ids) {
+        query.bindValue(0, static_cast<qlonglong>(id));
+        if (!run(query))
+            return false;
+    }
+    return true;
+}
+
+std::vector<GFPDB_MISPLACED> GFPDB_STORE::get_misplaced()
+{
+    std::vector<GFPDB_MISPLACED> misplaced;
+    if (prepare_read() && !read_misplaced(misplaced))
+        note_read_problem();
+    return misplaced;
+}
+
+bool GFPDB_STORE::read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced)
+{
+    QSqlQuery query;
+    if (!prepare(query, "SELECT 0 AS is_template, family, scheme, CAST(name AS BLOB), CAST(template_name AS BLOB), "
+                        "revision, rowid, CAST(name_key AS BLOB) FROM device UNION ALL "
+                        "SELECT 1, family, scheme, CAST(name AS BLOB), CAST(template_name AS BLOB), revision, rowid, "
+                        "CAST(template_key AS BLOB) FROM template ORDER BY is_template, rowid"))
+        return false;
+    while (next_row(query)) {
+        GFPDB_MISPLACED record;
+        record.is_template = query.value(0).toBool();
+        record.row.family = query.value(1).toInt();
+        record.row.scheme = query.value(2).toInt();
+        record.row.name = text_at(query, 3);
+        record.row.template_name = text_at(query, 4);
+        record.row.revision = text_at(query, 5);
+        record.row_id = query.value(6).toLongLong();
+        if (text_at(query, 7) != gfpdb_name_key(record.name()))
+            misplaced.push_back(record);
+    }
+    return !query.lastError().isValid();
+}
+
+// First out of each other's way: two records may have each other's key.
+std::optional<int> GFPDB_STORE::rebuild_keys()
+{
+    int placed = 0;
+    if (!prepare_write())
+        return std::nullopt;
+    const bool is_done = m_state == STATE::NO_FILE || change([&] {
+                             std::vector<GFPDB_MISPLACED> misplaced;
+                             if (!read_misplaced(misplaced))
+                                 return false;
+                             for (const GFPDB_MISPLACED& record : misplaced) {
+                                 if (!set_key(record, PARKED_KEY + std::to_string(record.row_id)))
+                                     return false;
+                             }
+                             for (const GFPDB_MISPLACED& record : misplaced) {
+                                 if (!place(record, placed))
+                                     return false;
+                             }
+                             return true;
+                         });
+    return is_done ? std::optional<int>(placed) : std::nullopt;
+}
+
+bool GFPDB_STORE::set_key(const GFPDB_MISPLACED& record, const std::string& key)
+{
+    QSqlQuery query;
+    return prepare(query,
+                   record.is_template ? "UPDATE template SET template_key = CAST(? AS TEXT) WHERE rowid = ?"
+                                      : "UPDATE device SET name_key = CAST(? AS TEXT) WHERE rowid = ?",
+                   {bytes_of(key), static_cast<qlonglong>(record.row_id)}) &&
+           run(query);
+}
+
+// Counts the record when its name is free for it.
+bool GFPDB_STORE::place(const GFPDB_MISPLACED& record, int& placed)
+{
+    const QByteArray key = key_of(record.name());
+    QSqlQuery query;
+    const bool is_prepared =
+        record.is_template
+            ? prepare(query,
+                      "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT) UNION ALL "
+                      "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)",
+                      {key, key})
+            : prepare(query,
+                      "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT) UNION ALL "
+                      "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT)",
+                      {record.row.family, record.row.scheme, key, key});
+    if (!is_prepared)
+        return false;
+    const bool is_taken = next_row(query);
+    query.finish();
+    if (is_taken)
+        return true;
+    ++placed;
+    return !query.lastError().isValid() && set_key(record, gfpdb_name_key(record.name()));
+}
