@@ -1,12 +1,17 @@
+# SPDX-License-Identifier: MIT
+#
 # Compiler settings that hold for every target of the project: warnings, instrumentation, the compiler cache.
 
 add_library(gfpq_compiler INTERFACE)
 
 target_compile_options(gfpq_compiler INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused)
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused -Wundef
+    -Wsuggest-override $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>)
 target_compile_definitions(gfpq_compiler INTERFACE
     QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_ASCII
-    QT_DEPRECATED_WARNINGS)
+    QT_DEPRECATED_WARNINGS
+    $<$<CONFIG:Debug>:QT_FORCE_ASSERTS>
+    $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
 if(GFPQ_WARNINGS_AS_ERRORS)
     target_compile_options(gfpq_compiler INTERFACE -Werror)
