@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Takes the documentation's pictures from the real programs, on a screen that nobody sees.
 # usage: shots.sh GFPQ_HOST IMAGE_DIRECTORY [PICTURE...]     (all pictures if none is named)
 #

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "drawer_flash.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The records of the example's flash database: plain values, nothing is checked or shared.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "drawer_mgr.h"
 
 #include "dstr/dstr.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager of the example's flash database: a drawer of devices that is emptied when the program ends. It knows one
 // built-in device, takes any new one, and has five templates without steps.
 #pragma once

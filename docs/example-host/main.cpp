@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host of the Configuration Device dialog: loads the module, opens the dialog on the program's own flash database,
 // and prints what the user chose.
 //

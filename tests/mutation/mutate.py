@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Alters the sources one place at a time and lists what no test notices.
 
 Each worker has a copy of the tree with a build of its own (compiler cache shared). For every alteration it rebuilds and
@@ -32,14 +33,14 @@ WORK = ROOT / "build" / "mutation"
 REPORT = WORK / "report.json"
 UNNOTICEABLE = ROOT / "tests" / "mutation" / "unnoticeable.txt"
 
-SOURCES = ["pgm/gfpq/*.cpp", "pgm/gfpq/*.h", "pgm/gfpq/*.ui", "pgm/gfpdb/embedded/*.cpp", "pgm/gfpdb/embedded/*.h"]
+SOURCES = ["pgm/gfpq/**/*.cpp", "pgm/gfpq/**/*.h", "pgm/gfpq/**/*.ui", "pgm/gfpdb/**/*.cpp", "pgm/gfpdb/**/*.h"]
 
 # Which tests to run first for a file: (pattern of the path, regular expression of ctest names). The first match counts.
 AFFECTED = [
-    (r"pgm/gfpq/gfpq_(flow|operation_tab|property)", r"^gui_flow"),
+    (r"pgm/gfpq/flow/", r"^gui_flow"),
     (r"pgm/gfpq/", r"^gui_dialog"),
-    (r"pgm/gfpdb/embedded/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_"),
-    (r"pgm/gfpdb/embedded/gfpdb_store", r"^unit_(gfpdb|durability)"),
+    (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_"),
+    (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)"),
     (r"pgm/gfpdb/", r"^unit_gfpdb"),
 ]
 QUICK_LABELS = "unit|gui|lost_work"
