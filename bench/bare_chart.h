@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The floor of drawing a chart: the item classes of the module with the same texts, each laid out once; nothing is
 // centred or kept.
 #pragma once

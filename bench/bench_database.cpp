@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialog and the flash database together, on a database of their own on the disk of the working directory.
 //
 // Floor: the bare SQL for the same rows with the same durability.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The device list of the dialog against a bare model, proxy and view of the same settings.
 //
 // The flash database is the tests' double, whose answers cost next to nothing; flows are off, so that a rebuild is the

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Side-by-side measurements: an operation of ours and its floor, run alternately in one process.
 //
 // Figures are ratios, because the machines differ and are noisy: each round runs the floor and the operation one after

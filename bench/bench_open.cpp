@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Opening the dialog, from the call to the first paint, on the full catalogue.
 //
 // Floor: the same form with the same list of names and the same five pages, each with a palette, a chart of the same

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+#
 # What is installed, and where. Everything finds everything else by the way from its own place, so that an installed tree
 # can be moved.
 #

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Static checks over the tree: formatting, clang-tidy, clazy, cppcheck, shell syntax, catalogues, documentation.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -59,6 +61,12 @@ white_space() {
     ! sources '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' '*.sh' '*.py' | xargs grep -nP '\t|[ \t]+$'
 }
 
+# Every source names its licence.
+licences() {
+    ! sources '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' '*.sh' '*.py' dev .ci/run |
+        xargs grep -L '^\(//\|#\) SPDX-License-Identifier: MIT$' | grep .
+}
+
 # What the pages of the documentation point at is there, and every picture is shown on one of them.
 documentation() {
     local page target picture failed=0
@@ -95,4 +103,5 @@ check "shell syntax" shell_syntax
 check "catalogues" catalogues
 check "documentation" documentation
 check "white space" white_space
+check "licences" licences
 exit "$failed"

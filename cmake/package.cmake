@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+#
 # The Debian packages: gfpq (the host, the module, the command line tool) and gfpq-dev (to build a host with).
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME gfpq)

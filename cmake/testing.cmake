@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 set(GFPQ_TEST_TIMEOUT 300 CACHE STRING "Seconds after which a test counts as hanging")
 
 # gfpq_add_test(NAME name LABEL unit|gui|e2e|fuzz|soak|faults SOURCES file... LIBRARIES target... [TIMEOUT seconds] [SERIAL])

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Makes a catalogue in which every text is half as long again, in letters that no source has.
 
 usage: pseudo.py CATALOGUE.ts RESULT.ts

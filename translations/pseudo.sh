@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Makes the pseudo catalogues of the module and the host as those of the English language in DIRECTORY: they are shown
 # where GFPQ_TRANSLATIONS names it and the language is English. They are not shipped.
 # usage: pseudo.sh DIRECTORY

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The texts of a program or module in the user's language.
 #pragma once
 

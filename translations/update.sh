@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Brings the catalogues up to date with the sources: new texts come in unfinished, texts that are gone go.
 # usage: update.sh [DIRECTORY]      (of the catalogues; this one if not given)
 set -euo pipefail

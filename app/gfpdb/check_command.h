@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Holds every record against the library's rules, and the database against SQLite's.
 #pragma once
 

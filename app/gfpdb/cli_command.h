@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A command of the tool.
 #pragma once
 

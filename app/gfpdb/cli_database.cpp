@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli_database.h"
 
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The database directory that a run of the tool works on, and what is built in.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli_find.h"
 
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Finds what a user means by a name or a number.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli_output.h"
 
 #include "base/gfpdb_text.h"

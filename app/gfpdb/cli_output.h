@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Where the tool's texts go.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli_program.h"
 
 #include "check_command.h"

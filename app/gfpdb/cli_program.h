@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The tool: finds the command, reads its options, runs it.
 #pragma once
 

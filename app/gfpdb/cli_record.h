@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the tool's commands pass to each other: records, and what is wrong with them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Compares two records, files or former states line by line.
 #pragma once
 

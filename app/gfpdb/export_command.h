@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Writes records to a file: JSON with both flow variants, or a list of devices as CSV.
 #pragma once
 

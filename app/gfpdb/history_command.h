@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Prints the former states of records that were replaced or deleted.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "import_command.h"
 
 #include "import_plan.h"

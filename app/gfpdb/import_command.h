@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reads records from files into the directory: all of them, or none.
 #pragma once
 

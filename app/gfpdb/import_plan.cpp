@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "import_plan.h"
 
 #include "base/gfpdb_text.h"

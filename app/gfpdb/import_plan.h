@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What an import will do: which records are new, replace others, or are there already; and what stands in the way.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // JSON with what record files need beyond Qt's: members keep their order, and every value knows its line.
 //
 // Texts are UTF-8 and come back byte for byte. Pure functions.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Which lines differ between two texts.
 #pragma once
 

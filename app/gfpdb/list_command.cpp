@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "list_command.h"
 
 #include "cli_find.h"

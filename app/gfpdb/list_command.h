@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Prints the devices and stored templates of a directory, and the built-in devices, one line each.
 #pragma once
 

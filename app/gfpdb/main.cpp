@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // gfpdb: the command line tool of the flash database.
 #include "cli_program.h"
 

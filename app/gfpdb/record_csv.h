@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Lists of devices as comma-separated values: all of a record but its flows. docs/gfpdb.md describes the columns.
 #pragma once
 

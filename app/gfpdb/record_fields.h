@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the members of a record are called in files: the keys of JSON, the columns of lists.
 #pragma once
 

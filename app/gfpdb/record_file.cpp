@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "record_file.h"
 
 #include "record_csv.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reads files of records: JSON, or lists of devices as CSV.
 #pragma once
 

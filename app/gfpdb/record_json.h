@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Records as JSON. docs/gfpdb.md describes the format.
 //
 // Keys stand in a fixed order, one value per line, so that two states of a record can be compared line by line. What is

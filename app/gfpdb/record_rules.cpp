@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "record_rules.h"
 
 #include "record_fields.h"

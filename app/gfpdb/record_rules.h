@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The rules for the values of a record, for import and check alike: those by which the dialog keeps a record that it
 // opens and saves, except that a voltage or density is not right just because a stored record has it. The rules for
 // flows are the library's (gfpdb_flow_check.h).

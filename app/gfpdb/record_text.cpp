@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "record_text.h"
 
 #include "cli_output.h"

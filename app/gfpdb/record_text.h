@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A record as text for people.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Makes a former state the current record again.
 #pragma once
 

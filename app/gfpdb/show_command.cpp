@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "show_command.h"
 
 #include "cli_find.h"

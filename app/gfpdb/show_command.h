@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Prints one record with its flows.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One opening of the dialog.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host_arguments.h"
 
 #include "gfpdb/gfpdb_enums.h"

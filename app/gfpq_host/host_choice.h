@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The user's choice of device: what goes into the dialog, comes out of it, and is remembered.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host_database.h"
 
 #include "dstr/dstr.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the host has to do with the flash database itself: its directory, and whether it can be used.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host_offer.h"
 
 #include "gfpdb/gfpdb_helper.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What can be chosen in the host, and which modes go together.
 #pragma once
 

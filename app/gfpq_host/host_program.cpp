@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host_program.h"
 
 #include "dialog_call.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The program: what it does with its arguments.
 #pragma once
 

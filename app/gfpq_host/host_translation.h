@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The language of the texts.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The main window: what is chosen, which database it comes from, and the way to the dialog.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The programmer host: a program that loads the dialog module and opens it.
 #include "host_arguments.h"
 #include "host_program.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "module_loader.h"
 
 #include "path_trust.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialog module, loaded at run time.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Pictures of the dialog's pages, taken from the real dialog while it is open.
 #pragma once
 

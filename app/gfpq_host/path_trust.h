@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Whose word a file is: who could put another one in its place.
 #pragma once
 

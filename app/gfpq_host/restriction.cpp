@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "restriction.h"
 
 #include "gfpdb/gfpdb_enums.h"

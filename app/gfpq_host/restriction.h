@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The text form of the map that restricts what the dialog offers.
 #pragma once
 

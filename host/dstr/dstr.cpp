@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dstr/dstr.h"
 
 #include "family_file.h"

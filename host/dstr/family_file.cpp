@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "family_file.h"
 
 #include "dstr/dev_family.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The families file: one device family a line.
 //
 // A line is "value,name,schemes" in UTF-8: the value is 1 to 72, the schemes are different values 0 to 25 separated by

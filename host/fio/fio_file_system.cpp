@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fio/fio_file_system.h"
 
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fio/fio_path.h"
 
 #include "fio/pgm_common.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fio/pgm_common.h"
 
 #include <algorithm>

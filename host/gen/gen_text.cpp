@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gen/gen_text.h"
 
 #include <algorithm>

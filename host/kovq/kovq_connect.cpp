@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kovq/kovq_connect.h"
 
 #include "msg/msg.h"

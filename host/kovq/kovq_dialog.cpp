@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kovq/kovq_dialog.h"
 
 #include <QGuiApplication>

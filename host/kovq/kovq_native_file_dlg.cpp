@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kovq/kovq_native_file_dlg.h"
 
 KOVQ_NATIVE_FILE_DLG::KOVQ_NATIVE_FILE_DLG(QWidget* parent) : m_dialog(std::make_unique<QFileDialog>(parent)) {}

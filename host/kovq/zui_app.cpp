@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kovq/zui_app.h"
 
 ZUI_APP::ZUI_APP(int& argc, char** argv) : QApplication(argc, argv) {}

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "msg/msg.h"
 
 #include <QApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The module's entry point.
 
 #include "gfpq_dyn_dlg.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The module's one entry point: the Configuration Device dialog.
 //
 // The module is loaded at run time and its function is looked up by name; caller and module must be built against the

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A user chooses family, mode and device, and the program that opened the dialog gets them.
 #include "e2e_test.h"
 

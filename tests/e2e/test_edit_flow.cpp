@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A user edits the erase flow of a new device with mouse and keys, and it is stored as it is drawn.
 #include "e2e_test.h"
 #include "flow_page.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The end of the line, where there is somebody to see it.
 #include "e2e_test.h"
 

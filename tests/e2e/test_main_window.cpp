@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The host's main window: the way to the dialog, and what it remembers.
 #include "e2e_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a user saves is there again after a restart, for the dialog and for every other program.
 #include "e2e_test.h"
 #include "flow_page.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialogs on the screen of a small laptop.
 #include "e2e_test.h"
 

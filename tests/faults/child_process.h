@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A piece of work in a process of its own, forked from this one.
 #pragma once
 

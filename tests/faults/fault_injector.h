@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // System calls that fail as they do on a full disk, a dying one or a share without locks.
 //
 // The library takes the place of the C library's functions: in a test program that is linked with it, and in any other

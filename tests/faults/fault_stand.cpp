@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fault_stand.h"
 
 #include "child_process.h"

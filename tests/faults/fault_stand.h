@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A change that is made again and again, each time with another system call that fails in it.
 #pragma once
 

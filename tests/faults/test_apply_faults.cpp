@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What Apply does to the database, with system calls that fail in it.
 #include "fault_stand.h"
 #include "gfpdb/gfpdb_helper.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // An import with the command line tool, with system calls that fail in it.
 #include "cli_program.h"
 #include "cli_test.h"

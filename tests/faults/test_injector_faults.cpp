@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The injector itself: what it lets fail, and what it leaves alone.
 #include "cli_test.h"
 #include "fault_injector.h"

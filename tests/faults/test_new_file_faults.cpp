@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A new database file in a directory that others may write, who exchange its name while it is made.
 #include "fault_injector.h"
 #include "gfpdb_test.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A change of the settings in which system calls fail.
 #include "child_process.h"
 #include "fault_stand.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The checks and setters of action properties, and the way of an action's values through the database's JSON.
 //
 // Input: a byte for the type of the action; then, again and again, a byte for a property and a text.

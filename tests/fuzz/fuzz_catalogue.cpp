@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The catalogue of built-in parts, and the flows that are made from whatever a row says.
 //
 // Input: the content of the file.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The database file.
 //
 // Input: the content of the file.

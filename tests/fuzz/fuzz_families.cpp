@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The families file.
 //
 // Input: the content of the file.

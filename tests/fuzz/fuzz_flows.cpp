@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The JSON that the database keeps flows in.
 //
 // Input: the text.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Imports as a user makes them: two files at once, JSON and lists mixed, into a directory that has records already.
 //
 // Input: a byte for the kinds of the two files and the options, a byte for the length of the first file in sixteenths

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Records of a sound database file with whatever content: another program's texts, numbers, nothing at all.
 //
 // Input: for each record a byte for the table, then for each of its columns a byte for the kind of the value and the

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Files of records that the command line tool imports: JSON, and lists of devices as CSV.
 //
 // Input: a byte for the format and the rules, then the content of the file.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the fuzz targets share: taking an input apart, and saying what must hold.
 //
 // A fuzz target is one source file with LLVMFuzzerTestOneInput(). Built for fuzzing it is a libFuzzer program;

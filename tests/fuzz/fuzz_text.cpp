@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What reads a single text: device IDs, numbers, addresses, densities, names, directories.
 //
 // Input: the text.

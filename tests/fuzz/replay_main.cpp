@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Runs every input of a corpus once through a fuzz target, where there is no libFuzzer: one directory is the argument.
 #include "fuzz_target.h"
 

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Builds the fuzz targets and runs each of them for SECONDS (60 if not given), one after the other:
 #
 #   tests/fuzz/run.sh [SECONDS [TARGET...]]

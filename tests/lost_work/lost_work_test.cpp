@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lost_work_test.h"
 
 #include "gfpdb/gfpdb_action.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Base of the tests of what a user could lose: the real dialog on the real flash database.
 //
 //     class TEST_FILTER : public LOST_WORK_TEST { Q_OBJECT private slots: void ...(); };

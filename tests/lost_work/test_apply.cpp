@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What Apply, OK and Delete do to the records of the real database: nothing that the user did not mean.
 #include "lost_work_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The form and the current row are one: whatever happens to the table, its current row is the device that the form
 // shows, or there is none; and a filter takes no device away from the form.
 #include "lost_work_test.h"

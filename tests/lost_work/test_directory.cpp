@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A directory that was typed is never half taken over: the form saves into the directory that the edit shows.
 #include "lost_work_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Works a host's windows from inside, where there is neither a display nor a test program: Qt loads this plugin into an
 // unchanged program when QT_QPA_GENERIC_PLUGINS names it.
 //

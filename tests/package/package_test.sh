@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+#
 # What the package tests share: source it. Each test works in a directory of its own and stops at the first thing that
 # is not as it should be.
 set -euo pipefail

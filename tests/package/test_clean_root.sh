@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Installs the Debian package into a system that has nothing else, and runs it there.
 # usage: test_clean_root.sh BUILD_DIRECTORY WORK_DIRECTORY VERSION CACHE_DIRECTORY
 #

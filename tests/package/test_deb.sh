@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Builds the Debian packages and looks into them.
 # usage: test_deb.sh BUILD_DIRECTORY WORK_DIRECTORY VERSION
 source "$(dirname "$0")/package_test.sh"

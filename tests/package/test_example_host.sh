@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Builds the example host of the documentation against an installed tree, as a stranger would, and runs it.
 # usage: test_example_host.sh BUILD_DIRECTORY SOURCE_DIRECTORY WORK_DIRECTORY PLUGIN_PATH
 source "$(dirname "$0")/package_test.sh"

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # Installs into a clean prefix, moves that, and runs what is there.
 # usage: test_install.sh BUILD_DIRECTORY WORK_DIRECTORY PLUGIN_PATH
 source "$(dirname "$0")/package_test.sh"

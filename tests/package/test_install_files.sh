@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
 # After `./dev run`, which builds a few targets only, `cmake --install` finds every file of the build tree that it
 # installs: each is made by those targets, or is there since the build tree was configured.
 #

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "database_watch.h"
 
 #include <QFile>

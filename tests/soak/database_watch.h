@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Watches a database from outside: nothing that was ever stored is lost.
 #pragma once
 

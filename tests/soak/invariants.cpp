@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "invariants.h"
 
 #include "dialog/gfpq_dlg.h"

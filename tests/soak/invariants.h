@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What holds of the dialog whatever a user does. Each function returns what is wrong, an empty text when nothing is.
 #pragma once
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """The command line tool under hard use, with figures: imports that are killed, writers beside readers, round trips.
 
     tests/soak/long_run.py build/release/bin/gfpdb [--kills 500] [--writers 2 8] [--trips 50]

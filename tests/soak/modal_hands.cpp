@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "modal_hands.h"
 
 #include <QAbstractButton>

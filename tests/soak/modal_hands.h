@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Deals with whatever opens over the dialog: message boxes, menus, the template editor, the folder dialog.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "monkey.h"
 
 #include "invariants.h"

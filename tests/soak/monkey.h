@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Uses the dialog at random, as hands at mouse and keyboard would.
 #pragma once
 

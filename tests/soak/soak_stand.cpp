@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "soak_stand.h"
 
 #include "gfpdb/gfpdb_mgr.h"

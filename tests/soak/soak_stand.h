@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The world of a soak test: an environment of its own with two database directories, and an ear for what is printed.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A monkey uses the dialog: nothing breaks, nothing that was stored is lost, and what is shown is what is there.
 #include "database_watch.h"
 #include "invariants.h"

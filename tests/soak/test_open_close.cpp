@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Opening and closing the dialog again and again keeps memory flat.
 #include "soak_stand.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "call_log.h"
 
 CALL_LOG& CALL_LOG::instance()

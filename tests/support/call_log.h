@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One ordered record of what the code under test asked of its surroundings.
 //
 // All doubles (flash database, messages, file dialog) write into the same log, so a test sees the order across them. A

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Another encoding of local 8-bit texts than the UTF-8 that tests run in.
 #pragma once
 

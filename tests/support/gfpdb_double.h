@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The flash database as tests see it: every call is recorded, every answer can be set.
 //
 // Linked instead of the real library. The world holds the managers and the settings; GFPDB_WORLD::instance().reset()

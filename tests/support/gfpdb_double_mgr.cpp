@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The recording manager, its statics and the helper.
 #include "gfpdb_double.h"
 

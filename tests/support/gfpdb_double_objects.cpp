@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The recording actions, operations and records.
 #include "gfpdb_double.h"
 

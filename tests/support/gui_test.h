@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Base of every widget test: a fresh world before each test function, and a look round after it.
 //
 //     class TEST_DEVICE_LIST : public GUI_TEST { Q_OBJECT private slots: void ...(); };

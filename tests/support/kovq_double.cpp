@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "kovq_double.h"
 
 #include <QDir>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The host's folder dialog as tests see it: every call is recorded, the user's answer is set beforehand.
 //
 // In the log it is "file_dlg". The rest of the dialog framework is the real one.

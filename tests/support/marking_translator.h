@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A translator that puts every text of one context in brackets, and leaves all others as they are.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Every message that Qt's logging sees while one of these lives.
 #pragma once
 

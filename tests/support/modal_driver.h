@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Meets the modal boxes, dialogs and menus that the code under test opens.
 //
 // A modal window runs an event loop of its own, so the test says beforehand what is to be done with the next one:

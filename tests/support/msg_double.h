@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The message library as tests see it: messages are recorded instead of shown, an internal error is thrown.
 //
 // In the log a message is "MSG_O": its construction, fill_args, set_id, prompt and destruction.

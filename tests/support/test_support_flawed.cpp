@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A test program in which every function ends with something that the base class must notice: no function may pass.
 #include "gui_test.h"
 

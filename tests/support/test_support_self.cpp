@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The test support itself: what it promises to notice, it notices.
 #include "gui_test.h"
 

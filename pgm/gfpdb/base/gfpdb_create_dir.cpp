@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/gfpdb_create_dir.h"
 
 #include <sys/stat.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Makes directories.
 #pragma once
 

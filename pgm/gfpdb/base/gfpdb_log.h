@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The log category of the flash database library.
 #pragma once
 

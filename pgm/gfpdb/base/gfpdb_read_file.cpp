@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/gfpdb_read_file.h"
 
 #include <array>

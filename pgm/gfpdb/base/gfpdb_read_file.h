@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reads whole files that others may have put in their places: nothing is waited for and nothing is read for ever.
 //
 // Throws nothing. Safe from every thread.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The library's settings file.
 //
 // An INI file: lines "key=value" under "[database]". It is the file named by the environment variable GFPDB_SETTINGS if

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "base/gfpdb_text.h"
 
 #include "base/gfpdb_log.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Texts of the flash database: UTF-8 in byte strings, and what is said about them.
 //
 // Pure functions, safe from every thread.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "catalogue/gfpdb_builtin_records.h"
 
 #include "base/gfpdb_text.h"

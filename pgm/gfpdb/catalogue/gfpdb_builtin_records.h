@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The records of the built-in parts.
 //
 // Made from the catalogue at first use, each once; valid until the process ends. Names are compared without regard to

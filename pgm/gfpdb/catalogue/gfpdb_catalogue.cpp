@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "catalogue/gfpdb_catalogue.h"
 
 #include "base/gfpdb_log.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The catalogue of built-in parts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "catalogue/gfpdb_catalogue_csv.h"
 
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reads catalogues of parts: comma-separated values with a line of column names.
 //
 // Pure functions. Texts are UTF-8; a byte order mark at the start, quoted cells with commas, quotes (doubled) and line

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "catalogue/gfpdb_flow_builder.h"
 
 #include "model/gfpdb_action_model.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Builds the five operations of a flow from the traits of a part.
 #pragma once
 

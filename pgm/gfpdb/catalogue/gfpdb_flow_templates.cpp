@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "catalogue/gfpdb_flow_templates.h"
 
 #include "catalogue/gfpdb_flow_builder.h"

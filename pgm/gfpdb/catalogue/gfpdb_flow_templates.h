@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The five built-in flow templates, and the flows of built-in parts.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the flows of a part are made from: the commands, sizes, clocks and registers that its row and its maker's habits
 // come to.
 //

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One built-in part of the catalogue, as its data row says.
 #pragma once
 

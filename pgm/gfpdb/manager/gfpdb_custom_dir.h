@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Where the user's database lies.
 //
 // Directories are in the local 8-bit encoding, byte for byte as the file system has them. GUI thread only.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "manager/gfpdb_embedded_mgr.h"
 
 #include "base/gfpdb_create_dir.h"

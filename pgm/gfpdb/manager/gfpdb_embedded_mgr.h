@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The flash database manager of the embedded library.
 #pragma once
 

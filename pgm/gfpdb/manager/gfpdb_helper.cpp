@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_helper.h"
 
 #include "catalogue/gfpdb_catalogue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/gfpdb_action_model.h"
 
 #include "model/gfpdb_action_value.h"

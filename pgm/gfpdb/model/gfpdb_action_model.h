@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The library's actions: one value text for each property of the type, in one allocation; the list of properties is
 // shared by all actions of a type.
 #pragma once

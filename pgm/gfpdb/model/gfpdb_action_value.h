@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The value texts of action properties: how they are written, and the numbers that they stand for.
 //
 // docs/flows.md gives the grammar. Pure functions, safe from every thread; texts are UTF-8.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/gfpdb_embedded_flash.h"
 
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Flows of a record as text, for the database: JSON that people and other programs can read.
 //
 //   {"operations":[{"kind":0,"actions":[{"type":0,"values":{"0":"Write Enable","1":"0x06"}}]}]}

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/gfpdb_operation.h"
 
 #include "gfpdb/gfpdb_enums.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The library's operations.
 #pragma once
 

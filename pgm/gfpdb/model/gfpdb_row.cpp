@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/gfpdb_row.h"
 
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the flash database stores of one record.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rules/gfpdb_action_rules.h"
 
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The rules of the forty action properties: label, default value, choices and what a value may be.
 //
 // docs/flows.md gives the grammar of the values. Pure functions; texts are UTF-8.

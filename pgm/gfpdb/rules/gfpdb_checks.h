@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The rules for the values of a device that can be told from the value alone.
 //
 // Each check returns false and puts a text for the user into `error` that says what is wrong and what is allowed; it

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rules/gfpdb_flow_check.h"
 
 #include "model/gfpdb_action_value.h"

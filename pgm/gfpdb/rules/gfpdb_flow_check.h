@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Checks a whole flow: the values of its actions, and how the actions go together.
 #pragma once
 

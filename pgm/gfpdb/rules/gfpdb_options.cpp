@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rules/gfpdb_options.h"
 
 #include "catalogue/gfpdb_catalogue.h"

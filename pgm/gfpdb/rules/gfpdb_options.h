@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The choices that the flash database offers for the I/O voltage and the density of a device.
 //
 // GUI thread only (the catalogue of built-in parts is read at the first call).

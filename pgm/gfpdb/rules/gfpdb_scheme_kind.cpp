@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "rules/gfpdb_scheme_kind.h"
 
 GFPDB_SCHEME_KIND gfpdb_scheme_kind(int scheme)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Which flash goes with a configuration scheme.
 //
 // Pure functions.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // All SQL of the flash database: one SQLite file in one database directory.
 //
 // Every public change is one transaction: it happened whole, or not at all, also when the process is killed in between;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/gfpq_connection_cut.h"
 
 #include "kovq/kovq_connect.h"

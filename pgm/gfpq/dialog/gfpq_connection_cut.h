@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Connections that are cut while the program itself changes what the user usually changes.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Construction of the dialog, how it closes, and what holds its parts together.
 
 #include "dialog/gfpq_dlg.h"

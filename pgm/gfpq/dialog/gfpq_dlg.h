@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The Configuration Device dialog.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Apply, what OK shares with it, and Delete.
 
 #include "dialog/gfpq_dlg.h"

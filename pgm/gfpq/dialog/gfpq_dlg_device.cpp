@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Showing the selected device: its fields, what may be edited, and its flows.
 
 #include "dialog/gfpq_dlg.h"

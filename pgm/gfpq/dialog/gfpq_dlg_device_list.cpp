@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The list of devices, its filter, and which of its rows is the current one.
 
 #include "dialog/gfpq_dlg.h"

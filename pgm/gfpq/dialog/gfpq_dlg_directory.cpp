@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The directory of the user's flash database.
 
 #include "dialog/gfpq_dlg.h"

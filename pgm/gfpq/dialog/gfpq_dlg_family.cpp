@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Device family and configuration mode.
 
 #include "dialog/gfpq_dlg.h"

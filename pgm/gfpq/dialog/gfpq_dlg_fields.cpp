@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The device fields: which of them the form has, and the check that each runs when its value is committed.
 
 #include "dialog/gfpq_dlg.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the sources of GFPQ_DLG share and nobody else needs.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Flow templates: what the template combo stands for, "Save as template", and the template editor.
 
 #include "dialog/gfpq_dlg.h"

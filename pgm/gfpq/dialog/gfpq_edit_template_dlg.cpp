@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/gfpq_edit_template_dlg.h"
 
 #include "dialog/gfpq_form.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The template editor: lists the stored flow templates and removes them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/gfpq_form.h"
 
 #include <QString>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Building a dialog's Designer form.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialog/gfpq_pane_fitter.h"
 
 #include "kovq/kovq_connect.h"

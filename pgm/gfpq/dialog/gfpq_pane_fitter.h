@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Room for texts, however long they are in the user's language.
 #pragma once
 

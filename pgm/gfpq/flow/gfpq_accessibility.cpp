@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow/gfpq_accessibility.h"
 
 #include "dialog/gfpq_dlg_internal.h"

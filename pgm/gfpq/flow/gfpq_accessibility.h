@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the dialogs need so that they can be used without a mouse, and with a screen reader.
 //
 // Names follow the texts of the labels as they are at the time of the call.

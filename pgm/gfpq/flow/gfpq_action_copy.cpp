@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow/gfpq_action_copy.h"
 
 #include "gfpdb/gfpdb_mgr.h"

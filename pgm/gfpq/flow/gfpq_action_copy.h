@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The one deep copy of an action.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // GFPQ_FLOW_SCENE: drawing the chart.
 //
 // The chain runs from top to bottom along a centre line. Every position follows from the bounding rectangles that the

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // GFPQ_FLOW_SCENE: the commands that edit the chain, and how the user gives them.
 #include "flow/gfpq_flow_scene.h"
 

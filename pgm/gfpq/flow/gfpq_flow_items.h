@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The graphics items of the flow editor: the texts and arrows of a flow chart, and the entries of the action palette.
 //
 // Items belong to the scene that they were added to, children to their parent item. GUI thread only.

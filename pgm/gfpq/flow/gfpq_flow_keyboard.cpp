@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow/gfpq_flow_keyboard.h"
 
 #include "flow/gfpq_flow_items.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A flow chart without a mouse.
 //
 // Down and Up select the next and the previous block, Home and End the first and the last; with Shift the blocks that

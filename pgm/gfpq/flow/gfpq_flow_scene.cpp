@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow/gfpq_flow_scene.h"
 
 #include "flow/gfpq_action_copy.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The flow chart of one operation: the ordered list of its actions, the picture of them, and the commands that edit it.
 //
 // The scene owns its actions. The picture is never edited item by item: every change of the list ends in

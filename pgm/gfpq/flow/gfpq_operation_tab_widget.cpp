@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow/gfpq_operation_tab_widget.h"
 
 #include "flow/gfpq_flow_items.h"

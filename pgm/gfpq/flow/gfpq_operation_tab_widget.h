@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One operation of a device: its description, the palette of actions, the flow chart, and the properties of the action
 // that is selected in the chart.
 #pragma once

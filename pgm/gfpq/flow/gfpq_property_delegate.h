@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // In-place editing of property values in the property table of an operation page.
 #pragma once
 

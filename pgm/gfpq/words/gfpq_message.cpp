@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "words/gfpq_message.h"
 
 #include "msg/msg.h"

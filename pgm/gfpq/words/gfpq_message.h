@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The host messages that the module raises.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The one home of every conversion between the library's byte strings and the widgets' texts.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The words that the dialog shows for the flash database's numbers.
 //
 // Constant tables of UTF-8 texts, indexed directly by their enumeration value; none is searched by text and none is

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The one warning box of the dialog.
 #pragma once
 

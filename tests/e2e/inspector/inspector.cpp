@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inspector.h"
 
 #include "questions.h"

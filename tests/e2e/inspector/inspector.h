@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Answers a test's questions about the windows of the program that it lives in.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "inspector_plugin.h"
 
 #include "inspector.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Looks into a running program on behalf of a test: a plugin that Qt loads when QT_QPA_GENERIC_PLUGINS names it, so
 // that the program itself holds no test code.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a test can ask. A question names itself in "ask"; positions and rectangles are global, in pixels of the screen.
 //
 //   widget   name                    the widget of that object name; of several the one that can be seen. An empty name

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "scene_questions.h"
 
 #include "widget_search.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a test can ask about the pictures of the flow editor.
 #pragma once
 

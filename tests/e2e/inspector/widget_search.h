@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Finding widgets, and saying where something is.
 #pragma once
 

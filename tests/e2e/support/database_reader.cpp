@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Prints what a second program finds in a flash database, through the library, as one JSON object:
 //
 //   database_reader DIRECTORY FAMILY SCHEME [NAME...]

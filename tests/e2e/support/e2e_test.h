@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Base of the tests that drive the real program: a screen for the whole test, a fresh directory for each test function.
 #pragma once
 

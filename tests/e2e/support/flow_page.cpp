@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow_page.h"
 
 #include "host_session.h"

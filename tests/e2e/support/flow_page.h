@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A page of the flow editor, as a user works with it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One run of a program on a screen, with the inspector in it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A screen of the test's own: an X server without a monitor, and a window manager on it.
 #pragma once
 

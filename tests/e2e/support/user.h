@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The user: a mouse and a keyboard on the screen, aimed at what the inspector sees.
 //
 // A place is a question to the inspector that is answered with a rectangle; the helpers below make them. Nothing is

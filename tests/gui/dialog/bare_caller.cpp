@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Calls the entry point in a process without a QApplication: "none" without any application, "core" with one that has
 // no widgets. Exit code 0 when the call came back, asked nobody anything and left the record as it was.
 #include "call_log.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Base of the tests of the Configuration Device dialog: a dialog on the recording flash database.
 //
 // open() makes the dialog and forgets the calls made so far; open_recorded() keeps them. The dialog is destroyed after

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Apply that succeeds, or has nothing to do: what it asks and writes, in which order, and what is shown afterwards.
 #include "dialog_test.h"
 

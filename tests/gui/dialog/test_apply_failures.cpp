@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Apply that does not get through: the message, and that nothing of the user's work is lost.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Texts with blanks at both ends and inside: every check, every store and every comparison takes them as they stand.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // "Browse...": the folder dialog, and what the choice does.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What stays as it was: after a failed check or OK, after a warning, and when the dialog is closed with Escape.
 #include "dialog_test.h"
 

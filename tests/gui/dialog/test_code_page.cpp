@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Texts outside ASCII where the local 8-bit encoding is no UTF-8: on their way from the library to the widgets and
 // back.
 #include "code_page.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Every connection of the dialog, as it was asked for. The function that makes them is wrapped at link time, so that
 // its arguments can be seen; that each connection also works is shown by the other tests.
 #include "dialog_test.h"

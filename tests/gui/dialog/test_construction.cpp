@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // How the dialog is made: the order of the calls, what each flag and each unused field does.
 #include "dialog_test.h"
 

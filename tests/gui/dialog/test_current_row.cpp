@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The table's current row: it is the selected one, it is current before its device is loaded, and it names the right
 // device while a filter makes the table's rows other ones than the model's.
 #include "dialog_test.h"

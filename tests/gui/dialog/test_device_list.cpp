@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The device table: its rows and how they are shown, rebuilt, selected and filtered.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The custom database directory, typed by the user.
 #include "dialog_test.h"
 

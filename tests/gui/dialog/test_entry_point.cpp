@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The exported function: what it hands to the dialog, what it hands back, and what it does with bad input.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the module shows to whoever loads it, and what it needs: its one function, the libraries of the host and of Qt,
 // and nothing else.
 #include <QFileInfo>

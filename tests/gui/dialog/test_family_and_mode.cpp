@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The family and configuration mode combos: what they offer, what a change sets going.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The checks that a device field runs when its value is committed, and the warning box that they share.
 #include "dialog_test.h"
 

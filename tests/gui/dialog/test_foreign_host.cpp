@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialog in a program whose application is no host application.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The form of the dialog as the Designer file builds it: tree, layouts, properties and texts.
 #include "ui_gfpq_dlg.h"
 

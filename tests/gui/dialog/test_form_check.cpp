@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The check of the whole form before anything is saved: what is asked in which order, and what the user is told.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What Qt prints while a form is built, and what is held back of it.
 #include "dialog/gfpq_form.h"
 #include "gui_test.h"

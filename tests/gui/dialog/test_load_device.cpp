@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What selecting a device shows and enables on the device page: fields, combos, buttons.
 #include "dialog_test.h"
 

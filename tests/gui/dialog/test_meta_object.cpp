@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The slots of the dialogs, by their method index: other code may run them by number.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // OK, Cancel and Delete.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The opened dialog as a whole: what its widgets are left without, what the flags and a change of the mode leave alone,
 // and that it lives on copies of what its caller handed in.
 #include "dialog_test.h"

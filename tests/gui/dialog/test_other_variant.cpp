@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The flow variant that is not shown: where Apply takes it from, and that what is stored is a copy of its own.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The operation pages of the device that is shown: which flows they get, and whether they are enabled.
 #include "dialog_test.h"
 

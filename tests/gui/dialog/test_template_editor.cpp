@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The template editor: its form, its list, Remove and Close.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Flow templates in the dialog: what the combo shows and does, and what opening the template editor does to it.
 #include "dialog_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The five tables of words that the dialog shows for the flash database's numbers.
 #include "words/gfpq_text.h"
 #include "words/gfpq_vocabulary.h"

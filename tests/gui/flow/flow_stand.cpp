@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow_stand.h"
 
 #include <QDragEnterEvent>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the tests of the flow editor stand on: a scene with its protected parts open, charts of named actions, and the
 // user's hands.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "literal_chart.h"
 
 #include <QBrush>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A second drawing of a flow chart, made from the plain steps with plain items, to compare the real one with.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the tests of an operation page stand on: pages on the screen, their parts, and editing in their table.
 #pragma once
 

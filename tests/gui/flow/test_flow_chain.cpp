@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The drawing of a flow chart: every item, number, colour and text.
 #include "flow_stand.h"
 #include "literal_chart.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Deleting, copying and pasting the selected actions.
 #include "flow_stand.h"
 

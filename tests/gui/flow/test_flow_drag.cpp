@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // When an entry of the palette starts its drag, and what it makes of the drag's result.
 //
 // Dragging itself is the window system's: this program brings its own QDrag::exec, which notes how it was called.

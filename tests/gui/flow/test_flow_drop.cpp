@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Dropping new actions on a chart.
 #include "flow_stand.h"
 

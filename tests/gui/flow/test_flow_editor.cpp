@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Editing values in the property table of a page.
 #include "code_page.h"
 #include "page_stand.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What happens between two commands of a chart: presses, keys and drops in unusual order, and around a rebuild.
 #include "page_stand.h"
 

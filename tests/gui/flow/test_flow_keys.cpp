@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Keys and mouse presses on a chart, and what every command has in common.
 #include "flow_stand.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The context menu of a chart, and inserting actions by it.
 #include "flow_stand.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Random editing sessions on a page, compared after every step with a plain list of what should be there.
 //
 // rapidcheck prints the seed; RC_PARAMS="seed=..." in the environment repeats a session, and a failing one is shown

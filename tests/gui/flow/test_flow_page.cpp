@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The page of one operation: its widgets, loading, reading and releasing its flow, activation.
 #include "page_stand.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The entries of the action palette and the drags that start from them.
 #include "flow_stand.h"
 

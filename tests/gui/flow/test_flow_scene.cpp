@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The life of a chart: selection, when it is drawn, and whose its actions are.
 #include "flow_stand.h"
 

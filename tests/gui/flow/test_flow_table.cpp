@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The rows of the property table of a page.
 #include "page_stand.h"
 

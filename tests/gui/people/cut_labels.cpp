@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cut_labels.h"
 
 #include <QAbstractButton>

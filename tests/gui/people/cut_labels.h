@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Texts that do not fit where they are shown.
 #pragma once
 

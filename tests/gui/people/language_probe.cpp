@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Prints one text of the module in the language that the user's environment asks for.
 #include "text_catalogue.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "people_test.h"
 
 #include "flow/gfpq_flow_scene.h"

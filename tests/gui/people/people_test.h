@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Base of the tests of languages, screens and accessibility: the dialogs on a recording flash database with one device
 // of each sort.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialogs with a screen reader, and without a mouse.
 #include "people_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The catalogues as translators keep them: complete, and true to what surrounds the words of a text.
 #include "words/gfpq_vocabulary.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A flow chart without a mouse.
 #include "people_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The language that the dialog speaks: the host's.
 #include "people_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialogs and the host's window in a language whose texts are half as long again: nothing is cut.
 #include "people_test.h"
 

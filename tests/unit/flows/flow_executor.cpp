@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "flow_executor.h"
 
 #include "gfpdb/gfpdb_enums.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Executes flows literally, action by action, as docs/flows.md says. Reads value texts by itself, without the library.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // An image for a device of any size: a few runs of bytes, and 0xFF everywhere else.
 #pragma once
 

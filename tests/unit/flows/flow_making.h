@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Short ways to write actions and operations in tests.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a programmer does with a flow when its user presses Start: the operations in their order, and what happens when
 // one of them fails.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A bus that notes the commands and answers as a test wants it.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What travels between a host and a serial flash: one command from the fall of the select line to its rise.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "spi_nor_chip.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A serial NOR flash chip behind a bus: it does what the real ones do, and notes every command that a real one would
 // refuse, misunderstand or silently drop.
 #pragma once

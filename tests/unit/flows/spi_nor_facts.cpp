@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What is known of real chips beyond a catalogue row, as a table of makers and lines. Written from data sheets, not
 // from the library's traits.
 #include "spi_nor_chip.h"

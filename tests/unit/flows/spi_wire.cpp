@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "spi_wire.h"
 
 #include <cstdint>

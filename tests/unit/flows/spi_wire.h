@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A command on the wires: what the host does with the four data lines in each clock, as docs/flows.md says.
 #pragma once
 

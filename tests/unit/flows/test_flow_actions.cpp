@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The action model: labels, defaults, choices, checks, and what depends on what.
 #include "model/gfpdb_action_model.h"
 #include "model/gfpdb_operation.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The catalogue of built-in parts and the reader of its file.
 #include "catalogue/gfpdb_catalogue.h"
 #include "catalogue/gfpdb_catalogue_csv.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the check of a whole flow finds.
 #include "flow_making.h"
 

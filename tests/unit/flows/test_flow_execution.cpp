@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Executes the flows of every part, in both variants, on an emulated chip of that part.
 #include "flow_executor.h"
 #include "spi_nor_chip.h"

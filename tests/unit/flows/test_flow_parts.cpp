@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The flows of every built-in part and template, against tables and against rules that hold for all of them.
 //
 // expected_traits.txt has a line for every part, expected_flows.txt whole flows of one part of each kind; both were

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The rules by which a flow is executed, each on a few actions: what is left out, what is chosen, what is compared.
 #include "flow_executor.h"
 #include "flow_making.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A session with a flow: the order of the operations, what follows a failure, and sessions with emulated chips of the
 // built-in parts.
 #include "flow_making.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // How the values of actions are written.
 #include "model/gfpdb_action_value.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a command looks like on the wires: the order of the bits, the lines of each phase, and who drives them when.
 #include "flow_executor.h"
 #include "flow_making.h"

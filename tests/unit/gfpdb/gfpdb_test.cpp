@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "gfpdb_test.h"
 
 #include "base/gfpdb_text.h"

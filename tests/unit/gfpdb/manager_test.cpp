@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "manager_test.h"
 
 void MANAGER_TEST::init()

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Base of the tests of the manager: a scratch directory and a manager that has just opened it, for each test function.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Databases that cannot be used: what the user is told, what works all the same, and that nothing is overwritten.
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb_test.h"

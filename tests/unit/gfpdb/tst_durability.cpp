@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Nothing is lost when programs are killed, work at the same time, or run out of room.
 //
 // The program is its own helper: "work" and "fill" (see main) run as processes of their own. GFPDB_KILLS and

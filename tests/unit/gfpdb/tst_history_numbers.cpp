@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The numbers by which users name states of the history: none stands for another state later.
 #include "gfpdb_test.h"
 #include "store/gfpdb_store.h"

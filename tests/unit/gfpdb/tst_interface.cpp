@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The interface as a module that was built earlier uses it: each operation by its place in the table of its class, each
 // enumerator by its number.
 #include "gfpdb/gfpdb_action.h"

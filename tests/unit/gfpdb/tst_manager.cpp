@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager: what it answers for a family and scheme, and the built-in devices.
 #include "catalogue/gfpdb_flow_templates.h"
 #include "gfpdb/gfpdb_helper.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager: a device that is deleted and saved again at once, as the dialog's Apply does it.
 #include "gfpdb/gfpdb_helper.h"
 #include "manager/gfpdb_embedded_mgr.h"

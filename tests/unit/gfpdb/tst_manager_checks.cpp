@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager: which values of a device it accepts.
 #include "catalogue/gfpdb_flow_templates.h"
 #include "manager_test.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager: the voltages and densities that it offers beside the standard ones, those that are stored.
 #include "gfpdb/gfpdb_helper.h"
 #include "manager_test.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager: what becomes of the devices that are saved, replaced and deleted.
 #include "catalogue/gfpdb_flow_templates.h"
 #include "gfpdb/gfpdb_helper.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager: names that are in use, by the device that the user is asked about, by others and by built-in parts; and
 // names whose record no one has seen.
 #include "gfpdb/gfpdb_helper.h"

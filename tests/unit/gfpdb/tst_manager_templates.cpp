@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The manager: stored templates, and bringing back what was replaced, deleted or removed.
 #include "catalogue/gfpdb_flow_templates.h"
 #include "manager_test.h"

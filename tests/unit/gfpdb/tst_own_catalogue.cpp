@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host's own catalogue: its order, its voltages and densities, and parts that are not to be shown.
 #include "gfpdb_test.h"
 #include "rules/gfpdb_options.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reading whole files: which ones, how much of them, and what is said about the others.
 #include "base/gfpdb_read_file.h"
 #include "gfpdb_test.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Databases on a medium that cannot be written.
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb_test.h"

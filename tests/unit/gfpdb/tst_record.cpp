@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The record in memory: its properties, its operations and who owns them.
 #include "gfpdb_test.h"
 #include "model/gfpdb_action_model.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What is saved is what is read, byte for byte, for records and changes that no one thought of.
 #include "base/gfpdb_text.h"
 #include "gfpdb_test.h"

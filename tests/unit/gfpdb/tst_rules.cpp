@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The rules for values, the lists of choices, and what a configuration scheme has.
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_catalogue.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The settings file, and the custom database directory that it keeps.
 #include "base/gfpdb_settings.h"
 #include "gfpdb/gfpdb_helper.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The database file: its schema, its rows byte for byte, its history, and files that change under an open program.
 #include "gfpdb_test.h"
 #include "message_recorder.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Reading records in the tests: what comes of a text, and the mistakes that were found in it.
 #pragma once
 

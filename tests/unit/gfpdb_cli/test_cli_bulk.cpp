@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Saving many records at once, as an import does.
 #include "store/gfpdb_store.h"
 

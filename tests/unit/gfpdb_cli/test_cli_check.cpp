@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The real program: check.
 #include "cli_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The line differences of the tool.
 #include "line_diff.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The commands of the user guide, as they are printed there, in a shell.
 #include "cli_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The real program: history, restore and diff.
 #include "cli_test.h"
 

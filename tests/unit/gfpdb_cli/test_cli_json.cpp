@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The tool's JSON: what is read, where it is wrong, how it is written.
 #include "json_text.h"
 

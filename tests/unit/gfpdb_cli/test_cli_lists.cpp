@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Lists of devices as CSV: what is written, what is read, and what is said about mistakes.
 #include "manager/gfpdb_embedded_mgr.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The real program: its help, its arguments, its directory, its terminal, its man page and completion.
 #include "cli_command.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What is said about mistakes in records, and when the rules do not count.
 #include "record_reading.h"
 

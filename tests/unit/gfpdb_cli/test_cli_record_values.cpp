@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Which values of a record are wrong, missing or of no use, for each kind of configuration mode.
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_json.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Records as JSON and as text: what is written, and that it is read again.
 #include "manager/gfpdb_embedded_mgr.h"
 #include "model/gfpdb_json.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The real program: list and show, and which record a name means.
 #include "cli_test.h"
 

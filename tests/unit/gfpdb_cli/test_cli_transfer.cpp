@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The real program: export and import.
 #include "cli_test.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Stands in for the dialog module: tells in the device name what it was called with, and answers with FAKE_FAMILY and
 // FAKE_SCHEME. Opens nothing.
 #include "fake_module.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the fake module answers.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Does what its first argument names, so that a test can look at a process that dies or that reads the world anew.
 #include "dstr/dstr.h"
 #include "kovq/kovq_connect.h"

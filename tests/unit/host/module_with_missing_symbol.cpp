@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A dialog module that needs a function which nobody has.
 #include "gfpq_dyn_dlg.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A child process that does one thing which a test process cannot do itself: die, or read the world anew.
 #pragma once
 

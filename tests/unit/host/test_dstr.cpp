@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The device families: the file's format, where the table comes from, and the table built into the library.
 #include "dstr/dstr.h"
 #include "family_file.h"

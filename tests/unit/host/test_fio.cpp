@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Paths and the process's current directory.
 #include "fio/fio_file_system.h"
 #include "fio/fio_path.h"

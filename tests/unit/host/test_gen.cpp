@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The text helpers of the host.
 #include "gen/gen_text.h"
 

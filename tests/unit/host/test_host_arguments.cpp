@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The command line of the host program.
 #include "host_arguments.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The choice of device: printed and remembered.
 #include "host_choice.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What can be chosen in the host, and which modes go together.
 #include "gfpdb_double.h"
 #include "host_offer.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The host program as the shell sees it: what it prints and what it ends with.
 #include "probe.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The language of the host's texts.
 #include "host_translation.h"
 #include "message_recorder.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The main window of the host.
 #include "fake_module.h"
 #include "gfpdb_double.h"

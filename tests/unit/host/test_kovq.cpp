@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialog framework.
 #include "message_recorder.h"
 #include "modal_driver.h"

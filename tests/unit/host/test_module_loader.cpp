@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Loading the dialog module.
 #include "dialog_call.h"
 #include "fake_module.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Messages for the user and the report of a broken internal assumption.
 #include "message_recorder.h"
 #include "modal_driver.h"

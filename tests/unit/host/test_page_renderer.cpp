@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Pictures of the dialog's pages.
 #include "page_renderer.h"
 

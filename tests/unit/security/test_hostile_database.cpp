@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A database that someone else wrote, and texts that mean something to SQL or to the file system.
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb_test.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Who may write what the library makes: never everyone, whatever the user's mask.
 #include "base/gfpdb_create_dir.h"
 #include "base/gfpdb_settings.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Texts of a database and texts that a user types are shown as they stand: no markup is rendered anywhere.
 #include "modal_driver.h"
 #include "soak_stand.h"

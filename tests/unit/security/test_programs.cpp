@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The built programs: where they take code from, and what they leave behind.
 #include <QDir>
 #include <QDirIterator>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The device families that a programmer can configure.
 //
 // The values are fixed, 1 to 72; what they are called and what they support is data (dstr.h), so the enumeration names

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Names of the device families and the configuration schemes that each supports.
 //
 // The table comes from a data file, families.csv: the file named by the environment variable GFPQ_FAMILIES if that is

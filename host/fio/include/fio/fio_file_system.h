@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Operations on the file system that concern the whole process.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One path of the file system.
 //
 // Texts are in the local 8-bit encoding. A path is held as it was given, with slashes normalised as

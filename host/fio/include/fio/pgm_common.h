@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Path rules that all parts of the programmer share.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Small text helpers of the host, free of Qt.
 //
 // All functions are pure, take texts as byte strings in any 8-bit encoding that contains ASCII, and are safe to call

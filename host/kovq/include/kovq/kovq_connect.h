@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Signal and slot connections that cannot fail unnoticed.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Base class of the host's dialogs.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The platform's file dialog.
 #pragma once
 

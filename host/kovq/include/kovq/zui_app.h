@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The host application object.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Messages of the host: numbered messages for the user, and the report of a broken internal assumption.
 //
 // GUI thread only. Texts are in the local 8-bit encoding.

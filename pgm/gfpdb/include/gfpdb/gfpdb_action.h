@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One step of a programming flow.
 #pragma once
 

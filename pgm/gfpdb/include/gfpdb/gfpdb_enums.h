@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The numbers that the flash database and its users share.
 //
 // Plain enumerations; the values are stored in databases and exchanged between modules, so they never change.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One flash device, or one stored template, of the flash database.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Where a program gets at the flash database.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One operation of a flash device: an ordered list of actions.
 #pragma once
 

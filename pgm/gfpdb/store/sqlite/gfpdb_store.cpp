@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The part of GFPDB_STORE that deals with the records. Saving and removing one device is in gfpdb_store_apply.cpp, the
 // file in gfpdb_store_file.cpp.
 //

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The part of GFPDB_STORE that deals with saving and removing one device, which belong together in one Apply: what a
 // removal takes is replaced by the save that follows, or put back.
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The part of GFPDB_STORE that deals with the database file: opening, making, locking. The schema is in
 // gfpdb_store_schema.cpp, the records are in gfpdb_store.cpp.
 #include "store/gfpdb_store.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The part of GFPDB_STORE that deals with the schema: what it must be, reading it, upgrading it. The file is in
 // gfpdb_store_file.cpp.
 //

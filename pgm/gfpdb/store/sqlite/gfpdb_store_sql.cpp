@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/sqlite/gfpdb_store_sql.h"
 
 #include "base/gfpdb_text.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the parts of GFPDB_STORE that deal with records share: pieces of statements, and values for and from them.
 //
 // Included by those sources only.

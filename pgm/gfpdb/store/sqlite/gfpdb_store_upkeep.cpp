@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The part of GFPDB_STORE that keeps the history small and the keys right. The records are in gfpdb_store.cpp.
 #include "store/gfpdb_store.h"
 #include "store/sqlite/gfpdb_store_sql.h"
