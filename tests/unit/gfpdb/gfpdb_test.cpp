@@ -111,7 +111,7 @@ GFPDB_ROW make_row(const std::string& name)
 {
     GFPDB_ROW row;
     row.family = FAMILY;
-    row.scheme = SERIAL;
+    row.scheme = ACTIVE_SERIAL;
     row.name = name;
     row.device_id = "0xC2 0x20 0x19";
     row.voltage = "1.8V";

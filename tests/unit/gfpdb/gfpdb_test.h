@@ -17,7 +17,7 @@
 // A family and the schemes of it that the tests use.
 constexpr int FAMILY = 3;
 constexpr int OTHER_FAMILY = 5;
-constexpr int SERIAL = PGMIO_ACTIVE_SERIAL;
+constexpr int ACTIVE_SERIAL = PGMIO_ACTIVE_SERIAL;
 constexpr int QUAD = PGMIO_ACTIVE_SERIAL_X4;
 constexpr bool SINGLE_IO = false;
 constexpr bool QUAD_IO = true;
@@ -45,8 +45,8 @@ private:
     QTemporaryDir m_dir;
 };
 
-// A manager for (FAMILY, SERIAL) that has just opened the place's custom directory.
-GFPDB_MGR* fresh_manager(int family = FAMILY, int scheme = SERIAL);
+// A manager for (FAMILY, ACTIVE_SERIAL) that has just opened the place's custom directory.
+GFPDB_MGR* fresh_manager(int family = FAMILY, int scheme = ACTIVE_SERIAL);
 
 // A record that was not saved, with a value for every property but the template name, and with flows in both variants:
 // each operation has an action for each type, whose name says where it belongs.
@@ -85,7 +85,7 @@ public:
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, const std::string& value);
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, int value);
 
-std::vector<std::string> custom_names(const GFPDB_MGR& manager, int family = FAMILY, int scheme = SERIAL);
+std::vector<std::string> custom_names(const GFPDB_MGR& manager, int family = FAMILY, int scheme = ACTIVE_SERIAL);
 std::vector<std::string> user_templates(const GFPDB_MGR& manager);
 
 using NAMES = std::vector<std::string>;

@@ -58,7 +58,7 @@ void TST_HISTORY_NUMBERS::cleanup()
 void TST_HISTORY_NUMBERS::add_state(const std::string& name)
 {
     QVERIFY(m_store->save_device(make_row(name)));
-    QVERIFY(m_store->remove_device(FAMILY, SERIAL, name));
+    QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, name));
 }
 
 void TST_HISTORY_NUMBERS::add_template_state()
@@ -135,7 +135,7 @@ void TST_HISTORY_NUMBERS::a_taken_record_that_came_back_unchanged_leaves_its_num
     add_state("B");
     QVERIFY(m_store->save_device(row));
     std::optional<GFPDB_TAKEN> taken;
-    QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A", &taken));
+    QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A", &taken));
     QCOMPARE(ids(), (IDS{1, 2}));
 
     QVERIFY(m_store->save_device(row, &*taken));

@@ -128,14 +128,14 @@ void TST_MANAGER::families_and_schemes_come_from_the_table()
 void TST_MANAGER::a_scheme_is_chosen_for_the_next_fetch_only()
 {
     GFPDB_HELPER::set_active_flash_family(PGMIO_ACTIVE_SERIAL_X4);
-    QCOMPARE(m_mgr->get_config_scheme(), SERIAL);
+    QCOMPARE(m_mgr->get_config_scheme(), ACTIVE_SERIAL);
 
     GFPDB_HELPER::get_active_flash_manager(false);
     QCOMPARE(m_mgr->get_config_scheme(), QUAD);
 
-    m_mgr->set_config_scheme(SERIAL);
+    m_mgr->set_config_scheme(ACTIVE_SERIAL);
     GFPDB_HELPER::get_active_flash_manager(false);
-    QCOMPARE(m_mgr->get_config_scheme(), SERIAL);
+    QCOMPARE(m_mgr->get_config_scheme(), ACTIVE_SERIAL);
 }
 
 void TST_MANAGER::all_schemes_but_the_illegal_one_are_schemes()
@@ -150,7 +150,7 @@ void TST_MANAGER::the_manager_is_one_object_and_keeps_the_family()
     QCOMPARE(GFPDB_HELPER::get_active_flash_manager(false), m_mgr);
     QCOMPARE(GFPDB_HELPER::get_active_flash_manager(true), m_mgr);
     QCOMPARE(m_mgr->get_device_family(), FAMILY);
-    QCOMPARE(m_mgr->get_config_scheme(), SERIAL);
+    QCOMPARE(m_mgr->get_config_scheme(), ACTIVE_SERIAL);
 }
 
 void TST_MANAGER::builtin_devices_are_listed_for_serial_schemes()
@@ -165,7 +165,7 @@ void TST_MANAGER::builtin_devices_are_listed_for_serial_schemes()
         QCOMPARE(m_mgr->is_builtin_flash(BUILTIN), is_serial);
         QCOMPARE(m_mgr->find_flash(BUILTIN, true) != nullptr, is_serial);
     }
-    m_mgr->get_builtin_flash_names(names, OTHER_FAMILY, SERIAL, 0);
+    m_mgr->get_builtin_flash_names(names, OTHER_FAMILY, ACTIVE_SERIAL, 0);
     QCOMPARE(names.front(), std::string("MX25L1606E"));
     QCOMPARE(names[7], BUILTIN);
 }

@@ -342,7 +342,7 @@ void TST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced()
     QVERIFY(!save_record(make_changed("B")));
 
     QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "b"}));
-    QCOMPARE(GFPDB_EMBEDDED_MGR::instance().store().find_device(FAMILY, SERIAL, "b")->single_flows,
+    QCOMPARE(GFPDB_EMBEDDED_MGR::instance().store().find_device(FAMILY, ACTIVE_SERIAL, "b")->single_flows,
              std::string("single flows of b"));
     QCOMPARE(reasons(), history);
 }
@@ -419,7 +419,7 @@ void TST_MANAGER_APPLY::other_calls_in_between_end_the_memory_data()
     const auto add = [this](const char* what, const CALL& call) { QTest::newRow(what) << call; };
     add("reload", [this] { m_mgr = fresh_manager(); });
     add("family", [this] { m_mgr->set_device_family(FAMILY); });
-    add("scheme", [this] { m_mgr->set_config_scheme(SERIAL); });
+    add("scheme", [this] { m_mgr->set_config_scheme(ACTIVE_SERIAL); });
     add("find", [this] { m_mgr->find_flash("B", true); });
     add("another delete", [this] { m_mgr->delete_flash("B", m_place->db_dir()); });
     add("restore", [this] { m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()); });

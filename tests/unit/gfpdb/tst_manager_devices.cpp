@@ -48,11 +48,11 @@ void TST_MANAGER_DEVICES::a_saved_device_is_found_again()
     QVERIFY(!found->is_template());
     QCOMPARE(found->get_db_dir(), m_place->db_dir());
     QCOMPARE(found->get_device_family(), FAMILY);
-    QCOMPARE(found->get_config_scheme(), SERIAL);
+    QCOMPARE(found->get_config_scheme(), ACTIVE_SERIAL);
     QCOMPARE(found->get_revision(), saved->get_revision());
     QVERIFY(!found->get_revision().empty());
     QCOMPARE(saved->get_device_family(), FAMILY);
-    QCOMPARE(saved->get_config_scheme(), SERIAL);
+    QCOMPARE(saved->get_config_scheme(), ACTIVE_SERIAL);
     QCOMPARE(saved->get_db_dir(), m_place->db_dir());
     QCOMPARE(m_mgr->find_flash("my FLASH", true), found);
     QVERIFY(m_mgr->is_custom_flash("my FLASH"));
@@ -91,10 +91,10 @@ void TST_MANAGER_DEVICES::a_device_belongs_to_the_family_and_scheme_it_was_saved
     save("C");
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
 
-    QCOMPARE(custom_names(*m_mgr, FAMILY, SERIAL), NAMES{"A"});
+    QCOMPARE(custom_names(*m_mgr, FAMILY, ACTIVE_SERIAL), NAMES{"A"});
     QCOMPARE(custom_names(*m_mgr, FAMILY, QUAD), (NAMES{"A", "B"}));
     QCOMPARE(custom_names(*m_mgr, OTHER_FAMILY, QUAD), NAMES{"C"});
-    QCOMPARE(custom_names(*m_mgr, OTHER_FAMILY, SERIAL), NAMES());
+    QCOMPARE(custom_names(*m_mgr, OTHER_FAMILY, ACTIVE_SERIAL), NAMES());
     QCOMPARE(m_mgr->find_flash("C", true)->get_device_family(), OTHER_FAMILY);
     QCOMPARE(m_mgr->find_flash("C", true)->get_config_scheme(), QUAD);
 }

@@ -314,14 +314,14 @@ void TST_MANAGER_NAMES::builtin_names_leave_out_those_of_custom_devices()
         m_mgr->get_builtin_flash_names(names, family, scheme, 0);
         return std::make_pair(names.size(), std::count(names.begin(), names.end(), BUILTIN));
     };
-    const std::size_t all = count_builtin(FAMILY, SERIAL).first;
+    const std::size_t all = count_builtin(FAMILY, ACTIVE_SERIAL).first;
     save_with_builtin_name();
 
-    QCOMPARE(count_builtin(FAMILY, SERIAL), std::make_pair(all - 1, std::ptrdiff_t(0)));
+    QCOMPARE(count_builtin(FAMILY, ACTIVE_SERIAL), std::make_pair(all - 1, std::ptrdiff_t(0)));
     QCOMPARE(count_builtin(FAMILY, QUAD), std::make_pair(all, std::ptrdiff_t(1)));
-    QCOMPARE(count_builtin(OTHER_FAMILY, SERIAL), std::make_pair(all, std::ptrdiff_t(1)));
+    QCOMPARE(count_builtin(OTHER_FAMILY, ACTIVE_SERIAL), std::make_pair(all, std::ptrdiff_t(1)));
     QVERIFY(remove(BUILTIN));
-    QCOMPARE(count_builtin(FAMILY, SERIAL), std::make_pair(all, std::ptrdiff_t(1)));
+    QCOMPARE(count_builtin(FAMILY, ACTIVE_SERIAL), std::make_pair(all, std::ptrdiff_t(1)));
 }
 
 void TST_MANAGER_NAMES::a_device_that_no_one_could_read_is_not_deleted()

@@ -252,7 +252,7 @@ void TST_RECORD::flows_are_stored_as_documented()
     record.set_operation(operation, SINGLE_IO);
     record.set_operation(gfpdb_make_operation(4), SINGLE_IO);
 
-    QCOMPARE(record.to_row(FAMILY, SERIAL)->single_flows,
+    QCOMPARE(record.to_row(FAMILY, ACTIVE_SERIAL)->single_flows,
              std::string(R"({"operations":[{"actions":[{"type":0,"values":{"0":"value 0","1":"value 1",)"
                          R"("2":"value 2","3":"value 3","4":"value 4"}}],"kind":1},{"actions":[],"kind":4}]})"));
 }
@@ -283,7 +283,7 @@ void TST_RECORD::values_of_actions_are_stored_byte_for_byte()
     operation->get_actions()->back()->set_property_value(GFPDB_WR_DATA, value.toStdString());
     record.set_operation(operation, SINGLE_IO);
 
-    const auto read = GFPDB_EMBEDDED_FLASH::from_row(record.to_row(FAMILY, SERIAL).value(), "/a/", false);
+    const auto read = GFPDB_EMBEDDED_FLASH::from_row(record.to_row(FAMILY, ACTIVE_SERIAL).value(), "/a/", false);
     QVERIFY(read != nullptr);
     QCOMPARE(text_of(*read), text_of(record));
     QCOMPARE(read->find_operation(1, SINGLE_IO)->get_actions()->back()->get_property_value(GFPDB_WR_DATA),

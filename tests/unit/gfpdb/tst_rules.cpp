@@ -365,24 +365,24 @@ void TST_RULES::voltages_fit_families_data()
     const int last_high = 48;
     const int first_low = 49;
     const int last_low = 72;
-    QTest::newRow("3.3V in an older family") << std::string("3.3V") << last_high << SERIAL << true;
-    QTest::newRow("3.3V in the first family with 1.8 V") << std::string("3.3V") << first_low << SERIAL << false;
-    QTest::newRow("3.3V in the last family with 1.8 V") << std::string("3.3V") << last_low << SERIAL << false;
+    QTest::newRow("3.3V in an older family") << std::string("3.3V") << last_high << ACTIVE_SERIAL << true;
+    QTest::newRow("3.3V in the first family with 1.8 V") << std::string("3.3V") << first_low << ACTIVE_SERIAL << false;
+    QTest::newRow("3.3V in the last family with 1.8 V") << std::string("3.3V") << last_low << ACTIVE_SERIAL << false;
     QTest::newRow("3.3V over four lines") << std::string("3.3V") << first_low << QUAD << false;
-    QTest::newRow("3.3V in no family") << std::string("3.3V") << 73 << SERIAL << true;
-    QTest::newRow("1.8V") << std::string("1.8V") << first_low << SERIAL << true;
-    QTest::newRow("1.2V") << std::string("1.2V") << first_low << SERIAL << false;
-    QTest::newRow("a range with 1.8 V") << std::string("1.65-3.6V") << first_low << SERIAL << true;
-    QTest::newRow("a range that ends at 1.8 V") << std::string("1.2-1.8V") << first_low << SERIAL << true;
-    QTest::newRow("a range that begins at 1.8 V") << std::string("1.8-3.6V") << first_low << SERIAL << true;
-    QTest::newRow("a range above 1.8 V") << std::string("2.3-3.6V") << first_low << SERIAL << false;
-    QTest::newRow("a range below 1.8 V") << std::string("1.0-1.7V") << first_low << SERIAL << false;
+    QTest::newRow("3.3V in no family") << std::string("3.3V") << 73 << ACTIVE_SERIAL << true;
+    QTest::newRow("1.8V") << std::string("1.8V") << first_low << ACTIVE_SERIAL << true;
+    QTest::newRow("1.2V") << std::string("1.2V") << first_low << ACTIVE_SERIAL << false;
+    QTest::newRow("a range with 1.8 V") << std::string("1.65-3.6V") << first_low << ACTIVE_SERIAL << true;
+    QTest::newRow("a range that ends at 1.8 V") << std::string("1.2-1.8V") << first_low << ACTIVE_SERIAL << true;
+    QTest::newRow("a range that begins at 1.8 V") << std::string("1.8-3.6V") << first_low << ACTIVE_SERIAL << true;
+    QTest::newRow("a range above 1.8 V") << std::string("2.3-3.6V") << first_low << ACTIVE_SERIAL << false;
+    QTest::newRow("a range below 1.8 V") << std::string("1.0-1.7V") << first_low << ACTIVE_SERIAL << false;
     QTest::newRow("parallel flash") << std::string("3.3V") << first_low << int(PGMIO_AVST_X8) << true;
     QTest::newRow("a card") << std::string("3.3V") << first_low << int(PGMIO_SDMMC_X4) << true;
-    QTest::newRow("no unit") << std::string("3.3") << last_high << SERIAL << false;
-    QTest::newRow("no number") << std::string("V") << last_high << SERIAL << false;
-    QTest::newRow("empty") << std::string() << last_high << SERIAL << false;
-    QTest::newRow("line break") << std::string("3.3V\n") << last_high << SERIAL << false;
+    QTest::newRow("no unit") << std::string("3.3") << last_high << ACTIVE_SERIAL << false;
+    QTest::newRow("no number") << std::string("V") << last_high << ACTIVE_SERIAL << false;
+    QTest::newRow("empty") << std::string() << last_high << ACTIVE_SERIAL << false;
+    QTest::newRow("line break") << std::string("3.3V\n") << last_high << ACTIVE_SERIAL << false;
 }
 
 void TST_RULES::voltages_fit_families()

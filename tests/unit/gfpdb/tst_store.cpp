@@ -130,8 +130,8 @@ void TST_STORE::the_file_is_made_by_the_first_change()
 {
     QVERIFY(m_store->is_readable());
     QVERIFY(m_store->is_writable());
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
-    QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
+    QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
     QVERIFY(m_store->get_history().empty());
     QVERIFY(!QFile::exists(QString::fromStdString(file())));
 
@@ -208,15 +208,15 @@ void TST_STORE::a_newer_schema_is_left_alone()
     expect_warning("was written by a newer program");
     QCOMPARE(m_store->get_problem(), problem);
     QVERIFY(!m_store->is_readable());
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
     QVERIFY(!m_store->save_device(make_row("B")));
     QCOMPARE(m_store->get_last_error(), problem);
-    QVERIFY(!m_store->remove_device(FAMILY, SERIAL, "A"));
+    QVERIFY(!m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
     QCOMPARE(read_file(file()), before);
 
     QVERIFY(run_sql(file(), "UPDATE meta SET value = '2' WHERE name = 'schema_version'").isValid());
     QCOMPARE(m_store->get_problem(), std::string());
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"A"});
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
 }
 
 // Texts that are compared as bytes would be cut at the first zero byte of a character.
@@ -254,8 +254,8 @@ void TST_STORE::two_programs_make_one_file()
 
     QVERIFY(m_store->save_device(make_row("A")));
     QVERIFY(other.save_device(make_row("B")));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"A", "B"}));
-    QCOMPARE(other.get_device_names(FAMILY, SERIAL), (NAMES{"A", "B"}));
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
+    QCOMPARE(other.get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
 }
 
 void TST_STORE::commits_reach_the_disk()
@@ -298,17 +298,17 @@ void TST_STORE::a_row_comes_back_whole()
     QVERIFY(m_store->save_device(row));
 
     for (const std::optional<GFPDB_ROW>& found :
-         {m_store->find_device(FAMILY, SERIAL, "A"), m_store->find_template("T")}) {
+         {m_store->find_device(FAMILY, ACTIVE_SERIAL, "A"), m_store->find_template("T")}) {
         QVERIFY(found.has_value());
         QCOMPARE(text_of(*found), text_of(row));
         QCOMPARE(found->revision, row.revision);
     }
-    QCOMPARE(m_store->get_device_revision(FAMILY, SERIAL, "a"), row.revision);
+    QCOMPARE(m_store->get_device_revision(FAMILY, ACTIVE_SERIAL, "a"), row.revision);
     QCOMPARE(m_store->get_template_revision("t"), row.revision);
     QCOMPARE(m_store->get_device_revision(FAMILY, QUAD, "a"), std::string());
     QVERIFY(m_store->has_device("a"));
     QVERIFY(!m_store->has_device("T"));
-    QVERIFY(!m_store->find_device(OTHER_FAMILY, SERIAL, "A").has_value());
+    QVERIFY(!m_store->find_device(OTHER_FAMILY, ACTIVE_SERIAL, "A").has_value());
     QVERIFY(!m_store->find_device(FAMILY, QUAD, "A").has_value());
     QVERIFY(!m_store->find_template("A").has_value());
     const QDateTime saved_at =
@@ -342,15 +342,15 @@ void TST_STORE::texts_come_back_byte_for_byte()
         *column = value;
     QVERIFY(m_store->save_device(row));
 
-    QCOMPARE(text_of(*m_store->find_device(FAMILY, SERIAL, row.name)), text_of(row));
+    QCOMPARE(text_of(*m_store->find_device(FAMILY, ACTIVE_SERIAL, row.name)), text_of(row));
     QCOMPARE(text_of(*m_store->find_template(row.template_name)), text_of(row));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{row.name});
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{row.name});
     QCOMPARE(m_store->get_template_names(), NAMES{row.template_name});
-    QVERIFY(m_store->remove_device(FAMILY, SERIAL, row.name));
+    QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, row.name));
     QCOMPARE(text_of(m_store->find_history(1)->row), text_of(row));
     QVERIFY(m_store->remove_template(row.template_name));
     QVERIFY(m_store->restore(1, GFPDB_RESTORE_KEEP, std::string()));
-    QCOMPARE(text_of(*m_store->find_device(FAMILY, SERIAL, row.name)), text_of(row));
+    QCOMPARE(text_of(*m_store->find_device(FAMILY, ACTIVE_SERIAL, row.name)), text_of(row));
 }
 
 void TST_STORE::texts_can_be_read_by_other_programs()
@@ -372,7 +372,7 @@ void TST_STORE::unset_numbers_stay_unset()
     row.quad_io_dummy_clock = std::nullopt;
     QVERIFY(m_store->save_device(row));
 
-    QCOMPARE(text_of(*m_store->find_device(FAMILY, SERIAL, "A")), text_of(row));
+    QCOMPARE(text_of(*m_store->find_device(FAMILY, ACTIVE_SERIAL, "A")), text_of(row));
     QCOMPARE(run_sql(file(), "SELECT total_die IS NULL AND single_io_dummy_clock = 0 FROM device").toInt(), 1);
 }
 
@@ -406,7 +406,7 @@ void TST_STORE::the_history_tells_what_when_and_by_whom()
     QVERIFY(m_store->save_device(row));
     row.total_die = 3;
     QVERIFY(m_store->save_device(row));
-    QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+    QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
     QVERIFY(m_store->remove_template("T"));
 
     const std::vector<GFPDB_HISTORY_ENTRY> entries = m_store->get_history();
@@ -420,7 +420,7 @@ void TST_STORE::the_history_tells_what_when_and_by_whom()
         QCOMPARE(entries[i].row.name, std::string("A"));
         QCOMPARE(entries[i].row.template_name, std::string("T"));
         QCOMPARE(entries[i].row.family, FAMILY);
-        QCOMPARE(entries[i].row.scheme, SERIAL);
+        QCOMPARE(entries[i].row.scheme, ACTIVE_SERIAL);
         QCOMPARE(entries[i].row.revision, row.revision);
         QCOMPARE(entries[i].row.single_flows, std::string());
         QCOMPARE(entries[i].row.quad_flows, std::string());
@@ -440,7 +440,7 @@ void TST_STORE::the_history_has_the_name_of_the_user_database_without_a_variable
         else
             qunsetenv("USER");
         QVERIFY(m_store->save_device(make_row("A")));
-        QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+        QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
         QCOMPARE(m_store->get_history().back().changed_by,
                  (name + QLatin1Char('@') + QSysInfo::machineHostName()).toStdString());
     }
@@ -450,12 +450,12 @@ void TST_STORE::history_has_whole_rows()
 {
     GFPDB_ROW row = make_row("A");
     QVERIFY(m_store->save_device(row));
-    QVERIFY(m_store->remove_device(FAMILY, SERIAL, "A"));
+    QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
 
     QCOMPARE(text_of(m_store->find_history(1)->row), text_of(row));
     QVERIFY(!m_store->find_history(2).has_value());
     QVERIFY(m_store->restore(1, GFPDB_RESTORE_KEEP, std::string()));
-    QVERIFY(m_store->get_device_revision(FAMILY, SERIAL, "A") != row.revision);
+    QVERIFY(m_store->get_device_revision(FAMILY, ACTIVE_SERIAL, "A") != row.revision);
     QVERIFY(m_store->find_history(1).has_value());
 }
 
@@ -465,8 +465,8 @@ void TST_STORE::reads_follow_a_replaced_file()
     make_file(file(), "B");
 
     expect_warning("was replaced or removed by another program");
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
-    QVERIFY(m_store->find_device(FAMILY, SERIAL, "B").has_value());
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"B"});
+    QVERIFY(m_store->find_device(FAMILY, ACTIVE_SERIAL, "B").has_value());
     QCOMPARE(m_store->get_problem(), std::string());
 }
 
@@ -485,7 +485,7 @@ void TST_STORE::the_first_change_of_a_replaced_file_is_refused()
                               "look at the devices that are there now, then try again.";
     const std::vector<std::function<bool()>> changes = {
         [this] { return m_store->save_device(make_row("C")).has_value(); },
-        [this] { return m_store->remove_device(FAMILY, SERIAL, "B"); },
+        [this] { return m_store->remove_device(FAMILY, ACTIVE_SERIAL, "B"); },
         [this] { return m_store->remove_template("B"); },
         [this] { return m_store->restore(1, GFPDB_RESTORE_KEEP, std::string()); },
     };
@@ -497,7 +497,7 @@ void TST_STORE::the_first_change_of_a_replaced_file_is_refused()
         const std::string before = read_file(file());
         expect_warning("was replaced or removed by another program");
         if (is_read_before)
-            QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
+            QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"B"});
 
         QVERIFY(!change());
         QCOMPARE(m_store->get_last_error(), error);
@@ -513,7 +513,7 @@ void TST_STORE::a_reload_accepts_a_replaced_file()
 
     m_store->reload();
     QVERIFY(m_store->save_device(make_row("C")));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"B", "C"}));
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"B", "C"}));
 }
 
 // The same file, but with the content of another one.
@@ -530,9 +530,9 @@ void TST_STORE::a_file_overwritten_by_another_database_is_noticed()
 
     QVERIFY(!m_store->save_device(make_row("C")));
     QVERIFY(m_store->get_last_error().find("was replaced or removed by another program") != std::string::npos);
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"B"});
     QVERIFY(m_store->save_device(make_row("C")));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"B", "C"}));
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"B", "C"}));
 }
 
 void TST_STORE::a_removed_file_is_noticed_and_made_anew()
@@ -544,9 +544,9 @@ void TST_STORE::a_removed_file_is_noticed_and_made_anew()
     QVERIFY(!m_store->save_device(make_row("B")));
     QVERIFY(m_store->get_last_error().find("was replaced or removed by another program") != std::string::npos);
     QVERIFY(!QFile::exists(QString::fromStdString(file())));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
     QVERIFY(m_store->save_device(make_row("B")));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"B"});
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"B"});
 }
 
 void TST_STORE::a_removed_directory_is_noticed()
@@ -559,18 +559,18 @@ void TST_STORE::a_removed_directory_is_noticed()
     QVERIFY(!m_store->save_device(make_row("B")));
     QVERIFY(!m_store->save_device(make_row("B")));
     QCOMPARE(m_store->get_last_error(), "The database directory " + m_place->db_dir() + " does not exist.");
-    QVERIFY(!m_store->remove_device(FAMILY, SERIAL, "A"));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QVERIFY(!m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
     QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_dir())));
 }
 
 void TST_STORE::a_file_that_someone_else_made_is_used()
 {
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES());
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
     make_file(file(), "B");
 
     QVERIFY(m_store->save_device(make_row("C")));
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), (NAMES{"B", "C"}));
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"B", "C"}));
 }
 
 void TST_STORE::a_closed_connection_is_opened_again()
@@ -579,7 +579,7 @@ void TST_STORE::a_closed_connection_is_opened_again()
     const QStringList connections = QSqlDatabase::connectionNames().filter(QString::fromStdString(m_place->db_dir()));
     QSqlDatabase::removeDatabase(connections.first());
 
-    QCOMPARE(m_store->get_device_names(FAMILY, SERIAL), NAMES{"A"});
+    QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
     QVERIFY(m_store->save_device(make_row("B")));
 }
 
