@@ -3,29 +3,27 @@
 
 #include "record_json.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char* OPTION_REBUILD_KEYS = "rebuild-keys";
 
-// A record and one thing that is wrong with it.
-struct FOUND
+// A record and one thing that was found in it.
+struct FINDING
 {
     std::string record;
     CLI_PROBLEM problem;
-};
 
-// What was found in all records.
-struct FINDINGS
-{
-    std::vector<FOUND> problems;
-    std::vector<FOUND> warnings;
+    bool is_warning() const { return problem.seriousness == CLI_SERIOUSNESS::WARNING; }
 };
+using FINDINGS = std::vector<FINDING>;
 
 void check_record(const CLI_CALL& call, const CLI_RECORD& record, FINDINGS& found)
 {
     const std::optional<JSON_VALUE> json = record_to_json(record);
     if (!json) {
-        found.problems.push_back({cli_title(record), {0, "", "The flows cannot be read."}});
+        found.push_back({cli_title(record), {0, "", "The flows cannot be read."}});
         return;
     }
     RECORD_READER reader(call.database.manager(), RECORD_RULES::STORED);
@@ -33,16 +31,18 @@ void check_record(const CLI_CALL& call, const CLI_RECORD& record, FINDINGS& foun
     for (CLI_PROBLEM problem : reader.problems()) {
         if (!problem.field.empty() && problem.field.front() == '.')
             problem.field.erase(0, 1);
-        found.problems.push_back({cli_title(record), problem});
+        found.push_back({cli_title(record), problem});
     }
     for (const RECORD_REMARK& remark : record_warnings(call.database.manager(), record))
-        found.warnings.push_back({cli_title(record), {0, remark.member, remark.text}});
+        found.push_back({cli_title(record), {0, remark.member, remark.text, CLI_SERIOUSNESS::WARNING}});
 }
 
-JSON_VALUE json_of(const std::vector<FOUND>& found)
+JSON_VALUE json_of(const FINDINGS& found, bool warnings)
 {
     JSON_VALUE list = json_list();
-    for (const FOUND& each : found) {
+    for (const FINDING& each : found) {
+        if (each.is_warning() != warnings)
+            continue;
         JSON_VALUE problem = json_object();
         problem.add("record", json_string(each.record));
         problem.add("field", json_string(each.problem.field));
@@ -58,18 +58,15 @@ std::string json(const CLI_CALL& call, std::size_t count, const std::string& dam
     object.add("directory", json_string(call.database.directory()));
     object.add("integrity", json_string(damage.empty() ? "ok" : damage));
     object.add("records", json_number(static_cast<long long>(count)));
-    object.add("problems", json_of(found.problems));
-    object.add("warnings", json_of(found.warnings));
+    object.add("problems", json_of(found, false));
+    object.add("warnings", json_of(found, true));
     return json_write(object);
 }
 
-std::string lines(const std::vector<FOUND>& found, const char* mark)
+std::string line(const FINDING& found)
 {
-    std::string text;
-    for (const FOUND& each : found)
-        text += each.record + (each.problem.field.empty() ? "" : ": " + each.problem.field) + ": " + mark +
-                each.problem.text + '\n';
-    return text;
+    return found.record + (found.problem.field.empty() ? "" : ": " + found.problem.field) +
+           (found.is_warning() ? ": warning: " : ": ") + found.problem.text + '\n';
 }
 
 std::string counted(std::size_t count, const std::string& what)
@@ -77,11 +74,14 @@ std::string counted(std::size_t count, const std::string& what)
     return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
 
-std::string text(std::size_t count, const FINDINGS& found)
+std::string text(std::size_t count, const FINDINGS& found, std::size_t problems)
 {
-    const std::string warnings = found.warnings.empty() ? "" : ", " + counted(found.warnings.size(), "warning");
-    return lines(found.problems, "") + lines(found.warnings, "warning: ") + counted(count, "record") + ", " +
-           counted(found.problems.size(), "problem") + warnings + '\n';
+    std::string text;
+    for (const FINDING& each : found)
+        text += line(each);
+    const std::size_t warnings = found.size() - problems;
+    return text + counted(count, "record") + ", " + counted(problems, "problem") +
+           (warnings == 0 ? "" : ", " + counted(warnings, "warning")) + '\n';
 }
 
 } // namespace
@@ -105,7 +105,7 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
     FINDINGS found;
     const std::vector<CLI_RECORD> records = call.database.find_stored({});
     for (const CLI_RECORD& record : call.database.find_misplaced({}))
-        found.problems.push_back({cli_title(record), {0, "", CLI_MISPLACED}});
+        found.push_back({cli_title(record), {0, "", CLI_MISPLACED}});
     int done = 0;
     for (const CLI_RECORD& record : records) {
         if (const std::optional<CLI_RECORD> loaded = call.database.load(record))
@@ -113,9 +113,12 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
         call.output.progress("Checking", ++done, static_cast<int>(records.size()));
     }
     call.output.finish_progress();
+    const auto warnings =
+        std::stable_partition(found.begin(), found.end(), [](const FINDING& each) { return !each.is_warning(); });
+    const auto problems = static_cast<std::size_t>(warnings - found.begin());
     call.output.print(call.has(CLI_OPTION_JSON) ? json(call, records.size(), damage, found)
-                                                : text(records.size(), found));
+                                                : text(records.size(), found, problems));
     if (!damage.empty())
         return call.database_failed(damage);
-    return found.problems.empty() ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;
+    return problems == 0 ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;
 }

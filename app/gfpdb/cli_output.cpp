@@ -58,12 +58,7 @@ void CLI_OUTPUT::problem(const std::string& file, const CLI_PROBLEM& problem)
         text += ':' + std::to_string(problem.line);
     if (!problem.field.empty())
         text += ": " + problem.field;
-    error(text + ": " + problem.text);
-}
-
-void CLI_OUTPUT::warning(const std::string& file, const CLI_PROBLEM& problem)
-{
-    this->problem(file, {problem.line, problem.field, "warning: " + problem.text});
+    error(text + (problem.seriousness == CLI_SERIOUSNESS::WARNING ? ": warning: " : ": ") + problem.text);
 }
 
 // Once per percent: a terminal is slower than the work.

@@ -18,10 +18,8 @@ public:
     void print(const std::string& text);
     // Prints a message to standard error, on a line of its own.
     void error(const std::string& text);
-    // Prints a problem as "file:line: field: text".
+    // Prints a problem as "file:line: field: text", a warning with "warning: " before the text.
     void problem(const std::string& file, const CLI_PROBLEM& problem);
-    // As problem(), with "warning: " before the text.
-    void warning(const std::string& file, const CLI_PROBLEM& problem);
     // Shows how far a long piece of work has come, when standard error is a terminal: "Importing 120 of 4000". Nothing
     // else may be printed until finish_progress().
     void progress(const char* work, int done, int total);

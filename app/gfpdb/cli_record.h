@@ -23,7 +23,15 @@ struct CLI_RECORD
 // "device "X" (family 3, scheme 7)", "template "T"": as messages call the record.
 std::string cli_title(const CLI_RECORD& record);
 
-// One thing that is wrong.
+// How serious a finding is.
+enum class CLI_SERIOUSNESS
+{
+    PROBLEM,      // the record is wrong
+    BUILTIN_NAME, // the record is right, but cannot be stored: a built-in device or template has its name
+    WARNING,      // the record is right, but a user should know this
+};
+
+// One thing that was found in a record or a file.
 struct CLI_PROBLEM
 {
     // The line of the file; 0 when there is no file.
@@ -31,4 +39,5 @@ struct CLI_PROBLEM
     // The record and the place in it: "devices[0].single_flows[1].actions[2].command"; empty for the whole.
     std::string field;
     std::string text;
+    CLI_SERIOUSNESS seriousness = CLI_SERIOUSNESS::PROBLEM;
 };

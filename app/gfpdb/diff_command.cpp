@@ -41,13 +41,10 @@ std::vector<CLI_RECORD> read_file(const CLI_CALL& call, const std::string& path)
     RECORD_FILE_OPTIONS options;
     options.unchecked = true;
     RECORD_FILE file = read_record_file(path, call.database.manager(), options);
-    // A built-in name is no mistake here: nothing is stored.
-    const auto is_serious = [](const CLI_PROBLEM& problem) {
-        return problem.text.rfind("There is a built-in ", 0) != 0;
-    };
     bool good = true;
     for (const CLI_PROBLEM& problem : file.problems) {
-        if (!is_serious(problem))
+        // Nothing is stored here.
+        if (problem.seriousness == CLI_SERIOUSNESS::BUILTIN_NAME)
             continue;
         call.output.problem(path, problem);
         good = false;

@@ -57,7 +57,7 @@ int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
         return CLI_EXIT_BAD_FILE;
     }
     for (const auto& [path, warning] : warnings)
-        call.output.warning(path, warning);
+        call.output.problem(path, warning);
     if (call.has(OPTION_DRY_RUN)) {
         call.output.print(summary_of(plan, "Would import", call.database.directory()));
         return CLI_EXIT_OK;

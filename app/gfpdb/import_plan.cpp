@@ -79,7 +79,8 @@ void IMPORT_PLAN::add_record(RECORD_FILE& file, CLI_RECORD record)
 void IMPORT_PLAN::warn(RECORD_FILE& file, const CLI_RECORD& record, const std::vector<RECORD_REMARK>& remarks)
 {
     for (const RECORD_REMARK& remark : remarks)
-        file.warnings.push_back({record.line, what(record) + ": " + remark.member, remark.text});
+        file.warnings.push_back(
+            {record.line, what(record) + ": " + remark.member, remark.text, CLI_SERIOUSNESS::WARNING});
 }
 
 // No device has the name of a template, neither in the directory nor in the files.

@@ -168,9 +168,10 @@ RECORD_READER::RECORD_READER(GFPDB_MGR& manager, RECORD_RULES rules, std::option
     : m_manager(manager), m_rules(rules), m_family(family), m_scheme(scheme)
 {}
 
-void RECORD_READER::add(const JSON_VALUE& value, const std::string& field, const std::string& text)
+void RECORD_READER::add(const JSON_VALUE& value, const std::string& field, const std::string& text,
+                        CLI_SERIOUSNESS seriousness)
 {
-    m_problems.push_back({value.line, field, text});
+    m_problems.push_back({value.line, field, text, seriousness});
 }
 
 // Every member is known and the first `required` of the known ones are there.
@@ -255,7 +256,7 @@ CLI_RECORD RECORD_READER::read_record(const JSON_VALUE& value, bool is_template,
         // What could not be read is not missing.
         if (std::none_of(m_problems.begin() + static_cast<std::ptrdiff_t>(problems_before), m_problems.end(),
                          [&place](const CLI_PROBLEM& problem) { return problem.field == place; }))
-            add(place_of(value, remark.member), place, remark.text);
+            add(place_of(value, remark.member), place, remark.text, remark.seriousness);
     }
     return record;
 }

@@ -41,7 +41,8 @@ public:
     const std::vector<CLI_PROBLEM>& problems() const { return m_problems; }
 
 private:
-    void add(const JSON_VALUE& value, const std::string& field, const std::string& text);
+    void add(const JSON_VALUE& value, const std::string& field, const std::string& text,
+             CLI_SERIOUSNESS seriousness = CLI_SERIOUSNESS::PROBLEM);
     bool check_members(const JSON_VALUE& object, const std::string& field, const std::vector<std::string>& known,
                        std::size_t required);
     void read_records(const JSON_VALUE& file, const char* name, bool are_templates, std::vector<CLI_RECORD>& records);

@@ -66,9 +66,12 @@ void check_name(const GFPDB_MGR& manager, bool of_template, const std::string& n
     const std::string what = of_template ? "template name" : "device name";
     const bool keeps_name = gfpdb_builtin_part(name) != nullptr &&
                             (of_template ? manager.is_template(name) : manager.is_custom_flash(name));
+    const char* member = of_template ? RECORD_TEMPLATE_NAME : RECORD_NAME;
     std::string error;
-    if (!(keeps_name ? gfpdb_check_name(name, what, error) : gfpdb_check_record_name(name, what, error)))
-        found.push_back({of_template ? RECORD_TEMPLATE_NAME : RECORD_NAME, error});
+    if (!gfpdb_check_name(name, what, error))
+        found.push_back({member, error});
+    else if (!keeps_name && !gfpdb_check_record_name(name, what, error))
+        found.push_back({member, error, CLI_SERIOUSNESS::BUILTIN_NAME});
 }
 
 // A template goes by its template name; its device name only says what it is a copy of.

@@ -28,6 +28,7 @@ struct RECORD_REMARK
     // Its name in files (record_fields.h).
     const char* member;
     std::string text;
+    CLI_SERIOUSNESS seriousness = CLI_SERIOUSNESS::PROBLEM;
 };
 
 // What is wrong with the values of `record`.
