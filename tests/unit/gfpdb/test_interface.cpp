@@ -48,7 +48,7 @@ void compare_with_places(const std::vector<int>& numbers)
 
 } // namespace
 
-class TST_INTERFACE : public QObject
+class TEST_INTERFACE : public QObject
 {
     Q_OBJECT
 
@@ -65,7 +65,7 @@ private slots:
     void configuration_schemes_have_their_numbers();
 };
 
-void TST_INTERFACE::each_operation_has_its_slot_data()
+void TEST_INTERFACE::each_operation_has_its_slot_data()
 {
     QTest::addColumn<int>("slot");
     QTest::addColumn<int>("expected");
@@ -127,7 +127,7 @@ void TST_INTERFACE::each_operation_has_its_slot_data()
 #undef ADD_SLOT
 }
 
-void TST_INTERFACE::each_operation_has_its_slot()
+void TEST_INTERFACE::each_operation_has_its_slot()
 {
     QFETCH(const int, slot);
     QFETCH(const int, expected);
@@ -135,7 +135,7 @@ void TST_INTERFACE::each_operation_has_its_slot()
     QCOMPARE(slot, expected);
 }
 
-void TST_INTERFACE::what_is_not_virtual_takes_no_slot()
+void TEST_INTERFACE::what_is_not_virtual_takes_no_slot()
 {
     QCOMPARE(slot_of(&GFPDB_ACTION::get_action_type), NO_SLOT);
     QCOMPARE(slot_of(&GFPDB_ACTION::get_property_enum_list), NO_SLOT);
@@ -146,7 +146,7 @@ void TST_INTERFACE::what_is_not_virtual_takes_no_slot()
 }
 
 // A module asks for them by linker names that have the argument types in them.
-void TST_INTERFACE::static_functions_take_their_texts_by_value()
+void TEST_INTERFACE::static_functions_take_their_texts_by_value()
 {
     const bool get_is_exact = std::is_same_v<decltype(&GFPDB_MGR::get_db_custom_dir), std::string (*)()>;
     const bool set_is_exact = std::is_same_v<decltype(&GFPDB_MGR::set_db_custom_dir), void (*)(std::string)>;
@@ -164,7 +164,7 @@ void TST_INTERFACE::static_functions_take_their_texts_by_value()
 }
 
 // Read directly, without a call.
-void TST_INTERFACE::kinds_and_types_are_open_numbers()
+void TEST_INTERFACE::kinds_and_types_are_open_numbers()
 {
     const bool kind_is_int = std::is_same_v<decltype(&GFPDB_OPERATION::m_kind), int GFPDB_OPERATION::*>;
     const bool type_is_int = std::is_same_v<decltype(&GFPDB_ACTION::m_action_type), int GFPDB_ACTION::*>;
@@ -173,26 +173,26 @@ void TST_INTERFACE::kinds_and_types_are_open_numbers()
     QVERIFY(type_is_int);
 }
 
-void TST_INTERFACE::flash_properties_have_their_numbers()
+void TEST_INTERFACE::flash_properties_have_their_numbers()
 {
     compare_with_places({GFPDB_FLASH_NAME, GFPDB_FLASH_DEVICE_ID, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY,
                          GFPDB_FLASH_TOTAL_DIE, GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK,
                          GFPDB_FLASH_TEMPLATE_NAME, GFPDB_FLASH_FLOW_TEMPLATE});
 }
 
-void TST_INTERFACE::operation_kinds_have_their_numbers()
+void TEST_INTERFACE::operation_kinds_have_their_numbers()
 {
     compare_with_places({GFPDB_OPERATION_INITIALIZATION, GFPDB_OPERATION_PROGRAM, GFPDB_OPERATION_ERASE,
                          GFPDB_OPERATION_VERIFY, GFPDB_OPERATION_TERMINATION});
 }
 
-void TST_INTERFACE::action_types_have_their_numbers()
+void TEST_INTERFACE::action_types_have_their_numbers()
 {
     compare_with_places({GFPDB_ACT_WRITE_REGISTER, GFPDB_ACT_READ_REGISTER, GFPDB_ACT_WRITE_DATA, GFPDB_ACT_READ_DATA,
                          GFPDB_ACT_ERASE, GFPDB_ACT_CUSTOM});
 }
 
-void TST_INTERFACE::action_properties_have_their_numbers()
+void TEST_INTERFACE::action_properties_have_their_numbers()
 {
     compare_with_places({GFPDB_WR_NAME,
                          GFPDB_WR_COMMAND,
@@ -236,7 +236,7 @@ void TST_INTERFACE::action_properties_have_their_numbers()
                          GFPDB_CUSTOM_LOOP_MARKER});
 }
 
-void TST_INTERFACE::configuration_schemes_have_their_numbers()
+void TEST_INTERFACE::configuration_schemes_have_their_numbers()
 {
     compare_with_places({PGMIO_PASSIVE_SERIAL_X1,
                          PGMIO_PASSIVE_SERIAL_X2,
@@ -266,6 +266,6 @@ void TST_INTERFACE::configuration_schemes_have_their_numbers()
                          PGMIO_ILLEGAL_SCHEME});
 }
 
-QTEST_APPLESS_MAIN(TST_INTERFACE)
+QTEST_APPLESS_MAIN(TEST_INTERFACE)
 
-#include "tst_interface.moc"
+#include "test_interface.moc"

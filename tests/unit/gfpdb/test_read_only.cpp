@@ -95,7 +95,7 @@ void READ_ONLY_DIR::unseal()
 
 } // namespace
 
-class TST_READ_ONLY : public QObject
+class TEST_READ_ONLY : public QObject
 {
     Q_OBJECT
 
@@ -120,7 +120,7 @@ private:
     GFPDB_MGR* m_mgr = nullptr;
 };
 
-void TST_READ_ONLY::init()
+void TEST_READ_ONLY::init()
 {
     // The other user can go on working there.
     m_place = std::make_unique<GFPDB_PLACE>(GFPDB_PLACE::ON::MEMORY);
@@ -129,7 +129,7 @@ void TST_READ_ONLY::init()
     GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
 }
 
-void TST_READ_ONLY::cleanup()
+void TEST_READ_ONLY::cleanup()
 {
     GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
     fresh_manager();
@@ -138,7 +138,7 @@ void TST_READ_ONLY::cleanup()
 }
 
 // With the device A and the template T, and closed.
-void TST_READ_ONLY::make_database()
+void TEST_READ_ONLY::make_database()
 {
     m_mgr = fresh_manager();
     GFPDB_FLASH* record = make_device(*m_mgr, "A");
@@ -149,7 +149,7 @@ void TST_READ_ONLY::make_database()
     GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
 }
 
-void TST_READ_ONLY::the_devices_of_a_read_only_database_can_be_used_but_not_changed()
+void TEST_READ_ONLY::the_devices_of_a_read_only_database_can_be_used_but_not_changed()
 {
     make_database();
     const std::string before = read_file(m_dir->path("gfpdb.sqlite"));
@@ -179,7 +179,7 @@ void TST_READ_ONLY::the_devices_of_a_read_only_database_can_be_used_but_not_chan
     QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_dir->path(""), false));
 }
 
-void TST_READ_ONLY::a_read_only_file_can_be_used_but_not_changed()
+void TEST_READ_ONLY::a_read_only_file_can_be_used_but_not_changed()
 {
     make_database();
     m_dir->seal_file();
@@ -192,7 +192,7 @@ void TST_READ_ONLY::a_read_only_file_can_be_used_but_not_changed()
     QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
 }
 
-void TST_READ_ONLY::a_device_in_a_read_only_directory_is_not_the_users_to_change()
+void TEST_READ_ONLY::a_device_in_a_read_only_directory_is_not_the_users_to_change()
 {
     make_database();
     m_mgr = fresh_manager();
@@ -213,7 +213,7 @@ void TST_READ_ONLY::a_device_in_a_read_only_directory_is_not_the_users_to_change
     QVERIFY(m_mgr->find_flash("A", true)->is_user_defined());
 }
 
-void TST_READ_ONLY::a_database_that_can_be_written_again_is_changed()
+void TEST_READ_ONLY::a_database_that_can_be_written_again_is_changed()
 {
     make_database();
     m_dir->seal();
@@ -228,7 +228,7 @@ void TST_READ_ONLY::a_database_that_can_be_written_again_is_changed()
     QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
 }
 
-void TST_READ_ONLY::a_database_that_is_sealed_while_it_is_open_is_told_as_such()
+void TEST_READ_ONLY::a_database_that_is_sealed_while_it_is_open_is_told_as_such()
 {
     make_database();
     m_mgr = fresh_manager();
@@ -246,7 +246,7 @@ void TST_READ_ONLY::a_database_that_is_sealed_while_it_is_open_is_told_as_such()
 
 // What a program that died in the middle of a change leaves: SQLite takes the half of it back when the file is next
 // opened, which it cannot here.
-void TST_READ_ONLY::a_half_written_database_in_a_read_only_directory_is_left_alone()
+void TEST_READ_ONLY::a_half_written_database_in_a_read_only_directory_is_left_alone()
 {
     make_database();
     const std::string file = m_dir->path("gfpdb.sqlite");
@@ -278,7 +278,7 @@ void TST_READ_ONLY::a_half_written_database_in_a_read_only_directory_is_left_alo
     QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
 }
 
-void TST_READ_ONLY::a_read_only_database_of_an_older_schema_can_be_read()
+void TEST_READ_ONLY::a_read_only_database_of_an_older_schema_can_be_read()
 {
     make_database();
     for (const char* statement :
@@ -296,7 +296,7 @@ void TST_READ_ONLY::a_read_only_database_of_an_older_schema_can_be_read()
     QCOMPARE(read_file(m_dir->path("gfpdb.sqlite")), before);
 }
 
-void TST_READ_ONLY::a_read_only_directory_without_a_database_is_refused()
+void TEST_READ_ONLY::a_read_only_directory_without_a_database_is_refused()
 {
     m_dir->seal();
     const std::string problem =
@@ -318,5 +318,5 @@ void TST_READ_ONLY::a_read_only_directory_without_a_database_is_refused()
     QVERIFY(!QFile::exists(QString::fromStdString(m_dir->path("gfpdb.sqlite"))));
 }
 
-QTEST_GUILESS_MAIN(TST_READ_ONLY)
-#include "tst_read_only.moc"
+QTEST_GUILESS_MAIN(TEST_READ_ONLY)
+#include "test_read_only.moc"

@@ -4,7 +4,7 @@
 #include "catalogue/gfpdb_flow_templates.h"
 #include "manager_test.h"
 
-class TST_MANAGER_TEMPLATES : public MANAGER_TEST
+class TEST_MANAGER_TEMPLATES : public MANAGER_TEST
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
     void restoring_what_is_not_in_the_history_fails();
 };
 
-void TST_MANAGER_TEMPLATES::a_device_with_a_template_name_is_stored_as_template_too()
+void TEST_MANAGER_TEMPLATES::a_device_with_a_template_name_is_stored_as_template_too()
 {
     const GFPDB_FLASH* saved = save("A", "My template");
 
@@ -47,7 +47,7 @@ void TST_MANAGER_TEMPLATES::a_device_with_a_template_name_is_stored_as_template_
     QCOMPARE(user_templates(*m_mgr), NAMES{"My template"});
 }
 
-void TST_MANAGER_TEMPLATES::a_template_outlives_its_device_and_does_not_follow_it()
+void TEST_MANAGER_TEMPLATES::a_template_outlives_its_device_and_does_not_follow_it()
 {
     const std::string before = text_of_flows(save("A", "T")->get_operations(QUAD_IO));
     GFPDB_FLASH* record = make_device(*m_mgr, "A");
@@ -62,7 +62,7 @@ void TST_MANAGER_TEMPLATES::a_template_outlives_its_device_and_does_not_follow_i
     QCOMPARE(user_templates(*m_mgr), NAMES{"T"});
 }
 
-void TST_MANAGER_TEMPLATES::templates_serve_all_families_and_schemes()
+void TEST_MANAGER_TEMPLATES::templates_serve_all_families_and_schemes()
 {
     save("A", "T");
 
@@ -73,7 +73,7 @@ void TST_MANAGER_TEMPLATES::templates_serve_all_families_and_schemes()
     QCOMPARE(m_mgr->find_flash("T", true)->get_device_family(), FAMILY);
 }
 
-void TST_MANAGER_TEMPLATES::a_template_can_be_stored_again_by_its_own_device_only()
+void TEST_MANAGER_TEMPLATES::a_template_can_be_stored_again_by_its_own_device_only()
 {
     save("A", "T");
     GFPDB_FLASH* again = make_device(*m_mgr, "a");
@@ -87,7 +87,7 @@ void TST_MANAGER_TEMPLATES::a_template_can_be_stored_again_by_its_own_device_onl
              std::string("There is a stored template called \"t\" already. Upper and lower case count as the same."));
 }
 
-void TST_MANAGER_TEMPLATES::a_removed_template_is_in_the_history_and_can_be_restored()
+void TEST_MANAGER_TEMPLATES::a_removed_template_is_in_the_history_and_can_be_restored()
 {
     const std::string before = text_of(*save("A", "T"));
     QVERIFY(m_mgr->remove_template("t"));
@@ -101,7 +101,7 @@ void TST_MANAGER_TEMPLATES::a_removed_template_is_in_the_history_and_can_be_rest
     QVERIFY(m_mgr->find_flash("T", true)->is_template());
 }
 
-void TST_MANAGER_TEMPLATES::builtin_templates_cannot_be_removed()
+void TEST_MANAGER_TEMPLATES::builtin_templates_cannot_be_removed()
 {
     const std::string name = gfpdb_builtin_template_names()[0];
 
@@ -110,7 +110,7 @@ void TST_MANAGER_TEMPLATES::builtin_templates_cannot_be_removed()
     QVERIFY(m_mgr->is_template(name));
 }
 
-void TST_MANAGER_TEMPLATES::a_device_and_its_template_have_different_names()
+void TEST_MANAGER_TEMPLATES::a_device_and_its_template_have_different_names()
 {
     QCOMPARE(save_error("A", "a"),
              std::string("The device and its template need different names: both are called \"A\"."));
@@ -118,7 +118,7 @@ void TST_MANAGER_TEMPLATES::a_device_and_its_template_have_different_names()
     QCOMPARE(user_templates(*m_mgr), NAMES());
 }
 
-void TST_MANAGER_TEMPLATES::template_lists_begin_with_the_five_builtin_ones()
+void TEST_MANAGER_TEMPLATES::template_lists_begin_with_the_five_builtin_ones()
 {
     NAMES all = {"was here before"};
     NAMES expected = gfpdb_builtin_template_names();
@@ -136,7 +136,7 @@ void TST_MANAGER_TEMPLATES::template_lists_begin_with_the_five_builtin_ones()
     QCOMPARE(m_mgr->get_template_list(all), expected);
 }
 
-void TST_MANAGER_TEMPLATES::template_operations_by_name_and_by_index()
+void TEST_MANAGER_TEMPLATES::template_operations_by_name_and_by_index()
 {
     const GFPDB_FLASH* saved = save("A", "T");
 
@@ -157,7 +157,7 @@ void TST_MANAGER_TEMPLATES::template_operations_by_name_and_by_index()
     }
 }
 
-void TST_MANAGER_TEMPLATES::restoring_brings_back_everything()
+void TEST_MANAGER_TEMPLATES::restoring_brings_back_everything()
 {
     const GFPDB_FLASH* saved = save("A", "T");
     const std::string before = text_of(*saved);
@@ -176,7 +176,7 @@ void TST_MANAGER_TEMPLATES::restoring_brings_back_everything()
     QCOMPARE(m_mgr->get_last_error(), std::string());
 }
 
-void TST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken_data()
+void TEST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken_data()
 {
     QTest::addColumn<bool>("is_template");
     QTest::addColumn<QString>("device");
@@ -194,7 +194,7 @@ void TST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken_data()
         << true << QStringLiteral("X") << QStringLiteral("t") << a_template.arg(QLatin1String("t"));
 }
 
-void TST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken()
+void TEST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken()
 {
     QFETCH(bool, is_template);
     QFETCH(QString, device);
@@ -210,7 +210,7 @@ void TST_MANAGER_TEMPLATES::restoring_is_refused_while_the_name_is_taken()
     QCOMPARE(custom_names(*m_mgr), NAMES{device.toStdString()});
 }
 
-void TST_MANAGER_TEMPLATES::restoring_what_is_not_in_the_history_fails()
+void TEST_MANAGER_TEMPLATES::restoring_what_is_not_in_the_history_fails()
 {
     QVERIFY(!m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
     QCOMPARE(m_mgr->get_last_error(), std::string("There is no state 1 in the history."));
@@ -222,5 +222,5 @@ void TST_MANAGER_TEMPLATES::restoring_what_is_not_in_the_history_fails()
     QCOMPARE(custom_names(*m_mgr), NAMES());
 }
 
-QTEST_GUILESS_MAIN(TST_MANAGER_TEMPLATES)
-#include "tst_manager_templates.moc"
+QTEST_GUILESS_MAIN(TEST_MANAGER_TEMPLATES)
+#include "test_manager_templates.moc"

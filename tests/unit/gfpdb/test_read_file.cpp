@@ -63,7 +63,7 @@ bool is_asleep(pid_t process)
 
 } // namespace
 
-class TST_READ_FILE : public QObject
+class TEST_READ_FILE : public QObject
 {
     Q_OBJECT
 
@@ -78,14 +78,14 @@ private slots:
     void too_much_is_refused();
 };
 
-void TST_READ_FILE::a_file_is_read_to_its_end_data()
+void TEST_READ_FILE::a_file_is_read_to_its_end_data()
 {
     QTest::addColumn<int>("size");
     for (const int size : {0, 1, int(LIMIT), 65536, 65537, 200000})
         QTest::addRow("%d", size) << size;
 }
 
-void TST_READ_FILE::a_file_is_read_to_its_end()
+void TEST_READ_FILE::a_file_is_read_to_its_end()
 {
     const GFPDB_PLACE place;
     QFETCH(int, size);
@@ -99,7 +99,7 @@ void TST_READ_FILE::a_file_is_read_to_its_end()
     QCOMPARE(problem, std::string());
 }
 
-void TST_READ_FILE::what_is_no_regular_file_is_not_read_data()
+void TEST_READ_FILE::what_is_no_regular_file_is_not_read_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("problem");
@@ -113,7 +113,7 @@ void TST_READ_FILE::what_is_no_regular_file_is_not_read_data()
     QTest::newRow("terminal") << QStringLiteral("/dev/ptmx") << not_regular;
 }
 
-void TST_READ_FILE::what_is_no_regular_file_is_not_read()
+void TEST_READ_FILE::what_is_no_regular_file_is_not_read()
 {
     const GFPDB_PLACE place;
     QFETCH(QString, name);
@@ -132,7 +132,7 @@ void TST_READ_FILE::what_is_no_regular_file_is_not_read()
     QCOMPARE(told, problem.toStdString());
 }
 
-void TST_READ_FILE::a_pipe_is_read_to_its_end()
+void TEST_READ_FILE::a_pipe_is_read_to_its_end()
 {
     const std::string content(LIMIT, 'x');
     const FULL_PIPE pipe(content);
@@ -143,7 +143,7 @@ void TST_READ_FILE::a_pipe_is_read_to_its_end()
     QCOMPARE(problem, std::string("Bad file descriptor"));
 }
 
-void TST_READ_FILE::a_pipe_that_does_not_wait_is_waited_for()
+void TEST_READ_FILE::a_pipe_that_does_not_wait_is_waited_for()
 {
     std::array<int, 2> ends = {};
     QCOMPARE(::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
@@ -163,7 +163,7 @@ void TST_READ_FILE::a_pipe_that_does_not_wait_is_waited_for()
     QCOMPARE(status, 0);
 }
 
-void TST_READ_FILE::too_much_is_refused_data()
+void TEST_READ_FILE::too_much_is_refused_data()
 {
     QTest::addColumn<qulonglong>("limit");
     QTest::addColumn<QString>("problem");
@@ -174,7 +174,7 @@ void TST_READ_FILE::too_much_is_refused_data()
     QTest::newRow("1 MiB") << (1ULL << 20) << QStringLiteral("it is larger than 1 MiB");
 }
 
-void TST_READ_FILE::too_much_is_refused()
+void TEST_READ_FILE::too_much_is_refused()
 {
     const GFPDB_PLACE place;
     QFETCH(qulonglong, limit);
@@ -192,5 +192,5 @@ void TST_READ_FILE::too_much_is_refused()
     ::close(endless);
 }
 
-QTEST_GUILESS_MAIN(TST_READ_FILE)
-#include "tst_read_file.moc"
+QTEST_GUILESS_MAIN(TEST_READ_FILE)
+#include "test_read_file.moc"

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-class TST_MANAGER_DEVICES : public MANAGER_TEST
+class TEST_MANAGER_DEVICES : public MANAGER_TEST
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private slots:
     void records_outlive_a_reload();
 };
 
-void TST_MANAGER_DEVICES::a_saved_device_is_found_again()
+void TEST_MANAGER_DEVICES::a_saved_device_is_found_again()
 {
     const GFPDB_FLASH* saved = save("My flash");
 
@@ -61,7 +61,7 @@ void TST_MANAGER_DEVICES::a_saved_device_is_found_again()
     QCOMPARE(m_mgr->get_last_error(), std::string());
 }
 
-void TST_MANAGER_DEVICES::a_created_device_is_known_to_no_one()
+void TEST_MANAGER_DEVICES::a_created_device_is_known_to_no_one()
 {
     QVERIFY(m_mgr->create_flash("") == nullptr);
     const GFPDB_FLASH* record = m_mgr->create_flash("A");
@@ -78,7 +78,7 @@ void TST_MANAGER_DEVICES::a_created_device_is_known_to_no_one()
     QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_file())));
 }
 
-void TST_MANAGER_DEVICES::a_device_belongs_to_the_family_and_scheme_it_was_saved_for()
+void TEST_MANAGER_DEVICES::a_device_belongs_to_the_family_and_scheme_it_was_saved_for()
 {
     save("A");
     m_mgr->set_config_scheme(QUAD);
@@ -99,7 +99,7 @@ void TST_MANAGER_DEVICES::a_device_belongs_to_the_family_and_scheme_it_was_saved
     QCOMPARE(m_mgr->find_flash("C", true)->get_config_scheme(), QUAD);
 }
 
-void TST_MANAGER_DEVICES::custom_names_come_in_the_order_of_the_alphabet()
+void TEST_MANAGER_DEVICES::custom_names_come_in_the_order_of_the_alphabet()
 {
     for (const char* name : {"b", "C", "a", "B2", "A1", "_"})
         save(name);
@@ -107,7 +107,7 @@ void TST_MANAGER_DEVICES::custom_names_come_in_the_order_of_the_alphabet()
     QCOMPARE(custom_names(*m_mgr), (NAMES{"_", "a", "A1", "b", "B2", "C"}));
 }
 
-void TST_MANAGER_DEVICES::saving_replaces_and_keeps_the_former_state()
+void TEST_MANAGER_DEVICES::saving_replaces_and_keeps_the_former_state()
 {
     const std::string before = text_of(*save("A"));
     GFPDB_FLASH* record = make_device(*m_mgr, "A");
@@ -122,7 +122,7 @@ void TST_MANAGER_DEVICES::saving_replaces_and_keeps_the_former_state()
     QCOMPARE(text_of(*m_mgr->find_flash("A", true)), before);
 }
 
-void TST_MANAGER_DEVICES::saving_with_other_case_replaces()
+void TEST_MANAGER_DEVICES::saving_with_other_case_replaces()
 {
     save("Abc");
     save("ABC");
@@ -132,7 +132,7 @@ void TST_MANAGER_DEVICES::saving_with_other_case_replaces()
     QCOMPARE(run_sql(m_place->db_file(), "SELECT reason FROM history").toString(), QStringLiteral("replaced"));
 }
 
-void TST_MANAGER_DEVICES::deleting_keeps_the_former_state()
+void TEST_MANAGER_DEVICES::deleting_keeps_the_former_state()
 {
     const std::string before = text_of(*save("A"));
     save("B");
@@ -145,7 +145,7 @@ void TST_MANAGER_DEVICES::deleting_keeps_the_former_state()
     QCOMPARE(text_of(*m_mgr->find_flash("A", true)), before);
 }
 
-void TST_MANAGER_DEVICES::deleting_what_is_not_there_succeeds_and_makes_no_file()
+void TEST_MANAGER_DEVICES::deleting_what_is_not_there_succeeds_and_makes_no_file()
 {
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
     QVERIFY(m_mgr->delete_flash("<<new device>>", m_place->db_dir()));
@@ -158,7 +158,7 @@ void TST_MANAGER_DEVICES::deleting_what_is_not_there_succeeds_and_makes_no_file(
     QCOMPARE(history_size(), 0);
 }
 
-void TST_MANAGER_DEVICES::a_rename_interrupted_after_the_delete_can_be_undone()
+void TEST_MANAGER_DEVICES::a_rename_interrupted_after_the_delete_can_be_undone()
 {
     const std::string before = text_of(*save("A"));
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
@@ -168,7 +168,7 @@ void TST_MANAGER_DEVICES::a_rename_interrupted_after_the_delete_can_be_undone()
     QCOMPARE(text_of(*m_mgr->find_flash("A", true)), before);
 }
 
-void TST_MANAGER_DEVICES::a_device_can_be_saved_in_another_directory()
+void TEST_MANAGER_DEVICES::a_device_can_be_saved_in_another_directory()
 {
     make_dir(m_place->path("other/"));
     GFPDB_FLASH* record = make_device(*m_mgr, "A");
@@ -191,7 +191,7 @@ void TST_MANAGER_DEVICES::a_device_can_be_saved_in_another_directory()
              QStringLiteral("D"));
 }
 
-void TST_MANAGER_DEVICES::a_record_that_is_not_stored_cannot_be_saved_without_a_flash()
+void TEST_MANAGER_DEVICES::a_record_that_is_not_stored_cannot_be_saved_without_a_flash()
 {
     QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
     QCOMPARE(m_mgr->get_last_error(), std::string("There is no record to save."));
@@ -202,7 +202,7 @@ void TST_MANAGER_DEVICES::a_record_that_is_not_stored_cannot_be_saved_without_a_
     QCOMPARE(m_mgr->get_last_error(), std::string());
 }
 
-void TST_MANAGER_DEVICES::a_success_clears_the_last_error()
+void TEST_MANAGER_DEVICES::a_success_clears_the_last_error()
 {
     save("A", "T");
     const std::vector<std::function<bool()>> calls = {
@@ -220,7 +220,7 @@ void TST_MANAGER_DEVICES::a_success_clears_the_last_error()
     }
 }
 
-void TST_MANAGER_DEVICES::a_name_that_is_nowhere_is_no_error()
+void TEST_MANAGER_DEVICES::a_name_that_is_nowhere_is_no_error()
 {
     QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
 
@@ -229,7 +229,7 @@ void TST_MANAGER_DEVICES::a_name_that_is_nowhere_is_no_error()
     QCOMPARE(m_mgr->get_last_error(), std::string());
 }
 
-void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()
+void TEST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("template_name");
@@ -270,7 +270,7 @@ void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken_data()
                                        << empty_blank.arg(QStringLiteral("template name"));
 }
 
-void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken()
+void TEST_MANAGER_DEVICES::saving_refuses_names_that_are_taken()
 {
     QFETCH(QString, name);
     QFETCH(QString, template_name);
@@ -285,7 +285,7 @@ void TST_MANAGER_DEVICES::saving_refuses_names_that_are_taken()
     QCOMPARE(history_size(), 0);
 }
 
-void TST_MANAGER_DEVICES::saving_refuses_text_that_is_not_utf8()
+void TEST_MANAGER_DEVICES::saving_refuses_text_that_is_not_utf8()
 {
     const std::string latin1 = "\xFC";
     GFPDB_FLASH* record = make_device(*m_mgr, "A");
@@ -307,7 +307,7 @@ void TST_MANAGER_DEVICES::saving_refuses_text_that_is_not_utf8()
     QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
 }
 
-void TST_MANAGER_DEVICES::flows_that_cannot_be_read_give_no_record()
+void TEST_MANAGER_DEVICES::flows_that_cannot_be_read_give_no_record()
 {
     const std::string broken[] = {"{",
                                   "[]",
@@ -333,7 +333,7 @@ void TST_MANAGER_DEVICES::flows_that_cannot_be_read_give_no_record()
     QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
 }
 
-void TST_MANAGER_DEVICES::a_record_is_the_same_object_until_it_is_saved_again()
+void TEST_MANAGER_DEVICES::a_record_is_the_same_object_until_it_is_saved_again()
 {
     save("A", "T");
     const GFPDB_FLASH* first = m_mgr->find_flash("A", true);
@@ -353,7 +353,7 @@ void TST_MANAGER_DEVICES::a_record_is_the_same_object_until_it_is_saved_again()
     QCOMPARE(text_of(*first), before);
 }
 
-void TST_MANAGER_DEVICES::a_record_that_was_changed_in_memory_is_read_anew()
+void TEST_MANAGER_DEVICES::a_record_that_was_changed_in_memory_is_read_anew()
 {
     save("A");
     const std::string stored = text_of(*m_mgr->find_flash("A", true));
@@ -381,7 +381,7 @@ void TST_MANAGER_DEVICES::a_record_that_was_changed_in_memory_is_read_anew()
     QVERIFY(is_read_anew());
 }
 
-void TST_MANAGER_DEVICES::records_outlive_a_reload()
+void TEST_MANAGER_DEVICES::records_outlive_a_reload()
 {
     save("A");
     GFPDB_FLASH* created = make_device(*m_mgr, "B");
@@ -403,5 +403,5 @@ void TST_MANAGER_DEVICES::records_outlive_a_reload()
     QVERIFY(m_mgr->save_flash(created, m_place->path("other/")));
 }
 
-QTEST_GUILESS_MAIN(TST_MANAGER_DEVICES)
-#include "tst_manager_devices.moc"
+QTEST_GUILESS_MAIN(TEST_MANAGER_DEVICES)
+#include "test_manager_devices.moc"

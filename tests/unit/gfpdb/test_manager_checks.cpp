@@ -8,7 +8,7 @@
 
 Q_DECLARE_METATYPE(std::string)
 
-class TST_MANAGER_CHECKS : public MANAGER_TEST
+class TEST_MANAGER_CHECKS : public MANAGER_TEST
 {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ private slots:
     void voltages_are_verified_for_the_family();
 };
 
-void TST_MANAGER_CHECKS::device_names_are_checked_against_all_other_names()
+void TEST_MANAGER_CHECKS::device_names_are_checked_against_all_other_names()
 {
     const std::string template_name = gfpdb_builtin_template_names()[1];
     save("A", "T");
@@ -49,7 +49,7 @@ void TST_MANAGER_CHECKS::device_names_are_checked_against_all_other_names()
     QVERIFY(!checked(*m_mgr, GFPDB_FLASH_NAME, BUILTIN).empty());
 }
 
-void TST_MANAGER_CHECKS::template_names_are_checked_against_all_other_names()
+void TEST_MANAGER_CHECKS::template_names_are_checked_against_all_other_names()
 {
     const std::string template_name = gfpdb_builtin_template_names()[1];
     save("A", "T");
@@ -71,7 +71,7 @@ void TST_MANAGER_CHECKS::template_names_are_checked_against_all_other_names()
              "There is a built-in template called \"" + template_name + "\": choose another name.");
 }
 
-void TST_MANAGER_CHECKS::numbers_are_checked()
+void TEST_MANAGER_CHECKS::numbers_are_checked()
 {
     const auto range = [this](GFPDB_FLASH_PROPERTY property) {
         std::vector<int> allowed;
@@ -93,7 +93,7 @@ void TST_MANAGER_CHECKS::numbers_are_checked()
              std::string("The number of quad-I/O dummy clocks -1 is out of range: 0 to 31 are allowed."));
 }
 
-void TST_MANAGER_CHECKS::choices_are_checked()
+void TEST_MANAGER_CHECKS::choices_are_checked()
 {
     NAMES values;
     save("A", "My template");
@@ -116,7 +116,7 @@ void TST_MANAGER_CHECKS::choices_are_checked()
     QVERIFY(checked(*m_mgr, GFPDB_FLASH_DEVICE_ID, "").find("The device ID is empty.") == 0);
 }
 
-void TST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check_data()
+void TEST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check_data()
 {
     QTest::addColumn<int>("property");
     QTest::addColumn<std::string>("value");
@@ -134,7 +134,7 @@ void TST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check_data()
                                    << "The flow template \" " + gfpdb_builtin_template_names()[0] + " \" is not known";
 }
 
-void TST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check()
+void TEST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check()
 {
     QFETCH(const int, property);
     QFETCH(const std::string, value);
@@ -146,7 +146,7 @@ void TST_MANAGER_CHECKS::blanks_at_both_ends_reach_every_check()
     QVERIFY2(answer.find(error) == 0, answer.c_str());
 }
 
-void TST_MANAGER_CHECKS::blanks_at_both_ends_are_stored_and_looked_for()
+void TEST_MANAGER_CHECKS::blanks_at_both_ends_are_stored_and_looked_for()
 {
     GFPDB_FLASH* const record = make_device(*m_mgr, "A");
     for (const GFPDB_FLASH_PROPERTY property :
@@ -168,7 +168,7 @@ void TST_MANAGER_CHECKS::blanks_at_both_ends_are_stored_and_looked_for()
     QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
 }
 
-void TST_MANAGER_CHECKS::a_check_asks_for_a_property_of_its_kind()
+void TEST_MANAGER_CHECKS::a_check_asks_for_a_property_of_its_kind()
 {
     for (const auto property : {GFPDB_FLASH_TOTAL_DIE, GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK,
                                 GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, static_cast<GFPDB_FLASH_PROPERTY>(9)})
@@ -179,7 +179,7 @@ void TST_MANAGER_CHECKS::a_check_asks_for_a_property_of_its_kind()
                  "Property " + std::to_string(property) + " of a device is not a number.");
 }
 
-void TST_MANAGER_CHECKS::voltages_are_verified_for_the_family()
+void TEST_MANAGER_CHECKS::voltages_are_verified_for_the_family()
 {
     const int low_voltage_family = 50;
     std::string error = "as it was";
@@ -196,5 +196,5 @@ void TST_MANAGER_CHECKS::voltages_are_verified_for_the_family()
     QVERIFY(m_mgr->verify_string_property(GFPDB_FLASH_VOLTAGE, "3.3V", error));
 }
 
-QTEST_GUILESS_MAIN(TST_MANAGER_CHECKS)
-#include "tst_manager_checks.moc"
+QTEST_GUILESS_MAIN(TEST_MANAGER_CHECKS)
+#include "test_manager_checks.moc"

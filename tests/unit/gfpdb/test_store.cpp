@@ -53,7 +53,7 @@ std::string schema_of(const std::string& path)
 
 } // namespace
 
-class TST_STORE : public QObject
+class TEST_STORE : public QObject
 {
     Q_OBJECT
 
@@ -102,19 +102,19 @@ private:
     std::unique_ptr<GFPDB_STORE> m_store;
 };
 
-void TST_STORE::init()
+void TEST_STORE::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
     m_store = std::make_unique<GFPDB_STORE>(m_place->db_dir());
 }
 
-void TST_STORE::cleanup()
+void TEST_STORE::cleanup()
 {
     m_store.reset();
     m_place.reset();
 }
 
-void TST_STORE::make_file(const std::string& path, const std::string& name)
+void TEST_STORE::make_file(const std::string& path, const std::string& name)
 {
     make_dir(m_place->path("making/"));
     {
@@ -126,7 +126,7 @@ void TST_STORE::make_file(const std::string& path, const std::string& name)
         qFatal("cannot rename to %s", path.c_str());
 }
 
-void TST_STORE::the_file_is_made_by_the_first_change()
+void TEST_STORE::the_file_is_made_by_the_first_change()
 {
     QVERIFY(m_store->is_readable());
     QVERIFY(m_store->is_writable());
@@ -143,7 +143,7 @@ void TST_STORE::the_file_is_made_by_the_first_change()
     QCOMPARE(m_store->get_last_error(), std::string());
 }
 
-void TST_STORE::making_the_file_says_nothing()
+void TEST_STORE::making_the_file_says_nothing()
 {
     const MESSAGE_RECORDER messages;
 
@@ -152,7 +152,7 @@ void TST_STORE::making_the_file_says_nothing()
     QCOMPARE(messages.texts(), QStringList());
 }
 
-void TST_STORE::the_schema_is_as_documented()
+void TEST_STORE::the_schema_is_as_documented()
 {
     QVERIFY(m_store->save_device(make_row("A")));
 
@@ -167,7 +167,7 @@ void TST_STORE::the_schema_is_as_documented()
     QCOMPARE(run_sql(file(), "SELECT count(*) FROM meta").toInt(), 2);
 }
 
-void TST_STORE::an_older_schema_is_upgraded_and_loses_nothing()
+void TEST_STORE::an_older_schema_is_upgraded_and_loses_nothing()
 {
     for (const std::string& statement : SCHEMA_1)
         QVERIFY(run_sql(file(), statement).isValid());
@@ -196,7 +196,7 @@ void TST_STORE::an_older_schema_is_upgraded_and_loses_nothing()
     QVERIFY(m_store->save_device(make_row("New")));
 }
 
-void TST_STORE::a_newer_schema_is_left_alone()
+void TEST_STORE::a_newer_schema_is_left_alone()
 {
     make_file(file(), "A");
     QVERIFY(run_sql(file(), "UPDATE meta SET value = '3' WHERE name = 'schema_version'").isValid());
@@ -220,7 +220,7 @@ void TST_STORE::a_newer_schema_is_left_alone()
 }
 
 // Texts that are compared as bytes would be cut at the first zero byte of a character.
-void TST_STORE::another_text_encoding_is_left_alone()
+void TEST_STORE::another_text_encoding_is_left_alone()
 {
     const QString connection = QStringLiteral("another encoding");
     {
@@ -246,7 +246,7 @@ void TST_STORE::another_text_encoding_is_left_alone()
     QCOMPARE(read_file(file()), before);
 }
 
-void TST_STORE::two_programs_make_one_file()
+void TEST_STORE::two_programs_make_one_file()
 {
     GFPDB_STORE other(m_place->db_dir());
     QVERIFY(m_store->is_writable());
@@ -258,7 +258,7 @@ void TST_STORE::two_programs_make_one_file()
     QCOMPARE(other.get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
 }
 
-void TST_STORE::commits_reach_the_disk()
+void TEST_STORE::commits_reach_the_disk()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     const QStringList connections = QSqlDatabase::connectionNames().filter(QString::fromStdString(m_place->db_dir()));
@@ -272,7 +272,7 @@ void TST_STORE::commits_reach_the_disk()
     QCOMPARE(pragma("PRAGMA journal_mode"), QStringLiteral("truncate"));
 }
 
-void TST_STORE::nothing_stays_open_but_the_database()
+void TEST_STORE::nothing_stays_open_but_the_database()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     QVERIFY(m_store->save_device(make_row("B")));
@@ -280,7 +280,7 @@ void TST_STORE::nothing_stays_open_but_the_database()
     QCOMPARE(open_files(m_place->db_dir()), QStringList{QString::fromStdString(m_place->db_file())});
 }
 
-void TST_STORE::a_removed_database_is_let_go()
+void TEST_STORE::a_removed_database_is_let_go()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     QVERIFY(QFile::remove(QString::fromStdString(m_place->db_file())));
@@ -291,7 +291,7 @@ void TST_STORE::a_removed_database_is_let_go()
     QCOMPARE(open_files(m_place->db_dir()), QStringList());
 }
 
-void TST_STORE::a_row_comes_back_whole()
+void TEST_STORE::a_row_comes_back_whole()
 {
     GFPDB_ROW row = make_row("A");
     row.template_name = "T";
@@ -317,7 +317,7 @@ void TST_STORE::a_row_comes_back_whole()
     QCOMPARE(saved_at.timeSpec(), Qt::UTC);
 }
 
-void TST_STORE::texts_come_back_byte_for_byte_data()
+void TEST_STORE::texts_come_back_byte_for_byte_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("empty") << QByteArray("");
@@ -331,7 +331,7 @@ void TST_STORE::texts_come_back_byte_for_byte_data()
     QTest::newRow("long") << QByteArray(10000, 'x');
 }
 
-void TST_STORE::texts_come_back_byte_for_byte()
+void TEST_STORE::texts_come_back_byte_for_byte()
 {
     QFETCH(QByteArray, text);
     const std::string value = text.toStdString();
@@ -353,7 +353,7 @@ void TST_STORE::texts_come_back_byte_for_byte()
     QCOMPARE(text_of(*m_store->find_device(FAMILY, ACTIVE_SERIAL, row.name)), text_of(row));
 }
 
-void TST_STORE::texts_can_be_read_by_other_programs()
+void TEST_STORE::texts_can_be_read_by_other_programs()
 {
     const std::string name = "B\xC3\xA4ume";
     QVERIFY(m_store->save_device(make_row(name)));
@@ -364,7 +364,7 @@ void TST_STORE::texts_can_be_read_by_other_programs()
              QStringLiteral("texttexttext"));
 }
 
-void TST_STORE::unset_numbers_stay_unset()
+void TEST_STORE::unset_numbers_stay_unset()
 {
     GFPDB_ROW row = make_row("A");
     row.total_die = std::nullopt;
@@ -377,7 +377,7 @@ void TST_STORE::unset_numbers_stay_unset()
 }
 
 // The two lists need not look at the records, which are large.
-void TST_STORE::names_come_from_an_index()
+void TEST_STORE::names_come_from_an_index()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     const auto plan = [this](const char* statement) {
@@ -398,7 +398,7 @@ void TST_STORE::names_come_from_an_index()
              QStringLiteral("SEARCH device USING COVERING INDEX device_keys (name_key=?)"));
 }
 
-void TST_STORE::the_history_tells_what_when_and_by_whom()
+void TEST_STORE::the_history_tells_what_when_and_by_whom()
 {
     GFPDB_ROW row = make_row("A");
     row.template_name = "T";
@@ -430,7 +430,7 @@ void TST_STORE::the_history_tells_what_when_and_by_whom()
     }
 }
 
-void TST_STORE::the_history_has_the_name_of_the_user_database_without_a_variable()
+void TEST_STORE::the_history_has_the_name_of_the_user_database_without_a_variable()
 {
     const QString name = QFileInfo(QString::fromStdString(m_place->path("."))).owner();
     QVERIFY(!name.isEmpty());
@@ -446,7 +446,7 @@ void TST_STORE::the_history_has_the_name_of_the_user_database_without_a_variable
     }
 }
 
-void TST_STORE::history_has_whole_rows()
+void TEST_STORE::history_has_whole_rows()
 {
     GFPDB_ROW row = make_row("A");
     QVERIFY(m_store->save_device(row));
@@ -459,7 +459,7 @@ void TST_STORE::history_has_whole_rows()
     QVERIFY(m_store->find_history(1).has_value());
 }
 
-void TST_STORE::reads_follow_a_replaced_file()
+void TEST_STORE::reads_follow_a_replaced_file()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     make_file(file(), "B");
@@ -470,14 +470,14 @@ void TST_STORE::reads_follow_a_replaced_file()
     QCOMPARE(m_store->get_problem(), std::string());
 }
 
-void TST_STORE::the_first_change_of_a_replaced_file_is_refused_data()
+void TEST_STORE::the_first_change_of_a_replaced_file_is_refused_data()
 {
     QTest::addColumn<bool>("is_read_before");
     QTest::newRow("at once") << false;
     QTest::newRow("after a read") << true;
 }
 
-void TST_STORE::the_first_change_of_a_replaced_file_is_refused()
+void TEST_STORE::the_first_change_of_a_replaced_file_is_refused()
 {
     QFETCH(bool, is_read_before);
     const std::string error = "The database " + file() +
@@ -506,7 +506,7 @@ void TST_STORE::the_first_change_of_a_replaced_file_is_refused()
     }
 }
 
-void TST_STORE::a_reload_accepts_a_replaced_file()
+void TEST_STORE::a_reload_accepts_a_replaced_file()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     make_file(file(), "B");
@@ -517,7 +517,7 @@ void TST_STORE::a_reload_accepts_a_replaced_file()
 }
 
 // The same file, but with the content of another one.
-void TST_STORE::a_file_overwritten_by_another_database_is_noticed()
+void TEST_STORE::a_file_overwritten_by_another_database_is_noticed()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     QVERIFY(m_store->save_device(make_row("A2")));
@@ -535,7 +535,7 @@ void TST_STORE::a_file_overwritten_by_another_database_is_noticed()
     QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"B", "C"}));
 }
 
-void TST_STORE::a_removed_file_is_noticed_and_made_anew()
+void TEST_STORE::a_removed_file_is_noticed_and_made_anew()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     QVERIFY(QFile::remove(QString::fromStdString(file())));
@@ -549,7 +549,7 @@ void TST_STORE::a_removed_file_is_noticed_and_made_anew()
     QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"B"});
 }
 
-void TST_STORE::a_removed_directory_is_noticed()
+void TEST_STORE::a_removed_directory_is_noticed()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     QVERIFY(QDir(QString::fromStdString(m_place->db_dir())).removeRecursively());
@@ -564,7 +564,7 @@ void TST_STORE::a_removed_directory_is_noticed()
     QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_dir())));
 }
 
-void TST_STORE::a_file_that_someone_else_made_is_used()
+void TEST_STORE::a_file_that_someone_else_made_is_used()
 {
     QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
     make_file(file(), "B");
@@ -573,7 +573,7 @@ void TST_STORE::a_file_that_someone_else_made_is_used()
     QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"B", "C"}));
 }
 
-void TST_STORE::a_closed_connection_is_opened_again()
+void TEST_STORE::a_closed_connection_is_opened_again()
 {
     QVERIFY(m_store->save_device(make_row("A")));
     const QStringList connections = QSqlDatabase::connectionNames().filter(QString::fromStdString(m_place->db_dir()));
@@ -583,5 +583,5 @@ void TST_STORE::a_closed_connection_is_opened_again()
     QVERIFY(m_store->save_device(make_row("B")));
 }
 
-QTEST_GUILESS_MAIN(TST_STORE)
-#include "tst_store.moc"
+QTEST_GUILESS_MAIN(TEST_STORE)
+#include "test_store.moc"

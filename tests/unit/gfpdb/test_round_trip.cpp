@@ -122,7 +122,7 @@ NAMES names_of(const std::map<std::string, std::string>& records)
 
 } // namespace
 
-class TST_ROUND_TRIP : public QObject
+class TEST_ROUND_TRIP : public QObject
 {
     Q_OBJECT
 
@@ -141,17 +141,17 @@ private:
     std::unique_ptr<GFPDB_PLACE> m_place;
 };
 
-void TST_ROUND_TRIP::init()
+void TEST_ROUND_TRIP::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>(GFPDB_PLACE::ON::MEMORY);
 }
 
-void TST_ROUND_TRIP::cleanup()
+void TEST_ROUND_TRIP::cleanup()
 {
     m_place.reset();
 }
 
-void TST_ROUND_TRIP::a_saved_record_is_read_byte_for_byte()
+void TEST_ROUND_TRIP::a_saved_record_is_read_byte_for_byte()
 {
     const bool holds = rc::check("a saved record is read byte for byte", [this] {
         GFPDB_MGR* manager = fresh_manager();
@@ -173,7 +173,7 @@ void TST_ROUND_TRIP::a_saved_record_is_read_byte_for_byte()
     QVERIFY(holds);
 }
 
-void TST_ROUND_TRIP::a_restored_record_is_the_deleted_one()
+void TEST_ROUND_TRIP::a_restored_record_is_the_deleted_one()
 {
     int history_id = 0;
     const bool holds = rc::check("a restored record is the deleted one", [&] {
@@ -193,7 +193,7 @@ void TST_ROUND_TRIP::a_restored_record_is_the_deleted_one()
     QVERIFY(holds);
 }
 
-void TST_ROUND_TRIP::save_anything(GFPDB_MGR& manager, EXPECTED& expected)
+void TEST_ROUND_TRIP::save_anything(GFPDB_MGR& manager, EXPECTED& expected)
 {
     const std::string name = *rc::gen::element<std::string>("a", "b", "c", "d");
     const std::string template_name = *rc::gen::element<std::string>("", "", "t", "u", "a");
@@ -220,7 +220,7 @@ void TST_ROUND_TRIP::save_anything(GFPDB_MGR& manager, EXPECTED& expected)
         expected.templates[template_name] = saved;
 }
 
-void TST_ROUND_TRIP::change_anything(GFPDB_MGR& manager, EXPECTED& expected)
+void TEST_ROUND_TRIP::change_anything(GFPDB_MGR& manager, EXPECTED& expected)
 {
     const int action = *rc::gen::inRange(0, 4);
     if (action <= 1) {
@@ -241,7 +241,7 @@ void TST_ROUND_TRIP::change_anything(GFPDB_MGR& manager, EXPECTED& expected)
     }
 }
 
-void TST_ROUND_TRIP::any_row_of_changes_leaves_what_it_should()
+void TEST_ROUND_TRIP::any_row_of_changes_leaves_what_it_should()
 {
     const bool holds = rc::check("any row of changes leaves what it should", [this] {
         EXPECTED expected;
@@ -266,5 +266,5 @@ void TST_ROUND_TRIP::any_row_of_changes_leaves_what_it_should()
     QVERIFY(holds);
 }
 
-QTEST_GUILESS_MAIN(TST_ROUND_TRIP)
-#include "tst_round_trip.moc"
+QTEST_GUILESS_MAIN(TEST_ROUND_TRIP)
+#include "test_round_trip.moc"

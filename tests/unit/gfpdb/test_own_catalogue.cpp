@@ -17,7 +17,7 @@ const char CATALOGUE[] =
 
 } // namespace
 
-class TST_OWN_CATALOGUE : public QObject
+class TEST_OWN_CATALOGUE : public QObject
 {
     Q_OBJECT
 
@@ -39,18 +39,18 @@ private:
     GFPDB_MGR* m_mgr = nullptr;
 };
 
-void TST_OWN_CATALOGUE::init()
+void TEST_OWN_CATALOGUE::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
     m_mgr = fresh_manager();
 }
 
-void TST_OWN_CATALOGUE::cleanup()
+void TEST_OWN_CATALOGUE::cleanup()
 {
     m_place.reset();
 }
 
-void TST_OWN_CATALOGUE::names_come_in_the_order_of_the_catalogue()
+void TEST_OWN_CATALOGUE::names_come_in_the_order_of_the_catalogue()
 {
     NAMES names;
     QCOMPARE(m_mgr->get_builtin_flash_names(names, FAMILY, ACTIVE_SERIAL, 0),
@@ -58,7 +58,7 @@ void TST_OWN_CATALOGUE::names_come_in_the_order_of_the_catalogue()
     QVERIFY(!m_mgr->is_builtin_flash("MX25L25645G"));
 }
 
-void TST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says_data()
+void TEST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("properties");
@@ -71,7 +71,7 @@ void TST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says_data()
     QTest::newRow("unknown") << QStringLiteral("Dog") << false << false;
 }
 
-void TST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says()
+void TEST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says()
 {
     QFETCH(QString, name);
 
@@ -79,7 +79,7 @@ void TST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says()
     QTEST(m_mgr->is_hidden_flash(name.toStdString(), true), "flows");
 }
 
-void TST_OWN_CATALOGUE::parts_are_hidden_for_serial_schemes_only()
+void TEST_OWN_CATALOGUE::parts_are_hidden_for_serial_schemes_only()
 {
     m_mgr->set_config_scheme(QUAD);
     QVERIFY(m_mgr->is_hidden_flash("Cat", false));
@@ -88,7 +88,7 @@ void TST_OWN_CATALOGUE::parts_are_hidden_for_serial_schemes_only()
 }
 
 // The catalogue may get a part of a name that a user has taken before.
-void TST_OWN_CATALOGUE::a_custom_device_is_never_hidden()
+void TEST_OWN_CATALOGUE::a_custom_device_is_never_hidden()
 {
     QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "Mine"), m_place->db_dir()));
     QVERIFY(run_sql(m_place->db_file(), "UPDATE device SET name = 'Cat', name_key = 'cat'").isValid());
@@ -101,7 +101,7 @@ void TST_OWN_CATALOGUE::a_custom_device_is_never_hidden()
     QVERIFY(!m_mgr->find_flash("Cat", true)->is_user_defined());
 }
 
-void TST_OWN_CATALOGUE::other_voltages_and_densities_are_offered_too()
+void TEST_OWN_CATALOGUE::other_voltages_and_densities_are_offered_too()
 {
     const NAMES voltages = gfpdb_voltage_options(GFPDB_SCHEME_KIND::SERIAL);
     const NAMES densities = gfpdb_density_options(GFPDB_SCHEME_KIND::SERIAL);
@@ -116,14 +116,14 @@ void TST_OWN_CATALOGUE::other_voltages_and_densities_are_offered_too()
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_VOLTAGE, std::string("5V")), std::string());
 }
 
-void TST_OWN_CATALOGUE::every_byte_of_an_id_has_two_digits()
+void TEST_OWN_CATALOGUE::every_byte_of_an_id_has_two_digits()
 {
     QCOMPARE(m_mgr->find_flash("Zebra", true)->get_string_property(GFPDB_FLASH_DEVICE_ID), std::string("0x0A 0x1B"));
     QCOMPARE(m_mgr->find_flash("Ant", true)->get_string_property(GFPDB_FLASH_DEVICE_ID),
              std::string("0xC2 0x20 0x15 0x00 0x01 0xFF"));
 }
 
-void TST_OWN_CATALOGUE::known_numbers_are_set()
+void TEST_OWN_CATALOGUE::known_numbers_are_set()
 {
     const GFPDB_FLASH* record = m_mgr->find_flash("Zebra", true);
 
@@ -141,7 +141,7 @@ int main(int argc, char** argv)
     const std::string path = directory.filePath(QStringLiteral("catalogue.csv")).toStdString();
     write_file(path, CATALOGUE);
     qputenv("GFPDB_CATALOGUE", QByteArray::fromStdString(path));
-    TST_OWN_CATALOGUE test;
+    TEST_OWN_CATALOGUE test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "tst_own_catalogue.moc"
+#include "test_own_catalogue.moc"

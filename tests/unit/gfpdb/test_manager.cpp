@@ -19,7 +19,7 @@ bool is_one_of(int value, std::initializer_list<int> values)
 
 } // namespace
 
-class TST_MANAGER : public MANAGER_TEST
+class TEST_MANAGER : public MANAGER_TEST
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private slots:
 };
 
 // The manager lives as long as the process: only before the first test has nobody set a family.
-void TST_MANAGER::initTestCase()
+void TEST_MANAGER::initTestCase()
 {
     const GFPDB_PLACE place;
     const GFPDB_MGR* const manager = GFPDB_HELPER::get_active_flash_manager(true);
@@ -51,7 +51,7 @@ void TST_MANAGER::initTestCase()
     QCOMPARE(manager->get_config_scheme_list(schemes), std::vector<int>());
 }
 
-void TST_MANAGER::the_flow_variant_is_quad_for_active_serial_x4_alone()
+void TEST_MANAGER::the_flow_variant_is_quad_for_active_serial_x4_alone()
 {
     for (const int scheme : ALL_SCHEMES) {
         m_mgr->set_config_scheme(scheme);
@@ -60,7 +60,7 @@ void TST_MANAGER::the_flow_variant_is_quad_for_active_serial_x4_alone()
     }
 }
 
-void TST_MANAGER::what_a_scheme_allows_follows_from_its_kind()
+void TEST_MANAGER::what_a_scheme_allows_follows_from_its_kind()
 {
     for (const int scheme : ALL_SCHEMES) {
         const bool is_serial = is_one_of(scheme, {7, 13});
@@ -83,7 +83,7 @@ void TST_MANAGER::what_a_scheme_allows_follows_from_its_kind()
     }
 }
 
-void TST_MANAGER::lists_follow_the_kind_of_the_scheme()
+void TEST_MANAGER::lists_follow_the_kind_of_the_scheme()
 {
     NAMES voltages = {"was here before"};
     NAMES densities = {"was here before"};
@@ -103,7 +103,7 @@ void TST_MANAGER::lists_follow_the_kind_of_the_scheme()
     QCOMPARE(m_mgr->get_density_list(densities).front(), std::string("8Mb"));
 }
 
-void TST_MANAGER::families_and_schemes_come_from_the_table()
+void TEST_MANAGER::families_and_schemes_come_from_the_table()
 {
     std::vector<int> families = {99};
     std::vector<int> schemes = {99};
@@ -125,7 +125,7 @@ void TST_MANAGER::families_and_schemes_come_from_the_table()
     QCOMPARE(m_mgr->get_config_scheme_list(schemes), std::vector<int>());
 }
 
-void TST_MANAGER::a_scheme_is_chosen_for_the_next_fetch_only()
+void TEST_MANAGER::a_scheme_is_chosen_for_the_next_fetch_only()
 {
     GFPDB_HELPER::set_active_flash_family(PGMIO_ACTIVE_SERIAL_X4);
     QCOMPARE(m_mgr->get_config_scheme(), ACTIVE_SERIAL);
@@ -138,14 +138,14 @@ void TST_MANAGER::a_scheme_is_chosen_for_the_next_fetch_only()
     QCOMPARE(m_mgr->get_config_scheme(), ACTIVE_SERIAL);
 }
 
-void TST_MANAGER::all_schemes_but_the_illegal_one_are_schemes()
+void TEST_MANAGER::all_schemes_but_the_illegal_one_are_schemes()
 {
     for (const int scheme : ALL_SCHEMES)
         QCOMPARE(GFPDB_HELPER::set_active_flash_family(static_cast<PGMIO_CONFIG_SCHEME>(scheme)),
                  scheme >= 0 && scheme <= 24);
 }
 
-void TST_MANAGER::the_manager_is_one_object_and_keeps_the_family()
+void TEST_MANAGER::the_manager_is_one_object_and_keeps_the_family()
 {
     QCOMPARE(GFPDB_HELPER::get_active_flash_manager(false), m_mgr);
     QCOMPARE(GFPDB_HELPER::get_active_flash_manager(true), m_mgr);
@@ -153,7 +153,7 @@ void TST_MANAGER::the_manager_is_one_object_and_keeps_the_family()
     QCOMPARE(m_mgr->get_config_scheme(), ACTIVE_SERIAL);
 }
 
-void TST_MANAGER::builtin_devices_are_listed_for_serial_schemes()
+void TEST_MANAGER::builtin_devices_are_listed_for_serial_schemes()
 {
     NAMES names = {"was here before"};
 
@@ -170,7 +170,7 @@ void TST_MANAGER::builtin_devices_are_listed_for_serial_schemes()
     QCOMPARE(names[7], BUILTIN);
 }
 
-void TST_MANAGER::builtin_devices_carry_the_properties_of_their_part()
+void TEST_MANAGER::builtin_devices_carry_the_properties_of_their_part()
 {
     const GFPDB_FLASH* record = m_mgr->find_flash(BUILTIN, true);
 
@@ -192,7 +192,7 @@ void TST_MANAGER::builtin_devices_carry_the_properties_of_their_part()
     QCOMPARE(m_mgr->find_flash("MT25QL02GCBB", true)->get_int_property(GFPDB_FLASH_TOTAL_DIE, 0), 4);
 }
 
-void TST_MANAGER::builtin_devices_have_flows_that_cannot_be_edited()
+void TEST_MANAGER::builtin_devices_have_flows_that_cannot_be_edited()
 {
     GFPDB_FLASH* record = m_mgr->find_flash(BUILTIN, true);
 
@@ -206,7 +206,7 @@ void TST_MANAGER::builtin_devices_have_flows_that_cannot_be_edited()
     QVERIFY(m_mgr->is_flow_editable(make_device(*m_mgr, "A")));
 }
 
-void TST_MANAGER::builtin_devices_are_found_without_regard_to_case()
+void TEST_MANAGER::builtin_devices_are_found_without_regard_to_case()
 {
     QVERIFY(m_mgr->find_flash(BUILTIN, true) != nullptr);
     QCOMPARE(m_mgr->find_flash("mx25l25645g", false), m_mgr->find_flash(BUILTIN, true));
@@ -216,7 +216,7 @@ void TST_MANAGER::builtin_devices_are_found_without_regard_to_case()
 }
 
 // The catalogue has no die count for this part, and no quad clocks. A part has one die if nothing else is known.
-void TST_MANAGER::unknown_properties_of_a_builtin_part_are_not_set()
+void TEST_MANAGER::unknown_properties_of_a_builtin_part_are_not_set()
 {
     const GFPDB_FLASH* record = m_mgr->find_flash("MX25L1606E", true);
 
@@ -224,5 +224,5 @@ void TST_MANAGER::unknown_properties_of_a_builtin_part_are_not_set()
     QCOMPARE(record->get_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, 77), 77);
 }
 
-QTEST_GUILESS_MAIN(TST_MANAGER)
-#include "tst_manager.moc"
+QTEST_GUILESS_MAIN(TEST_MANAGER)
+#include "test_manager.moc"

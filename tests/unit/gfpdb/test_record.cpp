@@ -25,7 +25,7 @@ int COUNTED_OPERATION::alive = 0;
 
 } // namespace
 
-class TST_RECORD : public QObject
+class TEST_RECORD : public QObject
 {
     Q_OBJECT
 
@@ -49,7 +49,7 @@ private slots:
     void values_of_actions_are_stored_byte_for_byte();
 };
 
-void TST_RECORD::a_new_record_has_its_name_and_nothing_else()
+void TEST_RECORD::a_new_record_has_its_name_and_nothing_else()
 {
     const GFPDB_EMBEDDED_FLASH record("A");
 
@@ -64,7 +64,7 @@ void TST_RECORD::a_new_record_has_its_name_and_nothing_else()
     QVERIFY(record.is_unchanged());
 }
 
-void TST_RECORD::texts_are_kept_as_they_are_data()
+void TEST_RECORD::texts_are_kept_as_they_are_data()
 {
     QTest::addColumn<int>("property");
     for (const int property : {GFPDB_FLASH_NAME, GFPDB_FLASH_DEVICE_ID, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY,
@@ -72,7 +72,7 @@ void TST_RECORD::texts_are_kept_as_they_are_data()
         QTest::addRow("property %d", property) << property;
 }
 
-void TST_RECORD::texts_are_kept_as_they_are()
+void TEST_RECORD::texts_are_kept_as_they_are()
 {
     QFETCH(int, property);
     const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
@@ -88,7 +88,7 @@ void TST_RECORD::texts_are_kept_as_they_are()
     QCOMPARE(text_of(record), before);
 }
 
-void TST_RECORD::numbers_are_kept_and_shown_in_decimal_data()
+void TEST_RECORD::numbers_are_kept_and_shown_in_decimal_data()
 {
     QTest::addColumn<int>("property");
     for (const int property :
@@ -96,7 +96,7 @@ void TST_RECORD::numbers_are_kept_and_shown_in_decimal_data()
         QTest::addRow("property %d", property) << property;
 }
 
-void TST_RECORD::numbers_are_kept_and_shown_in_decimal()
+void TEST_RECORD::numbers_are_kept_and_shown_in_decimal()
 {
     QFETCH(int, property);
     const auto id = static_cast<GFPDB_FLASH_PROPERTY>(property);
@@ -112,7 +112,7 @@ void TST_RECORD::numbers_are_kept_and_shown_in_decimal()
     }
 }
 
-void TST_RECORD::a_property_of_the_other_kind_is_ignored()
+void TEST_RECORD::a_property_of_the_other_kind_is_ignored()
 {
     GFPDB_EMBEDDED_FLASH record("A");
     const std::string before = text_of(record);
@@ -126,7 +126,7 @@ void TST_RECORD::a_property_of_the_other_kind_is_ignored()
     QVERIFY(record.is_unchanged());
 }
 
-void TST_RECORD::name_and_density_have_setters_of_their_own()
+void TEST_RECORD::name_and_density_have_setters_of_their_own()
 {
     GFPDB_EMBEDDED_FLASH record("A");
 
@@ -138,7 +138,7 @@ void TST_RECORD::name_and_density_have_setters_of_their_own()
     QCOMPARE(record.get_string_property(GFPDB_FLASH_DENSITY), std::string("8Mb"));
 }
 
-void TST_RECORD::flags_and_directory_are_kept()
+void TEST_RECORD::flags_and_directory_are_kept()
 {
     GFPDB_EMBEDDED_FLASH record("A");
 
@@ -150,7 +150,7 @@ void TST_RECORD::flags_and_directory_are_kept()
     QCOMPARE(record.get_db_dir(), std::string("/a/"));
 }
 
-void TST_RECORD::operations_come_in_the_order_in_which_they_were_set()
+void TEST_RECORD::operations_come_in_the_order_in_which_they_were_set()
 {
     GFPDB_EMBEDDED_FLASH record("A");
     std::vector<GFPDB_OPERATION*> expected;
@@ -165,7 +165,7 @@ void TST_RECORD::operations_come_in_the_order_in_which_they_were_set()
     QVERIFY(record.find_operation(5, QUAD_IO) == nullptr);
 }
 
-void TST_RECORD::the_variants_are_two_sets()
+void TEST_RECORD::the_variants_are_two_sets()
 {
     GFPDB_EMBEDDED_FLASH record("A");
     GFPDB_OPERATION* single = gfpdb_make_operation(1);
@@ -179,7 +179,7 @@ void TST_RECORD::the_variants_are_two_sets()
     QCOMPARE(record.find_operation(1, QUAD_IO), quad);
 }
 
-void TST_RECORD::an_operation_of_the_same_kind_is_replaced_and_deleted()
+void TEST_RECORD::an_operation_of_the_same_kind_is_replaced_and_deleted()
 {
     GFPDB_EMBEDDED_FLASH record("A");
     auto* first = new COUNTED_OPERATION(1);
@@ -198,7 +198,7 @@ void TST_RECORD::an_operation_of_the_same_kind_is_replaced_and_deleted()
     QCOMPARE(record.get_operations(SINGLE_IO)->size(), std::size_t(2));
 }
 
-void TST_RECORD::clearing_deletes_both_variants()
+void TEST_RECORD::clearing_deletes_both_variants()
 {
     GFPDB_EMBEDDED_FLASH record("A");
     record.set_operation(new COUNTED_OPERATION(1), SINGLE_IO);
@@ -210,7 +210,7 @@ void TST_RECORD::clearing_deletes_both_variants()
     QVERIFY(record.get_operations(QUAD_IO) == nullptr);
 }
 
-void TST_RECORD::a_record_deletes_its_operations()
+void TEST_RECORD::a_record_deletes_its_operations()
 {
     auto record = std::make_unique<GFPDB_EMBEDDED_FLASH>("A");
     record->set_operation(new COUNTED_OPERATION(1), SINGLE_IO);
@@ -220,7 +220,7 @@ void TST_RECORD::a_record_deletes_its_operations()
     QCOMPARE(COUNTED_OPERATION::alive, 0);
 }
 
-void TST_RECORD::an_operation_without_actions_is_stored()
+void TEST_RECORD::an_operation_without_actions_is_stored()
 {
     GFPDB_EMBEDDED_FLASH record("A");
     record.set_operation(new COUNTED_OPERATION(3), QUAD_IO);
@@ -241,7 +241,7 @@ void TST_RECORD::an_operation_without_actions_is_stored()
     QCOMPARE(read->get_db_dir(), std::string("/a/"));
 }
 
-void TST_RECORD::flows_are_stored_as_documented()
+void TEST_RECORD::flows_are_stored_as_documented()
 {
     GFPDB_EMBEDDED_FLASH record("A");
     GFPDB_OPERATION* operation = gfpdb_make_operation(1);
@@ -257,7 +257,7 @@ void TST_RECORD::flows_are_stored_as_documented()
                          R"("2":"value 2","3":"value 3","4":"value 4"}}],"kind":1},{"actions":[],"kind":4}]})"));
 }
 
-void TST_RECORD::values_of_actions_are_stored_byte_for_byte_data()
+void TEST_RECORD::values_of_actions_are_stored_byte_for_byte_data()
 {
     QTest::addColumn<QByteArray>("value");
     QTest::newRow("empty") << QByteArray("");
@@ -273,7 +273,7 @@ void TST_RECORD::values_of_actions_are_stored_byte_for_byte_data()
     QTest::newRow("a number") << QByteArrayLiteral("007");
 }
 
-void TST_RECORD::values_of_actions_are_stored_byte_for_byte()
+void TEST_RECORD::values_of_actions_are_stored_byte_for_byte()
 {
     QFETCH(QByteArray, value);
     GFPDB_EMBEDDED_FLASH record("A");
@@ -290,5 +290,5 @@ void TST_RECORD::values_of_actions_are_stored_byte_for_byte()
              value.toStdString());
 }
 
-QTEST_GUILESS_MAIN(TST_RECORD)
-#include "tst_record.moc"
+QTEST_GUILESS_MAIN(TEST_RECORD)
+#include "test_record.moc"

@@ -246,7 +246,7 @@ private:
 
 } // namespace
 
-class TST_DURABILITY : public QObject
+class TEST_DURABILITY : public QObject
 {
     Q_OBJECT
 
@@ -274,18 +274,18 @@ private:
     int m_undone_renames = 0;
 };
 
-void TST_DURABILITY::init()
+void TEST_DURABILITY::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
     write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n");
 }
 
-void TST_DURABILITY::cleanup()
+void TEST_DURABILITY::cleanup()
 {
     m_place.reset();
 }
 
-void TST_DURABILITY::kill_a_worker(REPORT& report)
+void TEST_DURABILITY::kill_a_worker(REPORT& report)
 {
     QProcess worker;
     start(worker, *m_place, {QStringLiteral("work")});
@@ -310,7 +310,7 @@ void TST_DURABILITY::kill_a_worker(REPORT& report)
 }
 
 // Everything that was reported is there whole; what was going on happened whole or not at all.
-void TST_DURABILITY::verify_all(REPORT& report)
+void TEST_DURABILITY::verify_all(REPORT& report)
 {
     m_mgr = fresh_manager();
     QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
@@ -330,7 +330,7 @@ void TST_DURABILITY::verify_all(REPORT& report)
 }
 
 // The old name is gone and the new one is not there yet: the history has the old record.
-void TST_DURABILITY::undo_rename(const REPORT& report)
+void TEST_DURABILITY::undo_rename(const REPORT& report)
 {
     const std::string name = report.renamed();
     const std::vector<GFPDB_HISTORY_ENTRY> entries = GFPDB_EMBEDDED_MGR::instance().store().get_history();
@@ -342,7 +342,7 @@ void TST_DURABILITY::undo_rename(const REPORT& report)
     ++m_undone_renames;
 }
 
-void TST_DURABILITY::a_killed_program_loses_nothing_that_it_reported()
+void TEST_DURABILITY::a_killed_program_loses_nothing_that_it_reported()
 {
     REPORT report;
     m_kills_within_a_change = 0;
@@ -363,7 +363,7 @@ void TST_DURABILITY::a_killed_program_loses_nothing_that_it_reported()
     qInfo("%d kills within a change, %d interrupted renames undone", m_kills_within_a_change, m_undone_renames);
 }
 
-void TST_DURABILITY::two_programs_share_a_directory()
+void TEST_DURABILITY::two_programs_share_a_directory()
 {
     const int count = count_from("GFPDB_RECORDS", DEFAULT_RECORDS);
     QProcess programs[2];
@@ -391,7 +391,7 @@ void TST_DURABILITY::two_programs_share_a_directory()
     QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().get_history().empty());
 }
 
-void TST_DURABILITY::a_full_disk_leaves_everything_as_it_was_data()
+void TEST_DURABILITY::a_full_disk_leaves_everything_as_it_was_data()
 {
     QTest::addColumn<QByteArray>("change");
     QTest::newRow("save") << QByteArrayLiteral("save");
@@ -399,7 +399,7 @@ void TST_DURABILITY::a_full_disk_leaves_everything_as_it_was_data()
     QTest::newRow("delete") << QByteArrayLiteral("delete");
 }
 
-void TST_DURABILITY::a_full_disk_leaves_everything_as_it_was()
+void TEST_DURABILITY::a_full_disk_leaves_everything_as_it_was()
 {
     QFETCH(QByteArray, change);
     m_mgr = fresh_manager();
@@ -427,7 +427,7 @@ void TST_DURABILITY::a_full_disk_leaves_everything_as_it_was()
     QVERIFY(do_it());
 }
 
-void TST_DURABILITY::no_file_is_left_where_there_is_no_room_for_one()
+void TEST_DURABILITY::no_file_is_left_where_there_is_no_room_for_one()
 {
     m_mgr = fresh_manager();
     GFPDB_FLASH* record = make_device(*m_mgr, "A");
@@ -444,7 +444,7 @@ void TST_DURABILITY::no_file_is_left_where_there_is_no_room_for_one()
 }
 
 // A small file system of its own; where that may not be mounted, a limit on file sizes stands for it.
-void TST_DURABILITY::a_full_medium_is_told_as_such()
+void TEST_DURABILITY::a_full_medium_is_told_as_such()
 {
     constexpr rlim_t ROOM = 128 * 1024;
     const std::string directory = m_place->path("small/");
@@ -486,7 +486,7 @@ void TST_DURABILITY::a_full_medium_is_told_as_such()
         QVERIFY2(error.find("There is no room for the database " + directory) == 0, error.c_str());
 }
 
-void TST_DURABILITY::changes_fail_when_the_directory_is_gone()
+void TEST_DURABILITY::changes_fail_when_the_directory_is_gone()
 {
     m_mgr = fresh_manager();
     QVERIFY(save(*m_mgr, "A", "1"));
@@ -503,7 +503,7 @@ void TST_DURABILITY::changes_fail_when_the_directory_is_gone()
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
 }
 
-void TST_DURABILITY::changes_fail_once_when_the_file_was_replaced()
+void TEST_DURABILITY::changes_fail_once_when_the_file_was_replaced()
 {
     m_mgr = fresh_manager();
     QVERIFY(save(*m_mgr, "A", "1"));
@@ -534,7 +534,7 @@ int main(int argc, char** argv)
         return work();
     if (arguments.value(1) == QLatin1String("fill"))
         return fill(arguments.value(2).toStdString(), arguments.value(3).toInt());
-    TST_DURABILITY test;
+    TEST_DURABILITY test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "tst_durability.moc"
+#include "test_durability.moc"

@@ -20,7 +20,7 @@ void expect_warning(const std::string& text)
 
 } // namespace
 
-class TST_MANAGER_NAMES : public MANAGER_TEST
+class TEST_MANAGER_NAMES : public MANAGER_TEST
 {
     Q_OBJECT
 
@@ -66,26 +66,26 @@ private:
     std::string unread_error(const std::string& name) const;
 };
 
-void TST_MANAGER_NAMES::save_with_builtin_name()
+void TEST_MANAGER_NAMES::save_with_builtin_name()
 {
     save("Before");
     run_sql(m_place->db_file(),
             "UPDATE device SET name = '" + BUILTIN + "', name_key = lower('" + BUILTIN + "') WHERE name = 'Before'");
 }
 
-void TST_MANAGER_NAMES::break_flows() const
+void TEST_MANAGER_NAMES::break_flows() const
 {
     run_sql(m_place->db_file(), "UPDATE device SET single_flows = '{', revision = 'broken'");
 }
 
-std::string TST_MANAGER_NAMES::unread_error(const std::string& name) const
+std::string TEST_MANAGER_NAMES::unread_error(const std::string& name) const
 {
     return "The device \"" + name +
            "\" is neither deleted nor replaced, because it could not be read when it was last " +
            "looked for: " + flows_error();
 }
 
-void TST_MANAGER_NAMES::a_name_in_use_is_given_as_it_is_stored()
+void TEST_MANAGER_NAMES::a_name_in_use_is_given_as_it_is_stored()
 {
     save("Device", "Template");
     const std::string here = " for this family and configuration mode: choose another name.";
@@ -105,7 +105,7 @@ void TST_MANAGER_NAMES::a_name_in_use_is_given_as_it_is_stored()
     QCOMPARE(save_error("New", "template"), "There is a stored template called \"Template\" already." + CASE_NOTE);
 }
 
-void TST_MANAGER_NAMES::the_shown_device_may_change_the_case_of_its_name()
+void TEST_MANAGER_NAMES::the_shown_device_may_change_the_case_of_its_name()
 {
     save("Device");
     save("Other");
@@ -119,7 +119,7 @@ void TST_MANAGER_NAMES::the_shown_device_may_change_the_case_of_its_name()
     QVERIFY(!device_error("DEVICE").empty());
 }
 
-void TST_MANAGER_NAMES::the_name_of_the_shown_device_is_refused_as_its_own()
+void TEST_MANAGER_NAMES::the_name_of_the_shown_device_is_refused_as_its_own()
 {
     save("Device");
 
@@ -129,7 +129,7 @@ void TST_MANAGER_NAMES::the_name_of_the_shown_device_is_refused_as_its_own()
                                                  "Enter another name to rename it."));
 }
 
-void TST_MANAGER_NAMES::a_rename_that_changes_only_case_is_one_entry()
+void TEST_MANAGER_NAMES::a_rename_that_changes_only_case_is_one_entry()
 {
     save("Device");
     look_at("Device");
@@ -142,7 +142,7 @@ void TST_MANAGER_NAMES::a_rename_that_changes_only_case_is_one_entry()
     QCOMPARE(history_size(), 1);
 }
 
-void TST_MANAGER_NAMES::looking_at_another_device_starts_afresh()
+void TEST_MANAGER_NAMES::looking_at_another_device_starts_afresh()
 {
     save("Device");
     look_at("Device");
@@ -154,7 +154,7 @@ void TST_MANAGER_NAMES::looking_at_another_device_starts_afresh()
 }
 
 // As every device, and the row of a new one, begins.
-void TST_MANAGER_NAMES::asking_for_the_densities_starts_afresh()
+void TEST_MANAGER_NAMES::asking_for_the_densities_starts_afresh()
 {
     save("Device");
     look_at("Device");
@@ -171,7 +171,7 @@ void TST_MANAGER_NAMES::asking_for_the_densities_starts_afresh()
                                          CASE_NOTE);
 }
 
-void TST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read_data()
+void TEST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read_data()
 {
     QTest::addColumn<int>("property");
     QTest::addColumn<QString>("name");
@@ -182,7 +182,7 @@ void TST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read_data()
     QTest::newRow("a template's for a template") << int(GFPDB_FLASH_TEMPLATE_NAME) << QStringLiteral("Template");
 }
 
-void TST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read()
+void TEST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read()
 {
     QFETCH(const int, property);
     QFETCH(const QString, name);
@@ -198,7 +198,7 @@ void TST_MANAGER_NAMES::no_name_is_free_while_the_database_cannot_be_read()
     QVERIFY2(error.find("is locked by another program") != std::string::npos, error.c_str());
 }
 
-void TST_MANAGER_NAMES::a_template_name_that_differs_in_case_from_the_device_is_refused_data()
+void TEST_MANAGER_NAMES::a_template_name_that_differs_in_case_from_the_device_is_refused_data()
 {
     QTest::addColumn<QString>("shown");
     QTest::addColumn<QString>("entered");
@@ -209,7 +209,7 @@ void TST_MANAGER_NAMES::a_template_name_that_differs_in_case_from_the_device_is_
     QTest::newRow("an unchanged name") << QStringLiteral("Device") << QString() << QStringLiteral("dEVICE");
 }
 
-void TST_MANAGER_NAMES::a_template_name_that_differs_in_case_from_the_device_is_refused()
+void TEST_MANAGER_NAMES::a_template_name_that_differs_in_case_from_the_device_is_refused()
 {
     QFETCH(const QString, shown);
     QFETCH(const QString, entered);
@@ -225,7 +225,7 @@ void TST_MANAGER_NAMES::a_template_name_that_differs_in_case_from_the_device_is_
     QCOMPARE(template_error("Another"), std::string());
 }
 
-void TST_MANAGER_NAMES::a_template_name_equal_to_the_device_is_left_to_the_dialog()
+void TEST_MANAGER_NAMES::a_template_name_equal_to_the_device_is_left_to_the_dialog()
 {
     save("Device");
     look_at("Device");
@@ -235,7 +235,7 @@ void TST_MANAGER_NAMES::a_template_name_equal_to_the_device_is_left_to_the_dialo
     QVERIFY(!template_error("Device").empty());
 }
 
-void TST_MANAGER_NAMES::the_name_last_checked_is_the_device()
+void TEST_MANAGER_NAMES::the_name_last_checked_is_the_device()
 {
     save("Device");
     look_at("Device");
@@ -248,7 +248,7 @@ void TST_MANAGER_NAMES::the_name_last_checked_is_the_device()
     QCOMPARE(template_error("SECOND"), std::string());
 }
 
-void TST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_can_be_changed()
+void TEST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_can_be_changed()
 {
     save_with_builtin_name();
     look_at(BUILTIN);
@@ -261,7 +261,7 @@ void TST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_can_be_changed(
     QVERIFY(m_mgr->find_flash(BUILTIN, true)->is_user_defined());
 }
 
-void TST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_can_be_renamed()
+void TEST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_can_be_renamed()
 {
     save_with_builtin_name();
     const std::string lower = QString::fromStdString(BUILTIN).toLower().toStdString();
@@ -276,7 +276,7 @@ void TST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_can_be_renamed(
     QCOMPARE(custom_names(*m_mgr), NAMES{"Mine"});
 }
 
-void TST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_comes_back()
+void TEST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_comes_back()
 {
     save_with_builtin_name();
     QVERIFY(remove(BUILTIN));
@@ -289,7 +289,7 @@ void TST_MANAGER_NAMES::a_device_with_the_name_of_a_builtin_part_comes_back()
     QCOMPARE(custom_names(*m_mgr), NAMES{BUILTIN});
 }
 
-void TST_MANAGER_NAMES::only_a_new_device_cannot_have_the_name_of_a_builtin_part()
+void TEST_MANAGER_NAMES::only_a_new_device_cannot_have_the_name_of_a_builtin_part()
 {
     const std::string error = "There is a built-in device called \"" + BUILTIN + "\": choose another name.";
     save("Mine");
@@ -307,7 +307,7 @@ void TST_MANAGER_NAMES::only_a_new_device_cannot_have_the_name_of_a_builtin_part
     QCOMPARE(save_error(BUILTIN), error);
 }
 
-void TST_MANAGER_NAMES::builtin_names_leave_out_those_of_custom_devices()
+void TEST_MANAGER_NAMES::builtin_names_leave_out_those_of_custom_devices()
 {
     const auto count_builtin = [this](int family, int scheme) {
         NAMES names;
@@ -324,7 +324,7 @@ void TST_MANAGER_NAMES::builtin_names_leave_out_those_of_custom_devices()
     QCOMPARE(count_builtin(FAMILY, ACTIVE_SERIAL), std::make_pair(all, std::ptrdiff_t(1)));
 }
 
-void TST_MANAGER_NAMES::a_device_that_no_one_could_read_is_not_deleted()
+void TEST_MANAGER_NAMES::a_device_that_no_one_could_read_is_not_deleted()
 {
     save("A");
     break_flows();
@@ -350,7 +350,7 @@ void TST_MANAGER_NAMES::a_device_that_no_one_could_read_is_not_deleted()
     QVERIFY(!remove("A"));
 }
 
-void TST_MANAGER_NAMES::a_device_that_no_one_could_read_is_not_replaced()
+void TEST_MANAGER_NAMES::a_device_that_no_one_could_read_is_not_replaced()
 {
     save("A");
     break_flows();
@@ -363,7 +363,7 @@ void TST_MANAGER_NAMES::a_device_that_no_one_could_read_is_not_replaced()
     QCOMPARE(run_sql(m_place->db_file(), "SELECT revision FROM device").toString(), QStringLiteral("broken"));
 }
 
-void TST_MANAGER_NAMES::a_device_is_deleted_once_it_was_read()
+void TEST_MANAGER_NAMES::a_device_is_deleted_once_it_was_read()
 {
     save("A");
     break_flows();
@@ -377,7 +377,7 @@ void TST_MANAGER_NAMES::a_device_is_deleted_once_it_was_read()
     QCOMPARE(custom_names(*m_mgr), NAMES());
 }
 
-void TST_MANAGER_NAMES::a_device_that_was_not_read_for_a_lock_is_not_deleted()
+void TEST_MANAGER_NAMES::a_device_that_was_not_read_for_a_lock_is_not_deleted()
 {
     write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
     m_mgr = fresh_manager();
@@ -395,7 +395,7 @@ void TST_MANAGER_NAMES::a_device_that_was_not_read_for_a_lock_is_not_deleted()
     QVERIFY(remove("A"));
 }
 
-void TST_MANAGER_NAMES::a_device_that_no_one_could_read_and_that_is_gone_is_forgotten()
+void TEST_MANAGER_NAMES::a_device_that_no_one_could_read_and_that_is_gone_is_forgotten()
 {
     write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
     m_mgr = fresh_manager();
@@ -415,5 +415,5 @@ void TST_MANAGER_NAMES::a_device_that_no_one_could_read_and_that_is_gone_is_forg
     QVERIFY(remove("A"));
 }
 
-QTEST_GUILESS_MAIN(TST_MANAGER_NAMES)
-#include "tst_manager_names.moc"
+QTEST_GUILESS_MAIN(TEST_MANAGER_NAMES)
+#include "test_manager_names.moc"

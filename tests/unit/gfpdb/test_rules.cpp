@@ -42,7 +42,7 @@ const std::string ID_RULE = "Enter 1 to 16 bytes in hexadecimal, separated by bl
 
 } // namespace
 
-class TST_RULES : public QObject
+class TEST_RULES : public QObject
 {
     Q_OBJECT
 
@@ -76,7 +76,7 @@ private slots:
     void voltages_fit_families();
 };
 
-void TST_RULES::a_name_has_1_to_64_characters()
+void TEST_RULES::a_name_has_1_to_64_characters()
 {
     QCOMPARE(name_error(""), std::string("The device name is empty: 1 to 64 characters are allowed."));
     QCOMPARE(name_error("A"), std::string());
@@ -87,7 +87,7 @@ void TST_RULES::a_name_has_1_to_64_characters()
              std::string("The device name has 10000 characters: 1 to 64 characters are allowed."));
 }
 
-void TST_RULES::characters_of_a_name_are_not_its_bytes()
+void TEST_RULES::characters_of_a_name_are_not_its_bytes()
 {
     QCOMPARE(name_error(repeated(UMLAUT, 64)), std::string());
     QCOMPARE(name_error(repeated(EMOJI, 64)), std::string());
@@ -95,13 +95,13 @@ void TST_RULES::characters_of_a_name_are_not_its_bytes()
              std::string("The device name has 65 characters: 1 to 64 characters are allowed."));
 }
 
-void TST_RULES::a_name_may_hold_what_looks_like_sql_or_markup()
+void TEST_RULES::a_name_may_hold_what_looks_like_sql_or_markup()
 {
     for (const char* name : {"'", ";", "%", "_", "\"", "\\", "<b>bold</b>", "'; DROP TABLE device; --", "a b", "?"})
         QCOMPARE(name_error(name), std::string());
 }
 
-void TST_RULES::a_name_has_no_control_characters_data()
+void TEST_RULES::a_name_has_no_control_characters_data()
 {
     QTest::addColumn<std::string>("name");
     QTest::newRow("line feed") << std::string("a\nb");
@@ -117,7 +117,7 @@ void TST_RULES::a_name_has_no_control_characters_data()
     QTest::newRow("byte order mark") << BYTE_ORDER_MARK + "a";
 }
 
-void TST_RULES::a_name_has_no_control_characters()
+void TEST_RULES::a_name_has_no_control_characters()
 {
     QFETCH(std::string, name);
 
@@ -126,7 +126,7 @@ void TST_RULES::a_name_has_no_control_characters()
                          "digits, marks and blanks."));
 }
 
-void TST_RULES::a_name_has_no_blank_at_its_ends_data()
+void TEST_RULES::a_name_has_no_blank_at_its_ends_data()
 {
     QTest::addColumn<std::string>("name");
     QTest::newRow("before") << std::string(" a");
@@ -135,14 +135,14 @@ void TST_RULES::a_name_has_no_blank_at_its_ends_data()
     QTest::newRow("no-break") << std::string("a\xC2\xA0");
 }
 
-void TST_RULES::a_name_has_no_blank_at_its_ends()
+void TEST_RULES::a_name_has_no_blank_at_its_ends()
 {
     QFETCH(std::string, name);
 
     QCOMPARE(name_error(name), "The device name " + gfpdb_quoted(name) + " begins or ends with a blank: remove it.");
 }
 
-void TST_RULES::the_text_of_the_new_device_row_is_no_name()
+void TEST_RULES::the_text_of_the_new_device_row_is_no_name()
 {
     for (const char* name : {"<<new device>>", "<<New Device>>"})
         QCOMPARE(name_error(name),
@@ -150,12 +150,12 @@ void TST_RULES::the_text_of_the_new_device_row_is_no_name()
     QCOMPARE(name_error("<<new devices>>"), std::string());
 }
 
-void TST_RULES::a_name_is_utf8()
+void TEST_RULES::a_name_is_utf8()
 {
     QCOMPARE(name_error("M\xFCnchen"), std::string("The device name has characters that cannot be stored."));
 }
 
-void TST_RULES::a_passed_check_leaves_the_error_text_alone()
+void TEST_RULES::a_passed_check_leaves_the_error_text_alone()
 {
     std::string error = "as it was";
 
@@ -166,7 +166,7 @@ void TST_RULES::a_passed_check_leaves_the_error_text_alone()
     QCOMPARE(error, std::string("as it was"));
 }
 
-void TST_RULES::a_device_id_is_1_to_16_bytes_data()
+void TEST_RULES::a_device_id_is_1_to_16_bytes_data()
 {
     QTest::addColumn<std::string>("id");
     QTest::newRow("as in the field's hint") << std::string("0xC2 0x20 0x19");
@@ -180,14 +180,14 @@ void TST_RULES::a_device_id_is_1_to_16_bytes_data()
     QTest::newRow("16 bytes") << std::string("00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F");
 }
 
-void TST_RULES::a_device_id_is_1_to_16_bytes()
+void TEST_RULES::a_device_id_is_1_to_16_bytes()
 {
     QFETCH(std::string, id);
 
     QCOMPARE(id_error(id), std::string());
 }
 
-void TST_RULES::a_device_id_that_is_none_says_why_data()
+void TEST_RULES::a_device_id_that_is_none_says_why_data()
 {
     QTest::addColumn<std::string>("id");
     QTest::addColumn<std::string>("error");
@@ -207,7 +207,7 @@ void TST_RULES::a_device_id_that_is_none_says_why_data()
     QTest::newRow("other digits") << std::string("\xD9\xA1") << std::string("\"\xD9\xA1\" is no byte of a device ID. ");
 }
 
-void TST_RULES::a_device_id_that_is_none_says_why()
+void TEST_RULES::a_device_id_that_is_none_says_why()
 {
     QFETCH(std::string, id);
     QFETCH(std::string, error);
@@ -215,7 +215,7 @@ void TST_RULES::a_device_id_that_is_none_says_why()
     QCOMPARE(id_error(id), error + ID_RULE);
 }
 
-void TST_RULES::a_range_has_two_ends()
+void TEST_RULES::a_range_has_two_ends()
 {
     std::string error;
 
@@ -227,7 +227,7 @@ void TST_RULES::a_range_has_two_ends()
     QCOMPARE(error, std::string("The count 1 is out of range: 2 to 4 are allowed."));
 }
 
-void TST_RULES::a_choice_is_one_of_the_list_letter_for_letter()
+void TEST_RULES::a_choice_is_one_of_the_list_letter_for_letter()
 {
     std::string error;
 
@@ -237,7 +237,7 @@ void TST_RULES::a_choice_is_one_of_the_list_letter_for_letter()
     QVERIFY(!gfpdb_check_choice("", {"3.3V"}, "I/O voltage", error));
 }
 
-void TST_RULES::quoted_texts_stay_on_one_line_and_short()
+void TEST_RULES::quoted_texts_stay_on_one_line_and_short()
 {
     QCOMPARE(gfpdb_quoted("a"), std::string("\"a\""));
     QCOMPARE(gfpdb_quoted("a\nb\tc"), std::string("\"a?b?c\""));
@@ -246,7 +246,7 @@ void TST_RULES::quoted_texts_stay_on_one_line_and_short()
     QCOMPARE(gfpdb_quoted(repeated("a", 65)), '"' + repeated("a", 64) + "...\"");
 }
 
-void TST_RULES::names_that_differ_in_case_have_the_same_key()
+void TEST_RULES::names_that_differ_in_case_have_the_same_key()
 {
     const std::string capital_umlaut = "\xC3\x84";
     const std::string decomposed_umlaut = "a\xCC\x88";
@@ -259,7 +259,7 @@ void TST_RULES::names_that_differ_in_case_have_the_same_key()
     QVERIFY(gfpdb_name_key("\xFC") != gfpdb_name_key("\xEF\xBF\xBD"));
 }
 
-void TST_RULES::utf8_comes_back_byte_for_byte()
+void TEST_RULES::utf8_comes_back_byte_for_byte()
 {
     const std::string texts[] = {"",
                                  "a",
@@ -277,7 +277,7 @@ void TST_RULES::utf8_comes_back_byte_for_byte()
         QVERIFY(!gfpdb_is_utf8(text));
 }
 
-void TST_RULES::each_scheme_has_its_kind()
+void TEST_RULES::each_scheme_has_its_kind()
 {
     const auto kinds = [](GFPDB_SCHEME_KIND kind) {
         std::vector<int> schemes;
@@ -294,13 +294,13 @@ void TST_RULES::each_scheme_has_its_kind()
     QCOMPARE(kinds(GFPDB_SCHEME_KIND::NONE).size(), std::size_t(16));
 }
 
-void TST_RULES::only_active_serial_x4_is_quad()
+void TEST_RULES::only_active_serial_x4_is_quad()
 {
     for (int scheme = -1; scheme <= PGMIO_CONFIG_SCHEME_COUNT; ++scheme)
         QCOMPARE(gfpdb_is_quad_scheme(scheme), scheme == 13);
 }
 
-void TST_RULES::each_kind_has_its_properties()
+void TEST_RULES::each_kind_has_its_properties()
 {
     const auto properties = [](GFPDB_SCHEME_KIND kind) {
         std::vector<int> used;
@@ -317,7 +317,7 @@ void TST_RULES::each_kind_has_its_properties()
     QCOMPARE(properties(GFPDB_SCHEME_KIND::NONE), (std::vector<int>{0, 1, 2, 3, 4, 5, 6, 8}));
 }
 
-void TST_RULES::voltage_lists()
+void TEST_RULES::voltage_lists()
 {
     const NAMES serial = {"3.3V",      "3.0V",     "2.5V",      "1.8V",      "1.2V",
                           "2.5-3.6V",  "2.3-3.6V", "1.65-3.6V", "2.7-3.6V",  "3.0-3.6V",
@@ -330,7 +330,7 @@ void TST_RULES::voltage_lists()
     QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::CARD), (NAMES{"3.3V", "1.8V", "2.7-3.6V", "1.7-1.95V"}));
 }
 
-void TST_RULES::density_lists()
+void TEST_RULES::density_lists()
 {
     const NAMES serial = {"1Mb",   "2Mb",   "4Mb",   "8Mb",    "16Mb",   "32Mb",  "64Mb",
                           "128Mb", "256Mb", "512Mb", "1024Mb", "2048Mb", "4096Mb"};
@@ -344,7 +344,7 @@ void TST_RULES::density_lists()
 }
 
 // The lists above are exact, so the shipped catalogue adds nothing to them.
-void TST_RULES::the_catalogue_has_no_other_voltage_or_density()
+void TEST_RULES::the_catalogue_has_no_other_voltage_or_density()
 {
     const NAMES voltages = gfpdb_voltage_options(GFPDB_SCHEME_KIND::SERIAL);
     const NAMES densities = gfpdb_density_options(GFPDB_SCHEME_KIND::SERIAL);
@@ -356,7 +356,7 @@ void TST_RULES::the_catalogue_has_no_other_voltage_or_density()
     }
 }
 
-void TST_RULES::voltages_fit_families_data()
+void TEST_RULES::voltages_fit_families_data()
 {
     QTest::addColumn<std::string>("voltage");
     QTest::addColumn<int>("family");
@@ -385,7 +385,7 @@ void TST_RULES::voltages_fit_families_data()
     QTest::newRow("line break") << std::string("3.3V\n") << last_high << ACTIVE_SERIAL << false;
 }
 
-void TST_RULES::voltages_fit_families()
+void TEST_RULES::voltages_fit_families()
 {
     QFETCH(std::string, voltage);
     QFETCH(int, family);
@@ -394,5 +394,5 @@ void TST_RULES::voltages_fit_families()
     QTEST(gfpdb_voltage_fits(voltage, family, scheme), "fits");
 }
 
-QTEST_GUILESS_MAIN(TST_RULES)
-#include "tst_rules.moc"
+QTEST_GUILESS_MAIN(TEST_RULES)
+#include "test_rules.moc"

@@ -18,7 +18,7 @@ void expect_lock()
 
 } // namespace
 
-class TST_MANAGER_CHOICES : public MANAGER_TEST
+class TEST_MANAGER_CHOICES : public MANAGER_TEST
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private:
     NAMES more_densities() const;
 };
 
-void TST_MANAGER_CHOICES::save_with(const std::string& name, const std::string& voltage, const std::string& density,
+void TEST_MANAGER_CHOICES::save_with(const std::string& name, const std::string& voltage, const std::string& density,
                                     const std::string& template_name)
 {
     GFPDB_FLASH* const record = make_device(*m_mgr, name);
@@ -54,7 +54,7 @@ void TST_MANAGER_CHOICES::save_with(const std::string& name, const std::string& 
     QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
 }
 
-NAMES TST_MANAGER_CHOICES::more_voltages() const
+NAMES TEST_MANAGER_CHOICES::more_voltages() const
 {
     NAMES values;
     m_mgr->get_voltage_list(values);
@@ -62,7 +62,7 @@ NAMES TST_MANAGER_CHOICES::more_voltages() const
     return NAMES(values.begin() + std::ptrdiff_t(usual), values.end());
 }
 
-NAMES TST_MANAGER_CHOICES::more_densities() const
+NAMES TEST_MANAGER_CHOICES::more_densities() const
 {
     NAMES values;
     m_mgr->get_density_list(values);
@@ -70,7 +70,7 @@ NAMES TST_MANAGER_CHOICES::more_densities() const
     return NAMES(values.begin() + std::ptrdiff_t(usual), values.end());
 }
 
-void TST_MANAGER_CHOICES::values_of_stored_devices_are_offered_and_accepted()
+void TEST_MANAGER_CHOICES::values_of_stored_devices_are_offered_and_accepted()
 {
     QVERIFY(!checked(*m_mgr, GFPDB_FLASH_VOLTAGE, std::string("5V")).empty());
     QVERIFY(!checked(*m_mgr, GFPDB_FLASH_DENSITY, std::string("96Mb")).empty());
@@ -88,7 +88,7 @@ void TST_MANAGER_CHOICES::values_of_stored_devices_are_offered_and_accepted()
     QCOMPARE(more_voltages(), (NAMES{" 4.5 to 5.5 V", "5V"}));
 }
 
-void TST_MANAGER_CHOICES::values_of_stored_templates_are_offered()
+void TEST_MANAGER_CHOICES::values_of_stored_templates_are_offered()
 {
     save_with("A", "5V", "96Mb", "T");
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
@@ -99,7 +99,7 @@ void TST_MANAGER_CHOICES::values_of_stored_templates_are_offered()
     QCOMPARE(more_densities(), NAMES{"96Mb"});
 }
 
-void TST_MANAGER_CHOICES::values_are_offered_for_their_kind_of_scheme_data()
+void TEST_MANAGER_CHOICES::values_are_offered_for_their_kind_of_scheme_data()
 {
     QTest::addColumn<int>("scheme");
     QTest::addColumn<int>("shown");
@@ -113,7 +113,7 @@ void TST_MANAGER_CHOICES::values_are_offered_for_their_kind_of_scheme_data()
     QTest::newRow("parallel and card") << int(PGMIO_AVST_X8) << int(PGMIO_SDMMC_X8) << false;
 }
 
-void TST_MANAGER_CHOICES::values_are_offered_for_their_kind_of_scheme()
+void TEST_MANAGER_CHOICES::values_are_offered_for_their_kind_of_scheme()
 {
     QFETCH(const int, scheme);
     QFETCH(const int, shown);
@@ -134,7 +134,7 @@ void TST_MANAGER_CHOICES::values_are_offered_for_their_kind_of_scheme()
     }
 }
 
-void TST_MANAGER_CHOICES::a_value_is_offered_once()
+void TEST_MANAGER_CHOICES::a_value_is_offered_once()
 {
     save_with("A", "5V", "8Mb", "T");
     save_with("B", "5V", "16Mb");
@@ -144,7 +144,7 @@ void TST_MANAGER_CHOICES::a_value_is_offered_once()
     QCOMPARE(more_densities(), NAMES());
 }
 
-void TST_MANAGER_CHOICES::a_missing_value_is_none()
+void TEST_MANAGER_CHOICES::a_missing_value_is_none()
 {
     save_with("A", "", "");
 
@@ -153,7 +153,7 @@ void TST_MANAGER_CHOICES::a_missing_value_is_none()
     QVERIFY(!checked(*m_mgr, GFPDB_FLASH_VOLTAGE, std::string()).empty());
 }
 
-void TST_MANAGER_CHOICES::values_of_another_program_are_offered_at_once()
+void TEST_MANAGER_CHOICES::values_of_another_program_are_offered_at_once()
 {
     save_with("A", "3.3V", "8Mb");
     QCOMPARE(more_voltages(), NAMES());
@@ -164,7 +164,7 @@ void TST_MANAGER_CHOICES::values_of_another_program_are_offered_at_once()
     QCOMPARE(more_voltages(), NAMES{"6V"});
 }
 
-void TST_MANAGER_CHOICES::values_of_a_restored_device_are_offered()
+void TEST_MANAGER_CHOICES::values_of_a_restored_device_are_offered()
 {
     save_with("A", "5V", "8Mb");
     QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
@@ -176,7 +176,7 @@ void TST_MANAGER_CHOICES::values_of_a_restored_device_are_offered()
     QCOMPARE(more_voltages(), NAMES{"5V"});
 }
 
-void TST_MANAGER_CHOICES::values_that_are_gone_are_not_offered_after_a_reload()
+void TEST_MANAGER_CHOICES::values_that_are_gone_are_not_offered_after_a_reload()
 {
     save_with("A", "5V", "8Mb");
     QCOMPARE(more_voltages(), NAMES{"5V"});
@@ -187,7 +187,7 @@ void TST_MANAGER_CHOICES::values_that_are_gone_are_not_offered_after_a_reload()
     QCOMPARE(more_voltages(), NAMES());
 }
 
-void TST_MANAGER_CHOICES::values_of_another_directory_are_not_offered()
+void TEST_MANAGER_CHOICES::values_of_another_directory_are_not_offered()
 {
     save_with("A", "5V", "8Mb");
     make_dir(m_place->path("other/"));
@@ -198,7 +198,7 @@ void TST_MANAGER_CHOICES::values_of_another_directory_are_not_offered()
     QCOMPARE(more_voltages(), NAMES());
 }
 
-void TST_MANAGER_CHOICES::values_stay_offered_while_they_cannot_be_read()
+void TEST_MANAGER_CHOICES::values_stay_offered_while_they_cannot_be_read()
 {
     write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
     m_mgr = fresh_manager();
@@ -219,7 +219,7 @@ void TST_MANAGER_CHOICES::values_stay_offered_while_they_cannot_be_read()
 }
 
 // A form asks for the lists first.
-void TST_MANAGER_CHOICES::the_values_of_a_device_that_was_found_are_offered()
+void TEST_MANAGER_CHOICES::the_values_of_a_device_that_was_found_are_offered()
 {
     write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
     save_with("A", "5V", "96Mb");
@@ -233,5 +233,5 @@ void TST_MANAGER_CHOICES::the_values_of_a_device_that_was_found_are_offered()
     QCOMPARE(more_densities(), NAMES{"96Mb"});
 }
 
-QTEST_GUILESS_MAIN(TST_MANAGER_CHOICES)
-#include "tst_manager_choices.moc"
+QTEST_GUILESS_MAIN(TEST_MANAGER_CHOICES)
+#include "test_manager_choices.moc"

@@ -25,7 +25,7 @@ void expect_warning(const char* text)
 Q_DECLARE_METATYPE(CHANGE)
 Q_DECLARE_METATYPE(CALL)
 
-class TST_MANAGER_APPLY : public MANAGER_TEST
+class TEST_MANAGER_APPLY : public MANAGER_TEST
 {
     Q_OBJECT
 
@@ -67,7 +67,7 @@ private:
     GFPDB_FLASH* make_bad(const std::string& name);
 };
 
-QString TST_MANAGER_APPLY::content(const std::string& table) const
+QString TEST_MANAGER_APPLY::content(const std::string& table) const
 {
     return run_sql(m_place->db_file(),
                    "SELECT group_concat(quote(family) || quote(scheme) || quote(name) || "
@@ -79,27 +79,27 @@ QString TST_MANAGER_APPLY::content(const std::string& table) const
         .toString();
 }
 
-QString TST_MANAGER_APPLY::reasons() const
+QString TEST_MANAGER_APPLY::reasons() const
 {
     return run_sql(m_place->db_file(), "SELECT group_concat(reason) FROM (SELECT reason FROM history ORDER BY id)")
         .toString();
 }
 
-GFPDB_FLASH* TST_MANAGER_APPLY::make_changed(const std::string& name)
+GFPDB_FLASH* TEST_MANAGER_APPLY::make_changed(const std::string& name)
 {
     GFPDB_FLASH* const record = make_device(*m_mgr, name);
     record->set_density("8Mb");
     return record;
 }
 
-GFPDB_FLASH* TST_MANAGER_APPLY::make_bad(const std::string& name)
+GFPDB_FLASH* TEST_MANAGER_APPLY::make_bad(const std::string& name)
 {
     GFPDB_FLASH* const record = make_device(*m_mgr, name);
     record->set_density("\xFC");
     return record;
 }
 
-void TST_MANAGER_APPLY::a_changed_device_is_one_entry()
+void TEST_MANAGER_APPLY::a_changed_device_is_one_entry()
 {
     const std::string before = text_of(*save("A"));
     run_sql(m_place->db_file(), "UPDATE device SET saved_at = '2024-05-17T09:30:00Z'");
@@ -120,7 +120,7 @@ void TST_MANAGER_APPLY::a_changed_device_is_one_entry()
     QCOMPARE(text_of(*m_mgr->find_flash("A", true)), before);
 }
 
-void TST_MANAGER_APPLY::a_renamed_device_is_one_entry()
+void TEST_MANAGER_APPLY::a_renamed_device_is_one_entry()
 {
     save("A");
 
@@ -132,7 +132,7 @@ void TST_MANAGER_APPLY::a_renamed_device_is_one_entry()
     QCOMPARE(run_sql(m_place->db_file(), "SELECT name FROM history").toString(), QStringLiteral("A"));
 }
 
-void TST_MANAGER_APPLY::saving_an_unchanged_device_changes_nothing()
+void TEST_MANAGER_APPLY::saving_an_unchanged_device_changes_nothing()
 {
     save("A");
     run_sql(m_place->db_file(), "UPDATE device SET saved_at = '2024-05-17T09:30:00Z'");
@@ -149,7 +149,7 @@ void TST_MANAGER_APPLY::saving_an_unchanged_device_changes_nothing()
     QCOMPARE(m_mgr->find_flash("A", true), found);
 }
 
-void TST_MANAGER_APPLY::saving_an_unchanged_device_without_a_delete_changes_nothing()
+void TEST_MANAGER_APPLY::saving_an_unchanged_device_without_a_delete_changes_nothing()
 {
     const std::string revision = save("A")->get_revision();
     const QString before = content("device");
@@ -162,7 +162,7 @@ void TST_MANAGER_APPLY::saving_an_unchanged_device_without_a_delete_changes_noth
     QCOMPARE(again->get_revision(), revision);
 }
 
-void TST_MANAGER_APPLY::whatever_was_changed_is_a_new_state_data()
+void TEST_MANAGER_APPLY::whatever_was_changed_is_a_new_state_data()
 {
     QTest::addColumn<CHANGE>("change");
     const auto add_text = [](const char* what, GFPDB_FLASH_PROPERTY property) {
@@ -196,7 +196,7 @@ void TST_MANAGER_APPLY::whatever_was_changed_is_a_new_state_data()
     });
 }
 
-void TST_MANAGER_APPLY::whatever_was_changed_is_a_new_state()
+void TEST_MANAGER_APPLY::whatever_was_changed_is_a_new_state()
 {
     QFETCH(const CHANGE, change);
     for (const bool is_deleted : {true, false}) {
@@ -217,7 +217,7 @@ void TST_MANAGER_APPLY::whatever_was_changed_is_a_new_state()
     }
 }
 
-void TST_MANAGER_APPLY::storing_an_unchanged_template_again_changes_nothing()
+void TEST_MANAGER_APPLY::storing_an_unchanged_template_again_changes_nothing()
 {
     save("A", "T");
     const QString before = content("template");
@@ -236,7 +236,7 @@ void TST_MANAGER_APPLY::storing_an_unchanged_template_again_changes_nothing()
     QCOMPARE(reasons(), QStringLiteral("replaced,replaced"));
 }
 
-void TST_MANAGER_APPLY::a_device_of_another_program_in_between_becomes_history()
+void TEST_MANAGER_APPLY::a_device_of_another_program_in_between_becomes_history()
 {
     save("A");
     QVERIFY(remove("A"));
@@ -250,7 +250,7 @@ void TST_MANAGER_APPLY::a_device_of_another_program_in_between_becomes_history()
              std::string("single flows of A"));
 }
 
-void TST_MANAGER_APPLY::a_failed_save_puts_the_device_back_data()
+void TEST_MANAGER_APPLY::a_failed_save_puts_the_device_back_data()
 {
     QTest::addColumn<CHANGE>("change");
     QTest::addColumn<QString>("error");
@@ -266,7 +266,7 @@ void TST_MANAGER_APPLY::a_failed_save_puts_the_device_back_data()
         << QStringLiteral("There is a stored template called \"Template\" already.");
 }
 
-void TST_MANAGER_APPLY::a_failed_save_puts_the_device_back()
+void TEST_MANAGER_APPLY::a_failed_save_puts_the_device_back()
 {
     QFETCH(const CHANGE, change);
     QFETCH(const QString, error);
@@ -290,7 +290,7 @@ void TST_MANAGER_APPLY::a_failed_save_puts_the_device_back()
     QCOMPARE(m_mgr->find_flash("A", true), found);
 }
 
-void TST_MANAGER_APPLY::a_device_that_was_put_back_can_be_saved_again()
+void TEST_MANAGER_APPLY::a_device_that_was_put_back_can_be_saved_again()
 {
     save("A");
     QVERIFY(remove("A"));
@@ -304,7 +304,7 @@ void TST_MANAGER_APPLY::a_device_that_was_put_back_can_be_saved_again()
     QCOMPARE(reasons(), QStringLiteral("put back,replaced"));
 }
 
-void TST_MANAGER_APPLY::nothing_is_put_over_a_device_of_another_program()
+void TEST_MANAGER_APPLY::nothing_is_put_over_a_device_of_another_program()
 {
     save("A");
     QVERIFY(remove("A"));
@@ -320,7 +320,7 @@ void TST_MANAGER_APPLY::nothing_is_put_over_a_device_of_another_program()
     QCOMPARE(reasons(), QStringLiteral("deleted"));
 }
 
-void TST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced_data()
+void TEST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced_data()
 {
     QTest::addColumn<QString>("deleted");
     QTest::addColumn<QString>("history");
@@ -328,7 +328,7 @@ void TST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced_data()
     QTest::newRow("by a new device") << QStringLiteral("<<new device>>") << QString();
 }
 
-void TST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced()
+void TEST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced()
 {
     QFETCH(const QString, deleted);
     QFETCH(const QString, history);
@@ -347,7 +347,7 @@ void TST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced()
     QCOMPARE(reasons(), history);
 }
 
-void TST_MANAGER_APPLY::a_save_that_no_delete_precedes_replaces()
+void TEST_MANAGER_APPLY::a_save_that_no_delete_precedes_replaces()
 {
     save("A");
     QVERIFY(remove("<<new device>>"));
@@ -360,7 +360,7 @@ void TST_MANAGER_APPLY::a_save_that_no_delete_precedes_replaces()
     QCOMPARE(reasons(), QStringLiteral("replaced,replaced"));
 }
 
-void TST_MANAGER_APPLY::nothing_is_put_into_another_database()
+void TEST_MANAGER_APPLY::nothing_is_put_into_another_database()
 {
     save("A");
     const std::string other = m_place->path("other.sqlite");
@@ -379,7 +379,7 @@ void TST_MANAGER_APPLY::nothing_is_put_into_another_database()
     QCOMPARE(history_size(), 0);
 }
 
-void TST_MANAGER_APPLY::nothing_is_put_back_in_another_directory()
+void TEST_MANAGER_APPLY::nothing_is_put_back_in_another_directory()
 {
     make_dir(m_place->path("other/"));
     save("A");
@@ -395,7 +395,7 @@ void TST_MANAGER_APPLY::nothing_is_put_back_in_another_directory()
     QCOMPARE(custom_names(*m_mgr), NAMES());
 }
 
-void TST_MANAGER_APPLY::a_failure_to_put_back_says_where_the_device_is()
+void TEST_MANAGER_APPLY::a_failure_to_put_back_says_where_the_device_is()
 {
     write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
     m_mgr = fresh_manager();
@@ -413,7 +413,7 @@ void TST_MANAGER_APPLY::a_failure_to_put_back_says_where_the_device_is()
     QVERIFY(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
 }
 
-void TST_MANAGER_APPLY::other_calls_in_between_end_the_memory_data()
+void TEST_MANAGER_APPLY::other_calls_in_between_end_the_memory_data()
 {
     QTest::addColumn<CALL>("call");
     const auto add = [this](const char* what, const CALL& call) { QTest::newRow(what) << call; };
@@ -426,7 +426,7 @@ void TST_MANAGER_APPLY::other_calls_in_between_end_the_memory_data()
     add("remove a template", [this] { m_mgr->remove_template("none"); });
 }
 
-void TST_MANAGER_APPLY::other_calls_in_between_end_the_memory()
+void TEST_MANAGER_APPLY::other_calls_in_between_end_the_memory()
 {
     QFETCH(const CALL, call);
     save("B");
@@ -444,7 +444,7 @@ void TST_MANAGER_APPLY::other_calls_in_between_end_the_memory()
              QStringLiteral("deleted"));
 }
 
-void TST_MANAGER_APPLY::only_the_next_save_puts_back()
+void TEST_MANAGER_APPLY::only_the_next_save_puts_back()
 {
     save("A");
     QVERIFY(remove("A"));
@@ -457,7 +457,7 @@ void TST_MANAGER_APPLY::only_the_next_save_puts_back()
     QCOMPARE(custom_names(*m_mgr), NAMES{"B"});
 }
 
-void TST_MANAGER_APPLY::a_delete_that_took_nothing_ends_the_memory()
+void TEST_MANAGER_APPLY::a_delete_that_took_nothing_ends_the_memory()
 {
     save("A");
     QVERIFY(remove("A"));
@@ -468,5 +468,5 @@ void TST_MANAGER_APPLY::a_delete_that_took_nothing_ends_the_memory()
     QCOMPARE(reasons(), QStringLiteral("deleted"));
 }
 
-QTEST_GUILESS_MAIN(TST_MANAGER_APPLY)
-#include "tst_manager_apply.moc"
+QTEST_GUILESS_MAIN(TEST_MANAGER_APPLY)
+#include "test_manager_apply.moc"

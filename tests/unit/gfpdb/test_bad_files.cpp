@@ -55,7 +55,7 @@ QStringList entries(const std::string& directory)
 
 } // namespace
 
-class TST_BAD_FILES : public QObject
+class TEST_BAD_FILES : public QObject
 {
     Q_OBJECT
 
@@ -87,19 +87,19 @@ private:
     GFPDB_MGR* m_mgr = nullptr;
 };
 
-void TST_BAD_FILES::init()
+void TEST_BAD_FILES::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
     write_file(m_place->settings(), "[database]\nbusy_timeout=" + std::string(BUSY_TIMEOUT_MS) + "\n");
 }
 
-void TST_BAD_FILES::cleanup()
+void TEST_BAD_FILES::cleanup()
 {
     m_place.reset();
 }
 
 // With the devices A and B and the template T.
-void TST_BAD_FILES::make_database()
+void TEST_BAD_FILES::make_database()
 {
     m_mgr = fresh_manager();
     GFPDB_FLASH* record = make_device(*m_mgr, "A");
@@ -113,7 +113,7 @@ void TST_BAD_FILES::make_database()
 }
 
 // A newly fetched manager says `told` wherever a user looks, changes nothing and still has what is built in.
-void TST_BAD_FILES::verify_unusable(const std::string& told)
+void TEST_BAD_FILES::verify_unusable(const std::string& told)
 {
     NAMES names;
     m_mgr = fresh_manager();
@@ -145,7 +145,7 @@ void TST_BAD_FILES::verify_unusable(const std::string& told)
     QVERIFY(!GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
 }
 
-void TST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone_data()
+void TEST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("statement");
@@ -169,7 +169,7 @@ void TST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone_data()
         << nothing << QByteArrayLiteral("CREATE TABLE meta (name TEXT, value TEXT)") << foreign;
 }
 
-void TST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone()
+void TEST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone()
 {
     QFETCH(QByteArray, content);
     QFETCH(QByteArray, statement);
@@ -184,7 +184,7 @@ void TST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone()
     QCOMPARE(entries(m_place->db_dir()), QStringList(QStringLiteral("gfpdb.sqlite")));
 }
 
-void TST_BAD_FILES::a_truncated_database_is_left_alone_data()
+void TEST_BAD_FILES::a_truncated_database_is_left_alone_data()
 {
     QTest::addColumn<int>("missing");
     QTest::addColumn<QByteArray>("problem");
@@ -202,7 +202,7 @@ void TST_BAD_FILES::a_truncated_database_is_left_alone_data()
     QTest::newRow("10 bytes left") << -10 << too_short;
 }
 
-void TST_BAD_FILES::a_truncated_database_is_left_alone()
+void TEST_BAD_FILES::a_truncated_database_is_left_alone()
 {
     QFETCH(int, missing);
     QFETCH(QByteArray, problem);
@@ -216,7 +216,7 @@ void TST_BAD_FILES::a_truncated_database_is_left_alone()
 }
 
 // Whole pages of the device's record are overwritten; the list of names does not need them.
-void TST_BAD_FILES::a_damaged_page_is_reported_when_it_is_read()
+void TEST_BAD_FILES::a_damaged_page_is_reported_when_it_is_read()
 {
     make_database();
     const std::string sound = read_file(m_place->db_file());
@@ -250,7 +250,7 @@ void TST_BAD_FILES::a_damaged_page_is_reported_when_it_is_read()
     QVERIFY(m_mgr->find_flash("A", true) != nullptr);
 }
 
-void TST_BAD_FILES::a_directory_that_is_none_is_reported_data()
+void TEST_BAD_FILES::a_directory_that_is_none_is_reported_data()
 {
     QTest::addColumn<QString>("directory");
     QTest::addColumn<QByteArray>("problem");
@@ -266,7 +266,7 @@ void TST_BAD_FILES::a_directory_that_is_none_is_reported_data()
         << QStringLiteral("place/") << QByteArrayLiteral("%1gfpdb.sqlite is not a file.");
 }
 
-void TST_BAD_FILES::a_directory_that_is_none_is_reported()
+void TEST_BAD_FILES::a_directory_that_is_none_is_reported()
 {
     QFETCH(QString, directory);
     QFETCH(QByteArray, problem);
@@ -290,7 +290,7 @@ void TST_BAD_FILES::a_directory_that_is_none_is_reported()
     QCOMPARE(read_file(m_place->path("file")), std::string("content"));
 }
 
-void TST_BAD_FILES::a_problem_is_logged_once()
+void TEST_BAD_FILES::a_problem_is_logged_once()
 {
     write_file(m_place->db_file(), "x");
     m_mgr = fresh_manager();
@@ -308,7 +308,7 @@ void TST_BAD_FILES::a_problem_is_logged_once()
     QCOMPARE(messages.texts().size(), 2);
 }
 
-void TST_BAD_FILES::a_problem_that_went_away_is_gone()
+void TEST_BAD_FILES::a_problem_that_went_away_is_gone()
 {
     write_file(m_place->db_file(), "x");
     m_mgr = fresh_manager();
@@ -321,7 +321,7 @@ void TST_BAD_FILES::a_problem_that_went_away_is_gone()
     QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
 }
 
-void TST_BAD_FILES::a_database_locked_for_reading_is_reported()
+void TEST_BAD_FILES::a_database_locked_for_reading_is_reported()
 {
     make_database();
     const OTHER_PROGRAM other(m_place->db_file(), "BEGIN EXCLUSIVE");
@@ -331,7 +331,7 @@ void TST_BAD_FILES::a_database_locked_for_reading_is_reported()
     QCOMPARE(read_file(m_place->db_file()), before);
 }
 
-void TST_BAD_FILES::a_locked_database_is_read_again_when_the_lock_is_gone()
+void TEST_BAD_FILES::a_locked_database_is_read_again_when_the_lock_is_gone()
 {
     make_database();
     {
@@ -353,7 +353,7 @@ void TST_BAD_FILES::a_locked_database_is_read_again_when_the_lock_is_gone()
     QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
 }
 
-void TST_BAD_FILES::a_database_locked_for_writing_can_be_read()
+void TEST_BAD_FILES::a_database_locked_for_writing_can_be_read()
 {
     make_database();
     m_mgr = fresh_manager();
@@ -373,7 +373,7 @@ void TST_BAD_FILES::a_database_locked_for_writing_can_be_read()
 }
 
 // The lock is held by a process of its own, which lets go while this one waits.
-void TST_BAD_FILES::a_change_waits_for_a_lock_that_goes_away()
+void TEST_BAD_FILES::a_change_waits_for_a_lock_that_goes_away()
 {
     make_database();
     write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n");
@@ -390,7 +390,7 @@ void TST_BAD_FILES::a_change_waits_for_a_lock_that_goes_away()
     QCOMPARE(other.exitCode(), 0);
 }
 
-void TST_BAD_FILES::the_busy_timeout_comes_from_the_settings()
+void TEST_BAD_FILES::the_busy_timeout_comes_from_the_settings()
 {
     make_database();
     const auto timeout = [this] {
@@ -409,7 +409,7 @@ void TST_BAD_FILES::the_busy_timeout_comes_from_the_settings()
     }
 }
 
-void TST_BAD_FILES::a_directory_without_a_database_has_no_problem()
+void TEST_BAD_FILES::a_directory_without_a_database_has_no_problem()
 {
     m_mgr = fresh_manager();
 
@@ -444,7 +444,7 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     if (argc == 3 && QByteArray(argv[1]) == "hold-lock")
         return hold_lock(QFile::decodeName(argv[2]));
-    TST_BAD_FILES test;
+    TEST_BAD_FILES test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "tst_bad_files.moc"
+#include "test_bad_files.moc"

@@ -54,7 +54,7 @@ int ask_for_the_custom_directory(const QStringList& base_directories)
 
 } // namespace
 
-class TST_SETTINGS : public QObject
+class TEST_SETTINGS : public QObject
 {
     Q_OBJECT
 
@@ -113,18 +113,18 @@ private:
     std::unique_ptr<GFPDB_PLACE> m_place;
 };
 
-void TST_SETTINGS::init()
+void TEST_SETTINGS::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
 }
 
-void TST_SETTINGS::cleanup()
+void TEST_SETTINGS::cleanup()
 {
     GFPDB_HELPER::set_base_dir(std::string());
     m_place.reset();
 }
 
-void TST_SETTINGS::a_value_is_read_from_its_section()
+void TEST_SETTINGS::a_value_is_read_from_its_section()
 {
     write_file(settings(), "[other]\ncustom_dir=/other/\n[database]\nbusy_timeout=7\n custom_dir = /a b/c/ \r\n[more]\n"
                            "custom_dir=/more/\n");
@@ -133,7 +133,7 @@ void TST_SETTINGS::a_value_is_read_from_its_section()
     QCOMPARE(gfpdb_read_setting("busy_timeout"), std::string("7"));
 }
 
-void TST_SETTINGS::what_is_no_value_of_the_section_is_empty()
+void TEST_SETTINGS::what_is_no_value_of_the_section_is_empty()
 {
     QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
     write_file(settings(), "[other]\ncustom_dir=/other/\n");
@@ -144,7 +144,7 @@ void TST_SETTINGS::what_is_no_value_of_the_section_is_empty()
     QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
 }
 
-void TST_SETTINGS::the_last_line_of_a_key_counts()
+void TEST_SETTINGS::the_last_line_of_a_key_counts()
 {
     write_file(settings(), "[database]\ncustom_dir=/a/\ncustom_dir=/b/\n[x]\n[database]\ncustom_dir=/c/\n");
 
@@ -153,14 +153,14 @@ void TST_SETTINGS::the_last_line_of_a_key_counts()
     QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/d/"));
 }
 
-void TST_SETTINGS::a_byte_order_mark_hides_no_setting_data()
+void TEST_SETTINGS::a_byte_order_mark_hides_no_setting_data()
 {
     QTest::addColumn<QByteArray>("rest");
     QTest::newRow("the section is first") << QByteArrayLiteral("[database]\ncustom_dir=/a/\n");
     QTest::newRow("the section comes later") << QByteArrayLiteral("; mine\n[database]\ncustom_dir=/a/\n");
 }
 
-void TST_SETTINGS::a_byte_order_mark_hides_no_setting()
+void TEST_SETTINGS::a_byte_order_mark_hides_no_setting()
 {
     QFETCH(QByteArray, rest);
     write_file(settings(), "\xEF\xBB\xBF" + rest.toStdString());
@@ -170,7 +170,7 @@ void TST_SETTINGS::a_byte_order_mark_hides_no_setting()
     QCOMPARE(read_file(settings()), rest.replace("/a/", "/b/").toStdString());
 }
 
-void TST_SETTINGS::writing_makes_the_file_and_its_directory()
+void TEST_SETTINGS::writing_makes_the_file_and_its_directory()
 {
     qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("new/deep/settings.ini")));
 
@@ -178,7 +178,7 @@ void TST_SETTINGS::writing_makes_the_file_and_its_directory()
     QCOMPARE(read_file(m_place->path("new/deep/settings.ini")), std::string("[database]\ncustom_dir=/a/\n"));
 }
 
-void TST_SETTINGS::writing_leaves_every_other_line_alone()
+void TEST_SETTINGS::writing_leaves_every_other_line_alone()
 {
     write_file(settings(), "; mine\n[x]\na = 1\n\n[database]\n; here\ncustom_dir=/a/\nbusy_timeout=7\n[y]\nb=2");
 
@@ -190,7 +190,7 @@ void TST_SETTINGS::writing_leaves_every_other_line_alone()
                                                 "busy_timeout=7\nnew=3\n[y]\nb=2\n"));
 }
 
-void TST_SETTINGS::writing_adds_the_section_where_it_is_missing()
+void TEST_SETTINGS::writing_adds_the_section_where_it_is_missing()
 {
     write_file(settings(), "[x]\ncustom_dir=/x/\n");
 
@@ -198,7 +198,7 @@ void TST_SETTINGS::writing_adds_the_section_where_it_is_missing()
     QCOMPARE(read_file(settings()), std::string("[x]\ncustom_dir=/x/\n[database]\ncustom_dir=/a/\n"));
 }
 
-void TST_SETTINGS::writing_leaves_nothing_else_behind()
+void TEST_SETTINGS::writing_leaves_nothing_else_behind()
 {
     qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("alone/settings.ini")));
 
@@ -207,7 +207,7 @@ void TST_SETTINGS::writing_leaves_nothing_else_behind()
     QCOMPARE(entries(m_place->path("alone")), QStringList(QStringLiteral("settings.ini")));
 }
 
-void TST_SETTINGS::any_byte_but_a_line_break_can_be_a_value()
+void TEST_SETTINGS::any_byte_but_a_line_break_can_be_a_value()
 {
     for (const char* value : {"/with blank/", "/\xC3\xA4/", "/\xFC\x01\x7F/", "/a=b;c#d[e]/", "/%20\\n\"'/"}) {
         QVERIFY(gfpdb_write_setting("custom_dir", value));
@@ -221,7 +221,7 @@ void TST_SETTINGS::any_byte_but_a_line_break_can_be_a_value()
     QCOMPARE(read_file(settings()), before);
 }
 
-void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone_data()
+void TEST_SETTINGS::unreadable_settings_are_logged_and_left_alone_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QByteArray>("warning");
@@ -231,7 +231,7 @@ void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone_data()
                                << QByteArrayLiteral("is no settings file: it is too large");
 }
 
-void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone()
+void TEST_SETTINGS::unreadable_settings_are_logged_and_left_alone()
 {
     QFETCH(QByteArray, content);
     QFETCH(QByteArray, warning);
@@ -244,7 +244,7 @@ void TST_SETTINGS::unreadable_settings_are_logged_and_left_alone()
     QCOMPARE(read_file(settings()), content.toStdString());
 }
 
-void TST_SETTINGS::settings_that_cannot_be_written_are_logged()
+void TEST_SETTINGS::settings_that_cannot_be_written_are_logged()
 {
     make_dir(settings());
     expect_settings_warning("cannot be read: it is not a file");
@@ -260,7 +260,7 @@ void TST_SETTINGS::settings_that_cannot_be_written_are_logged()
     QCOMPARE(read_file(m_place->path("file")), std::string("content"));
 }
 
-void TST_SETTINGS::without_the_variable_the_file_is_in_the_configuration_directory()
+void TEST_SETTINGS::without_the_variable_the_file_is_in_the_configuration_directory()
 {
     qunsetenv("GFPDB_SETTINGS");
     const QByteArray configuration = qgetenv("XDG_CONFIG_HOME");
@@ -273,12 +273,12 @@ void TST_SETTINGS::without_the_variable_the_file_is_in_the_configuration_directo
     QCOMPARE(read_file(m_place->path("config/gfpdb/gfpdb.ini")), std::string("[database]\ncustom_dir=/a/\n"));
 }
 
-void TST_SETTINGS::the_default_directory_is_in_the_data_directory()
+void TEST_SETTINGS::the_default_directory_is_in_the_data_directory()
 {
     QCOMPARE(gfpdb_default_dir(), m_place->path("data/gfpdb/"));
 }
 
-void TST_SETTINGS::directories_have_one_form_data()
+void TEST_SETTINGS::directories_have_one_form_data()
 {
     QTest::addColumn<QString>("directory");
     QTest::addColumn<QString>("form");
@@ -293,7 +293,7 @@ void TST_SETTINGS::directories_have_one_form_data()
     QTest::newRow("here") << QStringLiteral(".") << here;
 }
 
-void TST_SETTINGS::directories_have_one_form()
+void TEST_SETTINGS::directories_have_one_form()
 {
     QFETCH(QString, directory);
     QFETCH(QString, form);
@@ -302,7 +302,7 @@ void TST_SETTINGS::directories_have_one_form()
     QCOMPARE(GFPDB_MGR::get_db_custom_dir(), form.toStdString());
 }
 
-void TST_SETTINGS::relative_directories_are_relative_to_the_base_directory_data()
+void TEST_SETTINGS::relative_directories_are_relative_to_the_base_directory_data()
 {
     QTest::addColumn<QString>("base");
     QTest::addColumn<QString>("directory");
@@ -318,7 +318,7 @@ void TST_SETTINGS::relative_directories_are_relative_to_the_base_directory_data(
     QTest::newRow("no base") << QString() << QStringLiteral("a") << here + QStringLiteral("a/");
 }
 
-void TST_SETTINGS::relative_directories_are_relative_to_the_base_directory()
+void TEST_SETTINGS::relative_directories_are_relative_to_the_base_directory()
 {
     QFETCH(const QString, base);
     QFETCH(const QString, directory);
@@ -331,7 +331,7 @@ void TST_SETTINGS::relative_directories_are_relative_to_the_base_directory()
     QCOMPARE(GFPDB_MGR::get_db_custom_dir(), form.toStdString());
 }
 
-void TST_SETTINGS::a_relative_directory_is_saved_below_the_base_directory()
+void TEST_SETTINGS::a_relative_directory_is_saved_below_the_base_directory()
 {
     GFPDB_HELPER::set_base_dir(m_place->path("base"));
 
@@ -342,7 +342,7 @@ void TST_SETTINGS::a_relative_directory_is_saved_below_the_base_directory()
 }
 
 // A directory that is set stays for the rest of a process: what the settings say is asked for by another one.
-void TST_SETTINGS::a_relative_directory_of_the_settings_follows_the_base_directory()
+void TEST_SETTINGS::a_relative_directory_of_the_settings_follows_the_base_directory()
 {
     write_file(settings(), "[database]\ncustom_dir=mine\n");
 
@@ -352,7 +352,7 @@ void TST_SETTINGS::a_relative_directory_of_the_settings_follows_the_base_directo
              std::string("/other/mine/"));
 }
 
-void TST_SETTINGS::a_directory_that_was_set_stays_when_the_base_directory_changes()
+void TEST_SETTINGS::a_directory_that_was_set_stays_when_the_base_directory_changes()
 {
     GFPDB_HELPER::set_base_dir("/base/");
     GFPDB_MGR::set_db_custom_dir("mine");
@@ -362,7 +362,7 @@ void TST_SETTINGS::a_directory_that_was_set_stays_when_the_base_directory_change
     QCOMPARE(GFPDB_MGR::get_db_custom_dir(), std::string("/base/mine/"));
 }
 
-void TST_SETTINGS::devices_are_saved_and_deleted_below_the_base_directory()
+void TEST_SETTINGS::devices_are_saved_and_deleted_below_the_base_directory()
 {
     make_dir(m_place->path("base/mine"));
     GFPDB_HELPER::set_base_dir(m_place->path("base"));
@@ -378,13 +378,13 @@ void TST_SETTINGS::devices_are_saved_and_deleted_below_the_base_directory()
     QCOMPARE(run_sql(file, "SELECT count(*) FROM device").toInt(), 0);
 }
 
-void TST_SETTINGS::an_empty_directory_is_the_default()
+void TEST_SETTINGS::an_empty_directory_is_the_default()
 {
     GFPDB_MGR::set_db_custom_dir("");
     QCOMPARE(GFPDB_MGR::get_db_custom_dir(), m_place->path("data/gfpdb/"));
 }
 
-void TST_SETTINGS::a_saved_directory_is_found_by_the_next_program()
+void TEST_SETTINGS::a_saved_directory_is_found_by_the_next_program()
 {
     make_dir(m_place->path("mine"));
 
@@ -395,7 +395,7 @@ void TST_SETTINGS::a_saved_directory_is_found_by_the_next_program()
     QCOMPARE(entries(m_place->path("mine")), QStringList());
 }
 
-void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused_data()
+void TEST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused_data()
 {
     QTest::addColumn<QString>("directory");
     QTest::addColumn<QString>("problem");
@@ -418,7 +418,7 @@ void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused_data(
         << QStringLiteral("The database directory %1 cannot be reached: File name too long.");
 }
 
-void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused()
+void TEST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused()
 {
     QFETCH(QString, directory);
     QFETCH(QString, problem);
@@ -436,14 +436,14 @@ void TST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused()
     QCOMPARE(read_file(m_place->path("empty/gfpdb.sqlite")), std::string());
 }
 
-void TST_SETTINGS::a_missing_directory_is_created_when_asked()
+void TEST_SETTINGS::a_missing_directory_is_created_when_asked()
 {
     QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->path("new/deep"), true));
     QCOMPARE(gfpdb_read_setting(GFPDB_SETTING_CUSTOM_DIR), m_place->path("new/deep/"));
     QVERIFY(QFileInfo(QString::fromStdString(m_place->path("new/deep"))).isDir());
 }
 
-void TST_SETTINGS::a_refused_directory_leaves_the_settings_alone()
+void TEST_SETTINGS::a_refused_directory_leaves_the_settings_alone()
 {
     write_file(settings(), "[database]\ncustom_dir=/a/");
 
@@ -452,7 +452,7 @@ void TST_SETTINGS::a_refused_directory_leaves_the_settings_alone()
     QCOMPARE(read_file(settings()), std::string("[database]\ncustom_dir=/a/"));
 }
 
-void TST_SETTINGS::settings_that_cannot_be_written_refuse_the_directory()
+void TEST_SETTINGS::settings_that_cannot_be_written_refuse_the_directory()
 {
     make_dir(settings());
 
@@ -460,7 +460,7 @@ void TST_SETTINGS::settings_that_cannot_be_written_refuse_the_directory()
     QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
 }
 
-void TST_SETTINGS::a_directory_of_any_bytes_can_be_used_data()
+void TEST_SETTINGS::a_directory_of_any_bytes_can_be_used_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("blanks") << QByteArrayLiteral("with  blanks");
@@ -471,7 +471,7 @@ void TST_SETTINGS::a_directory_of_any_bytes_can_be_used_data()
     QTest::newRow("control character") << QByteArrayLiteral("a\x01");
 }
 
-void TST_SETTINGS::a_directory_of_any_bytes_can_be_used()
+void TEST_SETTINGS::a_directory_of_any_bytes_can_be_used()
 {
     QFETCH(QByteArray, name);
     const std::string directory = m_place->path(name.toStdString()) + '/';
@@ -493,7 +493,7 @@ void TST_SETTINGS::a_directory_of_any_bytes_can_be_used()
     QCOMPARE(::rmdir(directory.c_str()), 0);
 }
 
-void TST_SETTINGS::only_the_default_directory_is_created_on_demand()
+void TEST_SETTINGS::only_the_default_directory_is_created_on_demand()
 {
     GFPDB_MGR::set_db_custom_dir("");
     GFPDB_MGR* manager = fresh_manager();
@@ -514,8 +514,8 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1String(ASK))
         return ask_for_the_custom_directory(arguments.mid(2));
-    TST_SETTINGS test;
+    TEST_SETTINGS test;
     return QTest::qExec(&test, arguments);
 }
 
-#include "tst_settings.moc"
+#include "test_settings.moc"

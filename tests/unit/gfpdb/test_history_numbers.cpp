@@ -12,7 +12,7 @@ using IDS = QVector<qlonglong>;
 
 } // namespace
 
-class TST_HISTORY_NUMBERS : public QObject
+class TEST_HISTORY_NUMBERS : public QObject
 {
     Q_OBJECT
 
@@ -43,25 +43,25 @@ private:
     std::unique_ptr<GFPDB_STORE> m_store;
 };
 
-void TST_HISTORY_NUMBERS::init()
+void TEST_HISTORY_NUMBERS::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
     m_store = std::make_unique<GFPDB_STORE>(m_place->db_dir());
 }
 
-void TST_HISTORY_NUMBERS::cleanup()
+void TEST_HISTORY_NUMBERS::cleanup()
 {
     m_store.reset();
     m_place.reset();
 }
 
-void TST_HISTORY_NUMBERS::add_state(const std::string& name)
+void TEST_HISTORY_NUMBERS::add_state(const std::string& name)
 {
     QVERIFY(m_store->save_device(make_row(name)));
     QVERIFY(m_store->remove_device(FAMILY, ACTIVE_SERIAL, name));
 }
 
-void TST_HISTORY_NUMBERS::add_template_state()
+void TEST_HISTORY_NUMBERS::add_template_state()
 {
     GFPDB_ROW row = make_row("B");
     row.template_name = "T";
@@ -69,7 +69,7 @@ void TST_HISTORY_NUMBERS::add_template_state()
     QVERIFY(m_store->remove_template("T"));
 }
 
-void TST_HISTORY_NUMBERS::prune(qlonglong from, qlonglong to)
+void TEST_HISTORY_NUMBERS::prune(qlonglong from, qlonglong to)
 {
     GFPDB_PRUNING pruning;
     pruning.is_selected = [=](const GFPDB_HISTORY_ENTRY& entry) { return entry.id >= from && entry.id <= to; };
@@ -77,7 +77,7 @@ void TST_HISTORY_NUMBERS::prune(qlonglong from, qlonglong to)
     QCOMPARE(m_store->prune_history(pruning).value_or(-1), int(to - from + 1));
 }
 
-IDS TST_HISTORY_NUMBERS::ids()
+IDS TEST_HISTORY_NUMBERS::ids()
 {
     IDS ids;
     for (const GFPDB_HISTORY_ENTRY& entry : m_store->get_history())
@@ -85,7 +85,7 @@ IDS TST_HISTORY_NUMBERS::ids()
     return ids;
 }
 
-void TST_HISTORY_NUMBERS::a_new_history_begins_with_one()
+void TEST_HISTORY_NUMBERS::a_new_history_begins_with_one()
 {
     add_state();
     add_state();
@@ -94,7 +94,7 @@ void TST_HISTORY_NUMBERS::a_new_history_begins_with_one()
     QCOMPARE(ids(), (IDS{1, 2, 3}));
 }
 
-void TST_HISTORY_NUMBERS::a_pruned_number_is_not_given_again_data()
+void TEST_HISTORY_NUMBERS::a_pruned_number_is_not_given_again_data()
 {
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("to");
@@ -104,7 +104,7 @@ void TST_HISTORY_NUMBERS::a_pruned_number_is_not_given_again_data()
     QTest::newRow("all") << 1 << 3 << IDS{4, 5};
 }
 
-void TST_HISTORY_NUMBERS::a_pruned_number_is_not_given_again()
+void TEST_HISTORY_NUMBERS::a_pruned_number_is_not_given_again()
 {
     QFETCH(int, from);
     QFETCH(int, to);
@@ -129,7 +129,7 @@ void TST_HISTORY_NUMBERS::a_pruned_number_is_not_given_again()
 }
 
 // As when a dialog saves a device that was not changed: a list of the history that was made before shows the number.
-void TST_HISTORY_NUMBERS::a_taken_record_that_came_back_unchanged_leaves_its_number_unused()
+void TEST_HISTORY_NUMBERS::a_taken_record_that_came_back_unchanged_leaves_its_number_unused()
 {
     const GFPDB_ROW row = make_row("A");
     add_state("B");
@@ -146,7 +146,7 @@ void TST_HISTORY_NUMBERS::a_taken_record_that_came_back_unchanged_leaves_its_num
     QVERIFY(!m_store->find_history(2));
 }
 
-void TST_HISTORY_NUMBERS::nothing_is_noted_before_a_state_is_removed()
+void TEST_HISTORY_NUMBERS::nothing_is_noted_before_a_state_is_removed()
 {
     add_state();
     add_state();
@@ -157,7 +157,7 @@ void TST_HISTORY_NUMBERS::nothing_is_noted_before_a_state_is_removed()
     QCOMPARE(noted(), QStringLiteral("2"));
 }
 
-void TST_HISTORY_NUMBERS::a_number_in_meta_that_is_none_counts_as_nothing_data()
+void TEST_HISTORY_NUMBERS::a_number_in_meta_that_is_none_counts_as_nothing_data()
 {
     QTest::addColumn<QString>("value");
     QTest::addColumn<int>("next");
@@ -166,7 +166,7 @@ void TST_HISTORY_NUMBERS::a_number_in_meta_that_is_none_counts_as_nothing_data()
     QTest::newRow("9") << QStringLiteral("9") << 10;
 }
 
-void TST_HISTORY_NUMBERS::a_number_in_meta_that_is_none_counts_as_nothing()
+void TEST_HISTORY_NUMBERS::a_number_in_meta_that_is_none_counts_as_nothing()
 {
     QFETCH(QString, value);
     QFETCH(int, next);
@@ -178,7 +178,7 @@ void TST_HISTORY_NUMBERS::a_number_in_meta_that_is_none_counts_as_nothing()
     QCOMPARE(ids(), (IDS{1, next}));
 }
 
-void TST_HISTORY_NUMBERS::after_the_highest_of_all_numbers_any_free_one_is_given()
+void TEST_HISTORY_NUMBERS::after_the_highest_of_all_numbers_any_free_one_is_given()
 {
     constexpr qlonglong HIGHEST = std::numeric_limits<qlonglong>::max();
     add_state();
@@ -194,5 +194,5 @@ void TST_HISTORY_NUMBERS::after_the_highest_of_all_numbers_any_free_one_is_given
     QCOMPARE(noted(), QString::number(HIGHEST));
 }
 
-QTEST_GUILESS_MAIN(TST_HISTORY_NUMBERS)
-#include "tst_history_numbers.moc"
+QTEST_GUILESS_MAIN(TEST_HISTORY_NUMBERS)
+#include "test_history_numbers.moc"
