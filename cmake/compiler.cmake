@@ -19,8 +19,8 @@ endif()
 
 # A report names files and lines; the rest of the debug information would only make the build slower.
 if(GFPQ_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -Og -g1)
-    add_link_options(-fsanitize=address,undefined)
+    add_compile_options(-fsanitize=${GFPQ_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -Og -g1)
+    add_link_options(-fsanitize=${GFPQ_SANITIZE})
 endif()
 
 if(GFPQ_COVERAGE)

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Static checks over the tree: formatting, clang-tidy, clazy, cppcheck, shell syntax, catalogues, documentation.
+# Static checks over the tree: formatting, clang-tidy, clazy, cppcheck, shell syntax, catalogues, documentation, spelling.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -56,6 +56,9 @@ shell_syntax() {
     for file in dev .ci/run $(sources '*.sh'); do bash -n "$file"; done
 }
 
+# The words that are spelt so on purpose are in .codespellrc.
+spelling() { sources '*.cpp' '*.h' '*.ui' '*.md' '*.cmake' '*CMakeLists.txt' '*.sh' '*.py' '*.1' | xargs codespell dev; }
+
 # Tabs, trailing blanks and absolute home directories have no place in a source file.
 white_space() {
     ! sources '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' '*.sh' '*.py' | xargs grep -nP '\t|[ \t]+$'
@@ -102,6 +105,7 @@ check "cppcheck" cppcheck_product
 check "shell syntax" shell_syntax
 check "catalogues" catalogues
 check "documentation" documentation
+check "spelling" spelling
 check "white space" white_space
 check "licences" licences
 exit "$failed"
