@@ -22,7 +22,7 @@ TOOL_RUN run_tool(const QStringList& arguments, const QByteArray& input = QByteA
 
 // Saves a device with the flows of the built-in part MX25L25645G, and what else makes it pass all checks; with a
 // template name also as that template.
-void save_part(const std::string& name, int family = FAMILY, int scheme = SERIAL,
+void save_part(const std::string& name, int family = FAMILY, int scheme = ACTIVE_SERIAL,
                const std::string& template_name = std::string(), int total_die = 1);
 
 // A path of the tests for the arguments of the tool.

@@ -57,7 +57,7 @@ void TEST_CLI_BULK::all_records_are_stored_as_they_are()
 
     QVERIFY(store.save_all({with_template_name, device("B")}, {copy_as_template("T")}, no_progress));
 
-    QCOMPARE(text_of(store.find_device(FAMILY, SERIAL, "A").value()), text_of(with_template_name));
+    QCOMPARE(text_of(store.find_device(FAMILY, ACTIVE_SERIAL, "A").value()), text_of(with_template_name));
     QCOMPARE(text_of(store.find_template("T").value()), text_of(copy_as_template("T")));
     QCOMPARE(store.get_template_names(), NAMES{"T"});
     QVERIFY(store.get_history().empty());
@@ -75,7 +75,7 @@ void TEST_CLI_BULK::what_has_the_name_is_replaced()
 
     QVERIFY(store.save_all({other}, {other_template}, no_progress));
 
-    QCOMPARE(store.find_device(FAMILY, SERIAL, "A")->density, std::string("8Mb"));
+    QCOMPARE(store.find_device(FAMILY, ACTIVE_SERIAL, "A")->density, std::string("8Mb"));
     QCOMPARE(store.find_template("T")->density, std::string("8Mb"));
     const std::vector<GFPDB_HISTORY_ENTRY> history = store.get_history();
     QCOMPARE(history.size(), std::size_t(2));

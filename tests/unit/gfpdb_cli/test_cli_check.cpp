@@ -28,7 +28,7 @@ void TEST_CLI_CHECK::check_finds_what_breaks_the_rules()
 {
     const GFPDB_PLACE place;
     const QStringList check = {"check", "-d", q(place.db_dir())};
-    save_part("Good", FAMILY, SERIAL, "T");
+    save_part("Good", FAMILY, ACTIVE_SERIAL, "T");
     TOOL_RUN run = run_tool(check);
     QCOMPARE(run.exit_code, 0);
     QCOMPARE(run.out, QByteArray("2 records, 0 problems\n"));
@@ -120,7 +120,7 @@ void TEST_CLI_CHECK::a_stored_record_keeps_a_built_in_name()
 {
     const GFPDB_PLACE place;
     const QStringList to_directory = {"-d", q(place.db_dir())};
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     run_sql(place.db_file(), "UPDATE device SET name = 'MX25L1606E', name_key = 'mx25l1606e'");
     run_sql(place.db_file(), "UPDATE template SET template_name = 'MX25L3233F', template_key = 'mx25l3233f'");
     const QString file = q(place.path("all.json"));
@@ -136,7 +136,7 @@ void TEST_CLI_CHECK::a_stored_record_keeps_a_built_in_name()
 void TEST_CLI_CHECK::check_finds_flows_that_cannot_be_read()
 {
     const GFPDB_PLACE place;
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     run_sql(place.db_file(), "UPDATE device SET single_flows = 'nonsense'");
     const TOOL_RUN run = run_tool({"check", "-d", q(place.db_dir())});
     QCOMPARE(run.exit_code, 1);
@@ -151,7 +151,7 @@ void TEST_CLI_CHECK::export_leaves_out_only_what_cannot_be_read()
     const GFPDB_PLACE place;
     const QStringList to_directory = {"-d", q(place.db_dir())};
     save_part("A");
-    save_part("Broken", FAMILY, SERIAL, "T");
+    save_part("Broken", FAMILY, ACTIVE_SERIAL, "T");
     run_sql(place.db_file(), "UPDATE device SET quad_flows = 'nonsense' WHERE name = 'Broken'");
     const QByteArray error = "gfpdb: The flows of the device \"Broken\" (family 3, scheme 7) cannot be read: it is not "
                              "exported.\n";
@@ -194,7 +194,7 @@ void TEST_CLI_CHECK::a_record_that_no_search_finds_is_named()
 {
     const GFPDB_PLACE place;
     const QStringList to_directory = {"-d", q(place.db_dir())};
-    save_part("A", FAMILY, SERIAL, "T");
+    save_part("A", FAMILY, ACTIVE_SERIAL, "T");
     save_part("Lost");
     const QByteArray before = exported(place.db_dir());
     run_sql(place.db_file(), "UPDATE device SET name_key = 'lo\xC5\xBFt' WHERE name = 'Lost'");
@@ -231,7 +231,7 @@ void TEST_CLI_CHECK::keys_are_rebuilt_as_far_as_names_are_free()
     const QStringList to_directory = {"-d", q(place.db_dir())};
     for (const char* name : {"A", "B", "C", "D", "E"})
         save_part(name);
-    save_part("F", FAMILY, SERIAL, "T");
+    save_part("F", FAMILY, ACTIVE_SERIAL, "T");
     run_sql(place.db_file(), "UPDATE device SET name_key = CASE name WHEN 'A' THEN 'x' WHEN 'B' THEN 'a' ELSE name_key "
                              "END WHERE name IN ('A', 'B')");
     run_sql(place.db_file(), "UPDATE device SET name_key = 'b' WHERE name = 'A'");

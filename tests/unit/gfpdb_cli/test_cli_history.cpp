@@ -60,8 +60,8 @@ void TEST_CLI_HISTORY::history_lists_and_filters()
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
     qputenv("USER", "someone");
-    save_part("A", FAMILY, SERIAL, "T", 2);
-    save_part("A", FAMILY, SERIAL, "T");
+    save_part("A", FAMILY, ACTIVE_SERIAL, "T", 2);
+    save_part("A", FAMILY, ACTIVE_SERIAL, "T");
     save_part("B", OTHER_FAMILY, QUAD);
     QVERIFY(fresh_manager(OTHER_FAMILY, QUAD)->delete_flash("B", place.db_dir()));
     QVERIFY(fresh_manager()->remove_template("T"));
@@ -103,7 +103,7 @@ void TEST_CLI_HISTORY::restore_refuses_what_it_cannot_do()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, std::string(), 2);
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, std::string(), 2);
     save_part("Mine");
     TOOL_RUN run = run_tool({"restore", "7", "-d", directory});
     QCOMPARE(run.exit_code, 3);
@@ -115,7 +115,7 @@ void TEST_CLI_HISTORY::restore_refuses_what_it_cannot_do()
     run = run_tool({"restore", "1", "--as", "", "-d", directory});
     QCOMPARE(run.exit_code, 2);
     QCOMPARE(run.err, QByteArray("gfpdb: --as is empty.\n"));
-    save_part("With", FAMILY, SERIAL, "T");
+    save_part("With", FAMILY, ACTIVE_SERIAL, "T");
     QVERIFY(fresh_manager()->remove_template("T"));
     QCOMPARE(run_tool({"restore", "2", "-d", directory}).out, QByteArray("Restored the template \"T\"\n"));
 }
@@ -124,7 +124,7 @@ void TEST_CLI_HISTORY::restore_replaces_what_is_in_the_way()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     const QByteArray before = exported(place.db_dir());
     const QString file = exported_file(place, "Mine");
     replace_in_file(file, "\"total_die\": 1", "\"total_die\": 2");
@@ -146,8 +146,8 @@ void TEST_CLI_HISTORY::restore_gives_another_name()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T", 2);
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T", 2);
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     const QStringList listed = {"Mine", "T"};
     QCOMPARE(names(json(run_tool({"list", "--json", "-d", directory}))), listed);
 
@@ -176,9 +176,9 @@ void TEST_CLI_HISTORY::restore_replaces_no_record_of_the_other_kind()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T", 2);
-    save_part("Mine", FAMILY, SERIAL, "T");
-    save_part("Other", FAMILY, SERIAL, "U");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T", 2);
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
+    save_part("Other", FAMILY, ACTIVE_SERIAL, "U");
     const QByteArray before = exported(place.db_dir());
 
     for (const QStringList& arguments :
@@ -219,7 +219,7 @@ void TEST_CLI_HISTORY::restore_checks_the_other_name()
     QFETCH(QString, id);
     QFETCH(QString, name);
     QFETCH(QByteArray, error);
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     QVERIFY(fresh_manager()->delete_flash("Mine", place.db_dir()));
     QVERIFY(fresh_manager()->remove_template("T"));
 
@@ -235,7 +235,7 @@ void TEST_CLI_HISTORY::a_device_with_a_built_in_name_is_restored()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     QVERIFY(fresh_manager()->delete_flash("Mine", place.db_dir()));
     QVERIFY(fresh_manager()->remove_template("T"));
     run_sql(place.db_file(), "UPDATE history SET name = 'MX25L1606E', template_name = 'MX25L3233F'");
@@ -302,7 +302,7 @@ void TEST_CLI_HISTORY::what_is_no_number_of_the_history_is_refused()
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
     QFETCH(QString, id);
-    save_part("Mine", FAMILY, SERIAL, std::string(), 2);
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, std::string(), 2);
     save_part("Mine");
 
     const TOOL_RUN run = run_tool({"restore", id, "-d", directory});
@@ -345,7 +345,7 @@ void TEST_CLI_HISTORY::prune_keeps_what_it_is_told()
     QFETCH(QString, left);
     save_part("Mine");
     save_part("Mine", FAMILY, QUAD);
-    save_part("Gone", FAMILY, SERIAL, "Gone template");
+    save_part("Gone", FAMILY, ACTIVE_SERIAL, "Gone template");
     const std::string copy = "INSERT INTO history SELECT ";
     const std::string columns =
         ", family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, quad_io_dummy_clock, "
@@ -428,7 +428,7 @@ void TEST_CLI_HISTORY::diff_of_two_files()
 {
     const GFPDB_PLACE place;
     save_part("A");
-    save_part("B", FAMILY, SERIAL, "T");
+    save_part("B", FAMILY, ACTIVE_SERIAL, "T");
     save_part("B", OTHER_FAMILY, QUAD);
     const QString directory = q(place.db_dir());
     const QString all = q(place.path("all.json"));

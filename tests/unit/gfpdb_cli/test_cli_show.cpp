@@ -32,7 +32,7 @@ void TEST_CLI_SHOW::list_shows_what_is_stored()
     const QByteArray head = "NAME  KIND  FAMILY  SCHEME  DENSITY  VOLTAGE  ID\n";
     QCOMPARE(run_tool(arguments).out, head);
     save_part("B", OTHER_FAMILY, QUAD);
-    save_part("A long name", FAMILY, SERIAL, "T");
+    save_part("A long name", FAMILY, ACTIVE_SERIAL, "T");
 
     const TOOL_RUN run = run_tool(arguments);
 
@@ -84,9 +84,9 @@ void TEST_CLI_SHOW::list_prints_a_very_long_name()
 void TEST_CLI_SHOW::list_filters_by_name_and_place()
 {
     const GFPDB_PLACE place;
-    save_part("Alpha", FAMILY, SERIAL, "Template");
+    save_part("Alpha", FAMILY, ACTIVE_SERIAL, "Template");
     save_part("Alpha two", FAMILY, QUAD);
-    save_part("Beta", OTHER_FAMILY, SERIAL);
+    save_part("Beta", OTHER_FAMILY, ACTIVE_SERIAL);
     save_part("[G]/2.5\\", OTHER_FAMILY, QUAD);
     const auto listed = [&place](const QStringList& options) {
         return names(json(run_tool(QStringList{"list", "-d", q(place.db_dir()), "--json"} + options)));
@@ -110,7 +110,7 @@ void TEST_CLI_SHOW::list_filters_by_name_and_place()
 void TEST_CLI_SHOW::list_prints_json_and_csv()
 {
     const GFPDB_PLACE place;
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     const TOOL_RUN run = run_tool({"list", "-d", q(place.db_dir()), "--json"});
     QCOMPARE(run.exit_code, 0);
     const QByteArray rest = "    \"family\": 3,\n    \"scheme\": 7,\n    \"device_id\": \"0xC2 0x20 0x19\",\n"
@@ -167,7 +167,7 @@ void TEST_CLI_SHOW::show_prints_the_chosen_variant()
 void TEST_CLI_SHOW::a_name_that_several_devices_have_needs_its_place()
 {
     const GFPDB_PLACE place;
-    save_part("Mine", FAMILY, SERIAL);
+    save_part("Mine", FAMILY, ACTIVE_SERIAL);
     save_part("Mine", OTHER_FAMILY, QUAD);
     const TOOL_RUN run = run_tool({"show", "Mine", "-d", q(place.db_dir())});
     QCOMPARE(run.exit_code, 3);
@@ -180,7 +180,7 @@ void TEST_CLI_SHOW::a_name_that_several_devices_have_needs_its_place()
 void TEST_CLI_SHOW::a_name_means_a_device_then_a_template_then_a_built_in_device()
 {
     const GFPDB_PLACE place;
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     const auto kind = [&place](const char* name) {
         return run_tool({"show", name, "-d", q(place.db_dir())}).out.split('\n').at(1);
     };

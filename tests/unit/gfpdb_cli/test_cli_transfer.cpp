@@ -57,9 +57,9 @@ void TEST_CLI_TRANSFER::a_whole_directory_moves_without_loss()
 {
     const GFPDB_PLACE place;
     make_dir(place.path("elsewhere/"));
-    save_part("A", FAMILY, SERIAL, "T");
+    save_part("A", FAMILY, ACTIVE_SERIAL, "T");
     save_part("A", OTHER_FAMILY, QUAD);
-    save_part("Later", FAMILY, SERIAL, "Gone");
+    save_part("Later", FAMILY, ACTIVE_SERIAL, "Gone");
     QVERIFY(fresh_manager()->remove_template("Gone"));
     // A record of another program, with values that the rules would refuse.
     GFPDB_MGR& manager = *fresh_manager();
@@ -105,7 +105,7 @@ void TEST_CLI_TRANSFER::export_of_single_records_keeps_their_order()
 {
     const GFPDB_PLACE place;
     save_part("B");
-    save_part("A", FAMILY, SERIAL, "T");
+    save_part("A", FAMILY, ACTIVE_SERIAL, "T");
     const TOOL_RUN run = run_tool({"export", "T", "B", "MX25L1606E", "A", "-d", q(place.db_dir())});
     QCOMPARE(run.exit_code, 0);
     const QJsonObject file = json(run).object();
@@ -139,7 +139,7 @@ void TEST_CLI_TRANSFER::import_is_all_or_nothing()
 void TEST_CLI_TRANSFER::import_leaves_equal_records_alone()
 {
     const GFPDB_PLACE place;
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     const QString directory = q(place.db_dir());
     const std::string revision = fresh_manager()->find_flash("Mine", true)->get_revision();
     write_file(place.path("all.json"), exported(place.db_dir()).toStdString());
@@ -179,7 +179,7 @@ void TEST_CLI_TRANSFER::import_refuses_names_that_are_taken()
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
     save_part("Mine");
-    save_part("Other", FAMILY, SERIAL, "T");
+    save_part("Other", FAMILY, ACTIVE_SERIAL, "T");
     const QString file = exported_file(place, "Mine");
     replace_in_file(file, "\"name\": \"Mine\"", "\"name\": \"t\"");
     TOOL_RUN run = run_tool({"import", file, "-d", directory});
@@ -288,7 +288,7 @@ void TEST_CLI_TRANSFER::import_of_a_list_keeps_or_finds_flows()
 {
     const GFPDB_PLACE place;
     const QString directory = q(place.db_dir());
-    save_part("Mine", FAMILY, SERIAL, "T");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
     const std::string flows = text_of_flows(fresh_manager()->find_flash("Mine", true)->get_operations(QUAD_IO));
     std::string list = "name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
                        "quad_io_dummy_clock,flow_template\n";
