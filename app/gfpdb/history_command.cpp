@@ -2,8 +2,8 @@
 #include "history_command.h"
 
 #include "cli_find.h"
-#include "json_text.h"
 
+#include "base/gfpdb_json.h"
 #include "base/gfpdb_text.h"
 
 #include <QDateTime>

@@ -7,8 +7,9 @@
 #pragma once
 
 #include "cli_record.h"
-#include "json_text.h"
 #include "record_rules.h"
+
+#include "base/gfpdb_json.h"
 
 #include <optional>
 

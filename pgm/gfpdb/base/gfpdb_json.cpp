@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "json_text.h"
+#include "base/gfpdb_json.h"
 
 #include <algorithm>
 #include <cstdint>
