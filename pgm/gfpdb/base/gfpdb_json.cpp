@@ -1,291 +1,208 @@
 // SPDX-License-Identifier: MIT
 #include "base/gfpdb_json.h"
 
+#include <rapidjson/memorystream.h>
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/reader.h>
+#include <rapidjson/stringbuffer.h>
+
 #include <algorithm>
-#include <cstdint>
 #include <cstdio>
+#include <string_view>
 #include <unordered_set>
 
 namespace {
 
-constexpr int DEPTH_MAX = 64;
+constexpr std::size_t DEPTH_MAX = 64;
+constexpr std::size_t FEW_MEMBERS = 16;
+constexpr unsigned BLANKS_PER_LEVEL = 2;
 constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
-constexpr std::uint32_t HIGH_SURROGATE = 0xD800;
-constexpr std::uint32_t LOW_SURROGATE = 0xDC00;
-constexpr std::uint32_t SURROGATES_END = 0xE000;
-constexpr std::uint32_t SUPPLEMENTARY = 0x10000;
+constexpr std::size_t BYTE_ORDER_MARK_LENGTH = 3;
+constexpr const char* HALF_PAIR = "half a surrogate pair is no character";
 
-void append_utf8(std::string& text, std::uint32_t code)
+using rapidjson::SizeType;
+
+JSON_VALUE of_kind(JSON_VALUE::KIND kind)
 {
-    if (code < 0x80) {
-        text += static_cast<char>(code);
-    } else if (code < 0x800) {
-        text += static_cast<char>(0xC0 | code >> 6);
-        text += static_cast<char>(0x80 | (code & 0x3F));
-    } else if (code < SUPPLEMENTARY) {
-        text += static_cast<char>(0xE0 | code >> 12);
-        text += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-        text += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-        text += static_cast<char>(0xF0 | code >> 18);
-        text += static_cast<char>(0x80 | (code >> 12 & 0x3F));
-        text += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-        text += static_cast<char>(0x80 | (code & 0x3F));
-    }
+    JSON_VALUE value;
+    value.kind = kind;
+    return value;
 }
 
-// The bytes of the UTF-8 character that starts at `at`; 0 when there is none.
-std::size_t utf8_length(const std::string& text, std::size_t at)
+JSON_VALUE of_kind(JSON_VALUE::KIND kind, const char* text, SizeType length)
 {
-    const auto byte = [&text](std::size_t place) {
-        return place < text.size() ? static_cast<unsigned char>(text[place]) : 0U;
+    JSON_VALUE value = of_kind(kind);
+    value.text.assign(text, length);
+    return value;
+}
+
+// UTF-8 has no other use for these two bytes: an escape must have made them, the rest was checked before.
+bool has_half_pair(const char* text, SizeType length)
+{
+    const char* const end = text + length;
+    const auto is_half = [](char first, char second) {
+        return first == '\xED' && static_cast<unsigned char>(second) >= 0xA0;
     };
-    const unsigned first = byte(at);
-    const std::size_t length = first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC2 ? 2 : 0;
-    std::uint32_t code = length == 1 ? first : first & (0x7FU >> length);
-    for (std::size_t place = at + 1; place < at + length; ++place) {
-        if ((byte(place) & 0xC0) != 0x80)
-            return 0;
-        code = code << 6 | (byte(place) & 0x3F);
-    }
-    const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < SUPPLEMENTARY);
-    const bool no_character = (code >= HIGH_SURROGATE && code < SURROGATES_END) || code > 0x10FFFF;
-    return overlong || no_character ? 0 : length;
+    return std::adjacent_find(text, end, is_half) != end;
 }
 
-// Reads one text from its start to its end.
-class JSON_READER
+// Hears what the reader finds, and builds the value. Each call returns false when it refuses what it hears; then
+// problem() says why.
+class JSON_BUILDER
 {
 public:
-    JSON_READER(const std::string& text, JSON_ERROR& error) : m_text(text), m_error(error) {}
+    JSON_BUILDER(const rapidjson::MemoryStream& stream, JSON_VALUE& root) : m_stream(stream), m_root(root) {}
 
-    bool read(JSON_VALUE& value)
+    const std::string& problem() const { return m_problem; }
+    // The name of the last member that was begun.
+    const std::string& last_name() const { return m_last_name; }
+    // The line of the offset, which must not lie before the last one that was asked for.
+    int line_at(std::size_t offset)
     {
-        if (m_text.rfind(BYTE_ORDER_MARK, 0) == 0)
-            m_at = 3;
-        if (!read_value(value, 0))
-            return false;
-        skip_blanks();
-        return m_at == m_text.size() || fail("there is more text behind the end");
+        m_line += static_cast<int>(std::count(m_stream.begin_ + m_counted, m_stream.begin_ + offset, '\n'));
+        m_counted = offset;
+        return m_line;
     }
 
-private:
-    bool fail(const std::string& text)
+    bool Null() { return add(of_kind(JSON_VALUE::NOTHING)) != nullptr; }
+    bool Bool(bool truth) { return add(json_bool(truth)) != nullptr; }
+    bool RawNumber(const char* text, SizeType length, bool /*copy*/)
     {
-        m_error = {m_line, text};
+        return add(of_kind(JSON_VALUE::NUMBER, text, length)) != nullptr;
+    }
+    bool String(const char* text, SizeType length, bool /*copy*/)
+    {
+        if (has_half_pair(text, length))
+            return fail(HALF_PAIR);
+        return add(of_kind(JSON_VALUE::TEXT, text, length)) != nullptr;
+    }
+    bool StartArray() { return open(json_list()); }
+    bool StartObject() { return open(json_object()); }
+    bool EndArray(SizeType /*count*/) { return close(); }
+    bool EndObject(SizeType /*count*/) { return close(); }
+
+    bool Key(const char* text, SizeType length, bool /*copy*/)
+    {
+        if (has_half_pair(text, length))
+            return fail(HALF_PAIR);
+        m_last_name.assign(text, length);
+        if (!is_new_name(m_open.back()))
+            return fail("the name \"" + m_last_name + "\" occurs twice");
+        m_open.back().value->add(m_last_name, JSON_VALUE());
+        return true;
+    }
+
+    // The reader gives all numbers as they are written.
+    static bool Int(int /*number*/) { return false; }
+    static bool Uint(unsigned /*number*/) { return false; }
+    static bool Int64(std::int64_t /*number*/) { return false; }
+    static bool Uint64(std::uint64_t /*number*/) { return false; }
+    static bool Double(double /*number*/) { return false; }
+
+private:
+    // A list or an object whose end was not read yet.
+    struct OPEN
+    {
+        JSON_VALUE* value;
+        // Of an object with many members.
+        std::unordered_set<std::string> names;
+    };
+
+    bool fail(const std::string& problem)
+    {
+        m_problem = problem;
         return false;
     }
 
-    char here() const { return m_at < m_text.size() ? m_text[m_at] : '\0'; }
-
-    void skip_blanks()
+    // Its place in what is built; null where it is nested too deeply.
+    JSON_VALUE* add(JSON_VALUE value)
     {
-        while (m_at < m_text.size() && (here() == ' ' || here() == '\t' || here() == '\r' || here() == '\n')) {
-            m_line += here() == '\n' ? 1 : 0;
-            ++m_at;
+        if (m_open.size() > DEPTH_MAX) {
+            fail("values are nested too deeply");
+            return nullptr;
         }
+        value.line = line_at(m_stream.Tell());
+        JSON_VALUE* place = &m_root;
+        if (!m_open.empty()) {
+            JSON_VALUE& parent = *m_open.back().value;
+            place = parent.kind == JSON_VALUE::LIST ? &parent.items.emplace_back() : &parent.members.back().second;
+        }
+        *place = std::move(value);
+        return place;
     }
 
-    bool skip(char expected)
+    bool open(JSON_VALUE value)
     {
-        skip_blanks();
-        if (here() != expected || m_at == m_text.size())
-            return false;
-        ++m_at;
+        JSON_VALUE* const place = add(std::move(value));
+        if (place != nullptr)
+            m_open.push_back({place, {}});
+        return place != nullptr;
+    }
+
+    bool close()
+    {
+        m_open.pop_back();
         return true;
     }
 
-    bool read_value(JSON_VALUE& value, int depth)
+    bool is_new_name(OPEN& object)
     {
-        skip_blanks();
-        value = JSON_VALUE();
-        value.line = m_line;
-        if (depth > DEPTH_MAX)
-            return fail("values are nested too deeply");
-        switch (here()) {
-        case '{':
-            return read_object(value, depth);
-        case '[':
-            return read_list(value, depth);
-        case '"':
-            value.kind = JSON_VALUE::TEXT;
-            return read_text(value.text);
-        case 't':
-            value.truth = true;
-            return read_word("true", value, JSON_VALUE::BOOLEAN);
-        case 'f':
-            return read_word("false", value, JSON_VALUE::BOOLEAN);
-        case 'n':
-            return read_word("null", value, JSON_VALUE::NOTHING);
-        default:
-            return read_number(value);
+        const auto& members = object.value->members;
+        if (members.size() < FEW_MEMBERS)
+            return object.value->member(m_last_name) == nullptr;
+        if (object.names.empty()) {
+            for (const auto& member : members)
+                object.names.insert(member.first);
         }
+        return object.names.insert(m_last_name).second;
     }
 
-    bool read_word(const std::string& word, JSON_VALUE& value, JSON_VALUE::KIND kind)
-    {
-        if (m_text.compare(m_at, word.size(), word) != 0)
-            return fail("a value was expected");
-        m_at += word.size();
-        value.kind = kind;
-        return true;
-    }
-
-    bool read_digits()
-    {
-        const std::size_t start = m_at;
-        while (here() >= '0' && here() <= '9')
-            ++m_at;
-        return m_at > start;
-    }
-
-    bool read_number(JSON_VALUE& value)
-    {
-        const std::size_t start = m_at;
-        if (here() == '-')
-            ++m_at;
-        const bool zero = here() == '0';
-        const std::size_t digits = m_at;
-        bool good = read_digits() && !(zero && m_at - digits > 1);
-        if (good && here() == '.') {
-            ++m_at;
-            good = read_digits();
-        }
-        if (good && (here() == 'e' || here() == 'E')) {
-            ++m_at;
-            if (here() == '+' || here() == '-')
-                ++m_at;
-            good = read_digits();
-        }
-        value.kind = JSON_VALUE::NUMBER;
-        value.text = m_text.substr(start, m_at - start);
-        return good || fail("a value was expected");
-    }
-
-    bool read_hex(std::uint32_t& code)
-    {
-        code = 0;
-        for (int digit = 0; digit < 4; ++digit, ++m_at) {
-            const char character = here();
-            const bool decimal = character >= '0' && character <= '9';
-            const char lower = static_cast<char>(character | 0x20);
-            if (!decimal && (lower < 'a' || lower > 'f'))
-                return fail("\\u needs four hexadecimal digits");
-            code = code << 4 | static_cast<std::uint32_t>(decimal ? character - '0' : lower - 'a' + 10);
-        }
-        return true;
-    }
-
-    bool read_escaped_code(std::string& text)
-    {
-        std::uint32_t code = 0;
-        if (!read_hex(code))
-            return false;
-        if (code >= HIGH_SURROGATE && code < LOW_SURROGATE) {
-            std::uint32_t low = 0;
-            if (m_text.compare(m_at, 2, "\\u") != 0)
-                return fail("half a surrogate pair is no character");
-            m_at += 2;
-            if (!read_hex(low))
-                return false;
-            if (low < LOW_SURROGATE || low >= SURROGATES_END)
-                return fail("half a surrogate pair is no character");
-            code = SUPPLEMENTARY + ((code - HIGH_SURROGATE) << 10) + (low - LOW_SURROGATE);
-        } else if (code >= LOW_SURROGATE && code < SURROGATES_END) {
-            return fail("half a surrogate pair is no character");
-        }
-        append_utf8(text, code);
-        return true;
-    }
-
-    bool read_escape(std::string& text)
-    {
-        static const std::string ESCAPES = "\"\\/bfnrt";
-        static const std::string CHARACTERS = "\"\\/\b\f\n\r\t";
-        const char escape = here();
-        ++m_at;
-        if (escape == 'u')
-            return read_escaped_code(text);
-        const std::size_t place = ESCAPES.find(escape);
-        if (place == std::string::npos || m_at > m_text.size())
-            return fail("there is no such escape");
-        text += CHARACTERS[place];
-        return true;
-    }
-
-    bool read_text(std::string& text)
-    {
-        ++m_at;
-        while (here() != '"' || m_at >= m_text.size()) {
-            if (m_at >= m_text.size())
-                return fail("a text has no end");
-            const auto byte = static_cast<unsigned char>(here());
-            const std::size_t length = utf8_length(m_text, m_at);
-            if (byte < 0x20)
-                return fail("a text has a control character or a line break in it");
-            if (length == 0)
-                return fail("a text is not UTF-8");
-            if (byte != '\\') {
-                text.append(m_text, m_at, length);
-                m_at += length;
-                continue;
-            }
-            ++m_at;
-            if (!read_escape(text))
-                return false;
-        }
-        ++m_at;
-        return true;
-    }
-
-    bool read_list(JSON_VALUE& value, int depth)
-    {
-        value.kind = JSON_VALUE::LIST;
-        ++m_at;
-        if (skip(']'))
-            return true;
-        do {
-            JSON_VALUE item;
-            if (!read_value(item, depth + 1))
-                return false;
-            value.items.push_back(std::move(item));
-        } while (skip(','));
-        return skip(']') || fail("a list needs \",\" or \"]\" here");
-    }
-
-    bool read_object(JSON_VALUE& value, int depth)
-    {
-        value.kind = JSON_VALUE::OBJECT;
-        ++m_at;
-        if (skip('}'))
-            return true;
-        std::unordered_set<std::string> names;
-        do {
-            skip_blanks();
-            std::string name;
-            if (here() != '"')
-                return fail("an object needs a name in double quotes here");
-            if (!read_text(name))
-                return false;
-            if (!names.insert(name).second)
-                return fail("the name \"" + name + "\" occurs twice");
-            if (!skip(':'))
-                return fail("\":\" is missing after \"" + name + "\"");
-            JSON_VALUE member;
-            if (!read_value(member, depth + 1))
-                return false;
-            value.add(name, std::move(member));
-        } while (skip(','));
-        return skip('}') || fail("an object needs \",\" or \"}\" here");
-    }
-
-    const std::string& m_text;
-    JSON_ERROR& m_error;
-    std::size_t m_at = 0;
+    const rapidjson::MemoryStream& m_stream;
+    JSON_VALUE& m_root;
+    std::vector<OPEN> m_open;
+    std::string m_last_name;
+    std::string m_problem;
+    std::size_t m_counted = 0;
     int m_line = 1;
 };
 
-void write_escape(std::string& out, unsigned code)
+// What the reader's error means; `rest` is the text from there on.
+std::string text_of(rapidjson::ParseErrorCode code, std::string_view rest, const JSON_BUILDER& builder)
+{
+    using namespace rapidjson;
+    switch (code) {
+    case kParseErrorTermination:
+        return builder.problem();
+    case kParseErrorDocumentRootNotSingular:
+        return "there is more text behind the end";
+    case kParseErrorObjectMissName:
+        return "an object needs a name in double quotes here";
+    case kParseErrorObjectMissColon:
+        return "\":\" is missing after \"" + builder.last_name() + "\"";
+    case kParseErrorObjectMissCommaOrCurlyBracket:
+        return "an object needs \",\" or \"}\" here";
+    case kParseErrorArrayMissCommaOrSquareBracket:
+        return "a list needs \",\" or \"]\" here";
+    case kParseErrorStringUnicodeEscapeInvalidHex:
+        return "\\u needs four hexadecimal digits";
+    case kParseErrorStringUnicodeSurrogateInvalid:
+        return HALF_PAIR;
+    // The same for a character that is not allowed in a text; at the end it sees a zero byte.
+    case kParseErrorStringEscapeInvalid:
+    case kParseErrorStringMissQuotationMark:
+        return rest.empty()           ? "a text has no end"
+               : rest.front() == '\\' ? "there is no such escape"
+                                      : "a text has a control character or a line break in it";
+    case kParseErrorStringInvalidEncoding:
+        return "a text is not UTF-8";
+    case kParseErrorNumberTooBig:
+        return "a number is too large";
+    default:
+        return "a value was expected";
+    }
+}
+
+void append_escape(std::string& out, unsigned code)
 {
     char escape[8];
     std::snprintf(escape, sizeof escape, "\\u%04x", code & 0xFFFFU);
@@ -301,14 +218,14 @@ bool is_c1_control(const std::string& text, std::size_t at)
     return second >= 0x80 && second < 0xA0;
 }
 
-void write_text(std::string& out, const std::string& text)
+std::string quoted(const std::string& text)
 {
-    out += '"';
+    std::string out = "\"";
     for (std::size_t at = 0; at < text.size(); ++at) {
         const char character = text[at];
         const auto byte = static_cast<unsigned char>(character);
         if (is_c1_control(text, at)) {
-            write_escape(out, static_cast<unsigned char>(text[++at]));
+            append_escape(out, static_cast<unsigned char>(text[++at]));
         } else if (character == '"' || character == '\\') {
             out += '\\';
             out += character;
@@ -319,80 +236,53 @@ void write_text(std::string& out, const std::string& text)
         } else if (character == '\r') {
             out += "\\r";
         } else if (byte < 0x20 || byte == 0x7F) {
-            write_escape(out, byte);
+            append_escape(out, byte);
         } else {
             out += character;
         }
     }
-    out += '"';
+    return out + '"';
 }
 
-void write_value(std::string& out, const JSON_VALUE& value, int level);
+using WRITER = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
 
-void new_line(std::string& out, int level)
+// More characters are escaped than the writer would escape.
+void write_text(WRITER& writer, const std::string& text)
 {
-    constexpr std::size_t BLANKS = 2;
-    out += '\n';
-    out.append(BLANKS * static_cast<std::size_t>(level), ' ');
+    const std::string json = quoted(text);
+    writer.RawValue(json.data(), json.size(), rapidjson::kStringType);
 }
 
-void write_list(std::string& out, const JSON_VALUE& value, int level)
-{
-    out += '[';
-    for (std::size_t at = 0; at < value.items.size(); ++at) {
-        out += at ? "," : "";
-        new_line(out, level + 1);
-        write_value(out, value.items[at], level + 1);
-    }
-    if (!value.items.empty())
-        new_line(out, level);
-    out += ']';
-}
-
-void write_object(std::string& out, const JSON_VALUE& value, int level)
-{
-    out += '{';
-    for (std::size_t at = 0; at < value.members.size(); ++at) {
-        out += at ? "," : "";
-        new_line(out, level + 1);
-        write_text(out, value.members[at].first);
-        out += ": ";
-        write_value(out, value.members[at].second, level + 1);
-    }
-    if (!value.members.empty())
-        new_line(out, level);
-    out += '}';
-}
-
-void write_value(std::string& out, const JSON_VALUE& value, int level)
+void write_value(WRITER& writer, const JSON_VALUE& value)
 {
     switch (value.kind) {
     case JSON_VALUE::NOTHING:
-        out += "null";
+        writer.Null();
         break;
     case JSON_VALUE::BOOLEAN:
-        out += value.truth ? "true" : "false";
+        writer.Bool(value.truth);
         break;
     case JSON_VALUE::NUMBER:
-        out += value.text;
+        writer.RawValue(value.text.data(), value.text.size(), rapidjson::kNumberType);
         break;
     case JSON_VALUE::TEXT:
-        write_text(out, value.text);
+        write_text(writer, value.text);
         break;
     case JSON_VALUE::LIST:
-        write_list(out, value, level);
+        writer.StartArray();
+        for (const JSON_VALUE& item : value.items)
+            write_value(writer, item);
+        writer.EndArray();
         break;
     case JSON_VALUE::OBJECT:
-        write_object(out, value, level);
+        writer.StartObject();
+        for (const auto& [name, member] : value.members) {
+            write_text(writer, name);
+            write_value(writer, member);
+        }
+        writer.EndObject();
         break;
     }
-}
-
-JSON_VALUE of_kind(JSON_VALUE::KIND kind)
-{
-    JSON_VALUE value;
-    value.kind = kind;
-    return value;
 }
 
 } // namespace
@@ -448,13 +338,27 @@ JSON_VALUE json_object()
 
 bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error)
 {
-    return JSON_READER(text, error).read(value);
+    constexpr unsigned FLAGS = rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
+    const std::size_t start = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? BYTE_ORDER_MARK_LENGTH : 0;
+    rapidjson::MemoryStream stream(text.data() + start, text.size() - start);
+    JSON_BUILDER builder(stream, value);
+    const rapidjson::ParseResult result = rapidjson::Reader().Parse<FLAGS>(stream, builder);
+    if (!result.IsError() && stream.Tell() == stream.size_)
+        return true;
+    // The reader takes a zero byte for the end.
+    const auto code = result.IsError() ? result.Code() : rapidjson::kParseErrorDocumentRootNotSingular;
+    const std::size_t offset = result.IsError() ? result.Offset() : stream.Tell();
+    const std::string_view source(stream.begin_, stream.size_);
+    error.line = 1 + static_cast<int>(std::count(stream.begin_, stream.begin_ + offset, '\n'));
+    error.text = text_of(code, source.substr(offset), builder);
+    return false;
 }
 
 std::string json_write(const JSON_VALUE& value)
 {
-    std::string out;
-    write_value(out, value, 0);
-    out += '\n';
-    return out;
+    rapidjson::StringBuffer buffer;
+    WRITER writer(buffer);
+    writer.SetIndent(' ', BLANKS_PER_LEVEL);
+    write_value(writer, value);
+    return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-// JSON with what record files need beyond Qt's: members keep their order, and every value knows its line.
+// JSON of record files, flows and the tool's lists: members keep their order, and every value knows its line.
 //
-// Texts are UTF-8 and come back byte for byte. Pure functions.
+// RapidJSON reads and writes it. Texts are UTF-8 and come back byte for byte. Pure functions.
 #pragma once
 
 #include <string>
@@ -51,7 +51,7 @@ struct JSON_ERROR
 };
 
 // Reads one JSON value. False: `error` says what is wrong and where. Also refused are a member that occurs twice in an
-// object, more than 64 levels, and text that is not UTF-8.
+// object, more than 64 levels, numbers beyond those of a double, and text that is not UTF-8.
 bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error);
 
 // The value with two blanks per level, one member or item per line, and a line break at the end.

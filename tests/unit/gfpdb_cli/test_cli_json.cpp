@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The tool's JSON: what is read, where it is wrong, how it is written.
-#include "json_text.h"
+#include "base/gfpdb_json.h"
 
 #include <rapidcheck.h>
 
@@ -145,8 +145,11 @@ void TEST_CLI_JSON::what_is_no_json_is_refused_with_its_line_data()
     add("{\"a\":1 \"b\":2}", "1: an object needs \",\" or \"}\" here");
     add("{\"a\":1,\n\"a\":2}", "2: the name \"a\" occurs twice");
     add("{} x", "1: there is more text behind the end");
+    add(QByteArray("{}\0", 3), "1: there is more text behind the end");
+    add("1e400", "1: a number is too large");
     add("\"a", "1: a text has no end");
     add("\"a\n\"", "1: a text has a control character or a line break in it");
+    add(QByteArray("\"a\0\"", 4), "1: a text has a control character or a line break in it");
     add("\"\\x\"", "1: there is no such escape");
     add("\"\\", "1: there is no such escape");
     add("\"\\u12g4\"", "1: \\u needs four hexadecimal digits");
