@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The flow chart: drawing it anew, editing a value, and what an action costs.
+// The flow chart: drawing it again, editing a value, and what an action costs.
 //
 // Floor of the drawing: the same item classes with the same texts, each laid out once; nothing is centred or kept.
 #include "bare_chart.h"

@@ -74,7 +74,7 @@ licences() {
 documentation() {
     local page target picture failed=0
     while IFS=: read -r page target; do
-        [ -e "$(dirname "$page")/$target" ] || { printf '%s: there is no %s\n' "$page" "$target"; failed=1; }
+        [ -e "$(dirname "$page")/$target" ] || { printf '%s: %s does not exist\n' "$page" "$target"; failed=1; }
     done < <(sources '*.md' | xargs grep -oHP '\]\(\K(?!https?:|#)[^)#\s]+')
     for picture in $(sources 'docs/images/*'); do
         sources '*.md' | xargs grep -qF "images/${picture##*/})" || { printf '%s is not shown\n' "$picture"; failed=1; }

@@ -4,7 +4,7 @@
 
 usage: pseudo.py CATALOGUE.ts RESULT.ts
 
-What stands in the result tells in a picture whether a text is cut, and whether it goes through a catalogue at all.
+A picture of the result shows whether a text is cut, and whether it goes through a catalogue at all.
 Placeholders, line breaks, and the colon and blanks at a text's end stay as they are.
 """
 

@@ -148,7 +148,7 @@ QString READER::language()
     QString name = filled_text(LANG);
     const bool is_known = QLocale(name).language() != QLocale::C || name == QLatin1String("C");
     if (!name.isEmpty() && !is_known)
-        fail(QStringLiteral("--%1: \"%2\" is no language.").arg(LANG, name));
+        fail(QStringLiteral("--%1: \"%2\" is not a language.").arg(LANG, name));
     return name;
 }
 

@@ -87,7 +87,7 @@ HOST_WINDOW::HOST_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, c
 
 HOST_WINDOW::~HOST_WINDOW() = default;
 
-// The names of families come from a file, so they have no say in the size of the window.
+// The names of families come from a file, so they do not change the size of the window.
 QComboBox* HOST_WINDOW::add_combo(QFormLayout* rows, const QString& title, const QString& object_name)
 {
     auto* combo = new QComboBox;
@@ -98,8 +98,8 @@ QComboBox* HOST_WINDOW::add_combo(QFormLayout* rows, const QString& title, const
     return combo;
 }
 
-// Names and paths are the user's own texts, of any length: shown as they stand from their beginning, free to be copied,
-// and without a say in the size of the window.
+// Names and paths are the user's own texts, of any length: shown from their beginning, can be copied, and do not change
+// the size of the window.
 QLineEdit* HOST_WINDOW::add_field(QFormLayout* rows, const QString& title, const QString& object_name)
 {
     auto* field = new QLineEdit;
@@ -172,7 +172,7 @@ void HOST_WINDOW::create_menus()
     quit->setShortcut(QKeySequence::Quit);
 }
 
-// What the combos cannot show is taken as it is: the dialog knows better.
+// What the combos cannot show is taken as it is: the dialog decides.
 void HOST_WINDOW::show_choice()
 {
     show_values(m_family_combo, m_offer.families(), m_choice.family, family_text);

@@ -29,7 +29,7 @@ public:
     const HOST_CHOICE& choice() const { return m_choice; }
 
 public slots:
-    // Opens the dialog and returns when it was closed. A module that cannot be used is told in a box.
+    // Opens the dialog and returns when it was closed. A module that cannot be used is reported in a box.
     void open_dialog();
 
 signals:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Whose word a file is: who could put another one in its place.
+// Who could put another file in the place of one.
 #pragma once
 
 #include <QString>

@@ -18,7 +18,7 @@ std::optional<int> number_between(const QString& text, int first, int last)
     return number;
 }
 
-// Null when one of the words is no scheme.
+// Null when one of the words is not a scheme.
 std::optional<std::vector<int>> parse_schemes(const QString& text)
 {
     std::vector<int> schemes;
@@ -46,7 +46,7 @@ QString add_entry(const QString& entry, RESTRICTION& restriction)
             .arg(entry, QString::number(DEV_FAMILY_FIRST), QString::number(DEV_FAMILY_LAST));
     const std::optional<std::vector<int>> schemes = parse_schemes(entry.mid(colon + 1));
     if (!schemes)
-        return QStringLiteral("\"%1\" has a scheme that is no number from 0 to %2")
+        return QStringLiteral("\"%1\" has a scheme that is not a number from 0 to %2")
             .arg(entry, QString::number(LAST_SCHEME));
     if (!restriction.emplace(*family, *schemes).second)
         return QStringLiteral("family %1 occurs twice").arg(*family);

@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-// Families and, for each, the schemes to offer; no schemes stands for all of them.
+// Families and, for each, the schemes to offer; no schemes means all of them.
 using RESTRICTION = std::map<int, std::vector<int>>;
 
 // Reads "family:scheme,scheme;family:": "3:7,13;5:" offers family 3 with the schemes 7 and 13 and family 5 with all its

@@ -40,7 +40,7 @@ bool is_bus_width(GFPDB_ACT_PROPERTY property)
 
 } // namespace
 
-// What the interface leaves to the library: these are no virtual operations.
+// What the interface leaves to the library: these operations are not virtual.
 GFPDB_ACTION::GFPDB_ACTION(int action_type, const std::vector<GFPDB_ACT_PROPERTY>* properties)
     : m_action_type(action_type), m_properties(properties)
 {}

@@ -58,7 +58,7 @@ std::optional<FAMILY_ROW> LINE_READER::refuse(const char* problem)
     return std::nullopt;
 }
 
-// False when a word of `text` is no scheme or was there before.
+// False when a word of `text` is not a scheme or was there before.
 bool read_schemes(const QByteArray& text, std::vector<int>& schemes)
 {
     const QByteArray words = text.simplified();

@@ -199,7 +199,7 @@ void TEST_HOST_ARGUMENTS::bad_command_line_says_what_is_wrong_data()
     add("empty base", {option("--base-dir=")}, "--base-dir takes a text that is not empty.");
     add("empty pictures", {option("--render=")}, "--render takes a text that is not empty.");
     add("relative module", {option("--module=x.so")}, "--module takes an absolute path, not \"x.so\".");
-    add("no language", {option("--lang=xyzzy")}, "--lang: \"xyzzy\" is no language.");
+    add("no language", {option("--lang=xyzzy")}, "--lang: \"xyzzy\" is not a language.");
     add("dialog and pictures", {option("--dialog"), option("--render=x")}, "--dialog and --render exclude each other.");
     add("argument", {option("MX25")}, "What is \"MX25\" for? There are only options.");
     add("first problem", {option("--family=0"), option("--scheme=99")},
@@ -210,11 +210,11 @@ void TEST_HOST_ARGUMENTS::bad_command_line_says_what_is_wrong_data()
     add("restriction, family above", {option("--restrict=73:7")},
         "--restrict: \"73:7\" does not open with a family, 1 to 72.");
     add("restriction, scheme", {option("--restrict=3:7,x")},
-        "--restrict: \"3:7,x\" has a scheme that is no number from 0 to 25.");
+        "--restrict: \"3:7,x\" has a scheme that is not a number from 0 to 25.");
     add("restriction, scheme above", {option("--restrict=3:26")},
-        "--restrict: \"3:26\" has a scheme that is no number from 0 to 25.");
+        "--restrict: \"3:26\" has a scheme that is not a number from 0 to 25.");
     add("restriction, scheme missing", {option("--restrict=3:7,")},
-        "--restrict: \"3:7,\" has a scheme that is no number from 0 to 25.");
+        "--restrict: \"3:7,\" has a scheme that is not a number from 0 to 25.");
     add("restriction, family twice", {option("--restrict=3:7;3:")}, "--restrict: family 3 occurs twice.");
     add("restriction, empty", {option("--restrict=;")}, "--restrict: \";\" names no family.");
 }

@@ -5,7 +5,7 @@
 // Texts are in the local 8-bit encoding. A path is held as it was given, with slashes normalised as
 // PGM_COMMON::change_folder_slash does; nothing here asks whether the file exists or follows a link. Not tied to a
 // thread, but become_absolute() and get_relative_to() read the process's current directory for what is relative; the
-// root stands in for a current directory that no longer exists.
+// root is used instead of a current directory that no longer exists.
 #pragma once
 
 #include <string>
@@ -19,7 +19,7 @@ public:
     // Replaces the path.
     FIO_PATH& operator=(const std::string& path);
 
-    // The path as it stands; empty for an empty path.
+    // The path as it was given; empty for an empty path.
     std::string fullpath() const;
 
     // Makes `directory` the path: a directory, so the path ends in "/". An empty `directory` empties the path.

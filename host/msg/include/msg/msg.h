@@ -24,7 +24,7 @@ public:
     virtual ~MSG_BASE();
 
     // Hands over the message's argument text: the user's text, then "/O" and the identifier of the message. Only what
-    // stands before the last "/O" is shown.
+    // comes before the last "/O" is shown.
     void fill_args(const std::string& args);
     void set_id(int id);
 
@@ -55,7 +55,7 @@ public:
 
     // Logs the message, shows it as "<text> (message <number>)" in a modal warning box over the active window, titled
     // with the application's display name, and waits until that is closed. Without a QApplication it is only logged.
-    // The text is shown as it stands, never as markup. The reason, if there is one, is logged too, and shown below the
+    // The text is shown as plain text, never as markup. The reason, if there is one, is logged too, and shown below the
     // text: in one paragraph of at most 500 characters, which may be broken anywhere in a long word.
     MSG_VALUE prompt(MSG_REPORT* report = nullptr);
 };
