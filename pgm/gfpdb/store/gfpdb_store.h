@@ -114,7 +114,7 @@ public:
     std::vector<GFPDB_ROW> get_templates();
     // Stores all `devices` and all `templates`, or none of them. What has the same name is replaced; a template name of
     // a device makes no template here. Refused when a device would have the name of a template. `progress` hears the
-    // number of records that are done.
+    // number of records that are done; it must not use the database.
     bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
                   const std::function<void(int)>& progress);
 
@@ -167,7 +167,9 @@ private:
     void close();
     bool examine_directory();
     bool examine_file();
+    void examine_missing_file(int error, const std::string& left);
     bool has_own_companions();
+    bool has_own_journal(const std::string& path);
     bool connect(const std::string& path, const char* mode);
     bool is_whole_file();
     bool create_file();
@@ -183,6 +185,7 @@ private:
     bool set_mark(int mark);
     std::optional<int> read_mark();
     bool is_stored(int mark, const std::string& error);
+    bool is_stored_in_place();
     void set_problem(STATE state, const std::string& problem);
     bool fail(const std::string& error);
     bool fail(const QSqlError& error);

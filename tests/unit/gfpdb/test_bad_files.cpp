@@ -50,7 +50,8 @@ private:
 
 QStringList entries(const std::string& directory)
 {
-    return QDir(QString::fromStdString(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return QDir(QString::fromStdString(directory))
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
 } // namespace
@@ -65,6 +66,8 @@ private slots:
 
     void a_file_that_is_no_usable_database_is_left_alone_data();
     void a_file_that_is_no_usable_database_is_left_alone();
+    void a_link_that_leads_nowhere_is_no_empty_database_data();
+    void a_link_that_leads_nowhere_is_no_empty_database();
     void a_truncated_database_is_left_alone_data();
     void a_truncated_database_is_left_alone();
     void a_damaged_page_is_reported_when_it_is_read();
@@ -157,7 +160,7 @@ void TEST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone_data()
     const QByteArray too_short = QByteArrayLiteral("The file %1 is not a database (too short). It is left as it is.");
     QTest::newRow("empty") << nothing << nothing
                            << QByteArrayLiteral("The database %1 is empty: its content was lost. It is left as it is; "
-                                                "put a copy in its place, or remove it to begin anew.");
+                                                "put a copy in its place, or remove it to begin again.");
     QTest::newRow("a text") << QByteArray(2000, 'x') << nothing << no_database;
     QTest::newRow("one byte") << QByteArrayLiteral("x") << nothing << too_short;
     QTest::newRow("511 bytes") << QByteArray(511, 'x') << nothing << too_short;
@@ -181,6 +184,28 @@ void TEST_BAD_FILES::a_file_that_is_no_usable_database_is_left_alone()
 
     verify_unusable(problem.replace("%1", m_place->db_file().c_str()).toStdString());
     QCOMPARE(read_file(m_place->db_file()), before);
+    QCOMPARE(entries(m_place->db_dir()), QStringList(QStringLiteral("gfpdb.sqlite")));
+}
+
+void TEST_BAD_FILES::a_link_that_leads_nowhere_is_no_empty_database_data()
+{
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<QByteArray>("why");
+    QTest::newRow("missing") << QByteArray("../share/flash.sqlite") << QByteArray("No such file or directory");
+    QTest::newRow("itself") << QByteArray("gfpdb.sqlite") << QByteArray("Too many levels of symbolic links");
+    QTest::newRow("below a file") << QByteArray("../settings.ini/flash.sqlite") << QByteArray("Not a directory");
+}
+
+// As when the share that it is on is not mounted.
+void TEST_BAD_FILES::a_link_that_leads_nowhere_is_no_empty_database()
+{
+    QFETCH(QByteArray, target);
+    QFETCH(QByteArray, why);
+    QCOMPARE(::symlink(target.constData(), m_place->db_file().c_str()), 0);
+
+    verify_unusable("The database " + m_place->db_file() + " cannot be reached: it is a link to " +
+                    target.toStdString() + " (" + why.toStdString() +
+                    "). Is the drive or the share that it is on connected?");
     QCOMPARE(entries(m_place->db_dir()), QStringList(QStringLiteral("gfpdb.sqlite")));
 }
 

@@ -409,7 +409,7 @@ void TEST_SETTINGS::a_directory_in_which_no_database_can_be_used_is_refused_data
         << QStringLiteral("empty/")
         << QStringLiteral(
                "The database %1gfpdb.sqlite is empty: its content was lost. It is left as it is; put a copy in "
-               "its place, or remove it to begin anew.");
+               "its place, or remove it to begin again.");
     QTest::newRow("with a foreign database")
         << QStringLiteral("foreign/")
         << QStringLiteral("The file %1gfpdb.sqlite is a database of another program. It is left as it is.");

@@ -7,6 +7,7 @@
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_settings.h"
 #include "base/gfpdb_text.h"
+#include "store/sqlite/gfpdb_journal.h"
 
 #include <QRandomGenerator>
 #include <QSqlDatabase>
@@ -17,6 +18,7 @@
 #include <QVariant>
 
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -34,6 +36,9 @@ constexpr int DEFAULT_BUSY_TIMEOUT_MS = 5000;
 // A database that was locked is tried again by a read only after this time, so that a window full of reads does not
 // wait for every one of them; a change tries at once.
 constexpr std::chrono::seconds RETRY_INTERVAL(2);
+
+constexpr char JOURNAL_SUFFIX[] = "-journal";
+constexpr char WAL_SUFFIX[] = "-wal";
 
 // SQLite's smallest page. It would take a file of less than a header for one that was not written yet.
 constexpr off_t SMALLEST_FILE = 512;
@@ -121,6 +126,43 @@ bool make_empty_file(const std::string& path, const std::string& directory, stru
     share_with_group(file, status, directory);
     ::close(file);
     return is_made;
+}
+
+std::string real_path_of(const std::string& path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real_path(::realpath(path.c_str(), nullptr), &std::free);
+    return real_path ? real_path.get() : path;
+}
+
+// The first file beside the database in `path` that SQLite would take for a part of it; empty when there is none.
+std::string left_file(const std::string& path)
+{
+    for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX}) {
+        struct stat status = {};
+        if (::lstat((path + suffix).c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0)
+            return path + suffix;
+    }
+    return std::string();
+}
+
+// True when a program that ended may have left a journal that must be rolled back into the database in `path`.
+bool has_left_journal(const std::string& path)
+{
+    return !left_file(real_path_of(path)).empty();
+}
+
+// What the link in `path` points at, as it says.
+std::string target_of(const std::string& path)
+{
+    std::string target(PATH_MAX, '\0');
+    const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+    target.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    return target;
+}
+
+int new_mark()
+{
+    return QRandomGenerator::system()->bounded(1, std::numeric_limits<int>::max());
 }
 
 // True while `path` is the name of the file with that status, and not of a link to it.
@@ -222,6 +264,9 @@ bool GFPDB_STORE::fail(const QSqlError& error)
     // SQLite opens a file for reading when it could not be opened for writing, and stays with that.
     if (code_of(error) == SQLITE_CODE_READONLY && m_state == STATE::READ_WRITE)
         m_state = STATE::CLOSED;
+    if (code_of(error) == SQLITE_CODE_READONLY && m_state != STATE::READ_WRITE && has_left_journal(file_path()))
+        return fail("The database " + file_path() + " was left in the middle of a change by a program that ended " +
+                    "there. It can be read again when someone who can write it has opened it once.");
     return fail(describe(error, file_path()));
 }
 
@@ -250,6 +295,7 @@ bool GFPDB_STORE::run(const char* statement)
 void GFPDB_STORE::open()
 {
     close();
+    m_state = STATE::CLOSED;
     forget_used_values();
     m_read_problem.clear();
     m_is_locked = false;
@@ -291,12 +337,9 @@ bool GFPDB_STORE::examine_directory()
 bool GFPDB_STORE::examine_file()
 {
     struct stat status = {};
+    const std::string left = left_file(file_path());
     if (::stat(file_path().c_str(), &status) != 0) {
-        if (::access(m_directory.c_str(), W_OK) == 0)
-            set_problem(STATE::NO_FILE, std::string());
-        else
-            set_problem(STATE::UNUSABLE, "The database directory " + m_directory +
-                                             " holds no database, and none can be made: " + std::strerror(errno) + ".");
+        examine_missing_file(errno, left);
         return false;
     }
     m_identity = FILE_IDENTITY{status.st_dev, status.st_ino};
@@ -305,7 +348,7 @@ bool GFPDB_STORE::examine_file()
     else if (status.st_size == 0)
         set_problem(STATE::UNUSABLE, "The database " + file_path() +
                                          " is empty: its content was lost. It is left as it is; put a copy in its " +
-                                         "place, or remove it to begin anew.");
+                                         "place, or remove it to begin again.");
     else if (status.st_size < SMALLEST_FILE)
         set_problem(STATE::UNUSABLE,
                     "The file " + file_path() + " is not a database (too short). It is left as it is.");
@@ -314,13 +357,33 @@ bool GFPDB_STORE::examine_file()
     return false;
 }
 
+// `left` was there before the file was found missing: another program may just have made it, and be writing.
+void GFPDB_STORE::examine_missing_file(int error, const std::string& left)
+{
+    struct stat status = {};
+    const bool is_link = ::lstat(file_path().c_str(), &status) == 0;
+    if (is_link || error != ENOENT)
+        set_problem(STATE::UNUSABLE, "The database " + file_path() + " cannot be reached" +
+                                         (is_link ? ": it is a link to " + target_of(file_path()) : std::string()) +
+                                         " (" + std::strerror(error) +
+                                         "). Is the drive or the share that it is on connected?");
+    else if (!left.empty())
+        set_problem(STATE::UNUSABLE, "There is no database " + file_path() + ", but " + left +
+                                         ", which a program left that was writing it. Put the database back, or move " +
+                                         "that file to another directory to begin with an empty database.");
+    else if (::access(m_directory.c_str(), W_OK) == 0)
+        set_problem(STATE::NO_FILE, std::string());
+    else
+        set_problem(STATE::UNUSABLE, "The database directory " + m_directory +
+                                         " holds no database, and none can be made: " + std::strerror(errno) + ".");
+}
+
 // SQLite follows a hard link in the place of its journal, old versions a symbolic one as well, and writes into or cuts
 // off whatever is at its end.
 bool GFPDB_STORE::has_own_companions()
 {
-    const std::unique_ptr<char, decltype(&std::free)> real_path(::realpath(file_path().c_str(), nullptr), &std::free);
-    const std::string path = real_path ? real_path.get() : file_path();
-    for (const char* suffix : {"-journal", "-wal", "-shm"}) {
+    const std::string path = real_path_of(file_path());
+    for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX, "-shm"}) {
         struct stat status = {};
         if (::lstat((path + suffix).c_str(), &status) != 0 || (S_ISREG(status.st_mode) && status.st_nlink == 1))
             continue;
@@ -328,7 +391,27 @@ bool GFPDB_STORE::has_own_companions()
                                          " is a link or no file. Remove it if you did not put it there.");
         return false;
     }
-    return true;
+    return has_own_journal(path);
+}
+
+// This program writes no WAL: one that has something in it is another program's.
+bool GFPDB_STORE::has_own_journal(const std::string& path)
+{
+    const std::string left = left_file(path);
+    const std::string problem = "The database " + file_path() + " is not used: " + left;
+    if (left.empty())
+        return true;
+    if (left == path + WAL_SUFFIX)
+        set_problem(STATE::UNUSABLE,
+                    problem + " was written by another program, and would change it. Close the database in that " +
+                        "program. If the file is still there then, move it to another directory.");
+    else if (!gfpdb_journal_fits(path, left))
+        set_problem(STATE::UNUSABLE,
+                    problem + " is the journal of another database, or of another state of this one, and would " +
+                        "damage it. Move that file to another directory, then try again.");
+    else
+        return true;
+    return false;
 }
 
 bool GFPDB_STORE::connect(const std::string& path, const char* mode)
@@ -378,7 +461,7 @@ bool GFPDB_STORE::build_new_file(const std::string& path)
     if (!make_empty_file(path, m_directory, status))
         return fail_to_make(std::strerror(errno));
     QSqlQuery query;
-    return connect(path, "rw") && run("BEGIN") && run_steps(0) &&
+    return connect(path, "rw") && run("BEGIN") && set_mark(new_mark()) && set_mark(new_mark()) && run_steps(0) &&
            prepare(query, "INSERT INTO meta (name, value) VALUES ('database_id', ?)",
                    {QUuid::createUuid().toString(QUuid::WithoutBraces)}) &&
            run(query) && run("COMMIT") &&
@@ -450,10 +533,13 @@ bool GFPDB_STORE::change(const WORK& work)
 }
 
 // Each transaction leaves a number of its own in the file, in a place that is written in any case. A commit whose last
-// calls fail (to sync an empty journal, to go on reading) is reported as failed although all of it is there.
+// calls fail (to sync an empty journal, to go on reading) is reported as failed although all of it is there. The number
+// of the transaction before stays beside it (gfpdb_journal.h).
 bool GFPDB_STORE::set_mark(int mark)
 {
-    return run(("PRAGMA user_version = " + std::to_string(mark)).c_str());
+    const std::optional<int> former = read_mark();
+    return former && run(("PRAGMA application_id = " + std::to_string(*former)).c_str()) &&
+           run(("PRAGMA user_version = " + std::to_string(mark)).c_str());
 }
 
 std::optional<int> GFPDB_STORE::read_mark()
@@ -473,23 +559,32 @@ bool GFPDB_STORE::is_stored(int mark, const std::string& error)
     return *stored == mark || fail(error);
 }
 
+// Once, after a commit: what was stored is not where the user looks.
+bool GFPDB_STORE::is_stored_in_place()
+{
+    if (is_same_file())
+        return true;
+    open();
+    return fail("The database " + file_path() + " was replaced or removed by another program while a change was " +
+                "stored, which is lost: look at the devices that are there now, then try again.");
+}
+
 bool GFPDB_STORE::run_transaction(const WORK& work)
 {
     if (!run("BEGIN IMMEDIATE"))
         return false;
-    const bool is_same = is_same_file() && is_same_database();
-    const int mark = QRandomGenerator::system()->bounded(1, std::numeric_limits<int>::max());
+    const int mark = new_mark();
+    bool is_same = is_same_file() && is_same_database();
     const bool is_done = is_same && set_mark(mark) && work();
-    if (is_done && run("COMMIT"))
-        return true;
+    is_same = is_same && is_same_file();
+    if (is_done && is_same && run("COMMIT"))
+        return is_stored_in_place();
 
     const std::string error = m_last_error;
     run("ROLLBACK");
-    if (is_done)
-        return is_stored(mark, error);
     if (!is_same) {
         open();
         return m_state == STATE::UNUSABLE ? fail(m_problem) : refuse_replaced_file();
     }
-    return fail(error);
+    return is_done ? is_stored(mark, error) && is_stored_in_place() : fail(error);
 }

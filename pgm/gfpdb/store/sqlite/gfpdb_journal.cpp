@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "store/sqlite/gfpdb_journal.h"
+
+#include <cstdint>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// The format of SQLite's files; numbers have four bytes, the highest first.
+const std::string DATABASE_BEGIN("SQLite format 3\0", 16);
+constexpr std::size_t DATABASE_PAGES = 28;
+constexpr std::size_t DATABASE_MARK = 60;
+constexpr std::size_t DATABASE_FORMER_MARK = 68;
+constexpr std::size_t DATABASE_HEADER = 100;
+const std::string JOURNAL_BEGIN = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+constexpr std::size_t JOURNAL_PAGES_OF_DATABASE = 16;
+constexpr std::size_t JOURNAL_SECTOR = 20;
+constexpr std::size_t JOURNAL_HEADER = 28;
+// The first page lies behind the header's sector, after its number.
+constexpr std::size_t PAGE_NUMBER = 4;
+
+// While another program goes on writing, what is read of the two files may belong to different transactions.
+constexpr int MOST_TRIES = 20;
+
+// A part of a file; shorter where the file is. Nothing when it cannot be opened.
+std::string read_part(const std::string& path, std::size_t first, std::size_t size)
+{
+    std::string part(size, '\0');
+    const int file = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0)
+        return std::string();
+    const ssize_t got = ::pread(file, part.data(), size, static_cast<off_t>(first));
+    ::close(file);
+    part.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+    return part;
+}
+
+// The number at `at`, or 0 where there is none.
+std::uint32_t number_at(const std::string& bytes, std::size_t at)
+{
+    std::uint32_t number = 0;
+    for (std::size_t i = at; i < at + 4 && at + 4 <= bytes.size(); ++i)
+        number = number << 8 | static_cast<unsigned char>(bytes[i]);
+    return number;
+}
+
+struct JOURNAL
+{
+    std::string header;
+    // The number of the first page, and the beginning of that page.
+    std::string first_page;
+    bool operator==(const JOURNAL& other) const { return header == other.header && first_page == other.first_page; }
+};
+
+JOURNAL read_journal(const std::string& path)
+{
+    JOURNAL journal;
+    journal.header = read_part(path, 0, JOURNAL_HEADER);
+    journal.first_page = read_part(path, number_at(journal.header, JOURNAL_SECTOR), PAGE_NUMBER + DATABASE_HEADER);
+    return journal;
+}
+
+// SQLite does nothing with a journal that begins with a zero: it was emptied, or was not synced yet, and then the file
+// is untouched.
+bool is_empty(const JOURNAL& journal)
+{
+    return journal.header.empty() || journal.header[0] == '\0';
+}
+
+// Both as they were read at one time.
+bool fits(const std::string& database, const JOURNAL& journal)
+{
+    if (journal.header.compare(0, JOURNAL_BEGIN.size(), JOURNAL_BEGIN) != 0 ||
+        database.compare(0, DATABASE_BEGIN.size(), DATABASE_BEGIN) != 0)
+        return false;
+    const std::uint32_t former_mark = number_at(database, DATABASE_FORMER_MARK);
+    // Of another program, or of a version that left no marks; it may come to the first page later.
+    if (number_at(journal.first_page, 0) != 1)
+        return former_mark == 0 ||
+               number_at(database, DATABASE_PAGES) == number_at(journal.header, JOURNAL_PAGES_OF_DATABASE);
+    const std::uint32_t mark = number_at(journal.first_page, PAGE_NUMBER + DATABASE_MARK);
+    const std::uint32_t mark_before = number_at(journal.first_page, PAGE_NUMBER + DATABASE_FORMER_MARK);
+    return mark == number_at(database, DATABASE_MARK) || mark == former_mark || (former_mark == 0 && mark_before == 0);
+}
+
+} // namespace
+
+bool gfpdb_journal_fits(const std::string& file, const std::string& journal_path)
+{
+    JOURNAL journal = read_journal(journal_path);
+    for (int i = 0; i < MOST_TRIES; ++i) {
+        const std::string database = read_part(file, 0, DATABASE_HEADER);
+        if (is_empty(journal) || database.empty() || fits(database, journal))
+            return true;
+        const JOURNAL before = journal;
+        journal = read_journal(journal_path);
+        if (journal == before)
+            return false;
+    }
+    return true;
+}
