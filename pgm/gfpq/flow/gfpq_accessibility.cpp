@@ -2,7 +2,7 @@
 #include "flow/gfpq_accessibility.h"
 
 #include "dialog/gfpq_dlg_internal.h"
-#include "flow/gfpq_flow_keyboard.h"
+#include "flow/gfpq_flow_view.h"
 #include "flow/gfpq_flow_scene.h"
 
 #include <QAbstractItemView>

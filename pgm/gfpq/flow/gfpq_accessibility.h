@@ -12,7 +12,7 @@ class QWidget;
 
 // The main dialog: names for its editors, its list of devices and its operation pages, of which `pages` shows the first
 // behind the device page. Tab goes from the titles of the pages through the page in front to the buttons below, and
-// leaves every table; the charts can be worked on with the keyboard (gfpq_flow_keyboard.h), and no title of a page is
+// leaves every table; the charts can be worked on with the keyboard (gfpq_flow_view.h), and no title of a page is
 // cut: the dialog takes the width that it needs.
 void gfpq_make_accessible(const QWidget& dialog, QAbstractItemView& devices, QTabWidget& pages);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "flow/gfpq_flow_keyboard.h"
+#include "flow/gfpq_flow_view.h"
 
 #include "flow/gfpq_flow_items.h"
 
