@@ -4,6 +4,7 @@
 
 #include "dialog/gfpq_dlg.h"
 
+#include "dialog/gfpq_device_form.h"
 #include "dialog/gfpq_dlg_internal.h"
 #include "dialog/gfpq_form.h"
 #include "dialog/gfpq_pane_fitter.h"
@@ -13,7 +14,6 @@
 #include "words/gfpq_vocabulary.h"
 
 #include "gfpdb/gfpdb_helper.h"
-#include "kovq/kovq_connect.h"
 #include "msg/msg.h"
 
 #include <QApplication>
@@ -45,7 +45,7 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     ui.m_browse_button->setEnabled(enable_edit);
 
     set_up_device_table();
-    set_up_device_fields();
+    device_form().set_up();
     create_operation_tabs();
     // The selection is connected already: the first device comes the way a click brings one, too.
     fill_device_list();
@@ -117,18 +117,14 @@ void GFPQ_DLG::fetch_manager(bool reload, int line)
         MSG_INTERNAL_ERROR::report("m_gfpdb_mgr != nullptr", GFPQ_ERROR_CATEGORY, GFPQ_DLG_SOURCE, line);
 }
 
-GFPQ_CONNECTION GFPQ_DLG::change_of(const QComboBox* combo) const
+GFPQ_CONNECTION GFPQ_DLG::family_change() const
 {
-    const char* slot = SLOT(on_change_flow_template(int));
-    if (combo == ui.m_family_cbox)
-        slot = SLOT(on_change_family(int));
-    else if (combo == ui.m_config_mode_cbox)
-        slot = SLOT(on_change_config_mode(int));
-    else if (combo == ui.m_voltage_cbox)
-        slot = SLOT(on_change_voltage(int));
-    else if (combo == ui.m_density_cbox)
-        slot = SLOT(on_change_density(int));
-    return {combo, SIGNAL(currentIndexChanged(int)), this, slot};
+    return {ui.m_family_cbox, SIGNAL(currentIndexChanged(int)), this, SLOT(on_change_family(int))};
+}
+
+GFPQ_CONNECTION GFPQ_DLG::scheme_change() const
+{
+    return {ui.m_config_mode_cbox, SIGNAL(currentIndexChanged(int)), this, SLOT(on_change_config_mode(int))};
 }
 
 GFPQ_CONNECTION GFPQ_DLG::selection_change() const
@@ -149,14 +145,14 @@ void GFPQ_DLG::create_operation_tabs()
 
 void GFPQ_DLG::connect_controls()
 {
-    kovq_safe_connect(ui.m_ok_button, SIGNAL(clicked()), this, SLOT(on_ok_clicked()), Qt::AutoConnection, "", 0);
-    kovq_safe_connect(ui.m_cancel_button, SIGNAL(clicked()), this, SLOT(on_cancel_clicked()), Qt::AutoConnection, "",
-                      0);
-    kovq_safe_connect(ui.m_apply_button, SIGNAL(clicked()), this, SLOT(on_apply_clicked()), Qt::AutoConnection, "", 0);
-    change_of(ui.m_family_cbox).make();
-    change_of(ui.m_config_mode_cbox).make();
-    kovq_safe_connect(ui.m_directory_edit, SIGNAL(returnPressed()), this, SLOT(on_directory_editing_finished()),
-                      Qt::AutoConnection, "", 0);
-    kovq_safe_connect(ui.m_browse_button, SIGNAL(clicked()), this, SLOT(on_browse_directory()), Qt::AutoConnection, "",
-                      0);
+    const GFPQ_CONNECTION connections[] = {
+        {ui.m_ok_button, SIGNAL(clicked()), this, SLOT(on_ok_clicked())},
+        {ui.m_cancel_button, SIGNAL(clicked()), this, SLOT(on_cancel_clicked())},
+        {ui.m_apply_button, SIGNAL(clicked()), this, SLOT(on_apply_clicked())},
+        family_change(),
+        scheme_change(),
+        {ui.m_directory_edit, SIGNAL(returnPressed()), this, SLOT(on_directory_editing_finished())},
+        {ui.m_browse_button, SIGNAL(clicked()), this, SLOT(on_browse_directory())}};
+    for (const GFPQ_CONNECTION& connection : connections)
+        connection.make();
 }

@@ -20,10 +20,10 @@
 #include <string>
 #include <vector>
 
-class GFPDB_ACTION;
 class GFPDB_FLASH;
 class GFPDB_MGR;
-class GFPDB_OPERATION;
+class GFPQ_DEVICE_DRAFT;
+class GFPQ_DEVICE_FORM;
 class GPFQ_OPERATION_TAB_WIDGET;
 
 // Lets the user choose a device family, a configuration scheme and a flash device, and edit the user's own devices.
@@ -85,7 +85,8 @@ private:
     // manager.
     void fetch_manager(bool reload, int line);
     // The connections that are cut while their widget is refilled.
-    GFPQ_CONNECTION change_of(const QComboBox* combo) const;
+    GFPQ_CONNECTION family_change() const;
+    GFPQ_CONNECTION scheme_change() const;
     GFPQ_CONNECTION selection_change() const;
     void create_operation_tabs();
     void connect_controls();
@@ -126,68 +127,17 @@ private:
     // Showing a device.
     void load_device(const QModelIndex& source_index);
     void load_record(const std::string& name);
-    void show_record(const GFPDB_FLASH& flash);
-    void show_nothing();
-    void show_number(const GFPDB_FLASH& flash, GFPDB_FLASH_PROPERTY property, QLineEdit* edit);
-    void show_choice(QComboBox* combo, const QString& text, bool cleared);
-    void show_template(const QString& name);
-    void refill_choice_combo(QComboBox* combo);
-    void fill_choice_combo(QComboBox* combo);
-    void select_fitting_voltage(const std::vector<std::string>& voltages);
-    void enable_fields(bool new_device, bool editable);
-    void clear_used_edits();
     void show_operation_tabs(const std::string& name, bool new_device, bool editable);
     void enable_operation_tabs(bool enabled);
     void load_flows(bool new_device);
     void show_device_page();
 
-    // Device fields.
-    struct LINE_EDIT
-    {
-        GFPDB_FLASH_PROPERTY property;
-        QLineEdit* edit;
-    };
-    struct CHOICE_COMBO
-    {
-        GFPDB_FLASH_PROPERTY property;
-        QComboBox* combo;
-    };
-    std::array<LINE_EDIT, 5> line_edits() const;
-    std::array<CHOICE_COMBO, 3> choice_combos() const;
-    bool is_used(GFPDB_FLASH_PROPERTY property) const;
-    void set_up_device_fields();
-    void set_up_line_edit(GFPDB_FLASH_PROPERTY property, QWidget* label, QLineEdit* edit, const char* slot);
-    void set_up_combo(GFPDB_FLASH_PROPERTY property, QWidget* label, QComboBox* combo);
-    void set_up_template_row();
-    void take_out_template_row();
-    void take_out(std::initializer_list<QWidget*> widgets);
-    bool check_text(GFPDB_FLASH_PROPERTY property, const QString& text) const;
-    void check_number(GFPDB_FLASH_PROPERTY property, const QLineEdit* edit) const;
+    GFPQ_DEVICE_FORM device_form() const;
 
-    // Templates.
-    std::string chosen_template() const;
-    bool is_stored_template_chosen() const;
-    const std::vector<GFPDB_OPERATION*>* builtin_template_operations(bool flow_variant) const;
-    const std::vector<GFPDB_OPERATION*>* shown_template_operations() const;
-    const std::vector<GFPDB_OPERATION*>* stored_template_operations(bool flow_variant) const;
-    void copy_operations(GFPDB_FLASH& target, const std::vector<GFPDB_OPERATION*>& operations, bool flow_variant);
-
-    // Saving.
+    // Saving. False after a report to the user.
     bool apply();
-    bool check_form(const std::string& selected) const;
-    bool check_form_name(const std::string& selected) const;
-    bool check_form_text(GFPDB_FLASH_PROPERTY property, const QLineEdit* edit) const;
-    bool check_form_number(GFPDB_FLASH_PROPERTY property, const QLineEdit* edit) const;
-    bool check_form_actions() const;
-    bool check_form_action(int operation, const GFPDB_ACTION& action) const;
-    bool check_form_template_name() const;
-    bool is_valid_text(GFPDB_FLASH_PROPERTY property, const QLineEdit* edit) const;
-    void fill_record(GFPDB_FLASH& flash, const std::string& directory, const std::string& selected,
-                     const GFPDB_FLASH* previous);
-    void store_fields(GFPDB_FLASH& flash) const;
-    void store_flows(GFPDB_FLASH& flash);
-    void store_other_variant(GFPDB_FLASH& flash, const std::string& selected, const GFPDB_FLASH* previous);
-    GFPDB_OPERATION* create_operation(int kind);
+    GFPQ_DEVICE_DRAFT make_draft(const std::string& selected) const;
+    bool save(const GFPQ_DEVICE_DRAFT& draft);
     void show_unsaved_flows();
 
     Ui::gfpq_dlg ui;

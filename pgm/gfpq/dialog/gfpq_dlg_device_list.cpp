@@ -9,7 +9,6 @@
 
 #include "gen/gen_text.h"
 #include "gfpdb/gfpdb_mgr.h"
-#include "kovq/kovq_connect.h"
 
 #include <QHeaderView>
 #include <QRegularExpression>
@@ -63,10 +62,9 @@ void GFPQ_DLG::set_up_device_table()
     table.verticalHeader()->setDefaultSectionSize(table.verticalHeader()->minimumSectionSize());
 
     selection_change().make();
-    kovq_safe_connect(ui.m_delete_button, SIGNAL(clicked()), this, SLOT(on_delete_clicked()), Qt::AutoConnection, "",
-                      0);
-    kovq_safe_connect(ui.m_filter_line_edit, SIGNAL(textChanged(QString)), this, SLOT(update_filter(const QString&)),
-                      Qt::AutoConnection, "", 0);
+    GFPQ_CONNECTION{ui.m_delete_button, SIGNAL(clicked()), this, SLOT(on_delete_clicked())}.make();
+    GFPQ_CONNECTION{ui.m_filter_line_edit, SIGNAL(textChanged(QString)), this, SLOT(update_filter(const QString&))}
+        .make();
 }
 
 // All rows leave and come in one step each: row by row the proxy would need time quadratic in their number.

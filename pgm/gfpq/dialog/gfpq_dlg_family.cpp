@@ -97,7 +97,7 @@ std::vector<int> GFPQ_DLG::offered_schemes(int family) const
 
 void GFPQ_DLG::on_change_family(int /*cursel*/)
 {
-    const GFPQ_CONNECTION_CUT cut{change_of(ui.m_config_mode_cbox), change_of(ui.m_family_cbox), selection_change()};
+    const GFPQ_CONNECTION_CUT cut{scheme_change(), family_change(), selection_change()};
     m_gfpdb_mgr->set_device_family(current_family());
     fill_scheme_list(current_family(), current_scheme());
     rebuild_device_list(selected_device_name());
@@ -106,7 +106,7 @@ void GFPQ_DLG::on_change_family(int /*cursel*/)
 
 void GFPQ_DLG::on_change_config_mode(int /*cursel*/)
 {
-    const GFPQ_CONNECTION_CUT cut{change_of(ui.m_config_mode_cbox), change_of(ui.m_family_cbox), selection_change()};
+    const GFPQ_CONNECTION_CUT cut{scheme_change(), family_change(), selection_change()};
     GFPDB_HELPER::set_active_flash_family(static_cast<PGMIO_CONFIG_SCHEME>(current_scheme()));
     fetch_manager(false, GFPQ_LINE_CONFIG_MODE);
     m_gfpdb_mgr->set_config_scheme(current_scheme());
