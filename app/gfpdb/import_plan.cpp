@@ -15,16 +15,6 @@ std::string key_of(const CLI_RECORD& record)
                               : std::to_string(record.row.family) + ' ' + std::to_string(record.row.scheme) + ' ' + key;
 }
 
-bool is_same(const GFPDB_ROW& left, const GFPDB_ROW& right)
-{
-    const auto content = [](const GFPDB_ROW& row) {
-        return std::tie(row.family, row.scheme, row.name, row.device_id, row.voltage, row.density, row.total_die,
-                        row.single_io_dummy_clock, row.quad_io_dummy_clock, row.template_name, row.flow_template,
-                        row.single_flows, row.quad_flows);
-    };
-    return content(left) == content(right);
-}
-
 std::string what(const CLI_RECORD& record)
 {
     return std::string(record.is_template ? "stored template " : "device ") + gfpdb_quoted(record.name());
@@ -52,14 +42,14 @@ void IMPORT_PLAN::add_record(RECORD_FILE& file, CLI_RECORD record)
     const std::optional<CLI_RECORD> former = m_database.load(record);
     if (file.is_csv)
         fill_flows(record, former);
-    if (former && is_same(former->row, record.row)) {
+    if (former && gfpdb_is_same_content(former->row, record.row)) {
         ++m_unchanged;
         return;
     }
     std::vector<RECORD_REMARK> remarks;
     if (m_rules != RECORD_RULES::NAMES)
         remarks = record_fill_missing(m_database.manager(), record);
-    if (former && is_same(former->row, record.row)) {
+    if (former && gfpdb_is_same_content(former->row, record.row)) {
         ++m_unchanged;
         return;
     }

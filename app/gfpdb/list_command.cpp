@@ -6,6 +6,7 @@
 #include "record_json.h"
 
 #include "base/gfpdb_text.h"
+#include "model/gfpdb_field.h"
 
 #include <QRegularExpression>
 #include <QString>
@@ -71,28 +72,19 @@ std::string table(const std::vector<LISTED>& records)
     return gfpdb_to_utf8(text);
 }
 
-JSON_VALUE number(const std::optional<int>& value)
-{
-    return value ? json_number(*value) : json_null();
-}
-
 std::string json(const std::vector<LISTED>& records)
 {
     JSON_VALUE list = json_list();
     for (const LISTED& listed : records) {
-        const GFPDB_ROW& row = listed.record.row;
         JSON_VALUE object = json_object();
-        object.add("name", json_string(listed.record.name()));
+        object.add(GFPDB_KEY_NAME, json_string(listed.record.name()));
         object.add("kind", json_string(listed.kind()));
-        object.add("family", listed.is_builtin ? json_null() : json_number(row.family));
-        object.add("scheme", listed.is_builtin ? json_null() : json_number(row.scheme));
-        object.add("device_id", json_string(row.device_id));
-        object.add("voltage", json_string(row.voltage));
-        object.add("density", json_string(row.density));
-        object.add("total_die", number(row.total_die));
-        object.add("single_io_dummy_clock", number(row.single_io_dummy_clock));
-        object.add("quad_io_dummy_clock", number(row.quad_io_dummy_clock));
-        object.add("flow_template", json_string(row.flow_template));
+        for (const GFPDB_FIELD& field : gfpdb_fields()) {
+            const bool is_name = field.property == GFPDB_FLASH_NAME || field.property == GFPDB_FLASH_TEMPLATE_NAME;
+            const bool is_unknown = listed.is_builtin && field.kind == GFPDB_FIELD_KIND::PLACE;
+            if (!is_name && field.kind != GFPDB_FIELD_KIND::FLOWS)
+                object.add(field.key, is_unknown ? json_null() : field_to_json(field, listed.record.row));
+        }
         list.items.push_back(std::move(object));
     }
     return json_write(list);

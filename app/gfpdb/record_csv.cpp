@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "record_csv.h"
 
-#include "record_fields.h"
 #include "record_json.h"
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_catalogue_csv.h"
+#include "model/gfpdb_field.h"
 
 #include <algorithm>
 
 namespace {
 
-// The columns are the members of a record in JSON that are no flows.
-const std::vector<std::string> COLUMNS = {
-    RECORD_NAME,      RECORD_FAMILY,       RECORD_SCHEME,     RECORD_DEVICE_ID,     RECORD_VOLTAGE,      RECORD_DENSITY,
-    RECORD_TOTAL_DIE, RECORD_SINGLE_DUMMY, RECORD_QUAD_DUMMY, RECORD_TEMPLATE_NAME, RECORD_FLOW_TEMPLATE};
-constexpr std::size_t COLUMNS_REQUIRED = 3;
-const std::vector<std::string> NUMBER_COLUMNS = {RECORD_FAMILY, RECORD_SCHEME, RECORD_TOTAL_DIE, RECORD_SINGLE_DUMMY,
-                                                 RECORD_QUAD_DUMMY};
+// Everything but the flows.
+const std::vector<std::string> COLUMNS = gfpdb_field_keys(false);
 
 bool is_one_of(const std::vector<std::string>& texts, const std::string& text)
 {
@@ -37,6 +32,11 @@ std::string cell(const std::string& text)
     return quoted + '"';
 }
 
+bool is_text(const GFPDB_FIELD& field)
+{
+    return std::holds_alternative<GFPDB_TEXT_MEMBER>(field.member);
+}
+
 // Spreadsheets take what begins like this for a formula, some of them also behind blanks and line breaks.
 bool is_formula(const std::string& text)
 {
@@ -50,11 +50,6 @@ std::string line(const std::vector<std::string>& cells)
     for (const std::string& each : cells)
         text += (text.empty() && &each == &cells.front() ? "" : ",") + cell(each);
     return text + '\n';
-}
-
-std::string number(const std::optional<int>& value)
-{
-    return value ? std::to_string(*value) : std::string();
 }
 
 // The number in a cell, null for an empty one; any other text stays one, so that the reader refuses it.
@@ -71,7 +66,7 @@ JSON_VALUE number_of(const std::string& text)
 bool check_columns(const GFPDB_CSV_ROW& head, std::vector<CLI_PROBLEM>& problems)
 {
     const std::size_t before = problems.size();
-    for (std::size_t at = 0; at < COLUMNS_REQUIRED; ++at) {
+    for (std::size_t at = 0; at < GFPDB_REQUIRED_FIELDS; ++at) {
         if (!is_one_of(head.cells, COLUMNS[at]))
             problems.push_back({head.line, COLUMNS[at], "The column is missing."});
     }
@@ -104,7 +99,7 @@ JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
     object.line = row.line;
     for (std::size_t at = 0; at < head.cells.size(); ++at) {
         const std::string& text = row.cells[at];
-        JSON_VALUE value = is_one_of(NUMBER_COLUMNS, head.cells[at]) ? number_of(text) : json_string(text);
+        JSON_VALUE value = is_text(*gfpdb_field(head.cells[at])) ? json_string(text) : number_of(text);
         value.line = row.line;
         object.add(head.cells[at], std::move(value));
     }
@@ -122,17 +117,19 @@ std::optional<CSV_FOR> csv_reader(const CLI_CALL& call)
 
 std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reader)
 {
-    const auto shown = [reader](const std::string& value) {
-        return reader == CSV_FOR::SPREADSHEET && is_formula(value) ? '\'' + value : value;
-    };
     std::string text = line(COLUMNS);
     for (const CLI_RECORD& record : records) {
-        const GFPDB_ROW& row = record.row;
         if (record.is_template)
             continue;
-        text += line({shown(row.name), std::to_string(row.family), std::to_string(row.scheme), shown(row.device_id),
-                      shown(row.voltage), shown(row.density), number(row.total_die), number(row.single_io_dummy_clock),
-                      number(row.quad_io_dummy_clock), shown(row.template_name), shown(row.flow_template)});
+        std::vector<std::string> cells;
+        for (const GFPDB_FIELD& field : gfpdb_fields()) {
+            if (field.kind == GFPDB_FIELD_KIND::FLOWS)
+                continue;
+            const std::string value = field.text(record.row);
+            const bool is_dangerous = reader == CSV_FOR::SPREADSHEET && is_text(field) && is_formula(value);
+            cells.push_back(is_dangerous ? '\'' + value : value);
+        }
+        text += line(cells);
     }
     return text;
 }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "record_json.h"
 
-#include "record_fields.h"
-
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_action_model.h"
+#include "model/gfpdb_field.h"
 #include "model/gfpdb_json.h"
 #include "model/gfpdb_operation.h"
 #include "rules/gfpdb_flow_check.h"
@@ -27,13 +26,6 @@ constexpr const char* FORMAT = "format";
 constexpr const char* VERSION = "version";
 constexpr const char* DEVICES = "devices";
 constexpr const char* TEMPLATES = "templates";
-
-// The members of a record in their order; the first three are required.
-const std::vector<std::string> RECORD_MEMBERS = {
-    RECORD_NAME,          RECORD_FAMILY,       RECORD_SCHEME,       RECORD_DEVICE_ID,  RECORD_VOLTAGE,
-    RECORD_DENSITY,       RECORD_TOTAL_DIE,    RECORD_SINGLE_DUMMY, RECORD_QUAD_DUMMY, RECORD_TEMPLATE_NAME,
-    RECORD_FLOW_TEMPLATE, RECORD_SINGLE_FLOWS, RECORD_QUAD_FLOWS};
-constexpr std::size_t RECORD_MEMBERS_REQUIRED = 3;
 
 const std::vector<std::string> OPERATION_WORDS = {"initialization", "program", "erase", "verify", "termination"};
 const std::vector<std::string> ACTION_WORDS = {"write_register", "read_register", "write_data",
@@ -80,9 +72,19 @@ JSON_VALUE flows_to_json(const OPERATIONS& operations)
     return list;
 }
 
-JSON_VALUE number_to_json(const std::optional<int>& number)
+JSON_VALUE json_of(int number)
+{
+    return json_number(number);
+}
+
+JSON_VALUE json_of(const std::optional<int>& number)
 {
     return number ? json_number(*number) : json_null();
+}
+
+JSON_VALUE json_of(const std::string& text)
+{
+    return json_string(text);
 }
 
 // What a value is called where another kind was expected.
@@ -118,27 +120,24 @@ const JSON_VALUE& place_of(const JSON_VALUE& object, const char* name)
 
 } // namespace
 
+JSON_VALUE field_to_json(const GFPDB_FIELD& field, const GFPDB_ROW& row)
+{
+    return field.in(row, [](const auto& value) { return json_of(value); });
+}
+
 std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record)
 {
-    const GFPDB_ROW& row = record.row;
-    const auto single = gfpdb_flows_from_json(row.single_flows);
-    const auto quad = gfpdb_flows_from_json(row.quad_flows);
-    if (!single || !quad)
-        return std::nullopt;
     JSON_VALUE object = json_object();
-    object.add(RECORD_NAME, json_string(row.name));
-    object.add(RECORD_FAMILY, json_number(row.family));
-    object.add(RECORD_SCHEME, json_number(row.scheme));
-    object.add(RECORD_DEVICE_ID, json_string(row.device_id));
-    object.add(RECORD_VOLTAGE, json_string(row.voltage));
-    object.add(RECORD_DENSITY, json_string(row.density));
-    object.add(RECORD_TOTAL_DIE, number_to_json(row.total_die));
-    object.add(RECORD_SINGLE_DUMMY, number_to_json(row.single_io_dummy_clock));
-    object.add(RECORD_QUAD_DUMMY, number_to_json(row.quad_io_dummy_clock));
-    object.add(RECORD_TEMPLATE_NAME, json_string(row.template_name));
-    object.add(RECORD_FLOW_TEMPLATE, json_string(row.flow_template));
-    object.add(RECORD_SINGLE_FLOWS, flows_to_json(*single));
-    object.add(RECORD_QUAD_FLOWS, flows_to_json(*quad));
+    for (const GFPDB_FIELD& field : gfpdb_fields()) {
+        if (field.kind != GFPDB_FIELD_KIND::FLOWS) {
+            object.add(field.key, field_to_json(field, record.row));
+            continue;
+        }
+        const auto flows = gfpdb_flows_from_json(field.text(record.row));
+        if (!flows)
+            return std::nullopt;
+        object.add(field.key, flows_to_json(*flows));
+    }
     return object;
 }
 
@@ -234,23 +233,11 @@ CLI_RECORD RECORD_READER::read_record(const JSON_VALUE& value, bool is_template,
     CLI_RECORD record;
     record.is_template = is_template;
     record.line = value.line;
-    if (!check_members(value, field, RECORD_MEMBERS, RECORD_MEMBERS_REQUIRED))
+    if (!check_members(value, field, gfpdb_field_keys(true), GFPDB_REQUIRED_FIELDS))
         return record;
     const std::size_t problems_before = m_problems.size();
-    GFPDB_ROW& row = record.row;
-    row.name = read_text(value, RECORD_NAME, field);
-    row.family = m_family ? *m_family : read_number(value, RECORD_FAMILY, field).value_or(0);
-    row.scheme = m_scheme ? *m_scheme : read_number(value, RECORD_SCHEME, field).value_or(-1);
-    row.device_id = read_text(value, RECORD_DEVICE_ID, field);
-    row.voltage = read_text(value, RECORD_VOLTAGE, field);
-    row.density = read_text(value, RECORD_DENSITY, field);
-    row.total_die = read_number(value, RECORD_TOTAL_DIE, field);
-    row.single_io_dummy_clock = read_number(value, RECORD_SINGLE_DUMMY, field);
-    row.quad_io_dummy_clock = read_number(value, RECORD_QUAD_DUMMY, field);
-    row.template_name = read_text(value, RECORD_TEMPLATE_NAME, field);
-    row.flow_template = read_text(value, RECORD_FLOW_TEMPLATE, field);
-    row.single_flows = read_flows(value, RECORD_SINGLE_FLOWS, field);
-    row.quad_flows = read_flows(value, RECORD_QUAD_FLOWS, field);
+    for (const GFPDB_FIELD& each : gfpdb_fields())
+        read_field(value, each, field, record.row);
     for (const RECORD_REMARK& remark : record_problems(m_manager, record, m_rules)) {
         const std::string place = field + '.' + remark.member;
         // What could not be read is not missing.
@@ -259,6 +246,22 @@ CLI_RECORD RECORD_READER::read_record(const JSON_VALUE& value, bool is_template,
             add(place_of(value, remark.member), place, remark.text, remark.seriousness);
     }
     return record;
+}
+
+void RECORD_READER::read_field(const JSON_VALUE& object, const GFPDB_FIELD& which, const std::string& field,
+                               GFPDB_ROW& row)
+{
+    if (which.kind == GFPDB_FIELD_KIND::PLACE) {
+        int& place = row.*std::get<GFPDB_PLACE_MEMBER>(which.member);
+        const std::optional<int>& given = &place == &row.family ? m_family : m_scheme;
+        place = (given ? given : read_number(object, which.key, field)).value_or(place);
+    } else if (which.kind == GFPDB_FIELD_KIND::NUMBER) {
+        row.*std::get<GFPDB_NUMBER_MEMBER>(which.member) = read_number(object, which.key, field);
+    } else {
+        const bool are_flows = which.kind == GFPDB_FIELD_KIND::FLOWS;
+        row.*std::get<GFPDB_TEXT_MEMBER>(which.member) =
+            are_flows ? read_flows(object, which.key, field) : read_text(object, which.key, field);
+    }
 }
 
 std::string RECORD_READER::read_text(const JSON_VALUE& object, const char* name, const std::string& field)

@@ -15,10 +15,13 @@
 
 class GFPDB_MGR;
 class GFPDB_OPERATION;
+struct GFPDB_FIELD;
 
 constexpr const char* RECORD_FORMAT = "gfpdb-records";
 constexpr int RECORD_FORMAT_VERSION = 1;
 
+// The value of a field that is no flows.
+JSON_VALUE field_to_json(const GFPDB_FIELD& field, const GFPDB_ROW& row);
 // The record; none when its flows cannot be read.
 std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record);
 // A whole file: devices, then templates, each in the given order. Records whose flows cannot be read are left out, and
@@ -47,6 +50,7 @@ private:
     bool check_members(const JSON_VALUE& object, const std::string& field, const std::vector<std::string>& known,
                        std::size_t required);
     void read_records(const JSON_VALUE& file, const char* name, bool are_templates, std::vector<CLI_RECORD>& records);
+    void read_field(const JSON_VALUE& object, const GFPDB_FIELD& which, const std::string& field, GFPDB_ROW& row);
     std::string read_text(const JSON_VALUE& object, const char* name, const std::string& field);
     std::optional<int> read_number(const JSON_VALUE& object, const char* name, const std::string& field);
     std::string read_flows(const JSON_VALUE& object, const char* name, const std::string& field);

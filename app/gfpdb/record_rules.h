@@ -25,7 +25,7 @@ enum class RECORD_RULES
 // What there is to say about one member of a record.
 struct RECORD_REMARK
 {
-    // Its name in files (record_fields.h).
+    // Its name in files (gfpdb_field.h).
     const char* member;
     std::string text;
     CLI_SERIOUSNESS seriousness = CLI_SERIOUSNESS::PROBLEM;

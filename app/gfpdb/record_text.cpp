@@ -3,6 +3,7 @@
 
 #include "cli_output.h"
 
+#include "model/gfpdb_field.h"
 #include "model/gfpdb_json.h"
 #include "words/gfpq_vocabulary.h"
 
@@ -23,11 +24,6 @@ std::string padded(const std::string& text, std::size_t width)
 std::string line(const char* title, const std::string& value)
 {
     return padded(std::string(title) + ':', TITLE_WIDTH) + (value.empty() ? "-" : cli_printable(value)) + '\n';
-}
-
-std::string number(const std::optional<int>& value)
-{
-    return value ? std::to_string(*value) : std::string();
 }
 
 // "  Write Register  Write Enable | Command 0x06 | Data none": labels without their colons.
@@ -74,14 +70,11 @@ std::string record_to_text(const CLI_RECORD& record, bool with_single, bool with
         text += line("Family", std::to_string(row.family) + " (" + dstr_get_user_string(row.family) + ')');
         text += line("Scheme", std::to_string(row.scheme));
     }
-    text += line("ID", row.device_id);
-    text += line("I/O voltage", row.voltage);
-    text += line("Density", row.density);
-    text += line("Dies", number(row.total_die));
-    text += line("Dummy clocks, single", number(row.single_io_dummy_clock));
-    text += line("Dummy clocks, quad", number(row.quad_io_dummy_clock));
-    text += line("Template name", row.template_name);
-    text += line("Flow template", row.flow_template);
+    for (const GFPDB_FIELD& field : gfpdb_fields()) {
+        const bool is_said = field.property == GFPDB_FLASH_NAME || field.kind == GFPDB_FIELD_KIND::PLACE;
+        if (!is_said && field.kind != GFPDB_FIELD_KIND::FLOWS)
+            text += line(field.title, field.text(row));
+    }
     if (with_single && !add_flows(text, "Single-I/O flow", row.single_flows))
         return std::string();
     if (with_quad && !add_flows(text, "Quad-I/O flow", row.quad_flows))

@@ -9,6 +9,7 @@
 #include "catalogue/gfpdb_catalogue_csv.h"
 #include "catalogue/gfpdb_flow_templates.h"
 #include "model/gfpdb_embedded_flash.h"
+#include "model/gfpdb_field.h"
 #include "rules/gfpdb_checks.h"
 
 #include <algorithm>
@@ -21,7 +22,7 @@ void check_part(const GFPDB_PART& part)
     FUZZ_CHECK(gfpdb_check_name(part.name, "part name", error));
     FUZZ_CHECK(!part.jedec_id.empty() && gfpdb_density_bytes(part.density) > 0);
     FUZZ_CHECK(gfpdb_is_utf8(part.manufacturer) && gfpdb_is_utf8(part.voltage) && gfpdb_is_utf8(part.source));
-    FUZZ_CHECK(part.total_die >= 0 && part.total_die <= GFPDB_TOTAL_DIE_MAX);
+    FUZZ_CHECK(part.total_die >= 0 && part.total_die <= gfpdb_field(GFPDB_FLASH_TOTAL_DIE)->highest);
 }
 
 void check_action(const GFPDB_ACTION& action)

@@ -4,6 +4,7 @@
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_catalogue.h"
 #include "catalogue/gfpdb_flow_templates.h"
+#include "model/gfpdb_field.h"
 #include "rules/gfpdb_checks.h"
 
 #include <algorithm>
@@ -37,7 +38,8 @@ std::unique_ptr<GFPDB_EMBEDDED_FLASH> make_record(const GFPDB_PART& part)
     record->set_string_property(GFPDB_FLASH_DEVICE_ID, id_text(part.jedec_id));
     record->set_string_property(GFPDB_FLASH_VOLTAGE, part.voltage);
     record->set_density(part.density);
-    record->set_int_property(GFPDB_FLASH_TOTAL_DIE, std::max(part.total_die, GFPDB_TOTAL_DIE_MIN));
+    record->set_int_property(GFPDB_FLASH_TOTAL_DIE,
+                             std::max(part.total_die, gfpdb_field(GFPDB_FLASH_TOTAL_DIE)->lowest));
     set_known(*record, GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, part.dummy_single);
     set_known(*record, GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, part.dummy_quad);
     record->set_string_property(GFPDB_FLASH_FLOW_TEMPLATE, gfpdb_part_template_name(part));

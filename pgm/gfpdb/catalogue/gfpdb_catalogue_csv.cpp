@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_action_value.h"
+#include "model/gfpdb_field.h"
 #include "rules/gfpdb_checks.h"
 
 #include <algorithm>
@@ -255,8 +256,10 @@ const std::map<std::string, CELL_READER>& cell_readers()
         {"voltage",
          [](CELL cell, GFPDB_PART& part, std::string& error) { return read_text(cell, part.voltage, error); }},
         {DENSITY_COLUMN, read_density},
-        {"total_die", [](CELL cell, GFPDB_PART& part,
-                         std::string& error) { return read_count(cell, GFPDB_TOTAL_DIE_MAX, part.total_die, error); }},
+        {"total_die",
+         [](CELL cell, GFPDB_PART& part, std::string& error) {
+             return read_count(cell, gfpdb_field(GFPDB_FLASH_TOTAL_DIE)->highest, part.total_die, error);
+         }},
         {"page_size", read_page_size},
         {"sector_erase_opcodes", read_sector_erase},
         {"addressing_bytes", read_addressing_bytes},

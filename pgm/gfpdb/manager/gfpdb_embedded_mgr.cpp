@@ -8,6 +8,7 @@
 #include "catalogue/gfpdb_flow_templates.h"
 #include "manager/gfpdb_custom_dir.h"
 #include "model/gfpdb_action_model.h"
+#include "model/gfpdb_field.h"
 #include "model/gfpdb_operation.h"
 #include "rules/gfpdb_checks.h"
 #include "rules/gfpdb_options.h"
@@ -243,21 +244,16 @@ bool GFPDB_EMBEDDED_MGR::is_writable() const
 
 bool GFPDB_EMBEDDED_MGR::check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const
 {
-    switch (property) {
-    case GFPDB_FLASH_TOTAL_DIE:
-        return gfpdb_check_range(value, GFPDB_TOTAL_DIE_MIN, GFPDB_TOTAL_DIE_MAX, "total die count", error);
-    case GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK:
-        return gfpdb_check_range(value, 0, GFPDB_SINGLE_IO_DUMMY_CLOCK_MAX, "number of single-I/O dummy clocks", error);
-    case GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK:
-        return gfpdb_check_range(value, 0, GFPDB_QUAD_IO_DUMMY_CLOCK_MAX, "number of quad-I/O dummy clocks", error);
-    default:
+    const GFPDB_FIELD* field = gfpdb_field(property);
+    if (field == nullptr || field->kind != GFPDB_FIELD_KIND::NUMBER)
         return refuse(error, "Property " + std::to_string(property) + " of a device is not a number.");
-    }
+    return gfpdb_check_range(value, field->lowest, field->highest, field->noun, error);
 }
 
 bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
                                                std::string& error) const
 {
+    const GFPDB_FIELD* field = gfpdb_field(property);
     std::vector<std::string> allowed;
     switch (property) {
     case GFPDB_FLASH_NAME:
@@ -265,13 +261,13 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
     case GFPDB_FLASH_DEVICE_ID:
         return gfpdb_check_device_id(value, error);
     case GFPDB_FLASH_VOLTAGE:
-        return gfpdb_check_choice(value, get_voltage_list(allowed), "I/O voltage", error);
+        return gfpdb_check_choice(value, get_voltage_list(allowed), field->noun, error);
     case GFPDB_FLASH_DENSITY:
-        return gfpdb_check_choice(value, densities(), "density", error);
+        return gfpdb_check_choice(value, densities(), field->noun, error);
     case GFPDB_FLASH_TEMPLATE_NAME:
         return check_template_name(value, error);
     case GFPDB_FLASH_FLOW_TEMPLATE:
-        return gfpdb_check_choice(value, get_template_list(allowed), "flow template", error);
+        return gfpdb_check_choice(value, get_template_list(allowed), field->noun, error);
     default:
         return refuse(error, "Property " + std::to_string(property) + " of a device is not a text.");
     }

@@ -2,46 +2,27 @@
 #include "model/gfpdb_embedded_flash.h"
 
 #include "base/gfpdb_text.h"
+#include "model/gfpdb_field.h"
 #include "model/gfpdb_json.h"
 
 #include <algorithm>
 
 namespace {
 
-// Where the row keeps a text property; null for any other.
-std::string GFPDB_ROW::*text_member(int property)
+// Where the row keeps `property`, if that is a `MEMBER`; else null.
+template <typename MEMBER>
+const MEMBER* member_of(int property)
 {
-    switch (property) {
-    case GFPDB_FLASH_NAME:
-        return &GFPDB_ROW::name;
-    case GFPDB_FLASH_DEVICE_ID:
-        return &GFPDB_ROW::device_id;
-    case GFPDB_FLASH_VOLTAGE:
-        return &GFPDB_ROW::voltage;
-    case GFPDB_FLASH_DENSITY:
-        return &GFPDB_ROW::density;
-    case GFPDB_FLASH_TEMPLATE_NAME:
-        return &GFPDB_ROW::template_name;
-    case GFPDB_FLASH_FLOW_TEMPLATE:
-        return &GFPDB_ROW::flow_template;
-    default:
-        return nullptr;
-    }
+    const GFPDB_FIELD* field = gfpdb_field(property);
+    return field != nullptr ? std::get_if<MEMBER>(&field->member) : nullptr;
 }
 
-// Where the row keeps an integer property; null for any other.
-std::optional<int> GFPDB_ROW::*int_member(int property)
+bool has_storable_texts(const GFPDB_ROW& row)
 {
-    switch (property) {
-    case GFPDB_FLASH_TOTAL_DIE:
-        return &GFPDB_ROW::total_die;
-    case GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK:
-        return &GFPDB_ROW::single_io_dummy_clock;
-    case GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK:
-        return &GFPDB_ROW::quad_io_dummy_clock;
-    default:
-        return nullptr;
-    }
+    const std::vector<GFPDB_FIELD>& fields = gfpdb_fields();
+    return std::all_of(fields.begin(), fields.end(), [&row](const GFPDB_FIELD& field) {
+        return field.kind == GFPDB_FIELD_KIND::FLOWS || gfpdb_is_utf8(field.text(row));
+    });
 }
 
 constexpr bool SINGLE_IO = false;
@@ -95,12 +76,7 @@ std::optional<GFPDB_ROW> GFPDB_EMBEDDED_FLASH::to_row(int family, int scheme) co
         return std::nullopt;
     row.single_flows = *single;
     row.quad_flows = *quad;
-    for (const std::string* text :
-         {&row.name, &row.device_id, &row.voltage, &row.density, &row.template_name, &row.flow_template}) {
-        if (!gfpdb_is_utf8(*text))
-            return std::nullopt;
-    }
-    return row;
+    return has_storable_texts(row) ? std::optional<GFPDB_ROW>(row) : std::nullopt;
 }
 
 void GFPDB_EMBEDDED_FLASH::set_stored(const GFPDB_ROW& row)
@@ -215,30 +191,28 @@ void GFPDB_EMBEDDED_FLASH::clear_operations()
 
 std::string GFPDB_EMBEDDED_FLASH::get_string_property(GFPDB_FLASH_PROPERTY property) const
 {
-    if (const auto text = text_member(property))
-        return m_row.*text;
-    const auto number = int_member(property);
-    return number != nullptr && m_row.*number ? std::to_string(*(m_row.*number)) : std::string();
+    const GFPDB_FIELD* field = gfpdb_field(property);
+    return field != nullptr ? field->text(m_row) : std::string();
 }
 
 int GFPDB_EMBEDDED_FLASH::get_int_property(GFPDB_FLASH_PROPERTY property, int default_value) const
 {
-    const auto number = int_member(property);
-    return number != nullptr ? (m_row.*number).value_or(default_value) : default_value;
+    const auto* number = member_of<GFPDB_NUMBER_MEMBER>(property);
+    return number != nullptr ? (m_row.**number).value_or(default_value) : default_value;
 }
 
 void GFPDB_EMBEDDED_FLASH::set_int_property(GFPDB_FLASH_PROPERTY property, int value)
 {
-    if (const auto number = int_member(property)) {
-        m_row.*number = value;
+    if (const auto* number = member_of<GFPDB_NUMBER_MEMBER>(property)) {
+        m_row.** number = value;
         m_is_changed = true;
     }
 }
 
 void GFPDB_EMBEDDED_FLASH::set_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value)
 {
-    if (const auto text = text_member(property)) {
-        m_row.*text = value;
+    if (const auto* text = member_of<GFPDB_TEXT_MEMBER>(property)) {
+        m_row.** text = value;
         m_is_changed = true;
     }
 }

@@ -2,27 +2,27 @@
 #include "model/gfpdb_row.h"
 
 #include "base/gfpdb_text.h"
+#include "model/gfpdb_field.h"
 
 #include <QUuid>
 
-#include <tuple>
+#include <algorithm>
 
-namespace {
-
-auto state_of(const GFPDB_ROW& row)
+bool gfpdb_is_same_content(const GFPDB_ROW& left, const GFPDB_ROW& right)
 {
-    return std::tie(row.family, row.scheme, row.name, row.device_id, row.voltage, row.density, row.total_die,
-                    row.single_io_dummy_clock, row.quad_io_dummy_clock, row.flow_template, row.single_flows,
-                    row.quad_flows);
+    const std::vector<GFPDB_FIELD>& fields = gfpdb_fields();
+    return std::all_of(fields.begin(), fields.end(),
+                       [&](const GFPDB_FIELD& field) { return field.is_same(left, right); });
 }
-
-} // namespace
 
 // A device is stored as a template on demand: without a template name, nothing is said about the former one.
 bool gfpdb_is_same_state(const GFPDB_ROW& former, const GFPDB_ROW& next)
 {
-    return state_of(former) == state_of(next) &&
-           (next.template_name.empty() || next.template_name == former.template_name);
+    const std::vector<GFPDB_FIELD>& fields = gfpdb_fields();
+    return std::all_of(fields.begin(), fields.end(), [&](const GFPDB_FIELD& field) {
+        const bool is_unsaid = field.property == GFPDB_FLASH_TEMPLATE_NAME && next.template_name.empty();
+        return is_unsaid || field.is_same(former, next);
+    });
 }
 
 std::string gfpdb_new_revision()

@@ -9,7 +9,7 @@
 #include <set>
 #include <string>
 
-// One device or stored template as a row of the database. Texts are UTF-8.
+// One device or stored template as a row of the database; gfpdb_field.h lists its fields. Texts are UTF-8.
 struct GFPDB_ROW
 {
     int family = 0;
@@ -29,6 +29,9 @@ struct GFPDB_ROW
     // Another text with every save (gfpdb_new_revision()).
     std::string revision;
 };
+
+// True when all fields are the same; the revisions may differ.
+bool gfpdb_is_same_content(const GFPDB_ROW& left, const GFPDB_ROW& right);
 
 // True when saving `next` over `former` would change nothing: all but the revision is the same, and `next` has the same
 // template name or none.

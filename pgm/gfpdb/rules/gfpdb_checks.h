@@ -11,10 +11,6 @@
 
 constexpr int GFPDB_NAME_LENGTH_MAX = 64;
 constexpr int GFPDB_ID_BYTES_MAX = 16;
-constexpr int GFPDB_TOTAL_DIE_MIN = 1;
-constexpr int GFPDB_TOTAL_DIE_MAX = 16;
-constexpr int GFPDB_SINGLE_IO_DUMMY_CLOCK_MAX = 15;
-constexpr int GFPDB_QUAD_IO_DUMMY_CLOCK_MAX = 31;
 
 // The name of a device or template: 1 to 64 characters of UTF-8, no control characters, no blank at either end, and not
 // the text that stands for a new device. `what` says in the error whose name it is.

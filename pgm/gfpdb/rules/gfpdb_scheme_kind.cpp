@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "rules/gfpdb_scheme_kind.h"
 
+#include "model/gfpdb_field.h"
+
 GFPDB_SCHEME_KIND gfpdb_scheme_kind(int scheme)
 {
     switch (scheme) {
@@ -42,19 +44,14 @@ bool gfpdb_is_quad_scheme(int scheme)
 
 bool gfpdb_kind_has_property(GFPDB_SCHEME_KIND kind, int property)
 {
-    const bool is_serial = kind == GFPDB_SCHEME_KIND::SERIAL || kind == GFPDB_SCHEME_KIND::NONE;
-    switch (property) {
-    case GFPDB_FLASH_NAME:
-    case GFPDB_FLASH_VOLTAGE:
-    case GFPDB_FLASH_DENSITY:
+    const GFPDB_FIELD* field = gfpdb_field(property);
+    switch (field != nullptr ? field->use : GFPDB_FIELD_USE::NO_ROW) {
+    case GFPDB_FIELD_USE::ALL:
         return true;
-    case GFPDB_FLASH_DEVICE_ID:
-    case GFPDB_FLASH_TOTAL_DIE:
+    case GFPDB_FIELD_USE::NOT_CARDS:
         return kind != GFPDB_SCHEME_KIND::CARD;
-    case GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK:
-    case GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK:
-    case GFPDB_FLASH_FLOW_TEMPLATE:
-        return is_serial;
+    case GFPDB_FIELD_USE::ONLY_SERIAL:
+        return kind == GFPDB_SCHEME_KIND::SERIAL || kind == GFPDB_SCHEME_KIND::NONE;
     default:
         return false;
     }

@@ -2,9 +2,9 @@
 
 // Which values of a record are wrong, missing or of no use, for each kind of configuration mode.
 #include "base/gfpdb_text.h"
+#include "model/gfpdb_field.h"
 #include "model/gfpdb_json.h"
 
-#include "record_fields.h"
 #include "record_reading.h"
 
 namespace {
@@ -52,20 +52,7 @@ CLI_RECORD complete(int scheme, int family = FAMILY)
 
 void clear(GFPDB_ROW& row, const std::string& member)
 {
-    if (member == RECORD_DEVICE_ID)
-        row.device_id.clear();
-    else if (member == RECORD_VOLTAGE)
-        row.voltage.clear();
-    else if (member == RECORD_DENSITY)
-        row.density.clear();
-    else if (member == RECORD_TOTAL_DIE)
-        row.total_die.reset();
-    else if (member == RECORD_SINGLE_DUMMY)
-        row.single_io_dummy_clock.reset();
-    else if (member == RECORD_QUAD_DUMMY)
-        row.quad_io_dummy_clock.reset();
-    else
-        row.flow_template.clear();
+    gfpdb_field(member)->in(row, [](auto& value) { value = {}; });
 }
 
 QStringList whole_texts_of(const std::vector<RECORD_REMARK>& remarks)
@@ -124,7 +111,7 @@ private slots:
 void TEST_CLI_RECORD_VALUES::a_complete_record_is_kept_by_the_dialog_data()
 {
     QTest::addColumn<int>("scheme");
-    QTest::newRow("single") << SERIAL;
+    QTest::newRow("single") << ACTIVE_SERIAL;
     QTest::newRow("quad") << QUAD;
     QTest::newRow("parallel") << PARALLEL;
     QTest::newRow("card") << CARD;
@@ -160,20 +147,20 @@ void TEST_CLI_RECORD_VALUES::a_missing_value_is_wrong_or_gets_its_default_data()
     const char* const no_voltage = "The I/O voltage \"\" is not known: choose one of 3";
     const char* const no_density = "The density \"\" is not known: choose one of ";
     const char* const no_die = "The total die count 0 is out of range: 1 to 16 are allowed";
-    for (const int scheme : {int(SERIAL), int(QUAD), PARALLEL}) {
-        add(scheme, RECORD_DEVICE_ID, no_id, no_id, "");
-        add(scheme, RECORD_TOTAL_DIE, no_die, "", "1");
+    for (const int scheme : {int(ACTIVE_SERIAL), int(QUAD), PARALLEL}) {
+        add(scheme, "device_id", no_id, no_id, "");
+        add(scheme, "total_die", no_die, "", "1");
     }
-    for (const int scheme : {int(SERIAL), int(QUAD), PARALLEL, CARD}) {
-        add(scheme, RECORD_VOLTAGE, no_voltage, "", "3.3V");
-        add(scheme, RECORD_DENSITY, no_density, no_density, "");
+    for (const int scheme : {int(ACTIVE_SERIAL), int(QUAD), PARALLEL, CARD}) {
+        add(scheme, "voltage", no_voltage, "", "3.3V");
+        add(scheme, "density", no_density, no_density, "");
     }
-    add(SERIAL, RECORD_VOLTAGE, no_voltage, "", "1.8V", LOW_VOLTAGE_FAMILY);
-    add(PARALLEL, RECORD_VOLTAGE, no_voltage, "", "3.3V", LOW_VOLTAGE_FAMILY);
-    for (const int scheme : {int(SERIAL), int(QUAD)}) {
-        add(scheme, RECORD_SINGLE_DUMMY, "", "", "0");
-        add(scheme, RECORD_QUAD_DUMMY, "", "", "0");
-        add(scheme, RECORD_FLOW_TEMPLATE, "", "", "");
+    add(ACTIVE_SERIAL, "voltage", no_voltage, "", "1.8V", LOW_VOLTAGE_FAMILY);
+    add(PARALLEL, "voltage", no_voltage, "", "3.3V", LOW_VOLTAGE_FAMILY);
+    for (const int scheme : {int(ACTIVE_SERIAL), int(QUAD)}) {
+        add(scheme, "single_io_dummy_clock", "", "", "0");
+        add(scheme, "quad_io_dummy_clock", "", "", "0");
+        add(scheme, "flow_template", "", "", "");
     }
 }
 
@@ -210,7 +197,7 @@ void TEST_CLI_RECORD_VALUES::a_missing_value_is_wrong_or_gets_its_default()
 void TEST_CLI_RECORD_VALUES::a_die_count_of_nothing_is_refused()
 {
     const GFPDB_PLACE place;
-    CLI_RECORD record = complete(SERIAL);
+    CLI_RECORD record = complete(ACTIVE_SERIAL);
     record.row.total_die = 0;
     GFPDB_MGR& manager = *fresh_manager();
     for (const RECORD_RULES rules : {RECORD_RULES::STORED, RECORD_RULES::IMPORTED})
@@ -228,12 +215,12 @@ void TEST_CLI_RECORD_VALUES::a_text_that_is_no_voltage_or_size_is_refused_data()
         QTest::addRow("%d %s %s", scheme, member, value) << scheme << QString(member) << QString(value);
     };
     for (const char* voltage : {"foo", "5", "V", "-5V", "5v", " 5V", "2.7-V", "2.7-3.6-5V", "2.7V-3.6V", "2,7V"})
-        add(SERIAL, RECORD_VOLTAGE, voltage);
+        add(ACTIVE_SERIAL, "voltage", voltage);
     for (const char* density : {"foo", "256", "Mb", "256 Mb", "256mb", "0Mb", "-1Mb", "2.5Mb", "256Tb"})
-        add(SERIAL, RECORD_DENSITY, density);
+        add(ACTIVE_SERIAL, "density", density);
     for (const int scheme : {int(QUAD), PARALLEL, CARD}) {
-        add(scheme, RECORD_VOLTAGE, "foo");
-        add(scheme, RECORD_DENSITY, "foo");
+        add(scheme, "voltage", "foo");
+        add(scheme, "density", "foo");
     }
 }
 
@@ -245,7 +232,7 @@ void TEST_CLI_RECORD_VALUES::a_text_that_is_no_voltage_or_size_is_refused()
     QFETCH(QString, member);
     QFETCH(QString, value);
     CLI_RECORD record = complete(scheme);
-    const bool is_voltage = member == RECORD_VOLTAGE;
+    const bool is_voltage = member == "voltage";
     (is_voltage ? record.row.voltage : record.row.density) = value.toStdString();
     const QString problem =
         member +
@@ -278,13 +265,13 @@ void TEST_CLI_RECORD_VALUES::an_unusual_voltage_or_size_is_warned_of_data()
     const auto density = [](const char* value, const char* first) {
         return QString("density: The density \"%1\" is not a usual one. Usual: %2, ").arg(value, first);
     };
-    QTest::newRow("usual") << int(SERIAL) << false << "2.7-3.6V"
+    QTest::newRow("usual") << int(ACTIVE_SERIAL) << false << "2.7-3.6V"
                            << "64Mb" << QStringList();
-    QTest::newRow("voltage") << int(SERIAL) << false << "5V"
+    QTest::newRow("voltage") << int(ACTIVE_SERIAL) << false << "5V"
                              << "64Mb" << QStringList{voltage("5V")};
     QTest::newRow("range") << int(QUAD) << false << "1.5-5.5V"
                            << "64Mb" << QStringList{voltage("1.5-5.5V")};
-    QTest::newRow("both of a template") << int(SERIAL) << true << "5V"
+    QTest::newRow("both of a template") << int(ACTIVE_SERIAL) << true << "5V"
                                         << "3Kb" << QStringList{voltage("5V"), density("3Kb", "1Mb")};
     QTest::newRow("a serial one's of a parallel one") << PARALLEL << false << "1.2V"
                                                       << "4Mb" << QStringList{voltage("1.2V"), density("4Mb", "8Mb")};
@@ -322,7 +309,7 @@ void TEST_CLI_RECORD_VALUES::an_unusual_voltage_or_size_is_warned_of()
 void TEST_CLI_RECORD_VALUES::a_template_needs_another_name_than_its_device()
 {
     const GFPDB_PLACE place;
-    CLI_RECORD record = complete(SERIAL);
+    CLI_RECORD record = complete(ACTIVE_SERIAL);
     record.row.template_name = "mINE";
     for (const bool is_template : {false, true}) {
         record.is_template = is_template;
@@ -337,10 +324,10 @@ void TEST_CLI_RECORD_VALUES::what_the_dialog_drops_is_warned_of_data()
     QTest::addColumn<int>("scheme");
     QTest::addColumn<QStringList>("members");
     QTest::newRow("parallel") << PARALLEL
-                              << QStringList{RECORD_SINGLE_DUMMY, RECORD_QUAD_DUMMY, RECORD_FLOW_TEMPLATE,
-                                             RECORD_SINGLE_FLOWS};
-    QTest::newRow("card") << CARD << QStringList{RECORD_DEVICE_ID,  RECORD_TOTAL_DIE,     RECORD_SINGLE_DUMMY,
-                                                 RECORD_QUAD_DUMMY, RECORD_FLOW_TEMPLATE, RECORD_SINGLE_FLOWS};
+                              << QStringList{"single_io_dummy_clock", "quad_io_dummy_clock", "flow_template",
+                                             "single_flows"};
+    QTest::newRow("card") << CARD << QStringList{"device_id",           "total_die",     "single_io_dummy_clock",
+                                                 "quad_io_dummy_clock", "flow_template", "single_flows"};
 }
 
 void TEST_CLI_RECORD_VALUES::what_the_dialog_drops_is_warned_of()
@@ -348,14 +335,14 @@ void TEST_CLI_RECORD_VALUES::what_the_dialog_drops_is_warned_of()
     const GFPDB_PLACE place;
     QFETCH(int, scheme);
     QFETCH(QStringList, members);
-    CLI_RECORD record = complete(SERIAL);
+    CLI_RECORD record = complete(ACTIVE_SERIAL);
     record.row.scheme = scheme;
     record.row.density = scheme == CARD ? "1GB" : "256Mb";
     GFPDB_MGR& manager = *fresh_manager();
 
     QStringList expected;
     for (const QString& member : members)
-        expected += member + (member == RECORD_SINGLE_FLOWS
+        expected += member + (member == "single_flows"
                                   ? ": Devices of this configuration mode have no flows: the dialog drops them"
                                   : ": Devices of this configuration mode have no such value: the dialog drops it");
     QCOMPARE(texts_of(record_warnings(manager, record)), expected);
@@ -380,17 +367,18 @@ void TEST_CLI_RECORD_VALUES::flows_that_are_missing_are_warned_of_data()
     const QString none;
     const char* const nothing = "There are no flows";
     const char* const not_here = "There are no flows for this configuration mode";
-    QTest::newRow("single") << int(SERIAL) << false << some << none << QStringList();
+    QTest::newRow("single") << int(ACTIVE_SERIAL) << false << some << none << QStringList();
     QTest::newRow("quad") << int(QUAD) << false << none << some << QStringList();
-    QTest::newRow("only quad") << int(SERIAL) << false << none << some
+    QTest::newRow("only quad") << int(ACTIVE_SERIAL) << false << none << some
                                << QStringList{QString("single_flows: ") + not_here};
     QTest::newRow("only single") << int(QUAD) << false << some << empty
                                  << QStringList{QString("quad_flows: ") + not_here};
-    QTest::newRow("none") << int(SERIAL) << false << none << none << QStringList{QString("single_flows: ") + nothing};
+    QTest::newRow("none") << int(ACTIVE_SERIAL) << false << none << none
+                          << QStringList{QString("single_flows: ") + nothing};
     QTest::newRow("no action") << int(QUAD) << false << empty << empty
                                << QStringList{QString("quad_flows: ") + nothing};
-    QTest::newRow("template") << int(SERIAL) << true << none << some << QStringList();
-    QTest::newRow("empty template") << int(SERIAL) << true << none << empty
+    QTest::newRow("template") << int(ACTIVE_SERIAL) << true << none << some << QStringList();
+    QTest::newRow("empty template") << int(ACTIVE_SERIAL) << true << none << empty
                                     << QStringList{QString("single_flows: ") + nothing};
     QTest::newRow("parallel") << PARALLEL << false << empty << none << QStringList();
 }

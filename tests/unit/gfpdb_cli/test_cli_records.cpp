@@ -14,7 +14,7 @@ namespace {
 // The CLI_RECORD of a stored device, as the tool loads it.
 CLI_RECORD stored(const std::string& name)
 {
-    return {false, GFPDB_EMBEDDED_MGR::instance().store().find_device(FAMILY, SERIAL, name).value(), 0};
+    return {false, GFPDB_EMBEDDED_MGR::instance().store().find_device(FAMILY, ACTIVE_SERIAL, name).value(), 0};
 }
 
 JSON_VALUE all_to_json(const std::vector<CLI_RECORD>& records)
@@ -98,7 +98,7 @@ void TEST_CLI_RECORDS::a_record_is_written_in_a_fixed_order()
 void TEST_CLI_RECORDS::what_is_written_is_read_again()
 {
     const GFPDB_PLACE place;
-    save_part("Mine", FAMILY, SERIAL, "My template");
+    save_part("Mine", FAMILY, ACTIVE_SERIAL, "My template");
     CLI_RECORD device = stored("Mine");
     CLI_RECORD copy = {true, GFPDB_EMBEDDED_MGR::instance().store().find_template("My template").value(), 0};
 
