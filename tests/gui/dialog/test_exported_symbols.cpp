@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// What the module shows to whoever loads it, and what it needs: its one function, the libraries of the host and of Qt,
-// and nothing else.
+// What the module and the flash database show to whoever loads them: one function, the interface, and nothing else. And
+// what the module needs: the libraries of the host and of Qt.
 #include <QFileInfo>
 #include <QLibrary>
 #include <QProcess>
@@ -10,11 +10,12 @@
 
 namespace {
 
-// What `program` says about the module, line by line; empty when it cannot be run.
-QStringList lines_of(const QString& program, QStringList arguments)
+// What `program` says about `library`, line by line; empty when it cannot be run.
+QStringList lines_of(const QString& program, QStringList arguments,
+                     const QString& library = QStringLiteral(GFPQ_MODULE))
 {
     QProcess process;
-    process.start(program, arguments << QStringLiteral(GFPQ_MODULE));
+    process.start(program, arguments << library);
     if (!process.waitForFinished() || process.exitCode() != 0)
         return {};
     return QString::fromLatin1(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -49,6 +50,7 @@ class TEST_EXPORTED_SYMBOLS : public QObject
 
 private slots:
     void the_module_exports_its_entry_point_and_nothing_else();
+    void the_flash_database_exports_its_interface_and_nothing_else();
     void the_entry_point_can_be_loaded();
     void the_module_needs_the_host_and_qt_and_no_other_library();
     void the_module_has_no_thread_timer_or_lock_data();
@@ -66,6 +68,39 @@ void TEST_EXPORTED_SYMBOLS::the_module_exports_its_entry_point_and_nothing_else(
     }
 
     QCOMPARE(functions, QStringList{QStringLiteral("gfpq_dyn_dlg T")});
+}
+
+// What templates of Qt and of the language leave behind is weak, as are the tables of the abstract classes.
+void TEST_EXPORTED_SYMBOLS::the_flash_database_exports_its_interface_and_nothing_else()
+{
+    static const QRegularExpression CODE(QStringLiteral(" [TDBR] ([^(\\[]+)"));
+    const QStringList linker_symbols = {QStringLiteral("__bss_start"), QStringLiteral("_edata"),
+                                        QStringLiteral("_end")};
+
+    QStringList names;
+    for (const QString& line :
+         lines_of(QStringLiteral("nm"),
+                  {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--demangle")},
+                  QStringLiteral(GFPDB_LIBRARY))) {
+        const QString name = CODE.match(line).captured(1);
+        if (!name.isEmpty() && !linker_symbols.contains(name))
+            names.append(name);
+    }
+    names.removeDuplicates();
+    names.sort();
+
+    QCOMPARE(names, (QStringList{
+                        QStringLiteral("GFPDB_ACTION::GFPDB_ACTION"),
+                        QStringLiteral("GFPDB_ACTION::get_action_type"),
+                        QStringLiteral("GFPDB_ACTION::get_property_enum_list"),
+                        QStringLiteral("GFPDB_HELPER::get_active_flash_manager"),
+                        QStringLiteral("GFPDB_HELPER::get_database_problem"),
+                        QStringLiteral("GFPDB_HELPER::set_active_flash_family"),
+                        QStringLiteral("GFPDB_HELPER::set_base_dir"),
+                        QStringLiteral("GFPDB_MGR::get_db_custom_dir"),
+                        QStringLiteral("GFPDB_MGR::save_custom_dir_to_ini"),
+                        QStringLiteral("GFPDB_MGR::set_db_custom_dir"),
+                    }));
 }
 
 void TEST_EXPORTED_SYMBOLS::the_entry_point_can_be_loaded()

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "gfpdb/gfpdb_enums.h"
+#include "gfpdb/gfpdb_export.h"
 
 #include <string>
 #include <vector>
@@ -15,7 +16,7 @@
 // GUI thread only.
 //
 // The declaration order of the virtual operations is the slot order of the interface.
-class GFPDB_ACTION
+class GFPDB_EXPORT GFPDB_ACTION
 {
 public:
     virtual ~GFPDB_ACTION() = default;

@@ -3,6 +3,7 @@
 // One flash device, or one stored template, of the flash database.
 #pragma once
 
+#include "gfpdb/gfpdb_export.h"
 #include "gfpdb/gfpdb_operation.h"
 
 #include <string>
@@ -13,7 +14,7 @@
 // library's encoding. GUI thread only.
 //
 // The declaration order of the virtual operations is the slot order of the interface.
-class GFPDB_FLASH
+class GFPDB_EXPORT GFPDB_FLASH
 {
 public:
     virtual ~GFPDB_FLASH() = default;

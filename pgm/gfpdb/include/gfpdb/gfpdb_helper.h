@@ -4,13 +4,14 @@
 #pragma once
 
 #include "gfpdb/gfpdb_enums.h"
+#include "gfpdb/gfpdb_export.h"
 
 #include <string>
 
 class GFPDB_MGR;
 
 // GUI thread only.
-class GFPDB_HELPER
+class GFPDB_EXPORT GFPDB_HELPER
 {
 public:
     GFPDB_HELPER() = delete;

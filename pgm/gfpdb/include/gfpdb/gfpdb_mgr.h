@@ -4,6 +4,7 @@
 #pragma once
 
 #include "gfpdb/gfpdb_action.h"
+#include "gfpdb/gfpdb_export.h"
 #include "gfpdb/gfpdb_flash.h"
 #include "gfpdb/gfpdb_operation.h"
 
@@ -18,7 +19,7 @@
 // encoding. GUI thread only.
 //
 // The declaration order of the virtual operations is the slot order of the interface.
-class GFPDB_MGR
+class GFPDB_EXPORT GFPDB_MGR
 {
 public:
     virtual ~GFPDB_MGR() = default;

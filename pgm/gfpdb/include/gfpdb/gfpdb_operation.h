@@ -4,13 +4,14 @@
 #pragma once
 
 #include "gfpdb/gfpdb_action.h"
+#include "gfpdb/gfpdb_export.h"
 
 #include <vector>
 
 // Made by GFPDB_MGR::create_operation; GFPDB_FLASH::set_operation takes it over. Owns its actions. GUI thread only.
 //
 // The declaration order of the virtual operations is the slot order of the interface.
-class GFPDB_OPERATION
+class GFPDB_EXPORT GFPDB_OPERATION
 {
 public:
     virtual ~GFPDB_OPERATION() = default;
