@@ -88,8 +88,8 @@ std::string text(std::size_t count, const FINDINGS& found, std::size_t problems)
 
 void CLI_CHECK_COMMAND::add_options(QCommandLineParser& parser) const
 {
-    parser.addOption({QLatin1String(OPTION_REBUILD_KEYS), QStringLiteral("First store records that no search finds "
-                                                                         "under the keys of their names.")});
+    parser.addOption({QLatin1String(OPTION_REBUILD_KEYS), QStringLiteral("First repair the keys of records that no "
+                                                                         "search finds.")});
     cli_add_json_option(parser);
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Holds every record against the library's rules, and the database against SQLite's.
+// Checks every record by the library's rules, and the database by SQLite's.
 #pragma once
 
 #include "cli_command.h"

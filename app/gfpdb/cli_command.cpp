@@ -51,15 +51,15 @@ void cli_add_csv_options(QCommandLineParser& parser, const char* explanation)
     parser.addOption({QLatin1String(CLI_OPTION_CSV), QLatin1String(explanation)});
     parser.addOption({QLatin1String(CLI_OPTION_SPREADSHEET),
                       QStringLiteral("As --csv, with a quote before texts that a spreadsheet would run as formulas. "
-                                     "Such a list is not for import.")});
+                                     "Such a list cannot be imported.")});
 }
 
 void cli_add_place_options(QCommandLineParser& parser, const char* what)
 {
     parser.addOption({QLatin1String(CLI_OPTION_FAMILY),
-                      QStringLiteral("%1 of this device family (1 to 72).").arg(QLatin1String(what)),
+                      QStringLiteral("%1 device family (1 to 72).").arg(QLatin1String(what)),
                       QStringLiteral("number")});
     parser.addOption({QLatin1String(CLI_OPTION_SCHEME),
-                      QStringLiteral("%1 of this configuration scheme (0 to 24).").arg(QLatin1String(what)),
+                      QStringLiteral("%1 configuration scheme (0 to 24).").arg(QLatin1String(what)),
                       QStringLiteral("number")});
 }

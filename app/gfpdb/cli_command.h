@@ -11,7 +11,7 @@
 #include <optional>
 #include <string>
 
-// What the tool's exit code says. The man page explains them.
+// The exit codes of the tool, as in the man page.
 enum CLI_EXIT : int
 {
     CLI_EXIT_OK = 0,
@@ -36,13 +36,13 @@ struct CLI_CALL
     std::string value(const char* option) const;
     // The whole number that is the value of `option`; none when it was not given. It was checked before.
     std::optional<int> number(const char* option) const;
-    // Says what is wrong with the arguments; gives CLI_EXIT_USAGE.
+    // Prints what is wrong with the arguments; returns CLI_EXIT_USAGE.
     int wrong_usage(const std::string& text) const;
-    // Says why the database cannot be used; gives CLI_EXIT_DATABASE.
+    // Prints why the database cannot be used; returns CLI_EXIT_DATABASE.
     int database_failed(const std::string& text) const;
 };
 
-// One class per command. A command does its work in one run() and gives the exit code.
+// One class per command. run() does all its work and returns the exit code.
 class CLI_COMMAND
 {
 public:
@@ -50,7 +50,7 @@ public:
     virtual const char* name() const = 0;
     // One line for the list of commands.
     virtual const char* summary() const = 0;
-    // What stands behind the command's name, as in "NAME...".
+    // What follows the command's name, e.g. "NAME...".
     virtual const char* arguments() const = 0;
     // The fewest and most arguments; -1 for no limit.
     virtual std::pair<int, int> argument_range() const = 0;
@@ -65,6 +65,7 @@ protected:
 
 // Options that several commands have.
 void cli_add_json_option(QCommandLineParser& parser);
+// --family and --scheme; `what` comes before "device family" in the help, e.g. "Only devices of this".
 void cli_add_place_options(QCommandLineParser& parser, const char* what);
 // --csv, explained by `explanation`, and --spreadsheet.
 void cli_add_csv_options(QCommandLineParser& parser, const char* explanation);

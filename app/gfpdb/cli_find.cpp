@@ -17,7 +17,7 @@ std::string places_of(const std::vector<CLI_RECORD>& records)
     return gfpdb_joined(places);
 }
 
-// The devices alone when there are some: a template or a built-in device of that name then has to stand back.
+// The devices alone when there are some: they come before templates of that name.
 std::vector<CLI_RECORD> find_all(const CLI_CALL& call, const CLI_SELECTION& selection)
 {
     std::vector<CLI_RECORD> stored = call.database.find_stored(selection);
@@ -44,7 +44,7 @@ std::optional<CLI_RECORD> cli_find_one(const CLI_CALL& call, const std::string& 
     exit_code = CLI_EXIT_NOT_FOUND;
     if (stored.size() > 1) {
         call.output.error("There are several devices called " + gfpdb_quoted(name) +
-                          ". Say which one: " + places_of(stored) + ".");
+                          ". Select one: " + places_of(stored) + ".");
         return std::nullopt;
     }
     if (!stored.empty()) {

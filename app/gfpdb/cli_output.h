@@ -14,7 +14,7 @@ std::string cli_printable(const std::string& text);
 class CLI_OUTPUT
 {
 public:
-    // Prints `text`: as it stands into a file or a pipe, without control characters but line breaks on a terminal.
+    // Prints `text`: unchanged into a file or a pipe, without control characters other than line breaks on a terminal.
     void print(const std::string& text);
     // Prints a message to standard error, on a line of its own.
     void error(const std::string& text);

@@ -57,7 +57,7 @@ const CLI_COMMAND* find_command(const COMMANDS& commands, const QString& name)
 std::string overview(const COMMANDS& commands)
 {
     QString text = QStringLiteral("Usage: gfpdb COMMAND [options] [arguments]\n\n"
-                                  "Works on the flash database of the programmer: its devices and flow templates.\n\n"
+                                  "Manages the flash database of the programmer: its devices and flow templates.\n\n"
                                   "Commands:\n");
     for (const std::unique_ptr<CLI_COMMAND>& command : commands)
         text += QStringLiteral("  %1%2\n")
@@ -70,7 +70,7 @@ std::string overview(const COMMANDS& commands)
 void add_common_options(QCommandLineParser& parser)
 {
     parser.addOption({{QStringLiteral("d"), QLatin1String(CLI_OPTION_DIR)},
-                      QStringLiteral("The database directory; the one of the user's settings if not given."),
+                      QStringLiteral("The database directory; by default the one in the user's settings."),
                       QStringLiteral("directory")});
     parser.addOption({QLatin1String(OPTION_VERBOSE), QStringLiteral("Print what the library logs.")});
     parser.addOption({{QStringLiteral("h"), QLatin1String(OPTION_HELP)}, QStringLiteral("Print this help.")});
@@ -110,7 +110,7 @@ QString problem_of_numbers(const QCommandLineParser& parser)
         bool is_number = false;
         const int number = parser.value(name).toInt(&is_number);
         if (!is_number || number < range.lowest || number > range.highest)
-            return QStringLiteral("--%1 takes a whole number from %2 to %3.")
+            return QStringLiteral("--%1 needs a whole number from %2 to %3.")
                 .arg(name)
                 .arg(range.lowest)
                 .arg(range.highest);
@@ -118,7 +118,7 @@ QString problem_of_numbers(const QCommandLineParser& parser)
     return QString();
 }
 
-// A script's variable that was never set: it would stand for the user's own directory, or for every record.
+// A script's variable that was never set: it would mean the user's own directory, or every record.
 QString problem_of_empty_texts(const CLI_COMMAND& command, const QCommandLineParser& parser)
 {
     const QString directory = QLatin1String(CLI_OPTION_DIR);
@@ -136,7 +136,8 @@ QString problem_of_count(const CLI_COMMAND& command, const QCommandLineParser& p
     if (count < fewest)
         return QStringLiteral("An argument is missing: %1").arg(synopsis(command));
     if (most >= 0 && count > most)
-        return QStringLiteral("There are too many arguments: %1").arg(synopsis(command));
+        return QStringLiteral("Unexpected argument \"%1\": %2")
+            .arg(parser.positionalArguments()[most], synopsis(command));
     return QString();
 }
 
@@ -169,7 +170,7 @@ int run_command(const CLI_COMMAND& command, const QStringList& arguments, CLI_OU
         output.error(gfpdb_to_utf8(problem));
         return CLI_EXIT_USAGE;
     }
-    // The tool says itself what goes wrong; the log says it once more.
+    // The tool reports what goes wrong; the log would repeat it.
     if (!parser.isSet(QLatin1String(OPTION_VERBOSE)))
         QLoggingCategory::setFilterRules(QStringLiteral("pgm.gfpdb.warning=false"));
     if (!gfpdb_catalogue_problem().empty()) {
@@ -200,7 +201,7 @@ int dispatch(const QStringList& arguments, CLI_OUTPUT& output)
     if (const CLI_COMMAND* command = find_command(commands, name))
         return run_command(*command, rest, output);
     output.error(name.isEmpty() ? std::string("A command is missing.")
-                                : gfpdb_quoted(gfpdb_to_utf8(name)) + " is no command.");
+                                : gfpdb_quoted(gfpdb_to_utf8(name)) + " is not a gfpdb command.");
     output.error("\"gfpdb --help\" lists the commands.");
     return CLI_EXIT_USAGE;
 }

@@ -50,11 +50,11 @@ std::vector<CLI_RECORD> read_file(const CLI_CALL& call, const std::string& path)
         good = false;
     }
     if (good && file.records.empty())
-        call.output.problem(path, {0, "", "The file has no record."});
+        call.output.problem(path, {0, "", "The file has no records."});
     return good ? file.records : std::vector<CLI_RECORD>();
 }
 
-// The record of a file that goes with `other`: the only one, or the one of the same kind, name, family and scheme.
+// The record of a file that matches `other`: the only one, or the one of the same kind, name, family and scheme.
 std::optional<CLI_RECORD> pick(const CLI_CALL& call, const std::string& path, const CLI_RECORD* other, int& exit_code)
 {
     const std::vector<CLI_RECORD> records = read_file(call, path);
@@ -71,7 +71,7 @@ std::optional<CLI_RECORD> pick(const CLI_CALL& call, const std::string& path, co
     }
     if (!records.empty()) {
         exit_code = CLI_EXIT_NOT_FOUND;
-        call.output.error(path + ": The file has several records, and none that goes with the other side.");
+        call.output.error(path + ": The file has several records, but none matches the other side.");
     }
     return std::nullopt;
 }
@@ -112,7 +112,7 @@ std::string json(const std::vector<LINE_CHANGE>& changes)
 
 void CLI_DIFF_COMMAND::add_options(QCommandLineParser& parser) const
 {
-    cli_add_place_options(parser, "Devices");
+    cli_add_place_options(parser, "Only devices of this");
     cli_add_json_option(parser);
 }
 

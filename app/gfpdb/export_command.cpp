@@ -88,7 +88,7 @@ void CLI_EXPORT_COMMAND::add_options(QCommandLineParser& parser) const
                       QStringLiteral("Write to this file instead of standard output."),
                       QStringLiteral("file")});
     cli_add_csv_options(parser, "Write a list of the devices, without their flows, as comma-separated values.");
-    cli_add_place_options(parser, "Only devices");
+    cli_add_place_options(parser, "Only devices of this");
 }
 
 int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const

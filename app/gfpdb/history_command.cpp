@@ -78,7 +78,7 @@ std::string problem_of_pruning(const CLI_CALL& call)
     const bool has_limit = call.has(CLI_OPTION_OLDER_THAN) || call.has(CLI_OPTION_KEEP);
     if (call.has(OPTION_PRUNE))
         return has_limit ? "" : "--prune needs --older-than or --keep.";
-    return has_limit || call.has(OPTION_FORCE) ? "--older-than, --keep and --force go with --prune." : "";
+    return has_limit || call.has(OPTION_FORCE) ? "--older-than, --keep and --force need --prune." : "";
 }
 
 int prune(const CLI_CALL& call, const CLI_SELECTION& selection)
@@ -101,16 +101,16 @@ int prune(const CLI_CALL& call, const CLI_SELECTION& selection)
 
 void CLI_HISTORY_COMMAND::add_options(QCommandLineParser& parser) const
 {
-    parser.addOption({QLatin1String(OPTION_PRUNE), QStringLiteral("Remove states instead of listing them; not the last "
-                                                                  "one of a record that is not there any more.")});
+    parser.addOption({QLatin1String(OPTION_PRUNE), QStringLiteral("Remove states instead of listing them, but not the "
+                                                                  "last one of a deleted record.")});
     parser.addOption({QLatin1String(CLI_OPTION_OLDER_THAN),
                       QStringLiteral("Remove only states that are older than this many days."),
                       QStringLiteral("days")});
     parser.addOption({QLatin1String(CLI_OPTION_KEEP), QStringLiteral("Keep this many states of each record."),
                       QStringLiteral("number")});
-    parser.addOption({QLatin1String(OPTION_FORCE), QStringLiteral("Remove also the last state of a record that is not "
-                                                                  "there any more: nothing is left of it then.")});
-    cli_add_place_options(parser, "Only records");
+    parser.addOption({QLatin1String(OPTION_FORCE), QStringLiteral("Also remove the last state of a deleted record: it "
+                                                                  "cannot be restored then.")});
+    cli_add_place_options(parser, "Only records of this");
     cli_add_json_option(parser);
 }
 

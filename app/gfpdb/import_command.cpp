@@ -21,14 +21,16 @@ std::string summary_of(const IMPORT_PLAN& plan, const char* verb, const std::str
 
 void CLI_IMPORT_COMMAND::add_options(QCommandLineParser& parser) const
 {
-    parser.addOption({QLatin1String(OPTION_REPLACE), QStringLiteral("Replace records that exist with another content; "
-                                                                    "their former states go into the history.")});
-    parser.addOption({QLatin1String(OPTION_DRY_RUN), QStringLiteral("Say what would happen, and change nothing.")});
+    parser.addOption(
+        {QLatin1String(OPTION_REPLACE), QStringLiteral("Replace records that exist with different content; "
+                                                       "their former states go into the history.")});
+    parser.addOption(
+        {QLatin1String(OPTION_DRY_RUN), QStringLiteral("Show what would happen, without changing anything.")});
     parser.addOption({QLatin1String(OPTION_UNCHECKED), QStringLiteral("Accept values that the rules refuse. Names are "
-                                                                      "checked all the same.")});
-    parser.addOption({QLatin1String(OPTION_CSV), QStringLiteral("Read the files as comma-separated values whatever "
-                                                                "they are called.")});
-    cli_add_place_options(parser, "Make all records those");
+                                                                      "still checked.")});
+    parser.addOption({QLatin1String(OPTION_CSV), QStringLiteral("Read the files as comma-separated values, whatever "
+                                                                "their names.")});
+    cli_add_place_options(parser, "Give all imported records this");
 }
 
 int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const

@@ -134,11 +134,11 @@ std::string csv(const std::vector<LISTED>& listed, CSV_FOR reader)
 void CLI_LIST_COMMAND::add_options(QCommandLineParser& parser) const
 {
     parser.addOption({QLatin1String(OPTION_BUILTIN), QStringLiteral("Only the built-in devices.")});
-    parser.addOption({QLatin1String(OPTION_ALL), QStringLiteral("The built-in devices as well.")});
-    parser.addOption({QLatin1String(OPTION_FILTER), QStringLiteral("Only names that match, as in \"MX25*\"."),
+    parser.addOption({QLatin1String(OPTION_ALL), QStringLiteral("Also the built-in devices.")});
+    parser.addOption({QLatin1String(OPTION_FILTER), QStringLiteral("Only names that match, e.g. \"MX25*\"."),
                       QStringLiteral("wildcard")});
     cli_add_csv_options(parser, "Print the devices as comma-separated values.");
-    cli_add_place_options(parser, "Only devices");
+    cli_add_place_options(parser, "Only devices of this");
     cli_add_json_option(parser);
 }
 
@@ -146,7 +146,7 @@ int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
 {
     const std::optional<CSV_FOR> reader = csv_reader(call);
     if (reader && call.has(CLI_OPTION_JSON))
-        return call.wrong_usage("--csv and --json do not go together.");
+        return call.wrong_usage("--csv and --json cannot be used together.");
     const std::vector<LISTED> records = find(call);
     call.output.print(call.has(CLI_OPTION_JSON) ? json(records) : reader ? csv(records, *reader) : table(records));
     const std::string problem = call.has(OPTION_BUILTIN) ? std::string() : call.database.read_problem();

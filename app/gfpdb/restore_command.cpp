@@ -10,15 +10,15 @@ namespace {
 constexpr const char* OPTION_REPLACE = "replace";
 constexpr const char* OPTION_AS = "as";
 
-// What helps when the name of `state` is in use; empty when it is not.
+// What to do when the name of `state` is in use; empty when it is not.
 std::string hint_for(const CLI_CALL& call, const CLI_RECORD& state)
 {
     if (call.database.load(state))
-        return "--replace puts the state in its place, --as gives it another name.";
+        return "Use --replace to replace the current record, or --as to give the state another name.";
     const bool is_of_other_kind = state.is_template
                                       ? call.database.store().has_device(state.name())
                                       : !call.database.store().get_template_revision(state.name()).empty();
-    return is_of_other_kind ? "--as gives the state another name." : "";
+    return is_of_other_kind ? "Use --as to give the state another name." : "";
 }
 
 } // namespace
@@ -26,9 +26,9 @@ std::string hint_for(const CLI_CALL& call, const CLI_RECORD& state)
 void CLI_RESTORE_COMMAND::add_options(QCommandLineParser& parser) const
 {
     parser.addOption({QLatin1String(OPTION_REPLACE), QStringLiteral("Replace the record that has the name now; its "
-                                                                    "present state goes into the history.")});
+                                                                    "current state goes into the history.")});
     parser.addOption({QLatin1String(OPTION_AS),
-                      QStringLiteral("Restore it under this name; of a template: its template name."),
+                      QStringLiteral("Restore it under this name; for a template, the template name."),
                       QStringLiteral("name")});
 }
 

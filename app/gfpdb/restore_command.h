@@ -9,7 +9,7 @@ class CLI_RESTORE_COMMAND final : public CLI_COMMAND
 {
 public:
     const char* name() const override { return "restore"; }
-    const char* summary() const override { return "Bring a former state back"; }
+    const char* summary() const override { return "Restore a former state"; }
     const char* arguments() const override { return "ID"; }
     std::pair<int, int> argument_range() const override { return {1, 1}; }
     void add_options(QCommandLineParser& parser) const override;

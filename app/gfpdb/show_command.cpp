@@ -20,7 +20,7 @@ void CLI_SHOW_COMMAND::add_options(QCommandLineParser& parser) const
 {
     parser.addOption({QLatin1String(OPTION_VARIANT), QStringLiteral("The flows to show: single, quad or both."),
                       QStringLiteral("variant"), QLatin1String(BOTH)});
-    cli_add_place_options(parser, "The device");
+    cli_add_place_options(parser, "Only devices of this");
     cli_add_json_option(parser);
 }
 
@@ -28,7 +28,7 @@ int CLI_SHOW_COMMAND::run(const CLI_CALL& call) const
 {
     const std::string variant = call.value(OPTION_VARIANT);
     if (variant != SINGLE && variant != QUAD && variant != BOTH)
-        return call.wrong_usage(gfpdb_quoted(variant) + " is no flow variant. Allowed: single, quad, both.");
+        return call.wrong_usage(gfpdb_quoted(variant) + " is not a flow variant. Allowed: single, quad, both.");
     int exit_code = CLI_EXIT_OK;
     std::optional<CLI_RECORD> record = cli_find_one(call, call.argument(0), exit_code);
     if (!record)

@@ -110,8 +110,10 @@ void TEST_CLI_HISTORY::restore_refuses_what_it_cannot_do()
     QCOMPARE(run.err, "gfpdb: There is no state 7 in the history of " + directory.toUtf8() + ".\n");
     run = run_tool({"restore", "1", "-d", directory});
     QCOMPARE(run.exit_code, 5);
-    QCOMPARE(run.err, QByteArray("gfpdb: There is a device called \"Mine\" already.\n"
-                                 "gfpdb: --replace puts the state in its place, --as gives it another name.\n"));
+    QCOMPARE(
+        run.err,
+        QByteArray("gfpdb: There is a device called \"Mine\" already.\n"
+                   "gfpdb: Use --replace to replace the current record, or --as to give the state another name.\n"));
     run = run_tool({"restore", "1", "--as", "", "-d", directory});
     QCOMPARE(run.exit_code, 2);
     QCOMPARE(run.err, QByteArray("gfpdb: --as is empty.\n"));
@@ -185,7 +187,7 @@ void TEST_CLI_HISTORY::restore_replaces_no_record_of_the_other_kind()
          {QStringList{"1", "--as", "u"}, QStringList{"2", "--as", "other"}, QStringList{"1", "--as", "T"}}) {
         const TOOL_RUN run = run_tool(QStringList{"restore", "-d", directory} + arguments);
         QCOMPARE(run.exit_code, 5);
-        QVERIFY2(run.err.endsWith("\ngfpdb: --as gives the state another name.\n"), run.err.constData());
+        QVERIFY2(run.err.endsWith("\ngfpdb: Use --as to give the state another name.\n"), run.err.constData());
         QCOMPARE(run_tool(QStringList{"restore", "--replace", "-d", directory} + arguments).exit_code, 5);
     }
     QCOMPARE(exported(place.db_dir()), before);
@@ -442,8 +444,7 @@ void TEST_CLI_HISTORY::diff_of_two_files()
 
     const TOOL_RUN run = run_tool({"diff", all, one, "-d", directory});
     QCOMPARE(run.exit_code, 3);
-    QCOMPARE(run.err,
-             "gfpdb: " + all.toUtf8() + ": The file has several records, and none that goes with the other side.\n");
+    QCOMPARE(run.err, "gfpdb: " + all.toUtf8() + ": The file has several records, but none matches the other side.\n");
     // A built-in device can be compared with its exported state.
     run_tool({"export", "MX25L1606E", "-o", one});
     QCOMPARE(run_tool({"diff", "MX25L1606E", one}).exit_code, 0);
@@ -465,7 +466,7 @@ void TEST_CLI_HISTORY::diff_says_what_it_cannot_find()
     write_file(place.path("none.json"), R"({"format": "gfpdb-records", "version": 1})");
     const TOOL_RUN empty = run_tool({"diff", "Mine", q(place.path("none.json")), "-d", directory});
     QCOMPARE(empty.exit_code, 4);
-    QVERIFY(empty.err.contains("none.json: The file has no record.\n"));
+    QVERIFY(empty.err.contains("none.json: The file has no records.\n"));
 }
 
 QTEST_GUILESS_MAIN(TEST_CLI_HISTORY)

@@ -83,20 +83,19 @@ void TEST_CLI_PROGRAM::help_lists_every_command()
         const TOOL_RUN run = run_tool(arguments);
         QCOMPARE(run.exit_code, 0);
         QCOMPARE(run.err, QByteArray());
-        QCOMPARE(run.out,
-                 QByteArray("Usage: gfpdb COMMAND [options] [arguments]\n\n"
-                            "Works on the flash database of the programmer: its devices and flow templates.\n\n"
-                            "Commands:\n"
-                            "  list      List devices, templates and built-in devices\n"
-                            "  show      Show a record with its flows\n"
-                            "  export    Write records to a file\n"
-                            "  import    Read records from files, all or none\n"
-                            "  check     Check every record and the database\n"
-                            "  history   List former states of records\n"
-                            "  restore   Bring a former state back\n"
-                            "  diff      Compare two records\n\n"
-                            "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
-                            "version.\n"));
+        QCOMPARE(run.out, QByteArray("Usage: gfpdb COMMAND [options] [arguments]\n\n"
+                                     "Manages the flash database of the programmer: its devices and flow templates.\n\n"
+                                     "Commands:\n"
+                                     "  list      List devices, templates and built-in devices\n"
+                                     "  show      Show a record with its flows\n"
+                                     "  export    Write records to a file\n"
+                                     "  import    Read records from files, all or none\n"
+                                     "  check     Check every record and the database\n"
+                                     "  history   List former states of records\n"
+                                     "  restore   Restore a former state\n"
+                                     "  diff      Compare two records\n\n"
+                                     "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
+                                     "version.\n"));
     }
     QVERIFY(QString(run_tool({"--version"}).out).contains(QRegularExpression("^gfpdb \\d+\\.\\d+\\.\\d+\n$")));
 }
@@ -119,7 +118,7 @@ void TEST_CLI_PROGRAM::every_command_explains_itself_data()
     QTest::newRow("history") << "[options] [NAME]\nList former states of records.\n"
                              << QStringList{"--prune", "--older-than", "--keep",  "--force",
                                             "--json",  "--family",     "--scheme"};
-    QTest::newRow("restore") << "[options] ID\nBring a former state back.\n" << QStringList{"--replace", "--as"};
+    QTest::newRow("restore") << "[options] ID\nRestore a former state.\n" << QStringList{"--replace", "--as"};
     QTest::newRow("diff") << "[options] LEFT RIGHT\nCompare two records.\n"
                           << QStringList{"--json", "--family", "--scheme"};
 }
@@ -148,16 +147,17 @@ void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
         QTest::newRow(qPrintable("gfpdb " + arguments.join(' '))) << arguments << QByteArray(error);
     };
     add({}, "gfpdb: A command is missing.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
-    add({"frob"}, "gfpdb: \"frob\" is no command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
-    add({"help", "frob"}, "gfpdb: \"frob\" is no command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+    add({"frob"}, "gfpdb: \"frob\" is not a gfpdb command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+    add({"help", "frob"}, "gfpdb: \"frob\" is not a gfpdb command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
     add({"list", "--frob"}, "gfpdb: Unknown option 'frob'.\n");
-    add({"list", "x"}, "gfpdb: There are too many arguments: gfpdb list\n");
+    add({"list", "x"}, "gfpdb: Unexpected argument \"x\": gfpdb list\n");
     add({"show"}, "gfpdb: An argument is missing: gfpdb show NAME\n");
-    add({"show", "a", "b"}, "gfpdb: There are too many arguments: gfpdb show NAME\n");
-    add({"show", "a", "--variant", "triple"}, "gfpdb: \"triple\" is no flow variant. Allowed: single, quad, both.\n");
+    add({"show", "a", "b"}, "gfpdb: Unexpected argument \"b\": gfpdb show NAME\n");
+    add({"show", "a", "--variant", "triple"},
+        "gfpdb: \"triple\" is not a flow variant. Allowed: single, quad, both.\n");
     add({"import"}, "gfpdb: An argument is missing: gfpdb import FILE...\n");
     add({"diff", "a"}, "gfpdb: An argument is missing: gfpdb diff LEFT RIGHT\n");
-    add({"history", "a", "b"}, "gfpdb: There are too many arguments: gfpdb history [NAME]\n");
+    add({"history", "a", "b"}, "gfpdb: Unexpected argument \"b\": gfpdb history [NAME]\n");
     add({"restore", "x"}, "gfpdb: \"x\" is not a number of the history.\n");
     add({"list", "--dir", ""}, "gfpdb: --dir is empty.\n");
     add({"list", "-d", ""}, "gfpdb: --dir is empty.\n");
@@ -165,17 +165,17 @@ void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
     add({"show", ""}, "gfpdb: An argument is empty: gfpdb show NAME\n");
     add({"export", "a", ""}, "gfpdb: An argument is empty: gfpdb export [NAME...]\n");
     add({"diff", "", "b"}, "gfpdb: An argument is empty: gfpdb diff LEFT RIGHT\n");
-    add({"list", "--csv", "--json"}, "gfpdb: --csv and --json do not go together.\n");
+    add({"list", "--csv", "--json"}, "gfpdb: --csv and --json cannot be used together.\n");
     for (const char* number : {"0", "73", "x", ""})
-        add({"list", "--family", number}, "gfpdb: --family takes a whole number from 1 to 72.\n");
+        add({"list", "--family", number}, "gfpdb: --family needs a whole number from 1 to 72.\n");
     add({"history", "--prune"}, "gfpdb: --prune needs --older-than or --keep.\n");
     for (const QStringList& options :
          {QStringList{"--keep", "1"}, QStringList{"--older-than", "1"}, QStringList{"--force"}})
-        add(QStringList{"history"} + options, "gfpdb: --older-than, --keep and --force go with --prune.\n");
-    add({"history", "--prune", "--keep", "-1"}, "gfpdb: --keep takes a whole number from 0 to 2147483647.\n");
-    add({"history", "--prune", "--older-than", "36501"}, "gfpdb: --older-than takes a whole number from 0 to 36500.\n");
+        add(QStringList{"history"} + options, "gfpdb: --older-than, --keep and --force need --prune.\n");
+    add({"history", "--prune", "--keep", "-1"}, "gfpdb: --keep needs a whole number from 0 to 2147483647.\n");
+    add({"history", "--prune", "--older-than", "36501"}, "gfpdb: --older-than needs a whole number from 0 to 36500.\n");
     for (const char* number : {"-1", "25", "seven"})
-        add({"list", "--scheme", number}, "gfpdb: --scheme takes a whole number from 0 to 24.\n");
+        add({"list", "--scheme", number}, "gfpdb: --scheme needs a whole number from 0 to 24.\n");
 }
 
 void TEST_CLI_PROGRAM::wrong_arguments_are_refused()

@@ -171,7 +171,7 @@ void TEST_CLI_SHOW::a_name_that_several_devices_have_needs_its_place()
     save_part("Mine", OTHER_FAMILY, QUAD);
     const TOOL_RUN run = run_tool({"show", "Mine", "-d", q(place.db_dir())});
     QCOMPARE(run.exit_code, 3);
-    QCOMPARE(run.err, QByteArray("gfpdb: There are several devices called \"Mine\". Say which one: --family 3 --scheme "
+    QCOMPARE(run.err, QByteArray("gfpdb: There are several devices called \"Mine\". Select one: --family 3 --scheme "
                                  "7, --family 5 --scheme 13.\n"));
     const TOOL_RUN one = run_tool({"show", "Mine", "--scheme", "13", "--json", "-d", q(place.db_dir())});
     QCOMPARE(json(one).object().value("family").toInt(), OTHER_FAMILY);
