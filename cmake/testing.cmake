@@ -8,6 +8,7 @@ set(GFPQ_TEST_TIMEOUT 300 CACHE STRING "Seconds after which a test counts as han
 function(gfpq_add_test)
     cmake_parse_arguments(ARG "SERIAL" "NAME;LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${ARG_NAME} ${ARG_SOURCES})
+    target_include_directories(${ARG_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support)
     target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} Qt5::Test gfpq_compiler)
     add_test(NAME ${ARG_NAME} COMMAND ${ARG_NAME})
     gfpq_set_test_environment(${ARG_NAME})
