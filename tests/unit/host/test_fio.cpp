@@ -4,6 +4,7 @@
 #include "fio/fio_file_system.h"
 #include "fio/fio_path.h"
 #include "fio/pgm_common.h"
+#include "test_rows.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -15,41 +16,6 @@
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
-
-class TEST_FIO : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-    void cleanup();
-
-    void folder_slashes_data();
-    void folder_slashes();
-    void folder_slashes_of_any_text();
-    void path_is_held_with_clean_slashes();
-    void empty_path_stays_empty();
-    void directory_ends_in_one_slash_data();
-    void directory_ends_in_one_slash();
-    void absolute_against_a_base_data();
-    void absolute_against_a_base();
-    void absolute_against_the_current_directory();
-    void relative_base_is_taken_from_the_current_directory();
-    void removed_current_directory_counts_as_the_root();
-    void absolute_of_any_path();
-    void relative_to_a_base_data();
-    void relative_to_a_base();
-    void relative_paths_are_made_absolute_first();
-    void relative_and_back_is_the_same_path();
-    void current_directory_is_changed();
-    void current_directory_on_a_difficult_path();
-    void current_directory_stays_when_the_new_one_is_unusable_data();
-    void current_directory_stays_when_the_new_one_is_unusable();
-
-private:
-    std::filesystem::path m_start;
-    std::unique_ptr<QTemporaryDir> m_scratch;
-};
 
 namespace {
 
@@ -78,278 +44,242 @@ QByteArray bytes(const std::string& text)
 
 } // namespace
 
-void TEST_FIO::init()
+class TEST_FIO : public QObject
 {
-    m_start = std::filesystem::current_path();
-    m_scratch = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_scratch->isValid());
-}
+    Q_OBJECT
 
-void TEST_FIO::cleanup()
-{
-    std::filesystem::current_path(m_start);
-    m_scratch.reset();
-}
+private slots:
+    void init()
+    {
+        m_start = std::filesystem::current_path();
+        m_scratch = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_scratch->isValid());
+    }
 
-void TEST_FIO::folder_slashes_data()
-{
-    QTest::addColumn<QByteArray>("folder");
-    QTest::addColumn<QByteArray>("clean");
+    void cleanup()
+    {
+        std::filesystem::current_path(m_start);
+        m_scratch.reset();
+    }
 
-    QTest::newRow("empty") << QByteArray("") << QByteArray("");
-    QTest::newRow("nothing to do") << QByteArray("/home/me/flash") << QByteArray("/home/me/flash");
-    QTest::newRow("end stays") << QByteArray("/home/me/flash/") << QByteArray("/home/me/flash/");
-    QTest::newRow("back slashes") << QByteArray("C:\\flash\\mine\\") << QByteArray("C:/flash/mine/");
-    QTest::newRow("run of slashes") << QByteArray("///home//me///") << QByteArray("/home/me/");
-    QTest::newRow("mixed run") << QByteArray("home/\\/\\me\\/") << QByteArray("home/me/");
-    QTest::newRow("slashes only") << QByteArray("\\\\//") << QByteArray("/");
-    QTest::newRow("dots stay") << QByteArray("./a/../b/.") << QByteArray("./a/../b/.");
-    QTest::newRow("repeated letters stay") << QByteArray("aabb//cc") << QByteArray("aabb/cc");
-    QTest::newRow("blanks and quotes stay") << QByteArray(" it's  here ") << QByteArray(" it's  here ");
-}
+    void folder_slashes_data()
+    {
+        rows<QByteArray, QByteArray>({{"empty", "", ""},
+                                      {"nothing to do", "/home/me/flash", "/home/me/flash"},
+                                      {"end stays", "/home/me/flash/", "/home/me/flash/"},
+                                      {"back slashes", "C:\\flash\\mine\\", "C:/flash/mine/"},
+                                      {"run of slashes", "///home//me///", "/home/me/"},
+                                      {"mixed run", "home/\\/\\me\\/", "home/me/"},
+                                      {"slashes only", "\\\\//", "/"},
+                                      {"dots stay", "./a/../b/.", "./a/../b/."},
+                                      {"repeated letters stay", "aabb//cc", "aabb/cc"},
+                                      {"blanks and quotes stay", " it's  here ", " it's  here "}});
+    }
 
-void TEST_FIO::folder_slashes()
-{
-    QFETCH(QByteArray, folder);
-    QFETCH(QByteArray, clean);
+    void folder_slashes()
+    {
+        const auto [folder, clean] = row<QByteArray, QByteArray>();
 
-    QCOMPARE(bytes(PGM_COMMON::change_folder_slash(folder.toStdString())), clean);
-}
+        QCOMPARE(bytes(PGM_COMMON::change_folder_slash(folder.toStdString())), clean);
+    }
 
-void TEST_FIO::folder_slashes_of_any_text()
-{
-    const auto is_separator = [](char c) { return c == '/' || c == '\\'; };
-    const auto keeps_the_rest = [&](const std::string& folder, const std::string& clean) {
-        std::string rest_before = folder;
-        std::string rest_after = clean;
-        rest_before.erase(std::remove_if(rest_before.begin(), rest_before.end(), is_separator), rest_before.end());
-        rest_after.erase(std::remove_if(rest_after.begin(), rest_after.end(), is_separator), rest_after.end());
-        return rest_before == rest_after;
-    };
+    void folder_slashes_of_any_text()
+    {
+        const auto is_separator = [](char c) { return c == '/' || c == '\\'; };
+        const auto keeps_the_rest = [&](const std::string& folder, const std::string& clean) {
+            std::string rest_before = folder;
+            std::string rest_after = clean;
+            rest_before.erase(std::remove_if(rest_before.begin(), rest_before.end(), is_separator), rest_before.end());
+            rest_after.erase(std::remove_if(rest_after.begin(), rest_after.end(), is_separator), rest_after.end());
+            return rest_before == rest_after;
+        };
 
-    QVERIFY(rc::check("clean, once and for all", [&] {
-        const std::string folder = *folder_text();
-        const std::string clean = PGM_COMMON::change_folder_slash(folder);
+        QVERIFY(rc::check("clean, once and for all", [&] {
+            const std::string folder = *folder_text();
+            const std::string clean = PGM_COMMON::change_folder_slash(folder);
 
-        RC_ASSERT(clean.find('\\') == std::string::npos);
-        RC_ASSERT(clean.find("//") == std::string::npos);
-        RC_ASSERT(PGM_COMMON::change_folder_slash(clean) == clean);
-        RC_ASSERT(keeps_the_rest(folder, clean));
-        RC_ASSERT(folder.empty() == clean.empty());
-        RC_ASSERT((folder.empty() || is_separator(folder.front()) == (clean.front() == '/')));
-        RC_ASSERT((folder.empty() || is_separator(folder.back()) == (clean.back() == '/')));
-    }));
-}
+            RC_ASSERT(clean.find('\\') == std::string::npos);
+            RC_ASSERT(clean.find("//") == std::string::npos);
+            RC_ASSERT(PGM_COMMON::change_folder_slash(clean) == clean);
+            RC_ASSERT(keeps_the_rest(folder, clean));
+            RC_ASSERT(folder.empty() == clean.empty());
+            RC_ASSERT((folder.empty() || is_separator(folder.front()) == (clean.front() == '/')));
+            RC_ASSERT((folder.empty() || is_separator(folder.back()) == (clean.back() == '/')));
+        }));
+    }
 
-void TEST_FIO::path_is_held_with_clean_slashes()
-{
-    FIO_PATH path("a\\\\b//c");
-    QCOMPARE(bytes(path.fullpath()), QByteArray("a/b/c"));
+    void path_is_held_with_clean_slashes()
+    {
+        FIO_PATH path("a\\\\b//c");
+        QCOMPARE(bytes(path.fullpath()), QByteArray("a/b/c"));
 
-    path = std::string("\\x\\..\\y\\\\");
-    QCOMPARE(bytes(path.fullpath()), QByteArray("/x/../y/"));
-}
+        path = std::string("\\x\\..\\y\\\\");
+        QCOMPARE(bytes(path.fullpath()), QByteArray("/x/../y/"));
+        QCOMPARE(FIO_PATH().fullpath(), std::string());
+        QCOMPARE(FIO_PATH(std::string()).fullpath(), std::string());
+    }
 
-void TEST_FIO::empty_path_stays_empty()
-{
-    QCOMPARE(FIO_PATH().fullpath(), std::string());
-    QCOMPARE(FIO_PATH(std::string()).fullpath(), std::string());
-}
+    void directory_ends_in_one_slash_data()
+    {
+        rows<QByteArray, QByteArray>({{"none at the end", "/home/me", "/home/me/"},
+                                      {"one at the end", "/home/me/", "/home/me/"},
+                                      {"back slash at the end", "C:\\me\\", "C:/me/"},
+                                      {"root", "/", "/"},
+                                      {"empty", "", ""}});
+    }
 
-void TEST_FIO::directory_ends_in_one_slash_data()
-{
-    QTest::addColumn<QByteArray>("directory");
-    QTest::addColumn<QByteArray>("path");
+    void directory_ends_in_one_slash()
+    {
+        const auto [directory, path] = row<QByteArray, QByteArray>();
 
-    QTest::newRow("none at the end") << QByteArray("/home/me") << QByteArray("/home/me/");
-    QTest::newRow("one at the end") << QByteArray("/home/me/") << QByteArray("/home/me/");
-    QTest::newRow("back slash at the end") << QByteArray("C:\\me\\") << QByteArray("C:/me/");
-    QTest::newRow("root") << QByteArray("/") << QByteArray("/");
-    QTest::newRow("empty") << QByteArray("") << QByteArray("");
-}
+        FIO_PATH result("/before");
+        result.directory(directory.toStdString());
 
-void TEST_FIO::directory_ends_in_one_slash()
-{
-    QFETCH(QByteArray, directory);
-    QFETCH(QByteArray, path);
+        QCOMPARE(bytes(result.fullpath()), path);
+    }
 
-    FIO_PATH result("/before");
-    result.directory(directory.toStdString());
+    void absolute_against_a_base_data()
+    {
+        rows<QByteArray, QByteArray, QByteArray>({{"relative", "a/b", "/base", "/base/a/b"},
+                                                  {"relative, base is a directory", "a/b", "/base/", "/base/a/b"},
+                                                  {"directory", "a/b/", "/base", "/base/a/b/"},
+                                                  {"absolute stays", "/a/b", "/base", "/a/b"},
+                                                  {"this directory", "./", "/base", "/base/"},
+                                                  {"dot", ".", "/base", "/base"},
+                                                  {"dots inside", "a/./b/../c", "/base", "/base/a/c"},
+                                                  {"up", "../other/", "/base/in", "/base/other/"},
+                                                  {"up in an absolute path", "/a/b/../c", "/base", "/a/c"},
+                                                  {"above the root", "../../../a", "/base", "/a"},
+                                                  {"up to the root", "..", "/base", "/"},
+                                                  {"names that open with dots", "..a/...", "/base", "/base/..a/..."},
+                                                  {"empty is the base", "", "/base/x", "/base/x"},
+                                                  {"empty is the base as a directory", "", "/base/", "/base/"},
+                                                  {"base with back slashes", "a", "\\base\\\\x", "/base/x/a"},
+                                                  {"base with dots", "a", "/base/x/..", "/base/a"},
+                                                  {"root", "/", "/base", "/"}});
+    }
 
-    QCOMPARE(bytes(result.fullpath()), path);
-}
+    void absolute_against_a_base()
+    {
+        const auto [path, base, absolute_path] = row<QByteArray, QByteArray, QByteArray>();
 
-void TEST_FIO::absolute_against_a_base_data()
-{
-    QTest::addColumn<QByteArray>("path");
-    QTest::addColumn<QByteArray>("base");
-    QTest::addColumn<QByteArray>("absolute_path");
+        QCOMPARE(bytes(absolute(path.toStdString(), base.toStdString())), absolute_path);
+    }
 
-    QTest::newRow("relative") << QByteArray("a/b") << QByteArray("/base") << QByteArray("/base/a/b");
-    QTest::newRow("relative, base is a directory")
-        << QByteArray("a/b") << QByteArray("/base/") << QByteArray("/base/a/b");
-    QTest::newRow("directory") << QByteArray("a/b/") << QByteArray("/base") << QByteArray("/base/a/b/");
-    QTest::newRow("absolute stays") << QByteArray("/a/b") << QByteArray("/base") << QByteArray("/a/b");
-    QTest::newRow("this directory") << QByteArray("./") << QByteArray("/base") << QByteArray("/base/");
-    QTest::newRow("dot") << QByteArray(".") << QByteArray("/base") << QByteArray("/base");
-    QTest::newRow("dots inside") << QByteArray("a/./b/../c") << QByteArray("/base") << QByteArray("/base/a/c");
-    QTest::newRow("up") << QByteArray("../other/") << QByteArray("/base/in") << QByteArray("/base/other/");
-    QTest::newRow("up in an absolute path") << QByteArray("/a/b/../c") << QByteArray("/base") << QByteArray("/a/c");
-    QTest::newRow("above the root") << QByteArray("../../../a") << QByteArray("/base") << QByteArray("/a");
-    QTest::newRow("up to the root") << QByteArray("..") << QByteArray("/base") << QByteArray("/");
-    QTest::newRow("names that open with dots")
-        << QByteArray("..a/...") << QByteArray("/base") << QByteArray("/base/..a/...");
-    QTest::newRow("empty is the base") << QByteArray("") << QByteArray("/base/x") << QByteArray("/base/x");
-    QTest::newRow("empty is the base as a directory") << QByteArray("") << QByteArray("/base/") << QByteArray("/base/");
-    QTest::newRow("base with back slashes") << QByteArray("a") << QByteArray("\\base\\\\x") << QByteArray("/base/x/a");
-    QTest::newRow("base with dots") << QByteArray("a") << QByteArray("/base/x/..") << QByteArray("/base/a");
-    QTest::newRow("root") << QByteArray("/") << QByteArray("/base") << QByteArray("/");
-}
+    void paths_are_taken_from_the_current_directory()
+    {
+        const std::string here = std::filesystem::canonical(m_scratch->path().toStdString()).string();
+        std::filesystem::current_path(here);
 
-void TEST_FIO::absolute_against_a_base()
-{
-    QFETCH(QByteArray, path);
-    QFETCH(QByteArray, base);
-    QFETCH(QByteArray, absolute_path);
+        QCOMPARE(absolute("a/../b/", ""), here + "/b/");
+        QCOMPARE(absolute("", ""), here);
+        QCOMPARE(absolute("a", "base"), here + "/base/a");
+        QCOMPARE(FIO_PATH("a/b/").get_relative_to(here), std::string("a/b/"));
+        QCOMPARE(FIO_PATH(here + "/a/").get_relative_to("b"), std::string("../a/"));
+    }
 
-    QCOMPARE(bytes(absolute(path.toStdString(), base.toStdString())), absolute_path);
-}
+    void removed_current_directory_counts_as_the_root()
+    {
+        const std::string removed = m_scratch->filePath(QStringLiteral("removed")).toStdString();
+        std::filesystem::create_directory(removed);
+        std::filesystem::current_path(removed);
+        std::filesystem::remove(removed);
 
-void TEST_FIO::absolute_against_the_current_directory()
-{
-    const std::string here = std::filesystem::canonical(m_scratch->path().toStdString()).string();
-    std::filesystem::current_path(here);
+        QCOMPARE(absolute("a/", ""), std::string("/a/"));
+    }
 
-    QCOMPARE(absolute("a/../b/", ""), here + "/b/");
-    QCOMPARE(absolute("", ""), here);
-}
+    void absolute_of_any_path()
+    {
+        QVERIFY(rc::check("absolute, free of dots, once and for all", [] {
+            const std::string path = *folder_text();
+            const std::string base = *absolute_text();
+            const std::string result = absolute(path, base);
 
-void TEST_FIO::relative_base_is_taken_from_the_current_directory()
-{
-    const std::string here = std::filesystem::canonical(m_scratch->path().toStdString()).string();
-    std::filesystem::current_path(here);
+            RC_ASSERT(result.front() == '/');
+            RC_ASSERT(result.find("//") == std::string::npos);
+            RC_ASSERT((result + "/").find("/./") == std::string::npos);
+            RC_ASSERT((result + "/").find("/../") == std::string::npos);
+            RC_ASSERT(absolute(result, "/elsewhere") == result);
+            const std::string text = path.empty() ? base : path;
+            const bool was_directory = text.back() == '/' || text.back() == '\\';
+            RC_ASSERT((result == "/" || was_directory == (result.back() == '/')));
+        }));
+    }
 
-    QCOMPARE(absolute("a", "base"), here + "/base/a");
-}
+    void relative_to_a_base_data()
+    {
+        rows<QByteArray, QByteArray, QByteArray>({{"same directory", "/a/b/", "/a/b", "./"},
+                                                  {"same directory, base with slash", "/a/b/", "/a/b/", "./"},
+                                                  {"same path, no directory", "/a/b", "/a/b/", "."},
+                                                  {"inside", "/a/b/c/d/", "/a/b", "c/d/"},
+                                                  {"file inside", "/a/b/c", "/a/b", "c"},
+                                                  {"above", "/a/", "/a/b/c", "../../"},
+                                                  {"beside", "/a/x/", "/a/b", "../x/"},
+                                                  {"name that goes on", "/a/bc/", "/a/b", "../bc/"},
+                                                  {"nothing in common", "/x/y", "/a/b", "../../x/y"},
+                                                  {"root", "/", "/a/b", "../../"},
+                                                  {"from the root", "/a/b/", "/", "a/b/"},
+                                                  {"dots in both", "/a/./b/../c/", "/a/x/..", "c/"},
+                                                  {"case counts", "/A/b/", "/a", "../A/b/"}});
+    }
 
-void TEST_FIO::removed_current_directory_counts_as_the_root()
-{
-    const std::string removed = m_scratch->filePath(QStringLiteral("removed")).toStdString();
-    std::filesystem::create_directory(removed);
-    std::filesystem::current_path(removed);
-    std::filesystem::remove(removed);
+    void relative_to_a_base()
+    {
+        const auto [path, base, relative_path] = row<QByteArray, QByteArray, QByteArray>();
 
-    QCOMPARE(absolute("a/", ""), std::string("/a/"));
-}
+        QCOMPARE(bytes(FIO_PATH(path.toStdString()).get_relative_to(base.toStdString())), relative_path);
+    }
 
-void TEST_FIO::absolute_of_any_path()
-{
-    QVERIFY(rc::check("absolute, free of dots, once and for all", [] {
-        const std::string path = *folder_text();
-        const std::string base = *absolute_text();
-        const std::string result = absolute(path, base);
+    void relative_and_back_is_the_same_path()
+    {
+        QVERIFY(rc::check("made absolute against its base, a relative path is the path it was made from", [] {
+            const std::string path = absolute(*absolute_text(), "");
+            const std::string base = *absolute_text();
+            const std::string relative_path = FIO_PATH(path).get_relative_to(base);
 
-        RC_ASSERT(result.front() == '/');
-        RC_ASSERT(result.find("//") == std::string::npos);
-        RC_ASSERT((result + "/").find("/./") == std::string::npos);
-        RC_ASSERT((result + "/").find("/../") == std::string::npos);
-        RC_ASSERT(absolute(result, "/elsewhere") == result);
-        const std::string text = path.empty() ? base : path;
-        const bool was_directory = text.back() == '/' || text.back() == '\\';
-        RC_ASSERT((result == "/" || was_directory == (result.back() == '/')));
-    }));
-}
+            RC_ASSERT(relative_path.front() != '/');
+            RC_ASSERT(absolute(relative_path, base) == path);
+        }));
+    }
 
-void TEST_FIO::relative_to_a_base_data()
-{
-    QTest::addColumn<QByteArray>("path");
-    QTest::addColumn<QByteArray>("base");
-    QTest::addColumn<QByteArray>("relative_path");
+    void current_directory_is_changed_data() { rows_named<QString>({".", "it's <b>my %s \u00e4\u4e2d"}); }
 
-    QTest::newRow("same directory") << QByteArray("/a/b/") << QByteArray("/a/b") << QByteArray("./");
-    QTest::newRow("same directory, base with slash") << QByteArray("/a/b/") << QByteArray("/a/b/") << QByteArray("./");
-    QTest::newRow("same path, no directory") << QByteArray("/a/b") << QByteArray("/a/b/") << QByteArray(".");
-    QTest::newRow("inside") << QByteArray("/a/b/c/d/") << QByteArray("/a/b") << QByteArray("c/d/");
-    QTest::newRow("file inside") << QByteArray("/a/b/c") << QByteArray("/a/b") << QByteArray("c");
-    QTest::newRow("above") << QByteArray("/a/") << QByteArray("/a/b/c") << QByteArray("../../");
-    QTest::newRow("beside") << QByteArray("/a/x/") << QByteArray("/a/b") << QByteArray("../x/");
-    QTest::newRow("name that goes on") << QByteArray("/a/bc/") << QByteArray("/a/b") << QByteArray("../bc/");
-    QTest::newRow("nothing in common") << QByteArray("/x/y") << QByteArray("/a/b") << QByteArray("../../x/y");
-    QTest::newRow("root") << QByteArray("/") << QByteArray("/a/b") << QByteArray("../../");
-    QTest::newRow("from the root") << QByteArray("/a/b/") << QByteArray("/") << QByteArray("a/b/");
-    QTest::newRow("dots in both") << QByteArray("/a/./b/../c/") << QByteArray("/a/x/..") << QByteArray("c/");
-    QTest::newRow("case counts") << QByteArray("/A/b/") << QByteArray("/a") << QByteArray("../A/b/");
-}
+    void current_directory_is_changed()
+    {
+        const QString directory = m_scratch->filePath(row<QString>());
+        QVERIFY(QDir().mkpath(directory));
 
-void TEST_FIO::relative_to_a_base()
-{
-    QFETCH(QByteArray, path);
-    QFETCH(QByteArray, base);
-    QFETCH(QByteArray, relative_path);
+        QVERIFY(FIO_FILE_SYSTEM::set_current_directory(QFile::encodeName(directory).toStdString()));
 
-    QCOMPARE(bytes(FIO_PATH(path.toStdString()).get_relative_to(base.toStdString())), relative_path);
-}
+        QCOMPARE(QDir::current().canonicalPath(), QDir(directory).canonicalPath());
+    }
 
-void TEST_FIO::relative_paths_are_made_absolute_first()
-{
-    const std::string here = std::filesystem::canonical(m_scratch->path().toStdString()).string();
-    std::filesystem::current_path(here);
+    void current_directory_stays_when_the_new_one_is_unusable_data()
+    {
+        rows<QByteArray>({{"missing", "/no/such/directory"},
+                          {"a file", "/proc/self/exe"},
+                          {"empty", ""},
+                          {"zero byte inside", QByteArray("/\0x", 3)},
+                          {"too long", QByteArray("/" + QByteArray(10000, 'a'))}});
+    }
 
-    QCOMPARE(FIO_PATH("a/b/").get_relative_to(here), std::string("a/b/"));
-    QCOMPARE(FIO_PATH(here + "/a/").get_relative_to("b"), std::string("../a/"));
-}
+    void current_directory_stays_when_the_new_one_is_unusable()
+    {
+        const QByteArray directory = row<QByteArray>();
+        const QString before = QDir::currentPath();
 
-void TEST_FIO::relative_and_back_is_the_same_path()
-{
-    QVERIFY(rc::check("made absolute against its base, a relative path is the path it was made from", [] {
-        const std::string path = absolute(*absolute_text(), "");
-        const std::string base = *absolute_text();
-        const std::string relative_path = FIO_PATH(path).get_relative_to(base);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^Cannot make \".*\" the current directory: .+")));
+        QVERIFY(!FIO_FILE_SYSTEM::set_current_directory(directory.toStdString()));
 
-        RC_ASSERT(relative_path.front() != '/');
-        RC_ASSERT(absolute(relative_path, base) == path);
-    }));
-}
+        QCOMPARE(QDir::currentPath(), before);
+    }
 
-void TEST_FIO::current_directory_is_changed()
-{
-    QVERIFY(FIO_FILE_SYSTEM::set_current_directory(m_scratch->path().toStdString()));
-
-    QCOMPARE(QDir::current().canonicalPath(), QDir(m_scratch->path()).canonicalPath());
-}
-
-void TEST_FIO::current_directory_on_a_difficult_path()
-{
-    const QString directory = m_scratch->filePath(QStringLiteral("it's <b>my %s \u00e4\u4e2d"));
-    QVERIFY(QDir().mkdir(directory));
-
-    QVERIFY(FIO_FILE_SYSTEM::set_current_directory(QFile::encodeName(directory).toStdString()));
-
-    QCOMPARE(QDir::current().canonicalPath(), QDir(directory).canonicalPath());
-}
-
-void TEST_FIO::current_directory_stays_when_the_new_one_is_unusable_data()
-{
-    QTest::addColumn<QByteArray>("directory");
-
-    QTest::newRow("missing") << QByteArray("/no/such/directory");
-    QTest::newRow("a file") << QByteArray("/proc/self/exe");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("zero byte inside") << QByteArray("/\0x", 3);
-    QTest::newRow("too long") << QByteArray("/" + QByteArray(10000, 'a'));
-}
-
-void TEST_FIO::current_directory_stays_when_the_new_one_is_unusable()
-{
-    QFETCH(QByteArray, directory);
-    const QString before = QDir::currentPath();
-
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QStringLiteral("^Cannot make \".*\" the current directory: .+")));
-    QVERIFY(!FIO_FILE_SYSTEM::set_current_directory(directory.toStdString()));
-
-    QCOMPARE(QDir::currentPath(), before);
-}
+private:
+    std::filesystem::path m_start;
+    std::unique_ptr<QTemporaryDir> m_scratch;
+};
 
 QTEST_GUILESS_MAIN(TEST_FIO)
+
 #include "test_fio.moc"

@@ -2,32 +2,13 @@
 
 // The choice of device: printed and remembered.
 #include "host_choice.h"
+#include "test_rows.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSettings>
 #include <QTest>
 #include <QTextCodec>
-
-class TEST_HOST_CHOICE : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void json_is_one_line();
-    void json_holds_any_device_name_data();
-    void json_holds_any_device_name();
-    void choice_is_remembered();
-    void nothing_remembered_gives_the_defaults();
-    void nonsense_in_the_settings_gives_the_defaults_data();
-    void nonsense_in_the_settings_gives_the_defaults();
-    void ends_of_the_ranges_are_remembered_data();
-    void ends_of_the_ranges_are_remembered();
-
-private:
-    QTemporaryDir m_scratch;
-};
 
 namespace {
 
@@ -40,117 +21,83 @@ HOST_CHOICE choice_of(int family, int scheme, const QString& device)
     return choice;
 }
 
-void add_device_names()
-{
-    QTest::addColumn<QString>("device");
-
-    QTest::newRow("plain") << QStringLiteral("MX25L25645G");
-    QTest::newRow("none") << QString();
-    QTest::newRow("quotes and back slash") << QStringLiteral("\"a\\b\", 'c'");
-    QTest::newRow("brackets") << QStringLiteral("[a]");
-    QTest::newRow("control bytes") << QStringLiteral("a\nb\tc\u0001");
-    QTest::newRow("letters outside ASCII") << QStringLiteral("gr\u00fc\u00df \u4e2d\u6587");
-}
-
 } // namespace
 
-void TEST_HOST_CHOICE::initTestCase()
+class TEST_HOST_CHOICE : public QObject
 {
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-}
+    Q_OBJECT
 
-void TEST_HOST_CHOICE::json_is_one_line()
-{
-    QCOMPARE(choice_to_json(choice_of(3, 13, QStringLiteral("MX25L25645G"))),
-             QByteArray("{\"family\":3,\"config_scheme\":13,\"device_name\":\"MX25L25645G\"}"));
-}
+private slots:
+    void initTestCase() { QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); }
 
-void TEST_HOST_CHOICE::json_holds_any_device_name_data()
-{
-    add_device_names();
-}
-
-void TEST_HOST_CHOICE::json_holds_any_device_name()
-{
-    QFETCH(QString, device);
-
-    const QByteArray json = choice_to_json(choice_of(1, 0, device));
-
-    QVERIFY(!json.contains('\n'));
-    QCOMPARE(QJsonDocument::fromJson(json).object().value(QStringLiteral("device_name")).toString(), device);
-}
-
-void TEST_HOST_CHOICE::choice_is_remembered()
-{
-    const QString file = m_scratch.filePath(QStringLiteral("remembered.ini"));
-    const QString device = QStringLiteral("gr\u00fc\u00df, \"1\"");
+    void json_is_one_line()
     {
-        QSettings settings(file, QSettings::IniFormat);
-        store_choice(choice_of(5, 8, device), settings);
+        QCOMPARE(choice_to_json(choice_of(3, 13, QStringLiteral("MX25L25645G"))),
+                 QByteArray("{\"family\":3,\"config_scheme\":13,\"device_name\":\"MX25L25645G\"}"));
     }
 
-    const HOST_CHOICE choice = load_choice(QSettings(file, QSettings::IniFormat));
+    void json_holds_any_device_name_data()
+    {
+        rows_named<QString>({"MX25L25645G", "", "\"a\\b\", 'c'", "[a]", "a\nb\tc\u0001", "gr\u00fc\u00df \u4e2d"});
+    }
 
-    QCOMPARE(choice.family, 5);
-    QCOMPARE(choice.config_scheme, 8);
-    QCOMPARE(QString::fromUtf8(choice.device_name.c_str()), device);
-}
+    void json_holds_any_device_name()
+    {
+        const QString device = row<QString>();
 
-void TEST_HOST_CHOICE::nothing_remembered_gives_the_defaults()
-{
-    const HOST_CHOICE choice =
-        load_choice(QSettings(m_scratch.filePath(QStringLiteral("empty.ini")), QSettings::IniFormat));
+        const QByteArray json = choice_to_json(choice_of(1, 0, device));
 
-    QCOMPARE(choice.family, 1);
-    QCOMPARE(choice.config_scheme, 7);
-    QCOMPARE(choice.device_name, std::string());
-}
+        QVERIFY(!json.contains('\n'));
+        QCOMPARE(QJsonDocument::fromJson(json).object().value(QStringLiteral("device_name")).toString(), device);
+    }
 
-void TEST_HOST_CHOICE::nonsense_in_the_settings_gives_the_defaults_data()
-{
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<QString>("scheme");
+    void choice_is_remembered()
+    {
+        const QString file = m_scratch.filePath(QStringLiteral("remembered.ini"));
+        const QString device = QStringLiteral("gr\u00fc\u00df, \"1\"");
+        {
+            QSettings settings(file, QSettings::IniFormat);
+            store_choice(choice_of(5, 8, device), settings);
+        }
 
-    QTest::newRow("below") << QStringLiteral("0") << QStringLiteral("-1");
-    QTest::newRow("above") << QStringLiteral("73") << QStringLiteral("26");
-    QTest::newRow("text") << QStringLiteral("many") << QStringLiteral("13x");
-}
+        const HOST_CHOICE choice = load_choice(QSettings(file, QSettings::IniFormat));
 
-void TEST_HOST_CHOICE::nonsense_in_the_settings_gives_the_defaults()
-{
-    QFETCH(QString, family);
-    QFETCH(QString, scheme);
-    QSettings settings(m_scratch.filePath(QStringLiteral("nonsense.ini")), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("choice/family"), family);
-    settings.setValue(QStringLiteral("choice/config_scheme"), scheme);
+        QCOMPARE(choice.family, 5);
+        QCOMPARE(choice.config_scheme, 8);
+        QCOMPARE(QString::fromUtf8(choice.device_name.c_str()), device);
+    }
 
-    const HOST_CHOICE choice = load_choice(settings);
+    void numbers_in_the_settings_data()
+    {
+        rows<QVariant, QVariant, int, int>({{"nothing", QVariant(), QVariant(), 1, 7},
+                                            {"below", 0, -1, 1, 7},
+                                            {"above", 73, 26, 1, 7},
+                                            {"text", QByteArray("many"), QByteArray("13x"), 1, 7},
+                                            {"smallest", 1, 0, 1, 0},
+                                            {"largest", 72, 25, 72, 25}});
+    }
 
-    QCOMPARE(choice.family, 1);
-    QCOMPARE(choice.config_scheme, 7);
-}
+    void numbers_in_the_settings()
+    {
+        const auto [stored_family, stored_scheme, family, scheme] = row<QVariant, QVariant, int, int>();
+        QSettings settings(m_scratch.filePath(QStringLiteral("numbers.ini")), QSettings::IniFormat);
+        settings.clear();
+        if (stored_family.isValid()) {
+            settings.setValue(QStringLiteral("choice/family"), stored_family);
+            settings.setValue(QStringLiteral("choice/config_scheme"), stored_scheme);
+        }
 
-void TEST_HOST_CHOICE::ends_of_the_ranges_are_remembered_data()
-{
-    QTest::addColumn<int>("family");
-    QTest::addColumn<int>("scheme");
+        const HOST_CHOICE choice = load_choice(settings);
 
-    QTest::newRow("smallest") << 1 << 0;
-    QTest::newRow("largest") << 72 << 25;
-}
+        QCOMPARE(choice.family, family);
+        QCOMPARE(choice.config_scheme, scheme);
+        QCOMPARE(choice.device_name, std::string());
+    }
 
-void TEST_HOST_CHOICE::ends_of_the_ranges_are_remembered()
-{
-    QFETCH(int, family);
-    QFETCH(int, scheme);
-    QSettings settings(m_scratch.filePath(QStringLiteral("ends.ini")), QSettings::IniFormat);
-    store_choice(choice_of(family, scheme, QString()), settings);
-
-    const HOST_CHOICE choice = load_choice(settings);
-
-    QCOMPARE(choice.family, family);
-    QCOMPARE(choice.config_scheme, scheme);
-}
+private:
+    QTemporaryDir m_scratch;
+};
 
 QTEST_GUILESS_MAIN(TEST_HOST_CHOICE)
+
 #include "test_host_choice.moc"

@@ -7,45 +7,31 @@
 
 #include <QTest>
 
-class TEST_HOST_DATABASE : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void init();
-
-    void families_file_that_cannot_be_used_is_a_problem();
-    void both_problems_are_shown();
-};
-
 namespace {
 
 const QString FAMILIES_PROBLEM = QStringLiteral("GFPQ_FAMILIES: /dev/zero cannot be read: it is not a regular file.");
 
 } // namespace
 
-void TEST_HOST_DATABASE::initTestCase()
+class TEST_HOST_DATABASE : public QObject
 {
-    qputenv("GFPQ_FAMILIES", "/dev/zero");
-}
+    Q_OBJECT
 
-void TEST_HOST_DATABASE::init()
-{
-    GFPDB_WORLD::instance().reset();
-}
+private slots:
+    void initTestCase() { qputenv("GFPQ_FAMILIES", "/dev/zero"); }
 
-void TEST_HOST_DATABASE::families_file_that_cannot_be_used_is_a_problem()
-{
-    QCOMPARE(database_state().problem, FAMILIES_PROBLEM);
-}
+    void init() { GFPDB_WORLD::instance().reset(); }
 
-void TEST_HOST_DATABASE::both_problems_are_shown()
-{
-    GFPDB_WORLD::instance().database_problem = "The directory is gone.";
+    void families_file_that_cannot_be_used_is_a_problem() { QCOMPARE(database_state().problem, FAMILIES_PROBLEM); }
 
-    QCOMPARE(database_state().problem, QLatin1String("The directory is gone.\n") + FAMILIES_PROBLEM);
-}
+    void both_problems_are_shown()
+    {
+        GFPDB_WORLD::instance().database_problem = "The directory is gone.";
+
+        QCOMPARE(database_state().problem, QLatin1String("The directory is gone.\n") + FAMILIES_PROBLEM);
+    }
+};
 
 QTEST_GUILESS_MAIN(TEST_HOST_DATABASE)
+
 #include "test_host_database.moc"

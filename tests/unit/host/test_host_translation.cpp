@@ -3,30 +3,12 @@
 // The language of the host's texts.
 #include "host_translation.h"
 #include "message_recorder.h"
+#include "test_rows.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTest>
-
-class TEST_HOST_TRANSLATION : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-
-    void texts_are_looked_for_beside_the_programs();
-    void language_brings_in_its_texts_data();
-    void language_brings_in_its_texts();
-    void texts_of_qt_come_too();
-    void texts_of_qt_come_from_qt_s_place();
-    void first_directory_with_the_language_counts();
-    void texts_leave_with_the_object();
-    void english_is_never_missing();
-    void missing_language_is_logged();
-    void system_language_is_not_missed();
-};
 
 namespace {
 
@@ -40,89 +22,87 @@ QString translated()
 
 } // namespace
 
-void TEST_HOST_TRANSLATION::init()
+class TEST_HOST_TRANSLATION : public QObject
 {
-    QLocale::setDefault(QLocale::c());
-}
+    Q_OBJECT
 
-void TEST_HOST_TRANSLATION::texts_are_looked_for_beside_the_programs()
-{
-    QCOMPARE(HOST_TRANSLATION::installed_directories(QStringLiteral("/opt/programmer/bin")),
-             QStringList(QStringLiteral("/opt/programmer/share/gfpq/translations")));
-}
+private slots:
+    void init() { QLocale::setDefault(QLocale::c()); }
 
-void TEST_HOST_TRANSLATION::language_brings_in_its_texts_data()
-{
-    QTest::addColumn<QString>("language");
-
-    QTest::newRow("language") << QStringLiteral("de");
-    QTest::newRow("language and country") << QStringLiteral("de_AT");
-}
-
-void TEST_HOST_TRANSLATION::language_brings_in_its_texts()
-{
-    QFETCH(QString, language);
-    const HOST_TRANSLATION translation(language, DIRECTORIES, QT_DIRECTORY);
-
-    QCOMPARE(translated(), QStringLiteral("L\u00f6schen"));
-    QCOMPARE(QLocale().language(), QLocale::German);
-}
-
-void TEST_HOST_TRANSLATION::texts_of_qt_come_too()
-{
-    const HOST_TRANSLATION translation(QStringLiteral("de"), DIRECTORIES, QT_DIRECTORY);
-
-    QCOMPARE(QCoreApplication::translate("qt_probe", "Cancel"), QStringLiteral("Abbrechen"));
-}
-
-void TEST_HOST_TRANSLATION::texts_of_qt_come_from_qt_s_place()
-{
-    QCOMPARE(HOST_TRANSLATION::qt_directory(), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-}
-
-void TEST_HOST_TRANSLATION::first_directory_with_the_language_counts()
-{
-    QTemporaryDir empty;
-    const HOST_TRANSLATION translation(QStringLiteral("de"), {empty.path(), QStringLiteral(TRANSLATIONS)},
-                                       QT_DIRECTORY);
-
-    QCOMPARE(translated(), QStringLiteral("L\u00f6schen"));
-}
-
-void TEST_HOST_TRANSLATION::texts_leave_with_the_object()
-{
+    void texts_are_looked_for_beside_the_programs()
     {
-        const HOST_TRANSLATION translation(QStringLiteral("de"), DIRECTORIES, QT_DIRECTORY);
+        QCOMPARE(HOST_TRANSLATION::installed_directories(QStringLiteral("/opt/programmer/bin")),
+                 QStringList(QStringLiteral("/opt/programmer/share/gfpq/translations")));
     }
 
-    QCOMPARE(translated(), QStringLiteral("Erase"));
-}
+    void language_brings_in_its_texts_data() { rows<QString>({{"language", "de"}, {"language and country", "de_AT"}}); }
 
-void TEST_HOST_TRANSLATION::english_is_never_missing()
-{
-    MESSAGE_RECORDER messages;
-    const HOST_TRANSLATION translation(QStringLiteral("en"), {}, QT_DIRECTORY);
+    void language_brings_in_its_texts()
+    {
+        const QString language = row<QString>();
+        const HOST_TRANSLATION translation(language, DIRECTORIES, QT_DIRECTORY);
 
-    QCOMPARE(messages.texts(), QStringList());
-    QCOMPARE(translated(), QStringLiteral("Erase"));
-}
+        QCOMPARE(translated(), QStringLiteral("L\u00f6schen"));
+        QCOMPARE(QLocale().language(), QLocale::German);
+    }
 
-void TEST_HOST_TRANSLATION::missing_language_is_logged()
-{
-    MESSAGE_RECORDER messages;
-    const HOST_TRANSLATION translation(QStringLiteral("fi"), DIRECTORIES, QT_DIRECTORY);
+    void texts_of_qt_come_too()
+    {
+        const HOST_TRANSLATION translation(QStringLiteral("de"), DIRECTORIES, QT_DIRECTORY);
 
-    QCOMPARE(messages.texts(), QStringList(QStringLiteral("host.app: There are no texts in the language \"fi\"")));
-    QCOMPARE(translated(), QStringLiteral("Erase"));
-}
+        QCOMPARE(QCoreApplication::translate("qt_probe", "Cancel"), QStringLiteral("Abbrechen"));
+    }
 
-void TEST_HOST_TRANSLATION::system_language_is_not_missed()
-{
-    MESSAGE_RECORDER messages;
-    const HOST_TRANSLATION translation(QString(), {}, QT_DIRECTORY);
+    void texts_of_qt_come_from_qt_s_place()
+    {
+        QCOMPARE(HOST_TRANSLATION::qt_directory(), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    }
 
-    QCOMPARE(messages.texts(), QStringList());
-}
+    void first_directory_with_the_language_counts()
+    {
+        QTemporaryDir empty;
+        const HOST_TRANSLATION translation(QStringLiteral("de"), {empty.path(), QStringLiteral(TRANSLATIONS)},
+                                           QT_DIRECTORY);
+
+        QCOMPARE(translated(), QStringLiteral("L\u00f6schen"));
+    }
+
+    void texts_leave_with_the_object()
+    {
+        {
+            const HOST_TRANSLATION translation(QStringLiteral("de"), DIRECTORIES, QT_DIRECTORY);
+        }
+
+        QCOMPARE(translated(), QStringLiteral("Erase"));
+    }
+
+    void english_is_never_missing()
+    {
+        MESSAGE_RECORDER messages;
+        const HOST_TRANSLATION translation(QStringLiteral("en"), {}, QT_DIRECTORY);
+
+        QCOMPARE(messages.texts(), QStringList());
+        QCOMPARE(translated(), QStringLiteral("Erase"));
+    }
+
+    void missing_language_is_logged()
+    {
+        MESSAGE_RECORDER messages;
+        const HOST_TRANSLATION translation(QStringLiteral("fi"), DIRECTORIES, QT_DIRECTORY);
+
+        QCOMPARE(messages.texts(), QStringList(QStringLiteral("host.app: There are no texts in the language \"fi\"")));
+        QCOMPARE(translated(), QStringLiteral("Erase"));
+    }
+
+    void system_language_is_not_missed()
+    {
+        MESSAGE_RECORDER messages;
+        const HOST_TRANSLATION translation(QString(), {}, QT_DIRECTORY);
+
+        QCOMPARE(messages.texts(), QStringList());
+    }
+};
 
 QTEST_GUILESS_MAIN(TEST_HOST_TRANSLATION)
+
 #include "test_host_translation.moc"

@@ -2,6 +2,7 @@
 
 // Pictures of the dialog's pages.
 #include "page_renderer.h"
+#include "test_rows.h"
 
 #include <QDialog>
 #include <QImage>
@@ -21,21 +22,6 @@ class GFPQ_EDIT_TEMPLATE_DLG : public QDialog
 
 public:
     using QDialog::QDialog;
-};
-
-class TEST_PAGE_RENDERER : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void every_page_and_the_template_editor_are_drawn();
-    void pictures_show_their_pages();
-    void pictures_are_as_large_as_the_form();
-    void dialog_without_a_template_editor_data();
-    void dialog_without_a_template_editor();
-    void foreign_window_is_closed_and_told();
-    void directory_that_cannot_be_made_is_told();
-    void renderer_leaves_the_application_alone_afterwards();
 };
 
 namespace {
@@ -92,123 +78,125 @@ QStringList names(const QStringList& files)
 
 } // namespace
 
-void TEST_PAGE_RENDERER::every_page_and_the_template_editor_are_drawn()
+class TEST_PAGE_RENDERER : public QObject
 {
-    QTemporaryDir scratch;
-    const QString directory = scratch.filePath(QStringLiteral("new/pictures"));
-    FORM form;
-    PAGE_RENDERER renderer(directory);
+    Q_OBJECT
 
-    QCOMPARE(form.exec(), int(QDialog::Rejected));
+private slots:
+    void every_page_and_the_template_editor_are_drawn()
+    {
+        QTemporaryDir scratch;
+        const QString directory = scratch.filePath(QStringLiteral("new/pictures"));
+        FORM form;
+        PAGE_RENDERER renderer(directory);
 
-    QCOMPARE(renderer.problem(), QString());
-    QCOMPARE(names(renderer.files()),
-             (QStringList{QStringLiteral("1-device.png"), QStringLiteral("2-verify-blank-check.png"),
-                          QStringLiteral("3-l\u00f6schen-2.png"), QStringLiteral("4-template-editor.png")}));
-    for (const QString& file : renderer.files())
-        QCOMPARE(QFileInfo(file).absolutePath(), directory);
-    QCOMPARE(form.page_at_click, 0);
-    QCOMPARE(form.device_at_click, 0);
-}
+        QCOMPARE(form.exec(), int(QDialog::Rejected));
 
-void TEST_PAGE_RENDERER::pictures_show_their_pages()
-{
-    QTemporaryDir scratch;
-    FORM form;
-    PAGE_RENDERER renderer(scratch.path());
-
-    form.exec();
-
-    for (int page = 0; page < COLOURS.size(); ++page) {
-        const QImage picture(renderer.files()[page]);
-        QCOMPARE(picture.size(), form.size());
-        QCOMPARE(picture.pixelColor(picture.rect().center()), COLOURS[page]);
+        QCOMPARE(renderer.problem(), QString());
+        QCOMPARE(names(renderer.files()),
+                 (QStringList{QStringLiteral("1-device.png"), QStringLiteral("2-verify-blank-check.png"),
+                              QStringLiteral("3-l\u00f6schen-2.png"), QStringLiteral("4-template-editor.png")}));
+        for (const QString& file : renderer.files())
+            QCOMPARE(QFileInfo(file).absolutePath(), directory);
+        QCOMPARE(form.page_at_click, 0);
+        QCOMPARE(form.device_at_click, 0);
     }
-}
 
-// The dialog makes itself smaller for a small screen.
-void TEST_PAGE_RENDERER::pictures_are_as_large_as_the_form()
-{
-    class MODEST_FORM : public FORM
+    void pictures_show_their_pages()
     {
-        void showEvent(QShowEvent* event) override
-        {
-            resize(200, 150);
-            FORM::showEvent(event);
-        }
-    };
-    QTemporaryDir directory;
-    PAGE_RENDERER renderer(directory.path());
-    MODEST_FORM form;
-    form.exec();
-
-    QCOMPARE(renderer.problem(), QString());
-    QCOMPARE(QImage(renderer.files().constFirst()).size(), QSize(400, 300));
-}
-
-void TEST_PAGE_RENDERER::dialog_without_a_template_editor_data()
-{
-    QTest::addColumn<bool>("visible");
-    QTest::addColumn<bool>("enabled");
-
-    QTest::newRow("hidden") << false << true;
-    QTest::newRow("disabled") << true << false;
-}
-
-void TEST_PAGE_RENDERER::dialog_without_a_template_editor()
-{
-    QFETCH(bool, visible);
-    QFETCH(bool, enabled);
-    QTemporaryDir scratch;
-    FORM form;
-    form.button->setVisible(visible);
-    form.button->setEnabled(enabled);
-    PAGE_RENDERER renderer(scratch.path());
-
-    form.exec();
-
-    QCOMPARE(renderer.files().size(), 3);
-    QCOMPARE(renderer.problem(), QString());
-}
-
-void TEST_PAGE_RENDERER::foreign_window_is_closed_and_told()
-{
-    QTemporaryDir scratch;
-    PAGE_RENDERER renderer(scratch.path());
-
-    QDialog foreign;
-    foreign.setWindowTitle(QStringLiteral("Foreign"));
-    QCOMPARE(foreign.exec(), int(QDialog::Rejected));
-
-    QCOMPARE(renderer.files(), QStringList());
-    QCOMPARE(renderer.problem(), QStringLiteral("A window opened that does not belong here: Foreign"));
-}
-
-void TEST_PAGE_RENDERER::directory_that_cannot_be_made_is_told()
-{
-    FORM form;
-    PAGE_RENDERER renderer(QStringLiteral("/proc/self/exe/pictures"));
-
-    form.exec();
-
-    QCOMPARE(renderer.files(), QStringList());
-    const QStringList problems = renderer.problem().split(QLatin1Char('\n'));
-    QCOMPARE(problems[0], QStringLiteral("The directory /proc/self/exe/pictures cannot be created."));
-    QCOMPARE(problems[1], QStringLiteral("The picture /proc/self/exe/pictures/1-device.png cannot be written."));
-}
-
-void TEST_PAGE_RENDERER::renderer_leaves_the_application_alone_afterwards()
-{
-    QTemporaryDir scratch;
-    {
+        QTemporaryDir scratch;
+        FORM form;
         PAGE_RENDERER renderer(scratch.path());
-    }
-    QDialog dialog;
-    dialog.show();
-    QCoreApplication::processEvents();
 
-    QVERIFY(dialog.isVisible());
-}
+        form.exec();
+
+        for (int page = 0; page < COLOURS.size(); ++page) {
+            const QImage picture(renderer.files()[page]);
+            QCOMPARE(picture.size(), form.size());
+            QCOMPARE(picture.pixelColor(picture.rect().center()), COLOURS[page]);
+        }
+    }
+
+    // The dialog makes itself smaller for a small screen.
+    void pictures_are_as_large_as_the_form()
+    {
+        class MODEST_FORM : public FORM
+        {
+            void showEvent(QShowEvent* event) override
+            {
+                resize(200, 150);
+                FORM::showEvent(event);
+            }
+        };
+        QTemporaryDir directory;
+        PAGE_RENDERER renderer(directory.path());
+        MODEST_FORM form;
+        form.exec();
+
+        QCOMPARE(renderer.problem(), QString());
+        QCOMPARE(QImage(renderer.files().constFirst()).size(), QSize(400, 300));
+    }
+
+    void dialog_without_a_template_editor_data()
+    {
+        rows<bool, bool>({{"hidden", false, true}, {"disabled", true, false}});
+    }
+
+    void dialog_without_a_template_editor()
+    {
+        const auto [visible, enabled] = row<bool, bool>();
+        QTemporaryDir scratch;
+        FORM form;
+        form.button->setVisible(visible);
+        form.button->setEnabled(enabled);
+        PAGE_RENDERER renderer(scratch.path());
+
+        form.exec();
+
+        QCOMPARE(renderer.files().size(), 3);
+        QCOMPARE(renderer.problem(), QString());
+    }
+
+    void foreign_window_is_closed_and_told()
+    {
+        QTemporaryDir scratch;
+        PAGE_RENDERER renderer(scratch.path());
+
+        QDialog foreign;
+        foreign.setWindowTitle(QStringLiteral("Foreign"));
+        QCOMPARE(foreign.exec(), int(QDialog::Rejected));
+
+        QCOMPARE(renderer.files(), QStringList());
+        QCOMPARE(renderer.problem(), QStringLiteral("A window opened that does not belong here: Foreign"));
+    }
+
+    void directory_that_cannot_be_made_is_told()
+    {
+        FORM form;
+        PAGE_RENDERER renderer(QStringLiteral("/proc/self/exe/pictures"));
+
+        form.exec();
+
+        QCOMPARE(renderer.files(), QStringList());
+        const QStringList problems = renderer.problem().split(QLatin1Char('\n'));
+        QCOMPARE(problems[0], QStringLiteral("The directory /proc/self/exe/pictures cannot be created."));
+        QCOMPARE(problems[1], QStringLiteral("The picture /proc/self/exe/pictures/1-device.png cannot be written."));
+    }
+
+    void renderer_leaves_the_application_alone_afterwards()
+    {
+        QTemporaryDir scratch;
+        {
+            PAGE_RENDERER renderer(scratch.path());
+        }
+        QDialog dialog;
+        dialog.show();
+        QCoreApplication::processEvents();
+
+        QVERIFY(dialog.isVisible());
+    }
+};
 
 QTEST_MAIN(TEST_PAGE_RENDERER)
+
 #include "test_page_renderer.moc"
