@@ -25,6 +25,31 @@ inline GFPDB_ACTION* make(int type, VALUES values = {})
     return action;
 }
 
+inline GFPDB_ACTION* write_register(VALUES values = {})
+{
+    return make(GFPDB_ACT_WRITE_REGISTER, values);
+}
+
+inline GFPDB_ACTION* write_data(VALUES values = {})
+{
+    return make(GFPDB_ACT_WRITE_DATA, values);
+}
+
+inline GFPDB_ACTION* read_data(VALUES values = {})
+{
+    return make(GFPDB_ACT_READ_DATA, values);
+}
+
+inline GFPDB_ACTION* erase(VALUES values = {})
+{
+    return make(GFPDB_ACT_ERASE, values);
+}
+
+inline GFPDB_ACTION* custom(VALUES values = {})
+{
+    return make(GFPDB_ACT_CUSTOM, values);
+}
+
 inline GFPDB_ACTION* start(const QByteArray& unit)
 {
     return make(GFPDB_ACT_CUSTOM, {{GFPDB_CUSTOM_LOOP_UNIT, unit.constData()}, {GFPDB_CUSTOM_LOOP_MARKER, "start"}});

@@ -4,6 +4,7 @@
 #include "flow_executor.h"
 #include "flow_making.h"
 #include "recording_bus.h"
+#include "test_rows.h"
 
 #include <QTest>
 
@@ -78,531 +79,479 @@ class TEST_FLOW_RULES : public QObject
     Q_OBJECT
 
 private slots:
-    void sectors_that_touch_the_range_are_erased_data();
-    void sectors_that_touch_the_range_are_erased();
-    void of_several_erases_the_largest_that_fits_is_sent_data();
-    void of_several_erases_the_largest_that_fits_is_sent();
-    void what_stands_beside_several_erases_is_sent_in_each_step();
-    void of_two_erases_of_one_size_the_first_is_sent();
-    void sizes_that_do_not_divide_each_other_are_refused();
-    void the_sectors_of_a_die_count_from_its_start();
-    void an_erase_outside_of_a_loop_needs_something_asked_for_data();
-    void an_erase_outside_of_a_loop_needs_something_asked_for();
-    void a_page_without_a_byte_to_program_is_left_out();
-    void a_page_that_is_asked_for_in_part_is_filled_up();
-    void a_page_with_bytes_of_the_flow_is_sent_whatever_the_image_has();
-    void a_page_that_is_also_erased_is_not_left_out();
-    void two_page_sizes_in_a_loop_are_refused();
-    void a_write_of_the_image_outside_of_a_loop_follows_the_same_rules();
-    void only_what_is_asked_for_is_read_data();
-    void only_what_is_asked_for_is_read();
-    void a_read_that_is_not_of_the_image_is_executed_as_it_stands();
-    void the_image_ends_with_the_device_data();
-    void the_image_ends_with_the_device();
-    void delays_are_waited_for_data();
-    void delays_are_waited_for();
-    void an_address_fits_its_bytes_data();
-    void an_address_fits_its_bytes();
-    void an_id_needs_a_record_with_an_id();
-    void dies_of_different_sizes_are_refused();
-    void an_examine_hands_over_what_was_asked_for();
-    void the_mask_applies_to_what_is_read_data();
-    void the_mask_applies_to_what_is_read();
-    void the_mask_of_a_register_applies_to_what_is_read_data();
-    void the_mask_of_a_register_applies_to_what_is_read();
+    void sectors_that_touch_the_range_are_erased_data()
+    {
+        rows<qint64, qint64, QByteArray>({{"all", qint64(0), qint64(256 * K), "D8@0, D8@10000, D8@20000, D8@30000"},
+                                          {"one sector", qint64(64 * K), qint64(64 * K), "D8@10000"},
+                                          {"one byte", qint64(64 * K - 1), qint64(1), "D8@0"},
+                                          {"two bytes on a border", qint64(64 * K - 1), qint64(2), "D8@0, D8@10000"},
+                                          {"the last byte", qint64(256 * K - 1), qint64(1), "D8@30000"},
+                                          {"nothing", qint64(0), qint64(0), QByteArray()}});
+    }
+
+    void sectors_that_touch_the_range_are_erased()
+    {
+        const auto [first, length, commands] = row<qint64, qint64, QByteArray>();
+        RUN run(256 * K);
+        run.executor.set_range({first, length});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0xD8", "65536"), end("sector")}));
+
+        QCOMPARE(run.bus.commands(), words(commands));
+    }
+
+    void of_several_erases_the_largest_that_fits_is_sent_data()
+    {
+        QTest::addColumn<qint64>("first");
+        QTest::addColumn<qint64>("length");
+        QTest::addColumn<QByteArray>("commands");
+        const auto add = [](const char* name, qint64 first, qint64 length, const char* commands) {
+            QTest::newRow(name) << first << length << QByteArray(commands);
+        };
+        add("the device", 0, 256 * K, "C7");
+        add("all but the last sector", 0, 252 * K,
+            "D8@0, D8@10000, D8@20000, 52@30000, 20@38000, 20@39000, 20@3A000, 20@3B000, 20@3C000, 20@3D000, 20@3E000");
+        add("one large sector", 64 * K, 64 * K, "D8@10000");
+        add("large size between borders", 60 * K, 40 * K, "20@F000, 52@10000, 20@18000");
+        add("half a sector at its end", 32 * K, 32 * K, "52@8000");
+        add("one byte", 70 * K, 1, "20@11000");
+        add("rounded out to a large sector", 1, 64 * K - 2, "D8@0");
+        add("rounded out to the device", 1, 256 * K - 2, "C7");
+        add("nothing", 0, 0, "");
+    }
+
+    // Sizes of 64, 32 and 4 KiB and the whole chip; their order in the flow does not count.
+    void of_several_erases_the_largest_that_fits_is_sent()
+    {
+        QFETCH(qint64, first);
+        QFETCH(qint64, length);
+        QFETCH(QByteArray, commands);
+        RUN one(256 * K);
+        RUN other(256 * K);
+        one.executor.set_range({first, length});
+        other.executor.set_range({first, length});
+
+        QVERIFY(one.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase_all(), erase("0xD8", "65536"),
+                                                    erase("0x52", "32768"), erase("0x20", "4096"), end("sector")}));
+        QVERIFY(other.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0x20", "4096"), erase("0xD8", "65536"),
+                                                      erase_all(), erase("0x52", "32768"), end("sector")}));
+
+        QCOMPARE(one.bus.commands(), words(commands));
+        QCOMPARE(other.bus.commands(), words(commands));
+    }
+
+    void what_stands_beside_several_erases_is_sent_in_each_step()
+    {
+        RUN run(256 * K);
+        run.executor.set_range({64 * K, 68 * K});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), write_enable(), erase("0xD8", "65536"), poll(),
+                                                    make(GFPDB_ACT_WRITE_REGISTER, {{GFPDB_WR_COMMAND, "0x04"}}),
+                                                    erase("0x20", "4096"), end("sector")}));
+
+        QCOMPARE(run.bus.commands(), words("06, D8@10000, 05?1, 04, 06, 05?1, 04, 20@20000"));
+    }
+
+    void of_two_erases_of_one_size_the_first_is_sent()
+    {
+        RUN run(64 * K);
+
+        QVERIFY(run.execute(GFPDB_OPERATION_ERASE,
+                            {start("sector"), erase("0x52", "32768"), erase("0xD7", "32768"), end("sector")}));
+
+        QCOMPARE(run.bus.commands(), words("52@0, 52@8000"));
+    }
+
+    void sizes_that_do_not_divide_each_other_are_refused()
+    {
+        RUN run(240 * K);
+        QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0x52", "24576"),
+                                                                     erase("0xD7", "16384"), end("sector")}),
+                                 std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(
+            run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0xD8", "65536"), end("sector")}),
+            std::runtime_error);
+        QVERIFY(run.bus.m_commands.empty());
+    }
+
+    void the_sectors_of_a_die_count_from_its_start()
+    {
+        RUN run(256 * K, 2);
+        run.executor.set_range({120 * K, 72 * K});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_ERASE,
+                            {start("die"), select_die(), start("sector"), erase("0xD8", "65536", "die"),
+                             erase("0x20", "4096", "die"), end("sector"), end("die")}));
+
+        QCOMPARE(run.bus.commands(), words("C2=00, 20@1E000, 20@1F000, C2=01, D8@0"));
+    }
+
+    void an_erase_outside_of_a_loop_needs_something_asked_for_data()
+    {
+        rows<qint64, QByteArray>({{"in the first die", qint64(0), "C2=00, C7, 05?1, C2=01, 05?1"},
+                                  {"in the last sector", qint64(192 * K), "C2=00, 05?1, C2=01, C7, 05?1, D8@30000"},
+                                  {"before it", qint64(192 * K - 1), "C2=00, 05?1, C2=01, C7, 05?1"}});
+    }
+
+    void an_erase_outside_of_a_loop_needs_something_asked_for()
+    {
+        const auto [only, commands] = row<qint64, QByteArray>();
+        RUN run(256 * K, 2);
+        run.executor.set_range({only, 1});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("die"), select_die(), erase_all(), poll(), end("die"),
+                                                    erase("0xD8", "65536", "0x00030000")}));
+
+        QCOMPARE(run.bus.commands(), words(commands));
+    }
+
+    void a_page_without_a_byte_to_program_is_left_out()
+    {
+        RUN run(4 * K);
+        run.image.add(0, FLOW_BYTES(256, 0xFF)); // nothing but FF
+        run.image.add(511, {0x00});              // the last byte of a page
+        run.image.add(1024, {0xFF, 0xFE});       // one bit
+        run.image.add(2048, FLOW_BYTES(300, 0x5A));
+        run.image.add(3072, FLOW_BYTES(64, 0x00)); // not asked for
+        run.executor.set_range({0, 3 * K});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+                            {start("page"), write_enable(), make(GFPDB_ACT_WRITE_DATA), poll(), end("page")}));
+
+        QCOMPARE(run.bus.commands(), words("06, 02@100=256, 05?1, 06, 02@400=256, 05?1, 06, 02@800=256, 05?1, 06, "
+                                           "02@900=256, 05?1"));
+    }
+
+    void a_page_that_is_asked_for_in_part_is_filled_up()
+    {
+        RUN run(1 * K);
+        run.image.add(0, FLOW_BYTES(1024, 0x11));
+        run.executor.set_range({250, 10});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM, {start("page"), make(GFPDB_ACT_WRITE_DATA), end("page")}));
+
+        QCOMPARE(run.bus.commands(), words("02@0=256, 02@100=256"));
+        FLOW_BYTES first(256, 0xFF);
+        std::fill(first.begin() + 250, first.end(), 0x11);
+        FLOW_BYTES second(256, 0xFF);
+        std::fill(second.begin(), second.begin() + 4, 0x11);
+        QCOMPARE(run.bus.m_commands[0].out, first);
+        QCOMPARE(run.bus.m_commands[1].out, second);
+    }
+
+    void a_page_with_bytes_of_the_flow_is_sent_whatever_the_image_has()
+    {
+        RUN run(1 * K);
+        run.executor.set_range({256, 512});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+                            {start("page"), make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_DATA, "0xFF 0x01"}}), end("page")}));
+
+        QCOMPARE(run.bus.commands(), words("02@100=FF 01, 02@200=FF 01"));
+    }
+
+    void a_page_that_is_also_erased_is_not_left_out()
+    {
+        RUN run(512);
+
+        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+                            {start("page"), erase("0x81", "256"), make(GFPDB_ACT_WRITE_DATA), end("page")}));
+
+        QCOMPARE(run.bus.commands(), words("81@0, 81@100"));
+    }
+
+    void two_page_sizes_in_a_loop_are_refused()
+    {
+        RUN run(1 * K);
+        run.image.add(0, {0x00});
+        QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_PROGRAM,
+                                             {start("page"), make(GFPDB_ACT_WRITE_DATA),
+                                              make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_PAGE_SIZE, "512"}}), end("page")}),
+                                 std::runtime_error);
+        QVERIFY(run.bus.m_commands.empty());
+    }
+
+    void a_write_of_the_image_outside_of_a_loop_follows_the_same_rules()
+    {
+        RUN run(1 * K);
+        run.image.add(256, {0x12, 0x34});
+        const auto write = [](const char* address, const char* data) {
+            return make(GFPDB_ACT_WRITE_DATA,
+                        {{GFPDB_WD_ADDRESS, address}, {GFPDB_WD_DATA, data}, {GFPDB_WD_PAGE_SIZE, "4"}});
+        };
+        run.executor.set_range({257, 100});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+                            {write("0x00000000", "image"), write("0x00000000", "0xAB"), write("0x00000100", "image")}));
+
+        QCOMPARE(run.bus.commands(), words("02@0=AB, 02@100=FF 34 FF FF"));
+    }
+
+    void only_what_is_asked_for_is_read_data()
+    {
+        rows<qint64, qint64, QByteArray, QByteArray>(
+            {{"all", qint64(0), qint64(8192), "0B@0?8192", "0B@0?4096, 0B@0?4096"},
+             {"one byte", qint64(5000), qint64(1), "0B@1388?1", "0B@388?1"},
+             {"over the border", qint64(4000), qint64(200), "0B@FA0?200", "0B@FA0?96, 0B@0?104"},
+             {"nothing", qint64(0), qint64(0), QByteArray(), QByteArray()}});
+    }
+
+    void only_what_is_asked_for_is_read()
+    {
+        const auto [first, length, whole, by_die] = row<qint64, qint64, QByteArray, QByteArray>();
+        for (const FLOW_PURPOSE purpose : {FLOW_PURPOSE::VERIFY, FLOW_PURPOSE::BLANK_CHECK, FLOW_PURPOSE::EXAMINE}) {
+            RUN run(8192, 2);
+            run.bus.answer(0x0B, {0xFF});
+            run.executor.set_range({first, length});
+            run.image.add(first + length, {0x00}); // what follows is not compared
+
+            QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)}, purpose));
+            QCOMPARE(run.bus.commands(), words(whole));
+
+            run.bus.m_commands.clear();
+            QVERIFY(run.execute(GFPDB_OPERATION_VERIFY,
+                                {start("die"),
+                                 make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESS, "die"}, {GFPDB_RD_DATA_LENGTH, "die"}}),
+                                 end("die")},
+                                purpose));
+            QCOMPARE(run.bus.commands(), words(by_die));
+        }
+    }
+
+    void a_read_that_is_not_of_the_image_is_executed_as_it_stands()
+    {
+        RUN run(8192);
+        run.executor.set_range({0, 1});
+        const auto read = [](const char* expected) {
+            return make(
+                GFPDB_ACT_READ_DATA,
+                {{GFPDB_RD_ADDRESS, "0x00000100"}, {GFPDB_RD_DATA_LENGTH, "16"}, {GFPDB_RD_EXPECTED_DATA, expected}});
+        };
+
+        QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {read("image"), read("none"), read("0x00")}));
+
+        QCOMPARE(run.bus.commands(), words("0B@100?16, 0B@100?16"));
+    }
+
+    void the_image_ends_with_the_device_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QByteArray>("address");
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<bool>("allowed");
+        const auto add = [](int type, const char* address, const char* data, bool allowed) {
+            QTest::addRow("%d %s %s", type, address, data)
+                << type << QByteArray(address) << QByteArray(data) << allowed;
+        };
+        add(GFPDB_ACT_READ_DATA, "0x000001F0", "image", true);
+        add(GFPDB_ACT_READ_DATA, "0x000001F1", "image", false);
+        add(GFPDB_ACT_READ_DATA, "0x00800000", "none", true);
+        add(GFPDB_ACT_READ_DATA, "die", "image", true);
+        add(GFPDB_ACT_WRITE_DATA, "0x000001F0", "image", true);
+        add(GFPDB_ACT_WRITE_DATA, "0x000001F1", "image", false);
+        add(GFPDB_ACT_WRITE_DATA, "0x00800000", "0x01", true);
+    }
+
+    // What is not of the image may be in an address space of its own, such as that of registers.
+    void the_image_ends_with_the_device()
+    {
+        QFETCH(int, type);
+        QFETCH(QByteArray, address);
+        QFETCH(QByteArray, data);
+        QFETCH(bool, allowed);
+        RUN run(512, 2);
+        run.image.add(0, FLOW_BYTES(512, 0x00));
+        const auto execute = [&] {
+            GFPDB_ACTION* action = type == GFPDB_ACT_READ_DATA
+                                       ? make(type, {{GFPDB_RD_ADDRESS, address.constData()},
+                                                     {GFPDB_RD_DATA_LENGTH, "16"},
+                                                     {GFPDB_RD_EXPECTED_DATA, data.constData()}})
+                                       : make(type, {{GFPDB_WD_ADDRESS, address.constData()},
+                                                     {GFPDB_WD_PAGE_SIZE, "16"},
+                                                     {GFPDB_WD_DATA, data.constData()}});
+            run.execute(GFPDB_OPERATION_PROGRAM, {start("die"), action, end("die")});
+        };
+
+        if (allowed)
+            execute();
+        else
+            QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
+
+        QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 2 : 0));
+    }
+
+    void delays_are_waited_for_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("property");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<qint64>("waited");
+        const auto add = [](const char* name, int type, int property, int answer, qint64 waited) {
+            QTest::newRow(name) << type << property << answer << waited;
+        };
+        add("after a register write", GFPDB_ACT_WRITE_REGISTER, GFPDB_WR_DELAY, 0, 70);
+        add("not after a register read that passes", GFPDB_ACT_READ_REGISTER, GFPDB_RR_DELAY, 0, 0);
+        add("between its attempts", GFPDB_ACT_READ_REGISTER, GFPDB_RR_DELAY, 1, 140);
+        add("after a page", GFPDB_ACT_WRITE_DATA, GFPDB_WD_DELAY, 0, 70);
+        add("after a read", GFPDB_ACT_READ_DATA, GFPDB_RD_DELAY, 0, 70);
+        add("after an erase", GFPDB_ACT_ERASE, GFPDB_ER_DELAY, 0, 70);
+    }
+
+    // Three attempts with two delays between them; one delay after each other command.
+    void delays_are_waited_for()
+    {
+        QFETCH(int, type);
+        QFETCH(int, property);
+        QFETCH(int, answer);
+        QFETCH(qint64, waited);
+        RUN run(256);
+        run.image.add(0, FLOW_BYTES(256, 0x00));
+        run.bus.answer(0x05, {static_cast<std::uint8_t>(answer)});
+        GFPDB_ACTION* action = make(type, {{property, "70"},
+                                           {GFPDB_RR_ATTEMPT_COUNT, "3"},
+                                           {GFPDB_WD_ADDRESS, "0x00000000"},
+                                           {GFPDB_ER_ADDRESS, "0x00000000"}});
+
+        QCOMPARE(run.execute(GFPDB_OPERATION_PROGRAM, {action}), answer == 0);
+
+        QCOMPARE(qint64(run.bus.m_waited_us), waited);
+    }
+
+    void an_address_fits_its_bytes_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QByteArray>("mode");
+        QTest::addColumn<int>("device_mib");
+        QTest::addColumn<bool>("allowed");
+        for (const int kind : {GFPDB_OPERATION_PROGRAM, GFPDB_OPERATION_ERASE, GFPDB_OPERATION_VERIFY}) {
+            QTest::addRow("%d in 16 MiB", kind) << kind << QByteArray("3") << 16 << true;
+            QTest::addRow("%d behind 16 MiB", kind) << kind << QByteArray("3") << 32 << false;
+            QTest::addRow("%d with four bytes", kind) << kind << QByteArray("4") << 32 << true;
+        }
+    }
+
+    // A chip would work at another place, from its start on.
+    void an_address_fits_its_bytes()
+    {
+        QFETCH(int, kind);
+        QFETCH(QByteArray, mode);
+        QFETCH(int, device_mib);
+        QFETCH(bool, allowed);
+        const std::int64_t bytes = device_mib * K * K;
+        RUN run(bytes);
+        run.bus.answer(0x0B, {0xFF});
+        run.image.add(bytes - 1, {0x00});
+        run.executor.set_range({bytes - K, K - 1});
+        const auto execute = [&] {
+            if (kind == GFPDB_OPERATION_VERIFY)
+                return run.execute(kind, {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESSING_MODE, mode.constData()}})});
+            run.executor.set_range({bytes - K, K});
+            if (kind == GFPDB_OPERATION_PROGRAM)
+                return run.execute(kind, {start("page"),
+                                          make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_ADDRESSING_MODE, mode.constData()}}),
+                                          end("page")});
+            return run.execute(kind,
+                               {start("sector"), make(GFPDB_ACT_ERASE, {{GFPDB_ER_ADDRESSING_MODE, mode.constData()}}),
+                                end("sector")});
+        };
+
+        if (allowed)
+            QVERIFY(execute());
+        else
+            QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
+
+        QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 1 : 0));
+    }
+
+    void an_id_needs_a_record_with_an_id()
+    {
+        RECORDING_BUS bus;
+        const FLOW_IMAGE image;
+        FLOW_EXECUTOR executor(bus, FLOW_DEVICE{256, 1, {}}, image);
+        const OPERATION operation = operation_of(GFPDB_OPERATION_INITIALIZATION,
+                                                 {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_EXPECTED_DATA, "id"}})});
+
+        QVERIFY_EXCEPTION_THROWN(executor.run(*operation), std::runtime_error);
+        QVERIFY(bus.m_commands.empty());
+    }
+
+    void dies_of_different_sizes_are_refused()
+    {
+        RUN run(256 * K, 3);
+        QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_PROGRAM, {write_enable()}), std::runtime_error);
+        QVERIFY(run.bus.m_commands.empty());
+    }
+
+    void an_examine_hands_over_what_was_asked_for()
+    {
+        RUN run(8192);
+        run.bus.answer(0x0B, {0xA1, 0xA2, 0xA3});
+        run.executor.set_range({100, 3});
+
+        QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)}, FLOW_PURPOSE::EXAMINE));
+
+        QCOMPARE(run.executor.examined().bytes(99, 5), (FLOW_BYTES{0xFF, 0xA1, 0xA2, 0xA3, 0xFF}));
+    }
+
+    void the_mask_applies_to_what_is_read_data()
+    {
+        rows<int, QByteArray, QByteArray, bool>({{"all bits", 0x3F, "0xFF", "0x3F", true},
+                                                 {"a bit of no concern", 0x3F, "0x0F", "0x0F", true},
+                                                 {"a wrong bit", 0x3E, "0x0F", "0x0F", false},
+                                                 {"a bit that the mask takes away", 0x3F, "0x0F", "0x3F", false},
+                                                 {"the image", 0x3F, "0xFF", "image", true},
+                                                 {"the image, a bit of no concern", 0xBF, "0x7F", "image", true},
+                                                 {"the image, a wrong bit", 0x3E, "0x7F", "image", false},
+                                                 {"the image, masked away", 0x3F, "0x0F", "image", false}});
+    }
+
+    void the_mask_applies_to_what_is_read()
+    {
+        const auto [read, mask, expected, passes] = row<int, QByteArray, QByteArray, bool>();
+        RUN run(256);
+        run.image.add(0, FLOW_BYTES(256, 0x3F));
+        run.bus.answer(0x0B, {static_cast<std::uint8_t>(read)});
+
+        QCOMPARE(run.execute(GFPDB_OPERATION_VERIFY,
+                             {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_EXPECTED_DATA, expected.constData()},
+                                                         {GFPDB_RD_EXPECTED_DATA_MASK, mask.constData()}})}),
+                 passes);
+    }
+
+    void the_mask_of_a_register_applies_to_what_is_read_data()
+    {
+        QTest::addColumn<QByteArray>("mask");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::addColumn<bool>("passes");
+        const auto add = [](const char* name, const char* mask, const char* expected, bool passes) {
+            QTest::newRow(name) << QByteArray(mask) << QByteArray(expected) << passes;
+        };
+        add("all bits", "0xFF 0xFF 0xFF", "0xC2 0x20 0x18", true);
+        add("a wrong bit", "0xFF 0xFF 0xFF", "0xC2 0x20 0x19", false);
+        add("a byte of no concern", "0xFF 0xFF 0x00", "0xC2 0x20 0x00", true);
+        add("a byte that the mask takes away", "0xFF 0xFF 0x00", "0xC2 0x20 0x18", false);
+        add("the ID", "0xFF 0xFF 0xFF", "id", true);
+        add("the ID, masked away", "0xFF 0xFF 0x00", "id", false);
+        add("nothing", "0xFF 0xFF 0xFF", "none", true);
+    }
+
+    void the_mask_of_a_register_applies_to_what_is_read()
+    {
+        QFETCH(QByteArray, mask);
+        QFETCH(QByteArray, expected);
+        QFETCH(bool, passes);
+        RUN run(256);
+        run.bus.answer(0x9F, {0xC2, 0x20, 0x18});
+
+        QCOMPARE(run.execute(GFPDB_OPERATION_INITIALIZATION,
+                             {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_COMMAND, "0x9F"},
+                                                             {GFPDB_RR_DATA_LENGTH, "3"},
+                                                             {GFPDB_RR_EXPECTED_DATA, expected.constData()},
+                                                             {GFPDB_RR_EXPECTED_DATA_MASK, mask.constData()}})}),
+                 passes);
+    }
 };
 
-void TEST_FLOW_RULES::sectors_that_touch_the_range_are_erased_data()
-{
-    QTest::addColumn<qint64>("first");
-    QTest::addColumn<qint64>("length");
-    QTest::addColumn<QByteArray>("commands");
-    QTest::newRow("all") << qint64(0) << qint64(256 * K) << QByteArray("D8@0, D8@10000, D8@20000, D8@30000");
-    QTest::newRow("one sector") << qint64(64 * K) << qint64(64 * K) << QByteArray("D8@10000");
-    QTest::newRow("one byte") << qint64(64 * K - 1) << qint64(1) << QByteArray("D8@0");
-    QTest::newRow("two bytes on a border") << qint64(64 * K - 1) << qint64(2) << QByteArray("D8@0, D8@10000");
-    QTest::newRow("the last byte") << qint64(256 * K - 1) << qint64(1) << QByteArray("D8@30000");
-    QTest::newRow("nothing") << qint64(0) << qint64(0) << QByteArray();
-}
-
-void TEST_FLOW_RULES::sectors_that_touch_the_range_are_erased()
-{
-    QFETCH(qint64, first);
-    QFETCH(qint64, length);
-    QFETCH(QByteArray, commands);
-    RUN run(256 * K);
-    run.executor.set_range({first, length});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0xD8", "65536"), end("sector")}));
-
-    QCOMPARE(run.bus.commands(), words(commands));
-}
-
-void TEST_FLOW_RULES::of_several_erases_the_largest_that_fits_is_sent_data()
-{
-    QTest::addColumn<qint64>("first");
-    QTest::addColumn<qint64>("length");
-    QTest::addColumn<QByteArray>("commands");
-    const auto add = [](const char* name, qint64 first, qint64 length, const char* commands) {
-        QTest::newRow(name) << first << length << QByteArray(commands);
-    };
-    add("the device", 0, 256 * K, "C7");
-    add("all but the last sector", 0, 252 * K,
-        "D8@0, D8@10000, D8@20000, 52@30000, 20@38000, 20@39000, 20@3A000, 20@3B000, 20@3C000, 20@3D000, 20@3E000");
-    add("one large sector", 64 * K, 64 * K, "D8@10000");
-    add("large size between borders", 60 * K, 40 * K, "20@F000, 52@10000, 20@18000");
-    add("half a sector at its end", 32 * K, 32 * K, "52@8000");
-    add("one byte", 70 * K, 1, "20@11000");
-    add("rounded out to a large sector", 1, 64 * K - 2, "D8@0");
-    add("rounded out to the device", 1, 256 * K - 2, "C7");
-    add("nothing", 0, 0, "");
-}
-
-// Sizes of 64, 32 and 4 KiB and the whole chip; their order in the flow does not count.
-void TEST_FLOW_RULES::of_several_erases_the_largest_that_fits_is_sent()
-{
-    QFETCH(qint64, first);
-    QFETCH(qint64, length);
-    QFETCH(QByteArray, commands);
-    RUN one(256 * K);
-    RUN other(256 * K);
-    one.executor.set_range({first, length});
-    other.executor.set_range({first, length});
-
-    QVERIFY(one.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase_all(), erase("0xD8", "65536"),
-                                                erase("0x52", "32768"), erase("0x20", "4096"), end("sector")}));
-    QVERIFY(other.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0x20", "4096"), erase("0xD8", "65536"),
-                                                  erase_all(), erase("0x52", "32768"), end("sector")}));
-
-    QCOMPARE(one.bus.commands(), words(commands));
-    QCOMPARE(other.bus.commands(), words(commands));
-}
-
-void TEST_FLOW_RULES::what_stands_beside_several_erases_is_sent_in_each_step()
-{
-    RUN run(256 * K);
-    run.executor.set_range({64 * K, 68 * K});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), write_enable(), erase("0xD8", "65536"), poll(),
-                                                make(GFPDB_ACT_WRITE_REGISTER, {{GFPDB_WR_COMMAND, "0x04"}}),
-                                                erase("0x20", "4096"), end("sector")}));
-
-    QCOMPARE(run.bus.commands(), words("06, D8@10000, 05?1, 04, 06, 05?1, 04, 20@20000"));
-}
-
-void TEST_FLOW_RULES::of_two_erases_of_one_size_the_first_is_sent()
-{
-    RUN run(64 * K);
-
-    QVERIFY(run.execute(GFPDB_OPERATION_ERASE,
-                        {start("sector"), erase("0x52", "32768"), erase("0xD7", "32768"), end("sector")}));
-
-    QCOMPARE(run.bus.commands(), words("52@0, 52@8000"));
-}
-
-void TEST_FLOW_RULES::sizes_that_do_not_divide_each_other_are_refused()
-{
-    RUN run(240 * K);
-    QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0x52", "24576"),
-                                                                 erase("0xD7", "16384"), end("sector")}),
-                             std::runtime_error);
-    QVERIFY_EXCEPTION_THROWN(
-        run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0xD8", "65536"), end("sector")}),
-        std::runtime_error);
-    QVERIFY(run.bus.m_commands.empty());
-}
-
-void TEST_FLOW_RULES::the_sectors_of_a_die_count_from_its_start()
-{
-    RUN run(256 * K, 2);
-    run.executor.set_range({120 * K, 72 * K});
-
-    QVERIFY(
-        run.execute(GFPDB_OPERATION_ERASE, {start("die"), select_die(), start("sector"), erase("0xD8", "65536", "die"),
-                                            erase("0x20", "4096", "die"), end("sector"), end("die")}));
-
-    QCOMPARE(run.bus.commands(), words("C2=00, 20@1E000, 20@1F000, C2=01, D8@0"));
-}
-
-void TEST_FLOW_RULES::an_erase_outside_of_a_loop_needs_something_asked_for_data()
-{
-    QTest::addColumn<qint64>("only");
-    QTest::addColumn<QByteArray>("commands");
-    QTest::newRow("in the first die") << qint64(0) << QByteArray("C2=00, C7, 05?1, C2=01, 05?1");
-    QTest::newRow("in the last sector") << qint64(192 * K) << QByteArray("C2=00, 05?1, C2=01, C7, 05?1, D8@30000");
-    QTest::newRow("before it") << qint64(192 * K - 1) << QByteArray("C2=00, 05?1, C2=01, C7, 05?1");
-}
-
-void TEST_FLOW_RULES::an_erase_outside_of_a_loop_needs_something_asked_for()
-{
-    QFETCH(qint64, only);
-    QFETCH(QByteArray, commands);
-    RUN run(256 * K, 2);
-    run.executor.set_range({only, 1});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("die"), select_die(), erase_all(), poll(), end("die"),
-                                                erase("0xD8", "65536", "0x00030000")}));
-
-    QCOMPARE(run.bus.commands(), words(commands));
-}
-
-void TEST_FLOW_RULES::a_page_without_a_byte_to_program_is_left_out()
-{
-    RUN run(4 * K);
-    run.image.add(0, FLOW_BYTES(256, 0xFF)); // nothing but FF
-    run.image.add(511, {0x00});              // the last byte of a page
-    run.image.add(1024, {0xFF, 0xFE});       // one bit
-    run.image.add(2048, FLOW_BYTES(300, 0x5A));
-    run.image.add(3072, FLOW_BYTES(64, 0x00)); // not asked for
-    run.executor.set_range({0, 3 * K});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
-                        {start("page"), write_enable(), make(GFPDB_ACT_WRITE_DATA), poll(), end("page")}));
-
-    QCOMPARE(run.bus.commands(), words("06, 02@100=256, 05?1, 06, 02@400=256, 05?1, 06, 02@800=256, 05?1, 06, "
-                                       "02@900=256, 05?1"));
-}
-
-void TEST_FLOW_RULES::a_page_that_is_asked_for_in_part_is_filled_up()
-{
-    RUN run(1 * K);
-    run.image.add(0, FLOW_BYTES(1024, 0x11));
-    run.executor.set_range({250, 10});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM, {start("page"), make(GFPDB_ACT_WRITE_DATA), end("page")}));
-
-    QCOMPARE(run.bus.commands(), words("02@0=256, 02@100=256"));
-    FLOW_BYTES first(256, 0xFF);
-    std::fill(first.begin() + 250, first.end(), 0x11);
-    FLOW_BYTES second(256, 0xFF);
-    std::fill(second.begin(), second.begin() + 4, 0x11);
-    QCOMPARE(run.bus.m_commands[0].out, first);
-    QCOMPARE(run.bus.m_commands[1].out, second);
-}
-
-void TEST_FLOW_RULES::a_page_with_bytes_of_the_flow_is_sent_whatever_the_image_has()
-{
-    RUN run(1 * K);
-    run.executor.set_range({256, 512});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
-                        {start("page"), make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_DATA, "0xFF 0x01"}}), end("page")}));
-
-    QCOMPARE(run.bus.commands(), words("02@100=FF 01, 02@200=FF 01"));
-}
-
-void TEST_FLOW_RULES::a_page_that_is_also_erased_is_not_left_out()
-{
-    RUN run(512);
-
-    QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
-                        {start("page"), erase("0x81", "256"), make(GFPDB_ACT_WRITE_DATA), end("page")}));
-
-    QCOMPARE(run.bus.commands(), words("81@0, 81@100"));
-}
-
-void TEST_FLOW_RULES::two_page_sizes_in_a_loop_are_refused()
-{
-    RUN run(1 * K);
-    run.image.add(0, {0x00});
-    QVERIFY_EXCEPTION_THROWN(
-        run.execute(GFPDB_OPERATION_PROGRAM, {start("page"), make(GFPDB_ACT_WRITE_DATA),
-                                              make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_PAGE_SIZE, "512"}}), end("page")}),
-        std::runtime_error);
-    QVERIFY(run.bus.m_commands.empty());
-}
-
-void TEST_FLOW_RULES::a_write_of_the_image_outside_of_a_loop_follows_the_same_rules()
-{
-    RUN run(1 * K);
-    run.image.add(256, {0x12, 0x34});
-    const auto write = [](const char* address, const char* data) {
-        return make(GFPDB_ACT_WRITE_DATA,
-                    {{GFPDB_WD_ADDRESS, address}, {GFPDB_WD_DATA, data}, {GFPDB_WD_PAGE_SIZE, "4"}});
-    };
-    run.executor.set_range({257, 100});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
-                        {write("0x00000000", "image"), write("0x00000000", "0xAB"), write("0x00000100", "image")}));
-
-    QCOMPARE(run.bus.commands(), words("02@0=AB, 02@100=FF 34 FF FF"));
-}
-
-void TEST_FLOW_RULES::only_what_is_asked_for_is_read_data()
-{
-    QTest::addColumn<qint64>("first");
-    QTest::addColumn<qint64>("length");
-    QTest::addColumn<QByteArray>("whole");
-    QTest::addColumn<QByteArray>("by_die");
-    QTest::newRow("all") << qint64(0) << qint64(8192) << QByteArray("0B@0?8192") << QByteArray("0B@0?4096, 0B@0?4096");
-    QTest::newRow("one byte") << qint64(5000) << qint64(1) << QByteArray("0B@1388?1") << QByteArray("0B@388?1");
-    QTest::newRow("over the border") << qint64(4000) << qint64(200) << QByteArray("0B@FA0?200")
-                                     << QByteArray("0B@FA0?96, 0B@0?104");
-    QTest::newRow("nothing") << qint64(0) << qint64(0) << QByteArray() << QByteArray();
-}
-
-void TEST_FLOW_RULES::only_what_is_asked_for_is_read()
-{
-    QFETCH(qint64, first);
-    QFETCH(qint64, length);
-    QFETCH(QByteArray, whole);
-    QFETCH(QByteArray, by_die);
-    for (const FLOW_PURPOSE purpose : {FLOW_PURPOSE::VERIFY, FLOW_PURPOSE::BLANK_CHECK, FLOW_PURPOSE::EXAMINE}) {
-        RUN run(8192, 2);
-        run.bus.answer(0x0B, {0xFF});
-        run.executor.set_range({first, length});
-        run.image.add(first + length, {0x00}); // what follows is not compared
-
-        QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)}, purpose));
-        QCOMPARE(run.bus.commands(), words(whole));
-
-        run.bus.m_commands.clear();
-        QVERIFY(run.execute(GFPDB_OPERATION_VERIFY,
-                            {start("die"),
-                             make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESS, "die"}, {GFPDB_RD_DATA_LENGTH, "die"}}),
-                             end("die")},
-                            purpose));
-        QCOMPARE(run.bus.commands(), words(by_die));
-    }
-}
-
-void TEST_FLOW_RULES::a_read_that_is_not_of_the_image_is_executed_as_it_stands()
-{
-    RUN run(8192);
-    run.executor.set_range({0, 1});
-    const auto read = [](const char* expected) {
-        return make(
-            GFPDB_ACT_READ_DATA,
-            {{GFPDB_RD_ADDRESS, "0x00000100"}, {GFPDB_RD_DATA_LENGTH, "16"}, {GFPDB_RD_EXPECTED_DATA, expected}});
-    };
-
-    QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {read("image"), read("none"), read("0x00")}));
-
-    QCOMPARE(run.bus.commands(), words("0B@100?16, 0B@100?16"));
-}
-
-void TEST_FLOW_RULES::the_image_ends_with_the_device_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QByteArray>("address");
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<bool>("allowed");
-    const auto add = [](int type, const char* address, const char* data, bool allowed) {
-        QTest::addRow("%d %s %s", type, address, data) << type << QByteArray(address) << QByteArray(data) << allowed;
-    };
-    add(GFPDB_ACT_READ_DATA, "0x000001F0", "image", true);
-    add(GFPDB_ACT_READ_DATA, "0x000001F1", "image", false);
-    add(GFPDB_ACT_READ_DATA, "0x00800000", "none", true);
-    add(GFPDB_ACT_READ_DATA, "die", "image", true);
-    add(GFPDB_ACT_WRITE_DATA, "0x000001F0", "image", true);
-    add(GFPDB_ACT_WRITE_DATA, "0x000001F1", "image", false);
-    add(GFPDB_ACT_WRITE_DATA, "0x00800000", "0x01", true);
-}
-
-// What is not of the image may be in an address space of its own, such as that of registers.
-void TEST_FLOW_RULES::the_image_ends_with_the_device()
-{
-    QFETCH(int, type);
-    QFETCH(QByteArray, address);
-    QFETCH(QByteArray, data);
-    QFETCH(bool, allowed);
-    RUN run(512, 2);
-    run.image.add(0, FLOW_BYTES(512, 0x00));
-    const auto execute = [&] {
-        GFPDB_ACTION* action = type == GFPDB_ACT_READ_DATA ? make(type, {{GFPDB_RD_ADDRESS, address.constData()},
-                                                                         {GFPDB_RD_DATA_LENGTH, "16"},
-                                                                         {GFPDB_RD_EXPECTED_DATA, data.constData()}})
-                                                           : make(type, {{GFPDB_WD_ADDRESS, address.constData()},
-                                                                         {GFPDB_WD_PAGE_SIZE, "16"},
-                                                                         {GFPDB_WD_DATA, data.constData()}});
-        run.execute(GFPDB_OPERATION_PROGRAM, {start("die"), action, end("die")});
-    };
-
-    if (allowed)
-        execute();
-    else
-        QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
-
-    QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 2 : 0));
-}
-
-void TEST_FLOW_RULES::delays_are_waited_for_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("property");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<qint64>("waited");
-    const auto add = [](const char* name, int type, int property, int answer, qint64 waited) {
-        QTest::newRow(name) << type << property << answer << waited;
-    };
-    add("after a register write", GFPDB_ACT_WRITE_REGISTER, GFPDB_WR_DELAY, 0, 70);
-    add("not after a register read that passes", GFPDB_ACT_READ_REGISTER, GFPDB_RR_DELAY, 0, 0);
-    add("between its attempts", GFPDB_ACT_READ_REGISTER, GFPDB_RR_DELAY, 1, 140);
-    add("after a page", GFPDB_ACT_WRITE_DATA, GFPDB_WD_DELAY, 0, 70);
-    add("after a read", GFPDB_ACT_READ_DATA, GFPDB_RD_DELAY, 0, 70);
-    add("after an erase", GFPDB_ACT_ERASE, GFPDB_ER_DELAY, 0, 70);
-}
-
-// Three attempts with two delays between them; one delay after each other command.
-void TEST_FLOW_RULES::delays_are_waited_for()
-{
-    QFETCH(int, type);
-    QFETCH(int, property);
-    QFETCH(int, answer);
-    QFETCH(qint64, waited);
-    RUN run(256);
-    run.image.add(0, FLOW_BYTES(256, 0x00));
-    run.bus.answer(0x05, {static_cast<std::uint8_t>(answer)});
-    GFPDB_ACTION* action = make(type, {{property, "70"},
-                                       {GFPDB_RR_ATTEMPT_COUNT, "3"},
-                                       {GFPDB_WD_ADDRESS, "0x00000000"},
-                                       {GFPDB_ER_ADDRESS, "0x00000000"}});
-
-    QCOMPARE(run.execute(GFPDB_OPERATION_PROGRAM, {action}), answer == 0);
-
-    QCOMPARE(qint64(run.bus.m_waited_us), waited);
-}
-
-void TEST_FLOW_RULES::an_address_fits_its_bytes_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QByteArray>("mode");
-    QTest::addColumn<int>("device_mib");
-    QTest::addColumn<bool>("allowed");
-    for (const int kind : {GFPDB_OPERATION_PROGRAM, GFPDB_OPERATION_ERASE, GFPDB_OPERATION_VERIFY}) {
-        QTest::addRow("%d in 16 MiB", kind) << kind << QByteArray("3") << 16 << true;
-        QTest::addRow("%d behind 16 MiB", kind) << kind << QByteArray("3") << 32 << false;
-        QTest::addRow("%d with four bytes", kind) << kind << QByteArray("4") << 32 << true;
-    }
-}
-
-// A chip would work at another place, from its start on.
-void TEST_FLOW_RULES::an_address_fits_its_bytes()
-{
-    QFETCH(int, kind);
-    QFETCH(QByteArray, mode);
-    QFETCH(int, device_mib);
-    QFETCH(bool, allowed);
-    const std::int64_t bytes = device_mib * K * K;
-    RUN run(bytes);
-    run.bus.answer(0x0B, {0xFF});
-    run.image.add(bytes - 1, {0x00});
-    run.executor.set_range({bytes - K, K - 1});
-    const auto execute = [&] {
-        if (kind == GFPDB_OPERATION_VERIFY)
-            return run.execute(kind, {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESSING_MODE, mode.constData()}})});
-        run.executor.set_range({bytes - K, K});
-        if (kind == GFPDB_OPERATION_PROGRAM)
-            return run.execute(kind, {start("page"),
-                                      make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_ADDRESSING_MODE, mode.constData()}}),
-                                      end("page")});
-        return run.execute(
-            kind,
-            {start("sector"), make(GFPDB_ACT_ERASE, {{GFPDB_ER_ADDRESSING_MODE, mode.constData()}}), end("sector")});
-    };
-
-    if (allowed)
-        QVERIFY(execute());
-    else
-        QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
-
-    QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 1 : 0));
-}
-
-void TEST_FLOW_RULES::dies_of_different_sizes_are_refused()
-{
-    RUN run(256 * K, 3);
-    QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_PROGRAM, {write_enable()}), std::runtime_error);
-    QVERIFY(run.bus.m_commands.empty());
-}
-
-void TEST_FLOW_RULES::an_id_needs_a_record_with_an_id()
-{
-    RECORDING_BUS bus;
-    const FLOW_IMAGE image;
-    FLOW_EXECUTOR executor(bus, FLOW_DEVICE{256, 1, {}}, image);
-    const OPERATION operation =
-        operation_of(GFPDB_OPERATION_INITIALIZATION, {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_EXPECTED_DATA, "id"}})});
-
-    QVERIFY_EXCEPTION_THROWN(executor.run(*operation), std::runtime_error);
-    QVERIFY(bus.m_commands.empty());
-}
-
-void TEST_FLOW_RULES::an_examine_hands_over_what_was_asked_for()
-{
-    RUN run(8192);
-    run.bus.answer(0x0B, {0xA1, 0xA2, 0xA3});
-    run.executor.set_range({100, 3});
-
-    QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)}, FLOW_PURPOSE::EXAMINE));
-
-    QCOMPARE(run.executor.examined().bytes(99, 5), (FLOW_BYTES{0xFF, 0xA1, 0xA2, 0xA3, 0xFF}));
-}
-
-void TEST_FLOW_RULES::the_mask_applies_to_what_is_read_data()
-{
-    QTest::addColumn<int>("read");
-    QTest::addColumn<QByteArray>("mask");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::addColumn<bool>("passes");
-    QTest::newRow("all bits") << 0x3F << QByteArray("0xFF") << QByteArray("0x3F") << true;
-    QTest::newRow("a bit of no concern") << 0x3F << QByteArray("0x0F") << QByteArray("0x0F") << true;
-    QTest::newRow("a wrong bit") << 0x3E << QByteArray("0x0F") << QByteArray("0x0F") << false;
-    QTest::newRow("a bit that the mask takes away") << 0x3F << QByteArray("0x0F") << QByteArray("0x3F") << false;
-    QTest::newRow("the image") << 0x3F << QByteArray("0xFF") << QByteArray("image") << true;
-    QTest::newRow("the image, a bit of no concern") << 0xBF << QByteArray("0x7F") << QByteArray("image") << true;
-    QTest::newRow("the image, a wrong bit") << 0x3E << QByteArray("0x7F") << QByteArray("image") << false;
-    QTest::newRow("the image, masked away") << 0x3F << QByteArray("0x0F") << QByteArray("image") << false;
-}
-
-void TEST_FLOW_RULES::the_mask_applies_to_what_is_read()
-{
-    QFETCH(int, read);
-    QFETCH(QByteArray, mask);
-    QFETCH(QByteArray, expected);
-    QFETCH(bool, passes);
-    RUN run(256);
-    run.image.add(0, FLOW_BYTES(256, 0x3F));
-    run.bus.answer(0x0B, {static_cast<std::uint8_t>(read)});
-
-    QCOMPARE(run.execute(GFPDB_OPERATION_VERIFY,
-                         {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_EXPECTED_DATA, expected.constData()},
-                                                     {GFPDB_RD_EXPECTED_DATA_MASK, mask.constData()}})}),
-             passes);
-}
-
-void TEST_FLOW_RULES::the_mask_of_a_register_applies_to_what_is_read_data()
-{
-    QTest::addColumn<QByteArray>("mask");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::addColumn<bool>("passes");
-    const auto add = [](const char* name, const char* mask, const char* expected, bool passes) {
-        QTest::newRow(name) << QByteArray(mask) << QByteArray(expected) << passes;
-    };
-    add("all bits", "0xFF 0xFF 0xFF", "0xC2 0x20 0x18", true);
-    add("a wrong bit", "0xFF 0xFF 0xFF", "0xC2 0x20 0x19", false);
-    add("a byte of no concern", "0xFF 0xFF 0x00", "0xC2 0x20 0x00", true);
-    add("a byte that the mask takes away", "0xFF 0xFF 0x00", "0xC2 0x20 0x18", false);
-    add("the ID", "0xFF 0xFF 0xFF", "id", true);
-    add("the ID, masked away", "0xFF 0xFF 0x00", "id", false);
-    add("nothing", "0xFF 0xFF 0xFF", "none", true);
-}
-
-void TEST_FLOW_RULES::the_mask_of_a_register_applies_to_what_is_read()
-{
-    QFETCH(QByteArray, mask);
-    QFETCH(QByteArray, expected);
-    QFETCH(bool, passes);
-    RUN run(256);
-    run.bus.answer(0x9F, {0xC2, 0x20, 0x18});
-
-    QCOMPARE(run.execute(GFPDB_OPERATION_INITIALIZATION,
-                         {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_COMMAND, "0x9F"},
-                                                         {GFPDB_RR_DATA_LENGTH, "3"},
-                                                         {GFPDB_RR_EXPECTED_DATA, expected.constData()},
-                                                         {GFPDB_RR_EXPECTED_DATA_MASK, mask.constData()}})}),
-             passes);
-}
-
 QTEST_APPLESS_MAIN(TEST_FLOW_RULES)
+
 #include "test_flow_rules.moc"

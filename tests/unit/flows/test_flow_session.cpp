@@ -2,56 +2,16 @@
 
 // A session with a flow: the order of the operations, what follows a failure, and sessions with emulated chips of the
 // built-in parts.
-#include "flow_making.h"
+#include "chip_of_part.h"
 #include "flow_session.h"
 #include "recording_bus.h"
-#include "spi_nor_chip.h"
-
-#include "catalogue/gfpdb_catalogue.h"
-#include "catalogue/gfpdb_flow_builder.h"
-#include "catalogue/gfpdb_flow_traits.h"
+#include "test_rows.h"
 
 #include <QTest>
 
 #include <stdexcept>
 
 namespace {
-
-using FLOW = std::vector<OPERATION>;
-
-std::vector<GFPDB_OPERATION*> pointers(const FLOW& flow)
-{
-    std::vector<GFPDB_OPERATION*> operations;
-    for (const OPERATION& operation : flow)
-        operations.push_back(operation.get());
-    return operations;
-}
-
-FLOW flow_of(const GFPDB_PART& part, bool quad)
-{
-    FLOW flow;
-    for (int kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind)
-        flow.emplace_back(gfpdb_build_operation(kind, gfpdb_flow_traits(part, quad), quad));
-    return flow;
-}
-
-const GFPDB_PART& part_called(const std::string& name)
-{
-    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
-        if (part.name == name)
-            return part;
-    }
-    throw std::runtime_error("no part is called " + name);
-}
-
-FLOW_DEVICE device_of(const GFPDB_PART& part)
-{
-    FLOW_DEVICE device;
-    device.bytes = chip_facts(part).bytes;
-    device.dies = part.total_die ? part.total_die : 1;
-    device.id = chip_facts(part).id;
-    return device;
-}
 
 GFPDB_ACTION* write(const char* opcode)
 {
@@ -102,392 +62,344 @@ class TEST_FLOW_SESSION : public QObject
     Q_OBJECT
 
 private slots:
-    void operations_have_an_order_of_their_own_data();
-    void operations_have_an_order_of_their_own();
-    void what_fails_is_followed_by_the_termination_only_data();
-    void what_fails_is_followed_by_the_termination_only();
-    void the_first_failure_counts();
-    void an_unknown_chip_hears_nothing_more_data();
-    void an_unknown_chip_hears_nothing_more();
-    void an_operation_without_actions_is_refused_before_anything_is_sent();
-    void a_flow_that_cannot_be_executed_is_refused_before_anything_is_sent_data();
-    void a_flow_that_cannot_be_executed_is_refused_before_anything_is_sent();
-    void another_chip_hears_nothing_but_its_id_read();
-    void a_chip_is_left_at_rest_after_a_failure();
-    void a_device_that_its_addresses_do_not_reach_is_refused_before_anything_is_sent();
-    void a_range_that_is_not_read_whole_is_refused_before_anything_is_sent_data();
-    void a_range_that_is_not_read_whole_is_refused_before_anything_is_sent();
-    void several_erases_clear_what_is_asked_for_data();
-    void several_erases_clear_what_is_asked_for();
-    void a_part_of_the_device_is_programmed_data();
-    void a_part_of_the_device_is_programmed();
-};
-
-void TEST_FLOW_SESSION::operations_have_an_order_of_their_own_data()
-{
-    QTest::addColumn<int>("order");
-    QTest::addColumn<QByteArray>("executed");
-    QTest::newRow("everything") << 31 << QByteArray("IEBPVXT");
-    QTest::newRow("erase") << 1 << QByteArray("IET");
-    QTest::newRow("blank check") << 2 << QByteArray("IBT");
-    QTest::newRow("program") << 4 << QByteArray("IPT");
-    QTest::newRow("verify") << 8 << QByteArray("IVT");
-    QTest::newRow("examine") << 16 << QByteArray("IXT");
-    QTest::newRow("nothing") << 0 << QByteArray("IT");
-}
-
-void TEST_FLOW_SESSION::operations_have_an_order_of_their_own()
-{
-    QFETCH(int, order);
-    QFETCH(QByteArray, executed);
-    RECORDING_BUS bus;
-    SESSION session(bus);
-    const FLOW flow = marked_flow({});
-
-    const FLOW_OUTCOME outcome =
-        run_flow_session(session.executor, pointers(flow),
-                         {bool(order & 1), bool(order & 2), bool(order & 4), bool(order & 8), bool(order & 16)});
-
-    QVERIFY(outcome.passed);
-    QCOMPARE(outcome.executed, executed.toStdString());
-    QCOMPARE(outcome.failed_at, std::string());
-}
-
-void TEST_FLOW_SESSION::what_fails_is_followed_by_the_termination_only_data()
-{
-    QTest::addColumn<int>("opcode");
-    QTest::addColumn<QByteArray>("executed");
-    QTest::addColumn<QByteArray>("failed_at");
-    QTest::newRow("initialization") << 0xC0 << QByteArray("IT") << QByteArray("I 1: Read Register");
-    QTest::newRow("erase") << 0xC2 << QByteArray("IET") << QByteArray("E 0: Read Register");
-    QTest::newRow("blank check") << 0xC3 << QByteArray("IEBT") << QByteArray("B 0: Read Register");
-    QTest::newRow("program") << 0xC1 << QByteArray("IEBPT") << QByteArray("P 0: Read Register");
-    QTest::newRow("termination") << 0xC4 << QByteArray("IEBPVXT") << QByteArray("T 0: Read Register");
-}
-
-void TEST_FLOW_SESSION::what_fails_is_followed_by_the_termination_only()
-{
-    QFETCH(int, opcode);
-    QFETCH(QByteArray, executed);
-    QFETCH(QByteArray, failed_at);
-    RECORDING_BUS bus;
-    bus.answer(opcode, {0x01});
-    bus.answer(0x9F, {0x5A});
-    SESSION session(bus);
-    const FLOW flow = marked_flow({check_id("0x9F", "id")});
-
-    const FLOW_OUTCOME outcome = run_flow_session(session.executor, pointers(flow), EVERYTHING);
-
-    QVERIFY(!outcome.passed);
-    QCOMPARE(outcome.executed, executed.toStdString());
-    QCOMPARE(outcome.failed_at, failed_at.toStdString());
-    // The termination, too, ends at its first failure.
-    QCOMPARE(bus.commands().contains("04"), opcode != 0xC4);
-}
-
-void TEST_FLOW_SESSION::the_first_failure_counts()
-{
-    RECORDING_BUS bus;
-    bus.answer(0xC2, {0x01});
-    bus.answer(0xC4, {0x01});
-    SESSION session(bus);
-    const FLOW flow = marked_flow({});
-
-    QCOMPARE(run_flow_session(session.executor, pointers(flow), EVERYTHING).failed_at,
-             std::string("E 0: Read Register"));
-}
-
-void TEST_FLOW_SESSION::an_unknown_chip_hears_nothing_more_data()
-{
-    QTest::addColumn<QByteArray>("opcode");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::addColumn<bool>("is_id_check");
-    const auto add = [](const char* opcode, const char* expected, bool is_id_check) {
-        QTest::addRow("%s %s", opcode, expected) << QByteArray(opcode) << QByteArray(expected) << is_id_check;
-    };
-    add("0x9F", "id", true);
-    add("0x9F", "0x5A", true);
-    add("0x9E", "0x5A", true);
-    add("0xAF", "0x5A", true);
-    add("0xAB", "id", true);
-    add("0x05", "0x5A", false);
-}
-
-void TEST_FLOW_SESSION::an_unknown_chip_hears_nothing_more()
-{
-    QFETCH(QByteArray, opcode);
-    QFETCH(QByteArray, expected);
-    QFETCH(bool, is_id_check);
-    const auto executed = [&](std::initializer_list<int> failing, bool second_check = false) {
-        RECORDING_BUS bus;
-        bus.answer(opcode.toInt(nullptr, 16), {0x5A});
-        for (const int each : failing)
-            bus.answer(each, {0x01});
-        SESSION session(bus);
-        FLOW flow = marked_flow(
-            {check("0x14"), check("0x15"), check_id(opcode.constData(), expected.constData()), check("0x16")});
-        if (second_check)
-            flow.front()->add_action(check_id("0x9E", "id"));
-        return run_flow_session(session.executor, pointers(flow), EVERYTHING).executed;
-    };
-
-    // The ID, and what comes before it is known.
-    QCOMPARE(executed({opcode.toInt(nullptr, 16)}), std::string(is_id_check ? "I" : "IT"));
-    QCOMPARE(executed({0x15}), std::string(is_id_check ? "I" : "IT"));
-    // The chip is known.
-    QCOMPARE(executed({0x16}), std::string("IT"));
-    QCOMPARE(executed({0xC2}), std::string("IET"));
-    // A second ID check is one, too.
-    QCOMPARE(executed({0x9E}, true), std::string("I"));
-}
-
-void TEST_FLOW_SESSION::an_operation_without_actions_is_refused_before_anything_is_sent()
-{
-    for (const int empty : {GFPDB_OPERATION_PROGRAM, GFPDB_OPERATION_ERASE, GFPDB_OPERATION_VERIFY}) {
-        RECORDING_BUS bus;
-        SESSION session(bus);
-        FLOW flow = marked_flow({});
-        flow[static_cast<std::size_t>(empty)] = operation_of(empty, {});
-
-        QVERIFY_EXCEPTION_THROWN(run_flow_session(session.executor, pointers(flow), EVERYTHING), std::runtime_error);
-        QVERIFY(bus.m_commands.empty());
+    void operations_have_an_order_of_their_own_data()
+    {
+        rows<int, QByteArray>({{"everything", 31, "IEBPVXT"},
+                               {"erase", 1, "IET"},
+                               {"blank check", 2, "IBT"},
+                               {"program", 4, "IPT"},
+                               {"verify", 8, "IVT"},
+                               {"examine", 16, "IXT"},
+                               {"nothing", 0, "IT"}});
     }
-    RECORDING_BUS bus;
-    SESSION session(bus);
-    FLOW flow = marked_flow({});
-    flow[GFPDB_OPERATION_TERMINATION] = operation_of(GFPDB_OPERATION_TERMINATION, {});
-    flow[GFPDB_OPERATION_INITIALIZATION] = operation_of(GFPDB_OPERATION_INITIALIZATION, {});
-    QVERIFY(run_flow_session(session.executor, pointers(flow), EVERYTHING).passed);
-}
 
-void TEST_FLOW_SESSION::a_flow_that_cannot_be_executed_is_refused_before_anything_is_sent_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("order");
-    QTest::addColumn<bool>("refused");
-    QTest::newRow("the first operation") << int(GFPDB_OPERATION_INITIALIZATION) << 0 << true;
-    QTest::newRow("the last one") << int(GFPDB_OPERATION_TERMINATION) << 0 << true;
-    QTest::newRow("one that is asked for") << int(GFPDB_OPERATION_PROGRAM) << 4 << true;
-    QTest::newRow("one that is not") << int(GFPDB_OPERATION_PROGRAM) << 8 << false;
-}
+    void operations_have_an_order_of_their_own()
+    {
+        const auto [order, executed] = row<int, QByteArray>();
+        RECORDING_BUS bus;
+        SESSION session(bus);
+        const FLOW flow = marked_flow({});
 
-// A loop whose pages do not divide the device, in the operation of that kind.
-void TEST_FLOW_SESSION::a_flow_that_cannot_be_executed_is_refused_before_anything_is_sent()
-{
-    QFETCH(int, kind);
-    QFETCH(int, order);
-    QFETCH(bool, refused);
-    RECORDING_BUS bus;
-    SESSION session(bus);
-    FLOW flow = marked_flow({});
-    flow[static_cast<std::size_t>(kind)] =
-        operation_of(kind, {start("page"), make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_PAGE_SIZE, "2048"}}), end("page")});
-    const auto run = [&] {
-        run_flow_session(session.executor, pointers(flow), {false, false, bool(order & 4), bool(order & 8), false});
-    };
+        const FLOW_OUTCOME outcome =
+            run_flow_session(session.executor, pointers(flow),
+                             {bool(order & 1), bool(order & 2), bool(order & 4), bool(order & 8), bool(order & 16)});
 
-    if (refused)
-        QVERIFY_EXCEPTION_THROWN(run(), std::runtime_error);
-    else
-        run();
+        QVERIFY(outcome.passed);
+        QCOMPARE(outcome.executed, executed.toStdString());
+        QCOMPARE(outcome.failed_at, std::string());
+    }
 
-    QCOMPARE(bus.m_commands.empty(), refused);
-}
+    void what_fails_is_followed_by_the_termination_only_data()
+    {
+        rows<int, QByteArray, QByteArray>({{"initialization", 0xC0, "IT", "I 1: Read Register"},
+                                           {"erase", 0xC2, "IET", "E 0: Read Register"},
+                                           {"blank check", 0xC3, "IEBT", "B 0: Read Register"},
+                                           {"program", 0xC1, "IEBPT", "P 0: Read Register"},
+                                           {"termination", 0xC4, "IEBPVXT", "T 0: Read Register"}});
+    }
 
-// A bus with a chip whose ID is another one, which is asked for it and for nothing else.
-void TEST_FLOW_SESSION::another_chip_hears_nothing_but_its_id_read()
-{
-    for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
-        for (const bool quad : {false, true}) {
+    void what_fails_is_followed_by_the_termination_only()
+    {
+        const auto [opcode, executed, failed_at] = row<int, QByteArray, QByteArray>();
+        RECORDING_BUS bus;
+        bus.answer(opcode, {0x01});
+        bus.answer(0x9F, {0x5A});
+        SESSION session(bus);
+        const FLOW flow = marked_flow({check_id("0x9F", "id")});
+
+        const FLOW_OUTCOME outcome = run_flow_session(session.executor, pointers(flow), EVERYTHING);
+
+        QVERIFY(!outcome.passed);
+        QCOMPARE(outcome.executed, executed.toStdString());
+        QCOMPARE(outcome.failed_at, failed_at.toStdString());
+        // The termination, too, ends at its first failure.
+        QCOMPARE(bus.commands().contains("04"), opcode != 0xC4);
+    }
+
+    void the_first_failure_counts()
+    {
+        RECORDING_BUS bus;
+        bus.answer(0xC2, {0x01});
+        bus.answer(0xC4, {0x01});
+        SESSION session(bus);
+        const FLOW flow = marked_flow({});
+
+        QCOMPARE(run_flow_session(session.executor, pointers(flow), EVERYTHING).failed_at,
+                 std::string("E 0: Read Register"));
+    }
+
+    void an_unknown_chip_hears_nothing_more_data()
+    {
+        QTest::addColumn<QByteArray>("opcode");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::addColumn<bool>("is_id_check");
+        const auto add = [](const char* opcode, const char* expected, bool is_id_check) {
+            QTest::addRow("%s %s", opcode, expected) << QByteArray(opcode) << QByteArray(expected) << is_id_check;
+        };
+        add("0x9F", "id", true);
+        add("0x9F", "0x5A", true);
+        add("0x9E", "0x5A", true);
+        add("0xAF", "0x5A", true);
+        add("0xAB", "id", true);
+        add("0x05", "0x5A", false);
+    }
+
+    void an_unknown_chip_hears_nothing_more()
+    {
+        QFETCH(QByteArray, opcode);
+        QFETCH(QByteArray, expected);
+        QFETCH(bool, is_id_check);
+        const auto executed = [&](std::initializer_list<int> failing, bool second_check = false) {
             RECORDING_BUS bus;
-            bus.answer(0x9F, {0x12, 0x34, 0x56});
-            const FLOW_IMAGE image;
-            FLOW_EXECUTOR executor(bus, device_of(part), image);
+            bus.answer(opcode.toInt(nullptr, 16), {0x5A});
+            for (const int each : failing)
+                bus.answer(each, {0x01});
+            SESSION session(bus);
+            FLOW flow = marked_flow(
+                {check("0x14"), check("0x15"), check_id(opcode.constData(), expected.constData()), check("0x16")});
+            if (second_check)
+                flow.front()->add_action(check_id("0x9E", "id"));
+            return run_flow_session(session.executor, pointers(flow), EVERYTHING).executed;
+        };
 
-            const FLOW_OUTCOME outcome = run_flow_session(executor, pointers(flow_of(part, quad)), EVERYTHING);
+        // The ID, and what comes before it is known.
+        QCOMPARE(executed({opcode.toInt(nullptr, 16)}), std::string(is_id_check ? "I" : "IT"));
+        QCOMPARE(executed({0x15}), std::string(is_id_check ? "I" : "IT"));
+        // The chip is known.
+        QCOMPARE(executed({0x16}), std::string("IT"));
+        QCOMPARE(executed({0xC2}), std::string("IET"));
+        // A second ID check is one, too.
+        QCOMPARE(executed({0x9E}, true), std::string("I"));
+    }
 
-            QVERIFY(!outcome.passed);
-            QStringList heard = bus.commands();
-            QVERIFY(heard.takeLast().startsWith("9F?"));
-            QCOMPARE(heard, part.manufacturer == "Micron" ? (QStringList{"66", "99"}) : QStringList());
+    void an_operation_without_actions_is_refused_before_anything_is_sent()
+    {
+        for (const int empty : {GFPDB_OPERATION_PROGRAM, GFPDB_OPERATION_ERASE, GFPDB_OPERATION_VERIFY}) {
+            RECORDING_BUS bus;
+            SESSION session(bus);
+            FLOW flow = marked_flow({});
+            flow[static_cast<std::size_t>(empty)] = operation_of(empty, {});
+
+            QVERIFY_EXCEPTION_THROWN(run_flow_session(session.executor, pointers(flow), EVERYTHING),
+                                     std::runtime_error);
+            QVERIFY(bus.m_commands.empty());
         }
-    }
-}
-
-void TEST_FLOW_SESSION::a_chip_is_left_at_rest_after_a_failure()
-{
-    for (const char* name : {"MX25L25645G", "W25Q256FV", "IS25LP256D", "MT25QL256ABA", "S25FL256S-64K", "S25FS512S",
-                             "W25M512JV", "W25Q01JV-Q", "XM25QH256C", "SST26VF032B"}) {
-        const GFPDB_PART& part = part_called(name);
-        for (const bool quad : {false, true}) {
-            SPI_NOR_CHIP chip(chip_facts(part), 0);
-            const FLOW_IMAGE image;
-            FLOW_EXECUTOR executor(chip, device_of(part), image);
-
-            const FLOW_OUTCOME outcome =
-                run_flow_session(executor, pointers(flow_of(part, quad)), {false, true, false, false, false});
-
-            QVERIFY2(outcome.failed_at.rfind("B ", 0) == 0, (name + (": " + outcome.failed_at)).c_str());
-            QCOMPARE(outcome.executed, std::string("IBT"));
-            QVERIFY2(chip.is_at_rest(), name);
-            QVERIFY2(chip.complaints().empty(), chip.complaints().empty() ? "" : chip.complaints()[0].c_str());
-        }
-    }
-}
-
-// Only the last steps of the loops go too far.
-void TEST_FLOW_SESSION::a_device_that_its_addresses_do_not_reach_is_refused_before_anything_is_sent()
-{
-    for (const FLOW_ORDER& order : {FLOW_ORDER{true, false, false, false, false},
-                                    {false, false, true, false, false},
-                                    {false, false, false, true, false}}) {
         RECORDING_BUS bus;
-        FLOW_IMAGE image;
-        image.add(32 * 1024 * 1024 - 1, {0x00});
-        FLOW_EXECUTOR executor(bus, FLOW_DEVICE{32 * 1024 * 1024, 1, {0xC2, 0x20, 0x19}}, image);
-        FLOW flow = flow_of(part_called("MX25L12833F"), false);
-        flow[GFPDB_OPERATION_VERIFY] = operation_of(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)});
-
-        QVERIFY_EXCEPTION_THROWN(run_flow_session(executor, pointers(flow), order), std::runtime_error);
-        QVERIFY(bus.m_commands.empty());
-    }
-}
-
-void TEST_FLOW_SESSION::a_range_that_is_not_read_whole_is_refused_before_anything_is_sent_data()
-{
-    QTest::addColumn<QByteArray>("length");
-    QTest::addColumn<QByteArray>("second");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::addColumn<bool>("allowed");
-    QTest::newRow("in one read") << QByteArray("device") << QByteArray("0x00000000") << QByteArray("image") << true;
-    QTest::newRow("more than the range") << QByteArray("384") << QByteArray("0x00000000") << QByteArray("image")
-                                         << true;
-    QTest::newRow("in two reads") << QByteArray("200") << QByteArray("0x000000C8") << QByteArray("image") << true;
-    QTest::newRow("a gap between them") << QByteArray("200") << QByteArray("0x000000C9") << QByteArray("image")
-                                        << false;
-    QTest::newRow("too short") << QByteArray("383") << QByteArray("0x00000000") << QByteArray("image") << false;
-    QTest::newRow("not compared") << QByteArray("device") << QByteArray("0x00000000") << QByteArray("none") << false;
-    QTest::newRow("a constant") << QByteArray("device") << QByteArray("0x00000000") << QByteArray("0xFF") << false;
-}
-
-// Nobody is told that a device is verified or blank of which a part was not looked at. The range ends at 384.
-void TEST_FLOW_SESSION::a_range_that_is_not_read_whole_is_refused_before_anything_is_sent()
-{
-    QFETCH(QByteArray, length);
-    QFETCH(QByteArray, second);
-    QFETCH(QByteArray, expected);
-    QFETCH(bool, allowed);
-    for (const FLOW_ORDER& order : {FLOW_ORDER{false, true, false, false, false},
-                                    {false, false, false, true, false},
-                                    {false, false, false, false, true}}) {
-        RECORDING_BUS bus;
-        bus.answer(0x0B, {0xFF});
         SESSION session(bus);
-        session.executor.set_range({16, 368});
         FLOW flow = marked_flow({});
-        for (const char* address : {second.constData(), "0x00000000"})
-            flow[GFPDB_OPERATION_VERIFY]->add_action(
-                make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESS, address},
-                                           {GFPDB_RD_DATA_LENGTH, length.constData()},
-                                           {GFPDB_RD_EXPECTED_DATA, expected.constData()}}));
-        const auto run = [&] { QVERIFY(run_flow_session(session.executor, pointers(flow), order).passed); };
+        flow[GFPDB_OPERATION_TERMINATION] = operation_of(GFPDB_OPERATION_TERMINATION, {});
+        flow[GFPDB_OPERATION_INITIALIZATION] = operation_of(GFPDB_OPERATION_INITIALIZATION, {});
+        QVERIFY(run_flow_session(session.executor, pointers(flow), EVERYTHING).passed);
+    }
 
-        if (allowed)
-            run();
-        else
+    void a_flow_that_cannot_be_executed_is_refused_before_anything_is_sent_data()
+    {
+        rows<int, int, bool>({{"the first operation", int(GFPDB_OPERATION_INITIALIZATION), 0, true},
+                              {"the last one", int(GFPDB_OPERATION_TERMINATION), 0, true},
+                              {"one that is asked for", int(GFPDB_OPERATION_PROGRAM), 4, true},
+                              {"one that is not", int(GFPDB_OPERATION_PROGRAM), 8, false}});
+    }
+
+    // A loop whose pages do not divide the device, in the operation of that kind.
+    void a_flow_that_cannot_be_executed_is_refused_before_anything_is_sent()
+    {
+        const auto [kind, order, refused] = row<int, int, bool>();
+        RECORDING_BUS bus;
+        SESSION session(bus);
+        FLOW flow = marked_flow({});
+        flow[static_cast<std::size_t>(kind)] = operation_of(
+            kind, {start("page"), make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_PAGE_SIZE, "2048"}}), end("page")});
+        const auto run = [&] {
+            run_flow_session(session.executor, pointers(flow), {false, false, bool(order & 4), bool(order & 8), false});
+        };
+
+        if (refused)
             QVERIFY_EXCEPTION_THROWN(run(), std::runtime_error);
+        else
+            run();
 
-        QCOMPARE(bus.m_commands.empty(), !allowed);
+        QCOMPARE(bus.m_commands.empty(), refused);
     }
-}
 
-void TEST_FLOW_SESSION::several_erases_clear_what_is_asked_for_data()
-{
-    QTest::addColumn<qint64>("first");
-    QTest::addColumn<qint64>("length");
-    QTest::addColumn<int>("commands");
-    QTest::newRow("the chip") << qint64(0) << qint64(16 * 1024 * 1024) << 1;
-    QTest::newRow("a large sector") << qint64(0x20000) << qint64(0x10000) << 1;
-    QTest::newRow("a large sector between small ones") << qint64(0x1F000) << qint64(0x12000) << 3;
-    QTest::newRow("bytes") << qint64(0x12345) << qint64(3) << 1;
-}
+    // A bus with a chip whose ID is another one, which is asked for it and for nothing else.
+    void another_chip_hears_nothing_but_its_id_read()
+    {
+        for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+            for (const bool quad : {false, true}) {
+                RECORDING_BUS bus;
+                bus.answer(0x9F, {0x12, 0x34, 0x56});
+                const FLOW_IMAGE image;
+                FLOW_EXECUTOR executor(bus, device_of(part), image);
 
-// All erases of a chip share the write enable and the poll.
-void TEST_FLOW_SESSION::several_erases_clear_what_is_asked_for()
-{
-    QFETCH(qint64, first);
-    QFETCH(qint64, length);
-    QFETCH(int, commands);
-    const GFPDB_PART& part = part_called("MX25L12833F");
-    SPI_NOR_CHIP chip(chip_facts(part), 0);
-    const SPI_NOR_CHIP untouched(chip_facts(part), 0);
-    const FLOW_IMAGE image;
-    FLOW_EXECUTOR executor(chip, device_of(part), image);
-    executor.set_range({first, length});
-    FLOW flow = flow_of(part, false);
-    flow[GFPDB_OPERATION_ERASE] = operation_of(
-        GFPDB_OPERATION_ERASE,
-        {start("sector"), make(GFPDB_ACT_WRITE_REGISTER),
-         make(GFPDB_ACT_ERASE, {{GFPDB_ER_COMMAND, "0xC7"}, {GFPDB_ER_ADDRESSING_MODE, "0"}}), make(GFPDB_ACT_ERASE),
-         make(GFPDB_ACT_ERASE, {{GFPDB_ER_COMMAND, "0x20"}, {GFPDB_ER_ERASE_SIZE, "4096"}}),
-         make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_ATTEMPT_COUNT, "4500"}, {GFPDB_RR_DELAY, "1000000"}}),
-         end("sector")});
+                const FLOW_OUTCOME outcome = run_flow_session(executor, pointers(flow_of(part, quad)), EVERYTHING);
 
-    const FLOW_OUTCOME outcome = run_flow_session(executor, pointers(flow), {true, true, false, false, false});
-
-    QVERIFY2(outcome.passed, outcome.failed_at.c_str());
-    QVERIFY(chip.complaints().empty());
-    QCOMPARE(chip.count_of(0xC7) + chip.count_of(0xD8) + chip.count_of(0x20), commands);
-    constexpr std::int64_t SMALL = 4096;
-    const std::int64_t last = (first + length - 1) / SMALL * SMALL + SMALL;
-    for (const std::int64_t position : {std::int64_t(first / SMALL * SMALL - 1), last}) {
-        if (position >= 0 && position < device_of(part).bytes)
-            QCOMPARE(chip.byte_at(position), untouched.byte_at(position));
+                QVERIFY(!outcome.passed);
+                QStringList heard = bus.commands();
+                QVERIFY(heard.takeLast().startsWith("9F?"));
+                QCOMPARE(heard, part.manufacturer == "Micron" ? (QStringList{"66", "99"}) : QStringList());
+            }
+        }
     }
-}
 
-void TEST_FLOW_SESSION::a_part_of_the_device_is_programmed_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<qint64>("sector");
-    QTest::newRow("MX25L12833F") << QByteArray("MX25L12833F") << qint64(65536);
-    QTest::newRow("W25Q256FV") << QByteArray("W25Q256FV") << qint64(65536);
-    QTest::newRow("S25FL512S") << QByteArray("S25FL512S") << qint64(262144);
-    QTest::newRow("SST26VF032B") << QByteArray("SST26VF032B") << qint64(4096);
-    QTest::newRow("W25M512JV") << QByteArray("W25M512JV") << qint64(65536);
-}
+    void a_chip_is_left_at_rest_after_a_failure()
+    {
+        for (const char* name : {"MX25L25645G", "W25Q256FV", "IS25LP256D", "MT25QL256ABA", "S25FL256S-64K", "S25FS512S",
+                                 "W25M512JV", "W25Q01JV-Q", "XM25QH256C", "SST26VF032B"}) {
+            const GFPDB_PART& part = part_called(name);
+            for (const bool quad : {false, true}) {
+                SPI_NOR_CHIP chip(chip_facts(part), 0);
+                const FLOW_IMAGE image;
+                FLOW_EXECUTOR executor(chip, device_of(part), image);
 
-// A range across the middle, which is the border of two dies: only the sectors that it touches change, and of these
-// only the range gets the image.
-void TEST_FLOW_SESSION::a_part_of_the_device_is_programmed()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(qint64, sector);
-    const std::int64_t sector_bytes = sector;
-    const GFPDB_PART& part = part_called(name.toStdString());
-    const std::int64_t middle = device_of(part).bytes / 2;
-    for (const bool quad : {false, true}) {
+                const FLOW_OUTCOME outcome =
+                    run_flow_session(executor, pointers(flow_of(part, quad)), {false, true, false, false, false});
+
+                QVERIFY2(outcome.failed_at.rfind("B ", 0) == 0, (name + (": " + outcome.failed_at)).c_str());
+                QCOMPARE(outcome.executed, std::string("IBT"));
+                QVERIFY2(chip.is_at_rest(), name);
+                QVERIFY2(chip.complaints().empty(), chip.complaints().empty() ? "" : chip.complaints()[0].c_str());
+            }
+        }
+    }
+
+    // Only the last steps of the loops go too far.
+    void a_device_that_its_addresses_do_not_reach_is_refused_before_anything_is_sent()
+    {
+        for (const FLOW_ORDER& order : {FLOW_ORDER{true, false, false, false, false},
+                                        {false, false, true, false, false},
+                                        {false, false, false, true, false}}) {
+            RECORDING_BUS bus;
+            FLOW_IMAGE image;
+            image.add(32 * 1024 * 1024 - 1, {0x00});
+            FLOW_EXECUTOR executor(bus, FLOW_DEVICE{32 * 1024 * 1024, 1, {0xC2, 0x20, 0x19}}, image);
+            FLOW flow = flow_of(part_called("MX25L12833F"), false);
+            flow[GFPDB_OPERATION_VERIFY] = operation_of(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)});
+
+            QVERIFY_EXCEPTION_THROWN(run_flow_session(executor, pointers(flow), order), std::runtime_error);
+            QVERIFY(bus.m_commands.empty());
+        }
+    }
+
+    void a_range_that_is_not_read_whole_is_refused_before_anything_is_sent_data()
+    {
+        rows<QByteArray, QByteArray, QByteArray, bool>({{"in one read", "device", "0x00000000", "image", true},
+                                                        {"more than the range", "384", "0x00000000", "image", true},
+                                                        {"in two reads", "200", "0x000000C8", "image", true},
+                                                        {"a gap between them", "200", "0x000000C9", "image", false},
+                                                        {"too short", "383", "0x00000000", "image", false},
+                                                        {"not compared", "device", "0x00000000", "none", false},
+                                                        {"a constant", "device", "0x00000000", "0xFF", false}});
+    }
+
+    // Nobody is told that a device is verified or blank of which a part was not looked at. The range ends at 384.
+    void a_range_that_is_not_read_whole_is_refused_before_anything_is_sent()
+    {
+        const auto [length, second, expected, allowed] = row<QByteArray, QByteArray, QByteArray, bool>();
+        for (const FLOW_ORDER& order : {FLOW_ORDER{false, true, false, false, false},
+                                        {false, false, false, true, false},
+                                        {false, false, false, false, true}}) {
+            RECORDING_BUS bus;
+            bus.answer(0x0B, {0xFF});
+            SESSION session(bus);
+            session.executor.set_range({16, 368});
+            FLOW flow = marked_flow({});
+            for (const char* address : {second.constData(), "0x00000000"})
+                flow[GFPDB_OPERATION_VERIFY]->add_action(
+                    make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESS, address},
+                                               {GFPDB_RD_DATA_LENGTH, length.constData()},
+                                               {GFPDB_RD_EXPECTED_DATA, expected.constData()}}));
+            const auto run = [&] { QVERIFY(run_flow_session(session.executor, pointers(flow), order).passed); };
+
+            if (allowed)
+                run();
+            else
+                QVERIFY_EXCEPTION_THROWN(run(), std::runtime_error);
+
+            QCOMPARE(bus.m_commands.empty(), !allowed);
+        }
+    }
+
+    void several_erases_clear_what_is_asked_for_data()
+    {
+        rows<qint64, qint64, int>({{"the chip", qint64(0), qint64(16 * 1024 * 1024), 1},
+                                   {"a large sector", qint64(0x20000), qint64(0x10000), 1},
+                                   {"a large sector between small ones", qint64(0x1F000), qint64(0x12000), 3},
+                                   {"bytes", qint64(0x12345), qint64(3), 1}});
+    }
+
+    // All erases of a chip share the write enable and the poll.
+    void several_erases_clear_what_is_asked_for()
+    {
+        const auto [first, length, commands] = row<qint64, qint64, int>();
+        const GFPDB_PART& part = part_called("MX25L12833F");
         SPI_NOR_CHIP chip(chip_facts(part), 0);
         const SPI_NOR_CHIP untouched(chip_facts(part), 0);
-        FLOW_IMAGE image;
-        image.add(0, FLOW_BYTES(5000, 0x21));
-        image.add(middle - 5000, FLOW_BYTES(10000, 0x42));
+        const FLOW_IMAGE image;
         FLOW_EXECUTOR executor(chip, device_of(part), image);
-        executor.set_range({middle - 1000, 1300});
+        executor.set_range({first, length});
+        FLOW flow = flow_of(part, false);
+        flow[GFPDB_OPERATION_ERASE] = operation_of(
+            GFPDB_OPERATION_ERASE,
+            {start("sector"), make(GFPDB_ACT_WRITE_REGISTER),
+             make(GFPDB_ACT_ERASE, {{GFPDB_ER_COMMAND, "0xC7"}, {GFPDB_ER_ADDRESSING_MODE, "0"}}),
+             make(GFPDB_ACT_ERASE), make(GFPDB_ACT_ERASE, {{GFPDB_ER_COMMAND, "0x20"}, {GFPDB_ER_ERASE_SIZE, "4096"}}),
+             make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_ATTEMPT_COUNT, "4500"}, {GFPDB_RR_DELAY, "1000000"}}),
+             end("sector")});
 
-        const FLOW_OUTCOME outcome = run_flow_session(executor, pointers(flow_of(part, quad)), EVERYTHING);
+        const FLOW_OUTCOME outcome = run_flow_session(executor, pointers(flow), {true, true, false, false, false});
 
         QVERIFY2(outcome.passed, outcome.failed_at.c_str());
         QVERIFY(chip.complaints().empty());
-        for (const std::int64_t position : {std::int64_t(0), middle - sector_bytes - 1, middle + sector_bytes})
-            QCOMPARE(chip.byte_at(position), untouched.byte_at(position));
-        for (const std::int64_t position :
-             {middle - sector_bytes, middle - 1001, middle + 300, middle + sector_bytes - 1})
-            QCOMPARE(int(chip.byte_at(position)), 0xFF);
-        for (const std::int64_t position : {middle - 1000, middle - 1, middle, middle + 299})
-            QCOMPARE(int(chip.byte_at(position)), 0x42);
+        QCOMPARE(chip.count_of(0xC7) + chip.count_of(0xD8) + chip.count_of(0x20), commands);
+        constexpr std::int64_t SMALL = 4096;
+        const std::int64_t last = (first + length - 1) / SMALL * SMALL + SMALL;
+        for (const std::int64_t position : {std::int64_t(first / SMALL * SMALL - 1), last}) {
+            if (position >= 0 && position < device_of(part).bytes)
+                QCOMPARE(chip.byte_at(position), untouched.byte_at(position));
+        }
     }
-}
+
+    void a_part_of_the_device_is_programmed_data()
+    {
+        rows<QByteArray, qint64>({{"MX25L12833F", "MX25L12833F", qint64(65536)},
+                                  {"W25Q256FV", "W25Q256FV", qint64(65536)},
+                                  {"S25FL512S", "S25FL512S", qint64(262144)},
+                                  {"SST26VF032B", "SST26VF032B", qint64(4096)},
+                                  {"W25M512JV", "W25M512JV", qint64(65536)}});
+    }
+
+    // A range across the middle, which is the border of two dies: only the sectors that it touches change, and of these
+    // only the range gets the image.
+    void a_part_of_the_device_is_programmed()
+    {
+        const auto [name, sector] = row<QByteArray, qint64>();
+        const std::int64_t sector_bytes = sector;
+        const GFPDB_PART& part = part_called(name.toStdString());
+        const std::int64_t middle = device_of(part).bytes / 2;
+        for (const bool quad : {false, true}) {
+            SPI_NOR_CHIP chip(chip_facts(part), 0);
+            const SPI_NOR_CHIP untouched(chip_facts(part), 0);
+            FLOW_IMAGE image;
+            image.add(0, FLOW_BYTES(5000, 0x21));
+            image.add(middle - 5000, FLOW_BYTES(10000, 0x42));
+            FLOW_EXECUTOR executor(chip, device_of(part), image);
+            executor.set_range({middle - 1000, 1300});
+
+            const FLOW_OUTCOME outcome = run_flow_session(executor, pointers(flow_of(part, quad)), EVERYTHING);
+
+            QVERIFY2(outcome.passed, outcome.failed_at.c_str());
+            QVERIFY(chip.complaints().empty());
+            for (const std::int64_t position : {std::int64_t(0), middle - sector_bytes - 1, middle + sector_bytes})
+                QCOMPARE(chip.byte_at(position), untouched.byte_at(position));
+            for (const std::int64_t position :
+                 {middle - sector_bytes, middle - 1001, middle + 300, middle + sector_bytes - 1})
+                QCOMPARE(int(chip.byte_at(position)), 0xFF);
+            for (const std::int64_t position : {middle - 1000, middle - 1, middle, middle + 299})
+                QCOMPARE(int(chip.byte_at(position)), 0x42);
+        }
+    }
+};
 
 QTEST_APPLESS_MAIN(TEST_FLOW_SESSION)
+
 #include "test_flow_session.moc"
