@@ -65,17 +65,17 @@ std::optional<std::string> save(GFPDB_STORE& store, const std::string& name, std
 
 NAMES names_in(const GFPDB_PLACE& place)
 {
-    return GFPDB_STORE(place.db_dir()).get_device_names(FAMILY, ACTIVE_SERIAL);
+    return gfpdb_make_store(place.db_dir())->get_device_names(FAMILY, ACTIVE_SERIAL);
 }
 
 // What a program that is killed after the n-th call of saving `name` leaves; nothing when there is no such call.
 std::optional<FILES> left_after(const GFPDB_PLACE& place, FAULT_CALL call, int at, std::size_t size)
 {
     FILES left;
-    GFPDB_STORE store(place.db_dir());
-    store.get_device_names(FAMILY, ACTIVE_SERIAL);
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+    store->get_device_names(FAMILY, ACTIVE_SERIAL);
     FAULT_INJECTOR::run_after(place.db_dir(), call, at, [&] { left = files_in(place); });
-    save(store, "B", size);
+    save(*store, "B", size);
     FAULT_INJECTOR::stop();
     return FAULT_INJECTOR::count(call) < at ? std::nullopt : std::optional<FILES>(left);
 }
@@ -122,20 +122,20 @@ void TEST_FOREIGN_FILE_FAULTS::what_a_killed_program_leaves_is_taken_back()
     std::optional<FILES> left;
     for (int at = 1;; at += 1 + at / 10) {
         const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-        GFPDB_STORE store(place.db_dir());
-        save(store, "A");
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        save(*store, "A");
         left = left_after(place, call, at, std::size_t(size));
         if (!left)
             break;
         journals += is_hot(*left) ? 1 : 0;
         put(place, *left);
 
-        GFPDB_STORE after(place.db_dir());
-        const NAMES names = after.get_device_names(FAMILY, ACTIVE_SERIAL);
-        QCOMPARE(after.get_problem(), std::string());
+        const std::unique_ptr<GFPDB_STORE> after = gfpdb_make_store(place.db_dir());
+        const NAMES names = after->get_device_names(FAMILY, ACTIVE_SERIAL);
+        QCOMPARE(after->get_problem(), std::string());
         QVERIFY(names == NAMES{"A"} || names == (NAMES{"A", "B"}));
-        QVERIFY(after.check_integrity());
-        QVERIFY(save(after, "C"));
+        QVERIFY(after->check_integrity());
+        QVERIFY(save(*after, "C"));
     }
     QVERIFY(journals > 0 || call == FAULT_CALL::TRUNCATE);
 }
@@ -155,9 +155,9 @@ void TEST_FOREIGN_FILE_FAULTS::a_journal_is_not_rolled_back_into_another_file()
     for (int at = 1;; ++at) {
         const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
         const auto make = [&](const NAMES& names) {
-            GFPDB_STORE store(place.db_dir());
+            const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
             for (const std::string& name : names)
-                save(store, name);
+                save(*store, name);
             return files_in(place);
         };
         std::map<QString, FILES> files;
@@ -172,22 +172,22 @@ void TEST_FOREIGN_FILE_FAULTS::a_journal_is_not_rolled_back_into_another_file()
         files["a later state"] = make({"C"});
         const FILES other = {files[put_in].database, left->journal};
         put(place, other);
-        const std::string problem = GFPDB_STORE(place.db_dir()).get_problem();
+        const std::string problem = gfpdb_make_store(place.db_dir())->get_problem();
         if (is_hot(*left)) {
             ++journals;
             QCOMPARE(problem, "The database " + place.db_file() + " is not used: " + journal_of(place) +
                                   " is the journal of another database, or of another state of this one, and would " +
                                   "damage it. Move that file to another directory, then try again.");
-            GFPDB_STORE store(place.db_dir());
-            QVERIFY(!save(store, "D"));
-            QCOMPARE(store.get_last_error(), problem);
+            const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+            QVERIFY(!save(*store, "D"));
+            QCOMPARE(store->get_last_error(), problem);
             QCOMPARE(read_file(journal_of(place)), other.journal);
         }
         QCOMPARE(read_file(place.db_file()), other.database);
 
         ::unlink(journal_of(place).c_str());
         QCOMPARE(read_file(place.db_file()), other.database);
-        QCOMPARE(GFPDB_STORE(place.db_dir()).get_problem().empty(), put_in != QLatin1String("a text"));
+        QCOMPARE(gfpdb_make_store(place.db_dir())->get_problem().empty(), put_in != QLatin1String("a text"));
     }
     QVERIFY(journals > 0);
 }
@@ -196,22 +196,22 @@ void TEST_FOREIGN_FILE_FAULTS::a_journal_is_not_rolled_back_into_another_file()
 void TEST_FOREIGN_FILE_FAULTS::a_journal_is_not_rolled_back_into_a_file_that_was_written_over()
 {
     const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-    GFPDB_STORE store(place.db_dir());
-    save(store, "A");
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+    save(*store, "A");
     const FILES older = files_in(place);
-    save(store, "Z");
+    save(*store, "Z");
     const std::optional<FILES> left = left_after(place, FAULT_CALL::SYNC, 3, 10);
-    QCOMPARE(store.get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B", "Z"}));
+    QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B", "Z"}));
     QVERIFY(left && is_hot(*left));
 
     write_file(place.db_file(), older.database);
     write_file(journal_of(place), left->journal);
 
-    QCOMPARE(store.get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
-    QVERIFY(!save(store, "C"));
+    QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
+    QVERIFY(!save(*store, "C"));
     QCOMPARE(read_file(place.db_file()), older.database);
     ::unlink(journal_of(place).c_str());
-    QCOMPARE(store.get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
+    QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
 }
 
 void TEST_FOREIGN_FILE_FAULTS::no_database_is_made_or_used_beside_a_left_file_data()
@@ -240,22 +240,22 @@ void TEST_FOREIGN_FILE_FAULTS::no_database_is_made_or_used_beside_a_left_file()
     QFETCH(bool, has_database);
     QFETCH(QByteArray, problem);
     const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-    GFPDB_STORE store(place.db_dir());
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
     if (has_database)
-        save(store, "A");
+        save(*store, "A");
     const std::string before = content_of(place.db_file());
     const std::string left = place.db_file() + suffix.toStdString();
     write_file(left, "of another program");
     problem.replace("%1", place.db_file().c_str()).replace("%2", left.c_str());
 
-    QCOMPARE(store.get_problem(), problem.toStdString());
-    QVERIFY(!store.is_readable());
-    QVERIFY(!save(store, "B"));
-    QCOMPARE(store.get_last_error(), problem.toStdString());
+    QCOMPARE(store->get_problem(), problem.toStdString());
+    QVERIFY(!store->is_readable());
+    QVERIFY(!save(*store, "B"));
+    QCOMPARE(store->get_last_error(), problem.toStdString());
     QCOMPARE(content_of(place.db_file()), before);
     QCOMPARE(read_file(left), std::string("of another program"));
     ::unlink(left.c_str());
-    QVERIFY(save(store, "B"));
+    QVERIFY(save(*store, "B"));
     QCOMPARE(names_in(place), has_database ? (NAMES{"A", "B"}) : NAMES{"B"});
 }
 
@@ -276,8 +276,8 @@ void TEST_FOREIGN_FILE_FAULTS::what_is_reported_as_stored_is_in_the_file_of_that
     bool is_over = false;
     for (int at = 1; !is_over; ++at) {
         const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-        GFPDB_STORE store(place.db_dir());
-        save(store, "A");
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        save(*store, "A");
         write_file(place.path("copy"), read_file(place.db_file()));
         FAULT_INJECTOR::run_after(place.db_dir(), call, at, [&] {
             if (is_replaced)
@@ -285,14 +285,14 @@ void TEST_FOREIGN_FILE_FAULTS::what_is_reported_as_stored_is_in_the_file_of_that
             else
                 ::unlink(place.db_file().c_str());
         });
-        const bool is_saved = save(store, "B").has_value();
+        const bool is_saved = save(*store, "B").has_value();
         FAULT_INJECTOR::stop();
         is_over = FAULT_INJECTOR::count(call) < at;
 
         const NAMES names = names_in(place);
         QCOMPARE(is_saved, std::count(names.begin(), names.end(), "B") == 1);
-        QVERIFY(is_saved || store.get_last_error().find("was replaced or removed") != std::string::npos);
-        QVERIFY(is_saved || save(store, "B"));
+        QVERIFY(is_saved || store->get_last_error().find("was replaced or removed") != std::string::npos);
+        QVERIFY(is_saved || save(*store, "B"));
         QCOMPARE(names_in(place).back(), std::string("B"));
     }
 }

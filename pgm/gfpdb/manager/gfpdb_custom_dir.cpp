@@ -85,10 +85,10 @@ bool GFPDB_MGR::save_custom_dir_to_ini(std::string directory, bool create)
     const std::string normalised = gfpdb_normalised_dir(std::move(directory));
     if (create && !gfpdb_is_dir(normalised))
         gfpdb_create_dir(normalised);
-    GFPDB_STORE store(normalised);
-    if (!store.is_readable()) {
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(normalised);
+    if (!store->is_readable()) {
         qCWarning(GFPDB_LOG, "%s was not made the database directory: %s", normalised.c_str(),
-                  store.get_problem().c_str());
+                  store->get_problem().c_str());
         return false;
     }
     return gfpdb_write_setting(GFPDB_SETTING_CUSTOM_DIR, normalised);

@@ -60,7 +60,7 @@ void GFPDB_EMBEDDED_MGR::reload()
         gfpdb_create_dir(directory);
     m_other_store.reset();
     if (!m_store || m_store->get_directory() != directory)
-        m_store = std::make_unique<GFPDB_STORE>(directory);
+        m_store = gfpdb_make_store(directory);
     m_store->reload();
 }
 
@@ -423,7 +423,7 @@ GFPDB_STORE& GFPDB_EMBEDDED_MGR::store_of(const std::string& directory)
     if (normalised == m_store->get_directory())
         return *m_store;
     if (!m_other_store || m_other_store->get_directory() != normalised)
-        m_other_store = std::make_unique<GFPDB_STORE>(normalised);
+        m_other_store = gfpdb_make_store(normalised);
     return *m_other_store;
 }
 

@@ -46,7 +46,7 @@ private:
 void TEST_HISTORY_NUMBERS::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
-    m_store = std::make_unique<GFPDB_STORE>(m_place->db_dir());
+    m_store = gfpdb_make_store(m_place->db_dir());
 }
 
 void TEST_HISTORY_NUMBERS::cleanup()
@@ -114,7 +114,7 @@ void TEST_HISTORY_NUMBERS::a_pruned_number_is_not_given_again()
 
     prune(from, to);
     // Another program goes on.
-    m_store = std::make_unique<GFPDB_STORE>(m_place->db_dir());
+    m_store = gfpdb_make_store(m_place->db_dir());
     add_state();
     add_template_state();
     QCOMPARE(ids(), left);

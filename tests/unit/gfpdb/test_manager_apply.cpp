@@ -240,8 +240,8 @@ void TEST_MANAGER_APPLY::a_device_of_another_program_in_between_becomes_history(
 {
     save("A");
     QVERIFY(remove("A"));
-    GFPDB_STORE other(m_place->db_dir());
-    QVERIFY(other.save_device(make_row("A")));
+    const std::unique_ptr<GFPDB_STORE> other = gfpdb_make_store(m_place->db_dir());
+    QVERIFY(other->save_device(make_row("A")));
 
     QVERIFY(save_record(make_changed("A")));
 
@@ -308,8 +308,8 @@ void TEST_MANAGER_APPLY::nothing_is_put_over_a_device_of_another_program()
 {
     save("A");
     QVERIFY(remove("A"));
-    GFPDB_STORE other(m_place->db_dir());
-    QVERIFY(other.save_device(make_row("a")));
+    const std::unique_ptr<GFPDB_STORE> other = gfpdb_make_store(m_place->db_dir());
+    QVERIFY(other->save_device(make_row("a")));
     const QString before = content("device");
 
     expect_warning("\\AThe device \"A\" has a text that is not UTF-8. The device \"A\" that was deleted before was not "
@@ -334,8 +334,8 @@ void TEST_MANAGER_APPLY::a_device_that_no_one_has_seen_is_not_replaced()
     QFETCH(const QString, history);
     save("A");
     QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, std::string("B")), std::string());
-    GFPDB_STORE other(m_place->db_dir());
-    QVERIFY(other.save_device(make_row("b")));
+    const std::unique_ptr<GFPDB_STORE> other = gfpdb_make_store(m_place->db_dir());
+    QVERIFY(other->save_device(make_row("b")));
 
     QVERIFY(remove(deleted.toStdString()));
     expect_warning("\\AThere is a device called \"b\" already\\.");

@@ -105,7 +105,7 @@ private:
 void TEST_STORE::init()
 {
     m_place = std::make_unique<GFPDB_PLACE>();
-    m_store = std::make_unique<GFPDB_STORE>(m_place->db_dir());
+    m_store = gfpdb_make_store(m_place->db_dir());
 }
 
 void TEST_STORE::cleanup()
@@ -118,9 +118,9 @@ void TEST_STORE::make_file(const std::string& path, const std::string& name)
 {
     make_dir(m_place->path("making/"));
     {
-        GFPDB_STORE store(m_place->path("making/"));
-        if (!store.save_device(make_row(name)))
-            qFatal("%s", store.get_last_error().c_str());
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(m_place->path("making/"));
+        if (!store->save_device(make_row(name)))
+            qFatal("%s", store->get_last_error().c_str());
     }
     if (std::rename(m_place->path("making/gfpdb.sqlite").c_str(), path.c_str()) != 0)
         qFatal("cannot rename to %s", path.c_str());
@@ -248,14 +248,14 @@ void TEST_STORE::another_text_encoding_is_left_alone()
 
 void TEST_STORE::two_programs_make_one_file()
 {
-    GFPDB_STORE other(m_place->db_dir());
+    const std::unique_ptr<GFPDB_STORE> other = gfpdb_make_store(m_place->db_dir());
     QVERIFY(m_store->is_writable());
-    QVERIFY(other.is_writable());
+    QVERIFY(other->is_writable());
 
     QVERIFY(m_store->save_device(make_row("A")));
-    QVERIFY(other.save_device(make_row("B")));
+    QVERIFY(other->save_device(make_row("B")));
     QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
-    QCOMPARE(other.get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
+    QCOMPARE(other->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
 }
 
 void TEST_STORE::commits_reach_the_disk()

@@ -51,33 +51,33 @@ private slots:
 void TEST_CLI_BULK::all_records_are_stored_as_they_are()
 {
     const GFPDB_PLACE place;
-    GFPDB_STORE store(place.db_dir());
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
     GFPDB_ROW with_template_name = device("A");
     with_template_name.template_name = "no such template";
 
-    QVERIFY(store.save_all({with_template_name, device("B")}, {copy_as_template("T")}, no_progress));
+    QVERIFY(store->save_all({with_template_name, device("B")}, {copy_as_template("T")}, no_progress));
 
-    QCOMPARE(text_of(store.find_device(FAMILY, ACTIVE_SERIAL, "A").value()), text_of(with_template_name));
-    QCOMPARE(text_of(store.find_template("T").value()), text_of(copy_as_template("T")));
-    QCOMPARE(store.get_template_names(), NAMES{"T"});
-    QVERIFY(store.get_history().empty());
+    QCOMPARE(text_of(store->find_device(FAMILY, ACTIVE_SERIAL, "A").value()), text_of(with_template_name));
+    QCOMPARE(text_of(store->find_template("T").value()), text_of(copy_as_template("T")));
+    QCOMPARE(store->get_template_names(), NAMES{"T"});
+    QVERIFY(store->get_history().empty());
 }
 
 void TEST_CLI_BULK::what_has_the_name_is_replaced()
 {
     const GFPDB_PLACE place;
-    GFPDB_STORE store(place.db_dir());
-    QVERIFY(store.save_all({device("A")}, {copy_as_template("T")}, no_progress));
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+    QVERIFY(store->save_all({device("A")}, {copy_as_template("T")}, no_progress));
     GFPDB_ROW other = device("a");
     other.density = "8Mb";
     GFPDB_ROW other_template = copy_as_template("t");
     other_template.density = "8Mb";
 
-    QVERIFY(store.save_all({other}, {other_template}, no_progress));
+    QVERIFY(store->save_all({other}, {other_template}, no_progress));
 
-    QCOMPARE(store.find_device(FAMILY, ACTIVE_SERIAL, "A")->density, std::string("8Mb"));
-    QCOMPARE(store.find_template("T")->density, std::string("8Mb"));
-    const std::vector<GFPDB_HISTORY_ENTRY> history = store.get_history();
+    QCOMPARE(store->find_device(FAMILY, ACTIVE_SERIAL, "A")->density, std::string("8Mb"));
+    QCOMPARE(store->find_template("T")->density, std::string("8Mb"));
+    const std::vector<GFPDB_HISTORY_ENTRY> history = store->get_history();
     QCOMPARE(history.size(), std::size_t(2));
     QCOMPARE(history[0].reason, std::string("replaced"));
     QCOMPARE(history[0].row.density, std::string("256Mb"));
@@ -107,29 +107,29 @@ void TEST_CLI_BULK::one_record_that_is_refused_leaves_all_out()
     QFETCH(QByteArray, device_name);
     QFETCH(QByteArray, template_name);
     QFETCH(QByteArray, error);
-    GFPDB_STORE store(place.db_dir());
-    QVERIFY(store.save_all({device("Old device")}, {copy_as_template("Old template")}, no_progress));
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+    QVERIFY(store->save_all({device("Old device")}, {copy_as_template("Old template")}, no_progress));
 
-    QVERIFY(!store.save_all({device("First"), device("Old device"), device(device_name.toStdString())},
-                            {copy_as_template(template_name.toStdString())}, no_progress));
+    QVERIFY(!store->save_all({device("First"), device("Old device"), device(device_name.toStdString())},
+                             {copy_as_template(template_name.toStdString())}, no_progress));
 
-    QCOMPARE(QByteArray::fromStdString(store.get_last_error()), error);
-    QCOMPARE(names_of(store.get_devices()), NAMES{"Old device"});
-    QCOMPARE(store.get_template_names(), NAMES{"Old template"});
-    QVERIFY(store.get_history().empty());
+    QCOMPARE(QByteArray::fromStdString(store->get_last_error()), error);
+    QCOMPARE(names_of(store->get_devices()), NAMES{"Old device"});
+    QCOMPARE(store->get_template_names(), NAMES{"Old template"});
+    QVERIFY(store->get_history().empty());
 }
 
 void TEST_CLI_BULK::rows_of_all_places_are_listed_in_order()
 {
     const GFPDB_PLACE place;
-    GFPDB_STORE store(place.db_dir());
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
     GFPDB_ROW quad = device("a");
     quad.scheme = QUAD;
-    QVERIFY(store.save_all({device("c", OTHER_FAMILY), quad, device("B"), device("a")},
-                           {copy_as_template("z"), copy_as_template("Y")}, no_progress));
+    QVERIFY(store->save_all({device("c", OTHER_FAMILY), quad, device("B"), device("a")},
+                            {copy_as_template("z"), copy_as_template("Y")}, no_progress));
 
-    const std::vector<GFPDB_ROW> devices = store.get_devices();
-    const std::vector<GFPDB_ROW> templates = store.get_templates();
+    const std::vector<GFPDB_ROW> devices = store->get_devices();
+    const std::vector<GFPDB_ROW> templates = store->get_templates();
 
     QCOMPARE(names_of(devices), (NAMES{"a", "B", "a", "c"}));
     QCOMPARE(devices[2].scheme, QUAD);
@@ -143,23 +143,23 @@ void TEST_CLI_BULK::rows_of_all_places_are_listed_in_order()
 void TEST_CLI_BULK::nothing_is_listed_of_a_database_that_is_not_there()
 {
     const GFPDB_PLACE place;
-    GFPDB_STORE store(place.db_dir());
-    QVERIFY(store.get_devices().empty());
-    QVERIFY(store.get_templates().empty());
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+    QVERIFY(store->get_devices().empty());
+    QVERIFY(store->get_templates().empty());
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not exist"));
-    GFPDB_STORE missing(place.path("missing/"));
-    QVERIFY(missing.get_devices().empty());
-    QVERIFY(!missing.save_all({device("A")}, {}, no_progress));
-    QVERIFY(!missing.get_last_error().empty());
+    const std::unique_ptr<GFPDB_STORE> missing = gfpdb_make_store(place.path("missing/"));
+    QVERIFY(missing->get_devices().empty());
+    QVERIFY(!missing->save_all({device("A")}, {}, no_progress));
+    QVERIFY(!missing->get_last_error().empty());
 }
 
 void TEST_CLI_BULK::the_progress_counts_every_record()
 {
     const GFPDB_PLACE place;
-    GFPDB_STORE store(place.db_dir());
+    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
     std::vector<int> heard;
-    QVERIFY(store.save_all({device("A"), device("B")}, {copy_as_template("T")},
-                           [&heard](int done) { heard.push_back(done); }));
+    QVERIFY(store->save_all({device("A"), device("B")}, {copy_as_template("T")},
+                            [&heard](int done) { heard.push_back(done); }));
     QCOMPARE(heard, (std::vector<int>{1, 2, 3}));
 }
 

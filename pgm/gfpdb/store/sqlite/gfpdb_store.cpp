@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 
-// The part of GFPDB_STORE that deals with the records. Saving and removing one device is in gfpdb_store_apply.cpp, the
-// file in gfpdb_store_file.cpp.
+// The part of GFPDB_SQLITE_STORE that deals with the records. Saving and removing one device is in
+// gfpdb_store_apply.cpp, the file in gfpdb_store_file.cpp.
 //
 // Texts go in as CAST(? AS TEXT) and come out as CAST(... AS BLOB): bytes as they are, where a conversion to UTF-16 and
 // back would drop byte order marks and replace some characters.
-#include "store/gfpdb_store.h"
+#include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
@@ -133,14 +133,19 @@ GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
 
 } // namespace
 
-bool GFPDB_STORE::start_read(QSqlQuery& query, const char* statement, const QVariantList& values)
+std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory)
+{
+    return std::make_unique<GFPDB_SQLITE_STORE>(directory);
+}
+
+bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const char* statement, const QVariantList& values)
 {
     return prepare_read() && (prepare(query, statement, values) || note_read_problem());
 }
 
 // The next row of `query`, which is run when it has no row yet; false at the end and, with the problem kept, on
 // failure.
-bool GFPDB_STORE::next_row(QSqlQuery& query)
+bool GFPDB_SQLITE_STORE::next_row(QSqlQuery& query)
 {
     const bool is_run = query.isActive() || query.exec();
     if (is_run && m_is_locked)
@@ -154,7 +159,7 @@ bool GFPDB_STORE::next_row(QSqlQuery& query)
 }
 
 // A lock is forgotten when a read succeeds again; damage stays known until the file is opened anew.
-bool GFPDB_STORE::note_read_problem()
+bool GFPDB_SQLITE_STORE::note_read_problem()
 {
     if (m_read_problem != m_last_error)
         qCWarning(GFPDB_LOG, "%s", m_last_error.c_str());
@@ -162,7 +167,7 @@ bool GFPDB_STORE::note_read_problem()
     return false;
 }
 
-std::vector<std::string> GFPDB_STORE::read_names(QSqlQuery& query)
+std::vector<std::string> GFPDB_SQLITE_STORE::read_names(QSqlQuery& query)
 {
     std::vector<std::string> names;
     while (next_row(query))
@@ -170,7 +175,7 @@ std::vector<std::string> GFPDB_STORE::read_names(QSqlQuery& query)
     return names;
 }
 
-std::vector<std::string> GFPDB_STORE::get_device_names(int family, int scheme)
+std::vector<std::string> GFPDB_SQLITE_STORE::get_device_names(int family, int scheme)
 {
     QSqlQuery query;
     if (!start_read(query, "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? ORDER BY name_key",
@@ -179,7 +184,7 @@ std::vector<std::string> GFPDB_STORE::get_device_names(int family, int scheme)
     return read_names(query);
 }
 
-std::vector<std::string> GFPDB_STORE::get_template_names()
+std::vector<std::string> GFPDB_SQLITE_STORE::get_template_names()
 {
     QSqlQuery query;
     if (!start_read(query, "SELECT CAST(template_name AS BLOB) FROM template ORDER BY template_key"))
@@ -189,7 +194,7 @@ std::vector<std::string> GFPDB_STORE::get_template_names()
 
 // The rows are large, and a directory may have many of them: they are not read again for every list. A list that lacks
 // the value of a device would have a form show another one.
-GFPDB_USED_VALUES GFPDB_STORE::get_used_values(const std::vector<int>& schemes)
+GFPDB_USED_VALUES GFPDB_SQLITE_STORE::get_used_values(const std::vector<int>& schemes)
 {
     const std::string foreign_changes = read_text("PRAGMA data_version", {});
     KNOWN_VALUES& known = m_used_values[schemes];
@@ -201,7 +206,7 @@ GFPDB_USED_VALUES GFPDB_STORE::get_used_values(const std::vector<int>& schemes)
     return known.values;
 }
 
-bool GFPDB_STORE::read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values)
+bool GFPDB_SQLITE_STORE::read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values)
 {
     QStringList numbers;
     for (const int scheme : schemes)
@@ -222,7 +227,7 @@ bool GFPDB_STORE::read_used_values(const std::vector<int>& schemes, GFPDB_USED_V
 }
 
 // Other programs' changes are counted by SQLite; this program's own are not.
-void GFPDB_STORE::note_used_values(const GFPDB_ROW& row)
+void GFPDB_SQLITE_STORE::note_used_values(const GFPDB_ROW& row)
 {
     for (const auto& known : m_used_values) {
         if (std::find(known.first.begin(), known.first.end(), row.scheme) != known.first.end())
@@ -230,8 +235,8 @@ void GFPDB_STORE::note_used_values(const GFPDB_ROW& row)
     }
 }
 
-void GFPDB_STORE::note_used_values(const std::vector<int>& schemes, const std::string& voltage,
-                                   const std::string& density)
+void GFPDB_SQLITE_STORE::note_used_values(const std::vector<int>& schemes, const std::string& voltage,
+                                          const std::string& density)
 {
     GFPDB_USED_VALUES& values = m_used_values[schemes].values;
     values.voltages.insert(voltage);
@@ -239,34 +244,35 @@ void GFPDB_STORE::note_used_values(const std::vector<int>& schemes, const std::s
 }
 
 // They are offered until they can be read again.
-void GFPDB_STORE::forget_used_values()
+void GFPDB_SQLITE_STORE::forget_used_values()
 {
     for (auto& known : m_used_values)
         known.second.foreign_changes.clear();
 }
 
-std::string GFPDB_STORE::read_text(const char* statement, const QVariantList& values)
+std::string GFPDB_SQLITE_STORE::read_text(const char* statement, const QVariantList& values)
 {
     QSqlQuery query;
     return start_read(query, statement, values) && next_row(query) ? text_at(query, 0) : std::string();
 }
 
-std::string GFPDB_STORE::get_device_name(int family, int scheme, const std::string& name)
+std::string GFPDB_SQLITE_STORE::get_device_name(int family, int scheme, const std::string& name)
 {
     return read_text(DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)});
 }
 
-std::string GFPDB_STORE::get_template_name(const std::string& template_name)
+std::string GFPDB_SQLITE_STORE::get_template_name(const std::string& template_name)
 {
     return read_text(TEMPLATE_NAME_OF_KEY, {key_of(template_name)});
 }
 
-std::string GFPDB_STORE::get_any_device_name(const std::string& name)
+std::string GFPDB_SQLITE_STORE::get_any_device_name(const std::string& name)
 {
     return read_text(ANY_DEVICE_NAME_OF_KEY, {key_of(name)});
 }
 
-std::vector<std::string> GFPDB_STORE::find_device_keys(int family, int scheme, const std::vector<std::string>& keys)
+std::vector<std::string> GFPDB_SQLITE_STORE::find_device_keys(int family, int scheme,
+                                                              const std::vector<std::string>& keys)
 {
     std::vector<std::string> found;
     for (std::size_t first = 0; first < keys.size(); first += KEYS_AT_ONCE) {
@@ -287,7 +293,7 @@ std::vector<std::string> GFPDB_STORE::find_device_keys(int family, int scheme, c
     return found;
 }
 
-std::optional<GFPDB_ROW> GFPDB_STORE::find_device(int family, int scheme, const std::string& name)
+std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
     if (!start_read(query,
@@ -298,7 +304,7 @@ std::optional<GFPDB_ROW> GFPDB_STORE::find_device(int family, int scheme, const 
     return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
 }
 
-std::optional<GFPDB_ROW> GFPDB_STORE::find_template(const std::string& template_name)
+std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_template(const std::string& template_name)
 {
     QSqlQuery query;
     if (!start_read(query, "SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)",
@@ -307,18 +313,18 @@ std::optional<GFPDB_ROW> GFPDB_STORE::find_template(const std::string& template_
     return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
 }
 
-std::string GFPDB_STORE::get_device_revision(int family, int scheme, const std::string& name)
+std::string GFPDB_SQLITE_STORE::get_device_revision(int family, int scheme, const std::string& name)
 {
     return read_text("SELECT revision FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
                      {family, scheme, key_of(name)});
 }
 
-std::string GFPDB_STORE::get_template_revision(const std::string& template_name)
+std::string GFPDB_SQLITE_STORE::get_template_revision(const std::string& template_name)
 {
     return read_text("SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(template_name)});
 }
 
-bool GFPDB_STORE::check_integrity()
+bool GFPDB_SQLITE_STORE::check_integrity()
 {
     QSqlQuery query;
     if (!start_read(query, "PRAGMA integrity_check"))
@@ -327,21 +333,21 @@ bool GFPDB_STORE::check_integrity()
            (line_at(query, 0) == "ok" || fail("The database in " + m_directory + " is damaged: " + line_at(query, 0)));
 }
 
-bool GFPDB_STORE::has_device(const std::string& name)
+bool GFPDB_SQLITE_STORE::has_device(const std::string& name)
 {
     QSqlQuery query;
     return start_read(query, "SELECT 1 FROM device WHERE name_key = CAST(? AS TEXT)", {key_of(name)}) &&
            next_row(query);
 }
 
-bool GFPDB_STORE::remove_template(const std::string& template_name)
+bool GFPDB_SQLITE_STORE::remove_template(const std::string& template_name)
 {
     if (!prepare_write())
         return false;
     return m_state == STATE::NO_FILE || change([&] { return drop_template(template_name, REASON_DELETED); });
 }
 
-std::vector<GFPDB_ROW> GFPDB_STORE::read_rows(const char* statement)
+std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const char* statement)
 {
     std::vector<GFPDB_ROW> rows;
     QSqlQuery query;
@@ -352,19 +358,19 @@ std::vector<GFPDB_ROW> GFPDB_STORE::read_rows(const char* statement)
     return rows;
 }
 
-std::vector<GFPDB_ROW> GFPDB_STORE::get_devices()
+std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::get_devices()
 {
     return read_rows("SELECT " GFPDB_SCALARS_READ " FROM device ORDER BY family, scheme, name_key");
 }
 
-std::vector<GFPDB_ROW> GFPDB_STORE::get_templates()
+std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::get_templates()
 {
     return read_rows("SELECT " GFPDB_SCALARS_READ " FROM template ORDER BY template_key");
 }
 
 // The devices first: then a name that is used twice within what is saved is found by the templates.
-bool GFPDB_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                           const std::function<void(int)>& progress)
+bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
+                                  const std::function<void(int)>& progress)
 {
     forget_used_values();
     return prepare_write() && change([&] {
@@ -383,19 +389,19 @@ bool GFPDB_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vec
            });
 }
 
-bool GFPDB_STORE::replace_device(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::replace_device(const GFPDB_ROW& row)
 {
     return check_no_template(row.name) && drop_device(row.family, row.scheme, row.name, REASON_REPLACED) &&
            insert_device(row);
 }
 
-bool GFPDB_STORE::replace_template(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row)
 {
     return check_no_device(row.template_name) && drop_template(row.template_name, REASON_REPLACED) &&
            insert_template(row);
 }
 
-std::vector<GFPDB_HISTORY_ENTRY> GFPDB_STORE::get_history()
+std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history()
 {
     std::vector<GFPDB_HISTORY_ENTRY> entries;
     QSqlQuery query;
@@ -408,7 +414,7 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_STORE::get_history()
     return entries;
 }
 
-std::optional<GFPDB_HISTORY_ENTRY> GFPDB_STORE::find_history(std::int64_t id)
+std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t id)
 {
     QSqlQuery query;
     if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?",
@@ -420,7 +426,7 @@ std::optional<GFPDB_HISTORY_ENTRY> GFPDB_STORE::find_history(std::int64_t id)
     return entry;
 }
 
-bool GFPDB_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name)
+bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name)
 {
     const std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
     if (!entry)
@@ -436,7 +442,7 @@ bool GFPDB_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string&
            });
 }
 
-bool GFPDB_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
+bool GFPDB_SQLITE_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
 {
     if (!check_no_template(row.name))
         return false;
@@ -445,7 +451,7 @@ bool GFPDB_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
     return check_no_such_device(row.family, row.scheme, row.name) && insert_device(row);
 }
 
-bool GFPDB_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
+bool GFPDB_SQLITE_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
 {
     if (!check_no_device(row.template_name))
         return false;
@@ -455,7 +461,7 @@ bool GFPDB_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
 }
 
 // Runs `query`; false, with the reason, when it finds the name of a record that `name` cannot be used beside.
-bool GFPDB_STORE::finds_none(QSqlQuery& query, const char* what, const std::string& name)
+bool GFPDB_SQLITE_STORE::finds_none(QSqlQuery& query, const char* what, const std::string& name)
 {
     if (next_row(query))
         return fail(in_the_way(what, text_at(query, 0), name));
@@ -463,7 +469,7 @@ bool GFPDB_STORE::finds_none(QSqlQuery& query, const char* what, const std::stri
 }
 
 // Runs a part of a change: unlike the public reads, it looks at the file that the transaction is on.
-bool GFPDB_STORE::look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row)
+bool GFPDB_SQLITE_STORE::look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row)
 {
     QSqlQuery query;
     if (!prepare(query, statement, values))
@@ -473,7 +479,7 @@ bool GFPDB_STORE::look_up(const char* statement, const QVariantList& values, std
 }
 
 // A template may be stored again by the device that it is a copy of.
-bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::check_free_names(const GFPDB_ROW& row)
 {
     if (!check_no_template(row.name))
         return false;
@@ -492,31 +498,31 @@ bool GFPDB_STORE::check_free_names(const GFPDB_ROW& row)
     return !query.lastError().isValid() && check_no_device(row.template_name);
 }
 
-bool GFPDB_STORE::check_no_template(const std::string& name)
+bool GFPDB_SQLITE_STORE::check_no_template(const std::string& name)
 {
     QSqlQuery query;
     return prepare(query, TEMPLATE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_TEMPLATE, name);
 }
 
-bool GFPDB_STORE::check_no_device(const std::string& name)
+bool GFPDB_SQLITE_STORE::check_no_device(const std::string& name)
 {
     QSqlQuery query;
     return prepare(query, ANY_DEVICE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_DEVICE, name);
 }
 
-bool GFPDB_STORE::check_different_names(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::check_different_names(const GFPDB_ROW& row)
 {
     return gfpdb_name_key(row.template_name) != gfpdb_name_key(row.name) ||
            fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) + ".");
 }
 
-bool GFPDB_STORE::check_no_such_device(int family, int scheme, const std::string& name)
+bool GFPDB_SQLITE_STORE::check_no_such_device(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
     return prepare(query, DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)}) && finds_none(query, A_DEVICE, name);
 }
 
-bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::insert_device(const GFPDB_ROW& row)
 {
     QSqlQuery query;
     return prepare(query, "INSERT INTO device (name_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")",
@@ -524,7 +530,7 @@ bool GFPDB_STORE::insert_device(const GFPDB_ROW& row)
            run(query);
 }
 
-bool GFPDB_STORE::insert_template(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::insert_template(const GFPDB_ROW& row)
 {
     QSqlQuery query;
     return prepare(query,
@@ -534,8 +540,8 @@ bool GFPDB_STORE::insert_template(const GFPDB_ROW& row)
 }
 
 // `history_id` (may be null) hears the number that the former state got, if there was one.
-bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason,
-                              std::int64_t* history_id)
+bool GFPDB_SQLITE_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason,
+                                     std::int64_t* history_id)
 {
     constexpr char TO_HISTORY[] = GFPDB_TO_HISTORY "FROM device WHERE family = ? AND scheme = ? AND "
                                                    "name_key = CAST(? AS TEXT)";
@@ -550,7 +556,7 @@ bool GFPDB_STORE::drop_device(int family, int scheme, const std::string& name, c
     return prepare(removal, REMOVAL, which) && run(removal);
 }
 
-bool GFPDB_STORE::drop_template(const std::string& template_name, const char* reason)
+bool GFPDB_SQLITE_STORE::drop_template(const std::string& template_name, const char* reason)
 {
     const QVariantList which = {key_of(template_name)};
     QSqlQuery to_history;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-// The part of GFPDB_STORE that deals with saving and removing one device, which belong together in one Apply: what a
-// removal takes is replaced by the save that follows, or put back.
+// The part of GFPDB_SQLITE_STORE that deals with saving and removing one device, which belong together in one Apply:
+// what a removal takes is replaced by the save that follows, or put back.
 #include "base/gfpdb_text.h"
-#include "store/gfpdb_store.h"
+#include "store/sqlite/gfpdb_sqlite_store.h"
 #include "store/sqlite/gfpdb_store_sql.h"
 
 #include <QSqlError>
@@ -11,7 +11,8 @@
 
 using namespace GFPDB_SQL;
 
-std::optional<std::string> GFPDB_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, bool is_new_name)
+std::optional<std::string> GFPDB_SQLITE_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken,
+                                                           bool is_new_name)
 {
     std::string revision;
     const auto work = [&] {
@@ -26,7 +27,7 @@ std::optional<std::string> GFPDB_STORE::save_device(const GFPDB_ROW& row, const 
 
 // What is stored already stays as it is: saving it again makes no other state. What this program has just taken counts
 // as stored, unless another program has stored something in its place meanwhile.
-bool GFPDB_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision)
+bool GFPDB_SQLITE_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision)
 {
     constexpr char DEVICE[] =
         "SELECT " GFPDB_ALL_READ " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
@@ -46,7 +47,7 @@ bool GFPDB_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std:
     return (is_unchanged || insert_device(row)) && (taken == nullptr || mark_taken(*taken, REASON_REPLACED));
 }
 
-bool GFPDB_STORE::save_template(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
 {
     if (row.template_name.empty())
         return true;
@@ -60,7 +61,8 @@ bool GFPDB_STORE::save_template(const GFPDB_ROW& row)
 }
 
 // Nothing is made just to remove something from it.
-bool GFPDB_STORE::remove_device(int family, int scheme, const std::string& name, std::optional<GFPDB_TAKEN>* taken)
+bool GFPDB_SQLITE_STORE::remove_device(int family, int scheme, const std::string& name,
+                                       std::optional<GFPDB_TAKEN>* taken)
 {
     if (!prepare_write())
         return false;
@@ -79,7 +81,7 @@ bool GFPDB_STORE::remove_device(int family, int scheme, const std::string& name,
 }
 
 // The revision of what was just removed, if anything was.
-bool GFPDB_STORE::read_revision(GFPDB_TAKEN& taken)
+bool GFPDB_SQLITE_STORE::read_revision(GFPDB_TAKEN& taken)
 {
     QSqlQuery query;
     if (!prepare(query, "SELECT revision FROM history WHERE id = ?", {qlonglong(taken.history_id)}))
@@ -88,7 +90,7 @@ bool GFPDB_STORE::read_revision(GFPDB_TAKEN& taken)
     return !query.lastError().isValid();
 }
 
-bool GFPDB_STORE::undo_removal(const GFPDB_TAKEN& taken)
+bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
 {
     const auto work = [&] {
         return check_no_template(taken.name) && check_no_such_device(taken.family, taken.scheme, taken.name) &&
@@ -104,13 +106,13 @@ bool GFPDB_STORE::undo_removal(const GFPDB_TAKEN& taken)
 // The taken record in the history, by its number and, should that have been given to another one, its revision.
 #define GFPDB_WHERE_TAKEN "WHERE id = ? AND revision = ? AND reason = 'deleted'"
 
-bool GFPDB_STORE::find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row)
+bool GFPDB_SQLITE_STORE::find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row)
 {
     return look_up("SELECT " GFPDB_ALL_READ " FROM history " GFPDB_WHERE_TAKEN,
                    {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}, row);
 }
 
-bool GFPDB_STORE::insert_taken(const GFPDB_TAKEN& taken)
+bool GFPDB_SQLITE_STORE::insert_taken(const GFPDB_TAKEN& taken)
 {
     QSqlQuery query;
     if (!prepare(query,
@@ -122,7 +124,7 @@ bool GFPDB_STORE::insert_taken(const GFPDB_TAKEN& taken)
     return query.numRowsAffected() == 1 || fail("It is not in the history any more.");
 }
 
-bool GFPDB_STORE::mark_taken(const GFPDB_TAKEN& taken, const char* reason)
+bool GFPDB_SQLITE_STORE::mark_taken(const GFPDB_TAKEN& taken, const char* reason)
 {
     QSqlQuery query;
     return prepare(
@@ -131,7 +133,7 @@ bool GFPDB_STORE::mark_taken(const GFPDB_TAKEN& taken, const char* reason)
            run(query);
 }
 
-bool GFPDB_STORE::forget_taken(const GFPDB_TAKEN& taken)
+bool GFPDB_SQLITE_STORE::forget_taken(const GFPDB_TAKEN& taken)
 {
     QSqlQuery query;
     return note_last_state() &&

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-// The part of GFPDB_STORE that deals with the database file: opening, making, locking. The schema is in
+// The part of GFPDB_SQLITE_STORE that deals with the database file: opening, making, locking. The schema is in
 // gfpdb_store_schema.cpp, the records are in gfpdb_store.cpp.
-#include "store/gfpdb_store.h"
+#include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_settings.h"
@@ -28,7 +28,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-const char GFPDB_STORE::FILE_NAME[] = "gfpdb.sqlite";
+const char GFPDB_SQLITE_STORE::FILE_NAME[] = "gfpdb.sqlite";
 
 namespace {
 
@@ -183,68 +183,70 @@ void sync_directory(const std::string& directory)
 
 } // namespace
 
-GFPDB_STORE::GFPDB_STORE(const std::string& directory) : m_directory(directory), m_connection(next_connection()) {}
+GFPDB_SQLITE_STORE::GFPDB_SQLITE_STORE(const std::string& directory)
+    : m_directory(directory), m_connection(next_connection())
+{}
 
-GFPDB_STORE::~GFPDB_STORE()
+GFPDB_SQLITE_STORE::~GFPDB_SQLITE_STORE()
 {
     close();
 }
 
-std::string GFPDB_STORE::file_path() const
+std::string GFPDB_SQLITE_STORE::file_path() const
 {
     return m_directory + FILE_NAME;
 }
 
-QString GFPDB_STORE::connection_name() const
+QString GFPDB_SQLITE_STORE::connection_name() const
 {
     return QStringLiteral("gfpdb %1 %2").arg(m_connection).arg(gfpdb_from_utf8(m_directory));
 }
 
 // Looked up anew for every use: Qt closes all connections when the application object goes.
-QSqlDatabase GFPDB_STORE::database() const
+QSqlDatabase GFPDB_SQLITE_STORE::database() const
 {
     return QSqlDatabase::database(connection_name(), false);
 }
 
-void GFPDB_STORE::reload()
+void GFPDB_SQLITE_STORE::reload()
 {
     m_state = STATE::CLOSED;
     m_was_replaced = false;
     m_problem.clear();
 }
 
-bool GFPDB_STORE::is_readable()
+bool GFPDB_SQLITE_STORE::is_readable()
 {
     refresh();
     return m_state != STATE::UNUSABLE;
 }
 
-bool GFPDB_STORE::is_writable()
+bool GFPDB_SQLITE_STORE::is_writable()
 {
     refresh();
     return m_state == STATE::NO_FILE || m_state == STATE::READ_WRITE;
 }
 
-bool GFPDB_STORE::is_read_only()
+bool GFPDB_SQLITE_STORE::is_read_only()
 {
     refresh();
     return m_state == STATE::READ_ONLY;
 }
 
-std::string GFPDB_STORE::get_problem()
+std::string GFPDB_SQLITE_STORE::get_problem()
 {
     refresh();
     return m_problem.empty() ? m_read_problem : m_problem;
 }
 
-void GFPDB_STORE::close()
+void GFPDB_SQLITE_STORE::close()
 {
     m_database_id.clear();
     if (QSqlDatabase::contains(connection_name()))
         QSqlDatabase::removeDatabase(connection_name());
 }
 
-void GFPDB_STORE::set_problem(STATE state, const std::string& problem)
+void GFPDB_SQLITE_STORE::set_problem(STATE state, const std::string& problem)
 {
     m_state = state;
     if (problem != m_problem && !problem.empty())
@@ -252,13 +254,13 @@ void GFPDB_STORE::set_problem(STATE state, const std::string& problem)
     m_problem = problem;
 }
 
-bool GFPDB_STORE::fail(const std::string& error)
+bool GFPDB_SQLITE_STORE::fail(const std::string& error)
 {
     m_last_error = error;
     return false;
 }
 
-bool GFPDB_STORE::fail(const QSqlError& error)
+bool GFPDB_SQLITE_STORE::fail(const QSqlError& error)
 {
     m_is_locked = code_of(error) == SQLITE_CODE_BUSY;
     // SQLite opens a file for reading when it could not be opened for writing, and stays with that.
@@ -270,7 +272,7 @@ bool GFPDB_STORE::fail(const QSqlError& error)
     return fail(describe(error, file_path()));
 }
 
-bool GFPDB_STORE::prepare(QSqlQuery& query, const char* statement, const QVariantList& values)
+bool GFPDB_SQLITE_STORE::prepare(QSqlQuery& query, const char* statement, const QVariantList& values)
 {
     query = QSqlQuery(database());
     query.setForwardOnly(true);
@@ -281,18 +283,18 @@ bool GFPDB_STORE::prepare(QSqlQuery& query, const char* statement, const QVarian
     return true;
 }
 
-bool GFPDB_STORE::run(QSqlQuery& query)
+bool GFPDB_SQLITE_STORE::run(QSqlQuery& query)
 {
     return query.exec() || fail(query.lastError());
 }
 
-bool GFPDB_STORE::run(const char* statement)
+bool GFPDB_SQLITE_STORE::run(const char* statement)
 {
     QSqlQuery query(database());
     return query.exec(QLatin1String(statement)) || fail(query.lastError());
 }
 
-void GFPDB_STORE::open()
+void GFPDB_SQLITE_STORE::open()
 {
     close();
     m_state = STATE::CLOSED;
@@ -315,7 +317,7 @@ void GFPDB_STORE::open()
     }
 }
 
-bool GFPDB_STORE::examine_directory()
+bool GFPDB_SQLITE_STORE::examine_directory()
 {
     struct stat status = {};
     const std::string name = "The database directory " + m_directory;
@@ -334,7 +336,7 @@ bool GFPDB_STORE::examine_directory()
 }
 
 // Looks at the file without opening it: closing it again would drop the locks that SQLite holds on it.
-bool GFPDB_STORE::examine_file()
+bool GFPDB_SQLITE_STORE::examine_file()
 {
     struct stat status = {};
     const std::string left = left_file(file_path());
@@ -358,7 +360,7 @@ bool GFPDB_STORE::examine_file()
 }
 
 // `left` was there before the file was found missing: another program may just have made it, and be writing.
-void GFPDB_STORE::examine_missing_file(int error, const std::string& left)
+void GFPDB_SQLITE_STORE::examine_missing_file(int error, const std::string& left)
 {
     struct stat status = {};
     const bool is_link = ::lstat(file_path().c_str(), &status) == 0;
@@ -380,7 +382,7 @@ void GFPDB_STORE::examine_missing_file(int error, const std::string& left)
 
 // SQLite follows a hard link in the place of its journal, old versions a symbolic one as well, and writes into or cuts
 // off whatever is at its end.
-bool GFPDB_STORE::has_own_companions()
+bool GFPDB_SQLITE_STORE::has_own_companions()
 {
     const std::string path = real_path_of(file_path());
     for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX, "-shm"}) {
@@ -395,7 +397,7 @@ bool GFPDB_STORE::has_own_companions()
 }
 
 // This program writes no WAL: one that has something in it is another program's.
-bool GFPDB_STORE::has_own_journal(const std::string& path)
+bool GFPDB_SQLITE_STORE::has_own_journal(const std::string& path)
 {
     const std::string left = left_file(path);
     const std::string problem = "The database " + file_path() + " is not used: " + left;
@@ -414,7 +416,7 @@ bool GFPDB_STORE::has_own_journal(const std::string& path)
     return false;
 }
 
-bool GFPDB_STORE::connect(const std::string& path, const char* mode)
+bool GFPDB_SQLITE_STORE::connect(const std::string& path, const char* mode)
 {
     QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_name());
     if (!connection.isValid())
@@ -425,7 +427,7 @@ bool GFPDB_STORE::connect(const std::string& path, const char* mode)
            run("PRAGMA trusted_schema = OFF") && run("PRAGMA cell_size_check = ON");
 }
 
-bool GFPDB_STORE::is_whole_file()
+bool GFPDB_SQLITE_STORE::is_whole_file()
 {
     QSqlQuery query(database());
     struct stat status = {};
@@ -437,7 +439,7 @@ bool GFPDB_STORE::is_whole_file()
 }
 
 // The file gets its name only when it is complete, so no one ever sees half a database.
-bool GFPDB_STORE::create_file()
+bool GFPDB_SQLITE_STORE::create_file()
 {
     const std::string unfinished =
         file_path() + ".new-" + gfpdb_to_utf8(QUuid::createUuid().toString(QUuid::WithoutBraces));
@@ -450,12 +452,12 @@ bool GFPDB_STORE::create_file()
     return is_published;
 }
 
-bool GFPDB_STORE::fail_to_make(const std::string& why)
+bool GFPDB_SQLITE_STORE::fail_to_make(const std::string& why)
 {
     return fail("The database " + file_path() + " cannot be made: " + why + ".");
 }
 
-bool GFPDB_STORE::build_new_file(const std::string& path)
+bool GFPDB_SQLITE_STORE::build_new_file(const std::string& path)
 {
     struct stat status = {};
     if (!make_empty_file(path, m_directory, status))
@@ -469,13 +471,13 @@ bool GFPDB_STORE::build_new_file(const std::string& path)
 }
 
 // True while the name of the file that is open stands for that file.
-bool GFPDB_STORE::is_same_file() const
+bool GFPDB_SQLITE_STORE::is_same_file() const
 {
     struct stat status = {};
     return ::stat(file_path().c_str(), &status) == 0 && m_identity == FILE_IDENTITY{status.st_dev, status.st_ino};
 }
 
-void GFPDB_STORE::refresh()
+void GFPDB_SQLITE_STORE::refresh()
 {
     const bool is_open = m_state == STATE::READ_ONLY || m_state == STATE::READ_WRITE;
     if (m_state == STATE::UNUSABLE && std::chrono::steady_clock::now() < m_locked_until)
@@ -489,7 +491,7 @@ void GFPDB_STORE::refresh()
     open();
 }
 
-bool GFPDB_STORE::prepare_read()
+bool GFPDB_SQLITE_STORE::prepare_read()
 {
     m_last_error.clear();
     refresh();
@@ -498,7 +500,7 @@ bool GFPDB_STORE::prepare_read()
     return m_state == STATE::READ_ONLY || m_state == STATE::READ_WRITE;
 }
 
-bool GFPDB_STORE::prepare_write()
+bool GFPDB_SQLITE_STORE::prepare_write()
 {
     m_last_error.clear();
     m_locked_until = {};
@@ -513,14 +515,14 @@ bool GFPDB_STORE::prepare_write()
 }
 
 // Once: then the user knows.
-bool GFPDB_STORE::refuse_replaced_file()
+bool GFPDB_SQLITE_STORE::refuse_replaced_file()
 {
     m_was_replaced = false;
     return fail("The database " + file_path() + " was replaced or removed by another program while it was in use. " +
                 "Nothing was changed: look at the devices that are there now, then try again.");
 }
 
-bool GFPDB_STORE::change(const WORK& work)
+bool GFPDB_SQLITE_STORE::change(const WORK& work)
 {
     if (m_state == STATE::NO_FILE) {
         if (!create_file())
@@ -535,14 +537,14 @@ bool GFPDB_STORE::change(const WORK& work)
 // Each transaction leaves a number of its own in the file, in a place that is written in any case. A commit whose last
 // calls fail (to sync an empty journal, to go on reading) is reported as failed although all of it is there. The number
 // of the transaction before stays beside it (gfpdb_journal.h).
-bool GFPDB_STORE::set_mark(int mark)
+bool GFPDB_SQLITE_STORE::set_mark(int mark)
 {
     const std::optional<int> former = read_mark();
     return former && run(("PRAGMA application_id = " + std::to_string(*former)).c_str()) &&
            run(("PRAGMA user_version = " + std::to_string(mark)).c_str());
 }
 
-std::optional<int> GFPDB_STORE::read_mark()
+std::optional<int> GFPDB_SQLITE_STORE::read_mark()
 {
     QSqlQuery query;
     if (!prepare(query, "PRAGMA user_version") || !run(query) || !query.next())
@@ -551,7 +553,7 @@ std::optional<int> GFPDB_STORE::read_mark()
 }
 
 // After a commit that failed with `error`.
-bool GFPDB_STORE::is_stored(int mark, const std::string& error)
+bool GFPDB_SQLITE_STORE::is_stored(int mark, const std::string& error)
 {
     const std::optional<int> stored = read_mark();
     if (!stored)
@@ -560,7 +562,7 @@ bool GFPDB_STORE::is_stored(int mark, const std::string& error)
 }
 
 // Once, after a commit: what was stored is not where the user looks.
-bool GFPDB_STORE::is_stored_in_place()
+bool GFPDB_SQLITE_STORE::is_stored_in_place()
 {
     if (is_same_file())
         return true;
@@ -569,7 +571,7 @@ bool GFPDB_STORE::is_stored_in_place()
                 "stored, which is lost: look at the devices that are there now, then try again.");
 }
 
-bool GFPDB_STORE::run_transaction(const WORK& work)
+bool GFPDB_SQLITE_STORE::run_transaction(const WORK& work)
 {
     if (!run("BEGIN IMMEDIATE"))
         return false;

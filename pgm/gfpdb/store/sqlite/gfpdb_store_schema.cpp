@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-// The part of GFPDB_STORE that deals with the schema: what it must be, reading it, upgrading it. The file is in
+// The part of GFPDB_SQLITE_STORE that deals with the schema: what it must be, reading it, upgrading it. The file is in
 // gfpdb_store_file.cpp.
 //
 // A file that others can write is believed only as far as its schema is, word for word, one that this library makes:
 // then nothing runs but the library's own statements. A view in the place of a table could run for ever, a trigger
 // could remove what is being saved.
-#include "store/gfpdb_store.h"
+#include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include "base/gfpdb_text.h"
 
@@ -82,7 +82,7 @@ QStringList make_schema(int version, const QString& connection_name)
 // The rows of schema `version`, which must be one of ours.
 const QStringList& known_schema(int version)
 {
-    static std::array<QStringList, GFPDB_STORE::SCHEMA_VERSION + 1> schemas;
+    static std::array<QStringList, GFPDB_SQLITE_STORE::SCHEMA_VERSION + 1> schemas;
     QStringList& rows = schemas[static_cast<std::size_t>(version)];
     if (rows.isEmpty()) {
         const QString connection_name = QStringLiteral("gfpdb schema");
@@ -94,7 +94,7 @@ const QStringList& known_schema(int version)
 
 } // namespace
 
-std::optional<std::string> GFPDB_STORE::read_meta(const char* name)
+std::optional<std::string> GFPDB_SQLITE_STORE::read_meta(const char* name)
 {
     QSqlQuery query;
     if (!prepare(query, "SELECT value FROM meta WHERE name = ?", {QLatin1String(name)}) || !run(query))
@@ -102,7 +102,7 @@ std::optional<std::string> GFPDB_STORE::read_meta(const char* name)
     return query.next() ? gfpdb_to_utf8(query.value(0).toString()) : std::string();
 }
 
-std::optional<QStringList> GFPDB_STORE::read_schema_rows()
+std::optional<QStringList> GFPDB_SQLITE_STORE::read_schema_rows()
 {
     QSqlQuery query;
     if (!prepare(query, SCHEMA_STATEMENT) || !run(query))
@@ -116,13 +116,13 @@ std::optional<QStringList> GFPDB_STORE::read_schema_rows()
 }
 
 // In one transaction, so that the size and the schema belong to the content.
-bool GFPDB_STORE::read_schema()
+bool GFPDB_SQLITE_STORE::read_schema()
 {
     return run("BEGIN") && check_schema() && check_encoding() && is_whole_file() && run("COMMIT");
 }
 
 // Texts are compared and cast as the bytes that they are: another encoding would cut them.
-bool GFPDB_STORE::check_encoding()
+bool GFPDB_SQLITE_STORE::check_encoding()
 {
     QSqlQuery query;
     if (!prepare(query, "PRAGMA encoding") || !run(query) || !query.next())
@@ -134,7 +134,7 @@ bool GFPDB_STORE::check_encoding()
 }
 
 // Nothing but the list of what is in the file is read before that list is known to be ours.
-bool GFPDB_STORE::check_schema()
+bool GFPDB_SQLITE_STORE::check_schema()
 {
     static const QString META_ROW = schema_row(
         {QStringLiteral("table"), QStringLiteral("meta"), QStringLiteral("meta"), QStringLiteral(GFPDB_META_TABLE)});
@@ -144,7 +144,7 @@ bool GFPDB_STORE::check_schema()
     return rows && version && is_known_schema(*rows, QByteArray::fromStdString(*version).toInt()) && remember_schema();
 }
 
-bool GFPDB_STORE::is_known_schema(const QStringList& rows, int version)
+bool GFPDB_SQLITE_STORE::is_known_schema(const QStringList& rows, int version)
 {
     m_schema_version = version;
     if (m_schema_version < 1)
@@ -161,7 +161,7 @@ bool GFPDB_STORE::is_known_schema(const QStringList& rows, int version)
 }
 
 // SQLite counts the changes of a schema.
-std::optional<int> GFPDB_STORE::read_schema_count()
+std::optional<int> GFPDB_SQLITE_STORE::read_schema_count()
 {
     QSqlQuery query;
     if (!prepare(query, "PRAGMA schema_version") || !run(query) || !query.next())
@@ -169,14 +169,14 @@ std::optional<int> GFPDB_STORE::read_schema_count()
     return query.value(0).toInt();
 }
 
-bool GFPDB_STORE::remember_schema()
+bool GFPDB_SQLITE_STORE::remember_schema()
 {
     m_schema_count = read_schema_count();
     return m_schema_count.has_value();
 }
 
 // True in a transaction on the file as it was opened: the same database with the same schema.
-bool GFPDB_STORE::is_same_database()
+bool GFPDB_SQLITE_STORE::is_same_database()
 {
     if (m_schema_count == read_schema_count())
         return m_database_id == read_meta("database_id");
@@ -186,7 +186,7 @@ bool GFPDB_STORE::is_same_database()
 
 // The journal is kept, emptied and synced. SQLite does not sync the directory of a journal that it deletes, so that a
 // machine that loses power could find it again and roll back what was reported as saved.
-bool GFPDB_STORE::upgrade()
+bool GFPDB_SQLITE_STORE::upgrade()
 {
     if (!run("PRAGMA journal_mode = TRUNCATE"))
         return false;
@@ -194,14 +194,14 @@ bool GFPDB_STORE::upgrade()
 }
 
 // Reads the version again: another program may have upgraded the file meanwhile.
-bool GFPDB_STORE::migrate()
+bool GFPDB_SQLITE_STORE::migrate()
 {
     const std::optional<std::string> text = read_meta("schema_version");
     return text && run_steps(QByteArray::fromStdString(*text).toInt());
 }
 
 // From the schema `from` to the present one.
-bool GFPDB_STORE::run_steps(int from)
+bool GFPDB_SQLITE_STORE::run_steps(int from)
 {
     for (int version = from; version < SCHEMA_VERSION; ++version) {
         if (!run_step(version))
@@ -210,7 +210,7 @@ bool GFPDB_STORE::run_steps(int from)
     return true;
 }
 
-bool GFPDB_STORE::run_step(int from)
+bool GFPDB_SQLITE_STORE::run_step(int from)
 {
     for (const char* statement : MIGRATIONS[static_cast<std::size_t>(from)]) {
         if (!run(statement))

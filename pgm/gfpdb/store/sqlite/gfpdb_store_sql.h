@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// What the parts of GFPDB_STORE that deal with records share: pieces of statements, and values for and from them.
+// What the parts of GFPDB_SQLITE_STORE that deal with records share: pieces of statements, and values for and from
+// them.
 //
 // Included by those sources only.
 #pragma once

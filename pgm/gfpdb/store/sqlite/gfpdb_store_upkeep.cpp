@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// The part of GFPDB_STORE that keeps the history small and the keys right. The records are in gfpdb_store.cpp.
-#include "store/gfpdb_store.h"
+// The part of GFPDB_SQLITE_STORE that keeps the history small and the keys right. The records are in gfpdb_store.cpp.
+#include "store/sqlite/gfpdb_sqlite_store.h"
 #include "store/sqlite/gfpdb_store_sql.h"
 
 #include "base/gfpdb_text.h"
@@ -28,7 +28,7 @@ std::string record_of(const GFPDB_HISTORY_ENTRY& entry)
 
 } // namespace
 
-std::optional<int> GFPDB_STORE::prune_history(const GFPDB_PRUNING& pruning)
+std::optional<int> GFPDB_SQLITE_STORE::prune_history(const GFPDB_PRUNING& pruning)
 {
     std::vector<std::int64_t> ids;
     if (!prepare_write())
@@ -39,7 +39,7 @@ std::optional<int> GFPDB_STORE::prune_history(const GFPDB_PRUNING& pruning)
 }
 
 // From the newest state of each record on.
-bool GFPDB_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::int64_t>& ids)
+bool GFPDB_SQLITE_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::int64_t>& ids)
 {
     QSqlQuery query;
     if (!prepare(query, "SELECT id, is_template, changed_at, family, scheme, CAST(name AS BLOB), "
@@ -66,7 +66,7 @@ bool GFPDB_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::i
 }
 
 // True when the record of `entry` is there now; what cannot be read counts as gone, so that its last state is kept.
-bool GFPDB_STORE::is_stored(const GFPDB_HISTORY_ENTRY& entry)
+bool GFPDB_SQLITE_STORE::is_stored(const GFPDB_HISTORY_ENTRY& entry)
 {
     QSqlQuery query;
     const bool is_prepared =
@@ -78,12 +78,12 @@ bool GFPDB_STORE::is_stored(const GFPDB_HISTORY_ENTRY& entry)
 }
 
 // Must be called before states are removed, in the same transaction.
-bool GFPDB_STORE::note_last_state()
+bool GFPDB_SQLITE_STORE::note_last_state()
 {
     return run("INSERT OR REPLACE INTO meta (name, value) VALUES ('last_state', " GFPDB_LAST_STATE ")");
 }
 
-bool GFPDB_STORE::remove_states(const std::vector<std::int64_t>& ids)
+bool GFPDB_SQLITE_STORE::remove_states(const std::vector<std::int64_t>& ids)
 {
     QSqlQuery query;
     if (ids.empty())
@@ -98,7 +98,7 @@ bool GFPDB_STORE::remove_states(const std::vector<std::int64_t>& ids)
     return true;
 }
 
-std::vector<GFPDB_MISPLACED> GFPDB_STORE::get_misplaced()
+std::vector<GFPDB_MISPLACED> GFPDB_SQLITE_STORE::get_misplaced()
 {
     std::vector<GFPDB_MISPLACED> misplaced;
     if (prepare_read() && !read_misplaced(misplaced))
@@ -106,7 +106,7 @@ std::vector<GFPDB_MISPLACED> GFPDB_STORE::get_misplaced()
     return misplaced;
 }
 
-bool GFPDB_STORE::read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced)
+bool GFPDB_SQLITE_STORE::read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced)
 {
     QSqlQuery query;
     if (!prepare(query, "SELECT 0 AS is_template, family, scheme, CAST(name AS BLOB), CAST(template_name AS BLOB), "
@@ -130,7 +130,7 @@ bool GFPDB_STORE::read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced)
 }
 
 // First out of each other's way: two records may have each other's key.
-std::optional<int> GFPDB_STORE::rebuild_keys()
+std::optional<int> GFPDB_SQLITE_STORE::rebuild_keys()
 {
     int placed = 0;
     if (!prepare_write())
@@ -152,7 +152,7 @@ std::optional<int> GFPDB_STORE::rebuild_keys()
     return is_done ? std::optional<int>(placed) : std::nullopt;
 }
 
-bool GFPDB_STORE::set_key(const GFPDB_MISPLACED& record, const std::string& key)
+bool GFPDB_SQLITE_STORE::set_key(const GFPDB_MISPLACED& record, const std::string& key)
 {
     QSqlQuery query;
     return prepare(query,
@@ -163,7 +163,7 @@ bool GFPDB_STORE::set_key(const GFPDB_MISPLACED& record, const std::string& key)
 }
 
 // Counts the record when its name is free for it.
-bool GFPDB_STORE::place(const GFPDB_MISPLACED& record, int& placed)
+bool GFPDB_SQLITE_STORE::place(const GFPDB_MISPLACED& record, int& placed)
 {
     const QByteArray key = key_of(record.name());
     QSqlQuery query;
