@@ -88,7 +88,7 @@ private:
     };
     using WORK = std::function<bool()>;
 
-    // gfpdb_store_file.cpp: the file, its schema, transactions.
+    // gfpdb_sqlite_file.cpp: the file, its schema, transactions.
     std::string file_path() const;
     QString connection_name() const;
     QSqlDatabase database() const;
@@ -123,7 +123,7 @@ private:
     bool run(const char* statement);
     bool run(QSqlQuery& query);
 
-    // gfpdb_store_schema.cpp: what is in the file besides records.
+    // gfpdb_sqlite_schema.cpp: what is in the file besides records.
     std::optional<std::string> read_meta(const char* name);
     std::optional<QStringList> read_schema_rows();
     bool read_schema();
@@ -138,7 +138,7 @@ private:
     bool run_steps(int from);
     bool run_step(int from);
 
-    // gfpdb_store.cpp: the records.
+    // gfpdb_sqlite_store.cpp: the records.
     bool read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values);
     void note_used_values(const GFPDB_ROW& row);
     void forget_used_values();
@@ -165,7 +165,7 @@ private:
                      std::int64_t* history_id = nullptr);
     bool drop_template(const std::string& template_name, const char* reason);
 
-    // gfpdb_store_apply.cpp: saving and removing one device.
+    // gfpdb_sqlite_store_apply.cpp: saving and removing one device.
     bool read_revision(GFPDB_TAKEN& taken);
     bool find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row);
     bool save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision);
@@ -174,7 +174,7 @@ private:
     bool mark_taken(const GFPDB_TAKEN& taken, const char* reason);
     bool forget_taken(const GFPDB_TAKEN& taken);
 
-    // gfpdb_store_upkeep.cpp: keeping the history small and the keys right.
+    // gfpdb_sqlite_store_upkeep.cpp: keeping the history small and the keys right.
     bool is_stored(const GFPDB_HISTORY_ENTRY& entry);
     bool find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::int64_t>& ids);
     bool note_last_state();

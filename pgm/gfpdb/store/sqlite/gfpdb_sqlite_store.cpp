@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The part of GFPDB_SQLITE_STORE that deals with the records. Saving and removing one device is in
-// gfpdb_store_apply.cpp, the file in gfpdb_store_file.cpp.
+// gfpdb_sqlite_store_apply.cpp, the file in gfpdb_sqlite_file.cpp.
 //
 // Texts go in as CAST(? AS TEXT) and come out as CAST(... AS BLOB): bytes as they are, where a conversion to UTF-16 and
 // back would drop byte order marks and replace some characters.
@@ -9,7 +9,7 @@
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
-#include "store/sqlite/gfpdb_store_sql.h"
+#include "store/sqlite/gfpdb_sqlite_sql.h"
 
 #include <QSqlDatabase>
 #include <QSqlError>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The part of GFPDB_SQLITE_STORE that deals with the schema: what it must be, reading it, upgrading it. The file is in
-// gfpdb_store_file.cpp.
+// gfpdb_sqlite_file.cpp.
 //
 // A file that others can write is believed only as far as its schema is, word for word, one that this library makes:
 // then nothing runs but the library's own statements. A view in the place of a table could run for ever, a trigger

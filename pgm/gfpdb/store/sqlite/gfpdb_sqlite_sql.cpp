@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/gfpdb_store_sql.h"
+#include "store/sqlite/gfpdb_sqlite_sql.h"
 
 #include "base/gfpdb_text.h"
 

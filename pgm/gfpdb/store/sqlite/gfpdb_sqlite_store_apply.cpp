@@ -3,8 +3,8 @@
 // The part of GFPDB_SQLITE_STORE that deals with saving and removing one device, which belong together in one Apply:
 // what a removal takes is replaced by the save that follows, or put back.
 #include "base/gfpdb_text.h"
+#include "store/sqlite/gfpdb_sqlite_sql.h"
 #include "store/sqlite/gfpdb_sqlite_store.h"
-#include "store/sqlite/gfpdb_store_sql.h"
 
 #include <QSqlError>
 #include <QSqlQuery>

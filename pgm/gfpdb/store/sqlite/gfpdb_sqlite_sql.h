@@ -14,7 +14,7 @@
 class QSqlQuery;
 
 // The columns that the tables device, template and history share: their names, and how their values are read. In the
-// order in which gfpdb_store.cpp binds and reads them.
+// order in which gfpdb_sqlite_store.cpp binds and reads them.
 #define GFPDB_COLUMNS                                                                                                  \
     "family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, quad_io_dummy_clock, "       \
     "template_name, flow_template, revision, saved_at, single_flows, quad_flows"

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-// The part of GFPDB_SQLITE_STORE that keeps the history small and the keys right. The records are in gfpdb_store.cpp.
+// The part of GFPDB_SQLITE_STORE that keeps the history small and the keys right. The records are in
+// gfpdb_sqlite_store.cpp.
+#include "store/sqlite/gfpdb_sqlite_sql.h"
 #include "store/sqlite/gfpdb_sqlite_store.h"
-#include "store/sqlite/gfpdb_store_sql.h"
 
 #include "base/gfpdb_text.h"
 

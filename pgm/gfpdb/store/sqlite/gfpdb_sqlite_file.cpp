@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The part of GFPDB_SQLITE_STORE that deals with the database file: opening, making, locking. The schema is in
-// gfpdb_store_schema.cpp, the records are in gfpdb_store.cpp.
+// gfpdb_sqlite_schema.cpp, the records are in gfpdb_sqlite_store.cpp.
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include "base/gfpdb_log.h"
