@@ -29,6 +29,13 @@ std::optional<int> CLI_CALL::number(const char* option) const
     return has(option) ? std::optional<int>(options.value(QLatin1String(option)).toInt()) : std::nullopt;
 }
 
+std::optional<CSV_FOR> CLI_CALL::list_reader() const
+{
+    if (has(CLI_OPTION_SPREADSHEET))
+        return CSV_FOR::SPREADSHEET;
+    return has(CLI_OPTION_CSV) ? std::optional<CSV_FOR>(CSV_FOR::IMPORT) : std::nullopt;
+}
+
 int CLI_CALL::wrong_usage(const std::string& text) const
 {
     output.error(text);

@@ -3,8 +3,10 @@
 // A command of the tool.
 #pragma once
 
-#include "cli_database.h"
-#include "cli_output.h"
+#include "manager/gfpdb_database.h"
+#include "output/cli_output.h"
+
+#include "exchange/gfpdb_record_csv.h"
 
 #include <QCommandLineParser>
 
@@ -36,6 +38,8 @@ struct CLI_CALL
     std::string value(const char* option) const;
     // The whole number that is the value of `option`; none when it was not given. It was checked before.
     std::optional<int> number(const char* option) const;
+    // Who reads the CSV list that the options ask for; none when they do not ask for one.
+    std::optional<CSV_FOR> list_reader() const;
     // Prints what is wrong with the arguments; returns CLI_EXIT_USAGE.
     int wrong_usage(const std::string& text) const;
     // Prints why the database cannot be used; returns CLI_EXIT_DATABASE.

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli_program.h"
 
-#include "check_command.h"
-#include "diff_command.h"
-#include "export_command.h"
-#include "history_command.h"
-#include "import_command.h"
-#include "list_command.h"
-#include "restore_command.h"
-#include "show_command.h"
+#include "commands/check_command.h"
+#include "commands/diff_command.h"
+#include "commands/export_command.h"
+#include "commands/history_command.h"
+#include "commands/import_command.h"
+#include "commands/list_command.h"
+#include "commands/restore_command.h"
+#include "commands/show_command.h"
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_catalogue.h"

@@ -6,11 +6,11 @@
 // of the rest, then both.
 #include "fuzz_target.h"
 
-#include "import_plan.h"
+#include "exchange/gfpdb_import_plan.h"
+#include "exchange/gfpdb_record_csv.h"
+#include "exchange/gfpdb_record_file.h"
+#include "exchange/gfpdb_record_json.h"
 #include "manager/gfpdb_embedded_mgr.h"
-#include "record_csv.h"
-#include "record_file.h"
-#include "record_json.h"
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include <QDir>

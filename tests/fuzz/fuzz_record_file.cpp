@@ -5,11 +5,11 @@
 // Input: a byte for the format and the rules, then the content of the file.
 #include "fuzz_target.h"
 
-#include "import_plan.h"
+#include "exchange/gfpdb_import_plan.h"
+#include "exchange/gfpdb_record_csv.h"
+#include "exchange/gfpdb_record_file.h"
+#include "exchange/gfpdb_record_json.h"
 #include "manager/gfpdb_embedded_mgr.h"
-#include "record_csv.h"
-#include "record_file.h"
-#include "record_json.h"
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include <QDir>

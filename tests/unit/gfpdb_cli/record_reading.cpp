@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/gfpdb_json.h"
 
-#include "record_csv.h"
+#include "exchange/gfpdb_record_csv.h"
 #include "record_reading.h"
 
 namespace {

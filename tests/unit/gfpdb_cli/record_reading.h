@@ -3,8 +3,8 @@
 // Reading records in the tests: what comes of a text, and the mistakes that were found in it.
 #pragma once
 
-#include "cli_record.h"
-#include "record_json.h"
+#include "exchange/gfpdb_record.h"
+#include "exchange/gfpdb_record_json.h"
 
 // The constants of the tests have names that enumerators of the library have as well.
 #include "cli_test.h"

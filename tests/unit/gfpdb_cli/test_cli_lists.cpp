@@ -3,7 +3,7 @@
 // Lists of devices as CSV: what is written, what is read, and what is said about mistakes.
 #include "manager/gfpdb_embedded_mgr.h"
 
-#include "record_csv.h"
+#include "exchange/gfpdb_record_csv.h"
 #include "record_reading.h"
 
 #include <limits>

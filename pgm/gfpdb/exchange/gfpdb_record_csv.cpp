@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "record_csv.h"
+#include "exchange/gfpdb_record_csv.h"
 
-#include "record_json.h"
+#include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_catalogue_csv.h"
@@ -107,13 +107,6 @@ JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
 }
 
 } // namespace
-
-std::optional<CSV_FOR> csv_reader(const CLI_CALL& call)
-{
-    if (call.has(CLI_OPTION_SPREADSHEET))
-        return CSV_FOR::SPREADSHEET;
-    return call.has(CLI_OPTION_CSV) ? std::optional<CSV_FOR>(CSV_FOR::IMPORT) : std::nullopt;
-}
 
 std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reader)
 {

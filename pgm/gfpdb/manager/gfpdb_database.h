@@ -3,7 +3,7 @@
 // The database directory that a run of the tool works on, and what is built in.
 #pragma once
 
-#include "cli_record.h"
+#include "exchange/gfpdb_record.h"
 
 #include "gfpdb/gfpdb_mgr.h"
 #include "store/gfpdb_store.h"

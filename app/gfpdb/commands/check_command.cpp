@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "check_command.h"
+#include "commands/check_command.h"
 
-#include "record_json.h"
+#include "exchange/gfpdb_record_json.h"
 
 #include <algorithm>
 

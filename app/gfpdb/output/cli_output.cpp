@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli_output.h"
+#include "output/cli_output.h"
 
 #include "base/gfpdb_text.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "history_command.h"
+#include "commands/history_command.h"
 
 #include "cli_find.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "record_rules.h"
+#include "exchange/gfpdb_record_rules.h"
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"

@@ -7,7 +7,7 @@
 // All functions make the record's family and configuration mode the manager's. Texts are UTF-8.
 #pragma once
 
-#include "cli_record.h"
+#include "exchange/gfpdb_record.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "record_text.h"
+#include "output/record_text.h"
 
-#include "cli_output.h"
+#include "output/cli_output.h"
 
 #include "model/gfpdb_field.h"
 #include "model/gfpdb_json.h"

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "export_command.h"
+#include "commands/export_command.h"
 
 #include "cli_find.h"
-#include "record_csv.h"
-#include "record_json.h"
+#include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_text.h"
 
@@ -101,7 +100,7 @@ int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
         return exit_code;
     exit_code = CLI_EXIT_OK;
     std::vector<CLI_RECORD> unreadable;
-    const std::optional<CSV_FOR> csv = csv_reader(call);
+    const std::optional<CSV_FOR> csv = call.list_reader();
     const std::string text = csv ? records_to_csv(*records, *csv) : json_write(records_to_json(*records, unreadable));
     if (!call.has(CLI_OPTION_OUTPUT))
         call.output.print(text);

@@ -6,8 +6,8 @@
 // written is read again byte for byte.
 #pragma once
 
-#include "cli_record.h"
-#include "record_rules.h"
+#include "exchange/gfpdb_record.h"
+#include "exchange/gfpdb_record_rules.h"
 
 #include "base/gfpdb_json.h"
 

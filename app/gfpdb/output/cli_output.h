@@ -3,7 +3,7 @@
 // Where the tool's texts go.
 #pragma once
 
-#include "cli_record.h"
+#include "exchange/gfpdb_record.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import_plan.h"
+#include "exchange/gfpdb_import_plan.h"
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"

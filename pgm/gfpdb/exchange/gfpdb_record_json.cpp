@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "record_json.h"
+#include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_action_model.h"

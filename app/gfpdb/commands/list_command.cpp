@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "list_command.h"
+#include "commands/list_command.h"
 
 #include "cli_find.h"
-#include "record_csv.h"
-#include "record_json.h"
+#include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_field.h"
@@ -144,7 +143,7 @@ void CLI_LIST_COMMAND::add_options(QCommandLineParser& parser) const
 
 int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
 {
-    const std::optional<CSV_FOR> reader = csv_reader(call);
+    const std::optional<CSV_FOR> reader = call.list_reader();
     if (reader && call.has(CLI_OPTION_JSON))
         return call.wrong_usage("--csv and --json cannot be used together.");
     const std::vector<LISTED> records = find(call);

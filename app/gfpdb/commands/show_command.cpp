@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "show_command.h"
+#include "commands/show_command.h"
 
 #include "cli_find.h"
-#include "record_json.h"
-#include "record_text.h"
+#include "exchange/gfpdb_record_json.h"
+#include "output/record_text.h"
 
 #include "base/gfpdb_text.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "record_file.h"
+#include "exchange/gfpdb_record_file.h"
 
-#include "record_csv.h"
-#include "record_json.h"
+#include "exchange/gfpdb_record_csv.h"
+#include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_read_file.h"
 #include "base/gfpdb_text.h"

@@ -3,7 +3,7 @@
 // Lists of devices as comma-separated values: all of a record but its flows. docs/gfpdb.md describes the columns.
 #pragma once
 
-#include "cli_command.h"
+#include "exchange/gfpdb_record.h"
 
 #include <optional>
 
@@ -15,9 +15,6 @@ enum class CSV_FOR
     IMPORT,      // texts as they are
     SPREADSHEET, // with "'" before texts that a spreadsheet would run as formulas
 };
-
-// Whom the list is for that the options of `call` ask for; none when they ask for no list.
-std::optional<CSV_FOR> csv_reader(const CLI_CALL& call);
 
 // The devices among `records`, one line each, after a line of column names.
 std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reader = CSV_FOR::IMPORT);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli_record.h"
+#include "exchange/gfpdb_record.h"
 
 #include "base/gfpdb_text.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "restore_command.h"
+#include "commands/restore_command.h"
 
 #include "cli_find.h"
 

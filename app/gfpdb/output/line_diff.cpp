@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "line_diff.h"
+#include "output/line_diff.h"
 
 #include <algorithm>
 #include <iterator>

@@ -3,9 +3,9 @@
 // What an import will do: which records are new, replace others, or are there already; and what stands in the way.
 #pragma once
 
-#include "cli_command.h"
-#include "record_file.h"
-#include "record_rules.h"
+#include "exchange/gfpdb_record_file.h"
+#include "exchange/gfpdb_record_rules.h"
+#include "manager/gfpdb_database.h"
 
 #include <map>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "import_command.h"
+#include "commands/import_command.h"
 
-#include "import_plan.h"
+#include "exchange/gfpdb_import_plan.h"
 
 namespace {
 

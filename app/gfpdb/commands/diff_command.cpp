@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "diff_command.h"
+#include "commands/diff_command.h"
 
 #include "cli_find.h"
-#include "line_diff.h"
-#include "record_file.h"
-#include "record_json.h"
+#include "exchange/gfpdb_record_file.h"
+#include "exchange/gfpdb_record_json.h"
+#include "output/line_diff.h"
 
 #include "base/gfpdb_text.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli_database.h"
+#include "manager/gfpdb_database.h"
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"

@@ -3,7 +3,7 @@
 // A record as text for people.
 #pragma once
 
-#include "cli_record.h"
+#include "exchange/gfpdb_record.h"
 
 #include <string>
 

@@ -3,7 +3,11 @@
 // Reads files of records: JSON, or lists of devices as CSV.
 #pragma once
 
-#include "cli_command.h"
+#include "exchange/gfpdb_record.h"
+
+#include <optional>
+
+class GFPDB_MGR;
 
 // How a file is read.
 struct RECORD_FILE_OPTIONS
