@@ -32,11 +32,6 @@ std::string cell(const std::string& text)
     return quoted + '"';
 }
 
-bool is_text(const GFPDB_FIELD& field)
-{
-    return std::holds_alternative<GFPDB_TEXT_MEMBER>(field.member);
-}
-
 // Spreadsheets take what begins like this for a formula, some of them also behind blanks and line breaks.
 bool is_formula(const std::string& text)
 {
@@ -99,7 +94,7 @@ JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
     object.line = row.line;
     for (std::size_t at = 0; at < head.cells.size(); ++at) {
         const std::string& text = row.cells[at];
-        JSON_VALUE value = is_text(*gfpdb_field(head.cells[at])) ? json_string(text) : number_of(text);
+        JSON_VALUE value = gfpdb_field(head.cells[at])->is_text() ? json_string(text) : number_of(text);
         value.line = row.line;
         object.add(head.cells[at], std::move(value));
     }
@@ -119,7 +114,7 @@ std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reade
             if (field.kind == GFPDB_FIELD_KIND::FLOWS)
                 continue;
             const std::string value = field.text(record.row);
-            const bool is_dangerous = reader == CSV_FOR::SPREADSHEET && is_text(field) && is_formula(value);
+            const bool is_dangerous = reader == CSV_FOR::SPREADSHEET && field.is_text() && is_formula(value);
             cells.push_back(is_dangerous ? '\'' + value : value);
         }
         text += line(cells);

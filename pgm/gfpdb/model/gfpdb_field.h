@@ -53,6 +53,7 @@ struct GFPDB_FIELD
     int highest = 0;
     int initial = 0;
 
+    bool is_text() const { return std::holds_alternative<GFPDB_TEXT_MEMBER>(member); }
     // What `what` makes of the value in `row`: an int, a std::optional<int> or a std::string.
     template <typename ROW, typename WHAT>
     auto in(ROW& row, WHAT what) const

@@ -272,11 +272,11 @@ bool GFPDB_SQLITE_STORE::fail(const QSqlError& error)
     return fail(describe(error, file_path()));
 }
 
-bool GFPDB_SQLITE_STORE::prepare(QSqlQuery& query, const char* statement, const QVariantList& values)
+bool GFPDB_SQLITE_STORE::prepare(QSqlQuery& query, const std::string& statement, const QVariantList& values)
 {
     query = QSqlQuery(database());
     query.setForwardOnly(true);
-    if (!query.prepare(QLatin1String(statement)))
+    if (!query.prepare(QString::fromStdString(statement)))
         return fail(query.lastError());
     for (const QVariant& value : values)
         query.addBindValue(value);

@@ -2,16 +2,119 @@
 #include "store/sqlite/gfpdb_sqlite_sql.h"
 
 #include "base/gfpdb_text.h"
+#include "model/gfpdb_field.h"
 
 #include <QDateTime>
 #include <QSqlQuery>
 #include <QSysInfo>
-#include <QVariant>
 
 #include <pwd.h>
 #include <unistd.h>
 
+namespace {
+
+// What is stored beside the fields; a reader has no use for the time.
+constexpr char REVISION[] = "revision";
+constexpr char SAVED_AT[] = "saved_at";
+
+QVariant value_of(int number)
+{
+    return number;
+}
+
+QVariant value_of(const std::optional<int>& number)
+{
+    return number ? QVariant(*number) : QVariant(QVariant::Int);
+}
+
+QVariant value_of(const std::string& text)
+{
+    return GFPDB_SQL::bytes_of(text);
+}
+
+void read_value(const QSqlQuery& query, int column, int& number)
+{
+    number = query.value(column).toInt();
+}
+
+void read_value(const QSqlQuery& query, int column, std::optional<int>& number)
+{
+    const QVariant value = query.value(column);
+    number = value.isNull() ? std::nullopt : std::optional<int>(value.toInt());
+}
+
+void read_value(const QSqlQuery& query, int column, std::string& text)
+{
+    text = GFPDB_SQL::text_at(query, column);
+}
+
+std::string selection(bool with_flows)
+{
+    std::string selected = REVISION;
+    for (const std::string& key : gfpdb_field_keys(with_flows))
+        selected += gfpdb_field(key)->is_text() ? ", CAST(" + key + " AS BLOB)" : ", " + key;
+    return selected;
+}
+
+GFPDB_ROW record_at(const QSqlQuery& query, int first, bool with_flows)
+{
+    GFPDB_ROW row;
+    row.revision = GFPDB_SQL::text_at(query, first);
+    int column = first;
+    for (const GFPDB_FIELD& field : gfpdb_fields()) {
+        if (with_flows || field.kind != GFPDB_FIELD_KIND::FLOWS)
+            field.in(row, [&query, &column](auto& value) { read_value(query, ++column, value); });
+    }
+    return row;
+}
+
+} // namespace
+
 namespace GFPDB_SQL {
+
+const std::string& columns()
+{
+    static const std::string COLUMNS = gfpdb_joined(gfpdb_field_keys(true)) + ", " + REVISION + ", " + SAVED_AT;
+    return COLUMNS;
+}
+
+std::string insertion(const std::string& table, const std::string& key)
+{
+    std::string statement = "INSERT INTO " + table + " (" + key + ", " + columns() + ") VALUES (CAST(? AS TEXT)";
+    for (const GFPDB_FIELD& field : gfpdb_fields())
+        statement += field.is_text() ? ", CAST(? AS TEXT)" : ", ?";
+    return statement + ", ?, ?)";
+}
+
+QVariantList values_of(const GFPDB_ROW& row)
+{
+    QVariantList values;
+    for (const GFPDB_FIELD& field : gfpdb_fields())
+        values << field.in(row, [](const auto& value) { return value_of(value); });
+    return values << gfpdb_from_utf8(row.revision) << now();
+}
+
+const std::string& scalars_read()
+{
+    static const std::string SCALARS = selection(false);
+    return SCALARS;
+}
+
+const std::string& all_read()
+{
+    static const std::string ALL = selection(true);
+    return ALL;
+}
+
+GFPDB_ROW scalars_at(const QSqlQuery& query, int first)
+{
+    return record_at(query, first, false);
+}
+
+GFPDB_ROW row_at(const QSqlQuery& query, int first)
+{
+    return record_at(query, first, true);
+}
 
 QByteArray bytes_of(const std::string& text)
 {

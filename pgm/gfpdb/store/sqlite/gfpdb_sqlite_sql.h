@@ -3,29 +3,20 @@
 // What the parts of GFPDB_SQLITE_STORE that deal with records share: pieces of statements, and values for and from
 // them.
 //
-// Included by those sources only.
+// The columns are the fields of a record (gfpdb_field.h), the revision and the time: texts go in as CAST(? AS TEXT) and
+// come out as CAST(... AS BLOB), bytes as they are, where a conversion to UTF-16 and back would drop byte order marks
+// and replace some characters. Included by those sources only.
 #pragma once
+
+#include "model/gfpdb_row.h"
 
 #include <QByteArray>
 #include <QString>
+#include <QVariant>
 
 #include <string>
 
 class QSqlQuery;
-
-// The columns that the tables device, template and history share: their names, and how their values are read. In the
-// order in which gfpdb_sqlite_store.cpp binds and reads them.
-#define GFPDB_COLUMNS                                                                                                  \
-    "family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, quad_io_dummy_clock, "       \
-    "template_name, flow_template, revision, saved_at, single_flows, quad_flows"
-#define GFPDB_VALUES                                                                                                   \
-    "?, ?, CAST(? AS TEXT), CAST(? AS TEXT), CAST(? AS TEXT), CAST(? AS TEXT), ?, ?, ?, "                              \
-    "CAST(? AS TEXT), CAST(? AS TEXT), ?, ?, CAST(? AS TEXT), CAST(? AS TEXT)"
-#define GFPDB_SCALARS_READ                                                                                             \
-    "family, scheme, CAST(name AS BLOB), CAST(device_id AS BLOB), CAST(voltage AS BLOB), CAST(density AS BLOB), "      \
-    "total_die, single_io_dummy_clock, quad_io_dummy_clock, CAST(template_name AS BLOB), "                             \
-    "CAST(flow_template AS BLOB), revision"
-#define GFPDB_ALL_READ GFPDB_SCALARS_READ ", CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB)"
 
 // The highest number that a state of the history was ever given; 0 before the first. Users name states by their
 // numbers: those of removed states are not given again, so meta has what was the highest when states were last removed.
@@ -46,6 +37,19 @@ QByteArray key_of(const std::string& name);
 QString now();
 // The user and the machine, for people who share a directory.
 QString here();
+// The columns that the tables device, template and history share, as a list for a statement.
+const std::string& columns();
+// The statement that puts a record into `table`, whose column `key` has the key of its name: asks for that, then for
+// values_of().
+std::string insertion(const std::string& table, const std::string& key);
+QVariantList values_of(const GFPDB_ROW& row);
+
+// What is selected of a record, without its flows or with them; and the record in such columns from `first` on.
+const std::string& scalars_read();
+const std::string& all_read();
+GFPDB_ROW scalars_at(const QSqlQuery& query, int first);
+GFPDB_ROW row_at(const QSqlQuery& query, int first);
+
 // The bytes of a column.
 std::string text_at(const QSqlQuery& query, int column);
 

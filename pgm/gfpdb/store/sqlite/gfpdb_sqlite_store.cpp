@@ -2,9 +2,6 @@
 
 // The part of GFPDB_SQLITE_STORE that deals with the records. Saving and removing one device is in
 // gfpdb_sqlite_store_apply.cpp, the file in gfpdb_sqlite_file.cpp.
-//
-// Texts go in as CAST(? AS TEXT) and come out as CAST(... AS BLOB): bytes as they are, where a conversion to UTF-16 and
-// back would drop byte order marks and replace some characters.
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include "base/gfpdb_log.h"
@@ -21,11 +18,14 @@ using namespace GFPDB_SQL;
 
 namespace {
 
-#define GFPDB_HISTORY_READ "SELECT id, is_template, reason, changed_at, changed_by, "
-// After the highest number that there can be, SQLite chooses one that is free.
-#define GFPDB_TO_HISTORY                                                                                               \
-    "INSERT INTO history (id, is_template, reason, changed_at, changed_by, " GFPDB_COLUMNS                             \
-    ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, " GFPDB_COLUMNS " "
+constexpr char HISTORY_READ[] = "SELECT id, is_template, reason, changed_at, changed_by, ";
+
+// What moves records to the history. After the highest number that there can be, SQLite chooses one that is free.
+std::string to_history()
+{
+    return "INSERT INTO history (id, is_template, reason, changed_at, changed_by, " + columns() +
+           ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, " + columns() + ' ';
+}
 
 // The name of a record as it is stored.
 constexpr char DEVICE_NAME_OF_KEY[] =
@@ -38,14 +38,8 @@ constexpr char TEMPLATE_NAME_OF_KEY[] =
 constexpr std::size_t KEYS_AT_ONCE = 500;
 
 constexpr int HISTORY_COLUMNS = 5;
-constexpr int SCALAR_COLUMNS = 12;
 
-QVariant value_of(const std::optional<int>& number)
-{
-    return number ? QVariant(*number) : QVariant(QVariant::Int);
-}
-
-// What GFPDB_TO_HISTORY asks for.
+// What to_history() asks for.
 QVariantList history_values(bool is_template, const char* reason)
 {
     return {is_template ? 1 : 0, QLatin1String(reason), now(), here()};
@@ -60,26 +54,6 @@ std::string in_the_way(const char* what, const std::string& stored, const std::s
            gfpdb_case_note(stored, name);
 }
 
-// What GFPDB_VALUES asks for.
-QVariantList values_of(const GFPDB_ROW& row)
-{
-    return {row.family,
-            row.scheme,
-            bytes_of(row.name),
-            bytes_of(row.device_id),
-            bytes_of(row.voltage),
-            bytes_of(row.density),
-            value_of(row.total_die),
-            value_of(row.single_io_dummy_clock),
-            value_of(row.quad_io_dummy_clock),
-            bytes_of(row.template_name),
-            bytes_of(row.flow_template),
-            gfpdb_from_utf8(row.revision),
-            now(),
-            bytes_of(row.single_flows),
-            bytes_of(row.quad_flows)};
-}
-
 // As text_at(), on one line.
 std::string line_at(const QSqlQuery& query, int column)
 {
@@ -88,38 +62,7 @@ std::string line_at(const QSqlQuery& query, int column)
     return line;
 }
 
-std::optional<int> number_at(const QSqlQuery& query, int column)
-{
-    const QVariant value = query.value(column);
-    return value.isNull() ? std::nullopt : std::optional<int>(value.toInt());
-}
-
-// The columns of GFPDB_SCALARS_READ from `first` on.
-GFPDB_ROW scalars_at(const QSqlQuery& query, int first)
-{
-    GFPDB_ROW row;
-    row.family = query.value(first).toInt();
-    row.scheme = query.value(first + 1).toInt();
-    int column = first + 2;
-    for (std::string* text : {&row.name, &row.device_id, &row.voltage, &row.density})
-        *text = text_at(query, column++);
-    for (std::optional<int>* number : {&row.total_die, &row.single_io_dummy_clock, &row.quad_io_dummy_clock})
-        *number = number_at(query, column++);
-    for (std::string* text : {&row.template_name, &row.flow_template, &row.revision})
-        *text = text_at(query, column++);
-    return row;
-}
-
-// The columns of GFPDB_ALL_READ from `first` on.
-GFPDB_ROW row_at(const QSqlQuery& query, int first)
-{
-    GFPDB_ROW row = scalars_at(query, first);
-    row.single_flows = text_at(query, first + SCALAR_COLUMNS);
-    row.quad_flows = text_at(query, first + SCALAR_COLUMNS + 1);
-    return row;
-}
-
-// The columns of GFPDB_HISTORY_READ.
+// The columns of HISTORY_READ.
 GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
 {
     GFPDB_HISTORY_ENTRY entry;
@@ -138,7 +81,7 @@ std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory)
     return std::make_unique<GFPDB_SQLITE_STORE>(directory);
 }
 
-bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const char* statement, const QVariantList& values)
+bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values)
 {
     return prepare_read() && (prepare(query, statement, values) || note_read_problem());
 }
@@ -217,7 +160,7 @@ bool GFPDB_SQLITE_STORE::read_used_values(const std::vector<int>& schemes, GFPDB
     const QString statement = select.arg(QStringLiteral("device"), list) + QLatin1String(" UNION ") +
                               select.arg(QStringLiteral("template"), list);
     QSqlQuery query;
-    if (!start_read(query, statement.toLatin1().constData()))
+    if (!start_read(query, statement.toStdString()))
         return false;
     while (next_row(query)) {
         values.voltages.insert(text_at(query, 0));
@@ -250,7 +193,7 @@ void GFPDB_SQLITE_STORE::forget_used_values()
         known.second.foreign_changes.clear();
 }
 
-std::string GFPDB_SQLITE_STORE::read_text(const char* statement, const QVariantList& values)
+std::string GFPDB_SQLITE_STORE::read_text(const std::string& statement, const QVariantList& values)
 {
     QSqlQuery query;
     return start_read(query, statement, values) && next_row(query) ? text_at(query, 0) : std::string();
@@ -285,7 +228,7 @@ std::vector<std::string> GFPDB_SQLITE_STORE::find_device_keys(int family, int sc
             values << bytes_of(keys[i]);
         }
         QSqlQuery query;
-        if (!start_read(query, (statement + ')').c_str(), values))
+        if (!start_read(query, statement + ')', values))
             return {};
         const std::vector<std::string> part = read_names(query);
         found.insert(found.end(), part.begin(), part.end());
@@ -297,8 +240,8 @@ std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme,
 {
     QSqlQuery query;
     if (!start_read(query,
-                    "SELECT " GFPDB_ALL_READ
-                    " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+                    "SELECT " + all_read() +
+                        " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
                     {family, scheme, key_of(name)}))
         return std::nullopt;
     return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
@@ -307,7 +250,7 @@ std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme,
 std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_template(const std::string& template_name)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)",
+    if (!start_read(query, "SELECT " + all_read() + " FROM template WHERE template_key = CAST(? AS TEXT)",
                     {key_of(template_name)}))
         return std::nullopt;
     return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
@@ -347,7 +290,7 @@ bool GFPDB_SQLITE_STORE::remove_template(const std::string& template_name)
     return m_state == STATE::NO_FILE || change([&] { return drop_template(template_name, REASON_DELETED); });
 }
 
-std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const char* statement)
+std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const std::string& statement)
 {
     std::vector<GFPDB_ROW> rows;
     QSqlQuery query;
@@ -360,12 +303,12 @@ std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const char* statement)
 
 std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::get_devices()
 {
-    return read_rows("SELECT " GFPDB_SCALARS_READ " FROM device ORDER BY family, scheme, name_key");
+    return read_rows("SELECT " + scalars_read() + " FROM device ORDER BY family, scheme, name_key");
 }
 
 std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::get_templates()
 {
-    return read_rows("SELECT " GFPDB_SCALARS_READ " FROM template ORDER BY template_key");
+    return read_rows("SELECT " + scalars_read() + " FROM template ORDER BY template_key");
 }
 
 // The devices first: then a name that is used twice within what is saved is found by the templates.
@@ -405,7 +348,7 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history()
 {
     std::vector<GFPDB_HISTORY_ENTRY> entries;
     QSqlQuery query;
-    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_SCALARS_READ " FROM history ORDER BY id"))
+    if (!start_read(query, HISTORY_READ + scalars_read() + " FROM history ORDER BY id"))
         return entries;
     while (next_row(query)) {
         entries.push_back(history_at(query));
@@ -417,8 +360,7 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history()
 std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t id)
 {
     QSqlQuery query;
-    if (!start_read(query, GFPDB_HISTORY_READ GFPDB_ALL_READ " FROM history WHERE id = ?",
-                    {static_cast<qlonglong>(id)}) ||
+    if (!start_read(query, HISTORY_READ + all_read() + " FROM history WHERE id = ?", {static_cast<qlonglong>(id)}) ||
         !next_row(query))
         return std::nullopt;
     GFPDB_HISTORY_ENTRY entry = history_at(query);
@@ -469,7 +411,8 @@ bool GFPDB_SQLITE_STORE::finds_none(QSqlQuery& query, const char* what, const st
 }
 
 // Runs a part of a change: unlike the public reads, it looks at the file that the transaction is on.
-bool GFPDB_SQLITE_STORE::look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row)
+bool GFPDB_SQLITE_STORE::look_up(const std::string& statement, const QVariantList& values,
+                                 std::optional<GFPDB_ROW>& row)
 {
     QSqlQuery query;
     if (!prepare(query, statement, values))
@@ -525,16 +468,14 @@ bool GFPDB_SQLITE_STORE::check_no_such_device(int family, int scheme, const std:
 bool GFPDB_SQLITE_STORE::insert_device(const GFPDB_ROW& row)
 {
     QSqlQuery query;
-    return prepare(query, "INSERT INTO device (name_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")",
-                   QVariantList{key_of(row.name)} + values_of(row)) &&
+    return prepare(query, insertion("device", "name_key"), QVariantList{key_of(row.name)} + values_of(row)) &&
            run(query);
 }
 
 bool GFPDB_SQLITE_STORE::insert_template(const GFPDB_ROW& row)
 {
     QSqlQuery query;
-    return prepare(query,
-                   "INSERT INTO template (template_key, " GFPDB_COLUMNS ") VALUES (CAST(? AS TEXT), " GFPDB_VALUES ")",
+    return prepare(query, insertion("template", "template_key"),
                    QVariantList{key_of(row.template_name)} + values_of(row)) &&
            run(query);
 }
@@ -543,26 +484,24 @@ bool GFPDB_SQLITE_STORE::insert_template(const GFPDB_ROW& row)
 bool GFPDB_SQLITE_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason,
                                      std::int64_t* history_id)
 {
-    constexpr char TO_HISTORY[] = GFPDB_TO_HISTORY "FROM device WHERE family = ? AND scheme = ? AND "
-                                                   "name_key = CAST(? AS TEXT)";
-    constexpr char REMOVAL[] = "DELETE FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+    constexpr char FORMER[] = "FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
     const QVariantList which = {family, scheme, key_of(name)};
-    QSqlQuery to_history;
+    QSqlQuery copy;
     QSqlQuery removal;
-    if (!prepare(to_history, TO_HISTORY, history_values(false, reason) + which) || !run(to_history))
+    if (!prepare(copy, to_history() + FORMER, history_values(false, reason) + which) || !run(copy))
         return false;
-    if (history_id != nullptr && to_history.numRowsAffected() > 0)
-        *history_id = to_history.lastInsertId().toLongLong();
-    return prepare(removal, REMOVAL, which) && run(removal);
+    if (history_id != nullptr && copy.numRowsAffected() > 0)
+        *history_id = copy.lastInsertId().toLongLong();
+    return prepare(removal, std::string("DELETE ") + FORMER, which) && run(removal);
 }
 
 bool GFPDB_SQLITE_STORE::drop_template(const std::string& template_name, const char* reason)
 {
     const QVariantList which = {key_of(template_name)};
-    QSqlQuery to_history;
+    QSqlQuery copy;
     QSqlQuery removal;
-    return prepare(to_history, GFPDB_TO_HISTORY "FROM template WHERE template_key = CAST(? AS TEXT)",
+    return prepare(copy, to_history() + "FROM template WHERE template_key = CAST(? AS TEXT)",
                    history_values(true, reason) + which) &&
-           prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)", which) && run(to_history) &&
+           prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)", which) && run(copy) &&
            run(removal);
 }

@@ -119,7 +119,7 @@ private:
     bool fail(const std::string& error);
     bool fail(const QSqlError& error);
     // `values` are what the question marks stand for, in their order.
-    bool prepare(QSqlQuery& query, const char* statement, const QVariantList& values = {});
+    bool prepare(QSqlQuery& query, const std::string& statement, const QVariantList& values = {});
     bool run(const char* statement);
     bool run(QSqlQuery& query);
 
@@ -142,18 +142,18 @@ private:
     bool read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values);
     void note_used_values(const GFPDB_ROW& row);
     void forget_used_values();
-    bool start_read(QSqlQuery& query, const char* statement, const QVariantList& values = {});
+    bool start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values = {});
     bool next_row(QSqlQuery& query);
     bool note_read_problem();
     std::vector<std::string> read_names(QSqlQuery& query);
-    std::string read_text(const char* statement, const QVariantList& values);
-    std::vector<GFPDB_ROW> read_rows(const char* statement);
+    std::string read_text(const std::string& statement, const QVariantList& values);
+    std::vector<GFPDB_ROW> read_rows(const std::string& statement);
     bool replace_device(const GFPDB_ROW& row);
     bool replace_template(const GFPDB_ROW& row);
     bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool finds_none(QSqlQuery& query, const char* what, const std::string& name);
-    bool look_up(const char* statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
+    bool look_up(const std::string& statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
     bool check_no_such_device(int family, int scheme, const std::string& name);
     bool check_free_names(const GFPDB_ROW& row);
     bool check_no_template(const std::string& name);

@@ -29,10 +29,10 @@ std::optional<std::string> GFPDB_SQLITE_STORE::save_device(const GFPDB_ROW& row,
 // as stored, unless another program has stored something in its place meanwhile.
 bool GFPDB_SQLITE_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision)
 {
-    constexpr char DEVICE[] =
-        "SELECT " GFPDB_ALL_READ " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+    const std::string device =
+        "SELECT " + all_read() + " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
     std::optional<GFPDB_ROW> former;
-    if (!look_up(DEVICE, {row.family, row.scheme, key_of(row.name)}, former))
+    if (!look_up(device, {row.family, row.scheme, key_of(row.name)}, former))
         return false;
     const bool is_stored = former.has_value();
     if (!is_stored && taken != nullptr && !find_taken(*taken, former))
@@ -52,7 +52,7 @@ bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
     if (row.template_name.empty())
         return true;
     std::optional<GFPDB_ROW> former;
-    if (!look_up("SELECT " GFPDB_ALL_READ " FROM template WHERE template_key = CAST(? AS TEXT)",
+    if (!look_up("SELECT " + all_read() + " FROM template WHERE template_key = CAST(? AS TEXT)",
                  {key_of(row.template_name)}, former))
         return false;
     if (former && gfpdb_is_same_state(*former, row))
@@ -108,7 +108,7 @@ bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
 
 bool GFPDB_SQLITE_STORE::find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row)
 {
-    return look_up("SELECT " GFPDB_ALL_READ " FROM history " GFPDB_WHERE_TAKEN,
+    return look_up("SELECT " + all_read() + " FROM history " GFPDB_WHERE_TAKEN,
                    {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}, row);
 }
 
@@ -116,8 +116,8 @@ bool GFPDB_SQLITE_STORE::insert_taken(const GFPDB_TAKEN& taken)
 {
     QSqlQuery query;
     if (!prepare(query,
-                 "INSERT INTO device (name_key, " GFPDB_COLUMNS ") SELECT CAST(? AS TEXT), " GFPDB_COLUMNS
-                 " FROM history " GFPDB_WHERE_TAKEN,
+                 "INSERT INTO device (name_key, " + columns() + ") SELECT CAST(? AS TEXT), " + columns() +
+                     " FROM history " GFPDB_WHERE_TAKEN,
                  {key_of(taken.name), qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) ||
         !run(query))
         return false;
