@@ -6,7 +6,8 @@
 // Every public change is one transaction: it happened whole, or not at all, also when the process is killed in between;
 // false leaves what is stored as it was and puts the reason into get_last_error(). What a change replaces or removes
 // goes into the history in the same transaction, with its reason. Several programs may use one store: who finds it
-// locked waits (GFPDB_SETTING_BUSY_TIMEOUT, 5 seconds if not set), then gives up.
+// locked waits (GFPDB_SETTING_BUSY_TIMEOUT, 5 seconds if not set), then gives up; the calls of the next two seconds do
+// not wait.
 //
 // The store is opened lazily by the first call and made by the first change. What cannot be used stays as it is, and
 // get_problem() says why. Reads follow what another program puts in its place, but the first change afterwards is

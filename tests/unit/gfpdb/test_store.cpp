@@ -68,6 +68,7 @@ private slots:
     void a_newer_schema_is_left_alone();
     void another_text_encoding_is_left_alone();
     void two_programs_make_one_file();
+    void a_large_import_lets_others_read();
     void commits_reach_the_disk();
     void nothing_stays_open_but_the_database();
     void a_removed_database_is_let_go();
@@ -256,6 +257,27 @@ void TEST_STORE::two_programs_make_one_file()
     QVERIFY(other->save_device(make_row("B")));
     QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
     QCOMPARE(other->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B"}));
+}
+
+// More than SQLite keeps in memory of its own accord; only the end of a change is for one program alone.
+void TEST_STORE::a_large_import_lets_others_read()
+{
+    constexpr int COUNT = 100;
+    std::vector<GFPDB_ROW> rows(COUNT, make_row(std::string()));
+    for (int i = 0; i < COUNT; ++i) {
+        rows[i].name = "Device " + std::to_string(i);
+        rows[i].single_flows = std::string(100000, 'x');
+    }
+    QVERIFY(m_store->save_device(make_row("A")));
+    int seen = 0;
+    const auto look = [&](int done) {
+        if (done == COUNT)
+            seen = run_sql(file(), "SELECT count(*) FROM device").toInt();
+    };
+
+    QVERIFY(m_store->save_all(rows, {}, look));
+
+    QCOMPARE(seen, 1);
 }
 
 void TEST_STORE::commits_reach_the_disk()

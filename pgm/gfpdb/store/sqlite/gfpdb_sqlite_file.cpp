@@ -18,6 +18,7 @@
 #include <QVariant>
 
 #include <cerrno>
+#include <chrono>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
@@ -33,9 +34,9 @@ const char GFPDB_SQLITE_STORE::FILE_NAME[] = "gfpdb.sqlite";
 namespace {
 
 constexpr int DEFAULT_BUSY_TIMEOUT_MS = 5000;
-// A database that was locked is tried again by a read only after this time, so that a window full of reads does not
-// wait for every one of them; a change tries at once.
-constexpr std::chrono::seconds RETRY_INTERVAL(2);
+// A user action makes many calls, and must not wait for a lock at each of them: who has waited for a database in vain
+// tries it without waiting until this time has passed.
+constexpr std::chrono::seconds PAUSE(2);
 
 constexpr char JOURNAL_SUFFIX[] = "-journal";
 constexpr char WAL_SUFFIX[] = "-wal";
@@ -62,6 +63,24 @@ int busy_timeout()
     bool is_number = false;
     const int timeout = QByteArray::fromStdString(gfpdb_read_setting(GFPDB_SETTING_BUSY_TIMEOUT)).toInt(&is_number);
     return is_number && timeout >= 0 ? timeout : DEFAULT_BUSY_TIMEOUT_MS;
+}
+
+// The file that was last waited for in vain, by whatever store, and until when it is not waited for again.
+struct VAIN_WAIT
+{
+    std::string file;
+    std::chrono::steady_clock::time_point until;
+};
+
+VAIN_WAIT& vain_wait()
+{
+    static VAIN_WAIT wait;
+    return wait;
+}
+
+bool is_in_vain(const std::string& file)
+{
+    return vain_wait().file == file && std::chrono::steady_clock::now() < vain_wait().until;
 }
 
 // SQLite's form of a file name in which every byte of a path can be written.
@@ -263,6 +282,10 @@ bool GFPDB_SQLITE_STORE::fail(const std::string& error)
 bool GFPDB_SQLITE_STORE::fail(const QSqlError& error)
 {
     m_is_locked = code_of(error) == SQLITE_CODE_BUSY;
+    if (m_is_locked && m_wait_ms > 0) {
+        vain_wait() = {file_path(), std::chrono::steady_clock::now() + PAUSE};
+        limit_wait();
+    }
     // SQLite opens a file for reading when it could not be opened for writing, and stays with that.
     if (code_of(error) == SQLITE_CODE_READONLY && m_state == STATE::READ_WRITE)
         m_state = STATE::CLOSED;
@@ -270,6 +293,14 @@ bool GFPDB_SQLITE_STORE::fail(const QSqlError& error)
         return fail("The database " + file_path() + " was left in the middle of a change by a program that ended " +
                     "there. It can be read again when someone who can write it has opened it once.");
     return fail(describe(error, file_path()));
+}
+
+// Sets how long the connection waits for a lock now.
+void GFPDB_SQLITE_STORE::limit_wait()
+{
+    const int wait_ms = is_in_vain(file_path()) ? 0 : m_busy_timeout_ms;
+    if (wait_ms != m_wait_ms && QSqlQuery(database()).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(wait_ms)))
+        m_wait_ms = wait_ms;
 }
 
 bool GFPDB_SQLITE_STORE::prepare(QSqlQuery& query, const std::string& statement, const QVariantList& values)
@@ -308,7 +339,6 @@ void GFPDB_SQLITE_STORE::open()
     const bool is_open = connect(file_path(), writable ? "rw" : "ro") && read_schema() && (!writable || upgrade());
     if (!is_open) {
         close();
-        m_locked_until = std::chrono::steady_clock::now() + (m_is_locked ? RETRY_INTERVAL : std::chrono::seconds(0));
         set_problem(STATE::UNUSABLE, m_last_error);
     } else if (writable) {
         set_problem(STATE::READ_WRITE, std::string());
@@ -416,15 +446,19 @@ bool GFPDB_SQLITE_STORE::has_own_journal(const std::string& path)
     return false;
 }
 
+// What a change writes stays in memory until its end: else SQLite would begin to write a large one into the file before
+// that, and lock out all readers until it is done.
 bool GFPDB_SQLITE_STORE::connect(const std::string& path, const char* mode)
 {
     QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_name());
     if (!connection.isValid())
         return fail("The SQLite driver of Qt is not installed.");
     connection.setDatabaseName(uri_of(path, mode));
-    connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(busy_timeout()));
+    m_busy_timeout_ms = busy_timeout();
+    m_wait_ms = is_in_vain(file_path()) ? 0 : m_busy_timeout_ms;
+    connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(m_wait_ms));
     return (connection.open() || fail(connection.lastError())) && run("PRAGMA synchronous = FULL") &&
-           run("PRAGMA trusted_schema = OFF") && run("PRAGMA cell_size_check = ON");
+           run("PRAGMA trusted_schema = OFF") && run("PRAGMA cell_size_check = ON") && run("PRAGMA cache_spill = OFF");
 }
 
 bool GFPDB_SQLITE_STORE::is_whole_file()
@@ -480,10 +514,8 @@ bool GFPDB_SQLITE_STORE::is_same_file() const
 void GFPDB_SQLITE_STORE::refresh()
 {
     const bool is_open = m_state == STATE::READ_ONLY || m_state == STATE::READ_WRITE;
-    if (m_state == STATE::UNUSABLE && std::chrono::steady_clock::now() < m_locked_until)
-        return;
     if (is_open && is_same_file() && has_own_companions() && QSqlDatabase::contains(connection_name()))
-        return;
+        return limit_wait();
     if (is_open && !is_same_file()) {
         qCWarning(GFPDB_LOG, "The database %s was replaced or removed by another program", file_path().c_str());
         m_was_replaced = true;
@@ -503,7 +535,6 @@ bool GFPDB_SQLITE_STORE::prepare_read()
 bool GFPDB_SQLITE_STORE::prepare_write()
 {
     m_last_error.clear();
-    m_locked_until = {};
     refresh();
     if (m_was_replaced)
         return refuse_replaced_file();

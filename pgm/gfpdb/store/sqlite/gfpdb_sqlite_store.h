@@ -11,7 +11,6 @@
 #include <QStringList>
 #include <QVariant>
 
-#include <chrono>
 #include <map>
 
 #include <sys/types.h>
@@ -118,6 +117,7 @@ private:
     void set_problem(STATE state, const std::string& problem);
     bool fail(const std::string& error);
     bool fail(const QSqlError& error);
+    void limit_wait();
     // `values` are what the question marks stand for, in their order.
     bool prepare(QSqlQuery& query, const std::string& statement, const QVariantList& values = {});
     bool run(const char* statement);
@@ -202,9 +202,11 @@ private:
     std::map<std::vector<int>, KNOWN_VALUES> m_used_values;
     // The file that the user has seen is gone, and no change was refused for that yet.
     bool m_was_replaced = false;
-    // The last error was another program's lock; then an unusable database is not tried again before that time.
+    // The last error was another program's lock.
     bool m_is_locked = false;
-    std::chrono::steady_clock::time_point m_locked_until;
+    // How long to wait for one by the settings, and how long the connection waits now.
+    int m_busy_timeout_ms = 0;
+    int m_wait_ms = 0;
     // What was wrong when the file was opened, and when it was last read.
     std::string m_problem;
     std::string m_read_problem;
