@@ -21,6 +21,7 @@
 #include "flow/gfpq_flow_scene.h"
 #include "flow/gfpq_operation_tab_widget.h"
 #include "modal_driver.h"
+#include "test_rows.h"
 
 #include "gfpdb/gfpdb_enums.h"
 #include "gfpdb/gfpdb_flash.h"

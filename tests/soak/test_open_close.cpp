@@ -92,47 +92,43 @@ class TEST_OPEN_CLOSE : public QObject
     Q_OBJECT
 
 private slots:
-    void what_is_lost_at_each_opening_is_growth();
-    void a_cache_that_is_emptied_and_filled_again_is_no_growth();
-    void memory_stays_flat();
+    void what_is_lost_at_each_opening_is_growth()
+    {
+        constexpr std::size_t LOST = std::size_t(OPENINGS_IN_A_STRETCH) * 200;
+        QCOMPARE(usual_growth({1000, 1000 + LOST, 1000 + 2 * LOST}), 200.0);
+        QCOMPARE(usual_growth({1000, 1000 + LOST, 500, 500 + LOST, 500 + 2 * LOST}), 200.0);
+    }
+
+    void a_cache_that_is_emptied_and_filled_again_is_no_growth()
+    {
+        QCOMPARE(usual_growth({90000, 90000, 10000, 90000, 90000, 90000}), 0.0);
+        QCOMPARE(usual_growth({90000, 90240, 10000, 10240, 90000, 90240}), 10.0);
+    }
+
+    void memory_stays_flat()
+    {
+        SOAK_STAND stand;
+        GFPDB_HELPER::set_active_flash_family(PGMIO_ACTIVE_SERIAL_X4);
+        GFPDB_MGR* const manager = GFPDB_HELPER::get_active_flash_manager(true);
+        manager->set_device_family(FAMILY);
+        GFPDB_FLASH* const device = manager->create_flash("Mine");
+        device->set_user_defined(true);
+        QVERIFY(manager->save_flash(device, std::string()));
+
+        const int openings = number_from_environment("GFPQ_SOAK_OPENINGS", DEFAULT_OPENINGS);
+        const int warm_up_turns = warm_up();
+        const int whole_stretches = (openings + OPENINGS_IN_A_STRETCH - 1) / OPENINGS_IN_A_STRETCH;
+        std::vector<std::size_t> stretches(std::size_t(std::max(FEWEST_STRETCHES, whole_stretches)));
+        std::generate(stretches.begin(), stretches.end(), least_in_stretch);
+        const double growth = usual_growth(stretches);
+        std::printf("%zu openings after %d: %+.1f bytes each; %zu bytes at first, %zu at the end\n",
+                    stretches.size() * OPENINGS_IN_A_STRETCH, warm_up_turns * OPENINGS_IN_A_TURN, growth,
+                    stretches.front(), stretches.back());
+        QVERIFY2(growth < LARGEST_GROWTH, qPrintable(QStringLiteral("%1 bytes for each opening").arg(growth)));
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+        QCOMPARE(stand.take_warnings(), QStringList());
+    }
 };
-
-void TEST_OPEN_CLOSE::what_is_lost_at_each_opening_is_growth()
-{
-    constexpr std::size_t LOST = std::size_t(OPENINGS_IN_A_STRETCH) * 200;
-    QCOMPARE(usual_growth({1000, 1000 + LOST, 1000 + 2 * LOST}), 200.0);
-    QCOMPARE(usual_growth({1000, 1000 + LOST, 500, 500 + LOST, 500 + 2 * LOST}), 200.0);
-}
-
-void TEST_OPEN_CLOSE::a_cache_that_is_emptied_and_filled_again_is_no_growth()
-{
-    QCOMPARE(usual_growth({90000, 90000, 10000, 90000, 90000, 90000}), 0.0);
-    QCOMPARE(usual_growth({90000, 90240, 10000, 10240, 90000, 90240}), 10.0);
-}
-
-void TEST_OPEN_CLOSE::memory_stays_flat()
-{
-    SOAK_STAND stand;
-    GFPDB_HELPER::set_active_flash_family(PGMIO_ACTIVE_SERIAL_X4);
-    GFPDB_MGR* const manager = GFPDB_HELPER::get_active_flash_manager(true);
-    manager->set_device_family(FAMILY);
-    GFPDB_FLASH* const device = manager->create_flash("Mine");
-    device->set_user_defined(true);
-    QVERIFY(manager->save_flash(device, std::string()));
-
-    const int openings = number_from_environment("GFPQ_SOAK_OPENINGS", DEFAULT_OPENINGS);
-    const int warm_up_turns = warm_up();
-    const int whole_stretches = (openings + OPENINGS_IN_A_STRETCH - 1) / OPENINGS_IN_A_STRETCH;
-    std::vector<std::size_t> stretches(std::size_t(std::max(FEWEST_STRETCHES, whole_stretches)));
-    std::generate(stretches.begin(), stretches.end(), least_in_stretch);
-    const double growth = usual_growth(stretches);
-    std::printf("%zu openings after %d: %+.1f bytes each; %zu bytes at first, %zu at the end\n",
-                stretches.size() * OPENINGS_IN_A_STRETCH, warm_up_turns * OPENINGS_IN_A_TURN, growth, stretches.front(),
-                stretches.back());
-    QVERIFY2(growth < LARGEST_GROWTH, qPrintable(QStringLiteral("%1 bytes for each opening").arg(growth)));
-    QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    QCOMPARE(stand.take_warnings(), QStringList());
-}
 
 int main(int argc, char** argv)
 {
@@ -141,4 +137,5 @@ int main(int argc, char** argv)
     TEST_OPEN_CLOSE test;
     return QTest::qExec(&test, argc, argv);
 }
+
 #include "test_open_close.moc"

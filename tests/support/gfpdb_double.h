@@ -100,6 +100,8 @@ public:
     QString label() const;
     // The name and value lines of the actions of one operation, for a comparison: "0:write enable".
     QStringList flow(int kind, bool flow_variant) const;
+    // Those of all five kinds in one list.
+    QStringList flows(bool flow_variant) const;
 
     QString prefix;
     std::string name;

@@ -213,6 +213,14 @@ QStringList FLASH_DOUBLE::flow(int kind, bool flow_variant) const
     return result;
 }
 
+QStringList FLASH_DOUBLE::flows(bool flow_variant) const
+{
+    QStringList result;
+    for (int kind = 0; kind < 5; ++kind)
+        result += flow(kind, flow_variant);
+    return result;
+}
+
 std::string FLASH_DOUBLE::get_name() const
 {
     record(*this, "get_name");

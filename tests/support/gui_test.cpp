@@ -70,6 +70,14 @@ void GUI_TEST::handle_message(QtMsgType type, const QMessageLogContext& context,
         g_next_handler(type, context, text);
 }
 
+QStringList GUI_TEST::calls_of(std::initializer_list<const char*> functions) const
+{
+    QStringList names;
+    for (const char* function : functions)
+        names.append(QLatin1String(function));
+    return log().calls_of(names);
+}
+
 void GUI_TEST::unwind_through_qt()
 {
     if (!m_unwinds_through_qt)
@@ -86,6 +94,7 @@ void GUI_TEST::init()
     CALL_LOG::instance().reset();
     reset_messages();
     reset_file_dlg();
+    made_connections().clear();
     GFPDB_WORLD::instance().reset();
     m_scratch = std::make_unique<QTemporaryDir>();
     QDir::setCurrent(m_scratch->path());

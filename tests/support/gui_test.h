@@ -16,6 +16,7 @@
 #include "kovq_double.h"
 #include "modal_driver.h"
 #include "msg_double.h"
+#include "test_rows.h"
 
 #include "kovq/zui_app.h"
 
@@ -55,6 +56,9 @@ protected:
     void unwind_through_qt();
 
     CALL_LOG& log() const { return CALL_LOG::instance(); }
+    // The recorded calls of these functions, in order; how many there were of one.
+    QStringList calls_of(std::initializer_list<const char*> functions) const;
+    int count_of(const char* function) const { return log().count(QLatin1String(function)); }
     GFPDB_WORLD& world() const { return GFPDB_WORLD::instance(); }
     MGR_DOUBLE& mgr() const { return gfpdb_mgr(); }
     // A directory of the test function's own; the process's current directory at its start.
@@ -81,6 +85,12 @@ private:
     int m_actions_before = 0;
     int m_operations_before = 0;
 };
+
+// Shorter texts in expectations.
+inline QString qs(const char* text)
+{
+    return QString::fromUtf8(text);
+}
 
 // The application of the running test; null when it is another one.
 TEST_APP* test_app();

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "kovq_double.h"
 
+#include "kovq/kovq_connect.h"
+#include "msg/msg.h"
+
+#include <QAction>
 #include <QDir>
 
 namespace {
 
 FILE_DLG_ANSWERS g_answers;
+QList<MADE_CONNECTION> g_connections;
 
 void record(const char* function, const QStringList& arguments = {})
 {
@@ -17,7 +22,31 @@ QString quoted(const QString& text)
     return log_text(text.toStdString());
 }
 
+QString object_text(const QObject* object)
+{
+    const auto* const action = qobject_cast<const QAction*>(object);
+    const QString name = action != nullptr ? action->text() : object->objectName();
+    return name.isEmpty() ? QString::fromLatin1(object->metaObject()->className()) : name;
+}
+
+// A SIGNAL() or SLOT() text without the digit that it starts with.
+QString signature(const char* text)
+{
+    return QString::fromLatin1(QMetaObject::normalizedSignature(text + 1));
+}
+
 } // namespace
+
+bool kovq_safe_connect(const QObject* sender, const char* signal, const QObject* receiver, const char* method,
+                       Qt::ConnectionType type, const char* file, int line)
+{
+    const QString text = object_text(sender) + QLatin1Char(' ') + signature(signal) + QStringLiteral(" -> ") +
+                         object_text(receiver) + QLatin1Char(' ') + signature(method);
+    g_connections.append({text, type, QByteArray(file), line});
+    if (QObject::connect(sender, signal, receiver, method, type))
+        return true;
+    MSG_INTERNAL_ERROR::report(text.toUtf8().constData(), "KOVQ", file, line);
+}
 
 KOVQ_NATIVE_FILE_DLG::KOVQ_NATIVE_FILE_DLG(QWidget* parent)
 {
@@ -73,4 +102,9 @@ FILE_DLG_ANSWERS& file_dlg_answers()
 void reset_file_dlg()
 {
     g_answers = FILE_DLG_ANSWERS();
+}
+
+QList<MADE_CONNECTION>& made_connections()
+{
+    return g_connections;
 }

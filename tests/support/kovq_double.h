@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 
-// The host's folder dialog as tests see it: every call is recorded, the user's answer is set beforehand.
+// The host's folder dialog and its connect function as tests see them.
 //
-// In the log it is "file_dlg". The rest of the dialog framework is the real one.
+// Every call of the folder dialog is recorded ("file_dlg" in the log), the user's answer is set beforehand. Connections
+// are really made, and listed. The rest of the dialog framework is the real one.
 #pragma once
 
 #include "call_log.h"
 #include "kovq/kovq_native_file_dlg.h"
+
+#include <QByteArray>
+#include <QList>
 
 struct FILE_DLG_ANSWERS
 {
@@ -19,3 +23,16 @@ struct FILE_DLG_ANSWERS
 
 FILE_DLG_ANSWERS& file_dlg_answers();
 void reset_file_dlg();
+
+// A connection as it was asked for.
+struct MADE_CONNECTION
+{
+    // "sender signal() -> receiver slot()", objects by name, actions by text, others by class.
+    QString text;
+    Qt::ConnectionType type;
+    QByteArray file;
+    int line;
+};
+
+// All connections since the test function began or the list was emptied.
+QList<MADE_CONNECTION>& made_connections();

@@ -27,6 +27,21 @@ QStringList list_of(std::initializer_list<const char*> texts)
     return list;
 }
 
+QStringList flows_named(const QString& name)
+{
+    QStringList flows;
+    for (int operation = 0; operation < 5; ++operation)
+        flows.append(QStringLiteral("0:%1 %2").arg(name).arg(operation));
+    return flows;
+}
+
+DIALOG_ARGS with_map(std::map<int, std::vector<int>> family_schemes)
+{
+    DIALOG_ARGS args;
+    args.family_schemes = std::move(family_schemes);
+    return args;
+}
+
 QString first_difference(const QStringList& actual, const QStringList& expected)
 {
     const int length = qMax(actual.size(), expected.size());
@@ -144,17 +159,28 @@ QString DIALOG_TEST::current_row() const
     return index.isValid() ? index.data().toString() : QString();
 }
 
-void DIALOG_TEST::pick(const QString& name)
+void DIALOG_TEST::pick(const TEXT& name)
 {
-    const int row = shown_rows().indexOf(name);
-    QVERIFY2(row >= 0, name.toLocal8Bit().constData());
+    const int row = shown_rows().indexOf(name.value);
+    QVERIFY2(row >= 0, name.value.toLocal8Bit().constData());
     table().selectRow(row);
 }
 
-void DIALOG_TEST::enter(const char* edit_name, const QString& text)
+void DIALOG_TEST::type_in(const char* edit_name, const TEXT& text)
 {
-    edit(edit_name).setText(text);
+    edit(edit_name).setText(text.value);
+}
+
+void DIALOG_TEST::enter(const char* edit_name, const TEXT& text)
+{
+    type_in(edit_name, text);
     QTest::keyClick(&edit(edit_name), Qt::Key_Return);
+}
+
+QString DIALOG_TEST::text(const char* name) const
+{
+    const auto* const box = qobject_cast<const QComboBox*>(&widget(name));
+    return box != nullptr ? box->currentText() : edit(name).text();
 }
 
 void DIALOG_TEST::choose(const char* combo_name, int data)
@@ -164,11 +190,25 @@ void DIALOG_TEST::choose(const char* combo_name, int data)
     combo(combo_name).setCurrentIndex(index);
 }
 
-void DIALOG_TEST::choose_text(const char* combo_name, const QString& text)
+void DIALOG_TEST::choose_text(const char* combo_name, const TEXT& text)
 {
-    const int index = items(combo_name).indexOf(text);
+    const int index = items(combo_name).indexOf(text.value);
     QVERIFY2(index >= 0, combo_name);
     combo(combo_name).setCurrentIndex(index);
+}
+
+bool DIALOG_TEST::apply()
+{
+    bool applied = false;
+    QMetaObject::invokeMethod(m_dlg.get(), "on_apply_clicked", Qt::DirectConnection, Q_RETURN_ARG(bool, applied));
+    return applied;
+}
+
+MGR_DOUBLE& DIALOG_TEST::switch_manager()
+{
+    MGR_DOUBLE& other = world().add_manager(QStringLiteral("other"));
+    world().active = &other;
+    return other;
 }
 
 void DIALOG_TEST::run(const char* slot)
@@ -182,6 +222,14 @@ QStringList DIALOG_TEST::page_flow(int operation) const
     const QList<GFPDB_ACTION*> actions = page(operation).get_flow();
     for (const GFPDB_ACTION* action : actions)
         labels.append(dynamic_cast<const ACTION_DOUBLE&>(*action).label());
+    return labels;
+}
+
+QStringList DIALOG_TEST::page_flows() const
+{
+    QStringList labels;
+    for (int operation = 0; operation < 5; ++operation)
+        labels += page_flow(operation);
     return labels;
 }
 

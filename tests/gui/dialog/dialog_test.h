@@ -33,18 +33,23 @@ constexpr int SCHEME_X1 = 7;
 constexpr int READ_ONLY_ROLE = Qt::UserRole + 1;
 constexpr int EDITABLE_ROLE = Qt::UserRole + 2;
 
+using test_rows::TEXT;
+
 // What the dialog is made with.
 struct DIALOG_ARGS
 {
     int family = CEDAR;
     int config_scheme = SCHEME_X4;
-    std::string device_name;
+    std::string device_name = {};
     bool enable_family = true;
     bool enable_config_mode = true;
     bool enable_edit = true;
-    std::map<int, std::vector<int>> family_schemes;
+    std::map<int, std::vector<int>> family_schemes = {};
     QWidget* parent = nullptr;
 };
+
+// The usual arguments with this map of families and modes.
+DIALOG_ARGS with_map(std::map<int, std::vector<int>> family_schemes);
 
 class DIALOG_TEST : public GUI_TEST
 {
@@ -55,6 +60,8 @@ protected:
     GFPQ_DLG& open_recorded(const DIALOG_ARGS& args = DIALOG_ARGS());
     // As open(), with this device selected.
     GFPQ_DLG& open_with(const std::string& device_name);
+    GFPQ_DLG& open_with(const QString& device_name) { return open_with(device_name.toStdString()); }
+    GFPQ_DLG& open_with(const char* device_name) { return open_with(std::string(device_name)); }
     // Shows the dialog as the active window.
     void show_dialog();
     GFPQ_DLG& dlg() const { return *m_dlg; }
@@ -80,16 +87,26 @@ protected:
     // The device of the table's current row; null text when there is none.
     QString current_row() const;
     // Selects the shown row of that text, as a user's click does.
-    void pick(const QString& name);
-    // Puts `text` into a line edit and presses Return there.
-    void enter(const char* edit_name, const QString& text);
+    void pick(const TEXT& name);
+    // Puts `text` into a line edit; enter() presses Return there, too.
+    void type_in(const char* edit_name, const TEXT& text);
+    void enter(const char* edit_name, const TEXT& text);
+    // The text of a line edit, or the current one of a combo box; the data of a combo box's current item.
+    QString text(const char* name) const;
+    int data(const char* combo_name) const { return combo(combo_name).currentData().toInt(); }
     // Makes the item of that data, or of that text, current.
     void choose(const char* combo_name, int data);
-    void choose_text(const char* combo_name, const QString& text);
+    void choose_text(const char* combo_name, const TEXT& text);
+    // Runs Apply; true when it succeeded.
+    bool apply();
+    // Puts another manager in the place of the active one.
+    MGR_DOUBLE& switch_manager();
     // Runs a slot without arguments, as its signal would.
     void run(const char* slot);
     // The actions of an operation page, as type and first value: "0:write enable".
     QStringList page_flow(int operation) const;
+    // Those of the five pages in one list, a page at a time.
+    QStringList page_flows() const;
     // True when the blocks of an operation page can be selected.
     bool page_is_editable(int operation) const;
     // The five enabled states of the operation pages.
@@ -117,12 +134,13 @@ private:
     QStringList m_forbidden_calls;
 };
 
-// Shorter texts in expectations.
-inline QString qs(const char* text)
-{
-    return QString::fromUtf8(text);
-}
 QStringList list_of(std::initializer_list<const char*> texts);
+// What page_flows() gives for make_operations(name).
+QStringList flows_named(const QString& name);
+inline QStringList flows_named(const char* name)
+{
+    return flows_named(qs(name));
+}
 // Where two lists of calls part; empty when they are equal.
 QString first_difference(const QStringList& actual, const QStringList& expected);
 

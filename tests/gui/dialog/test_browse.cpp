@@ -12,281 +12,253 @@ class TEST_BROWSE : public DIALOG_TEST
     Q_OBJECT
 
 private slots:
-    void the_folder_dialog_is_set_up_in_order();
-    void the_folder_dialog_belongs_to_the_dialog();
-    void cancelling_changes_nothing();
-    void a_result_other_than_accepted_changes_nothing();
-    void the_chosen_directory_is_taken_over();
-    void the_chosen_directory_is_shown_when_it_is_asked_for();
-    void the_chosen_directory_can_be_refused();
-    void another_number_of_entries_is_an_internal_error_data();
-    void another_number_of_entries_is_an_internal_error();
-    void the_shown_directory_becomes_the_current_one();
-    void with_a_base_directory_a_relative_path_starts_there();
-    void with_a_base_directory_the_choice_becomes_relative();
-    void without_a_base_directory_a_relative_path_stays_relative();
-    void a_base_directory_alone_does_not_stay_the_current_one();
-    void a_host_without_ui_manager_is_an_internal_error();
-    void browsing_starts_in_the_real_directory();
-    void a_chosen_directory_with_other_letters_goes_out_as_local_8_bit();
-    void the_window_title_is_translated();
+    void the_folder_dialog_is_set_up_in_order()
+    {
+        const QString start = make_dir(qs("start"));
+        open();
+
+        click_browse();
+
+        QStringList expected =
+            list_of({"file_dlg.created(gfpq_dlg)", "file_dlg.set_file_mode(2)", "file_dlg.set_option(1, true)"});
+        expected << qs("file_dlg.set_directory(\"%1\")").arg(start) << qs("file_dlg.set_accept_mode(0)")
+                 << qs(R"(file_dlg.set_window_title("Browse"))") << qs("file_dlg.exec()");
+        QCOMPARE(calls(), expected);
+        QCOMPARE(static_cast<int>(QFileDialog::Directory), 2);
+        QCOMPARE(static_cast<int>(QFileDialog::ShowDirsOnly), 1);
+        QCOMPARE(static_cast<int>(QFileDialog::AcceptOpen), 0);
+    }
+
+    void the_folder_dialog_belongs_to_the_dialog()
+    {
+        open();
+
+        click_browse();
+
+        QCOMPARE(file_dlg_answers().parent, &dlg());
+    }
+
+    void cancelling_changes_nothing()
+    {
+        file_dlg_answers().selected = QStringList{make_dir(qs("chosen"))};
+        open();
+        edit("m_directory_edit").setText(make_dir(qs("typed")));
+
+        click_browse();
+
+        QCOMPARE(count_of("selected_files"), 0);
+        QCOMPARE(count_of("save_custom_dir_to_ini"), 0);
+        QCOMPARE(text("m_directory_edit"), make_dir(qs("typed")));
+    }
+
+    void a_result_other_than_accepted_changes_nothing()
+    {
+        file_dlg_answers().result = 2;
+        file_dlg_answers().selected = QStringList{make_dir(qs("chosen"))};
+        open();
+
+        click_browse();
+
+        QCOMPARE(count_of("save_custom_dir_to_ini"), 0);
+    }
+
+    void the_chosen_directory_is_taken_over()
+    {
+        const QString chosen = make_dir(qs("chosen"));
+        file_dlg_answers().result = 1;
+        file_dlg_answers().selected = QStringList{chosen};
+        open();
+
+        click_browse();
+
+        QCOMPARE(calls_of({"save_custom_dir_to_ini", "set_db_custom_dir"}),
+                 QStringList({qs("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen),
+                              qs("GFPDB_MGR.set_db_custom_dir(\"%1\")").arg(chosen)}));
+        QCOMPARE(text("m_directory_edit"), chosen);
+    }
+
+    void the_chosen_directory_is_shown_when_it_is_asked_for()
+    {
+        const QString chosen = make_dir(qs("chosen"));
+        file_dlg_answers().result = 1;
+        file_dlg_answers().selected = QStringList{chosen.chopped(1)};
+        open();
+        QString shown;
+        log().on_call(qs("save_custom_dir_to_ini"), [&](const QString&) { shown = edit("m_directory_edit").text(); });
+
+        click_browse();
+
+        // A directory: it ends in a separator although the folder dialog gave none.
+        QCOMPARE(shown, chosen);
+    }
+
+    void the_chosen_directory_can_be_refused()
+    {
+        file_dlg_answers().result = 1;
+        file_dlg_answers().selected = QStringList{make_dir(qs("chosen"))};
+        world().save_dir_succeeds = false;
+        open();
+        m_modals.expect(MODAL_DRIVER::accept());
+
+        click_browse();
+
+        QCOMPARE(m_modals.last().text,
+                 qs("Failed to set the custom database directory to ") + make_dir(qs("chosen")) + QLatin1Char('\n'));
+        QCOMPARE(text("m_directory_edit"), make_dir(qs("start")));
+    }
+
+    void another_number_of_entries_is_an_internal_error_data()
+    {
+        rows<QStringList>({{"none", QStringList()}, {"two", {"/a", "/b"}}});
+    }
+
+    void another_number_of_entries_is_an_internal_error()
+    {
+        unwind_through_qt();
+        const QStringList selected = row<QStringList>();
+        file_dlg_answers().result = 1;
+        file_dlg_answers().selected = selected;
+        open();
+
+        QVERIFY_EXCEPTION_THROWN(click_browse(), INTERNAL_ERROR_REPORTED);
+
+        QCOMPARE(calls_of({"report"}),
+                 list_of({R"(MSG_INTERNAL_ERROR.report("selected.size() == 1", "GFPQ", "pgm/gfpq/gfpq_dlg", 929))"}));
+        QCOMPARE(text("m_directory_edit"), make_dir(qs("start")));
+    }
+
+    void the_shown_directory_becomes_the_current_one()
+    {
+        const QString typed = make_dir(qs("typed"));
+        open();
+        edit("m_directory_edit").setText(typed);
+
+        click_browse();
+
+        QCOMPARE(file_dlg_answers().current_dir_at_exec + QLatin1Char('/'), typed);
+        QCOMPARE(here() + QLatin1Char('/'), typed);
+    }
+
+    void with_a_base_directory_a_relative_path_starts_there()
+    {
+        const QString base = make_dir(qs("base"));
+        const QString inside = make_dir(qs("base/sub"));
+        test_app()->get_ui_mgr()->set_base_dir(base.toStdString());
+        open();
+        type_in("m_directory_edit", "sub/");
+
+        click_browse();
+
+        QCOMPARE(calls_of({"set_directory"}), QStringList(qs("file_dlg.set_directory(\"%1\")").arg(inside)));
+        QCOMPARE(here() + QLatin1Char('/'), inside);
+    }
+
+    void with_a_base_directory_the_choice_becomes_relative()
+    {
+        const QString base = make_dir(qs("base"));
+        test_app()->get_ui_mgr()->set_base_dir(base.toStdString());
+        file_dlg_answers().result = 1;
+        open();
+        QStringList shown;
+        log().on_call(qs("save_custom_dir_to_ini"), [&](const QString&) { shown << edit("m_directory_edit").text(); });
+
+        for (const char* chosen : {"base/sub", "beside"}) {
+            file_dlg_answers().selected = QStringList{make_dir(qs(chosen))};
+            edit("m_directory_edit").setText(base);
+            click_browse();
+        }
+
+        QCOMPARE(shown, list_of({"sub/", "../beside/"}));
+    }
+
+    void without_a_base_directory_a_relative_path_stays_relative()
+    {
+        make_dir(qs("sub"));
+        open();
+        type_in("m_directory_edit", "sub/");
+
+        click_browse();
+
+        QCOMPARE(calls_of({"set_directory"}), list_of({R"(file_dlg.set_directory("sub/"))"}));
+        QCOMPARE(here() + QLatin1Char('/'), make_dir(qs("sub")));
+    }
+
+    void a_base_directory_alone_does_not_stay_the_current_one()
+    {
+        const QString base = make_dir(qs("base"));
+        test_app()->get_ui_mgr()->set_base_dir(base.toStdString());
+        open();
+
+        click_browse();
+
+        QCOMPARE(file_dlg_answers().current_dir_at_exec + QLatin1Char('/'), make_dir(qs("start")));
+    }
+
+    void a_host_without_ui_manager_is_an_internal_error()
+    {
+        unwind_through_qt();
+        test_app()->has_ui_mgr = false;
+        open();
+        const QString before = here();
+
+        QVERIFY_EXCEPTION_THROWN(click_browse(), INTERNAL_ERROR_REPORTED);
+
+        QCOMPARE(calls(),
+                 list_of({R"(MSG_INTERNAL_ERROR.report("ui_mgr != nullptr", "GFPQ", "pgm/gfpq/gfpq_dlg", 909))"}));
+        QCOMPARE(here(), before);
+    }
+
+    // The edit shows the directory byte by byte; that text would name another one.
+    void browsing_starts_in_the_real_directory()
+    {
+        const QString start = make_dir(qs("gr\xC3\xBCn"));
+        world().custom_dir = start.toStdString();
+        open();
+
+        click_browse();
+
+        QCOMPARE(calls_of({"set_directory"}), QStringList(qs("file_dlg.set_directory(\"%1\")").arg(start)));
+        QCOMPARE(here() + QLatin1Char('/'), start);
+    }
+
+    void a_chosen_directory_with_other_letters_goes_out_as_local_8_bit()
+    {
+        const QString chosen = make_dir(qs("gr\xC3\xBCn"));
+        file_dlg_answers().result = 1;
+        file_dlg_answers().selected = QStringList{chosen};
+        open();
+
+        click_browse();
+
+        QCOMPARE(calls_of({"save_custom_dir_to_ini"}),
+                 QStringList(qs("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen)));
+        QCOMPARE(world().custom_dir, chosen.toStdString());
+    }
+
+    void the_window_title_is_translated()
+    {
+        const MARKING_TRANSLATOR translator("gfpq_dlg");
+        open();
+
+        click_browse();
+
+        QCOMPARE(calls_of({"set_window_title"}), list_of({R"(file_dlg.set_window_title("[Browse]"))"}));
+    }
 
 private:
-    void fill_world() override;
+    void fill_world() override { world().custom_dir = make_dir(qs("start")).toStdString(); }
+
     // Makes a directory below the scratch directory; its path with "/" at the end.
-    QString make_dir(const QString& name) const;
+    QString make_dir(const QString& name) const
+    {
+        const QString path = QFileInfo(scratch()).canonicalFilePath() + QLatin1Char('/') + name;
+        QDir().mkpath(path);
+        return path + QLatin1Char('/');
+    }
+
     void click_browse() { button("m_browse_button").click(); }
     static QString here() { return QDir::currentPath(); }
 };
-
-void TEST_BROWSE::fill_world()
-{
-    world().custom_dir = make_dir(QStringLiteral("start")).toStdString();
-}
-
-QString TEST_BROWSE::make_dir(const QString& name) const
-{
-    const QString path = QFileInfo(scratch()).canonicalFilePath() + QLatin1Char('/') + name;
-    QDir().mkpath(path);
-    return path + QLatin1Char('/');
-}
-
-void TEST_BROWSE::the_folder_dialog_is_set_up_in_order()
-{
-    const QString start = make_dir(QStringLiteral("start"));
-    open();
-
-    click_browse();
-
-    QStringList expected =
-        list_of({"file_dlg.created(gfpq_dlg)", "file_dlg.set_file_mode(2)", "file_dlg.set_option(1, true)"});
-    expected << QStringLiteral("file_dlg.set_directory(\"%1\")").arg(start) << qs("file_dlg.set_accept_mode(0)")
-             << qs(R"(file_dlg.set_window_title("Browse"))") << qs("file_dlg.exec()");
-    QCOMPARE(calls(), expected);
-    QCOMPARE(static_cast<int>(QFileDialog::Directory), 2);
-    QCOMPARE(static_cast<int>(QFileDialog::ShowDirsOnly), 1);
-    QCOMPARE(static_cast<int>(QFileDialog::AcceptOpen), 0);
-}
-
-void TEST_BROWSE::the_folder_dialog_belongs_to_the_dialog()
-{
-    open();
-
-    click_browse();
-
-    QCOMPARE(file_dlg_answers().parent, &dlg());
-}
-
-void TEST_BROWSE::cancelling_changes_nothing()
-{
-    file_dlg_answers().selected = QStringList{make_dir(QStringLiteral("chosen"))};
-    open();
-    edit("m_directory_edit").setText(make_dir(QStringLiteral("typed")));
-
-    click_browse();
-
-    QCOMPARE(log().count(qs("selected_files")), 0);
-    QCOMPARE(log().count(qs("save_custom_dir_to_ini")), 0);
-    QCOMPARE(edit("m_directory_edit").text(), make_dir(QStringLiteral("typed")));
-}
-
-void TEST_BROWSE::a_result_other_than_accepted_changes_nothing()
-{
-    file_dlg_answers().result = 2;
-    file_dlg_answers().selected = QStringList{make_dir(QStringLiteral("chosen"))};
-    open();
-
-    click_browse();
-
-    QCOMPARE(log().count(qs("save_custom_dir_to_ini")), 0);
-}
-
-void TEST_BROWSE::the_chosen_directory_is_taken_over()
-{
-    const QString chosen = make_dir(QStringLiteral("chosen"));
-    file_dlg_answers().result = 1;
-    file_dlg_answers().selected = QStringList{chosen};
-    open();
-
-    click_browse();
-
-    QCOMPARE(log().calls_of({qs("save_custom_dir_to_ini"), qs("set_db_custom_dir")}),
-             QStringList({QStringLiteral("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen),
-                          QStringLiteral("GFPDB_MGR.set_db_custom_dir(\"%1\")").arg(chosen)}));
-    QCOMPARE(edit("m_directory_edit").text(), chosen);
-}
-
-void TEST_BROWSE::the_chosen_directory_is_shown_when_it_is_asked_for()
-{
-    const QString chosen = make_dir(QStringLiteral("chosen"));
-    file_dlg_answers().result = 1;
-    file_dlg_answers().selected = QStringList{chosen.chopped(1)};
-    open();
-    QString shown;
-    log().on_call(qs("save_custom_dir_to_ini"), [&](const QString&) { shown = edit("m_directory_edit").text(); });
-
-    click_browse();
-
-    // A directory: it ends in a separator although the folder dialog gave none.
-    QCOMPARE(shown, chosen);
-}
-
-void TEST_BROWSE::the_chosen_directory_can_be_refused()
-{
-    file_dlg_answers().result = 1;
-    file_dlg_answers().selected = QStringList{make_dir(QStringLiteral("chosen"))};
-    world().save_dir_succeeds = false;
-    open();
-    m_modals.expect(MODAL_DRIVER::accept());
-
-    click_browse();
-
-    QCOMPARE(m_modals.last().text, QStringLiteral("Failed to set the custom database directory to ") +
-                                       make_dir(QStringLiteral("chosen")) + QLatin1Char('\n'));
-    QCOMPARE(edit("m_directory_edit").text(), make_dir(QStringLiteral("start")));
-}
-
-void TEST_BROWSE::another_number_of_entries_is_an_internal_error_data()
-{
-    QTest::addColumn<QStringList>("selected");
-
-    QTest::newRow("none") << QStringList();
-    QTest::newRow("two") << list_of({"/a", "/b"});
-}
-
-void TEST_BROWSE::another_number_of_entries_is_an_internal_error()
-{
-    unwind_through_qt();
-    QFETCH(const QStringList, selected);
-    file_dlg_answers().result = 1;
-    file_dlg_answers().selected = selected;
-    open();
-
-    QVERIFY_EXCEPTION_THROWN(click_browse(), INTERNAL_ERROR_REPORTED);
-
-    QCOMPARE(log().calls_of({qs("report")}),
-             list_of({R"(MSG_INTERNAL_ERROR.report("selected.size() == 1", "GFPQ", "pgm/gfpq/gfpq_dlg", 929))"}));
-    QCOMPARE(edit("m_directory_edit").text(), make_dir(QStringLiteral("start")));
-}
-
-void TEST_BROWSE::the_shown_directory_becomes_the_current_one()
-{
-    const QString typed = make_dir(QStringLiteral("typed"));
-    open();
-    edit("m_directory_edit").setText(typed);
-
-    click_browse();
-
-    QCOMPARE(file_dlg_answers().current_dir_at_exec + QLatin1Char('/'), typed);
-    QCOMPARE(here() + QLatin1Char('/'), typed);
-}
-
-void TEST_BROWSE::with_a_base_directory_a_relative_path_starts_there()
-{
-    const QString base = make_dir(QStringLiteral("base"));
-    const QString inside = make_dir(QStringLiteral("base/sub"));
-    test_app()->get_ui_mgr()->set_base_dir(base.toStdString());
-    open();
-    edit("m_directory_edit").setText(QStringLiteral("sub/"));
-
-    click_browse();
-
-    QCOMPARE(log().calls_of({qs("set_directory")}),
-             QStringList(QStringLiteral("file_dlg.set_directory(\"%1\")").arg(inside)));
-    QCOMPARE(here() + QLatin1Char('/'), inside);
-}
-
-void TEST_BROWSE::with_a_base_directory_the_choice_becomes_relative()
-{
-    const QString base = make_dir(QStringLiteral("base"));
-    test_app()->get_ui_mgr()->set_base_dir(base.toStdString());
-    file_dlg_answers().result = 1;
-    open();
-    QStringList shown;
-    log().on_call(qs("save_custom_dir_to_ini"), [&](const QString&) { shown << edit("m_directory_edit").text(); });
-
-    for (const char* chosen : {"base/sub", "beside"}) {
-        file_dlg_answers().selected = QStringList{make_dir(qs(chosen))};
-        edit("m_directory_edit").setText(base);
-        click_browse();
-    }
-
-    QCOMPARE(shown, list_of({"sub/", "../beside/"}));
-}
-
-void TEST_BROWSE::without_a_base_directory_a_relative_path_stays_relative()
-{
-    make_dir(QStringLiteral("sub"));
-    open();
-    edit("m_directory_edit").setText(QStringLiteral("sub/"));
-
-    click_browse();
-
-    QCOMPARE(log().calls_of({qs("set_directory")}), list_of({R"(file_dlg.set_directory("sub/"))"}));
-    QCOMPARE(here() + QLatin1Char('/'), make_dir(QStringLiteral("sub")));
-}
-
-void TEST_BROWSE::a_base_directory_alone_does_not_stay_the_current_one()
-{
-    const QString base = make_dir(QStringLiteral("base"));
-    test_app()->get_ui_mgr()->set_base_dir(base.toStdString());
-    open();
-
-    click_browse();
-
-    QCOMPARE(file_dlg_answers().current_dir_at_exec + QLatin1Char('/'), make_dir(QStringLiteral("start")));
-}
-
-void TEST_BROWSE::a_host_without_ui_manager_is_an_internal_error()
-{
-    unwind_through_qt();
-    test_app()->has_ui_mgr = false;
-    open();
-    const QString before = here();
-
-    QVERIFY_EXCEPTION_THROWN(click_browse(), INTERNAL_ERROR_REPORTED);
-
-    QCOMPARE(calls(), list_of({R"(MSG_INTERNAL_ERROR.report("ui_mgr != nullptr", "GFPQ", "pgm/gfpq/gfpq_dlg", 909))"}));
-    QCOMPARE(here(), before);
-}
-
-// The edit shows the directory byte by byte; that text would name another one.
-void TEST_BROWSE::browsing_starts_in_the_real_directory()
-{
-    const QString start = make_dir(qs("gr\xC3\xBCn"));
-    world().custom_dir = start.toStdString();
-    open();
-
-    click_browse();
-
-    QCOMPARE(log().calls_of({qs("set_directory")}),
-             QStringList(QStringLiteral("file_dlg.set_directory(\"%1\")").arg(start)));
-    QCOMPARE(here() + QLatin1Char('/'), start);
-}
-
-void TEST_BROWSE::a_chosen_directory_with_other_letters_goes_out_as_local_8_bit()
-{
-    const QString chosen = make_dir(qs("gr\xC3\xBCn"));
-    file_dlg_answers().result = 1;
-    file_dlg_answers().selected = QStringList{chosen};
-    open();
-
-    click_browse();
-
-    QCOMPARE(log().calls_of({qs("save_custom_dir_to_ini")}),
-             QStringList(QStringLiteral("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen)));
-    QCOMPARE(world().custom_dir, chosen.toStdString());
-}
-
-void TEST_BROWSE::the_window_title_is_translated()
-{
-    const MARKING_TRANSLATOR translator("gfpq_dlg");
-    open();
-
-    click_browse();
-
-    QCOMPARE(log().calls_of({qs("set_window_title")}), list_of({R"(file_dlg.set_window_title("[Browse]"))"}));
-}
 
 GFPQ_TEST_MAIN(TEST_BROWSE)
 

@@ -2,6 +2,8 @@
 
 // What the module and the flash database show to whoever loads them: one function, the interface, and nothing else. And
 // what the module needs: the libraries of the host and of Qt.
+#include "test_rows.h"
+
 #include <QFileInfo>
 #include <QLibrary>
 #include <QProcess>
@@ -49,114 +51,108 @@ class TEST_EXPORTED_SYMBOLS : public QObject
     Q_OBJECT
 
 private slots:
-    void the_module_exports_its_entry_point_and_nothing_else();
-    void the_flash_database_exports_its_interface_and_nothing_else();
-    void the_entry_point_can_be_loaded();
-    void the_module_needs_the_host_and_qt_and_no_other_library();
-    void the_module_has_no_thread_timer_or_lock_data();
-    void the_module_has_no_thread_timer_or_lock();
+    void the_module_exports_its_entry_point_and_nothing_else()
+    {
+        QStringList functions;
+        for (const QString& line :
+             lines_of(QStringLiteral("nm"), {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"),
+                                             QStringLiteral("--format=posix")})) {
+            const QStringList columns = line.split(QLatin1Char(' '));
+            functions.append(columns.value(0) + QLatin1Char(' ') + columns.value(1));
+        }
+
+        QCOMPARE(functions, QStringList{QStringLiteral("gfpq_dyn_dlg T")});
+    }
+
+    // What templates of Qt and of the language leave behind is weak, as are the tables of the abstract classes.
+    void the_flash_database_exports_its_interface_and_nothing_else()
+    {
+        static const QRegularExpression CODE(QStringLiteral(" [TDBR] ([^(\\[]+)"));
+        const QStringList linker_symbols = {QStringLiteral("__bss_start"), QStringLiteral("_edata"),
+                                            QStringLiteral("_end")};
+
+        QStringList names;
+        for (const QString& line :
+             lines_of(QStringLiteral("nm"),
+                      {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--demangle")},
+                      QStringLiteral(GFPDB_LIBRARY))) {
+            const QString name = CODE.match(line).captured(1);
+            if (!name.isEmpty() && !linker_symbols.contains(name))
+                names.append(name);
+        }
+        names.removeDuplicates();
+        names.sort();
+
+        QCOMPARE(names, (QStringList{
+                            QStringLiteral("GFPDB_ACTION::GFPDB_ACTION"),
+                            QStringLiteral("GFPDB_ACTION::get_action_type"),
+                            QStringLiteral("GFPDB_ACTION::get_property_enum_list"),
+                            QStringLiteral("GFPDB_HELPER::get_active_flash_manager"),
+                            QStringLiteral("GFPDB_HELPER::get_database_problem"),
+                            QStringLiteral("GFPDB_HELPER::set_active_flash_family"),
+                            QStringLiteral("GFPDB_HELPER::set_base_dir"),
+                            QStringLiteral("GFPDB_MGR::get_db_custom_dir"),
+                            QStringLiteral("GFPDB_MGR::save_custom_dir_to_ini"),
+                            QStringLiteral("GFPDB_MGR::set_db_custom_dir"),
+                        }));
+    }
+
+    void the_entry_point_can_be_loaded()
+    {
+        QLibrary module(QStringLiteral(GFPQ_MODULE));
+
+        QVERIFY2(module.load(), qPrintable(module.errorString()));
+        QVERIFY(module.resolve("gfpq_dyn_dlg") != nullptr);
+        QVERIFY(QFileInfo(module.fileName()).fileName() == QLatin1String("libpgm_gfpq.so"));
+    }
+
+    // The runtime of the compiler, of its checkers and of C comes with whatever is linked.
+    void the_module_needs_the_host_and_qt_and_no_other_library()
+    {
+        static const QRegularExpression RUNTIME(
+            QStringLiteral("^(libstdc\\+\\+|libgcc_s|libc|libm|lib[a-z]+san)\\.so\\.\\d+$"));
+
+        const QStringList needed = needed_libraries();
+        QStringList others;
+        for (const QString& name : needed) {
+            if (!RUNTIME.match(name).hasMatch())
+                others.append(name);
+        }
+
+        QCOMPARE(others,
+                 (QStringList{QStringLiteral("libQt5Core.so.5"), QStringLiteral("libQt5Gui.so.5"),
+                              QStringLiteral("libQt5Widgets.so.5"), QStringLiteral("libdstr.so"),
+                              QStringLiteral("libfio.so"), QStringLiteral("libgen.so"), QStringLiteral("libgfpdb.so"),
+                              QStringLiteral("libkovq.so"), QStringLiteral("libmsg.so")}));
+    }
+
+    void the_module_has_no_thread_timer_or_lock_data()
+    {
+        rows<QString>(
+            {{"thread of Qt",
+              QStringLiteral("\\bQ(Adopted)?Thread(Pool|Storage\\w*)?::|moveToThread|QRunnable|QtConcurrent|QFuture")},
+             {"thread of the language",
+              QStringLiteral(
+                  "std::(__)?(thread|jthread|async|future|promise|__future)|pthread_create|thrd_create|clone$|fork$")},
+             {"timer of Qt",
+              QStringLiteral("\\bQ(Basic|Deadline|Elapsed)?Timer::|QObject::(start|kill)Timer|QTimeLine|Animation::")},
+             {"timer of the system", "timer_create|timerfd|setitimer|\\balarm|sleep"},
+             {"lock of Qt",
+              QStringLiteral(
+                  "\\bQ(\\w*Mutex|\\w*MutexLocker|ReadWriteLock|Semaphore|WaitCondition|SystemSemaphore|LockFile)::")},
+             {"lock of the language", QStringLiteral("pthread_(mutex|rwlock|cond|spin|barrier)|std::(mutex|condition_"
+                                                     "variable|lock)|sem_(wait|init)|flock|mtx_")}});
+    }
+
+    void the_module_has_no_thread_timer_or_lock()
+    {
+        const QString pattern = row<QString>();
+        const QStringList symbols = needed_symbols();
+        QVERIFY(!symbols.filter(QStringLiteral("QDialog::exec()")).isEmpty());
+
+        QCOMPARE(symbols.filter(QRegularExpression(pattern)), QStringList());
+    }
 };
-
-void TEST_EXPORTED_SYMBOLS::the_module_exports_its_entry_point_and_nothing_else()
-{
-    QStringList functions;
-    for (const QString& line :
-         lines_of(QStringLiteral("nm"),
-                  {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix")})) {
-        const QStringList columns = line.split(QLatin1Char(' '));
-        functions.append(columns.value(0) + QLatin1Char(' ') + columns.value(1));
-    }
-
-    QCOMPARE(functions, QStringList{QStringLiteral("gfpq_dyn_dlg T")});
-}
-
-// What templates of Qt and of the language leave behind is weak, as are the tables of the abstract classes.
-void TEST_EXPORTED_SYMBOLS::the_flash_database_exports_its_interface_and_nothing_else()
-{
-    static const QRegularExpression CODE(QStringLiteral(" [TDBR] ([^(\\[]+)"));
-    const QStringList linker_symbols = {QStringLiteral("__bss_start"), QStringLiteral("_edata"),
-                                        QStringLiteral("_end")};
-
-    QStringList names;
-    for (const QString& line :
-         lines_of(QStringLiteral("nm"),
-                  {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--demangle")},
-                  QStringLiteral(GFPDB_LIBRARY))) {
-        const QString name = CODE.match(line).captured(1);
-        if (!name.isEmpty() && !linker_symbols.contains(name))
-            names.append(name);
-    }
-    names.removeDuplicates();
-    names.sort();
-
-    QCOMPARE(names, (QStringList{
-                        QStringLiteral("GFPDB_ACTION::GFPDB_ACTION"),
-                        QStringLiteral("GFPDB_ACTION::get_action_type"),
-                        QStringLiteral("GFPDB_ACTION::get_property_enum_list"),
-                        QStringLiteral("GFPDB_HELPER::get_active_flash_manager"),
-                        QStringLiteral("GFPDB_HELPER::get_database_problem"),
-                        QStringLiteral("GFPDB_HELPER::set_active_flash_family"),
-                        QStringLiteral("GFPDB_HELPER::set_base_dir"),
-                        QStringLiteral("GFPDB_MGR::get_db_custom_dir"),
-                        QStringLiteral("GFPDB_MGR::save_custom_dir_to_ini"),
-                        QStringLiteral("GFPDB_MGR::set_db_custom_dir"),
-                    }));
-}
-
-void TEST_EXPORTED_SYMBOLS::the_entry_point_can_be_loaded()
-{
-    QLibrary module(QStringLiteral(GFPQ_MODULE));
-
-    QVERIFY2(module.load(), qPrintable(module.errorString()));
-    QVERIFY(module.resolve("gfpq_dyn_dlg") != nullptr);
-    QVERIFY(QFileInfo(module.fileName()).fileName() == QLatin1String("libpgm_gfpq.so"));
-}
-
-// The runtime of the compiler, of its checkers and of C comes with whatever is linked.
-void TEST_EXPORTED_SYMBOLS::the_module_needs_the_host_and_qt_and_no_other_library()
-{
-    static const QRegularExpression RUNTIME(
-        QStringLiteral("^(libstdc\\+\\+|libgcc_s|libc|libm|lib[a-z]+san)\\.so\\.\\d+$"));
-
-    const QStringList needed = needed_libraries();
-    QStringList others;
-    for (const QString& name : needed) {
-        if (!RUNTIME.match(name).hasMatch())
-            others.append(name);
-    }
-
-    QCOMPARE(others,
-             (QStringList{QStringLiteral("libQt5Core.so.5"), QStringLiteral("libQt5Gui.so.5"),
-                          QStringLiteral("libQt5Widgets.so.5"), QStringLiteral("libdstr.so"),
-                          QStringLiteral("libfio.so"), QStringLiteral("libgen.so"), QStringLiteral("libgfpdb.so"),
-                          QStringLiteral("libkovq.so"), QStringLiteral("libmsg.so")}));
-}
-
-void TEST_EXPORTED_SYMBOLS::the_module_has_no_thread_timer_or_lock_data()
-{
-    QTest::addColumn<QString>("pattern");
-
-    QTest::newRow("thread of Qt") << QStringLiteral(
-        "\\bQ(Adopted)?Thread(Pool|Storage\\w*)?::|moveToThread|QRunnable|QtConcurrent|QFuture");
-    QTest::newRow("thread of the language") << QStringLiteral(
-        "std::(__)?(thread|jthread|async|future|promise|__future)|pthread_create|thrd_create|clone$|fork$");
-    QTest::newRow("timer of Qt") << QStringLiteral(
-        "\\bQ(Basic|Deadline|Elapsed)?Timer::|QObject::(start|kill)Timer|QTimeLine|Animation::");
-    QTest::newRow("timer of the system") << QStringLiteral("timer_create|timerfd|setitimer|\\balarm|sleep");
-    QTest::newRow("lock of Qt") << QStringLiteral(
-        "\\bQ(\\w*Mutex|\\w*MutexLocker|ReadWriteLock|Semaphore|WaitCondition|SystemSemaphore|LockFile)::");
-    QTest::newRow("lock of the language") << QStringLiteral(
-        "pthread_(mutex|rwlock|cond|spin|barrier)|std::(mutex|condition_variable|lock)|sem_(wait|init)|flock|mtx_");
-}
-
-void TEST_EXPORTED_SYMBOLS::the_module_has_no_thread_timer_or_lock()
-{
-    QFETCH(const QString, pattern);
-    const QStringList symbols = needed_symbols();
-    QVERIFY(!symbols.filter(QStringLiteral("QDialog::exec()")).isEmpty());
-
-    QCOMPARE(symbols.filter(QRegularExpression(pattern)), QStringList());
-}
 
 QTEST_GUILESS_MAIN(TEST_EXPORTED_SYMBOLS)
 

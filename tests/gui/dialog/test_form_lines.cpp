@@ -68,75 +68,72 @@ private:
     void take_down() override { qInstallMessageHandler(m_of_test); }
 
 private slots:
-    void only_the_lines_of_the_automatic_connection_are_held_back();
-    void lines_are_held_back_while_a_form_is_built_only();
-    void a_handler_that_comes_while_a_form_is_built_stays();
-    void a_form_that_throws_leaves_the_handler_as_it_was();
+    void only_the_lines_of_the_automatic_connection_are_held_back()
+    {
+        SLOT_DIALOG dialog;
+        PRINTING_FORM form;
+        form.print = [] {
+            qWarning("a style sheet cannot be read");
+            qCritical("QMetaObject::connectSlotsByName: No matching signal for on_ok_clicked()");
+            qWarning("QMetaObject::connectSlotsByName: Connecting slot on_ok_clicked() with the first of two");
+            qWarning("QObject::connect: No such signal");
+            qDebug("a hint");
+        };
+
+        gfpq_build_form(form, &dialog);
+
+        QCOMPARE(
+            g_printed,
+            QStringList({QStringLiteral("a style sheet cannot be read"), NO_SIGNAL,
+                         QStringLiteral("QMetaObject::connectSlotsByName: Connecting slot on_ok_clicked() with the "
+                                        "first of two"),
+                         QStringLiteral("QObject::connect: No such signal"), QStringLiteral("a hint")}));
+        QCOMPARE(g_types, QList<QtMsgType>({QtWarningMsg, QtCriticalMsg, QtWarningMsg, QtWarningMsg, QtDebugMsg}));
+    }
+
+    void lines_are_held_back_while_a_form_is_built_only()
+    {
+        SLOT_DIALOG dialog;
+        bool warned = false;
+        PRINTING_FORM form;
+        form.print = [&warned] { warned = QLoggingCategory::defaultCategory()->isWarningEnabled(); };
+        QMetaObject::connectSlotsByName(&dialog);
+        QCOMPARE(g_printed, QStringList{NO_SIGNAL});
+
+        gfpq_build_form(form, &dialog);
+        QCOMPARE(g_printed, QStringList{NO_SIGNAL});
+        QVERIFY(warned);
+
+        QMetaObject::connectSlotsByName(&dialog);
+        QCOMPARE(g_printed, QStringList({NO_SIGNAL, NO_SIGNAL}));
+        // And the handler of the host is the one that is installed.
+        QVERIFY(qInstallMessageHandler(&note) == &note);
+    }
+
+    void a_handler_that_comes_while_a_form_is_built_stays()
+    {
+        SLOT_DIALOG dialog;
+        PRINTING_FORM form;
+        form.print = [] { qInstallMessageHandler(&note_another); };
+
+        gfpq_build_form(form, &dialog);
+        qWarning("afterwards");
+
+        QCOMPARE(g_printed.last(), QStringLiteral("another: afterwards"));
+    }
+
+    void a_form_that_throws_leaves_the_handler_as_it_was()
+    {
+        SLOT_DIALOG dialog;
+        PRINTING_FORM form;
+        form.print = [] { throw 1; };
+
+        QVERIFY_EXCEPTION_THROWN(gfpq_build_form(form, &dialog), int);
+
+        QVERIFY(qInstallMessageHandler(&note) == &note);
+    }
 };
 
-void TEST_FORM_LINES::only_the_lines_of_the_automatic_connection_are_held_back()
-{
-    SLOT_DIALOG dialog;
-    PRINTING_FORM form;
-    form.print = [] {
-        qWarning("a style sheet cannot be read");
-        qCritical("QMetaObject::connectSlotsByName: No matching signal for on_ok_clicked()");
-        qWarning("QMetaObject::connectSlotsByName: Connecting slot on_ok_clicked() with the first of two");
-        qWarning("QObject::connect: No such signal");
-        qDebug("a hint");
-    };
-
-    gfpq_build_form(form, &dialog);
-
-    QCOMPARE(g_printed,
-             QStringList({QStringLiteral("a style sheet cannot be read"), NO_SIGNAL,
-                          QStringLiteral("QMetaObject::connectSlotsByName: Connecting slot on_ok_clicked() with the "
-                                         "first of two"),
-                          QStringLiteral("QObject::connect: No such signal"), QStringLiteral("a hint")}));
-    QCOMPARE(g_types, QList<QtMsgType>({QtWarningMsg, QtCriticalMsg, QtWarningMsg, QtWarningMsg, QtDebugMsg}));
-}
-
-void TEST_FORM_LINES::lines_are_held_back_while_a_form_is_built_only()
-{
-    SLOT_DIALOG dialog;
-    bool warned = false;
-    PRINTING_FORM form;
-    form.print = [&warned] { warned = QLoggingCategory::defaultCategory()->isWarningEnabled(); };
-    QMetaObject::connectSlotsByName(&dialog);
-    QCOMPARE(g_printed, QStringList{NO_SIGNAL});
-
-    gfpq_build_form(form, &dialog);
-    QCOMPARE(g_printed, QStringList{NO_SIGNAL});
-    QVERIFY(warned);
-
-    QMetaObject::connectSlotsByName(&dialog);
-    QCOMPARE(g_printed, QStringList({NO_SIGNAL, NO_SIGNAL}));
-    // And the handler of the host is the one that is installed.
-    QVERIFY(qInstallMessageHandler(&note) == &note);
-}
-
-void TEST_FORM_LINES::a_handler_that_comes_while_a_form_is_built_stays()
-{
-    SLOT_DIALOG dialog;
-    PRINTING_FORM form;
-    form.print = [] { qInstallMessageHandler(&note_another); };
-
-    gfpq_build_form(form, &dialog);
-    qWarning("afterwards");
-
-    QCOMPARE(g_printed.last(), QStringLiteral("another: afterwards"));
-}
-
-void TEST_FORM_LINES::a_form_that_throws_leaves_the_handler_as_it_was()
-{
-    SLOT_DIALOG dialog;
-    PRINTING_FORM form;
-    form.print = [] { throw 1; };
-
-    QVERIFY_EXCEPTION_THROWN(gfpq_build_form(form, &dialog), int);
-
-    QVERIFY(qInstallMessageHandler(&note) == &note);
-}
-
 GFPQ_TEST_MAIN(TEST_FORM_LINES)
+
 #include "test_form_lines.moc"

@@ -62,50 +62,46 @@ class TEST_META_OBJECT : public DIALOG_TEST
 
 private slots:
     void the_dialog_has_its_21_slots_in_order() { compare_slots(GFPQ_DLG::staticMetaObject, DIALOG_SLOTS); }
-    void the_template_editor_has_its_two_slots();
-    void the_classes_have_their_names_and_bases();
-    void the_dialog_knows_itself_and_its_bases_by_name();
-    void the_argument_type_of_device_changed_is_registered();
-};
 
-void TEST_META_OBJECT::the_template_editor_has_its_two_slots()
-{
-    const SLOT_ENTRY expected[] = {{"on_close_clicked()", "void", {}}, {"on_remove_clicked()", "void", {}}};
+    void the_template_editor_has_its_two_slots()
+    {
+        const SLOT_ENTRY expected[] = {{"on_close_clicked()", "void", {}}, {"on_remove_clicked()", "void", {}}};
 
-    compare_slots(GFPQ_EDIT_TEMPLATE_DLG::staticMetaObject, expected);
-}
-
-void TEST_META_OBJECT::the_classes_have_their_names_and_bases()
-{
-    QCOMPARE(GFPQ_DLG::staticMetaObject.className(), "GFPQ_DLG");
-    QCOMPARE(GFPQ_DLG::staticMetaObject.superClass()->className(), "KOVQ_DIALOG");
-    QCOMPARE(GFPQ_EDIT_TEMPLATE_DLG::staticMetaObject.className(), "GFPQ_EDIT_TEMPLATE_DLG");
-    QCOMPARE(GFPQ_EDIT_TEMPLATE_DLG::staticMetaObject.superClass()->className(), "KOVQ_DIALOG");
-}
-
-void TEST_META_OBJECT::the_dialog_knows_itself_and_its_bases_by_name()
-{
-    GFPQ_DLG& dialog = open();
-
-    QCOMPARE(dialog.qt_metacast("GFPQ_DLG"), static_cast<void*>(&dialog));
-    QVERIFY(dialog.qt_metacast("KOVQ_DIALOG") != nullptr);
-    QVERIFY(dialog.qt_metacast("QDialog") != nullptr);
-    QVERIFY(dialog.qt_metacast("GFPQ_EDIT_TEMPLATE_DLG") == nullptr);
-}
-
-void TEST_META_OBJECT::the_argument_type_of_device_changed_is_registered()
-{
-    GFPQ_DLG& dialog = open();
-    for (int argument = 0; argument < 2; ++argument) {
-        int type = -1;
-        void* arguments[] = {&type, &argument};
-
-        dialog.qt_metacall(QMetaObject::RegisterMethodArgumentMetaType, GFPQ_DLG::staticMetaObject.methodOffset(),
-                           arguments);
-
-        QCOMPARE(type, qMetaTypeId<QItemSelection>());
+        compare_slots(GFPQ_EDIT_TEMPLATE_DLG::staticMetaObject, expected);
     }
-}
+
+    void the_classes_have_their_names_and_bases()
+    {
+        QCOMPARE(GFPQ_DLG::staticMetaObject.className(), "GFPQ_DLG");
+        QCOMPARE(GFPQ_DLG::staticMetaObject.superClass()->className(), "KOVQ_DIALOG");
+        QCOMPARE(GFPQ_EDIT_TEMPLATE_DLG::staticMetaObject.className(), "GFPQ_EDIT_TEMPLATE_DLG");
+        QCOMPARE(GFPQ_EDIT_TEMPLATE_DLG::staticMetaObject.superClass()->className(), "KOVQ_DIALOG");
+    }
+
+    void the_dialog_knows_itself_and_its_bases_by_name()
+    {
+        GFPQ_DLG& dialog = open();
+
+        QCOMPARE(dialog.qt_metacast("GFPQ_DLG"), static_cast<void*>(&dialog));
+        QVERIFY(dialog.qt_metacast("KOVQ_DIALOG") != nullptr);
+        QVERIFY(dialog.qt_metacast("QDialog") != nullptr);
+        QVERIFY(dialog.qt_metacast("GFPQ_EDIT_TEMPLATE_DLG") == nullptr);
+    }
+
+    void the_argument_type_of_device_changed_is_registered()
+    {
+        GFPQ_DLG& dialog = open();
+        for (int argument = 0; argument < 2; ++argument) {
+            int type = -1;
+            void* arguments[] = {&type, &argument};
+
+            dialog.qt_metacall(QMetaObject::RegisterMethodArgumentMetaType, GFPQ_DLG::staticMetaObject.methodOffset(),
+                               arguments);
+
+            QCOMPARE(type, qMetaTypeId<QItemSelection>());
+        }
+    }
+};
 
 GFPQ_TEST_MAIN(TEST_META_OBJECT)
 

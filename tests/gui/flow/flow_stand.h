@@ -63,6 +63,27 @@ void load(GFPQ_FLOW_SCENE& scene, const std::vector<GFPDB_ACTION*>& actions, boo
 // The same with one Write Register action for each name.
 void load_names(GFPQ_FLOW_SCENE& scene, const std::vector<std::string>& names, bool editable = true);
 
+// A scene with a chart of Write Register actions of these names, or of actions, which are deleted once they are copied.
+class LOADED_SCENE : public GFPQ_FLOW_SCENE
+{
+public:
+    template <typename CONTENT>
+    explicit LOADED_SCENE(std::initializer_list<CONTENT> content, bool editable = true) : GFPQ_FLOW_SCENE(nullptr, 0)
+    {
+        draw(content, editable);
+    }
+
+private:
+    void draw(std::initializer_list<const char*> names, bool editable)
+    {
+        load_names(*this, std::vector<std::string>(names.begin(), names.end()), editable);
+    }
+    void draw(std::initializer_list<ACTION_DOUBLE*> actions, bool editable)
+    {
+        load(*this, ACTION_LIST(std::vector<GFPDB_ACTION*>(actions.begin(), actions.end())).get(), editable);
+    }
+};
+
 // "TYPE:NAME" of each action, NAME being the value of its first property.
 QStringList names_of(const QList<GFPDB_ACTION*>& actions);
 // The names of a chart of Write Register actions, without their type.
@@ -87,6 +108,19 @@ QPointF on_shape(const QGraphicsScene& scene, int index);
 
 // A view of `scene`, shown and active, large enough for a chart of three or four actions.
 std::unique_ptr<QGraphicsView> show_view(QGraphicsScene& scene, const QSize& size = QSize(700, 780));
+
+// A loaded scene in such a view: auto [scene, view] = CHART({"one", "two"});
+struct CHART
+{
+    template <typename CONTENT>
+    explicit CHART(std::initializer_list<CONTENT> content, bool editable = true)
+        : scene(content, editable), view(show_view(scene))
+    {}
+
+    LOADED_SCENE scene;
+    std::unique_ptr<QGraphicsView> view;
+};
+
 QPoint in_viewport(const QGraphicsView& view, const QPointF& scene_pos);
 // Mouse clicks as the window system sends them; a right click brings the context menu with it.
 void click(QGraphicsView& view, const QPointF& scene_pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier,

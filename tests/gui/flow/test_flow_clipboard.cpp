@@ -10,261 +10,222 @@ class TEST_FLOW_CLIPBOARD : public GUI_TEST
     Q_OBJECT
 
 private slots:
-    void delete_takes_the_selected_actions();
-    void delete_takes_the_action_from_the_clipboard_too();
-    void deleting_nothing_rebuilds_nothing();
-    void a_foreign_action_is_not_deleted();
-    void copy_and_paste_make_new_actions_as_one_run();
-    void a_paste_keeps_every_value_in_order();
-    void a_paste_of_actions_that_are_not_made_leaves_them_out();
-    void a_copy_replaces_the_one_before();
-    void a_copy_is_lost_by_every_rebuild_data();
-    void a_copy_is_lost_by_every_rebuild();
-    void copying_redraws_nothing();
-    void pasting_nothing_still_rebuilds();
-    void pasting_without_an_arrow_rebuilds_nothing();
+    void delete_takes_the_selected_actions()
+    {
+        auto [scene, view] = CHART({"one", "two", "three", "four"});
+        const int before = live_actions();
+        click(*view, on_shape(scene, 2));
+        click(*view, on_shape(scene, 4), Qt::ControlModifier);
+        QCOMPARE(scene.selectedItems().size(), 2);
+        m_modals.expect(MODAL_DRIVER::trigger(qs("Delete")));
+
+        right_click(*view, on_shape(scene, 1));
+
+        QCOMPARE(plain_names(scene), list({"one", "three"}));
+        QCOMPARE(live_actions(), before - 2);
+        QCOMPARE(shapes_of(scene).size(), 4);
+    }
+
+    void delete_takes_the_action_from_the_clipboard_too()
+    {
+        auto [scene, view] = CHART({"one", "two"});
+        select_blocks(scene, {0, 1});
+        scene.on_copy_action();
+        scene.clearSelection();
+        select_blocks(scene, {0});
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+        scene.on_delete_action();
+
+        QCOMPARE(rebuilt.size(), 1);
+        click(*view, on_arrow(scene, 0));
+        scene.on_paste_action();
+        QCOMPARE(plain_names(scene), list({"two"}));
+    }
+
+    void deleting_nothing_rebuilds_nothing()
+    {
+        auto [scene, view] = CHART({"one"});
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+        scene.on_delete_action();
+        click(*view, on_shape(scene, 0));
+        QTest::keyClick(view.get(), Qt::Key_Delete);
+        click(*view, on_shape(scene, 2));
+        QTest::keyClick(view.get(), Qt::Key_Delete);
+
+        QCOMPARE(rebuilt.size(), 0);
+        QCOMPARE(plain_names(scene), list({"one"}));
+    }
+
+    void a_foreign_action_is_not_deleted()
+    {
+        LOADED_SCENE scene({"one", "two"});
+        const ACTION_LIST taken({scene.get_actions().at(0), scene.get_actions().at(1)});
+        scene.clear_actions(false);
+        const int before = live_actions();
+        // The old picture still stands, and its actions are no longer the scene's.
+        select_blocks(scene, {0});
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+        scene.on_delete_action();
+
+        QCOMPARE(live_actions(), before);
+        QCOMPARE(rebuilt.size(), 0);
+        scene.create_flow_chain();
+    }
+
+    void copy_and_paste_make_new_actions_as_one_run()
+    {
+        auto [scene, view] = CHART({"one", "two", "three"});
+        click(*view, on_shape(scene, 1));
+        click(*view, on_shape(scene, 3), Qt::ControlModifier);
+        QStringList copied;
+        for (const QGraphicsItem* const item : scene.selectedItems())
+            copied += names_of({text_of(*item)->action()}).first().mid(2);
+        m_modals.expect(MODAL_DRIVER::trigger(qs("Copy")));
+        right_click(*view, on_shape(scene, 2));
+        const QList<GFPDB_ACTION*> before = scene.get_actions();
+        m_modals.expect(MODAL_DRIVER::trigger(qs("Paste")));
+
+        right_click(*view, on_arrow(scene, 2));
+
+        QCOMPARE(plain_names(scene), list({"one", "two"}) + copied + list({"three"}));
+        QCOMPARE(scene.get_actions().at(0), before.at(0));
+        QCOMPARE(scene.get_actions().at(4), before.at(2));
+        QVERIFY(!before.contains(scene.get_actions().at(2)));
+        QVERIFY(!before.contains(scene.get_actions().at(3)));
+        QCOMPARE(shapes_of(scene).size(), 7);
+    }
+
+    void a_paste_keeps_every_value_in_order()
+    {
+        auto [scene, view] = CHART({make_action(3, {{21, "n"}, {24, "4"}, {30, "1-1-4"}})});
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        click(*view, on_arrow(scene, 1));
+        log().clear();
+
+        scene.on_paste_action();
+
+        const auto& copy = dynamic_cast<const ACTION_DOUBLE&>(*scene.get_actions().at(1));
+        QCOMPARE(copy.m_action_type, 3);
+        QVERIFY(copy.values == dynamic_cast<const ACTION_DOUBLE&>(*scene.get_actions().at(0)).values);
+        QCOMPARE(calls_of({"get_active_flash_manager", "create_action"}),
+                 list({"GFPDB_HELPER.get_active_flash_manager(false)", "mgr.create_action(3)"}));
+        QList<int> set;
+        static const QRegularExpression property(qs("set_property_value\\((\\d+),"));
+        for (const QString& call : calls_of({"set_property_value"}))
+            set.append(property.match(call).captured(1).toInt());
+        QCOMPARE(set, (QList<int>{21, 22, 23, 24, 25, 26, 27, 28, 29, 30}));
+    }
+
+    void a_paste_of_actions_that_are_not_made_leaves_them_out()
+    {
+        auto [scene, view] = CHART({make_named_action(1, "r"), make_named_action(4, "e")});
+        select_blocks(scene, {0, 1});
+        scene.on_copy_action();
+        click(*view, on_arrow(scene, 0));
+        mgr().refused_actions.insert(1);
+
+        scene.on_paste_action();
+        QCOMPARE(names_of(scene.get_actions()), list({"4:e", "1:r", "4:e"}));
+
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        world().active = nullptr;
+        scene.on_paste_action();
+        QCOMPARE(names_of(scene.get_actions()), list({"4:e", "1:r", "4:e"}));
+    }
+
+    void a_copy_replaces_the_one_before()
+    {
+        auto [scene, view] = CHART({"one", "two"});
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        scene.clearSelection();
+        select_blocks(scene, {1});
+        scene.on_copy_action();
+        click(*view, on_arrow(scene, 0));
+
+        scene.on_paste_action();
+
+        QCOMPARE(plain_names(scene), list({"two", "one", "two"}));
+    }
+
+    void a_copy_is_lost_by_every_rebuild_data()
+    {
+        rows_named<QString>({"refresh", "F5", "insert", "drop", "delete", "paste", "clear"});
+    }
+
+    void a_copy_is_lost_by_every_rebuild()
+    {
+        const QString event = row<QString>();
+        auto [scene, view] = CHART({"one", "two"});
+        click(*view, on_arrow(scene, 0));
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        if (event == QLatin1String("refresh"))
+            scene.create_flow_chain();
+        else if (event == QLatin1String("F5"))
+            QTest::keyClick(view.get(), Qt::Key_F5);
+        else if (event == QLatin1String("insert"))
+            scene.on_insert_e_action();
+        else if (event == QLatin1String("drop"))
+            drop_text(*view, on_arrow(scene, 0), qs("Erase"));
+        else if (event == QLatin1String("delete"))
+            scene.on_delete_action();
+        else if (event == QLatin1String("paste"))
+            scene.on_paste_action();
+        else
+            scene.clear_actions(true);
+        const int count = scene.get_actions().size();
+
+        scene.on_paste_action();
+
+        QCOMPARE(scene.get_actions().size(), count);
+    }
+
+    void copying_redraws_nothing()
+    {
+        LOADED_SCENE scene({"one"});
+        select_blocks(scene, {0});
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+        const TOLD_ACTIONS told(scene);
+
+        scene.on_copy_action();
+
+        QCOMPARE(rebuilt.size(), 0);
+        QCOMPARE(told.actions.size(), 0);
+        QCOMPARE(scene.selectedItems().size(), 1);
+    }
+
+    void pasting_nothing_still_rebuilds()
+    {
+        auto [scene, view] = CHART({"one"});
+        click(*view, on_arrow(scene, 0));
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+        scene.on_paste_action();
+
+        QCOMPARE(rebuilt.size(), 1);
+        QCOMPARE(plain_names(scene), list({"one"}));
+    }
+
+    void pasting_without_an_arrow_rebuilds_nothing()
+    {
+        LOADED_SCENE scene({"one"});
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+        scene.on_paste_action();
+
+        QCOMPARE(rebuilt.size(), 0);
+        QCOMPARE(plain_names(scene), list({"one"}));
+    }
 };
 
-void TEST_FLOW_CLIPBOARD::delete_takes_the_selected_actions()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two", "three", "four"});
-    const auto view = show_view(scene);
-    const int before = live_actions();
-    click(*view, on_shape(scene, 2));
-    click(*view, on_shape(scene, 4), Qt::ControlModifier);
-    QCOMPARE(scene.selectedItems().size(), 2);
-    m_modals.expect(MODAL_DRIVER::trigger(QStringLiteral("Delete")));
-
-    right_click(*view, on_shape(scene, 1));
-
-    QCOMPARE(plain_names(scene), list({"one", "three"}));
-    QCOMPARE(live_actions(), before - 2);
-    QCOMPARE(shapes_of(scene).size(), 4);
-}
-
-void TEST_FLOW_CLIPBOARD::delete_takes_the_action_from_the_clipboard_too()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
-    const auto view = show_view(scene);
-    select_blocks(scene, {0, 1});
-    scene.on_copy_action();
-    scene.clearSelection();
-    select_blocks(scene, {0});
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-    scene.on_delete_action();
-
-    QCOMPARE(rebuilt.size(), 1);
-    click(*view, on_arrow(scene, 0));
-    scene.on_paste_action();
-    QCOMPARE(plain_names(scene), list({"two"}));
-}
-
-void TEST_FLOW_CLIPBOARD::deleting_nothing_rebuilds_nothing()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    const auto view = show_view(scene);
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-    scene.on_delete_action();
-    click(*view, on_shape(scene, 0));
-    QTest::keyClick(view.get(), Qt::Key_Delete);
-    click(*view, on_shape(scene, 2));
-    QTest::keyClick(view.get(), Qt::Key_Delete);
-
-    QCOMPARE(rebuilt.size(), 0);
-    QCOMPARE(plain_names(scene), list({"one"}));
-}
-
-void TEST_FLOW_CLIPBOARD::a_foreign_action_is_not_deleted()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
-    const ACTION_LIST taken({scene.get_actions().at(0), scene.get_actions().at(1)});
-    scene.clear_actions(false);
-    const int before = live_actions();
-    // The old picture still stands, and its actions are no longer the scene's.
-    select_blocks(scene, {0});
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-    scene.on_delete_action();
-
-    QCOMPARE(live_actions(), before);
-    QCOMPARE(rebuilt.size(), 0);
-    scene.create_flow_chain();
-}
-
-void TEST_FLOW_CLIPBOARD::copy_and_paste_make_new_actions_as_one_run()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two", "three"});
-    const auto view = show_view(scene);
-    click(*view, on_shape(scene, 1));
-    click(*view, on_shape(scene, 3), Qt::ControlModifier);
-    QStringList copied;
-    for (const QGraphicsItem* const item : scene.selectedItems())
-        copied += names_of({text_of(*item)->action()}).first().mid(2);
-    m_modals.expect(MODAL_DRIVER::trigger(QStringLiteral("Copy")));
-    right_click(*view, on_shape(scene, 2));
-    const QList<GFPDB_ACTION*> before = scene.get_actions();
-    m_modals.expect(MODAL_DRIVER::trigger(QStringLiteral("Paste")));
-
-    right_click(*view, on_arrow(scene, 2));
-
-    QCOMPARE(plain_names(scene), list({"one", "two"}) + copied + list({"three"}));
-    QCOMPARE(scene.get_actions().at(0), before.at(0));
-    QCOMPARE(scene.get_actions().at(4), before.at(2));
-    QVERIFY(!before.contains(scene.get_actions().at(2)));
-    QVERIFY(!before.contains(scene.get_actions().at(3)));
-    QCOMPARE(shapes_of(scene).size(), 7);
-}
-
-void TEST_FLOW_CLIPBOARD::a_paste_keeps_every_value_in_order()
-{
-    const ACTION_LIST actions({make_action(3, {{21, "n"}, {24, "4"}, {30, "1-1-4"}})});
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load(scene, actions.get());
-    const auto view = show_view(scene);
-    select_blocks(scene, {0});
-    scene.on_copy_action();
-    click(*view, on_arrow(scene, 1));
-    log().clear();
-
-    scene.on_paste_action();
-
-    const auto& copy = dynamic_cast<const ACTION_DOUBLE&>(*scene.get_actions().at(1));
-    QCOMPARE(copy.m_action_type, 3);
-    QVERIFY(copy.values == dynamic_cast<const ACTION_DOUBLE&>(*scene.get_actions().at(0)).values);
-    QCOMPARE(log().calls_of({QStringLiteral("get_active_flash_manager"), QStringLiteral("create_action")}),
-             list({"GFPDB_HELPER.get_active_flash_manager(false)", "mgr.create_action(3)"}));
-    QList<int> set;
-    static const QRegularExpression property(QStringLiteral("set_property_value\\((\\d+),"));
-    for (const QString& call : log().calls_of({QStringLiteral("set_property_value")}))
-        set.append(property.match(call).captured(1).toInt());
-    QCOMPARE(set, (QList<int>{21, 22, 23, 24, 25, 26, 27, 28, 29, 30}));
-}
-
-void TEST_FLOW_CLIPBOARD::a_paste_of_actions_that_are_not_made_leaves_them_out()
-{
-    const ACTION_LIST actions({make_named_action(1, "r"), make_named_action(4, "e")});
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load(scene, actions.get());
-    const auto view = show_view(scene);
-    select_blocks(scene, {0, 1});
-    scene.on_copy_action();
-    click(*view, on_arrow(scene, 0));
-    mgr().refused_actions.insert(1);
-
-    scene.on_paste_action();
-    QCOMPARE(names_of(scene.get_actions()), list({"4:e", "1:r", "4:e"}));
-
-    select_blocks(scene, {0});
-    scene.on_copy_action();
-    world().active = nullptr;
-    scene.on_paste_action();
-    QCOMPARE(names_of(scene.get_actions()), list({"4:e", "1:r", "4:e"}));
-}
-
-void TEST_FLOW_CLIPBOARD::a_copy_replaces_the_one_before()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
-    const auto view = show_view(scene);
-    select_blocks(scene, {0});
-    scene.on_copy_action();
-    scene.clearSelection();
-    select_blocks(scene, {1});
-    scene.on_copy_action();
-    click(*view, on_arrow(scene, 0));
-
-    scene.on_paste_action();
-
-    QCOMPARE(plain_names(scene), list({"two", "one", "two"}));
-}
-
-void TEST_FLOW_CLIPBOARD::a_copy_is_lost_by_every_rebuild_data()
-{
-    QTest::addColumn<QString>("event");
-
-    for (const char* const event : {"refresh", "F5", "insert", "drop", "delete", "paste", "clear"})
-        QTest::newRow(event) << QString::fromLatin1(event);
-}
-
-void TEST_FLOW_CLIPBOARD::a_copy_is_lost_by_every_rebuild()
-{
-    QFETCH(const QString, event);
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
-    const auto view = show_view(scene);
-    click(*view, on_arrow(scene, 0));
-    select_blocks(scene, {0});
-    scene.on_copy_action();
-    if (event == QLatin1String("refresh"))
-        scene.create_flow_chain();
-    else if (event == QLatin1String("F5"))
-        QTest::keyClick(view.get(), Qt::Key_F5);
-    else if (event == QLatin1String("insert"))
-        scene.on_insert_e_action();
-    else if (event == QLatin1String("drop"))
-        drop_text(*view, on_arrow(scene, 0), QStringLiteral("Erase"));
-    else if (event == QLatin1String("delete"))
-        scene.on_delete_action();
-    else if (event == QLatin1String("paste"))
-        scene.on_paste_action();
-    else
-        scene.clear_actions(true);
-    const int count = scene.get_actions().size();
-
-    scene.on_paste_action();
-
-    QCOMPARE(scene.get_actions().size(), count);
-}
-
-void TEST_FLOW_CLIPBOARD::copying_redraws_nothing()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    select_blocks(scene, {0});
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-    const TOLD_ACTIONS told(scene);
-
-    scene.on_copy_action();
-
-    QCOMPARE(rebuilt.size(), 0);
-    QCOMPARE(told.actions.size(), 0);
-    QCOMPARE(scene.selectedItems().size(), 1);
-}
-
-void TEST_FLOW_CLIPBOARD::pasting_nothing_still_rebuilds()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    const auto view = show_view(scene);
-    click(*view, on_arrow(scene, 0));
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-    scene.on_paste_action();
-
-    QCOMPARE(rebuilt.size(), 1);
-    QCOMPARE(plain_names(scene), list({"one"}));
-}
-
-void TEST_FLOW_CLIPBOARD::pasting_without_an_arrow_rebuilds_nothing()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    select_blocks(scene, {0});
-    scene.on_copy_action();
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-    scene.on_paste_action();
-
-    QCOMPARE(rebuilt.size(), 0);
-    QCOMPARE(plain_names(scene), list({"one"}));
-}
-
 GFPQ_TEST_MAIN(TEST_FLOW_CLIPBOARD)
+
 #include "test_flow_clipboard.moc"

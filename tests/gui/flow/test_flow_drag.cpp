@@ -43,106 +43,100 @@ private:
     void take_down() override { QApplication::setStartDragDistance(10); }
 
 private slots:
-    void a_drag_starts_when_the_way_is_long_enough_data();
-    void a_drag_starts_when_the_way_is_long_enough();
-    void the_result_of_a_drag_changes_nothing_data();
-    void the_result_of_a_drag_changes_nothing();
+    void a_drag_starts_when_the_way_is_long_enough_data()
+    {
+        QTest::addColumn<int>("distance");
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<QPoint>("way");
+        QTest::addColumn<bool>("starts");
+
+        const auto add = [](const char* name, int distance, double scale, const QPoint& way, bool starts) {
+            QTest::newRow(name) << distance << scale << way << starts;
+        };
+        add("no way", 10, 1.0, QPoint(0, 0), false);
+        add("just below", 10, 1.0, QPoint(9, 0), false);
+        add("just below, backwards", 10, 1.0, QPoint(0, -9), false);
+        add("aslant, 9.90", 10, 1.0, QPoint(7, 7), false);
+        add("aslant, 9.85", 10, 1.0, QPoint(-9, 4), false);
+        add("the distance", 10, 1.0, QPoint(0, 10), true);
+        add("the distance, aslant", 10, 1.0, QPoint(6, -8), true);
+        add("aslant, 10.05", 10, 1.0, QPoint(1, 10), true);
+        add("far", 10, 1.0, QPoint(40, 40), true);
+        add("another distance, below", 25, 1.0, QPoint(24, 0), false);
+        add("another distance", 25, 1.0, QPoint(7, 24), true);
+        add("a small distance", 2, 1.0, QPoint(0, 2), true);
+        // Pixels of the screen count, not units of the scene.
+        add("enlarged, below", 10, 0.5, QPoint(9, 0), false);
+        add("enlarged", 10, 2.0, QPoint(10, 0), true);
+    }
+
+    void a_drag_starts_when_the_way_is_long_enough()
+    {
+        QFETCH(const int, distance);
+        QFETCH(const double, scale);
+        QFETCH(const QPoint, way);
+        QFETCH(const bool, starts);
+        QApplication::setStartDragDistance(distance);
+        QGraphicsScene scene;
+        auto* const entry = new GFPQ_ACTION_MENU_ITEM(4);
+        scene.addItem(entry);
+        g_entry = entry;
+        const auto view = show_view(scene, QSize(300, 300));
+        view->scale(scale, scale);
+        const QPoint down = in_viewport(*view, entry->sceneBoundingRect().center());
+        const auto send = [&view](QEvent::Type type, const QPoint& pos, Qt::MouseButtons buttons) {
+            QMouseEvent event(type, pos, view->viewport()->mapToGlobal(pos),
+                              type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
+            QApplication::sendEvent(view->viewport(), &event);
+        };
+
+        send(QEvent::MouseButtonPress, down, Qt::LeftButton);
+        send(QEvent::MouseMove, down + way, Qt::LeftButton);
+
+        QCOMPARE(g_runs.size(), starts ? 1 : 0);
+        QCOMPARE(entry->cursor().shape(), starts ? Qt::OpenHandCursor : Qt::ClosedHandCursor);
+        send(QEvent::MouseButtonRelease, down + way, Qt::NoButton);
+        QCOMPARE(entry->cursor().shape(), Qt::OpenHandCursor);
+    }
+
+    void the_result_of_a_drag_changes_nothing_data()
+    {
+        rows<int>({{"ignored", static_cast<int>(Qt::IgnoreAction)},
+                   {"moved", static_cast<int>(Qt::MoveAction)},
+                   {"copied", static_cast<int>(Qt::CopyAction)},
+                   {"moved by the target", static_cast<int>(Qt::TargetMoveAction)}});
+    }
+
+    void the_result_of_a_drag_changes_nothing()
+    {
+        const int result = row<int>();
+        g_result = static_cast<Qt::DropAction>(result);
+        QGraphicsScene scene;
+        auto* const entry = new GFPQ_ACTION_MENU_ITEM(2);
+        entry->setPos(20, 30);
+        scene.addItem(entry);
+        g_entry = entry;
+        const auto view = show_view(scene, QSize(300, 300));
+        const QPoint down = in_viewport(*view, entry->sceneBoundingRect().center());
+
+        QTest::mousePress(view->viewport(), Qt::LeftButton, Qt::NoModifier, down);
+        QMouseEvent move(QEvent::MouseMove, down + QPoint(30, 0), view->viewport()->mapToGlobal(down + QPoint(30, 0)),
+                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view->viewport(), &move);
+
+        QCOMPARE(g_runs.size(), 1);
+        QCOMPARE(g_runs.first().supported, Qt::DropActions(Qt::MoveAction));
+        QCOMPARE(g_runs.first().cursor, Qt::ClosedHandCursor);
+        QCOMPARE(g_runs.first().entry_pos, QPointF(20, 30));
+        QCOMPARE(scene.items(Qt::AscendingOrder).first(), static_cast<QGraphicsItem*>(entry));
+        QCOMPARE(scene.items().size(), 2);
+        QCOMPARE(entry->pos(), QPointF(20, 30));
+        QVERIFY(entry->isVisible() && entry->isEnabled());
+        QCOMPARE(entry->rect(), QRectF(0, 0, 60, 40));
+        QCOMPARE(entry->cursor().shape(), Qt::OpenHandCursor);
+    }
 };
 
-void TEST_FLOW_DRAG::a_drag_starts_when_the_way_is_long_enough_data()
-{
-    QTest::addColumn<int>("distance");
-    QTest::addColumn<double>("scale");
-    QTest::addColumn<QPoint>("way");
-    QTest::addColumn<bool>("starts");
-
-    const auto add = [](const char* name, int distance, double scale, const QPoint& way, bool starts) {
-        QTest::newRow(name) << distance << scale << way << starts;
-    };
-    add("no way", 10, 1.0, QPoint(0, 0), false);
-    add("just below", 10, 1.0, QPoint(9, 0), false);
-    add("just below, backwards", 10, 1.0, QPoint(0, -9), false);
-    add("aslant, 9.90", 10, 1.0, QPoint(7, 7), false);
-    add("aslant, 9.85", 10, 1.0, QPoint(-9, 4), false);
-    add("the distance", 10, 1.0, QPoint(0, 10), true);
-    add("the distance, aslant", 10, 1.0, QPoint(6, -8), true);
-    add("aslant, 10.05", 10, 1.0, QPoint(1, 10), true);
-    add("far", 10, 1.0, QPoint(40, 40), true);
-    add("another distance, below", 25, 1.0, QPoint(24, 0), false);
-    add("another distance", 25, 1.0, QPoint(7, 24), true);
-    add("a small distance", 2, 1.0, QPoint(0, 2), true);
-    // Pixels of the screen count, not units of the scene.
-    add("enlarged, below", 10, 0.5, QPoint(9, 0), false);
-    add("enlarged", 10, 2.0, QPoint(10, 0), true);
-}
-
-void TEST_FLOW_DRAG::a_drag_starts_when_the_way_is_long_enough()
-{
-    QFETCH(const int, distance);
-    QFETCH(const double, scale);
-    QFETCH(const QPoint, way);
-    QFETCH(const bool, starts);
-    QApplication::setStartDragDistance(distance);
-    QGraphicsScene scene;
-    auto* const entry = new GFPQ_ACTION_MENU_ITEM(4);
-    scene.addItem(entry);
-    g_entry = entry;
-    const auto view = show_view(scene, QSize(300, 300));
-    view->scale(scale, scale);
-    const QPoint down = in_viewport(*view, entry->sceneBoundingRect().center());
-    const auto send = [&view](QEvent::Type type, const QPoint& pos, Qt::MouseButtons buttons) {
-        QMouseEvent event(type, pos, view->viewport()->mapToGlobal(pos),
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(view->viewport(), &event);
-    };
-
-    send(QEvent::MouseButtonPress, down, Qt::LeftButton);
-    send(QEvent::MouseMove, down + way, Qt::LeftButton);
-
-    QCOMPARE(g_runs.size(), starts ? 1 : 0);
-    QCOMPARE(entry->cursor().shape(), starts ? Qt::OpenHandCursor : Qt::ClosedHandCursor);
-    send(QEvent::MouseButtonRelease, down + way, Qt::NoButton);
-    QCOMPARE(entry->cursor().shape(), Qt::OpenHandCursor);
-}
-
-void TEST_FLOW_DRAG::the_result_of_a_drag_changes_nothing_data()
-{
-    QTest::addColumn<int>("result");
-
-    QTest::newRow("ignored") << static_cast<int>(Qt::IgnoreAction);
-    QTest::newRow("moved") << static_cast<int>(Qt::MoveAction);
-    QTest::newRow("copied") << static_cast<int>(Qt::CopyAction);
-    QTest::newRow("moved by the target") << static_cast<int>(Qt::TargetMoveAction);
-}
-
-void TEST_FLOW_DRAG::the_result_of_a_drag_changes_nothing()
-{
-    QFETCH(const int, result);
-    g_result = static_cast<Qt::DropAction>(result);
-    QGraphicsScene scene;
-    auto* const entry = new GFPQ_ACTION_MENU_ITEM(2);
-    entry->setPos(20, 30);
-    scene.addItem(entry);
-    g_entry = entry;
-    const auto view = show_view(scene, QSize(300, 300));
-    const QPoint down = in_viewport(*view, entry->sceneBoundingRect().center());
-
-    QTest::mousePress(view->viewport(), Qt::LeftButton, Qt::NoModifier, down);
-    QMouseEvent move(QEvent::MouseMove, down + QPoint(30, 0), view->viewport()->mapToGlobal(down + QPoint(30, 0)),
-                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &move);
-
-    QCOMPARE(g_runs.size(), 1);
-    QCOMPARE(g_runs.first().supported, Qt::DropActions(Qt::MoveAction));
-    QCOMPARE(g_runs.first().cursor, Qt::ClosedHandCursor);
-    QCOMPARE(g_runs.first().entry_pos, QPointF(20, 30));
-    QCOMPARE(scene.items(Qt::AscendingOrder).first(), static_cast<QGraphicsItem*>(entry));
-    QCOMPARE(scene.items().size(), 2);
-    QCOMPARE(entry->pos(), QPointF(20, 30));
-    QVERIFY(entry->isVisible() && entry->isEnabled());
-    QCOMPARE(entry->rect(), QRectF(0, 0, 60, 40));
-    QCOMPARE(entry->cursor().shape(), Qt::OpenHandCursor);
-}
-
 GFPQ_TEST_MAIN(TEST_FLOW_DRAG)
+
 #include "test_flow_drag.moc"

@@ -155,8 +155,7 @@ struct MODEL
         constexpr double OUTLINE = 1;
         static std::map<int, double> known;
         if (known.count(lines) == 0)
-            known[lines] =
-                QGraphicsTextItem(QStringLiteral("\nx").repeated(lines).mid(1)).boundingRect().height() + OUTLINE;
+            known[lines] = QGraphicsTextItem(qs("\nx").repeated(lines).mid(1)).boundingRect().height() + OUTLINE;
         return known[lines];
     }
 
@@ -237,7 +236,7 @@ private:
         case DROP:
             return drop(step.place, step.what % 6);
         case DROP_FOREIGN:
-            return send_drop(arrow_point(step.place), QStringLiteral("foreign %1").arg(step.what));
+            return send_drop(arrow_point(step.place), qs("foreign %1").arg(step.what));
         case DELETE:
             return delete_selected();
         case COPY:
@@ -484,26 +483,24 @@ class TEST_FLOW_MODEL : public GUI_TEST
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void random_sessions_leave_what_a_plain_list_would_hold();
+    void initTestCase()
+    {
+        if (!qEnvironmentVariableIsSet("RC_PARAMS"))
+            qputenv("RC_PARAMS", DEFAULT_PARAMS);
+    }
+
+    void random_sessions_leave_what_a_plain_list_would_hold()
+    {
+        const bool held = rc::check("the page agrees with a plain list after every step", [this] {
+            const std::vector<STEP> steps = *sessions();
+            log().clear();
+            SESSION().run(steps);
+        });
+
+        QVERIFY(held);
+    }
 };
 
-void TEST_FLOW_MODEL::initTestCase()
-{
-    if (!qEnvironmentVariableIsSet("RC_PARAMS"))
-        qputenv("RC_PARAMS", DEFAULT_PARAMS);
-}
-
-void TEST_FLOW_MODEL::random_sessions_leave_what_a_plain_list_would_hold()
-{
-    const bool held = rc::check("the page agrees with a plain list after every step", [this] {
-        const std::vector<STEP> steps = *sessions();
-        log().clear();
-        SESSION().run(steps);
-    });
-
-    QVERIFY(held);
-}
-
 GFPQ_TEST_MAIN(TEST_FLOW_MODEL)
+
 #include "test_flow_model.moc"

@@ -77,220 +77,201 @@ class TEST_FLOW_PALETTE : public GUI_TEST
     Q_OBJECT
 
 private slots:
-    void an_entry_shows_its_type_data();
-    void an_entry_shows_its_type();
-    void entries_of_other_types_are_empty_data();
-    void entries_of_other_types_are_empty();
-    void the_hand_closes_and_opens();
-    void only_the_left_button_takes_hold();
-    void a_short_move_starts_no_drag();
-    void a_drag_starts_at_the_drag_distance();
-    void a_drag_carries_name_and_colour_data();
-    void a_drag_carries_name_and_colour();
-    void a_name_has_the_width_of_the_drag_to_its_right_edge();
-    void an_entry_stays_where_it_is();
-};
+    void an_entry_shows_its_type_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<QString>("name");
 
-void TEST_FLOW_PALETTE::an_entry_shows_its_type_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("name");
+        const auto add = [](int type, const char* label, const QColor& color, const char* name) {
+            QTest::newRow(name) << type << QString::fromLatin1(label) << color << QString::fromLatin1(name);
+        };
+        add(0, "WR", QColor(255, 255, 127), "Write Register");
+        add(1, "RR", QColor(170, 255, 127), "Read Register");
+        add(2, "WD", QColor(255, 170, 0), "Write Data");
+        add(3, "RD", QColor(85, 255, 255), "Read Data");
+        add(4, "E", QColor(226, 151, 226), "Erase");
+    }
 
-    const auto add = [](int type, const char* label, const QColor& color, const char* name) {
-        QTest::newRow(name) << type << QString::fromLatin1(label) << color << QString::fromLatin1(name);
-    };
-    add(0, "WR", QColor(255, 255, 127), "Write Register");
-    add(1, "RR", QColor(170, 255, 127), "Read Register");
-    add(2, "WD", QColor(255, 170, 0), "Write Data");
-    add(3, "RD", QColor(85, 255, 255), "Read Data");
-    add(4, "E", QColor(226, 151, 226), "Erase");
-}
+    void an_entry_shows_its_type()
+    {
+        QFETCH(const int, type);
+        QFETCH(const QString, label);
+        QFETCH(const QColor, color);
+        QFETCH(const QString, name);
 
-void TEST_FLOW_PALETTE::an_entry_shows_its_type()
-{
-    QFETCH(const int, type);
-    QFETCH(const QString, label);
-    QFETCH(const QColor, color);
-    QFETCH(const QString, name);
+        const GFPQ_ACTION_MENU_ITEM entry(type);
 
-    const GFPQ_ACTION_MENU_ITEM entry(type);
+        QCOMPARE(entry.rect(), QRectF(0, 0, 60, 40));
+        QCOMPARE(entry.brush(), QBrush(color, Qt::SolidPattern));
+        QCOMPARE(entry.brush().color().alpha(), 255);
+        QCOMPARE(entry.toolTip(), name);
+        QCOMPARE(entry.cursor().shape(), Qt::OpenHandCursor);
+        QCOMPARE(entry.acceptedMouseButtons(), Qt::MouseButtons(Qt::LeftButton));
+        QCOMPARE(entry.parentItem(), nullptr);
+        QCOMPARE(entry.flags(), QGraphicsItem::GraphicsItemFlags());
+        QCOMPARE(entry.childItems().size(), 1);
+        const auto* const text = dynamic_cast<QGraphicsTextItem*>(entry.childItems().first());
+        QVERIFY(text != nullptr);
+        QCOMPARE(text->toPlainText(), label);
+        const QRectF extent = text->boundingRect();
+        QCOMPARE(text->pos(), QPointF(30 - extent.width() * 0.5, 20 - extent.height() * 0.5));
+        QCOMPARE(text->defaultTextColor(), QColor(Qt::black));
+        QVERIFY(dynamic_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(text) == nullptr);
+    }
 
-    QCOMPARE(entry.rect(), QRectF(0, 0, 60, 40));
-    QCOMPARE(entry.brush(), QBrush(color, Qt::SolidPattern));
-    QCOMPARE(entry.brush().color().alpha(), 255);
-    QCOMPARE(entry.toolTip(), name);
-    QCOMPARE(entry.cursor().shape(), Qt::OpenHandCursor);
-    QCOMPARE(entry.acceptedMouseButtons(), Qt::MouseButtons(Qt::LeftButton));
-    QCOMPARE(entry.parentItem(), nullptr);
-    QCOMPARE(entry.flags(), QGraphicsItem::GraphicsItemFlags());
-    QCOMPARE(entry.childItems().size(), 1);
-    const auto* const text = dynamic_cast<QGraphicsTextItem*>(entry.childItems().first());
-    QVERIFY(text != nullptr);
-    QCOMPARE(text->toPlainText(), label);
-    const QRectF extent = text->boundingRect();
-    QCOMPARE(text->pos(), QPointF(30 - extent.width() * 0.5, 20 - extent.height() * 0.5));
-    QCOMPARE(text->defaultTextColor(), QColor(Qt::black));
-    QVERIFY(dynamic_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(text) == nullptr);
-}
+    void entries_of_other_types_are_empty_data()
+    {
+        rows<int, QString>({{"custom", 5, "Custom"},
+                            {"unknown", 6, QString()},
+                            {"negative", -1, QString()},
+                            {"far out", 100000, QString()}});
+    }
 
-void TEST_FLOW_PALETTE::entries_of_other_types_are_empty_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("name");
+    void entries_of_other_types_are_empty()
+    {
+        const auto [type, name] = row<int, QString>();
 
-    QTest::newRow("custom") << 5 << QStringLiteral("Custom");
-    QTest::newRow("unknown") << 6 << QString();
-    QTest::newRow("negative") << -1 << QString();
-    QTest::newRow("far out") << 100000 << QString();
-}
+        const GFPQ_ACTION_MENU_ITEM entry(type);
 
-void TEST_FLOW_PALETTE::entries_of_other_types_are_empty()
-{
-    QFETCH(const int, type);
-    QFETCH(const QString, name);
+        QCOMPARE(entry.brush().style(), Qt::NoBrush);
+        QCOMPARE(entry.rect(), QRectF(0, 0, 60, 40));
+        QCOMPARE(entry.toolTip(), name);
+        QCOMPARE(dynamic_cast<QGraphicsTextItem*>(entry.childItems().first())->toPlainText(), QString());
+    }
 
-    const GFPQ_ACTION_MENU_ITEM entry(type);
+    void the_hand_closes_and_opens()
+    {
+        const PALETTE palette(4);
+        QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
 
-    QCOMPARE(entry.brush().style(), Qt::NoBrush);
-    QCOMPARE(entry.rect(), QRectF(0, 0, 60, 40));
-    QCOMPARE(entry.toolTip(), name);
-    QCOMPARE(dynamic_cast<QGraphicsTextItem*>(entry.childItems().first())->toPlainText(), QString());
-}
+        QVERIFY(palette.press());
+        QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
+        palette.release();
+        QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+    }
 
-void TEST_FLOW_PALETTE::the_hand_closes_and_opens()
-{
-    const PALETTE palette(4);
-    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+    void only_the_left_button_takes_hold()
+    {
+        const PALETTE palette(4);
 
-    QVERIFY(palette.press());
-    QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
-    palette.release();
-    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
-}
+        palette.press(Qt::RightButton);
+        palette.press(Qt::MiddleButton);
 
-void TEST_FLOW_PALETTE::only_the_left_button_takes_hold()
-{
-    const PALETTE palette(4);
+        QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+    }
 
-    palette.press(Qt::RightButton);
-    palette.press(Qt::MiddleButton);
-
-    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
-}
-
-void TEST_FLOW_PALETTE::a_short_move_starts_no_drag()
-{
-    const PALETTE palette(4);
-    const DRAG_WATCH watch(palette.view->viewport());
-    const int distance = QApplication::startDragDistance();
-    QCOMPARE(distance, 10);
-
-    palette.press();
-    palette.move(QPoint(distance - 1, 0));
-    palette.move(QPoint(0, 1 - distance));
-    // As far as the crow flies: neither step alone, nor their sum.
-    palette.move(QPoint(8, 5));
-
-    QCOMPARE(watch.count, 0);
-    QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
-    palette.release();
-    QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
-}
-
-void TEST_FLOW_PALETTE::a_drag_starts_at_the_drag_distance()
-{
-    for (const QPoint& way : {QPoint(10, 0), QPoint(-10, 0), QPoint(0, 10), QPoint(8, 6), QPoint(60, 60)}) {
+    void a_short_move_starts_no_drag()
+    {
         const PALETTE palette(4);
         const DRAG_WATCH watch(palette.view->viewport());
+        const int distance = QApplication::startDragDistance();
+        QCOMPARE(distance, 10);
 
         palette.press();
-        palette.move(way);
+        palette.move(QPoint(distance - 1, 0));
+        palette.move(QPoint(0, 1 - distance));
+        // As far as the crow flies: neither step alone, nor their sum.
+        palette.move(QPoint(8, 5));
 
-        QCOMPARE(watch.count, 1);
-        QVERIFY(watch.drag() != nullptr);
-        // The drag is over by now; Qt deletes it.
+        QCOMPARE(watch.count, 0);
+        QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
+        palette.release();
         QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(watch.drag() == nullptr);
-        palette.release(way);
     }
-}
 
-void TEST_FLOW_PALETTE::a_drag_carries_name_and_colour_data()
-{
-    an_entry_shows_its_type_data();
-}
-
-void TEST_FLOW_PALETTE::a_drag_carries_name_and_colour()
-{
-    QFETCH(const int, type);
-    QFETCH(const QColor, color);
-    QFETCH(const QString, name);
-    const PALETTE palette(type);
-    const DRAG_WATCH watch(palette.view->viewport());
-    QPixmap expected(120, 20);
+    void a_drag_starts_at_the_drag_distance()
     {
-        QPainter painter(&expected);
-        painter.fillRect(0, 0, 120, 20, QBrush(color, Qt::SolidPattern));
-        painter.drawText(QRectF(10, 0, 115, 20), name, QTextOption());
+        for (const QPoint& way : {QPoint(10, 0), QPoint(-10, 0), QPoint(0, 10), QPoint(8, 6), QPoint(60, 60)}) {
+            const PALETTE palette(4);
+            const DRAG_WATCH watch(palette.view->viewport());
+
+            palette.press();
+            palette.move(way);
+
+            QCOMPARE(watch.count, 1);
+            QVERIFY(watch.drag() != nullptr);
+            // The drag is over by now; Qt deletes it.
+            QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QVERIFY(watch.drag() == nullptr);
+            palette.release(way);
+        }
     }
 
-    palette.press();
-    palette.move(QPoint(10, 0));
+    void a_drag_carries_name_and_colour_data() { an_entry_shows_its_type_data(); }
 
-    QDrag* const drag = watch.drag();
-    QVERIFY(drag != nullptr);
-    QCOMPARE(drag->source(), palette.view->viewport());
-    QCOMPARE(drag->mimeData()->text(), name);
-    QCOMPARE(drag->mimeData()->colorData().value<QColor>(), color);
-    QCOMPARE(drag->supportedActions(), Qt::DropActions(Qt::MoveAction));
-    QCOMPARE(drag->pixmap().size(), QSize(120, 20));
-    QCOMPARE(drag->pixmap().toImage(), expected.toImage());
-    palette.release(QPoint(10, 0));
-}
-
-void TEST_FLOW_PALETTE::a_name_has_the_width_of_the_drag_to_its_right_edge()
-{
-    // Stretched, so that the name is almost as wide as its room, and a little wider, where it is broken.
-    const QFont font = QApplication::font();
-    const QString name = QStringLiteral("Read Data");
-    for (const double width : {114.0, 116.0}) {
-        QFont stretched(font);
-        const double missing = width - QFontMetricsF(font).horizontalAdvance(name);
-        stretched.setLetterSpacing(QFont::AbsoluteSpacing, missing / name.size());
-        QApplication::setFont(stretched);
-        QPixmap expected(120, 20);
-        expected.fill(QColor(85, 255, 255));
-        QPainter painter(&expected);
-        painter.drawText(QRectF(10, 0, 115, 20), name, QTextOption());
-        painter.end();
-        const PALETTE palette(3);
+    void a_drag_carries_name_and_colour()
+    {
+        QFETCH(const int, type);
+        QFETCH(const QColor, color);
+        QFETCH(const QString, name);
+        const PALETTE palette(type);
         const DRAG_WATCH watch(palette.view->viewport());
+        QPixmap expected(120, 20);
+        {
+            QPainter painter(&expected);
+            painter.fillRect(0, 0, 120, 20, QBrush(color, Qt::SolidPattern));
+            painter.drawText(QRectF(10, 0, 115, 20), name, QTextOption());
+        }
 
         palette.press();
         palette.move(QPoint(10, 0));
 
-        QApplication::setFont(font);
-        QVERIFY(watch.drag() != nullptr);
-        QCOMPARE(watch.drag()->pixmap().toImage(), expected.toImage());
+        QDrag* const drag = watch.drag();
+        QVERIFY(drag != nullptr);
+        QCOMPARE(drag->source(), palette.view->viewport());
+        QCOMPARE(drag->mimeData()->text(), name);
+        QCOMPARE(drag->mimeData()->colorData().value<QColor>(), color);
+        QCOMPARE(drag->supportedActions(), Qt::DropActions(Qt::MoveAction));
+        QCOMPARE(drag->pixmap().size(), QSize(120, 20));
+        QCOMPARE(drag->pixmap().toImage(), expected.toImage());
         palette.release(QPoint(10, 0));
     }
-}
 
-void TEST_FLOW_PALETTE::an_entry_stays_where_it_is()
-{
-    const PALETTE palette(2);
-    const QPointF before = palette.entry->pos();
+    void a_name_has_the_width_of_the_drag_to_its_right_edge()
+    {
+        // Stretched, so that the name is almost as wide as its room, and a little wider, where it is broken.
+        const QFont font = QApplication::font();
+        const QString name = qs("Read Data");
+        for (const double width : {114.0, 116.0}) {
+            QFont stretched(font);
+            const double missing = width - QFontMetricsF(font).horizontalAdvance(name);
+            stretched.setLetterSpacing(QFont::AbsoluteSpacing, missing / name.size());
+            QApplication::setFont(stretched);
+            QPixmap expected(120, 20);
+            expected.fill(QColor(85, 255, 255));
+            QPainter painter(&expected);
+            painter.drawText(QRectF(10, 0, 115, 20), name, QTextOption());
+            painter.end();
+            const PALETTE palette(3);
+            const DRAG_WATCH watch(palette.view->viewport());
 
-    palette.press();
-    palette.move(QPoint(30, 30));
-    palette.release(QPoint(30, 30));
+            palette.press();
+            palette.move(QPoint(10, 0));
 
-    QCOMPARE(palette.entry->pos(), before);
-    QCOMPARE(palette.scene.items().size(), 2);
-}
+            QApplication::setFont(font);
+            QVERIFY(watch.drag() != nullptr);
+            QCOMPARE(watch.drag()->pixmap().toImage(), expected.toImage());
+            palette.release(QPoint(10, 0));
+        }
+    }
+
+    void an_entry_stays_where_it_is()
+    {
+        const PALETTE palette(2);
+        const QPointF before = palette.entry->pos();
+
+        palette.press();
+        palette.move(QPoint(30, 30));
+        palette.release(QPoint(30, 30));
+
+        QCOMPARE(palette.entry->pos(), before);
+        QCOMPARE(palette.scene.items().size(), 2);
+    }
+};
 
 GFPQ_TEST_MAIN(TEST_FLOW_PALETTE)
+
 #include "test_flow_palette.moc"

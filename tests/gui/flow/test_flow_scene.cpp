@@ -22,353 +22,322 @@ class TEST_FLOW_SCENE : public GUI_TEST
     Q_OBJECT
 
 private slots:
-    void the_scene_owns_its_nine_commands();
-    void the_scene_draws_nothing_by_itself();
-    void a_rebuild_tears_down_first_and_says_so_once();
-    void a_rebuild_restores_the_scene_rectangle();
-    void nothing_but_the_chart_moves_the_scene_rectangle();
-    void selecting_a_block_outlines_it_alone_and_tells_its_action();
-    void of_several_selected_blocks_the_last_reported_one_is_told();
-    void the_first_child_of_a_block_tells_its_action();
-    void nothing_is_told_when_the_selection_goes();
-    void nothing_is_told_while_the_chart_is_torn_down();
-    void only_coloured_blocks_of_an_editable_chart_can_be_selected();
-    void a_refresh_waits_for_the_focus_and_happens_once();
-    void a_rebuild_of_any_kind_calls_a_waiting_refresh_off();
-    void emptying_the_list_calls_a_waiting_refresh_off();
-    void a_waiting_refresh_can_be_taken_back();
-    void a_focus_is_not_handed_on();
-    void emptying_the_list_deletes_only_on_request();
-    void the_scene_deletes_its_actions_with_itself();
-    void null_sources_and_refused_copies_are_left_out();
-    void without_a_manager_nothing_is_copied();
-    void copies_have_every_value_of_their_sources();
-};
+    void the_scene_owns_its_nine_commands()
+    {
+        const GFPQ_FLOW_SCENE scene(nullptr, 0);
 
-void TEST_FLOW_SCENE::the_scene_owns_its_nine_commands()
-{
-    const GFPQ_FLOW_SCENE scene(nullptr, 0);
+        QStringList texts;
+        const QList<QAction*> actions = scene.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QAction* const action : actions)
+            texts.append(action->text());
 
-    QStringList texts;
-    const QList<QAction*> actions = scene.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QAction* const action : actions)
-        texts.append(action->text());
+        QCOMPARE(texts, list({"Refresh", "Delete", "Copy", "Paste", "Write Register", "Read Register", "Write Data",
+                              "Read Data", "Erase"}));
+    }
 
-    QCOMPARE(texts, list({"Refresh", "Delete", "Copy", "Paste", "Write Register", "Read Register", "Write Data",
-                          "Read Data", "Erase"}));
-}
+    void the_scene_draws_nothing_by_itself()
+    {
+        GFPQ_FLOW_SCENE scene(nullptr, 3);
+        const ACTION_LIST actions({make_named_action(0, "w")});
 
-void TEST_FLOW_SCENE::the_scene_draws_nothing_by_itself()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 3);
-    const ACTION_LIST actions({make_named_action(0, "w")});
+        scene.append_copies(actions.get());
+        scene.refresh_flow_chain();
 
-    scene.append_copies(actions.get());
-    scene.refresh_flow_chain();
+        QVERIFY(scene.items().isEmpty());
+        QCOMPARE(scene.get_actions().size(), 1);
+    }
 
-    QVERIFY(scene.items().isEmpty());
-    QCOMPARE(scene.get_actions().size(), 1);
-}
+    void a_rebuild_tears_down_first_and_says_so_once()
+    {
+        LOADED_SCENE scene({"one", "two"});
+        int told = 0;
+        int items_then = -1;
+        QRectF rect_then;
+        connect(&scene, &GFPQ_FLOW_SCENE::emit_clear_table, this, [&] {
+            ++told;
+            items_then = scene.items().size();
+            rect_then = scene.sceneRect();
+        });
 
-void TEST_FLOW_SCENE::a_rebuild_tears_down_first_and_says_so_once()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
-    int told = 0;
-    int items_then = -1;
-    QRectF rect_then;
-    connect(&scene, &GFPQ_FLOW_SCENE::emit_clear_table, this, [&] {
-        ++told;
-        items_then = scene.items().size();
-        rect_then = scene.sceneRect();
-    });
+        scene.create_flow_chain();
 
-    scene.create_flow_chain();
+        QCOMPARE(told, 1);
+        QCOMPARE(items_then, 0);
+        QCOMPARE(rect_then, QRectF(0, 0, 0, 15));
+        QCOMPARE(shapes_of(scene).size(), 4);
+    }
 
-    QCOMPARE(told, 1);
-    QCOMPARE(items_then, 0);
-    QCOMPARE(rect_then, QRectF(0, 0, 0, 15));
-    QCOMPARE(shapes_of(scene).size(), 4);
-}
+    void a_rebuild_restores_the_scene_rectangle()
+    {
+        LOADED_SCENE scene({"one", "a wider block than the other one"});
+        const QRectF rect = scene.sceneRect();
 
-void TEST_FLOW_SCENE::a_rebuild_restores_the_scene_rectangle()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "a wider block than the other one"});
-    const QRectF rect = scene.sceneRect();
+        scene.create_flow_chain();
 
-    scene.create_flow_chain();
+        QCOMPARE(scene.sceneRect(), rect);
+        load_names(scene, {});
+        QCOMPARE(scene.sceneRect().left(), 0.0);
+        QVERIFY(scene.sceneRect().width() < rect.width());
+        QVERIFY(scene.sceneRect().height() < rect.height());
+    }
 
-    QCOMPARE(scene.sceneRect(), rect);
-    load_names(scene, {});
-    QCOMPARE(scene.sceneRect().left(), 0.0);
-    QVERIFY(scene.sceneRect().width() < rect.width());
-    QVERIFY(scene.sceneRect().height() < rect.height());
-}
+    void nothing_but_the_chart_moves_the_scene_rectangle()
+    {
+        LOADED_SCENE scene({"one"});
+        const QRectF rect = scene.sceneRect();
 
-void TEST_FLOW_SCENE::nothing_but_the_chart_moves_the_scene_rectangle()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    const QRectF rect = scene.sceneRect();
+        scene.addRect(-5000, -5000, 10, 10);
+        scene.setSceneRect(-7, -7, 10000, 10000);
+        QCOMPARE(scene.sceneRect(), rect);
 
-    scene.addRect(-5000, -5000, 10, 10);
-    scene.setSceneRect(-7, -7, 10000, 10000);
-    QCOMPARE(scene.sceneRect(), rect);
+        scene.setSceneRect(QRectF());
+        QCOMPARE(scene.sceneRect(), rect);
+    }
 
-    scene.setSceneRect(QRectF());
-    QCOMPARE(scene.sceneRect(), rect);
-}
+    void selecting_a_block_outlines_it_alone_and_tells_its_action()
+    {
+        const ACTION_LIST actions({make_named_action(0, "w"), make_named_action(4, "e"),
+                                   make_loop_action("page", "start"), make_loop_action("page", "end")});
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+        load(scene, actions.get());
+        const QList<QAbstractGraphicsShapeItem*> shapes = shapes_of(scene);
+        const QPen marked(Qt::green, 5);
+        for (QAbstractGraphicsShapeItem* const shape : shapes)
+            shape->setPen(marked);
+        const TOLD_ACTIONS told(scene);
 
-void TEST_FLOW_SCENE::selecting_a_block_outlines_it_alone_and_tells_its_action()
-{
-    const ACTION_LIST actions({make_named_action(0, "w"), make_named_action(4, "e"), make_loop_action("page", "start"),
-                               make_loop_action("page", "end")});
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load(scene, actions.get());
-    const QList<QAbstractGraphicsShapeItem*> shapes = shapes_of(scene);
-    const QPen marked(Qt::green, 5);
-    for (QAbstractGraphicsShapeItem* const shape : shapes)
-        shape->setPen(marked);
-    const TOLD_ACTIONS told(scene);
+        shapes.at(2)->setSelected(true);
 
-    shapes.at(2)->setSelected(true);
+        QCOMPARE(told.actions.size(), 1);
+        QCOMPARE(told.actions.at(0), scene.get_actions().at(1));
+        for (int index = 0; index < shapes.size(); ++index)
+            QCOMPARE(shapes.at(index)->pen(), index == 2 ? QPen(Qt::red, 2) : QPen(Qt::black));
 
-    QCOMPARE(told.actions.size(), 1);
-    QCOMPARE(told.actions.at(0), scene.get_actions().at(1));
-    for (int index = 0; index < shapes.size(); ++index)
-        QCOMPARE(shapes.at(index)->pen(), index == 2 ? QPen(Qt::red, 2) : QPen(Qt::black));
+        scene.clearSelection();
+        shapes.at(1)->setSelected(true);
 
-    scene.clearSelection();
-    shapes.at(1)->setSelected(true);
+        QCOMPARE(told.actions.size(), 2);
+        QCOMPARE(told.actions.at(1), scene.get_actions().at(0));
+        QCOMPARE(shapes.at(1)->pen(), QPen(Qt::red, 2));
+        QCOMPARE(shapes.at(2)->pen(), QPen(Qt::black));
+        for (GFPQ_ARROW_POLYGON_ITEM* const arrow : arrows_of(scene))
+            QCOMPARE(arrow->pen(), QPen(Qt::black, 2));
+    }
 
-    QCOMPARE(told.actions.size(), 2);
-    QCOMPARE(told.actions.at(1), scene.get_actions().at(0));
-    QCOMPARE(shapes.at(1)->pen(), QPen(Qt::red, 2));
-    QCOMPARE(shapes.at(2)->pen(), QPen(Qt::black));
-    for (GFPQ_ARROW_POLYGON_ITEM* const arrow : arrows_of(scene))
-        QCOMPARE(arrow->pen(), QPen(Qt::black, 2));
-}
+    void of_several_selected_blocks_the_last_reported_one_is_told()
+    {
+        LOADED_SCENE scene({"one", "two", "three"});
+        const TOLD_ACTIONS told(scene);
 
-void TEST_FLOW_SCENE::of_several_selected_blocks_the_last_reported_one_is_told()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two", "three"});
-    const TOLD_ACTIONS told(scene);
+        for (QGraphicsRectItem* const block : blocks_of(scene))
+            block->setSelected(true);
 
-    for (QGraphicsRectItem* const block : blocks_of(scene))
+        QCOMPARE(told.actions.size(), 3);
+        QCOMPARE(told.actions.last(), text_of(*scene.selectedItems().last())->action());
+        for (QGraphicsRectItem* const block : blocks_of(scene))
+            QCOMPARE(block->pen(), QPen(Qt::red, 2));
+    }
+
+    void the_first_child_of_a_block_tells_its_action()
+    {
+        LOADED_SCENE scene({"one", "two"});
+        QGraphicsRectItem* const block = blocks_of(scene).at(1);
+        (new GFPQ_GRAPHICS_TEXT_ITEM(qs("another child"), nullptr))->setParentItem(block);
+        const TOLD_ACTIONS told(scene);
+
         block->setSelected(true);
 
-    QCOMPARE(told.actions.size(), 3);
-    QCOMPARE(told.actions.last(), text_of(*scene.selectedItems().last())->action());
-    for (QGraphicsRectItem* const block : blocks_of(scene))
-        QCOMPARE(block->pen(), QPen(Qt::red, 2));
-}
+        QCOMPARE(told.actions, QList<GFPDB_ACTION*>{scene.get_actions().at(1)});
+    }
 
-void TEST_FLOW_SCENE::the_first_child_of_a_block_tells_its_action()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
-    QGraphicsRectItem* const block = blocks_of(scene).at(1);
-    (new GFPQ_GRAPHICS_TEXT_ITEM(QStringLiteral("another child"), nullptr))->setParentItem(block);
-    const TOLD_ACTIONS told(scene);
+    void nothing_is_told_when_the_selection_goes()
+    {
+        LOADED_SCENE scene({"one", "two"});
+        blocks_of(scene).first()->setSelected(true);
+        const TOLD_ACTIONS told(scene);
+        QSignalSpy cleared(&scene, SIGNAL(emit_clear_table()));
 
-    block->setSelected(true);
+        scene.clearSelection();
 
-    QCOMPARE(told.actions, QList<GFPDB_ACTION*>{scene.get_actions().at(1)});
-}
+        QCOMPARE(told.actions.size(), 0);
+        QCOMPARE(cleared.size(), 0);
+        QCOMPARE(blocks_of(scene).first()->pen(), QPen(Qt::black));
+    }
 
-void TEST_FLOW_SCENE::nothing_is_told_when_the_selection_goes()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two"});
-    blocks_of(scene).first()->setSelected(true);
-    const TOLD_ACTIONS told(scene);
-    QSignalSpy cleared(&scene, SIGNAL(emit_clear_table()));
+    void nothing_is_told_while_the_chart_is_torn_down()
+    {
+        LOADED_SCENE scene({"one", "two", "three"});
+        for (QGraphicsRectItem* const block : blocks_of(scene))
+            block->setSelected(true);
+        const TOLD_ACTIONS told(scene);
 
-    scene.clearSelection();
+        scene.create_flow_chain();
 
-    QCOMPARE(told.actions.size(), 0);
-    QCOMPARE(cleared.size(), 0);
-    QCOMPARE(blocks_of(scene).first()->pen(), QPen(Qt::black));
-}
+        QCOMPARE(told.actions.size(), 0);
+        QVERIFY(scene.selectedItems().isEmpty());
+        // And it is told again afterwards.
+        blocks_of(scene).first()->setSelected(true);
+        QCOMPARE(told.actions.size(), 1);
+    }
 
-void TEST_FLOW_SCENE::nothing_is_told_while_the_chart_is_torn_down()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one", "two", "three"});
-    for (QGraphicsRectItem* const block : blocks_of(scene))
-        block->setSelected(true);
-    const TOLD_ACTIONS told(scene);
+    void only_coloured_blocks_of_an_editable_chart_can_be_selected()
+    {
+        const ACTION_LIST actions({make_named_action(0, "w"), make_loop_action("page", "start"),
+                                   make_named_action(1, "r"), make_loop_action("page", "end"),
+                                   make_loop_action("page", "x")});
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+        const TOLD_ACTIONS told(scene);
 
-    scene.create_flow_chain();
+        load(scene, actions.get(), true);
+        for (QGraphicsItem* const item : scene.items())
+            item->setSelected(true);
+        QCOMPARE(scene.selectedItems().size(), 2);
 
-    QCOMPARE(told.actions.size(), 0);
-    QVERIFY(scene.selectedItems().isEmpty());
-    // And it is told again afterwards.
-    blocks_of(scene).first()->setSelected(true);
-    QCOMPARE(told.actions.size(), 1);
-}
+        load(scene, actions.get(), false);
+        const int told_before = told.actions.size();
+        for (QGraphicsItem* const item : scene.items())
+            item->setSelected(true);
+        QCOMPARE(scene.selectedItems().size(), 0);
+        QCOMPARE(told.actions.size(), told_before);
+        for (const GFPQ_ARROW_POLYGON_ITEM* const arrow : arrows_of(scene))
+            QVERIFY(!arrow->drop_zone()->acceptDrops());
+    }
 
-void TEST_FLOW_SCENE::only_coloured_blocks_of_an_editable_chart_can_be_selected()
-{
-    const ACTION_LIST actions({make_named_action(0, "w"), make_loop_action("page", "start"), make_named_action(1, "r"),
-                               make_loop_action("page", "end"), make_loop_action("page", "x")});
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    const TOLD_ACTIONS told(scene);
+    void a_refresh_waits_for_the_focus_and_happens_once()
+    {
+        LOADED_SCENE scene({"one"});
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
 
-    load(scene, actions.get(), true);
-    for (QGraphicsItem* const item : scene.items())
-        item->setSelected(true);
-    QCOMPARE(scene.selectedItems().size(), 2);
+        focus_in(scene);
+        QCOMPARE(rebuilt.size(), 0);
+        scene.refresh_flow_chain();
+        scene.refresh_flow_chain();
+        QCOMPARE(rebuilt.size(), 0);
+        focus_in(scene);
+        QCOMPARE(rebuilt.size(), 1);
+        QVERIFY(!scene.hasFocus());
+        focus_in(scene);
+        QCOMPARE(rebuilt.size(), 1);
+    }
 
-    load(scene, actions.get(), false);
-    const int told_before = told.actions.size();
-    for (QGraphicsItem* const item : scene.items())
-        item->setSelected(true);
-    QCOMPARE(scene.selectedItems().size(), 0);
-    QCOMPARE(told.actions.size(), told_before);
-    for (const GFPQ_ARROW_POLYGON_ITEM* const arrow : arrows_of(scene))
-        QVERIFY(!arrow->drop_zone()->acceptDrops());
-}
+    void a_rebuild_of_any_kind_calls_a_waiting_refresh_off()
+    {
+        LOADED_SCENE scene({"one"});
+        scene.refresh_flow_chain();
+        scene.create_flow_chain();
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
 
-void TEST_FLOW_SCENE::a_refresh_waits_for_the_focus_and_happens_once()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+        focus_in(scene);
 
-    focus_in(scene);
-    QCOMPARE(rebuilt.size(), 0);
-    scene.refresh_flow_chain();
-    scene.refresh_flow_chain();
-    QCOMPARE(rebuilt.size(), 0);
-    focus_in(scene);
-    QCOMPARE(rebuilt.size(), 1);
-    QVERIFY(!scene.hasFocus());
-    focus_in(scene);
-    QCOMPARE(rebuilt.size(), 1);
-}
+        QCOMPARE(rebuilt.size(), 0);
+    }
 
-void TEST_FLOW_SCENE::a_rebuild_of_any_kind_calls_a_waiting_refresh_off()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    scene.refresh_flow_chain();
-    scene.create_flow_chain();
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+    void emptying_the_list_calls_a_waiting_refresh_off()
+    {
+        LOADED_SCENE scene({"one"});
+        scene.refresh_flow_chain();
+        scene.clear_actions(true);
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
 
-    focus_in(scene);
+        focus_in(scene);
 
-    QCOMPARE(rebuilt.size(), 0);
-}
+        QCOMPARE(rebuilt.size(), 0);
+    }
 
-void TEST_FLOW_SCENE::emptying_the_list_calls_a_waiting_refresh_off()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    load_names(scene, {"one"});
-    scene.refresh_flow_chain();
-    scene.clear_actions(true);
-    QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-    focus_in(scene);
-
-    QCOMPARE(rebuilt.size(), 0);
-}
-
-void TEST_FLOW_SCENE::a_waiting_refresh_can_be_taken_back()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    QVERIFY(!scene.take_pending_refresh());
-
-    scene.refresh_flow_chain();
-
-    QVERIFY(scene.take_pending_refresh());
-    QVERIFY(!scene.take_pending_refresh());
-}
-
-void TEST_FLOW_SCENE::a_focus_is_not_handed_on()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-
-    focus_in(scene);
-
-    QVERIFY(!scene.hasFocus());
-}
-
-void TEST_FLOW_SCENE::emptying_the_list_deletes_only_on_request()
-{
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    const int before = live_actions();
-    load_names(scene, {"one", "two"});
-    const ACTION_LIST taken({scene.get_actions().at(0), scene.get_actions().at(1)});
-
-    scene.clear_actions(false);
-
-    QVERIFY(scene.get_actions().isEmpty());
-    QCOMPARE(live_actions(), before + 2);
-    scene.create_flow_chain();
-    load_names(scene, {"three"});
-    QCOMPARE(live_actions(), before + 3);
-    scene.clear_actions(true);
-    QCOMPARE(live_actions(), before + 2);
-}
-
-void TEST_FLOW_SCENE::the_scene_deletes_its_actions_with_itself()
-{
-    const int before = live_actions();
+    void a_waiting_refresh_can_be_taken_back()
     {
         GFPQ_FLOW_SCENE scene(nullptr, 0);
+        QVERIFY(!scene.take_pending_refresh());
+
+        scene.refresh_flow_chain();
+
+        QVERIFY(scene.take_pending_refresh());
+        QVERIFY(!scene.take_pending_refresh());
+    }
+
+    void a_focus_is_not_handed_on()
+    {
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+        focus_in(scene);
+
+        QVERIFY(!scene.hasFocus());
+    }
+
+    void emptying_the_list_deletes_only_on_request()
+    {
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+        const int before = live_actions();
         load_names(scene, {"one", "two"});
+        const ACTION_LIST taken({scene.get_actions().at(0), scene.get_actions().at(1)});
+
+        scene.clear_actions(false);
+
+        QVERIFY(scene.get_actions().isEmpty());
         QCOMPARE(live_actions(), before + 2);
-        blocks_of(scene).first()->setSelected(true);
+        scene.create_flow_chain();
+        load_names(scene, {"three"});
+        QCOMPARE(live_actions(), before + 3);
+        scene.clear_actions(true);
+        QCOMPARE(live_actions(), before + 2);
     }
-    QCOMPARE(live_actions(), before);
-}
 
-void TEST_FLOW_SCENE::null_sources_and_refused_copies_are_left_out()
-{
-    const ACTION_LIST actions(
-        {nullptr, make_named_action(0, "w"), make_named_action(3, "refused"), nullptr, make_named_action(1, "r")});
-    mgr().refused_actions.insert(3);
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-
-    load(scene, actions.get());
-
-    QCOMPARE(names_of(scene.get_actions()), (QStringList{QStringLiteral("0:w"), QStringLiteral("1:r")}));
-    QCOMPARE(shapes_of(scene).size(), 4);
-}
-
-void TEST_FLOW_SCENE::without_a_manager_nothing_is_copied()
-{
-    const ACTION_LIST actions({make_named_action(0, "w")});
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-    world().active = nullptr;
-
-    load(scene, actions.get());
-
-    QVERIFY(scene.get_actions().isEmpty());
-    QCOMPARE(shapes_of(scene).size(), 2);
-}
-
-void TEST_FLOW_SCENE::copies_have_every_value_of_their_sources()
-{
-    const ACTION_LIST actions(
-        {make_action(3, {{22, "6Bh"}, {28, "8"}, {30, "1-1-4"}}), make_loop_action("die", "start")});
-    GFPQ_FLOW_SCENE scene(nullptr, 0);
-
-    load(scene, actions.get());
-
-    for (int index = 0; index < 2; ++index) {
-        const auto& copy = dynamic_cast<const ACTION_DOUBLE&>(*scene.get_actions().at(index));
-        const auto& source = dynamic_cast<const ACTION_DOUBLE&>(*actions.get().at(static_cast<std::size_t>(index)));
-        QVERIFY(&copy != &source);
-        QCOMPARE(copy.m_action_type, source.m_action_type);
-        QVERIFY(copy.values == source.values);
+    void the_scene_deletes_its_actions_with_itself()
+    {
+        const int before = live_actions();
+        {
+            LOADED_SCENE scene({"one", "two"});
+            QCOMPARE(live_actions(), before + 2);
+            blocks_of(scene).first()->setSelected(true);
+        }
+        QCOMPARE(live_actions(), before);
     }
-    QCOMPARE(log().calls_of({QStringLiteral("get_active_flash_manager")}),
-             QStringList{QStringLiteral("GFPDB_HELPER.get_active_flash_manager(false)")});
-}
+
+    void null_sources_and_refused_copies_are_left_out()
+    {
+        const ACTION_LIST actions(
+            {nullptr, make_named_action(0, "w"), make_named_action(3, "refused"), nullptr, make_named_action(1, "r")});
+        mgr().refused_actions.insert(3);
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+        load(scene, actions.get());
+
+        QCOMPARE(names_of(scene.get_actions()), (QStringList{qs("0:w"), qs("1:r")}));
+        QCOMPARE(shapes_of(scene).size(), 4);
+    }
+
+    void without_a_manager_nothing_is_copied()
+    {
+        const ACTION_LIST actions({make_named_action(0, "w")});
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+        world().active = nullptr;
+
+        load(scene, actions.get());
+
+        QVERIFY(scene.get_actions().isEmpty());
+        QCOMPARE(shapes_of(scene).size(), 2);
+    }
+
+    void copies_have_every_value_of_their_sources()
+    {
+        const ACTION_LIST actions(
+            {make_action(3, {{22, "6Bh"}, {28, "8"}, {30, "1-1-4"}}), make_loop_action("die", "start")});
+        GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+        load(scene, actions.get());
+
+        for (int index = 0; index < 2; ++index) {
+            const auto& copy = dynamic_cast<const ACTION_DOUBLE&>(*scene.get_actions().at(index));
+            const auto& source = dynamic_cast<const ACTION_DOUBLE&>(*actions.get().at(static_cast<std::size_t>(index)));
+            QVERIFY(&copy != &source);
+            QCOMPARE(copy.m_action_type, source.m_action_type);
+            QVERIFY(copy.values == source.values);
+        }
+        QCOMPARE(calls_of({"get_active_flash_manager"}),
+                 QStringList{qs("GFPDB_HELPER.get_active_flash_manager(false)")});
+    }
+};
 
 GFPQ_TEST_MAIN(TEST_FLOW_SCENE)
+
 #include "test_flow_scene.moc"

@@ -76,31 +76,6 @@ QStringList placeholders(const QString& text)
     return found;
 }
 
-} // namespace
-
-class TEST_CATALOGUES : public QObject
-{
-    Q_OBJECT
-
-private:
-    static void add_catalogues();
-
-private slots:
-    void there_is_one_for_each_language();
-    void texts_are_complete_data() { add_catalogues(); }
-    void texts_are_complete();
-    void endings_are_kept_data() { add_catalogues(); }
-    void endings_are_kept();
-    void placeholders_and_line_breaks_are_kept_data() { add_catalogues(); }
-    void placeholders_and_line_breaks_are_kept();
-    void access_keys_are_kept_and_clash_nowhere_data() { add_catalogues(); }
-    void access_keys_are_kept_and_clash_nowhere();
-    void catalogues_of_a_kind_have_the_same_texts();
-    void the_vocabulary_is_not_translated();
-};
-
-namespace {
-
 const QStringList LANGUAGES{QStringLiteral("de"),    QStringLiteral("es"), QStringLiteral("fr"),
                             QStringLiteral("it"),    QStringLiteral("ja"), QStringLiteral("ko"),
                             QStringLiteral("pt_BR"), QStringLiteral("ru"), QStringLiteral("zh_CN"),
@@ -119,101 +94,117 @@ QStringList all_catalogues()
 
 } // namespace
 
-void TEST_CATALOGUES::add_catalogues()
+class TEST_CATALOGUES : public QObject
 {
-    QTest::addColumn<QString>("catalogue");
-    for (const QString& name : all_catalogues())
-        QTest::newRow(qPrintable(name)) << name;
-}
+    Q_OBJECT
 
-void TEST_CATALOGUES::there_is_one_for_each_language()
-{
-    QStringList found = QDir(QStringLiteral(GFPQ_CATALOGUES)).entryList({QStringLiteral("*.ts")});
-    found.sort();
-
-    QCOMPARE(found, all_catalogues());
-    for (const QString& name : qAsConst(found))
-        QVERIFY2(name.endsWith(QLatin1Char('_') + language_of(name) + QLatin1String(".ts")), qPrintable(name));
-}
-
-void TEST_CATALOGUES::texts_are_complete()
-{
-    QFETCH(QString, catalogue);
-    const QList<MESSAGE> messages = read_catalogue(catalogue);
-
-    QVERIFY(!messages.isEmpty());
-    for (const MESSAGE& message : messages) {
-        QVERIFY2(message.type.isEmpty(), qPrintable(message.source));
-        QVERIFY2(!message.translation.trimmed().isEmpty(), qPrintable(message.source));
+private:
+    static void add_catalogues()
+    {
+        QTest::addColumn<QString>("catalogue");
+        for (const QString& name : all_catalogues())
+            QTest::newRow(qPrintable(name)) << name;
     }
-}
 
-void TEST_CATALOGUES::endings_are_kept()
-{
-    QFETCH(QString, catalogue);
-    for (const MESSAGE& message : read_catalogue(catalogue)) {
-        // A sentence goes on after its end in some languages.
-        if (message.source != QLatin1String("Failed to set the custom database directory to "))
-            QVERIFY2(ending(message.translation).endsWith(ending(message.source)), qPrintable(message.translation));
-        QCOMPARE(message.translation.endsWith(QLatin1Char(' ')), message.source.endsWith(QLatin1Char(' ')));
+private slots:
+    void there_is_one_for_each_language()
+    {
+        QStringList found = QDir(QStringLiteral(GFPQ_CATALOGUES)).entryList({QStringLiteral("*.ts")});
+        found.sort();
+
+        QCOMPARE(found, all_catalogues());
+        for (const QString& name : qAsConst(found))
+            QVERIFY2(name.endsWith(QLatin1Char('_') + language_of(name) + QLatin1String(".ts")), qPrintable(name));
     }
-}
 
-void TEST_CATALOGUES::placeholders_and_line_breaks_are_kept()
-{
-    QFETCH(QString, catalogue);
-    for (const MESSAGE& message : read_catalogue(catalogue)) {
-        QCOMPARE(placeholders(message.translation), placeholders(message.source));
-        QCOMPARE(message.translation.count(QLatin1Char('\n')), message.source.count(QLatin1Char('\n')));
-    }
-}
+    void texts_are_complete_data() { add_catalogues(); }
 
-void TEST_CATALOGUES::access_keys_are_kept_and_clash_nowhere()
-{
-    QFETCH(QString, catalogue);
-    QSet<QString> keys;
-    for (const MESSAGE& message : read_catalogue(catalogue)) {
-        QCOMPARE(message.translation.count(QLatin1Char('&')), message.source.count(QLatin1Char('&')));
-        // What has an access key may all be in sight at once.
-        if (!message.source.contains(QLatin1Char('&')))
-            continue;
-        const QString key = message.translation.mid(message.translation.indexOf(QLatin1Char('&')) + 1, 1).toLower();
-        QVERIFY2(!keys.contains(key), qPrintable(message.translation));
-        keys.insert(key);
-    }
-}
+    void texts_are_complete()
+    {
+        QFETCH(QString, catalogue);
+        const QList<MESSAGE> messages = read_catalogue(catalogue);
 
-void TEST_CATALOGUES::catalogues_of_a_kind_have_the_same_texts()
-{
-    for (const QString& kind : {QStringLiteral("gfpq_%1.ts"), QStringLiteral("gfpq_host_%1.ts")}) {
-        QStringList first;
-        for (const QString& language : LANGUAGES) {
-            QStringList texts;
-            for (const MESSAGE& message : read_catalogue(kind.arg(language)))
-                texts.append(message.context + QLatin1String(": ") + message.source);
-            if (first.isEmpty())
-                first = texts;
-            QCOMPARE(texts, first);
+        QVERIFY(!messages.isEmpty());
+        for (const MESSAGE& message : messages) {
+            QVERIFY2(message.type.isEmpty(), qPrintable(message.source));
+            QVERIFY2(!message.translation.trimmed().isEmpty(), qPrintable(message.source));
         }
     }
-}
 
-void TEST_CATALOGUES::the_vocabulary_is_not_translated()
-{
-    QStringList words;
-    const auto take = [&words](const char* word) { words.append(QString::fromUtf8(word)); };
-    std::for_each(std::begin(GFPQ_OPERATION_NAMES), std::end(GFPQ_OPERATION_NAMES), take);
-    std::for_each(std::begin(GFPQ_OPERATION_DESCRIPTIONS), std::end(GFPQ_OPERATION_DESCRIPTIONS), take);
-    std::for_each(std::begin(GFPQ_ACTION_TYPE_NAMES), std::end(GFPQ_ACTION_TYPE_NAMES), take);
-    std::for_each(std::begin(GFPQ_PROPERTY_LABELS), std::end(GFPQ_PROPERTY_LABELS), take);
-    std::for_each(std::begin(PGMIO_CONFIG_SCHEME_NAMES), std::end(PGMIO_CONFIG_SCHEME_NAMES), take);
-    words.append(QStringLiteral("<<new device>>"));
+    void endings_are_kept_data() { add_catalogues(); }
 
-    for (const QString& catalogue : all_catalogues()) {
-        for (const MESSAGE& message : read_catalogue(catalogue))
-            QVERIFY2(!words.contains(message.source), qPrintable(message.source));
+    void endings_are_kept()
+    {
+        QFETCH(QString, catalogue);
+        for (const MESSAGE& message : read_catalogue(catalogue)) {
+            // A sentence goes on after its end in some languages.
+            if (message.source != QLatin1String("Failed to set the custom database directory to "))
+                QVERIFY2(ending(message.translation).endsWith(ending(message.source)), qPrintable(message.translation));
+            QCOMPARE(message.translation.endsWith(QLatin1Char(' ')), message.source.endsWith(QLatin1Char(' ')));
+        }
     }
-}
+
+    void placeholders_and_line_breaks_are_kept_data() { add_catalogues(); }
+
+    void placeholders_and_line_breaks_are_kept()
+    {
+        QFETCH(QString, catalogue);
+        for (const MESSAGE& message : read_catalogue(catalogue)) {
+            QCOMPARE(placeholders(message.translation), placeholders(message.source));
+            QCOMPARE(message.translation.count(QLatin1Char('\n')), message.source.count(QLatin1Char('\n')));
+        }
+    }
+
+    void access_keys_are_kept_and_clash_nowhere_data() { add_catalogues(); }
+
+    void access_keys_are_kept_and_clash_nowhere()
+    {
+        QFETCH(QString, catalogue);
+        QSet<QString> keys;
+        for (const MESSAGE& message : read_catalogue(catalogue)) {
+            QCOMPARE(message.translation.count(QLatin1Char('&')), message.source.count(QLatin1Char('&')));
+            // What has an access key may all be in sight at once.
+            if (!message.source.contains(QLatin1Char('&')))
+                continue;
+            const QString key = message.translation.mid(message.translation.indexOf(QLatin1Char('&')) + 1, 1).toLower();
+            QVERIFY2(!keys.contains(key), qPrintable(message.translation));
+            keys.insert(key);
+        }
+    }
+
+    void catalogues_of_a_kind_have_the_same_texts()
+    {
+        for (const QString& kind : {QStringLiteral("gfpq_%1.ts"), QStringLiteral("gfpq_host_%1.ts")}) {
+            QStringList first;
+            for (const QString& language : LANGUAGES) {
+                QStringList texts;
+                for (const MESSAGE& message : read_catalogue(kind.arg(language)))
+                    texts.append(message.context + QLatin1String(": ") + message.source);
+                if (first.isEmpty())
+                    first = texts;
+                QCOMPARE(texts, first);
+            }
+        }
+    }
+
+    void the_vocabulary_is_not_translated()
+    {
+        QStringList words;
+        const auto take = [&words](const char* word) { words.append(QString::fromUtf8(word)); };
+        std::for_each(std::begin(GFPQ_OPERATION_NAMES), std::end(GFPQ_OPERATION_NAMES), take);
+        std::for_each(std::begin(GFPQ_OPERATION_DESCRIPTIONS), std::end(GFPQ_OPERATION_DESCRIPTIONS), take);
+        std::for_each(std::begin(GFPQ_ACTION_TYPE_NAMES), std::end(GFPQ_ACTION_TYPE_NAMES), take);
+        std::for_each(std::begin(GFPQ_PROPERTY_LABELS), std::end(GFPQ_PROPERTY_LABELS), take);
+        std::for_each(std::begin(PGMIO_CONFIG_SCHEME_NAMES), std::end(PGMIO_CONFIG_SCHEME_NAMES), take);
+        words.append(QStringLiteral("<<new device>>"));
+
+        for (const QString& catalogue : all_catalogues()) {
+            for (const MESSAGE& message : read_catalogue(catalogue))
+                QVERIFY2(!words.contains(message.source), qPrintable(message.source));
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TEST_CATALOGUES)
+
 #include "test_catalogues.moc"

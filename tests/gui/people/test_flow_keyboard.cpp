@@ -19,274 +19,256 @@ private:
         QTest::keyClick(&chart(), key, modifiers);
     }
     // The first lines of the selected blocks' texts, from top to bottom.
-    QStringList selected() const;
+    QStringList selected() const
+    {
+        QList<QGraphicsItem*> items = chart().scene()->selectedItems();
+        std::sort(items.begin(), items.end(),
+                  [](const auto* left, const auto* right) { return left->y() < right->y(); });
+        QStringList texts;
+        for (const QGraphicsItem* const item : qAsConst(items)) {
+            const auto* const text = dynamic_cast<QGraphicsTextItem*>(item->childItems().first());
+            texts.append(text->toPlainText().section(QLatin1Char('\n'), 0, 0).section(QLatin1Char(' '), -1));
+        }
+        return texts;
+    }
+
     // Presses the menu key; `action` meets the menu.
-    void open_menu(const MODAL_DRIVER::ACTION& action);
-    void open_page();
+    void open_menu(const MODAL_DRIVER::ACTION& action)
+    {
+        m_modals.expect(action);
+        QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, QPoint());
+        QApplication::sendEvent(&chart(), &menu_key);
+    }
+
+    void open_page()
+    {
+        open_dialog();
+        show_operation_page(GFPDB_OPERATION_INITIALIZATION);
+        chart().setFocus();
+        QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("third")}));
+        QCOMPARE(selected(), QStringList());
+    }
 
 private slots:
-    void down_and_up_walk_the_blocks();
-    void home_and_end_go_to_the_ends();
-    void shift_keeps_what_is_selected();
-    void keys_go_on_from_a_block_that_was_clicked();
-    void keys_go_on_from_their_place_after_a_rebuild();
-    void the_selected_block_fills_the_property_table();
-    void the_block_that_the_keys_go_to_is_scrolled_into_view();
-    void of_a_block_wider_than_the_view_the_middle_is_shown();
-    void other_modifiers_are_left_to_the_view();
-    void the_menu_key_means_the_arrow_below_the_last_selected_block();
-    void the_menu_key_means_the_first_arrow_when_nothing_is_selected();
-    void the_arrow_that_the_menu_key_means_is_scrolled_into_view();
-    void a_block_is_copied_and_pasted_with_keys_alone();
-    void the_mouse_opens_the_menu_where_it_points();
-    void a_chart_that_cannot_be_edited_scrolls();
-};
+    void down_and_up_walk_the_blocks()
+    {
+        open_page();
 
-QStringList TEST_FLOW_KEYBOARD::selected() const
-{
-    QList<QGraphicsItem*> items = chart().scene()->selectedItems();
-    std::sort(items.begin(), items.end(), [](const auto* left, const auto* right) { return left->y() < right->y(); });
-    QStringList texts;
-    for (const QGraphicsItem* const item : qAsConst(items)) {
-        const auto* const text = dynamic_cast<QGraphicsTextItem*>(item->childItems().first());
-        texts.append(text->toPlainText().section(QLatin1Char('\n'), 0, 0).section(QLatin1Char(' '), -1));
-    }
-    return texts;
-}
+        QStringList walked;
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up,
+                                  Qt::Key_Up, Qt::Key_Up, Qt::Key_Down}) {
+            press(key);
+            walked.append(selected().join(QLatin1Char('+')));
+        }
 
-void TEST_FLOW_KEYBOARD::open_menu(const MODAL_DRIVER::ACTION& action)
-{
-    m_modals.expect(action);
-    QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, QPoint());
-    QApplication::sendEvent(&chart(), &menu_key);
-}
-
-void TEST_FLOW_KEYBOARD::open_page()
-{
-    open_dialog();
-    show_operation_page(GFPDB_OPERATION_INITIALIZATION);
-    chart().setFocus();
-    QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("third")}));
-    QCOMPARE(selected(), QStringList());
-}
-
-void TEST_FLOW_KEYBOARD::down_and_up_walk_the_blocks()
-{
-    open_page();
-
-    QStringList walked;
-    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up,
-                              Qt::Key_Up, Qt::Key_Up, Qt::Key_Down}) {
-        press(key);
-        walked.append(selected().join(QLatin1Char('+')));
+        QCOMPARE(walked, QStringList({QStringLiteral("0"), QStringLiteral("second"), QStringLiteral("third"),
+                                      QStringLiteral("third"), QStringLiteral("second"), QStringLiteral("0"), QString(),
+                                      QString(), QStringLiteral("0")}));
     }
 
-    QCOMPARE(walked, QStringList({QStringLiteral("0"), QStringLiteral("second"), QStringLiteral("third"),
-                                  QStringLiteral("third"), QStringLiteral("second"), QStringLiteral("0"), QString(),
-                                  QString(), QStringLiteral("0")}));
-}
+    void home_and_end_go_to_the_ends()
+    {
+        open_page();
 
-void TEST_FLOW_KEYBOARD::home_and_end_go_to_the_ends()
-{
-    open_page();
-
-    press(Qt::Key_End);
-    QCOMPARE(selected(), QStringList({QStringLiteral("third")}));
-    press(Qt::Key_Home);
-    QCOMPARE(selected(), QStringList({QStringLiteral("0")}));
-}
-
-void TEST_FLOW_KEYBOARD::shift_keeps_what_is_selected()
-{
-    open_page();
-
-    press(Qt::Key_Down);
-    press(Qt::Key_Down, Qt::ShiftModifier);
-    QCOMPARE(selected(), QStringList({QStringLiteral("0"), QStringLiteral("second")}));
-    press(Qt::Key_End, Qt::ShiftModifier);
-    QCOMPARE(selected(), QStringList({QStringLiteral("0"), QStringLiteral("second"), QStringLiteral("third")}));
-    press(Qt::Key_Up);
-    QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
-}
-
-void TEST_FLOW_KEYBOARD::keys_go_on_from_a_block_that_was_clicked()
-{
-    open_page();
-    press(Qt::Key_Down);
-    const QGraphicsItem* const first = chart().scene()->selectedItems().first();
-    QGraphicsItem* second = nullptr;
-    for (QGraphicsItem* const item : chart().scene()->items()) {
-        if (item->flags().testFlag(QGraphicsItem::ItemIsSelectable) && item->y() > first->y() &&
-            (second == nullptr || item->y() < second->y()))
-            second = item;
+        press(Qt::Key_End);
+        QCOMPARE(selected(), QStringList({QStringLiteral("third")}));
+        press(Qt::Key_Home);
+        QCOMPARE(selected(), QStringList({QStringLiteral("0")}));
     }
-    chart().ensureVisible(second);
-    QTest::mouseClick(chart().viewport(), Qt::LeftButton, Qt::NoModifier,
-                      chart().mapFromScene(second->sceneBoundingRect().center()));
-    QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
 
-    press(Qt::Key_Down);
+    void shift_keeps_what_is_selected()
+    {
+        open_page();
 
-    QCOMPARE(selected(), QStringList({QStringLiteral("third")}));
-}
+        press(Qt::Key_Down);
+        press(Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(selected(), QStringList({QStringLiteral("0"), QStringLiteral("second")}));
+        press(Qt::Key_End, Qt::ShiftModifier);
+        QCOMPARE(selected(), QStringList({QStringLiteral("0"), QStringLiteral("second"), QStringLiteral("third")}));
+        press(Qt::Key_Up);
+        QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
+    }
 
-void TEST_FLOW_KEYBOARD::keys_go_on_from_their_place_after_a_rebuild()
-{
-    open_page();
-    press(Qt::Key_Down);
-    press(Qt::Key_F5);
-    QCOMPARE(selected(), QStringList());
+    void keys_go_on_from_a_block_that_was_clicked()
+    {
+        open_page();
+        press(Qt::Key_Down);
+        const QGraphicsItem* const first = chart().scene()->selectedItems().first();
+        QGraphicsItem* second = nullptr;
+        for (QGraphicsItem* const item : chart().scene()->items()) {
+            if (item->flags().testFlag(QGraphicsItem::ItemIsSelectable) && item->y() > first->y() &&
+                (second == nullptr || item->y() < second->y()))
+                second = item;
+        }
+        chart().ensureVisible(second);
+        QTest::mouseClick(chart().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          chart().mapFromScene(second->sceneBoundingRect().center()));
+        QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
 
-    press(Qt::Key_Down);
+        press(Qt::Key_Down);
 
-    QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
-}
+        QCOMPARE(selected(), QStringList({QStringLiteral("third")}));
+    }
 
-void TEST_FLOW_KEYBOARD::the_selected_block_fills_the_property_table()
-{
-    open_page();
+    void keys_go_on_from_their_place_after_a_rebuild()
+    {
+        open_page();
+        press(Qt::Key_Down);
+        press(Qt::Key_F5);
+        QCOMPARE(selected(), QStringList());
 
-    press(Qt::Key_End);
+        press(Qt::Key_Down);
 
-    QCOMPARE(property_table().model()->index(0, 1).data().toString(), QStringLiteral("third"));
-}
+        QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
+    }
 
-void TEST_FLOW_KEYBOARD::the_block_that_the_keys_go_to_is_scrolled_into_view()
-{
-    open_page();
-    const auto shown = [this] {
-        const QGraphicsItem* const block = chart().scene()->selectedItems().first();
-        return chart().viewport()->rect().contains(
-            chart().mapFromScene(block->sceneBoundingRect()).boundingRect().center());
-    };
-    QWidget* const window = tabs().window();
-    window->resize(window->width(), window->height() - chart().viewport()->height() / 2);
-    QVERIFY(chart().verticalScrollBar()->maximum() > 0);
-    press(Qt::Key_End);
-    QVERIFY(shown());
-    press(Qt::Key_Home);
-    QVERIFY(shown());
-}
-
-void TEST_FLOW_KEYBOARD::of_a_block_wider_than_the_view_the_middle_is_shown()
-{
-    GFPDB_OPERATION* const operation = mgr().flashes.at("My part")->operations.at(false).front();
-    operation->add_action(make_named_action(GFPDB_ACT_WRITE_REGISTER, std::string(500, 'x')));
-    open_dialog();
-    show_operation_page(GFPDB_OPERATION_INITIALIZATION);
-    for (const bool from_the_left : {true, false}) {
-        QScrollBar& bar = *chart().horizontalScrollBar();
-        bar.setValue(from_the_left ? bar.minimum() : bar.maximum());
+    void the_selected_block_fills_the_property_table()
+    {
+        open_page();
 
         press(Qt::Key_End);
 
-        const QGraphicsItem& block = *chart().scene()->selectedItems().first();
-        QVERIFY(block.sceneBoundingRect().width() > 2 * chart().viewport()->width());
-        const QPoint middle = chart().mapFromScene(block.sceneBoundingRect().center());
-        QVERIFY(chart().viewport()->rect().contains(middle));
+        QCOMPARE(property_table().model()->index(0, 1).data().toString(), QStringLiteral("third"));
     }
-}
 
-void TEST_FLOW_KEYBOARD::other_modifiers_are_left_to_the_view()
-{
-    open_page();
+    void the_block_that_the_keys_go_to_is_scrolled_into_view()
+    {
+        open_page();
+        const auto shown = [this] {
+            const QGraphicsItem* const block = chart().scene()->selectedItems().first();
+            return chart().viewport()->rect().contains(
+                chart().mapFromScene(block->sceneBoundingRect()).boundingRect().center());
+        };
+        QWidget* const window = tabs().window();
+        window->resize(window->width(), window->height() - chart().viewport()->height() / 2);
+        QVERIFY(chart().verticalScrollBar()->maximum() > 0);
+        press(Qt::Key_End);
+        QVERIFY(shown());
+        press(Qt::Key_Home);
+        QVERIFY(shown());
+    }
 
-    press(Qt::Key_Down, Qt::AltModifier);
-    press(Qt::Key_End, Qt::ShiftModifier | Qt::AltModifier);
+    void of_a_block_wider_than_the_view_the_middle_is_shown()
+    {
+        GFPDB_OPERATION* const operation = mgr().flashes.at("My part")->operations.at(false).front();
+        operation->add_action(make_named_action(GFPDB_ACT_WRITE_REGISTER, std::string(500, 'x')));
+        open_dialog();
+        show_operation_page(GFPDB_OPERATION_INITIALIZATION);
+        for (const bool from_the_left : {true, false}) {
+            QScrollBar& bar = *chart().horizontalScrollBar();
+            bar.setValue(from_the_left ? bar.minimum() : bar.maximum());
 
-    QCOMPARE(selected(), QStringList());
-}
+            press(Qt::Key_End);
 
-void TEST_FLOW_KEYBOARD::the_menu_key_means_the_arrow_below_the_last_selected_block()
-{
-    open_page();
-    press(Qt::Key_Down);
-    press(Qt::Key_Down, Qt::ShiftModifier);
+            const QGraphicsItem& block = *chart().scene()->selectedItems().first();
+            QVERIFY(block.sceneBoundingRect().width() > 2 * chart().viewport()->width());
+            const QPoint middle = chart().mapFromScene(block.sceneBoundingRect().center());
+            QVERIFY(chart().viewport()->rect().contains(middle));
+        }
+    }
 
-    open_menu([](QWidget* menu) {
-        auto* const insert_menu = menu->findChild<QMenu*>();
-        insert_menu->actions().first()->trigger();
-        menu->close();
-    });
+    void other_modifiers_are_left_to_the_view()
+    {
+        open_page();
 
-    QCOMPARE(m_modals.last().menu_entries,
-             QStringList({QStringLiteral("Copy"), QStringLiteral("-"), QStringLiteral("Insert"), QStringLiteral("-"),
-                          QStringLiteral("Refresh"), QStringLiteral("Delete")}));
-    QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("default 5"),
-                                   QStringLiteral("third")}));
-}
+        press(Qt::Key_Down, Qt::AltModifier);
+        press(Qt::Key_End, Qt::ShiftModifier | Qt::AltModifier);
 
-void TEST_FLOW_KEYBOARD::the_menu_key_means_the_first_arrow_when_nothing_is_selected()
-{
-    open_page();
+        QCOMPARE(selected(), QStringList());
+    }
 
-    open_menu([](QWidget* menu) {
-        menu->findChild<QMenu*>()->actions().first()->trigger();
-        menu->close();
-    });
+    void the_menu_key_means_the_arrow_below_the_last_selected_block()
+    {
+        open_page();
+        press(Qt::Key_Down);
+        press(Qt::Key_Down, Qt::ShiftModifier);
 
-    QCOMPARE(chain().first(), QStringLiteral("default 5"));
-    QCOMPARE(chain().size(), 4);
-}
+        open_menu([](QWidget* menu) {
+            auto* const insert_menu = menu->findChild<QMenu*>();
+            insert_menu->actions().first()->trigger();
+            menu->close();
+        });
 
-void TEST_FLOW_KEYBOARD::the_arrow_that_the_menu_key_means_is_scrolled_into_view()
-{
-    open_page();
-    QWidget* const window = tabs().window();
-    window->resize(window->width(), window->height() - chart().viewport()->height() / 2);
-    QScrollBar& bar = *chart().verticalScrollBar();
-    press(Qt::Key_End);
-    bar.setValue(bar.minimum());
-    const QRectF block = chart().scene()->selectedItems().first()->sceneBoundingRect();
-    const auto arrow_in_view = [&] { return chart().mapFromScene(block.center().x(), block.bottom() + 30); };
-    QVERIFY(!chart().viewport()->rect().contains(arrow_in_view()));
+        QCOMPARE(m_modals.last().menu_entries,
+                 QStringList({QStringLiteral("Copy"), QStringLiteral("-"), QStringLiteral("Insert"),
+                              QStringLiteral("-"), QStringLiteral("Refresh"), QStringLiteral("Delete")}));
+        QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("default 5"),
+                                       QStringLiteral("third")}));
+    }
 
-    open_menu(MODAL_DRIVER::reject());
+    void the_menu_key_means_the_first_arrow_when_nothing_is_selected()
+    {
+        open_page();
 
-    QVERIFY(chart().viewport()->rect().contains(arrow_in_view()));
-}
+        open_menu([](QWidget* menu) {
+            menu->findChild<QMenu*>()->actions().first()->trigger();
+            menu->close();
+        });
 
-void TEST_FLOW_KEYBOARD::a_block_is_copied_and_pasted_with_keys_alone()
-{
-    open_page();
-    press(Qt::Key_Down);
-    press(Qt::Key_C, Qt::ControlModifier);
-    press(Qt::Key_End);
+        QCOMPARE(chain().first(), QStringLiteral("default 5"));
+        QCOMPARE(chain().size(), 4);
+    }
 
-    open_menu(MODAL_DRIVER::trigger(QStringLiteral("Paste")));
+    void the_arrow_that_the_menu_key_means_is_scrolled_into_view()
+    {
+        open_page();
+        QWidget* const window = tabs().window();
+        window->resize(window->width(), window->height() - chart().viewport()->height() / 2);
+        QScrollBar& bar = *chart().verticalScrollBar();
+        press(Qt::Key_End);
+        bar.setValue(bar.minimum());
+        const QRectF block = chart().scene()->selectedItems().first()->sceneBoundingRect();
+        const auto arrow_in_view = [&] { return chart().mapFromScene(block.center().x(), block.bottom() + 30); };
+        QVERIFY(!chart().viewport()->rect().contains(arrow_in_view()));
 
-    QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("third"),
-                                   QStringLiteral("step 0")}));
-}
+        open_menu(MODAL_DRIVER::reject());
 
-void TEST_FLOW_KEYBOARD::the_mouse_opens_the_menu_where_it_points()
-{
-    open_page();
-    const QPoint corner = chart().viewport()->rect().bottomLeft();
+        QVERIFY(chart().viewport()->rect().contains(arrow_in_view()));
+    }
 
-    m_modals.expect(MODAL_DRIVER::reject());
-    QContextMenuEvent event(QContextMenuEvent::Mouse, corner, chart().viewport()->mapToGlobal(corner));
-    QApplication::sendEvent(chart().viewport(), &event);
+    void a_block_is_copied_and_pasted_with_keys_alone()
+    {
+        open_page();
+        press(Qt::Key_Down);
+        press(Qt::Key_C, Qt::ControlModifier);
+        press(Qt::Key_End);
 
-    QCOMPARE(m_modals.last().menu_entries, QStringList({QStringLiteral("Refresh")}));
-    // Beside the viewport, on the frame, it opens none.
-    QApplication::sendEvent(&chart(), &event);
-    QCOMPARE(m_modals.met().size(), 1);
-}
+        open_menu(MODAL_DRIVER::trigger(QStringLiteral("Paste")));
 
-void TEST_FLOW_KEYBOARD::a_chart_that_cannot_be_edited_scrolls()
-{
-    mgr().flow_editable = false;
-    open_page();
-    chart().verticalScrollBar()->setValue(0);
-    QVERIFY(chart().verticalScrollBar()->maximum() > 0);
+        QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("third"),
+                                       QStringLiteral("step 0")}));
+    }
 
-    press(Qt::Key_Down);
+    void the_mouse_opens_the_menu_where_it_points()
+    {
+        open_page();
+        const QPoint corner = chart().viewport()->rect().bottomLeft();
 
-    QVERIFY(chart().verticalScrollBar()->value() > 0);
-    open_menu(MODAL_DRIVER::reject());
-    QCOMPARE(m_modals.last().menu_entries, QStringList({QStringLiteral("Refresh")}));
-}
+        m_modals.expect(MODAL_DRIVER::reject());
+        QContextMenuEvent event(QContextMenuEvent::Mouse, corner, chart().viewport()->mapToGlobal(corner));
+        QApplication::sendEvent(chart().viewport(), &event);
+
+        QCOMPARE(m_modals.last().menu_entries, QStringList({QStringLiteral("Refresh")}));
+        // Beside the viewport, on the frame, it opens none.
+        QApplication::sendEvent(&chart(), &event);
+        QCOMPARE(m_modals.met().size(), 1);
+    }
+
+    void a_chart_that_cannot_be_edited_scrolls()
+    {
+        mgr().flow_editable = false;
+        open_page();
+        chart().verticalScrollBar()->setValue(0);
+        QVERIFY(chart().verticalScrollBar()->maximum() > 0);
+
+        press(Qt::Key_Down);
+
+        QVERIFY(chart().verticalScrollBar()->value() > 0);
+        open_menu(MODAL_DRIVER::reject());
+        QCOMPARE(m_modals.last().menu_entries, QStringList({QStringLiteral("Refresh")}));
+    }
+};
 
 GFPQ_TEST_MAIN(TEST_FLOW_KEYBOARD)
+
 #include "test_flow_keyboard.moc"
