@@ -2,6 +2,7 @@
 
 // A user chooses family, mode and device, and the program that opened the dialog gets them.
 #include "e2e_test.h"
+#include "test_rows.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 // The host's main window: the way to the dialog, and what it remembers.
 #include "e2e_test.h"
+#include "test_rows.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 // The dialogs on the screen of a small laptop.
 #include "e2e_test.h"
+#include "test_rows.h"
 
 namespace {
 
