@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "family_file.h"
 
+#include "csv/csv.h"
 #include "dstr/dev_family.h"
 
 #include <QFile>
@@ -21,12 +22,33 @@ Q_LOGGING_CATEGORY(DSTR_LOG, "host.dstr")
 
 constexpr int LAST_SCHEME = 25;
 constexpr int LARGEST_FILE = 1024 * 1024;
-const QByteArray HEADING = QByteArrayLiteral("value,name,schemes");
+const std::vector<std::string> HEADING = {"value", "name", "schemes"};
 const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
+
+// One line is one row, so that a quote that is never closed costs its own line only.
+CSV_ROW row_of(const QByteArray& line)
+{
+    const std::vector<CSV_ROW> rows = csv_rows(line.toStdString());
+    return rows.empty() ? CSV_ROW() : rows.front();
+}
 
 bool says_nothing(const QByteArray& line)
 {
-    return line.isEmpty() || line.startsWith('#') || line == HEADING;
+    return line.isEmpty() || line.startsWith('#') || row_of(line).cells == HEADING;
+}
+
+QByteArray trimmed(const std::string& cell)
+{
+    return QByteArray::fromStdString(cell).trimmed();
+}
+
+// A name with commas need not be quoted: it is what stands between the value and the schemes.
+QByteArray name_of(const std::vector<std::string>& cells)
+{
+    std::string name = cells[1];
+    for (std::size_t at = 2; at + 1 < cells.size(); ++at)
+        name += ',' + cells[at];
+    return trimmed(name);
 }
 
 bool is_utf8(const QByteArray& text)
@@ -78,22 +100,24 @@ bool read_schemes(const QByteArray& text, std::vector<int>& schemes)
 
 std::optional<FAMILY_ROW> LINE_READER::read(const QByteArray& line)
 {
-    const int first_comma = line.indexOf(',');
-    const int last_comma = line.lastIndexOf(',');
-    if (first_comma == last_comma)
+    const CSV_ROW cells_of_line = row_of(line);
+    const std::vector<std::string>& cells = cells_of_line.cells;
+    if (cells_of_line.quote_is_open)
+        return refuse("a quote that opens in it is never closed");
+    if (cells.size() < HEADING.size())
         return refuse("it is not value,name,schemes");
     if (!is_utf8(line))
         return refuse("it is not UTF-8");
 
     FAMILY_ROW row;
     bool is_number = false;
-    row.value = line.left(first_comma).trimmed().toInt(&is_number);
+    row.value = trimmed(cells.front()).toInt(&is_number);
     if (!is_number || row.value < DEV_FAMILY_FIRST || row.value > DEV_FAMILY_LAST)
         return refuse("its value is not a number from 1 to 72");
-    const QByteArray name = line.mid(first_comma + 1, last_comma - first_comma - 1).trimmed();
+    const QByteArray name = name_of(cells);
     if (name.isEmpty())
         return refuse("it has no name");
-    if (!read_schemes(line.mid(last_comma + 1), row.schemes))
+    if (!read_schemes(trimmed(cells.back()), row.schemes))
         return refuse("its schemes are not different numbers from 0 to 25 separated by blanks");
 
     if (m_values.count(row.value) > 0)

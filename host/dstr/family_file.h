@@ -2,12 +2,13 @@
 
 // The families file: one device family a line.
 //
-// A line is "value,name,schemes" in UTF-8: the value is 1 to 72, the schemes are different values 0 to 25 separated by
-// blanks (none at all is allowed), and the name is everything between the first and the last comma, so it may hold
-// commas itself. Values and names occur once in a file, because users and programs tell the families apart by either;
-// names that differ in case only are different, but a dialog that looks one up without regard to case finds the first.
-// Blank lines, lines that open with "#" and the heading "value,name,schemes" say nothing; a line may end in a carriage
-// return and the file may open with a byte order mark.
+// A line is "value,name,schemes" in UTF-8, as comma-separated values: the value is 1 to 72, the schemes are different
+// values 0 to 25 separated by blanks (none at all is allowed). Cells may be quoted, with quotes in them doubled; a name
+// with commas need not be: it is everything between the first and the last cell. Values and names occur once in a file,
+// because users and programs tell the families apart by either; names that differ in case only are different, but a
+// dialog that looks one up without regard to case finds the first. Blank lines, lines that open with "#" and the
+// heading "value,name,schemes" say nothing; a line may end in a carriage return and the file may open with a byte order
+// mark.
 #pragma once
 
 #include <QByteArray>

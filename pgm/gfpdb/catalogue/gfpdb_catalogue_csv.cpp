@@ -6,6 +6,8 @@
 #include "model/gfpdb_field.h"
 #include "rules/gfpdb_checks.h"
 
+#include "csv/csv.h"
+
 #include <algorithm>
 #include <functional>
 #include <map>
@@ -16,90 +18,10 @@ namespace {
 
 constexpr int DUMMY_CLOCKS_MAX = 31;
 constexpr int PAGE_SIZE_MAX = 4096;
-constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 
 constexpr const char* NAME_COLUMN = "name";
 constexpr const char* ID_COLUMN = "jedec_id";
 constexpr const char* DENSITY_COLUMN = "density";
-
-// Splits a text into cells, one character at a time.
-class CSV_SPLITTER
-{
-public:
-    std::vector<GFPDB_CSV_ROW> split(const std::string& text)
-    {
-        for (std::size_t at = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? 3 : 0; at < text.size(); ++at) {
-            if (m_quoted)
-                take_quoted(text, at);
-            else
-                take_plain(text[at]);
-            if (text[at] == '\n')
-                ++m_line;
-        }
-        end_row();
-        return std::move(m_rows);
-    }
-
-private:
-    void take_quoted(const std::string& text, std::size_t& at)
-    {
-        if (text[at] != '"')
-            m_cell += text[at];
-        else if (at + 1 < text.size() && text[at + 1] == '"')
-            m_cell += text[++at];
-        else
-            end_quote();
-    }
-
-    void end_quote()
-    {
-        m_quoted = false;
-        m_quoted_size = m_cell.size();
-    }
-
-    void take_plain(char character)
-    {
-        if (character == '"' && m_cell.empty())
-            m_quoted = true;
-        else if (character == ',')
-            end_cell();
-        else if (character == '\n')
-            end_row();
-        else
-            m_cell += character;
-    }
-
-    void end_cell()
-    {
-        m_row.cells.push_back(m_cell);
-        m_cell.clear();
-        m_quoted_size = 0;
-    }
-
-    // A carriage return at the end belongs to the line break, unless it stands in quotes.
-    void end_row()
-    {
-        if (!m_quoted && m_cell.size() > m_quoted_size && m_cell.back() == '\r')
-            m_cell.pop_back();
-        if (!m_row.cells.empty() || !m_cell.empty()) {
-            end_cell();
-            m_row.line = m_row_line;
-            m_row.quote_is_open = m_quoted;
-            m_rows.push_back(m_row);
-        }
-        m_row = GFPDB_CSV_ROW();
-        m_row_line = m_line + 1;
-    }
-
-    std::vector<GFPDB_CSV_ROW> m_rows;
-    GFPDB_CSV_ROW m_row;
-    std::string m_cell;
-    // So much of the cell stood in quotes.
-    std::size_t m_quoted_size = 0;
-    bool m_quoted = false;
-    int m_line = 1;
-    int m_row_line = 1;
-};
 
 std::vector<std::string> words(const std::string& text)
 {
@@ -281,7 +203,7 @@ bool is_required(const std::string& column)
 }
 
 // The column names; false when a required one is missing.
-bool check_columns(const GFPDB_CSV_ROW& head, std::vector<GFPDB_CSV_ERROR>& errors)
+bool check_columns(const CSV_ROW& head, std::vector<GFPDB_CSV_ERROR>& errors)
 {
     bool complete = true;
     for (const char* column : {NAME_COLUMN, ID_COLUMN, DENSITY_COLUMN}) {
@@ -298,7 +220,7 @@ bool check_columns(const GFPDB_CSV_ROW& head, std::vector<GFPDB_CSV_ERROR>& erro
 }
 
 // The part of `row`; false with an error when the row is wrong.
-bool read_row(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row, GFPDB_PART& part, GFPDB_CSV_ERROR& error)
+bool read_row(const CSV_ROW& head, const CSV_ROW& row, GFPDB_PART& part, GFPDB_CSV_ERROR& error)
 {
     error = {row.line, std::string(), std::string()};
     if (row.cells.size() != head.cells.size()) {
@@ -334,16 +256,11 @@ std::int64_t gfpdb_density_bytes(const std::string& density)
     return unit == 'B' ? scaled : scaled / BITS_PER_BYTE;
 }
 
-std::vector<GFPDB_CSV_ROW> gfpdb_parse_csv(const std::string& text)
-{
-    return CSV_SPLITTER().split(text);
-}
-
 GFPDB_CATALOGUE_CONTENT gfpdb_parse_catalogue(const std::string& text)
 {
     GFPDB_CATALOGUE_CONTENT content;
-    const std::vector<GFPDB_CSV_ROW> rows = gfpdb_parse_csv(text);
-    const GFPDB_CSV_ROW head = rows.empty() ? GFPDB_CSV_ROW{1, {}} : rows.front();
+    const std::vector<CSV_ROW> rows = csv_rows(text);
+    const CSV_ROW head = rows.empty() ? CSV_ROW() : rows.front();
     if (!check_columns(head, content.errors))
         return content;
     std::set<std::string> names;

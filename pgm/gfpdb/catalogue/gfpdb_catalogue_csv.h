@@ -2,9 +2,7 @@
 
 // Reads catalogues of parts: comma-separated values with a line of column names.
 //
-// Pure functions. Texts are UTF-8; a byte order mark at the start, quoted cells with commas, quotes (doubled) and line
-// breaks, and both kinds of line ends are understood. Columns may stand in any order; docs/flows.md lists them. Throws
-// nothing.
+// Pure functions. Texts are UTF-8. Columns may stand in any order; docs/flows.md lists them. Throws nothing.
 #pragma once
 
 #include "catalogue/gfpdb_part.h"
@@ -22,23 +20,11 @@ struct GFPDB_CSV_ERROR
     std::string text;
 };
 
-// One row: the line on which it starts, and its cells.
-struct GFPDB_CSV_ROW
-{
-    int line = 0;
-    std::vector<std::string> cells;
-    // The last row's last cell begins with a quote that is never closed: it holds all the rest of the text.
-    bool quote_is_open = false;
-};
-
 struct GFPDB_CATALOGUE_CONTENT
 {
     std::vector<GFPDB_PART> parts;
     std::vector<GFPDB_CSV_ERROR> errors;
 };
-
-// The rows of `text`, empty lines left out. A quote that is never closed ends with the text.
-std::vector<GFPDB_CSV_ROW> gfpdb_parse_csv(const std::string& text);
 
 // The parts of a catalogue. A row with an error is left out, all others are there; a name that occurs twice (regardless
 // of case) is an error of the later row. Without the columns name, jedec_id and density there are no parts.

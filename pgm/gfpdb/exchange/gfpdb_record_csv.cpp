@@ -4,8 +4,9 @@
 #include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_text.h"
-#include "catalogue/gfpdb_catalogue_csv.h"
 #include "model/gfpdb_field.h"
+
+#include "csv/csv.h"
 
 #include <algorithm>
 
@@ -19,32 +20,11 @@ bool is_one_of(const std::vector<std::string>& texts, const std::string& text)
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-std::string cell(const std::string& text)
-{
-    if (text.find_first_of(",\"\r\n") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (const char character : text) {
-        quoted += character;
-        if (character == '"')
-            quoted += '"';
-    }
-    return quoted + '"';
-}
-
 // Spreadsheets take what begins like this for a formula, some of them also behind blanks and line breaks.
 bool is_formula(const std::string& text)
 {
     const std::size_t start = text.find_first_not_of(" \t\r\n");
     return start != std::string::npos && std::string("=+-@").find(text[start]) != std::string::npos;
-}
-
-std::string line(const std::vector<std::string>& cells)
-{
-    std::string text;
-    for (const std::string& each : cells)
-        text += (text.empty() && &each == &cells.front() ? "" : ",") + cell(each);
-    return text + '\n';
 }
 
 // The number in a cell, null for an empty one; any other text stays one, so that the reader refuses it.
@@ -58,7 +38,7 @@ JSON_VALUE number_of(const std::string& text)
     return is_number ? value : json_string(text);
 }
 
-bool check_columns(const GFPDB_CSV_ROW& head, std::vector<CLI_PROBLEM>& problems)
+bool check_columns(const CSV_ROW& head, std::vector<CLI_PROBLEM>& problems)
 {
     const std::size_t before = problems.size();
     for (std::size_t at = 0; at < GFPDB_REQUIRED_FIELDS; ++at) {
@@ -77,7 +57,7 @@ bool check_columns(const GFPDB_CSV_ROW& head, std::vector<CLI_PROBLEM>& problems
 }
 
 // What is wrong with the row as such; empty when nothing is.
-std::string problem_of(const GFPDB_CSV_ROW& row, std::size_t columns)
+std::string problem_of(const CSV_ROW& row, std::size_t columns)
 {
     if (row.quote_is_open)
         return "A quote that opens in this row is never closed.";
@@ -88,7 +68,7 @@ std::string problem_of(const GFPDB_CSV_ROW& row, std::size_t columns)
 }
 
 // A row as the JSON object with the same content, so that both formats have the same rules.
-JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
+JSON_VALUE object_of(const CSV_ROW& head, const CSV_ROW& row)
 {
     JSON_VALUE object = json_object();
     object.line = row.line;
@@ -105,7 +85,7 @@ JSON_VALUE object_of(const GFPDB_CSV_ROW& head, const GFPDB_CSV_ROW& row)
 
 std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reader)
 {
-    std::string text = line(COLUMNS);
+    std::string text = csv_line(COLUMNS);
     for (const CLI_RECORD& record : records) {
         if (record.is_template)
             continue;
@@ -117,7 +97,7 @@ std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reade
             const bool is_dangerous = reader == CSV_FOR::SPREADSHEET && field.is_text() && is_formula(value);
             cells.push_back(is_dangerous ? '\'' + value : value);
         }
-        text += line(cells);
+        text += csv_line(cells);
     }
     return text;
 }
@@ -127,8 +107,8 @@ std::vector<CLI_RECORD> records_from_csv(const std::string& text, GFPDB_MGR& man
                                          std::vector<CLI_PROBLEM>& problems)
 {
     std::vector<CLI_RECORD> records;
-    const std::vector<GFPDB_CSV_ROW> rows = gfpdb_parse_csv(text);
-    const GFPDB_CSV_ROW head = rows.empty() ? GFPDB_CSV_ROW{1, {}} : rows.front();
+    const std::vector<CSV_ROW> rows = csv_rows(text);
+    const CSV_ROW head = rows.empty() ? CSV_ROW() : rows.front();
     if (!check_columns(head, problems))
         return records;
     RECORD_READER reader(manager, checked ? RECORD_RULES::IMPORTED : RECORD_RULES::NAMES, family, scheme);

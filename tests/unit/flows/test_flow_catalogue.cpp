@@ -5,6 +5,8 @@
 #include "catalogue/gfpdb_catalogue_csv.h"
 #include "test_rows.h"
 
+#include "csv/csv.h"
+
 #include "gfpdb/gfpdb_helper.h"
 
 #include <QProcess>
@@ -96,7 +98,7 @@ private slots:
         const auto [text, rows] = row<QByteArray, QVector<QStringList>>();
 
         QVector<QStringList> found;
-        for (const GFPDB_CSV_ROW& row : gfpdb_parse_csv(text.toStdString())) {
+        for (const CSV_ROW& row : csv_rows(text.toStdString())) {
             QStringList cells;
             for (const std::string& cell : row.cells)
                 cells += QString::fromStdString(cell);
@@ -108,7 +110,7 @@ private slots:
 
     void rows_know_the_line_on_which_they_start()
     {
-        const std::vector<GFPDB_CSV_ROW> rows = gfpdb_parse_csv("a\n\n\"b\n\nb\",\"\"\nc\n");
+        const std::vector<CSV_ROW> rows = csv_rows("a\n\n\"b\n\nb\",\"\"\nc\n");
         QCOMPARE(rows.size(), std::size_t(3));
         QCOMPARE(rows[0].line, 1);
         QCOMPARE(rows[1].line, 3);

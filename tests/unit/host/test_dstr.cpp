@@ -73,6 +73,10 @@ private slots:
              {"no schemes", "1,A,", 1, "A", QVector<int>()},
              {"blanks", "  1 , A B ,  7   13 ", 1, "A B", QVector<int>{7, 13}},
              {"comma in the name", "1,A, B,7", 1, "A, B", QVector<int>{7}},
+             {"quoted name", "1,\"A, B\",7", 1, "A, B", QVector<int>{7}},
+             {"quotes in a quoted name", "1,\"A \"\"B\"\"\",7", 1, "A \"B\"", QVector<int>{7}},
+             {"quotes in a name", "1,A \"B\",7", 1, "A \"B\"", QVector<int>{7}},
+             {"all quoted", "\"1\",\"A\",\"7 13\"", 1, "A", QVector<int>{7, 13}},
              {"carriage return", "1,A,7\r", 1, "A", QVector<int>{7}},
              {"byte order mark", "\xEF\xBB\2771,A,7", 1, "A", QVector<int>{7}},
              {"UTF-8", "1,\xC3\x84ste,7", 1, "\xC3\x84ste", QVector<int>{7}}});
@@ -96,6 +100,7 @@ private slots:
                           {"blank line", "  \r\n"},
                           {"comment", "# 1,A,7"},
                           {"heading", "value,name,schemes\r\n"},
+                          {"quoted heading", "\"value\",\"name\",\"schemes\"\n"},
                           {"heading behind a byte order mark", "\xEF\xBB\xBFvalue,name,schemes\n"}});
     }
 
@@ -116,6 +121,8 @@ private slots:
         const QByteArray schemes("its schemes are not different numbers from 0 to 25 separated by blanks");
         rows<QByteArray, QByteArray>({{"no comma", "Heather", shape},
                                       {"one comma", "1,Heather", shape},
+                                      {"open quote", "1,\"A,7", "a quote that opens in it is never closed"},
+                                      {"empty quotes", "\"\"", shape},
                                       {"value 0", "0,A,7", value},
                                       {"value 73", "73,A,7", value},
                                       {"negative value", "-1,A,7", value},

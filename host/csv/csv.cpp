@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "csv/csv.h"
+
+namespace {
+
+constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
+
+// Splits a text into cells, one character at a time.
+class CSV_SPLITTER
+{
+public:
+    std::vector<CSV_ROW> split(const std::string& text)
+    {
+        for (std::size_t at = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? 3 : 0; at < text.size(); ++at) {
+            if (m_quoted)
+                take_quoted(text, at);
+            else
+                take_plain(text[at]);
+            if (text[at] == '\n')
+                ++m_line;
+        }
+        end_row();
+        return std::move(m_rows);
+    }
+
+private:
+    void take_quoted(const std::string& text, std::size_t& at)
+    {
+        if (text[at] != '"')
+            m_cell += text[at];
+        else if (at + 1 < text.size() && text[at + 1] == '"')
+            m_cell += text[++at];
+        else
+            end_quote();
+    }
+
+    void end_quote()
+    {
+        m_quoted = false;
+        m_quoted_size = m_cell.size();
+    }
+
+    void take_plain(char character)
+    {
+        if (character == '"' && m_cell.empty())
+            m_quoted = true;
+        else if (character == ',')
+            end_cell();
+        else if (character == '\n')
+            end_row();
+        else
+            m_cell += character;
+    }
+
+    void end_cell()
+    {
+        m_row.cells.push_back(m_cell);
+        m_cell.clear();
+        m_quoted_size = 0;
+    }
+
+    // A carriage return at the end belongs to the line break, unless it stands in quotes.
+    void end_row()
+    {
+        if (!m_quoted && m_cell.size() > m_quoted_size && m_cell.back() == '\r')
+            m_cell.pop_back();
+        if (!m_row.cells.empty() || !m_cell.empty()) {
+            end_cell();
+            m_row.line = m_row_line;
+            m_row.quote_is_open = m_quoted;
+            m_rows.push_back(m_row);
+        }
+        m_row = CSV_ROW();
+        m_row_line = m_line + 1;
+    }
+
+    std::vector<CSV_ROW> m_rows;
+    CSV_ROW m_row;
+    std::string m_cell;
+    // So much of the cell stood in quotes.
+    std::size_t m_quoted_size = 0;
+    bool m_quoted = false;
+    int m_line = 1;
+    int m_row_line = 1;
+};
+
+void add_cell(std::string& line, const std::string& cell)
+{
+    if (cell.find_first_of(",\"\r\n") == std::string::npos) {
+        line += cell;
+        return;
+    }
+    line += '"';
+    for (const char character : cell) {
+        line += character;
+        if (character == '"')
+            line += '"';
+    }
+    line += '"';
+}
+
+} // namespace
+
+std::vector<CSV_ROW> csv_rows(const std::string& text)
+{
+    return CSV_SPLITTER().split(text);
+}
+
+std::string csv_line(const std::vector<std::string>& cells)
+{
+    std::string line;
+    for (std::size_t at = 0; at < cells.size(); ++at) {
+        if (at > 0)
+            line += ',';
+        add_cell(line, cells[at]);
+    }
+    return line + '\n';
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+
+// Comma-separated values: a text into rows of cells, and cells into a line.
+//
+// Pure functions without Qt, safe from every thread. A byte order mark at the start, quoted cells with commas, quotes
+// (doubled) and line breaks, and both kinds of line ends are understood. Texts may be in any 8-bit encoding that
+// contains ASCII.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// One row: the line on which it starts, counted from 1, and its cells.
+struct CSV_ROW
+{
+    int line = 1;
+    std::vector<std::string> cells;
+    // The last row's last cell begins with a quote that is never closed: it holds all the rest of the text.
+    bool quote_is_open = false;
+};
+
+// The rows of `text`, empty lines left out. A quote that is never closed ends with the text.
+std::vector<CSV_ROW> csv_rows(const std::string& text);
+
+// A row as a line with its line break. Cells are quoted where they must be.
+std::string csv_line(const std::vector<std::string>& cells);
