@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QTest>
 
 #include <cerrno>
 #include <cstring>
@@ -100,6 +101,16 @@ QStringList FAULT_STAND::run()
         }
     }
     return problems;
+}
+
+void FAULT_STAND::verify(std::initializer_list<FAULT_CALL> calls)
+{
+    const QStringList problems = run();
+
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+    for (const FAULT_CALL call : calls)
+        QVERIFY2(count(call) > 0, name_of(call));
+    qInfo("%d faults", fault_count());
 }
 
 // The states before and after, and the calls on the way.

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -56,6 +57,8 @@ public:
 
     // What did not hold; empty when all did.
     QStringList run();
+    // Runs; the test fails with what did not hold, and when the change makes no call of one of `calls`.
+    void verify(std::initializer_list<FAULT_CALL> calls);
     // The runs with a fault so far, and the calls of one change.
     int fault_count() const { return m_fault_count; }
     int count(FAULT_CALL call) const { return m_counts[static_cast<std::size_t>(call)]; }

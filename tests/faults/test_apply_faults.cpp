@@ -5,6 +5,7 @@
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb_test.h"
 #include "manager/gfpdb_embedded_mgr.h"
+#include "test_rows.h"
 
 #include <QRegularExpression>
 
@@ -52,56 +53,33 @@ class TEST_APPLY_FAULTS : public QObject
     Q_OBJECT
 
 private slots:
-    void records_are_the_former_or_the_new_ones_data();
-    void records_are_the_former_or_the_new_ones();
+    void records_are_the_former_or_the_new_ones_data()
+    {
+        rows<QString, QString, QString>({{"the first device of a directory", "", "", "B"},
+                                         {"a new device", "A", "", "B"},
+                                         {"a changed device", "A", "A", "A"},
+                                         {"a renamed device", "A", "A", "B"}});
+    }
+
+    void records_are_the_former_or_the_new_ones()
+    {
+        const auto [stored, selected, entered] = row<QString, QString, QString>();
+        FAULT_SCENE scene;
+        scene.prepare = [&](const GFPDB_PLACE& place) {
+            write_file(place.settings(), SETTINGS_FOR_FAULTS);
+            GFPDB_MGR* mgr = fresh_manager();
+            if (!stored.isEmpty())
+                mgr->save_flash(make_device(*mgr, stored.toStdString()), std::string());
+        };
+        scene.begin = [](const GFPDB_PLACE& place) { all_records(place); };
+        scene.change = [&](const GFPDB_PLACE&) { return press_apply(selected.toStdString(), entered.toStdString()); };
+        scene.recover = &restore_what_was_told;
+        scene.state = &all_records;
+
+        FAULT_STAND(scene).verify({FAULT_CALL::WRITE, FAULT_CALL::SYNC, FAULT_CALL::LOCK});
+    }
 };
 
-void TEST_APPLY_FAULTS::records_are_the_former_or_the_new_ones_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("selected");
-    QTest::addColumn<QString>("entered");
-    QTest::newRow("the first device of a directory") << ""
-                                                     << ""
-                                                     << "B";
-    QTest::newRow("a new device") << "A"
-                                  << ""
-                                  << "B";
-    QTest::newRow("a changed device") << "A"
-                                      << "A"
-                                      << "A";
-    QTest::newRow("a renamed device") << "A"
-                                      << "A"
-                                      << "B";
-}
-
-void TEST_APPLY_FAULTS::records_are_the_former_or_the_new_ones()
-{
-    QFETCH(QString, stored);
-    QFETCH(QString, selected);
-    QFETCH(QString, entered);
-    FAULT_SCENE scene;
-    scene.prepare = [&](const GFPDB_PLACE& place) {
-        write_file(place.settings(), SETTINGS_FOR_FAULTS);
-        GFPDB_MGR* mgr = fresh_manager();
-        if (!stored.isEmpty())
-            mgr->save_flash(make_device(*mgr, stored.toStdString()), std::string());
-    };
-    scene.begin = [](const GFPDB_PLACE& place) { all_records(place); };
-    scene.change = [&](const GFPDB_PLACE&) { return press_apply(selected.toStdString(), entered.toStdString()); };
-    scene.recover = &restore_what_was_told;
-    scene.state = &all_records;
-    FAULT_STAND stand(scene);
-
-    const QStringList problems = stand.run();
-
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
-
-    QVERIFY(stand.count(FAULT_CALL::WRITE) > 0);
-    QVERIFY(stand.count(FAULT_CALL::SYNC) > 0);
-    QVERIFY(stand.count(FAULT_CALL::LOCK) > 0);
-    qInfo("%d faults", stand.fault_count());
-}
-
 QTEST_GUILESS_MAIN(TEST_APPLY_FAULTS)
+
 #include "test_apply_faults.moc"

@@ -4,6 +4,7 @@
 #include "cli_program.h"
 #include "cli_test.h"
 #include "fault_stand.h"
+#include "test_rows.h"
 
 #include <cstdio>
 #include <memory>
@@ -68,38 +69,26 @@ class TEST_IMPORT_FAULTS : public QObject
     Q_OBJECT
 
 private slots:
-    void an_import_happens_whole_or_not_at_all_data();
-    void an_import_happens_whole_or_not_at_all();
+    void an_import_happens_whole_or_not_at_all_data()
+    {
+        rows<bool>({{"into a database", true}, {"into an empty directory", false}});
+    }
+
+    void an_import_happens_whole_or_not_at_all()
+    {
+        const bool has_database = row<bool>();
+        FAULT_SCENE scene;
+        scene.prepare = [&](const GFPDB_PLACE& place) { prepare(place, has_database); };
+        scene.begin = [](const GFPDB_PLACE&) {};
+        scene.change = [](const GFPDB_PLACE& place) {
+            return complaint_of({"import", "--replace", "--dir", q(place.db_dir()), import_file(place)});
+        };
+        scene.state = &all_records;
+
+        FAULT_STAND(scene).verify({FAULT_CALL::WRITE, FAULT_CALL::SYNC, FAULT_CALL::LOCK});
+    }
 };
 
-void TEST_IMPORT_FAULTS::an_import_happens_whole_or_not_at_all_data()
-{
-    QTest::addColumn<bool>("has_database");
-    QTest::newRow("into a database") << true;
-    QTest::newRow("into an empty directory") << false;
-}
-
-void TEST_IMPORT_FAULTS::an_import_happens_whole_or_not_at_all()
-{
-    QFETCH(bool, has_database);
-    FAULT_SCENE scene;
-    scene.prepare = [&](const GFPDB_PLACE& place) { prepare(place, has_database); };
-    scene.begin = [](const GFPDB_PLACE&) {};
-    scene.change = [](const GFPDB_PLACE& place) {
-        return complaint_of({"import", "--replace", "--dir", q(place.db_dir()), import_file(place)});
-    };
-    scene.state = &all_records;
-    FAULT_STAND stand(scene);
-
-    const QStringList problems = stand.run();
-
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
-
-    QVERIFY(stand.count(FAULT_CALL::WRITE) > 0);
-    QVERIFY(stand.count(FAULT_CALL::SYNC) > 0);
-    QVERIFY(stand.count(FAULT_CALL::LOCK) > 0);
-    qInfo("%d faults", stand.fault_count());
-}
-
 QTEST_GUILESS_MAIN(TEST_IMPORT_FAULTS)
+
 #include "test_import_faults.moc"

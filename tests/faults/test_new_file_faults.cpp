@@ -57,50 +57,49 @@ void ignore_message(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 } // namespace
 
-Q_DECLARE_METATYPE(EXCHANGE)
-Q_DECLARE_METATYPE(FAULT_CALL)
-
 class TEST_NEW_FILE_FAULTS : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void an_exchanged_name_opens_no_other_file_to_the_group_data();
-    void an_exchanged_name_opens_no_other_file_to_the_group();
+    void an_exchanged_name_opens_no_other_file_to_the_group_data()
+    {
+        QTest::addColumn<EXCHANGE>("exchange");
+        QTest::addColumn<FAULT_CALL>("call");
+        for (const FAULT_CALL call : {FAULT_CALL::READ, FAULT_CALL::WRITE, FAULT_CALL::SYNC, FAULT_CALL::OPEN,
+                                      FAULT_CALL::LOCK, FAULT_CALL::STATUS, FAULT_CALL::MODE}) {
+            QTest::addRow("a symbolic link, after a %s", name_of(call)) << EXCHANGE(&::symlink) << call;
+            QTest::addRow("a hard link, after a %s", name_of(call)) << EXCHANGE(&::link) << call;
+        }
+    }
+
+    void an_exchanged_name_opens_no_other_file_to_the_group()
+    {
+        QFETCH(EXCHANGE, exchange);
+        QFETCH(FAULT_CALL, call);
+        const QtMessageHandler handler = qInstallMessageHandler(&ignore_message);
+        int exchanges = 0;
+        int at = 0;
+        do {
+            const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+            QCOMPARE(::chmod(place.db_dir().c_str(), 02775), 0);
+            write_file(private_file(place), SECRET);
+            QCOMPARE(::chmod(private_file(place).c_str(), PRIVATE_MODE), 0);
+
+            exchanges += make_database(place, call, ++at, exchange);
+
+            QCOMPARE(mode_of(private_file(place)), PRIVATE_MODE);
+            QCOMPARE(read_file(private_file(place)), SECRET);
+        } while (at <= FAULT_INJECTOR::count(call));
+        qInstallMessageHandler(handler);
+        QVERIFY(exchanges > 0);
+    }
 };
 
-void TEST_NEW_FILE_FAULTS::an_exchanged_name_opens_no_other_file_to_the_group_data()
-{
-    QTest::addColumn<EXCHANGE>("exchange");
-    QTest::addColumn<FAULT_CALL>("call");
-    for (const FAULT_CALL call : {FAULT_CALL::READ, FAULT_CALL::WRITE, FAULT_CALL::SYNC, FAULT_CALL::OPEN,
-                                  FAULT_CALL::LOCK, FAULT_CALL::STATUS, FAULT_CALL::MODE}) {
-        QTest::addRow("a symbolic link, after a %s", name_of(call)) << EXCHANGE(&::symlink) << call;
-        QTest::addRow("a hard link, after a %s", name_of(call)) << EXCHANGE(&::link) << call;
-    }
-}
+Q_DECLARE_METATYPE(EXCHANGE)
 
-void TEST_NEW_FILE_FAULTS::an_exchanged_name_opens_no_other_file_to_the_group()
-{
-    QFETCH(EXCHANGE, exchange);
-    QFETCH(FAULT_CALL, call);
-    const QtMessageHandler handler = qInstallMessageHandler(&ignore_message);
-    int exchanges = 0;
-    int at = 0;
-    do {
-        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-        QCOMPARE(::chmod(place.db_dir().c_str(), 02775), 0);
-        write_file(private_file(place), SECRET);
-        QCOMPARE(::chmod(private_file(place).c_str(), PRIVATE_MODE), 0);
-
-        exchanges += make_database(place, call, ++at, exchange);
-
-        QCOMPARE(mode_of(private_file(place)), PRIVATE_MODE);
-        QCOMPARE(read_file(private_file(place)), SECRET);
-    } while (at <= FAULT_INJECTOR::count(call));
-    qInstallMessageHandler(handler);
-    QVERIFY(exchanges > 0);
-}
+Q_DECLARE_METATYPE(FAULT_CALL)
 
 QTEST_GUILESS_MAIN(TEST_NEW_FILE_FAULTS)
+
 #include "test_new_file_faults.moc"

@@ -7,6 +7,7 @@
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb_test.h"
 #include "manager/gfpdb_embedded_mgr.h"
+#include "test_rows.h"
 
 #include <QDir>
 #include <QFile>
@@ -251,277 +252,258 @@ class TEST_DURABILITY : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_place = std::make_unique<GFPDB_PLACE>();
+        write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n");
+    }
 
-    void a_killed_program_loses_nothing_that_it_reported();
-    void two_programs_share_a_directory();
-    void a_full_disk_leaves_everything_as_it_was_data();
-    void a_full_disk_leaves_everything_as_it_was();
-    void no_file_is_left_where_there_is_no_room_for_one();
-    void a_full_medium_is_told_as_such();
-    void changes_fail_when_the_directory_is_gone();
-    void changes_fail_once_when_the_file_was_replaced();
+    void cleanup() { m_place.reset(); }
+
+    void a_killed_program_loses_nothing_that_it_reported()
+    {
+        REPORT report;
+        m_kills_within_a_change = 0;
+        m_undone_renames = 0;
+        for (int i = 0; i < count_from("GFPDB_KILLS", DEFAULT_KILLS); ++i) {
+            if (i % KILLS_PER_DATABASE == 0) {
+                QVERIFY(QDir(QString::fromStdString(m_place->db_dir())).removeRecursively());
+                make_dir(m_place->db_dir());
+                report = REPORT();
+            }
+            kill_a_worker(report);
+            verify_all(report);
+            if (QTest::currentTestFailed())
+                return;
+        }
+        QVERIFY(m_kills_within_a_change > 0);
+        QVERIFY(m_undone_renames > 0);
+        qInfo("%d kills within a change, %d interrupted renames undone", m_kills_within_a_change, m_undone_renames);
+    }
+
+    void two_programs_share_a_directory()
+    {
+        const int count = count_from("GFPDB_RECORDS", DEFAULT_RECORDS);
+        QProcess programs[2];
+        const QString prefixes[] = {QStringLiteral("First "), QStringLiteral("Second ")};
+        for (int i = 0; i < 2; ++i)
+            start(programs[i], *m_place, {QStringLiteral("fill"), prefixes[i], QString::number(count)});
+
+        std::map<std::string, std::string> reported;
+        for (QProcess& program : programs) {
+            QVERIFY(program.waitForFinished(-1));
+            QCOMPARE(program.exitCode(), 0);
+            for (const QByteArray& line : program.readAllStandardOutput().split('\n')) {
+                const QList<QByteArray> words = line.split(' ');
+                if (words.first() == "saved")
+                    reported[(words[1] + ' ' + words[2]).toStdString()] = words[3].toStdString();
+            }
+        }
+
+        m_mgr = fresh_manager();
+        QCOMPARE(int(reported.size()), 2 * count);
+        QCOMPARE(custom_names(*m_mgr).size(), reported.size());
+        for (const auto& [name, mark] : reported)
+            QCOMPARE(stored_text(*m_mgr, name), expected_text(name, mark));
+        QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
+        QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().get_history().empty());
+    }
+
+    void a_full_disk_leaves_everything_as_it_was_data()
+    {
+        rows<QByteArray>({{"save", QByteArrayLiteral("save")},
+                          {"replace", QByteArrayLiteral("replace")},
+                          {"delete", QByteArrayLiteral("delete")}});
+    }
+
+    void a_full_disk_leaves_everything_as_it_was()
+    {
+        const QByteArray change = row<QByteArray>();
+        m_mgr = fresh_manager();
+        QVERIFY(save(*m_mgr, "A", "1"));
+        const std::string before = stored_text(*m_mgr, "A");
+        const std::string file = read_file(m_place->db_file());
+        GFPDB_FLASH* record = m_mgr->create_flash(change == "replace" ? "A" : "B");
+        fill_record(*m_mgr, *record, "2");
+        const auto do_it = [&] {
+            return change == "delete" ? m_mgr->delete_flash("A", std::string())
+                                      : m_mgr->save_flash(record, std::string());
+        };
+
+        {
+            const FILE_SIZE_LIMIT limit(file.size());
+            expect_warning("gfpdb.sqlite");
+            QVERIFY(!do_it());
+            QVERIFY(!m_mgr->get_last_error().empty());
+            QCOMPARE(stored_text(*m_mgr, "A"), before);
+        }
+        QCOMPARE(read_file(m_place->db_file()), file);
+        m_mgr = fresh_manager();
+        QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+        QCOMPARE(stored_text(*m_mgr, "A"), before);
+        QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
+        QVERIFY(do_it());
+    }
+
+    void no_file_is_left_where_there_is_no_room_for_one()
+    {
+        m_mgr = fresh_manager();
+        GFPDB_FLASH* record = make_device(*m_mgr, "A");
+        {
+            const FILE_SIZE_LIMIT limit(4096);
+            expect_warning("gfpdb.sqlite");
+            QVERIFY(!m_mgr->save_flash(record, std::string()));
+        }
+        const QDir directory(QString::fromStdString(m_place->db_dir()));
+        QCOMPARE(directory.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+        QCOMPARE(open_files(m_place->db_dir()), QStringList());
+        QVERIFY(m_mgr->save_flash(record, std::string()));
+        QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+    }
+
+    // A small file system of its own; where that may not be mounted, a limit on file sizes stands for it.
+    void a_full_medium_is_told_as_such()
+    {
+        constexpr rlim_t ROOM = 128 * 1024;
+        const std::string directory = m_place->path("small/");
+        make_dir(directory);
+        const bool is_mounted = ::mount("tmpfs", directory.c_str(), "tmpfs", 0, "size=128k") == 0;
+        GFPDB_MGR::set_db_custom_dir(directory);
+        m_mgr = fresh_manager();
+        NAMES saved;
+        std::string error;
+        {
+            const FILE_SIZE_LIMIT limit(is_mounted ? RLIM_INFINITY : ROOM);
+            expect_warning("gfpdb.sqlite");
+            for (int i = 0; error.empty(); ++i) {
+                const std::string name = "Name " + std::string(1, char('a' + i));
+                if (save(*m_mgr, name, "mark"))
+                    saved.push_back(name);
+                else
+                    error = m_mgr->get_last_error();
+            }
+        }
+        m_mgr = fresh_manager();
+        const NAMES found = custom_names(*m_mgr);
+        NAMES whole;
+        for (const std::string& name : found) {
+            if (stored_text(*m_mgr, name) == expected_text(name, "mark"))
+                whole.push_back(name);
+        }
+        const bool is_sound = GFPDB_EMBEDDED_MGR::instance().store().check_integrity();
+        GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
+        fresh_manager();
+        if (is_mounted)
+            ::umount2(directory.c_str(), MNT_DETACH);
+
+        QVERIFY(is_sound);
+        QVERIFY(!saved.empty());
+        QCOMPARE(found, saved);
+        QCOMPARE(whole, saved);
+        if (is_mounted)
+            QVERIFY2(error.find("There is no room for the database " + directory) == 0, error.c_str());
+    }
+
+    void changes_fail_when_the_directory_is_gone()
+    {
+        m_mgr = fresh_manager();
+        QVERIFY(save(*m_mgr, "A", "1"));
+        const QString moved = QString::fromStdString(m_place->path("moved"));
+        QVERIFY(QDir().rename(QString::fromStdString(m_place->db_dir()), moved));
+
+        for (int i = 0; i < 4; ++i)
+            expect_warning("replaced or removed|does not exist");
+        QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
+        QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
+        QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_dir())));
+        QVERIFY(QDir().rename(moved, QString::fromStdString(m_place->db_dir())));
+        QCOMPARE(stored_text(*m_mgr, "A"), expected_text("A", "1"));
+        QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
+    }
+
+    void changes_fail_once_when_the_file_was_replaced()
+    {
+        m_mgr = fresh_manager();
+        QVERIFY(save(*m_mgr, "A", "1"));
+        QVERIFY(QFile::copy(QString::fromStdString(m_place->db_file()), QString::fromStdString(m_place->path("copy"))));
+        QVERIFY(save(*m_mgr, "B", "1"));
+        QCOMPARE(std::rename(m_place->path("copy").c_str(), m_place->db_file().c_str()), 0);
+        const std::string before = read_file(m_place->db_file());
+
+        expect_warning("was replaced or removed by another program");
+        QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "C"), std::string());
+        expect_warning("was replaced or removed by another program while it was in use");
+        QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
+        QCOMPARE(read_file(m_place->db_file()), before);
+        QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
+        QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
+        QVERIFY(save(*m_mgr, "C", "1"));
+        QCOMPARE(custom_names(*m_mgr), NAMES{"C"});
+    }
 
 private:
-    void kill_a_worker(REPORT& report);
-    void verify_all(REPORT& report);
-    void undo_rename(const REPORT& report);
+    void kill_a_worker(REPORT& report)
+    {
+        QProcess worker;
+        start(worker, *m_place, {QStringLiteral("work")});
+        QByteArray said;
+        const int lines = QRandomGenerator::global()->bounded(MOST_LINES);
+        while (said.count('\n') < lines) {
+            QVERIFY(worker.waitForReadyRead());
+            said += worker.readAllStandardOutput();
+        }
+        ::usleep(useconds_t(QRandomGenerator::global()->bounded(LONGEST_DELAY_US)));
+        QCOMPARE(::kill(pid_t(worker.processId()), SIGKILL), 0);
+        QVERIFY(worker.waitForFinished());
+        QCOMPARE(worker.exitStatus(), QProcess::CrashExit);
+
+        said += worker.readAllStandardOutput();
+        for (const QByteArray& line : said.split('\n')) {
+            QVERIFY2(!line.startsWith("not-"), line.constData());
+            if (!line.isEmpty())
+                report.add(line);
+        }
+        m_kills_within_a_change += report.is_within_a_change();
+    }
+
+    // Everything that was reported is there whole; what was going on happened whole or not at all.
+    void verify_all(REPORT& report)
+    {
+        m_mgr = fresh_manager();
+        QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
+        QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
+        for (int i = 0; i < NAME_COUNT; ++i) {
+            const std::string name = "Name " + std::to_string(i);
+            const std::string text = stored_text(*m_mgr, name);
+            QVERIFY2(report.allows(name, text), (name + " is\n" + text).c_str());
+        }
+        if (!report.is_within_a_change())
+            return;
+        const std::string name = report.pending_name();
+        const bool has_happened = stored_text(*m_mgr, name) == text_for(name, report.pending_mark());
+        if (!has_happened && !report.renamed().empty())
+            undo_rename(report);
+        report.settle(name, has_happened ? report.pending_mark() : report.mark(name));
+    }
+
+    // The old name is gone and the new one is not there yet: the history has the old record.
+    void undo_rename(const REPORT& report)
+    {
+        const std::string name = report.renamed();
+        const std::vector<GFPDB_HISTORY_ENTRY> entries = GFPDB_EMBEDDED_MGR::instance().store().get_history();
+        QVERIFY(!entries.empty());
+        QCOMPARE(entries.back().row.name, name);
+        QVERIFY(m_mgr->restore_flash(entries.back().id, std::string(), GFPDB_RESTORE_KEEP, std::string()));
+        QCOMPARE(stored_text(*m_mgr, name), expected_text(name, report.mark_before_rename()));
+        QVERIFY(m_mgr->delete_flash(name, std::string()));
+        ++m_undone_renames;
+    }
 
     std::unique_ptr<GFPDB_PLACE> m_place;
     GFPDB_MGR* m_mgr = nullptr;
     int m_kills_within_a_change = 0;
     int m_undone_renames = 0;
 };
-
-void TEST_DURABILITY::init()
-{
-    m_place = std::make_unique<GFPDB_PLACE>();
-    write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n");
-}
-
-void TEST_DURABILITY::cleanup()
-{
-    m_place.reset();
-}
-
-void TEST_DURABILITY::kill_a_worker(REPORT& report)
-{
-    QProcess worker;
-    start(worker, *m_place, {QStringLiteral("work")});
-    QByteArray said;
-    const int lines = QRandomGenerator::global()->bounded(MOST_LINES);
-    while (said.count('\n') < lines) {
-        QVERIFY(worker.waitForReadyRead());
-        said += worker.readAllStandardOutput();
-    }
-    ::usleep(useconds_t(QRandomGenerator::global()->bounded(LONGEST_DELAY_US)));
-    QCOMPARE(::kill(pid_t(worker.processId()), SIGKILL), 0);
-    QVERIFY(worker.waitForFinished());
-    QCOMPARE(worker.exitStatus(), QProcess::CrashExit);
-
-    said += worker.readAllStandardOutput();
-    for (const QByteArray& line : said.split('\n')) {
-        QVERIFY2(!line.startsWith("not-"), line.constData());
-        if (!line.isEmpty())
-            report.add(line);
-    }
-    m_kills_within_a_change += report.is_within_a_change();
-}
-
-// Everything that was reported is there whole; what was going on happened whole or not at all.
-void TEST_DURABILITY::verify_all(REPORT& report)
-{
-    m_mgr = fresh_manager();
-    QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
-    QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
-    for (int i = 0; i < NAME_COUNT; ++i) {
-        const std::string name = "Name " + std::to_string(i);
-        const std::string text = stored_text(*m_mgr, name);
-        QVERIFY2(report.allows(name, text), (name + " is\n" + text).c_str());
-    }
-    if (!report.is_within_a_change())
-        return;
-    const std::string name = report.pending_name();
-    const bool has_happened = stored_text(*m_mgr, name) == text_for(name, report.pending_mark());
-    if (!has_happened && !report.renamed().empty())
-        undo_rename(report);
-    report.settle(name, has_happened ? report.pending_mark() : report.mark(name));
-}
-
-// The old name is gone and the new one is not there yet: the history has the old record.
-void TEST_DURABILITY::undo_rename(const REPORT& report)
-{
-    const std::string name = report.renamed();
-    const std::vector<GFPDB_HISTORY_ENTRY> entries = GFPDB_EMBEDDED_MGR::instance().store().get_history();
-    QVERIFY(!entries.empty());
-    QCOMPARE(entries.back().row.name, name);
-    QVERIFY(m_mgr->restore_flash(entries.back().id, std::string(), GFPDB_RESTORE_KEEP, std::string()));
-    QCOMPARE(stored_text(*m_mgr, name), expected_text(name, report.mark_before_rename()));
-    QVERIFY(m_mgr->delete_flash(name, std::string()));
-    ++m_undone_renames;
-}
-
-void TEST_DURABILITY::a_killed_program_loses_nothing_that_it_reported()
-{
-    REPORT report;
-    m_kills_within_a_change = 0;
-    m_undone_renames = 0;
-    for (int i = 0; i < count_from("GFPDB_KILLS", DEFAULT_KILLS); ++i) {
-        if (i % KILLS_PER_DATABASE == 0) {
-            QVERIFY(QDir(QString::fromStdString(m_place->db_dir())).removeRecursively());
-            make_dir(m_place->db_dir());
-            report = REPORT();
-        }
-        kill_a_worker(report);
-        verify_all(report);
-        if (QTest::currentTestFailed())
-            return;
-    }
-    QVERIFY(m_kills_within_a_change > 0);
-    QVERIFY(m_undone_renames > 0);
-    qInfo("%d kills within a change, %d interrupted renames undone", m_kills_within_a_change, m_undone_renames);
-}
-
-void TEST_DURABILITY::two_programs_share_a_directory()
-{
-    const int count = count_from("GFPDB_RECORDS", DEFAULT_RECORDS);
-    QProcess programs[2];
-    const QString prefixes[] = {QStringLiteral("First "), QStringLiteral("Second ")};
-    for (int i = 0; i < 2; ++i)
-        start(programs[i], *m_place, {QStringLiteral("fill"), prefixes[i], QString::number(count)});
-
-    std::map<std::string, std::string> reported;
-    for (QProcess& program : programs) {
-        QVERIFY(program.waitForFinished(-1));
-        QCOMPARE(program.exitCode(), 0);
-        for (const QByteArray& line : program.readAllStandardOutput().split('\n')) {
-            const QList<QByteArray> words = line.split(' ');
-            if (words.first() == "saved")
-                reported[(words[1] + ' ' + words[2]).toStdString()] = words[3].toStdString();
-        }
-    }
-
-    m_mgr = fresh_manager();
-    QCOMPARE(int(reported.size()), 2 * count);
-    QCOMPARE(custom_names(*m_mgr).size(), reported.size());
-    for (const auto& [name, mark] : reported)
-        QCOMPARE(stored_text(*m_mgr, name), expected_text(name, mark));
-    QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
-    QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().get_history().empty());
-}
-
-void TEST_DURABILITY::a_full_disk_leaves_everything_as_it_was_data()
-{
-    QTest::addColumn<QByteArray>("change");
-    QTest::newRow("save") << QByteArrayLiteral("save");
-    QTest::newRow("replace") << QByteArrayLiteral("replace");
-    QTest::newRow("delete") << QByteArrayLiteral("delete");
-}
-
-void TEST_DURABILITY::a_full_disk_leaves_everything_as_it_was()
-{
-    QFETCH(QByteArray, change);
-    m_mgr = fresh_manager();
-    QVERIFY(save(*m_mgr, "A", "1"));
-    const std::string before = stored_text(*m_mgr, "A");
-    const std::string file = read_file(m_place->db_file());
-    GFPDB_FLASH* record = m_mgr->create_flash(change == "replace" ? "A" : "B");
-    fill_record(*m_mgr, *record, "2");
-    const auto do_it = [&] {
-        return change == "delete" ? m_mgr->delete_flash("A", std::string()) : m_mgr->save_flash(record, std::string());
-    };
-
-    {
-        const FILE_SIZE_LIMIT limit(file.size());
-        expect_warning("gfpdb.sqlite");
-        QVERIFY(!do_it());
-        QVERIFY(!m_mgr->get_last_error().empty());
-        QCOMPARE(stored_text(*m_mgr, "A"), before);
-    }
-    QCOMPARE(read_file(m_place->db_file()), file);
-    m_mgr = fresh_manager();
-    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
-    QCOMPARE(stored_text(*m_mgr, "A"), before);
-    QVERIFY(GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
-    QVERIFY(do_it());
-}
-
-void TEST_DURABILITY::no_file_is_left_where_there_is_no_room_for_one()
-{
-    m_mgr = fresh_manager();
-    GFPDB_FLASH* record = make_device(*m_mgr, "A");
-    {
-        const FILE_SIZE_LIMIT limit(4096);
-        expect_warning("gfpdb.sqlite");
-        QVERIFY(!m_mgr->save_flash(record, std::string()));
-    }
-    const QDir directory(QString::fromStdString(m_place->db_dir()));
-    QCOMPARE(directory.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
-    QCOMPARE(open_files(m_place->db_dir()), QStringList());
-    QVERIFY(m_mgr->save_flash(record, std::string()));
-    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
-}
-
-// A small file system of its own; where that may not be mounted, a limit on file sizes stands for it.
-void TEST_DURABILITY::a_full_medium_is_told_as_such()
-{
-    constexpr rlim_t ROOM = 128 * 1024;
-    const std::string directory = m_place->path("small/");
-    make_dir(directory);
-    const bool is_mounted = ::mount("tmpfs", directory.c_str(), "tmpfs", 0, "size=128k") == 0;
-    GFPDB_MGR::set_db_custom_dir(directory);
-    m_mgr = fresh_manager();
-    NAMES saved;
-    std::string error;
-    {
-        const FILE_SIZE_LIMIT limit(is_mounted ? RLIM_INFINITY : ROOM);
-        expect_warning("gfpdb.sqlite");
-        for (int i = 0; error.empty(); ++i) {
-            const std::string name = "Name " + std::string(1, char('a' + i));
-            if (save(*m_mgr, name, "mark"))
-                saved.push_back(name);
-            else
-                error = m_mgr->get_last_error();
-        }
-    }
-    m_mgr = fresh_manager();
-    const NAMES found = custom_names(*m_mgr);
-    NAMES whole;
-    for (const std::string& name : found) {
-        if (stored_text(*m_mgr, name) == expected_text(name, "mark"))
-            whole.push_back(name);
-    }
-    const bool is_sound = GFPDB_EMBEDDED_MGR::instance().store().check_integrity();
-    GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
-    fresh_manager();
-    if (is_mounted)
-        ::umount2(directory.c_str(), MNT_DETACH);
-
-    QVERIFY(is_sound);
-    QVERIFY(!saved.empty());
-    QCOMPARE(found, saved);
-    QCOMPARE(whole, saved);
-    if (is_mounted)
-        QVERIFY2(error.find("There is no room for the database " + directory) == 0, error.c_str());
-}
-
-void TEST_DURABILITY::changes_fail_when_the_directory_is_gone()
-{
-    m_mgr = fresh_manager();
-    QVERIFY(save(*m_mgr, "A", "1"));
-    const QString moved = QString::fromStdString(m_place->path("moved"));
-    QVERIFY(QDir().rename(QString::fromStdString(m_place->db_dir()), moved));
-
-    for (int i = 0; i < 4; ++i)
-        expect_warning("replaced or removed|does not exist");
-    QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
-    QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
-    QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_dir())));
-    QVERIFY(QDir().rename(moved, QString::fromStdString(m_place->db_dir())));
-    QCOMPARE(stored_text(*m_mgr, "A"), expected_text("A", "1"));
-    QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
-}
-
-void TEST_DURABILITY::changes_fail_once_when_the_file_was_replaced()
-{
-    m_mgr = fresh_manager();
-    QVERIFY(save(*m_mgr, "A", "1"));
-    QVERIFY(QFile::copy(QString::fromStdString(m_place->db_file()), QString::fromStdString(m_place->path("copy"))));
-    QVERIFY(save(*m_mgr, "B", "1"));
-    QCOMPARE(std::rename(m_place->path("copy").c_str(), m_place->db_file().c_str()), 0);
-    const std::string before = read_file(m_place->db_file());
-
-    expect_warning("was replaced or removed by another program");
-    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_NAME, "C"), std::string());
-    expect_warning("was replaced or removed by another program while it was in use");
-    QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
-    QCOMPARE(read_file(m_place->db_file()), before);
-    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
-    QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
-    QVERIFY(save(*m_mgr, "C", "1"));
-    QCOMPARE(custom_names(*m_mgr), NAMES{"C"});
-}
 
 int main(int argc, char** argv)
 {
@@ -537,4 +519,5 @@ int main(int argc, char** argv)
     TEST_DURABILITY test;
     return QTest::qExec(&test, argc, argv);
 }
+
 #include "test_durability.moc"

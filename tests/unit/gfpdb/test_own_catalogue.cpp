@@ -22,116 +22,102 @@ class TEST_OWN_CATALOGUE : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_place = std::make_unique<GFPDB_PLACE>();
+        m_mgr = fresh_manager();
+    }
 
-    void names_come_in_the_order_of_the_catalogue();
-    void hidden_parts_hide_what_the_catalogue_says_data();
-    void hidden_parts_hide_what_the_catalogue_says();
-    void parts_are_hidden_for_serial_schemes_only();
-    void a_custom_device_is_never_hidden();
-    void other_voltages_and_densities_are_offered_too();
-    void every_byte_of_an_id_has_two_digits();
-    void known_numbers_are_set();
+    void cleanup() { m_place.reset(); }
+
+    void names_come_in_the_order_of_the_catalogue()
+    {
+        NAMES names;
+        QCOMPARE(m_mgr->get_builtin_flash_names(names, FAMILY, ACTIVE_SERIAL, 0),
+                 (NAMES{"Zebra", "Ant", "Fox", "Elk", "Cat"}));
+        QVERIFY(!m_mgr->is_builtin_flash("MX25L25645G"));
+    }
+
+    void hidden_parts_hide_what_the_catalogue_says_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("properties");
+        QTest::addColumn<bool>("flows");
+        QTest::newRow("open") << QStringLiteral("Zebra") << false << false;
+        QTest::newRow("nothing said") << QStringLiteral("Ant") << false << false;
+        QTest::newRow("no properties") << QStringLiteral("fox") << true << false;
+        QTest::newRow("no flows") << QStringLiteral("Elk") << false << true;
+        QTest::newRow("hidden") << QStringLiteral("Cat") << true << true;
+        QTest::newRow("unknown") << QStringLiteral("Dog") << false << false;
+    }
+
+    void hidden_parts_hide_what_the_catalogue_says()
+    {
+        QFETCH(QString, name);
+
+        QTEST(m_mgr->is_hidden_flash(name.toStdString(), false), "properties");
+        QTEST(m_mgr->is_hidden_flash(name.toStdString(), true), "flows");
+    }
+
+    void parts_are_hidden_for_serial_schemes_only()
+    {
+        m_mgr->set_config_scheme(QUAD);
+        QVERIFY(m_mgr->is_hidden_flash("Cat", false));
+        m_mgr->set_config_scheme(PGMIO_SDMMC_X4);
+        QVERIFY(!m_mgr->is_hidden_flash("Cat", false));
+    }
+
+    // The catalogue may get a part of a name that a user has taken before.
+    void a_custom_device_is_never_hidden()
+    {
+        QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "Mine"), m_place->db_dir()));
+        QVERIFY(run_sql(m_place->db_file(), "UPDATE device SET name = 'Cat', name_key = 'cat'").isValid());
+
+        QVERIFY(!m_mgr->is_hidden_flash("Cat", false));
+        QVERIFY(!m_mgr->is_hidden_flash("Cat", true));
+        QVERIFY(m_mgr->find_flash("Cat", true)->is_user_defined());
+        m_mgr->set_device_family(OTHER_FAMILY);
+        QVERIFY(m_mgr->is_hidden_flash("Cat", false));
+        QVERIFY(!m_mgr->find_flash("Cat", true)->is_user_defined());
+    }
+
+    void other_voltages_and_densities_are_offered_too()
+    {
+        const NAMES voltages = gfpdb_voltage_options(GFPDB_SCHEME_KIND::SERIAL);
+        const NAMES densities = gfpdb_density_options(GFPDB_SCHEME_KIND::SERIAL);
+
+        QCOMPARE(voltages.size(), std::size_t(16));
+        QCOMPARE(voltages.back(), std::string("5V"));
+        QCOMPARE(densities.size(), std::size_t(14));
+        QCOMPARE(densities.back(), std::string("3Mb"));
+        QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::NONE), voltages);
+        QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::PARALLEL).size(), std::size_t(9));
+        QCOMPARE(gfpdb_density_options(GFPDB_SCHEME_KIND::CARD).size(), std::size_t(8));
+        QCOMPARE(checked(*m_mgr, GFPDB_FLASH_VOLTAGE, std::string("5V")), std::string());
+    }
+
+    void every_byte_of_an_id_has_two_digits()
+    {
+        QCOMPARE(m_mgr->find_flash("Zebra", true)->get_string_property(GFPDB_FLASH_DEVICE_ID),
+                 std::string("0x0A 0x1B"));
+        QCOMPARE(m_mgr->find_flash("Ant", true)->get_string_property(GFPDB_FLASH_DEVICE_ID),
+                 std::string("0xC2 0x20 0x15 0x00 0x01 0xFF"));
+    }
+
+    void known_numbers_are_set()
+    {
+        const GFPDB_FLASH* record = m_mgr->find_flash("Zebra", true);
+
+        QCOMPARE(record->get_int_property(GFPDB_FLASH_TOTAL_DIE, 0), 3);
+        QCOMPARE(record->get_int_property(GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 0), 7);
+        QCOMPARE(record->get_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, 0), 5);
+        QCOMPARE(m_mgr->find_flash("Ant", true)->get_int_property(GFPDB_FLASH_TOTAL_DIE, 7), 1);
+    }
 
 private:
     std::unique_ptr<GFPDB_PLACE> m_place;
     GFPDB_MGR* m_mgr = nullptr;
 };
-
-void TEST_OWN_CATALOGUE::init()
-{
-    m_place = std::make_unique<GFPDB_PLACE>();
-    m_mgr = fresh_manager();
-}
-
-void TEST_OWN_CATALOGUE::cleanup()
-{
-    m_place.reset();
-}
-
-void TEST_OWN_CATALOGUE::names_come_in_the_order_of_the_catalogue()
-{
-    NAMES names;
-    QCOMPARE(m_mgr->get_builtin_flash_names(names, FAMILY, ACTIVE_SERIAL, 0),
-             (NAMES{"Zebra", "Ant", "Fox", "Elk", "Cat"}));
-    QVERIFY(!m_mgr->is_builtin_flash("MX25L25645G"));
-}
-
-void TEST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("properties");
-    QTest::addColumn<bool>("flows");
-    QTest::newRow("open") << QStringLiteral("Zebra") << false << false;
-    QTest::newRow("nothing said") << QStringLiteral("Ant") << false << false;
-    QTest::newRow("no properties") << QStringLiteral("fox") << true << false;
-    QTest::newRow("no flows") << QStringLiteral("Elk") << false << true;
-    QTest::newRow("hidden") << QStringLiteral("Cat") << true << true;
-    QTest::newRow("unknown") << QStringLiteral("Dog") << false << false;
-}
-
-void TEST_OWN_CATALOGUE::hidden_parts_hide_what_the_catalogue_says()
-{
-    QFETCH(QString, name);
-
-    QTEST(m_mgr->is_hidden_flash(name.toStdString(), false), "properties");
-    QTEST(m_mgr->is_hidden_flash(name.toStdString(), true), "flows");
-}
-
-void TEST_OWN_CATALOGUE::parts_are_hidden_for_serial_schemes_only()
-{
-    m_mgr->set_config_scheme(QUAD);
-    QVERIFY(m_mgr->is_hidden_flash("Cat", false));
-    m_mgr->set_config_scheme(PGMIO_SDMMC_X4);
-    QVERIFY(!m_mgr->is_hidden_flash("Cat", false));
-}
-
-// The catalogue may get a part of a name that a user has taken before.
-void TEST_OWN_CATALOGUE::a_custom_device_is_never_hidden()
-{
-    QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "Mine"), m_place->db_dir()));
-    QVERIFY(run_sql(m_place->db_file(), "UPDATE device SET name = 'Cat', name_key = 'cat'").isValid());
-
-    QVERIFY(!m_mgr->is_hidden_flash("Cat", false));
-    QVERIFY(!m_mgr->is_hidden_flash("Cat", true));
-    QVERIFY(m_mgr->find_flash("Cat", true)->is_user_defined());
-    m_mgr->set_device_family(OTHER_FAMILY);
-    QVERIFY(m_mgr->is_hidden_flash("Cat", false));
-    QVERIFY(!m_mgr->find_flash("Cat", true)->is_user_defined());
-}
-
-void TEST_OWN_CATALOGUE::other_voltages_and_densities_are_offered_too()
-{
-    const NAMES voltages = gfpdb_voltage_options(GFPDB_SCHEME_KIND::SERIAL);
-    const NAMES densities = gfpdb_density_options(GFPDB_SCHEME_KIND::SERIAL);
-
-    QCOMPARE(voltages.size(), std::size_t(16));
-    QCOMPARE(voltages.back(), std::string("5V"));
-    QCOMPARE(densities.size(), std::size_t(14));
-    QCOMPARE(densities.back(), std::string("3Mb"));
-    QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::NONE), voltages);
-    QCOMPARE(gfpdb_voltage_options(GFPDB_SCHEME_KIND::PARALLEL).size(), std::size_t(9));
-    QCOMPARE(gfpdb_density_options(GFPDB_SCHEME_KIND::CARD).size(), std::size_t(8));
-    QCOMPARE(checked(*m_mgr, GFPDB_FLASH_VOLTAGE, std::string("5V")), std::string());
-}
-
-void TEST_OWN_CATALOGUE::every_byte_of_an_id_has_two_digits()
-{
-    QCOMPARE(m_mgr->find_flash("Zebra", true)->get_string_property(GFPDB_FLASH_DEVICE_ID), std::string("0x0A 0x1B"));
-    QCOMPARE(m_mgr->find_flash("Ant", true)->get_string_property(GFPDB_FLASH_DEVICE_ID),
-             std::string("0xC2 0x20 0x15 0x00 0x01 0xFF"));
-}
-
-void TEST_OWN_CATALOGUE::known_numbers_are_set()
-{
-    const GFPDB_FLASH* record = m_mgr->find_flash("Zebra", true);
-
-    QCOMPARE(record->get_int_property(GFPDB_FLASH_TOTAL_DIE, 0), 3);
-    QCOMPARE(record->get_int_property(GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 0), 7);
-    QCOMPARE(record->get_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, 0), 5);
-    QCOMPARE(m_mgr->find_flash("Ant", true)->get_int_property(GFPDB_FLASH_TOTAL_DIE, 7), 1);
-}
 
 // The catalogue is read once, so the variable is set before anything else.
 int main(int argc, char** argv)
@@ -144,4 +130,5 @@ int main(int argc, char** argv)
     TEST_OWN_CATALOGUE test;
     return QTest::qExec(&test, argc, argv);
 }
+
 #include "test_own_catalogue.moc"

@@ -3,6 +3,7 @@
 // Reading whole files: which ones, how much of them, and what is said about the others.
 #include "base/gfpdb_read_file.h"
 #include "gfpdb_test.h"
+#include "test_rows.h"
 
 #include <array>
 
@@ -68,129 +69,115 @@ class TEST_READ_FILE : public QObject
     Q_OBJECT
 
 private slots:
-    void a_file_is_read_to_its_end_data();
-    void a_file_is_read_to_its_end();
-    void what_is_no_regular_file_is_not_read_data();
-    void what_is_no_regular_file_is_not_read();
-    void a_pipe_is_read_to_its_end();
-    void a_pipe_that_does_not_wait_is_waited_for();
-    void too_much_is_refused_data();
-    void too_much_is_refused();
+    void a_file_is_read_to_its_end_data()
+    {
+        QTest::addColumn<int>("size");
+        for (const int size : {0, 1, int(LIMIT), 65536, 65537, 200000})
+            QTest::addRow("%d", size) << size;
+    }
+
+    void a_file_is_read_to_its_end()
+    {
+        const GFPDB_PLACE place;
+        QFETCH(int, size);
+        std::string content(static_cast<std::size_t>(size), 'x');
+        for (std::size_t at = 0; at < content.size(); at += 7)
+            content[at] = static_cast<char>(at);
+        write_file(place.path("file"), content);
+        std::string problem;
+
+        QVERIFY(gfpdb_read_file(place.path("file"), content.size(), problem) == content);
+        QCOMPARE(problem, std::string());
+    }
+
+    void what_is_no_regular_file_is_not_read_data()
+    {
+        const QString not_regular = QStringLiteral("it is not a regular file");
+        rows<QString, QString>({{"nothing", "nothing", "No such file or directory"},
+                                {"directory", ".", not_regular},
+                                {"pipe", "pipe", not_regular},
+                                {"link to a pipe", "link", not_regular},
+                                {"socket", "socket", "No such device or address"},
+                                {"device", "/dev/zero", not_regular},
+                                {"terminal", "/dev/ptmx", not_regular}});
+    }
+
+    void what_is_no_regular_file_is_not_read()
+    {
+        const GFPDB_PLACE place;
+        const auto [name, problem] = row<QString, QString>();
+        QCOMPARE(::mkfifo(place.path("pipe").c_str(), 0600), 0);
+        QCOMPARE(::symlink("pipe", place.path("link").c_str()), 0);
+        const QTemporaryDir short_name;
+        const std::string socket = short_name.filePath(QStringLiteral("socket")).toStdString();
+        make_socket(socket);
+        std::string path = name.startsWith(QLatin1Char('/')) ? name.toStdString() : place.path(name.toStdString());
+        if (name == QLatin1String("socket"))
+            path = socket;
+        std::string told;
+
+        QVERIFY(!gfpdb_read_file(path, LIMIT, told));
+        QCOMPARE(told, problem.toStdString());
+    }
+
+    void a_pipe_is_read_to_its_end()
+    {
+        const std::string content(LIMIT, 'x');
+        const FULL_PIPE pipe(content);
+        std::string problem;
+        QVERIFY(gfpdb_read_descriptor(pipe.reading_end(), LIMIT, problem) == content);
+        QCOMPARE(problem, std::string());
+        QVERIFY(!gfpdb_read_descriptor(-1, LIMIT, problem));
+        QCOMPARE(problem, std::string("Bad file descriptor"));
+    }
+
+    void a_pipe_that_does_not_wait_is_waited_for()
+    {
+        std::array<int, 2> ends = {};
+        QCOMPARE(::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
+        const pid_t writer = ::fork();
+        if (writer == 0) {
+            ::close(ends[0]);
+            while (!is_asleep(::getppid()))
+                ::sched_yield();
+            ::_exit(::write(ends[1], "late", 4) == 4 ? 0 : 1);
+        }
+        ::close(ends[1]);
+        std::string problem;
+        QVERIFY(gfpdb_read_descriptor(ends[0], LIMIT, problem) == std::string("late"));
+        ::close(ends[0]);
+        int status = -1;
+        QCOMPARE(::waitpid(writer, &status, 0), writer);
+        QCOMPARE(status, 0);
+    }
+
+    void too_much_is_refused_data()
+    {
+        rows<qulonglong, QString>({{"0", 0ULL, "it is larger than 0 bytes"},
+                                   {"1023", 1023ULL, "it is larger than 1023 bytes"},
+                                   {"1024", 1024ULL, "it is larger than 1 KiB"},
+                                   {"1025", 1025ULL, "it is larger than 1025 bytes"},
+                                   {"1 MiB", (1ULL << 20), "it is larger than 1 MiB"}});
+    }
+
+    void too_much_is_refused()
+    {
+        const GFPDB_PLACE place;
+        const auto [limit, problem] = row<qulonglong, QString>();
+        write_file(place.path("file"), std::string(limit + 1, 'x'));
+        std::string told;
+        QVERIFY(!gfpdb_read_file(place.path("file"), limit, told));
+        QCOMPARE(told, problem.toStdString());
+
+        // Without an end, and without a size that could be asked.
+        const int endless = ::open("/dev/zero", O_RDONLY | O_CLOEXEC);
+        told.clear();
+        QVERIFY(!gfpdb_read_descriptor(endless, limit, told));
+        QCOMPARE(told, problem.toStdString());
+        ::close(endless);
+    }
 };
 
-void TEST_READ_FILE::a_file_is_read_to_its_end_data()
-{
-    QTest::addColumn<int>("size");
-    for (const int size : {0, 1, int(LIMIT), 65536, 65537, 200000})
-        QTest::addRow("%d", size) << size;
-}
-
-void TEST_READ_FILE::a_file_is_read_to_its_end()
-{
-    const GFPDB_PLACE place;
-    QFETCH(int, size);
-    std::string content(static_cast<std::size_t>(size), 'x');
-    for (std::size_t at = 0; at < content.size(); at += 7)
-        content[at] = static_cast<char>(at);
-    write_file(place.path("file"), content);
-    std::string problem;
-
-    QVERIFY(gfpdb_read_file(place.path("file"), content.size(), problem) == content);
-    QCOMPARE(problem, std::string());
-}
-
-void TEST_READ_FILE::what_is_no_regular_file_is_not_read_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("problem");
-    const QString not_regular = QStringLiteral("it is not a regular file");
-    QTest::newRow("nothing") << QStringLiteral("nothing") << QStringLiteral("No such file or directory");
-    QTest::newRow("directory") << QStringLiteral(".") << not_regular;
-    QTest::newRow("pipe") << QStringLiteral("pipe") << not_regular;
-    QTest::newRow("link to a pipe") << QStringLiteral("link") << not_regular;
-    QTest::newRow("socket") << QStringLiteral("socket") << QStringLiteral("No such device or address");
-    QTest::newRow("device") << QStringLiteral("/dev/zero") << not_regular;
-    QTest::newRow("terminal") << QStringLiteral("/dev/ptmx") << not_regular;
-}
-
-void TEST_READ_FILE::what_is_no_regular_file_is_not_read()
-{
-    const GFPDB_PLACE place;
-    QFETCH(QString, name);
-    QFETCH(QString, problem);
-    QCOMPARE(::mkfifo(place.path("pipe").c_str(), 0600), 0);
-    QCOMPARE(::symlink("pipe", place.path("link").c_str()), 0);
-    const QTemporaryDir short_name;
-    const std::string socket = short_name.filePath(QStringLiteral("socket")).toStdString();
-    make_socket(socket);
-    std::string path = name.startsWith(QLatin1Char('/')) ? name.toStdString() : place.path(name.toStdString());
-    if (name == QLatin1String("socket"))
-        path = socket;
-    std::string told;
-
-    QVERIFY(!gfpdb_read_file(path, LIMIT, told));
-    QCOMPARE(told, problem.toStdString());
-}
-
-void TEST_READ_FILE::a_pipe_is_read_to_its_end()
-{
-    const std::string content(LIMIT, 'x');
-    const FULL_PIPE pipe(content);
-    std::string problem;
-    QVERIFY(gfpdb_read_descriptor(pipe.reading_end(), LIMIT, problem) == content);
-    QCOMPARE(problem, std::string());
-    QVERIFY(!gfpdb_read_descriptor(-1, LIMIT, problem));
-    QCOMPARE(problem, std::string("Bad file descriptor"));
-}
-
-void TEST_READ_FILE::a_pipe_that_does_not_wait_is_waited_for()
-{
-    std::array<int, 2> ends = {};
-    QCOMPARE(::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
-    const pid_t writer = ::fork();
-    if (writer == 0) {
-        ::close(ends[0]);
-        while (!is_asleep(::getppid()))
-            ::sched_yield();
-        ::_exit(::write(ends[1], "late", 4) == 4 ? 0 : 1);
-    }
-    ::close(ends[1]);
-    std::string problem;
-    QVERIFY(gfpdb_read_descriptor(ends[0], LIMIT, problem) == std::string("late"));
-    ::close(ends[0]);
-    int status = -1;
-    QCOMPARE(::waitpid(writer, &status, 0), writer);
-    QCOMPARE(status, 0);
-}
-
-void TEST_READ_FILE::too_much_is_refused_data()
-{
-    QTest::addColumn<qulonglong>("limit");
-    QTest::addColumn<QString>("problem");
-    QTest::newRow("0") << 0ULL << QStringLiteral("it is larger than 0 bytes");
-    QTest::newRow("1023") << 1023ULL << QStringLiteral("it is larger than 1023 bytes");
-    QTest::newRow("1024") << 1024ULL << QStringLiteral("it is larger than 1 KiB");
-    QTest::newRow("1025") << 1025ULL << QStringLiteral("it is larger than 1025 bytes");
-    QTest::newRow("1 MiB") << (1ULL << 20) << QStringLiteral("it is larger than 1 MiB");
-}
-
-void TEST_READ_FILE::too_much_is_refused()
-{
-    const GFPDB_PLACE place;
-    QFETCH(qulonglong, limit);
-    QFETCH(QString, problem);
-    write_file(place.path("file"), std::string(limit + 1, 'x'));
-    std::string told;
-    QVERIFY(!gfpdb_read_file(place.path("file"), limit, told));
-    QCOMPARE(told, problem.toStdString());
-
-    // Without an end, and without a size that could be asked.
-    const int endless = ::open("/dev/zero", O_RDONLY | O_CLOEXEC);
-    told.clear();
-    QVERIFY(!gfpdb_read_descriptor(endless, limit, told));
-    QCOMPARE(told, problem.toStdString());
-    ::close(endless);
-}
-
 QTEST_GUILESS_MAIN(TEST_READ_FILE)
+
 #include "test_read_file.moc"

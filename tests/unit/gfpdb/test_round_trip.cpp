@@ -127,144 +127,130 @@ class TEST_ROUND_TRIP : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_place = std::make_unique<GFPDB_PLACE>(GFPDB_PLACE::ON::MEMORY); }
 
-    void a_saved_record_is_read_byte_for_byte();
-    void a_restored_record_is_the_deleted_one();
-    void any_row_of_changes_leaves_what_it_should();
+    void cleanup() { m_place.reset(); }
+
+    void a_saved_record_is_read_byte_for_byte()
+    {
+        const bool holds = rc::check("a saved record is read byte for byte", [this] {
+            GFPDB_MGR* manager = fresh_manager();
+            const std::string name = *any_name("D");
+            const std::string template_name = *any_name("T");
+            GFPDB_FLASH* record = any_record(*manager, name);
+            record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, template_name);
+            RC_ASSERT(manager->save_flash(record, m_place->db_dir()));
+            const std::string saved = text_of(*record);
+
+            manager = fresh_manager();
+            RC_ASSERT(text_of(manager->find_flash(name, true)) == saved);
+            RC_ASSERT(text_of(manager->find_flash(template_name, true)) == saved);
+            RC_ASSERT(custom_names(*manager) == NAMES{name});
+            RC_ASSERT(user_templates(*manager) == NAMES{template_name});
+            RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
+            RC_ASSERT(manager->remove_template(template_name));
+        });
+        QVERIFY(holds);
+    }
+
+    void a_restored_record_is_the_deleted_one()
+    {
+        int history_id = 0;
+        const bool holds = rc::check("a restored record is the deleted one", [&] {
+            GFPDB_MGR* manager = fresh_manager();
+            const std::string name = *any_name("D");
+            GFPDB_FLASH* record = any_record(*manager, name);
+            RC_ASSERT(manager->save_flash(record, m_place->db_dir()));
+            const std::string saved = text_of(*record);
+            RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
+            ++history_id;
+
+            RC_ASSERT(manager->restore_flash(history_id, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
+            RC_ASSERT(text_of(manager->find_flash(name, true)) == saved);
+            RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
+            ++history_id;
+        });
+        QVERIFY(holds);
+    }
+
+    void any_row_of_changes_leaves_what_it_should()
+    {
+        const bool holds = rc::check("any row of changes leaves what it should", [this] {
+            EXPECTED expected;
+            GFPDB_MGR* manager = fresh_manager();
+            for (const char* name : {"a", "b", "c", "d"})
+                RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
+            for (const char* name : {"t", "u", "a"})
+                RC_ASSERT(manager->remove_template(name));
+
+            const int changes = *rc::gen::inRange(1, 12);
+            for (int i = 0; i < changes; ++i)
+                change_anything(*manager, expected);
+
+            manager = fresh_manager();
+            RC_ASSERT(custom_names(*manager) == names_of(expected.devices));
+            RC_ASSERT(user_templates(*manager) == names_of(expected.templates));
+            for (const auto& [name, text] : expected.devices)
+                RC_ASSERT(text_of(manager->find_flash(name, true)) == text);
+            for (const auto& [name, text] : expected.templates)
+                RC_ASSERT(text_of(manager->find_flash(name, true)) == text);
+        });
+        QVERIFY(holds);
+    }
 
 private:
-    void change_anything(GFPDB_MGR& manager, EXPECTED& expected);
-    void save_anything(GFPDB_MGR& manager, EXPECTED& expected);
+    void change_anything(GFPDB_MGR& manager, EXPECTED& expected)
+    {
+        const int action = *rc::gen::inRange(0, 4);
+        if (action <= 1) {
+            save_anything(manager, expected);
+        } else if (action == 2) {
+            const std::string name = *rc::gen::element<std::string>("a", "b", "c", "d", "t");
+            RC_ASSERT(manager.delete_flash(name, m_place->db_dir()));
+            expected.deleted = name;
+            expected.taken.clear();
+            if (const auto taken = expected.devices.extract(name))
+                expected.taken[name] = taken.mapped();
+        } else {
+            const std::string name = *rc::gen::element<std::string>("t", "u", "a");
+            RC_ASSERT(manager.remove_template(name));
+            expected.deleted.clear();
+            expected.taken.clear();
+            expected.templates.erase(name);
+        }
+    }
+
+    void save_anything(GFPDB_MGR& manager, EXPECTED& expected)
+    {
+        const std::string name = *rc::gen::element<std::string>("a", "b", "c", "d");
+        const std::string template_name = *rc::gen::element<std::string>("", "", "t", "u", "a");
+        GFPDB_FLASH* record = any_record(manager, name);
+        record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, template_name);
+        const std::string saved = text_of(*record);
+        const auto is_foreign = [&](const std::string& text) {
+            return text.compare(0, name.size() + 3, "0=" + name + '\n');
+        };
+
+        const auto stored = expected.templates.find(template_name);
+        const bool is_seen = expected.deleted.empty() || expected.deleted == name || expected.devices.count(name) == 0;
+        const bool is_free = is_seen && expected.templates.count(name) == 0 &&
+                             expected.devices.count(template_name) == 0 && template_name != name &&
+                             (stored == expected.templates.end() || !is_foreign(stored->second));
+        RC_ASSERT(manager.save_flash(record, m_place->db_dir()) == is_free);
+        if (!is_free)
+            expected.devices.merge(expected.taken);
+        expected.taken.clear();
+        expected.deleted.clear();
+        if (!is_free)
+            return;
+        expected.devices[name] = saved;
+        if (!template_name.empty())
+            expected.templates[template_name] = saved;
+    }
 
     std::unique_ptr<GFPDB_PLACE> m_place;
 };
 
-void TEST_ROUND_TRIP::init()
-{
-    m_place = std::make_unique<GFPDB_PLACE>(GFPDB_PLACE::ON::MEMORY);
-}
-
-void TEST_ROUND_TRIP::cleanup()
-{
-    m_place.reset();
-}
-
-void TEST_ROUND_TRIP::a_saved_record_is_read_byte_for_byte()
-{
-    const bool holds = rc::check("a saved record is read byte for byte", [this] {
-        GFPDB_MGR* manager = fresh_manager();
-        const std::string name = *any_name("D");
-        const std::string template_name = *any_name("T");
-        GFPDB_FLASH* record = any_record(*manager, name);
-        record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, template_name);
-        RC_ASSERT(manager->save_flash(record, m_place->db_dir()));
-        const std::string saved = text_of(*record);
-
-        manager = fresh_manager();
-        RC_ASSERT(text_of(manager->find_flash(name, true)) == saved);
-        RC_ASSERT(text_of(manager->find_flash(template_name, true)) == saved);
-        RC_ASSERT(custom_names(*manager) == NAMES{name});
-        RC_ASSERT(user_templates(*manager) == NAMES{template_name});
-        RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
-        RC_ASSERT(manager->remove_template(template_name));
-    });
-    QVERIFY(holds);
-}
-
-void TEST_ROUND_TRIP::a_restored_record_is_the_deleted_one()
-{
-    int history_id = 0;
-    const bool holds = rc::check("a restored record is the deleted one", [&] {
-        GFPDB_MGR* manager = fresh_manager();
-        const std::string name = *any_name("D");
-        GFPDB_FLASH* record = any_record(*manager, name);
-        RC_ASSERT(manager->save_flash(record, m_place->db_dir()));
-        const std::string saved = text_of(*record);
-        RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
-        ++history_id;
-
-        RC_ASSERT(manager->restore_flash(history_id, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
-        RC_ASSERT(text_of(manager->find_flash(name, true)) == saved);
-        RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
-        ++history_id;
-    });
-    QVERIFY(holds);
-}
-
-void TEST_ROUND_TRIP::save_anything(GFPDB_MGR& manager, EXPECTED& expected)
-{
-    const std::string name = *rc::gen::element<std::string>("a", "b", "c", "d");
-    const std::string template_name = *rc::gen::element<std::string>("", "", "t", "u", "a");
-    GFPDB_FLASH* record = any_record(manager, name);
-    record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, template_name);
-    const std::string saved = text_of(*record);
-    const auto is_foreign = [&](const std::string& text) {
-        return text.compare(0, name.size() + 3, "0=" + name + '\n');
-    };
-
-    const auto stored = expected.templates.find(template_name);
-    const bool is_seen = expected.deleted.empty() || expected.deleted == name || expected.devices.count(name) == 0;
-    const bool is_free = is_seen && expected.templates.count(name) == 0 && expected.devices.count(template_name) == 0 &&
-                         template_name != name && (stored == expected.templates.end() || !is_foreign(stored->second));
-    RC_ASSERT(manager.save_flash(record, m_place->db_dir()) == is_free);
-    if (!is_free)
-        expected.devices.merge(expected.taken);
-    expected.taken.clear();
-    expected.deleted.clear();
-    if (!is_free)
-        return;
-    expected.devices[name] = saved;
-    if (!template_name.empty())
-        expected.templates[template_name] = saved;
-}
-
-void TEST_ROUND_TRIP::change_anything(GFPDB_MGR& manager, EXPECTED& expected)
-{
-    const int action = *rc::gen::inRange(0, 4);
-    if (action <= 1) {
-        save_anything(manager, expected);
-    } else if (action == 2) {
-        const std::string name = *rc::gen::element<std::string>("a", "b", "c", "d", "t");
-        RC_ASSERT(manager.delete_flash(name, m_place->db_dir()));
-        expected.deleted = name;
-        expected.taken.clear();
-        if (const auto taken = expected.devices.extract(name))
-            expected.taken[name] = taken.mapped();
-    } else {
-        const std::string name = *rc::gen::element<std::string>("t", "u", "a");
-        RC_ASSERT(manager.remove_template(name));
-        expected.deleted.clear();
-        expected.taken.clear();
-        expected.templates.erase(name);
-    }
-}
-
-void TEST_ROUND_TRIP::any_row_of_changes_leaves_what_it_should()
-{
-    const bool holds = rc::check("any row of changes leaves what it should", [this] {
-        EXPECTED expected;
-        GFPDB_MGR* manager = fresh_manager();
-        for (const char* name : {"a", "b", "c", "d"})
-            RC_ASSERT(manager->delete_flash(name, m_place->db_dir()));
-        for (const char* name : {"t", "u", "a"})
-            RC_ASSERT(manager->remove_template(name));
-
-        const int changes = *rc::gen::inRange(1, 12);
-        for (int i = 0; i < changes; ++i)
-            change_anything(*manager, expected);
-
-        manager = fresh_manager();
-        RC_ASSERT(custom_names(*manager) == names_of(expected.devices));
-        RC_ASSERT(user_templates(*manager) == names_of(expected.templates));
-        for (const auto& [name, text] : expected.devices)
-            RC_ASSERT(text_of(manager->find_flash(name, true)) == text);
-        for (const auto& [name, text] : expected.templates)
-            RC_ASSERT(text_of(manager->find_flash(name, true)) == text);
-    });
-    QVERIFY(holds);
-}
-
 QTEST_GUILESS_MAIN(TEST_ROUND_TRIP)
+
 #include "test_round_trip.moc"

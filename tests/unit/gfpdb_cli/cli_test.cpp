@@ -87,3 +87,8 @@ void replace_in_file(const QString& path, const char* what, const char* with)
         qFatal("there is no %s", what);
     write_file(path.toStdString(), text.replace(what, with).toStdString());
 }
+
+TOOL_RUN CLI_TEST::tool(const QStringList& arguments, const QByteArray& input) const
+{
+    return run_tool(arguments + QStringList{"-d", q(m_place->db_dir())}, input);
+}

@@ -83,81 +83,74 @@ class TEST_CLI_DIFF : public QObject
     Q_OBJECT
 
 private slots:
-    void texts_are_split_into_lines();
-    void equal_texts_have_no_change();
-    void a_change_has_its_place_and_its_lines();
-    void the_fewest_changes_lead_from_left_to_right();
-    void the_unified_form_is_that_of_patch_tools();
-    void changes_that_are_close_share_their_surroundings();
-    void a_side_without_lines_has_its_place_before_the_first();
+    void texts_are_split_into_lines()
+    {
+        QCOMPARE(split_lines(""), LINES());
+        QCOMPARE(split_lines("a\n\nb"), (LINES{"a", "", "b"}));
+        QCOMPARE(split_lines("a\n"), LINES{"a"});
+    }
+
+    void equal_texts_have_no_change()
+    {
+        QVERIFY(diff_lines({"a", "b"}, {"a", "b"}).empty());
+        QCOMPARE(unified_diff("l", {"a"}, "r", {"a"}), std::string());
+    }
+
+    void a_change_has_its_place_and_its_lines()
+    {
+        const std::vector<LINE_CHANGE> changes = diff_lines({"a", "b", "c"}, {"a", "x", "y", "c"});
+        QCOMPARE(changes.size(), std::size_t(1));
+        QCOMPARE(changes[0].left, 1);
+        QCOMPARE(changes[0].right, 1);
+        QCOMPARE(changes[0].removed, LINES{"b"});
+        QCOMPARE(changes[0].added, (LINES{"x", "y"}));
+    }
+
+    void the_fewest_changes_lead_from_left_to_right()
+    {
+        const auto lines = rc::gen::container<LINES>(rc::gen::element<std::string>("a", "b", "c", "d"));
+        QVERIFY(rc::check("random lines", [&lines] {
+            const LINES left = *lines;
+            const LINES right = *lines;
+            const std::vector<LINE_CHANGE> changes = diff_lines(left, right);
+            const std::vector<LINE_CHANGE> fewest = expected(left, right);
+            RC_ASSERT(applied(left, changes) == right);
+            RC_ASSERT(std::equal(changes.begin(), changes.end(), fewest.begin(), fewest.end(), is_same));
+        }));
+    }
+
+    void the_unified_form_is_that_of_patch_tools()
+    {
+        LINES right = numbered(1, 20);
+        right[9] = "ten";
+        QCOMPARE(unified_diff("left", numbered(1, 20), "right", right),
+                 std::string("--- left\n+++ right\n@@ -7,7 +7,7 @@\n 7\n 8\n 9\n-10\n+ten\n 11\n 12\n 13\n"));
+    }
+
+    void changes_that_are_close_share_their_surroundings()
+    {
+        LINES right = numbered(1, 30);
+        right[4] = "five";
+        right[11] = "twelve";
+        right[25] = "twenty-six";
+        QCOMPARE(unified_diff("l", numbered(1, 30), "r", right),
+                 std::string(
+                     "--- l\n+++ r\n@@ -2,14 +2,14 @@\n 2\n 3\n 4\n-5\n+five\n 6\n 7\n 8\n 9\n 10\n 11\n-12\n+twelve\n"
+                     " 13\n 14\n 15\n@@ -23,7 +23,7 @@\n 23\n 24\n 25\n-26\n+twenty-six\n 27\n 28\n 29\n"));
+        right = numbered(1, 30);
+        right[4] = "five";
+        right[12] = "thirteen";
+        QCOMPARE(QByteArray::fromStdString(unified_diff("l", numbered(1, 30), "r", right)).count("@@ -"), 2);
+    }
+
+    void a_side_without_lines_has_its_place_before_the_first()
+    {
+        QCOMPARE(unified_diff("l", {}, "r", {"a"}), std::string("--- l\n+++ r\n@@ -0,0 +1,1 @@\n+a\n"));
+        QCOMPARE(unified_diff("l", {"a", "b"}, "r", {"b"}), std::string("--- l\n+++ r\n@@ -1,2 +1,1 @@\n-a\n b\n"));
+        QCOMPARE(unified_diff("l", {"a"}, "r", {}), std::string("--- l\n+++ r\n@@ -1,1 +0,0 @@\n-a\n"));
+    }
 };
 
-void TEST_CLI_DIFF::texts_are_split_into_lines()
-{
-    QCOMPARE(split_lines(""), LINES());
-    QCOMPARE(split_lines("a\n\nb"), (LINES{"a", "", "b"}));
-    QCOMPARE(split_lines("a\n"), LINES{"a"});
-}
-
-void TEST_CLI_DIFF::equal_texts_have_no_change()
-{
-    QVERIFY(diff_lines({"a", "b"}, {"a", "b"}).empty());
-    QCOMPARE(unified_diff("l", {"a"}, "r", {"a"}), std::string());
-}
-
-void TEST_CLI_DIFF::a_change_has_its_place_and_its_lines()
-{
-    const std::vector<LINE_CHANGE> changes = diff_lines({"a", "b", "c"}, {"a", "x", "y", "c"});
-    QCOMPARE(changes.size(), std::size_t(1));
-    QCOMPARE(changes[0].left, 1);
-    QCOMPARE(changes[0].right, 1);
-    QCOMPARE(changes[0].removed, LINES{"b"});
-    QCOMPARE(changes[0].added, (LINES{"x", "y"}));
-}
-
-void TEST_CLI_DIFF::the_fewest_changes_lead_from_left_to_right()
-{
-    const auto lines = rc::gen::container<LINES>(rc::gen::element<std::string>("a", "b", "c", "d"));
-    QVERIFY(rc::check("random lines", [&lines] {
-        const LINES left = *lines;
-        const LINES right = *lines;
-        const std::vector<LINE_CHANGE> changes = diff_lines(left, right);
-        const std::vector<LINE_CHANGE> fewest = expected(left, right);
-        RC_ASSERT(applied(left, changes) == right);
-        RC_ASSERT(std::equal(changes.begin(), changes.end(), fewest.begin(), fewest.end(), is_same));
-    }));
-}
-
-void TEST_CLI_DIFF::the_unified_form_is_that_of_patch_tools()
-{
-    LINES right = numbered(1, 20);
-    right[9] = "ten";
-    QCOMPARE(unified_diff("left", numbered(1, 20), "right", right),
-             std::string("--- left\n+++ right\n@@ -7,7 +7,7 @@\n 7\n 8\n 9\n-10\n+ten\n 11\n 12\n 13\n"));
-}
-
-void TEST_CLI_DIFF::changes_that_are_close_share_their_surroundings()
-{
-    LINES right = numbered(1, 30);
-    right[4] = "five";
-    right[11] = "twelve";
-    right[25] = "twenty-six";
-    QCOMPARE(
-        unified_diff("l", numbered(1, 30), "r", right),
-        std::string("--- l\n+++ r\n@@ -2,14 +2,14 @@\n 2\n 3\n 4\n-5\n+five\n 6\n 7\n 8\n 9\n 10\n 11\n-12\n+twelve\n"
-                    " 13\n 14\n 15\n@@ -23,7 +23,7 @@\n 23\n 24\n 25\n-26\n+twenty-six\n 27\n 28\n 29\n"));
-    right = numbered(1, 30);
-    right[4] = "five";
-    right[12] = "thirteen";
-    QCOMPARE(QByteArray::fromStdString(unified_diff("l", numbered(1, 30), "r", right)).count("@@ -"), 2);
-}
-
-void TEST_CLI_DIFF::a_side_without_lines_has_its_place_before_the_first()
-{
-    QCOMPARE(unified_diff("l", {}, "r", {"a"}), std::string("--- l\n+++ r\n@@ -0,0 +1,1 @@\n+a\n"));
-    QCOMPARE(unified_diff("l", {"a", "b"}, "r", {"b"}), std::string("--- l\n+++ r\n@@ -1,2 +1,1 @@\n-a\n b\n"));
-    QCOMPARE(unified_diff("l", {"a"}, "r", {}), std::string("--- l\n+++ r\n@@ -1,1 +0,0 @@\n-a\n"));
-}
-
 QTEST_APPLESS_MAIN(TEST_CLI_DIFF)
+
 #include "test_cli_diff.moc"

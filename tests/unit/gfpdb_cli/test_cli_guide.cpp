@@ -39,74 +39,68 @@ TOOL_RUN run_line(const QString& line, const QString& directory)
 
 } // namespace
 
-class TEST_CLI_GUIDE : public QObject
+class TEST_CLI_GUIDE : public CLI_TEST
 {
     Q_OBJECT
 
 private slots:
-    void a_device_that_is_gone_comes_back();
-    void a_device_that_was_changed_comes_back();
-    void a_device_is_passed_on();
+    void a_device_that_is_gone_comes_back()
+    {
+        QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
+        save_part("MYFLASH");
+        const QByteArray before = exported();
+        QVERIFY(fresh_manager()->delete_flash("MYFLASH", m_place->db_dir()));
+        run_sql(m_place->db_file(), "UPDATE history SET id = 17");
+        const QList<QStringList> blocks = commands_of("Get a deleted record back");
+        QCOMPARE(blocks.size(), 2);
+        QCOMPARE(blocks[0].size(), 2);
+
+        const TOOL_RUN history = run_line(blocks[0][0], at(""));
+        QVERIFY(history.out.contains("\n17 "));
+        const TOOL_RUN restore = run_line(blocks[0][1], at(""));
+        QCOMPARE(restore.err, QByteArray());
+        QCOMPARE(restore.exit_code, 0);
+        QCOMPARE(exported(), before);
+    }
+
+    void a_device_that_was_changed_comes_back()
+    {
+        QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
+        save_part("MYFLASH");
+        const QByteArray before = exported();
+        const QString file = exported_file("MYFLASH");
+        replace_in_file(file, "\"total_die\": 1", "\"total_die\": 2");
+        QCOMPARE(run_tool({"import", "--replace", file}).exit_code, 0);
+        run_sql(m_place->db_file(), "UPDATE history SET id = 17");
+        const QStringList lines = commands_of("Get a deleted record back").value(1);
+        QCOMPARE(lines.size(), 3);
+
+        const TOOL_RUN diff = run_line(lines[0], at(""));
+        QCOMPARE(diff.exit_code, 1);
+        QVERIFY(diff.out.contains("\n-  \"total_die\": 1,\n+  \"total_die\": 2,\n"));
+        QCOMPARE(run_line(lines[1], at("")).exit_code, 0);
+        QCOMPARE(exported(), before);
+        QCOMPARE(run_line(lines[2], at("")).exit_code, 0);
+        QCOMPARE(names(json(run_tool({"list", "--json"}))), (QStringList{"MYFLASH", "MYFLASH-before"}));
+    }
+
+    void a_device_is_passed_on()
+    {
+        QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
+        save_part("MYFLASH");
+        const QStringList lines = commands_of("Share a database").value(0);
+        QCOMPARE(lines.size(), 3);
+        QVERIFY(QDir(at("")).mkdir("shared"));
+
+        for (const QString& line : lines) {
+            const TOOL_RUN run = run_line(line, at(""));
+            QCOMPARE(run.err, QByteArray());
+            QCOMPARE(run.exit_code, 0);
+        }
+        QCOMPARE(exported("shared/"), exported());
+    }
 };
 
-void TEST_CLI_GUIDE::a_device_that_is_gone_comes_back()
-{
-    const GFPDB_PLACE place;
-    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(place.db_dir(), false));
-    save_part("MYFLASH");
-    const QByteArray before = exported(place.db_dir());
-    QVERIFY(fresh_manager()->delete_flash("MYFLASH", place.db_dir()));
-    run_sql(place.db_file(), "UPDATE history SET id = 17");
-    const QList<QStringList> blocks = commands_of("Get a deleted record back");
-    QCOMPARE(blocks.size(), 2);
-    QCOMPARE(blocks[0].size(), 2);
-
-    const TOOL_RUN history = run_line(blocks[0][0], q(place.path("")));
-    QVERIFY(history.out.contains("\n17 "));
-    const TOOL_RUN restore = run_line(blocks[0][1], q(place.path("")));
-    QCOMPARE(restore.err, QByteArray());
-    QCOMPARE(restore.exit_code, 0);
-    QCOMPARE(exported(place.db_dir()), before);
-}
-
-void TEST_CLI_GUIDE::a_device_that_was_changed_comes_back()
-{
-    const GFPDB_PLACE place;
-    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(place.db_dir(), false));
-    save_part("MYFLASH");
-    const QByteArray before = exported(place.db_dir());
-    const QString file = exported_file(place, "MYFLASH");
-    replace_in_file(file, "\"total_die\": 1", "\"total_die\": 2");
-    QCOMPARE(run_tool({"import", "--replace", file}).exit_code, 0);
-    run_sql(place.db_file(), "UPDATE history SET id = 17");
-    const QStringList lines = commands_of("Get a deleted record back").value(1);
-    QCOMPARE(lines.size(), 3);
-
-    const TOOL_RUN diff = run_line(lines[0], q(place.path("")));
-    QCOMPARE(diff.exit_code, 1);
-    QVERIFY(diff.out.contains("\n-  \"total_die\": 1,\n+  \"total_die\": 2,\n"));
-    QCOMPARE(run_line(lines[1], q(place.path(""))).exit_code, 0);
-    QCOMPARE(exported(place.db_dir()), before);
-    QCOMPARE(run_line(lines[2], q(place.path(""))).exit_code, 0);
-    QCOMPARE(names(json(run_tool({"list", "--json"}))), (QStringList{"MYFLASH", "MYFLASH-before"}));
-}
-
-void TEST_CLI_GUIDE::a_device_is_passed_on()
-{
-    const GFPDB_PLACE place;
-    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(place.db_dir(), false));
-    save_part("MYFLASH");
-    const QStringList lines = commands_of("Share a database").value(0);
-    QCOMPARE(lines.size(), 3);
-    QVERIFY(QDir(q(place.path(""))).mkdir("shared"));
-
-    for (const QString& line : lines) {
-        const TOOL_RUN run = run_line(line, q(place.path("")));
-        QCOMPARE(run.err, QByteArray());
-        QCOMPARE(run.exit_code, 0);
-    }
-    QCOMPARE(exported(place.path("shared/")), exported(place.db_dir()));
-}
-
 QTEST_GUILESS_MAIN(TEST_CLI_GUIDE)
+
 #include "test_cli_guide.moc"

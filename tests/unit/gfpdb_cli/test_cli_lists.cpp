@@ -13,145 +13,139 @@ class TEST_CLI_LISTS : public QObject
     Q_OBJECT
 
 private slots:
-    void a_list_has_a_line_for_each_device();
-    void a_list_for_a_spreadsheet_has_no_formula_data();
-    void a_list_for_a_spreadsheet_has_no_formula();
-    void a_list_is_read_again();
-    void odd_values_in_a_list_are_read_again();
-    void mistakes_in_a_list_are_reported_with_line_and_column_data();
-    void mistakes_in_a_list_are_reported_with_line_and_column();
+    void a_list_has_a_line_for_each_device()
+    {
+        CLI_RECORD plain;
+        plain.row.name = "A";
+        plain.row.family = 3;
+        plain.row.scheme = 7;
+        CLI_RECORD full;
+        full.row = make_row("B, \"best\"\r\n");
+        full.row.template_name = "T";
+        CLI_RECORD other = full;
+        other.is_template = true;
+
+        QCOMPARE(records_to_csv({plain, other, full}),
+                 std::string("name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
+                             "quad_io_dummy_clock,template_name,flow_template\n"
+                             "A,3,7,,,,,,,,\n"
+                             "\"B, \"\"best\"\"\r\n\",3,7,0xC2 0x20 0x19,1.8V,256Mb,2,8,10,T,a flow template\n"));
+    }
+
+    // For a spreadsheet formulas become texts; for an import every text stays as it is.
+    void a_list_for_a_spreadsheet_has_no_formula_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("is_formula");
+        for (const char* text : {"=1+1", "+1", "-1", "@SUM(A1)", " =1", "\t=1", "\r\n@x", "="})
+            QTest::newRow(text) << QString(text) << true;
+        for (const char* text : {"", " ", "1", "A=1", "'=1", "3.3V", "0xC2 -1", "\xC3\xA4"})
+            QTest::newRow(text) << QString(text) << false;
+    }
+
+    void a_list_for_a_spreadsheet_has_no_formula()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, is_formula);
+        CLI_RECORD record;
+        GFPDB_ROW& row = record.row;
+        for (std::string* value :
+             {&row.name, &row.device_id, &row.voltage, &row.density, &row.template_name, &row.flow_template})
+            *value = text.toStdString();
+        CLI_RECORD quoted = record;
+        GFPDB_ROW& quoted_row = quoted.row;
+        for (std::string* value : {&quoted_row.name, &quoted_row.device_id, &quoted_row.voltage, &quoted_row.density,
+                                   &quoted_row.template_name, &quoted_row.flow_template})
+            *value = is_formula ? "'" + *value : *value;
+
+        QCOMPARE(records_to_csv({record}, CSV_FOR::SPREADSHEET), records_to_csv({quoted}));
+    }
+
+    void a_list_is_read_again()
+    {
+        const GFPDB_PLACE place;
+        CLI_RECORD record;
+        record.row = make_row("B, \"best\"");
+        record.row.single_flows.clear();
+        record.row.quad_flows.clear();
+        record.row.quad_io_dummy_clock.reset();
+
+        const READ result = read_csv(records_to_csv({record}));
+
+        QCOMPARE(result.problems, QStringList());
+        QCOMPARE(result.records.size(), std::size_t(1));
+        QCOMPARE(text_of(result.records[0].row), text_of(record.row));
+        QCOMPARE(result.records[0].line, 2);
+        QCOMPARE(read_csv("scheme,name,density,family,device_id\r\n7,A,1Mb,3,C2\r\n").records.at(0).row.name,
+                 std::string("A"));
+    }
+
+    // Values that the rules refuse, as a directory can have them.
+    void odd_values_in_a_list_are_read_again()
+    {
+        const GFPDB_PLACE place;
+        CLI_RECORD record;
+        record.row.name = "A";
+        record.row.family = -1;
+        record.row.scheme = -1;
+        record.row.total_die = std::numeric_limits<int>::min();
+        record.row.quad_io_dummy_clock = std::numeric_limits<int>::max();
+        record.row.voltage = std::string("\xEF\xBB\xBF\0\r", 5);
+        record.row.flow_template = "end\r";
+
+        const READ result = read_csv(records_to_csv({record}), false);
+
+        QCOMPARE(result.problems, QStringList());
+        QCOMPARE(text_of(result.records.at(0).row), text_of(record.row));
+    }
+
+    void mistakes_in_a_list_are_reported_with_line_and_column_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QStringList>("problems");
+        const auto add = [](const char* text, const QStringList& problems) {
+            QTest::newRow(qPrintable(problems.first())) << QByteArray(text) << problems;
+        };
+        QTest::newRow("nothing") << QByteArray()
+                                 << QStringList{"1: name: The column is missing.", "1: family: The column is missing.",
+                                                "1: scheme: The column is missing."};
+        add("name,family\n", {"1: scheme: The column is missing."});
+        add("name,family,scheme,price\n",
+            {"1: price: The column is not known. Allowed: name, family, scheme, device_id, voltage, density, "
+             "total_die, "
+             "single_io_dummy_clock, quad_io_dummy_clock, template_name, flow_template."});
+        add("name,family,scheme,name\n", {"1: name: The column occurs twice."});
+        add("name,family,scheme,device_id\nA\n", {"2: : The row has 1 cell, the line of column names has 4."});
+        // Even where the cells are as many as the columns: the rows behind the quote would be lost without a word.
+        add("name,family,scheme,device_id\nA,3,7,\"C2\nB,3,7,C2\n",
+            {"2: : A quote that opens in this row is never closed."});
+        add("name,family,scheme,device_id\nA,3,7\n", {"2: : The row has 3 cells, the line of column names has 4."});
+        add("name,family,scheme,density,device_id\nA,3,7,1Mb,C2\nB,three,7,1Mb,C2\n",
+            {"3: family: A whole number or null was expected, but this is a text."});
+        add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,1.5\nB,3,7,1Mb,C2,007\n",
+            {"2: total_die: A whole number or null was expected, but this is 1.5.",
+             "3: total_die: A whole number or null was expected, but this is a text."});
+        add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,null\nB,3,7,1Mb,C2,true\n",
+            {"2: total_die: A whole number or null was expected, but this is a text.",
+             "3: total_die: A whole number or null was expected, but this is a text."});
+        add("name,family,scheme,density,device_id,flow_template\nA,3,7,1Mb,C2,x\nB,3,7,1Mb,C2,\xFF\xFE\n",
+            {"3: flow_template: The text is not UTF-8."});
+        add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,99\n",
+            {"2: total_die: The total die count 99 is out of range: 1 to 16 are allowed."});
+        add("name,family,scheme,density,device_id\n,3,7,1Mb,C2\nMX25L1606E,3,7,1Mb,C2\n",
+            {"2: name: The device name is empty: 1 to 64 characters are allowed.",
+             "3: name: There is a built-in device called \"MX25L1606E\": choose another name."});
+    }
+
+    void mistakes_in_a_list_are_reported_with_line_and_column()
+    {
+        const GFPDB_PLACE place;
+        QFETCH(QByteArray, text);
+        QFETCH(QStringList, problems);
+        QCOMPARE(read_csv(text.toStdString()).problems, problems);
+    }
 };
 
-void TEST_CLI_LISTS::a_list_has_a_line_for_each_device()
-{
-    CLI_RECORD plain;
-    plain.row.name = "A";
-    plain.row.family = 3;
-    plain.row.scheme = 7;
-    CLI_RECORD full;
-    full.row = make_row("B, \"best\"\r\n");
-    full.row.template_name = "T";
-    CLI_RECORD other = full;
-    other.is_template = true;
-
-    QCOMPARE(records_to_csv({plain, other, full}),
-             std::string("name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
-                         "quad_io_dummy_clock,template_name,flow_template\n"
-                         "A,3,7,,,,,,,,\n"
-                         "\"B, \"\"best\"\"\r\n\",3,7,0xC2 0x20 0x19,1.8V,256Mb,2,8,10,T,a flow template\n"));
-}
-
-// For a spreadsheet formulas become texts; for an import every text stays as it is.
-void TEST_CLI_LISTS::a_list_for_a_spreadsheet_has_no_formula_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("is_formula");
-    for (const char* text : {"=1+1", "+1", "-1", "@SUM(A1)", " =1", "\t=1", "\r\n@x", "="})
-        QTest::newRow(text) << QString(text) << true;
-    for (const char* text : {"", " ", "1", "A=1", "'=1", "3.3V", "0xC2 -1", "\xC3\xA4"})
-        QTest::newRow(text) << QString(text) << false;
-}
-
-void TEST_CLI_LISTS::a_list_for_a_spreadsheet_has_no_formula()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, is_formula);
-    CLI_RECORD record;
-    GFPDB_ROW& row = record.row;
-    for (std::string* value :
-         {&row.name, &row.device_id, &row.voltage, &row.density, &row.template_name, &row.flow_template})
-        *value = text.toStdString();
-    CLI_RECORD quoted = record;
-    GFPDB_ROW& quoted_row = quoted.row;
-    for (std::string* value : {&quoted_row.name, &quoted_row.device_id, &quoted_row.voltage, &quoted_row.density,
-                               &quoted_row.template_name, &quoted_row.flow_template})
-        *value = is_formula ? "'" + *value : *value;
-
-    QCOMPARE(records_to_csv({record}, CSV_FOR::SPREADSHEET), records_to_csv({quoted}));
-}
-
-void TEST_CLI_LISTS::a_list_is_read_again()
-{
-    const GFPDB_PLACE place;
-    CLI_RECORD record;
-    record.row = make_row("B, \"best\"");
-    record.row.single_flows.clear();
-    record.row.quad_flows.clear();
-    record.row.quad_io_dummy_clock.reset();
-
-    const READ result = read_csv(records_to_csv({record}));
-
-    QCOMPARE(result.problems, QStringList());
-    QCOMPARE(result.records.size(), std::size_t(1));
-    QCOMPARE(text_of(result.records[0].row), text_of(record.row));
-    QCOMPARE(result.records[0].line, 2);
-    QCOMPARE(read_csv("scheme,name,density,family,device_id\r\n7,A,1Mb,3,C2\r\n").records.at(0).row.name,
-             std::string("A"));
-}
-
-// Values that the rules refuse, as a directory can have them.
-void TEST_CLI_LISTS::odd_values_in_a_list_are_read_again()
-{
-    const GFPDB_PLACE place;
-    CLI_RECORD record;
-    record.row.name = "A";
-    record.row.family = -1;
-    record.row.scheme = -1;
-    record.row.total_die = std::numeric_limits<int>::min();
-    record.row.quad_io_dummy_clock = std::numeric_limits<int>::max();
-    record.row.voltage = std::string("\xEF\xBB\xBF\0\r", 5);
-    record.row.flow_template = "end\r";
-
-    const READ result = read_csv(records_to_csv({record}), false);
-
-    QCOMPARE(result.problems, QStringList());
-    QCOMPARE(text_of(result.records.at(0).row), text_of(record.row));
-}
-
-void TEST_CLI_LISTS::mistakes_in_a_list_are_reported_with_line_and_column_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QStringList>("problems");
-    const auto add = [](const char* text, const QStringList& problems) {
-        QTest::newRow(qPrintable(problems.first())) << QByteArray(text) << problems;
-    };
-    QTest::newRow("nothing") << QByteArray()
-                             << QStringList{"1: name: The column is missing.", "1: family: The column is missing.",
-                                            "1: scheme: The column is missing."};
-    add("name,family\n", {"1: scheme: The column is missing."});
-    add("name,family,scheme,price\n",
-        {"1: price: The column is not known. Allowed: name, family, scheme, device_id, voltage, density, total_die, "
-         "single_io_dummy_clock, quad_io_dummy_clock, template_name, flow_template."});
-    add("name,family,scheme,name\n", {"1: name: The column occurs twice."});
-    add("name,family,scheme,device_id\nA\n", {"2: : The row has 1 cell, the line of column names has 4."});
-    // Even where the cells are as many as the columns: the rows behind the quote would be lost without a word.
-    add("name,family,scheme,device_id\nA,3,7,\"C2\nB,3,7,C2\n",
-        {"2: : A quote that opens in this row is never closed."});
-    add("name,family,scheme,device_id\nA,3,7\n", {"2: : The row has 3 cells, the line of column names has 4."});
-    add("name,family,scheme,density,device_id\nA,3,7,1Mb,C2\nB,three,7,1Mb,C2\n",
-        {"3: family: A whole number or null was expected, but this is a text."});
-    add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,1.5\nB,3,7,1Mb,C2,007\n",
-        {"2: total_die: A whole number or null was expected, but this is 1.5.",
-         "3: total_die: A whole number or null was expected, but this is a text."});
-    add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,null\nB,3,7,1Mb,C2,true\n",
-        {"2: total_die: A whole number or null was expected, but this is a text.",
-         "3: total_die: A whole number or null was expected, but this is a text."});
-    add("name,family,scheme,density,device_id,flow_template\nA,3,7,1Mb,C2,x\nB,3,7,1Mb,C2,\xFF\xFE\n",
-        {"3: flow_template: The text is not UTF-8."});
-    add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,99\n",
-        {"2: total_die: The total die count 99 is out of range: 1 to 16 are allowed."});
-    add("name,family,scheme,density,device_id\n,3,7,1Mb,C2\nMX25L1606E,3,7,1Mb,C2\n",
-        {"2: name: The device name is empty: 1 to 64 characters are allowed.",
-         "3: name: There is a built-in device called \"MX25L1606E\": choose another name."});
-}
-
-void TEST_CLI_LISTS::mistakes_in_a_list_are_reported_with_line_and_column()
-{
-    const GFPDB_PLACE place;
-    QFETCH(QByteArray, text);
-    QFETCH(QStringList, problems);
-    QCOMPARE(read_csv(text.toStdString()).problems, problems);
-}
-
 QTEST_GUILESS_MAIN(TEST_CLI_LISTS)
+
 #include "test_cli_lists.moc"

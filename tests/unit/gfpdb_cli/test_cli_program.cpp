@@ -2,6 +2,7 @@
 
 // The real program: its help, its arguments, its directory, its terminal, its man page and completion.
 #include "cli_command.h"
+#include "test_rows.h"
 
 // The constants of the tests have names that enumerators of the library have as well.
 #include "cli_test.h"
@@ -43,355 +44,328 @@ QByteArray run_on_terminal(const QStringList& arguments)
 
 } // namespace
 
-class TEST_CLI_PROGRAM : public QObject
+class TEST_CLI_PROGRAM : public CLI_TEST
 {
     Q_OBJECT
 
 private slots:
-    void the_exit_codes_are_as_documented();
-    void help_lists_every_command();
-    void every_command_explains_itself_data();
-    void every_command_explains_itself();
-    void wrong_arguments_are_refused_data();
-    void wrong_arguments_are_refused();
-    void the_directory_comes_from_the_settings_or_the_option();
-    void names_that_are_not_ascii_work_in_any_locale();
+    void the_exit_codes_are_as_documented()
+    {
+        QCOMPARE(int(CLI_EXIT_OK), 0);
+        QCOMPARE(int(CLI_EXIT_DIFFERENT), 1);
+        QCOMPARE(int(CLI_EXIT_USAGE), 2);
+        QCOMPARE(int(CLI_EXIT_NOT_FOUND), 3);
+        QCOMPARE(int(CLI_EXIT_BAD_FILE), 4);
+        QCOMPARE(int(CLI_EXIT_DATABASE), 5);
+    }
 
-    void no_control_character_reaches_a_terminal_data();
-    void no_control_character_reaches_a_terminal();
-    void a_catalogue_that_cannot_be_read_is_an_error();
-    void progress_is_shown_on_a_terminal();
-    void output_that_cannot_be_written_is_an_error();
-    void the_man_page_has_every_command_and_option();
-    void completion_knows_commands_options_and_names();
+    void help_lists_every_command()
+    {
+        for (const QStringList& arguments : {QStringList{"--help"}, QStringList{"-h"}, QStringList{"help"}}) {
+            const TOOL_RUN run = run_tool(arguments);
+            QCOMPARE(run.exit_code, 0);
+            QCOMPARE(run.err, QByteArray());
+            QCOMPARE(run.out,
+                     QByteArray("Usage: gfpdb COMMAND [options] [arguments]\n\n"
+                                "Manages the flash database of the programmer: its devices and flow templates.\n\n"
+                                "Commands:\n"
+                                "  list      List devices, templates and built-in devices\n"
+                                "  show      Show a record with its flows\n"
+                                "  export    Write records to a file\n"
+                                "  import    Read records from files, all or none\n"
+                                "  check     Check every record and the database\n"
+                                "  history   List former states of records\n"
+                                "  restore   Restore a former state\n"
+                                "  diff      Compare two records\n\n"
+                                "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
+                                "version.\n"));
+        }
+        QVERIFY(QString(run_tool({"--version"}).out).contains(QRegularExpression("^gfpdb \\d+\\.\\d+\\.\\d+\n$")));
+    }
+
+    void every_command_explains_itself_data()
+    {
+        rows<QString, QStringList>(
+            {{"list", "[options]\nList devices, templates and built-in devices.\n",
+              QStringList{"--builtin", "--all", "--filter", "--csv", "--spreadsheet", "--json", "--family",
+                          "--scheme"}},
+             {"show", "[options] NAME\nShow a record with its flows.\n",
+              QStringList{"--variant", "--json", "--family", "--scheme"}},
+             {"export", "[options] [NAME...]\nWrite records to a file.\n",
+              QStringList{"-o, --output", "--csv", "--spreadsheet", "--family", "--scheme"}},
+             {"import", "[options] FILE...\nRead records from files, all or none.\n",
+              QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme"}},
+             {"check", "[options]\nCheck every record and the database.\n", QStringList{"--rebuild-keys", "--json"}},
+             {"history", "[options] [NAME]\nList former states of records.\n",
+              QStringList{"--prune", "--older-than", "--keep", "--force", "--json", "--family", "--scheme"}},
+             {"restore", "[options] ID\nRestore a former state.\n", QStringList{"--replace", "--as"}},
+             {"diff", "[options] LEFT RIGHT\nCompare two records.\n", QStringList{"--json", "--family", "--scheme"}}});
+    }
+
+    void every_command_explains_itself()
+    {
+        const auto [usage, options] = row<QString, QStringList>();
+        const QString command = QTest::currentDataTag();
+        for (const QStringList& arguments : {QStringList{command, "--help"}, QStringList{"help", command}}) {
+            const TOOL_RUN run = run_tool(arguments);
+            QCOMPARE(run.exit_code, 0);
+            QVERIFY2(run.out.startsWith("Usage: gfpdb " + command.toUtf8() + " " + usage.toUtf8()),
+                     run.out.constData());
+            for (const QString& option : options + QStringList{"-d, --dir", "--verbose", "-h, --help"})
+                QVERIFY2(run.out.contains("\n  " + option.toUtf8() + " "), qPrintable(option));
+            QCOMPARE(run.out.count("\n  -"), options.size() + 3);
+        }
+    }
+
+    void wrong_arguments_are_refused_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("error");
+        const auto add = [](const QStringList& arguments, const char* error) {
+            QTest::newRow(qPrintable("gfpdb " + arguments.join(' '))) << arguments << QByteArray(error);
+        };
+        add({}, "gfpdb: A command is missing.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+        add({"frob"}, "gfpdb: \"frob\" is not a gfpdb command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+        add({"help", "frob"}, "gfpdb: \"frob\" is not a gfpdb command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
+        add({"list", "--frob"}, "gfpdb: Unknown option 'frob'.\n");
+        add({"list", "x"}, "gfpdb: Unexpected argument \"x\": gfpdb list\n");
+        add({"show"}, "gfpdb: An argument is missing: gfpdb show NAME\n");
+        add({"show", "a", "b"}, "gfpdb: Unexpected argument \"b\": gfpdb show NAME\n");
+        add({"show", "a", "--variant", "triple"},
+            "gfpdb: \"triple\" is not a flow variant. Allowed: single, quad, both.\n");
+        add({"import"}, "gfpdb: An argument is missing: gfpdb import FILE...\n");
+        add({"diff", "a"}, "gfpdb: An argument is missing: gfpdb diff LEFT RIGHT\n");
+        add({"history", "a", "b"}, "gfpdb: Unexpected argument \"b\": gfpdb history [NAME]\n");
+        add({"restore", "x"}, "gfpdb: \"x\" is not a number of the history.\n");
+        add({"list", "--dir", ""}, "gfpdb: --dir is empty.\n");
+        add({"list", "-d", ""}, "gfpdb: --dir is empty.\n");
+        add({"export", "-o", ""}, "gfpdb: --output is empty.\n");
+        add({"show", ""}, "gfpdb: An argument is empty: gfpdb show NAME\n");
+        add({"export", "a", ""}, "gfpdb: An argument is empty: gfpdb export [NAME...]\n");
+        add({"diff", "", "b"}, "gfpdb: An argument is empty: gfpdb diff LEFT RIGHT\n");
+        add({"list", "--csv", "--json"}, "gfpdb: --csv and --json cannot be used together.\n");
+        for (const char* number : {"0", "73", "x", ""})
+            add({"list", "--family", number}, "gfpdb: --family needs a whole number from 1 to 72.\n");
+        add({"history", "--prune"}, "gfpdb: --prune needs --older-than or --keep.\n");
+        for (const QStringList& options :
+             {QStringList{"--keep", "1"}, QStringList{"--older-than", "1"}, QStringList{"--force"}})
+            add(QStringList{"history"} + options, "gfpdb: --older-than, --keep and --force need --prune.\n");
+        add({"history", "--prune", "--keep", "-1"}, "gfpdb: --keep needs a whole number from 0 to 2147483647.\n");
+        add({"history", "--prune", "--older-than", "36501"},
+            "gfpdb: --older-than needs a whole number from 0 to 36500.\n");
+        for (const char* number : {"-1", "25", "seven"})
+            add({"list", "--scheme", number}, "gfpdb: --scheme needs a whole number from 0 to 24.\n");
+    }
+
+    void wrong_arguments_are_refused()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, error);
+        const TOOL_RUN run = run_tool(arguments);
+        QCOMPARE(run.err, error);
+        QCOMPARE(run.out, QByteArray());
+        QCOMPARE(run.exit_code, 2);
+    }
+
+    void the_directory_comes_from_the_settings_or_the_option()
+    {
+        make_dir(m_place->path("other/"));
+        QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
+        save_part("Mine");
+
+        QCOMPARE(names(json(run_tool({"list", "--json"}))), QStringList{"Mine"});
+        QCOMPARE(names(json(run_tool({"list", "--json", "--dir", at("other")}))), QStringList());
+        QCOMPARE(names(json(tool({"list", "--json"}))), QStringList{"Mine"});
+
+        const TOOL_RUN run = run_tool({"list", "--dir", at("missing")});
+        QCOMPARE(run.exit_code, 5);
+        QCOMPARE(run.err, QByteArray("gfpdb: The database directory ") +
+                              QByteArray::fromStdString(m_place->path("missing/")) + " does not exist.\n");
+    }
+
+    void names_that_are_not_ascii_work_in_any_locale()
+    {
+        const std::string directory = m_place->path("\xC3\xBC'; \xE2\x82\xAC/");
+        make_dir(directory);
+        save_part("\xC3\x84 \xF0\x9F\x98\x80");
+        const TOOL_RUN copy = tool({"export"});
+        const QByteArray former = qgetenv("LC_ALL");
+        for (const char* locale : {"C", "C.UTF-8"}) {
+            qputenv("LC_ALL", locale);
+            QCOMPARE(run_tool({"import", "-d", q(directory), "-"}, copy.out).exit_code, 0);
+            const TOOL_RUN run = run_tool({"show", "-d", q(directory), q("\xC3\xA4 \xF0\x9F\x98\x80"), "--json"});
+            QCOMPARE(run.exit_code, 0);
+            QCOMPARE(json(run).object().value("name").toString(), q("\xC3\x84 \xF0\x9F\x98\x80"));
+        }
+        qputenv("LC_ALL", former);
+        QVERIFY(QFile::exists(q(directory) + "gfpdb.sqlite"));
+    }
+
+    // What a name could do to a terminal, it must not do; a file gets every byte.
+    void no_control_character_reaches_a_terminal_data()
+    {
+        rows<QStringList>({{"list", QStringList{"list"}},
+                           {"list --json", QStringList{"list", "--json"}},
+                           {"list --csv", QStringList{"list", "--csv"}},
+                           {"show", QStringList{"show", "A"}},
+                           {"export", QStringList{"export"}},
+                           {"check", QStringList{"check"}},
+                           {"history", QStringList{"history"}},
+                           {"diff", QStringList{"diff", "A", "B\x1B]0;\x07"}},
+                           {"import", QStringList{"import", "all.json"}}});
+    }
+
+    void no_control_character_reaches_a_terminal()
+    {
+        QStringList arguments = row<QStringList>();
+        const std::string directory = m_place->path("a\x1B[31mb\xC2\x9B/");
+        make_dir(directory);
+        GFPDB_MGR::set_db_custom_dir(directory);
+        save_part("A");
+        save_part("B");
+        save_part("B");
+        const std::string odd = "x\x1B[2J\xC2\x9B' || char(13)";
+        run_sql(directory + "gfpdb.sqlite", "UPDATE history SET flow_template = '" + odd);
+        run_sql(directory + "gfpdb.sqlite", "UPDATE device SET flow_template = '" + odd);
+        run_sql(directory + "gfpdb.sqlite",
+                "UPDATE device SET name = 'B\x1B]0;\x07', name_key = 'b\x1B]0;\x07' WHERE name = 'B'");
+        const QString file = at("all.json");
+        QCOMPARE(run_tool({"export", "-d", q(directory), "-o", file}).exit_code, 0);
+        arguments.replaceInStrings(QRegularExpression("^all.json$"), file);
+
+        QByteArray shown = run_on_terminal(arguments + QStringList{"-d", q(directory)});
+
+        QVERIFY(!shown.isEmpty());
+        shown.replace("\r\n", "\n");
+        for (const char* progress : {"\rExporting ", "\rChecking "})
+            shown.replace(progress, "");
+        for (const char* control : {"\x1B", "\x07", "\r", "\xC2\x9B"})
+            QVERIFY2(!shown.contains(control), shown.toPercentEncoding(" \n\"{}[]:,").constData());
+        const QByteArray list = run_tool({"list", "--csv", "-d", q(directory)}).out;
+        QVERIFY(list.contains("x\x1B[2J\xC2\x9B\r"));
+    }
+
+    void a_catalogue_that_cannot_be_read_is_an_error()
+    {
+        const QString pipe = at("pipe");
+        QCOMPARE(::mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+        for (const QString& path : {QString("/no/such.csv"), QString("/dev/zero"), pipe}) {
+            qputenv("GFPDB_CATALOGUE", path.toLocal8Bit());
+            for (const QStringList& arguments :
+                 {QStringList{"list"}, QStringList{"show", "x"}, QStringList{"export"}, QStringList{"import", "x"},
+                  QStringList{"check"}, QStringList{"history"}, QStringList{"restore", "1"},
+                  QStringList{"diff", "x", "y"}}) {
+                const TOOL_RUN run = run_tool(arguments);
+                QCOMPARE(run.exit_code, 4);
+                QVERIFY2(
+                    run.err.startsWith("gfpdb: GFPDB_CATALOGUE: The catalogue " + path.toUtf8() + " cannot be read: "),
+                    run.err.constData());
+                QCOMPARE(run.err.count('\n'), 1);
+                QCOMPARE(run.out, QByteArray());
+            }
+            QCOMPARE(run_tool({"list", "--help"}).exit_code, 0);
+        }
+        qunsetenv("GFPDB_CATALOGUE");
+    }
+
+    void progress_is_shown_on_a_terminal()
+    {
+        QByteArray list = "name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
+                          "quad_io_dummy_clock,flow_template\n";
+        for (int number = 1; number <= 400; ++number)
+            list += "part " + QByteArray::number(number) + ",3,7,C2 20 19,3.3V,8Mb,1,8,6,No QE bit\n";
+        write_file(m_place->path("list.csv"), list.toStdString());
+        const QString directory = q(m_place->db_dir());
+
+        const QByteArray imported = run_on_terminal({"import", at("list.csv"), "-d", directory});
+        QVERIFY2(imported.contains("\rImporting 4 of 400\rImporting 8 of 400"), imported.constData());
+        QVERIFY2(imported.contains("\rImporting 400 of 400\r\nImported 400 new, "), imported.constData());
+        QCOMPARE(imported.count("Importing "), 101);
+        QVERIFY(run_on_terminal({"check", "-d", directory}).contains("\rChecking 400 of 400\r\n"));
+        QVERIFY(
+            run_on_terminal({"export", "-d", directory, "-o", at("all.json")}).contains("\rExporting 400 of 400\r\n"));
+        QCOMPARE(tool({"import", at("all.json")}).err, QByteArray());
+        QCOMPARE(tool({"check"}).err, QByteArray());
+    }
+
+    void output_that_cannot_be_written_is_an_error()
+    {
+        QProcess process;
+        process.setStandardOutputFile("/dev/full");
+        process.start(GFPDB_PROGRAM, {"list", "--builtin"});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 4);
+        QCOMPARE(process.readAllStandardError(), QByteArray("gfpdb: The output cannot be written.\n"));
+    }
+
+    void the_man_page_has_every_command_and_option()
+    {
+        const QByteArray page = text_of_file(QString(GFPDB_CLI_SOURCE) + "/gfpdb.1");
+        QByteArray plain = page;
+        plain.replace("\\-", "-");
+        for (const char* command : {"list", "show", "export", "import", "check", "history", "restore", "diff"}) {
+            QVERIFY2(plain.contains(QByteArray("\n.BR ") + command + " ") ||
+                         plain.contains(QByteArray("\n.BI ") + command),
+                     command);
+            const QString help = run_tool({command, "--help"}).out;
+            QRegularExpressionMatchIterator options = QRegularExpression("--[a-z-]+").globalMatch(help);
+            while (options.hasNext()) {
+                const QByteArray option = options.next().captured().toUtf8();
+                QVERIFY2(plain.contains(option) || option == "--output", option.constData());
+            }
+        }
+        for (int code = 0; code <= 5; ++code)
+            QVERIFY(plain.contains(QByteArray(".TP\n.B ") + QByteArray::number(code) + "\n"));
+        QVERIFY(plain.contains(run_tool({"--version"}).out.trimmed()));
+    }
+
+    void completion_knows_commands_options_and_names()
+    {
+        save_part("My part");
+        save_part("My other");
+        const auto completed = [this](const QStringList& words) {
+            QStringList quoted;
+            for (const QString& word : words)
+                quoted += "'" + word + "'";
+            const QString script =
+                QString("source '%1/gfpdb.bash'; COMP_WORDS=('%2' %3); COMP_CWORD=%4; _gfpdb; printf '%s\\n' "
+                        "\"${COMPREPLY[@]}\"")
+                    .arg(GFPDB_CLI_SOURCE, GFPDB_PROGRAM, quoted.join(' '))
+                    .arg(words.size());
+            QProcess bash;
+            bash.setWorkingDirectory(at(""));
+            bash.start("bash", {"--norc", "-c", script});
+            bash.waitForFinished();
+            QStringList lines = QString(bash.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+            lines.sort();
+            return lines + QString(bash.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
+        };
+        const QString directory = q(m_place->db_dir());
+
+        QCOMPARE(completed({"re"}), QStringList{"restore"});
+        QCOMPARE(completed({""}).size(), 11);
+        QCOMPARE(completed({"list", "--f"}), (QStringList{"--family", "--filter"}));
+        QCOMPARE(completed({"import", "--dr"}), QStringList{"--dry-run"});
+        QCOMPARE(completed({"show", "--variant", "q"}), QStringList{"quad"});
+        QCOMPARE(completed({"show", "-d", directory, "My"}), (QStringList{"My\\ other", "My\\ part"}));
+        QVERIFY(completed({"export", "-d", directory, "MX25L256"}).contains("MX25L25645G"));
+        QCOMPARE(completed({"help", "he"}), QStringList{"help"});
+        write_file(m_place->path("a file.json"), "");
+        QCOMPARE(completed({"import", "a"}), QStringList{"a file.json"});
+        QVERIFY(completed({"diff", "-d", directory, "a"}).contains("a file.json"));
+        // Every option that the program has is offered.
+        for (const char* command : {"list", "show", "export", "import", "check", "history", "restore", "diff"}) {
+            const QStringList offered = completed({command, "--"});
+            const QString help = run_tool({command, "--help"}).out;
+            QRegularExpressionMatchIterator options = QRegularExpression("\n  (?:-., )?(--[a-z-]+)").globalMatch(help);
+            while (options.hasNext()) {
+                const QString option = options.next().captured(1);
+                QVERIFY2(offered.contains(option), qPrintable(command + option));
+            }
+        }
+    }
 };
 
-void TEST_CLI_PROGRAM::the_exit_codes_are_as_documented()
-{
-    QCOMPARE(int(CLI_EXIT_OK), 0);
-    QCOMPARE(int(CLI_EXIT_DIFFERENT), 1);
-    QCOMPARE(int(CLI_EXIT_USAGE), 2);
-    QCOMPARE(int(CLI_EXIT_NOT_FOUND), 3);
-    QCOMPARE(int(CLI_EXIT_BAD_FILE), 4);
-    QCOMPARE(int(CLI_EXIT_DATABASE), 5);
-}
-
-void TEST_CLI_PROGRAM::help_lists_every_command()
-{
-    const GFPDB_PLACE place;
-    for (const QStringList& arguments : {QStringList{"--help"}, QStringList{"-h"}, QStringList{"help"}}) {
-        const TOOL_RUN run = run_tool(arguments);
-        QCOMPARE(run.exit_code, 0);
-        QCOMPARE(run.err, QByteArray());
-        QCOMPARE(run.out, QByteArray("Usage: gfpdb COMMAND [options] [arguments]\n\n"
-                                     "Manages the flash database of the programmer: its devices and flow templates.\n\n"
-                                     "Commands:\n"
-                                     "  list      List devices, templates and built-in devices\n"
-                                     "  show      Show a record with its flows\n"
-                                     "  export    Write records to a file\n"
-                                     "  import    Read records from files, all or none\n"
-                                     "  check     Check every record and the database\n"
-                                     "  history   List former states of records\n"
-                                     "  restore   Restore a former state\n"
-                                     "  diff      Compare two records\n\n"
-                                     "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
-                                     "version.\n"));
-    }
-    QVERIFY(QString(run_tool({"--version"}).out).contains(QRegularExpression("^gfpdb \\d+\\.\\d+\\.\\d+\n$")));
-}
-
-void TEST_CLI_PROGRAM::every_command_explains_itself_data()
-{
-    QTest::addColumn<QString>("usage");
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("list") << "[options]\nList devices, templates and built-in devices.\n"
-                          << QStringList{"--builtin",     "--all",  "--filter", "--csv",
-                                         "--spreadsheet", "--json", "--family", "--scheme"};
-    QTest::newRow("show") << "[options] NAME\nShow a record with its flows.\n"
-                          << QStringList{"--variant", "--json", "--family", "--scheme"};
-    QTest::newRow("export") << "[options] [NAME...]\nWrite records to a file.\n"
-                            << QStringList{"-o, --output", "--csv", "--spreadsheet", "--family", "--scheme"};
-    QTest::newRow("import") << "[options] FILE...\nRead records from files, all or none.\n"
-                            << QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme"};
-    QTest::newRow("check") << "[options]\nCheck every record and the database.\n"
-                           << QStringList{"--rebuild-keys", "--json"};
-    QTest::newRow("history") << "[options] [NAME]\nList former states of records.\n"
-                             << QStringList{"--prune", "--older-than", "--keep",  "--force",
-                                            "--json",  "--family",     "--scheme"};
-    QTest::newRow("restore") << "[options] ID\nRestore a former state.\n" << QStringList{"--replace", "--as"};
-    QTest::newRow("diff") << "[options] LEFT RIGHT\nCompare two records.\n"
-                          << QStringList{"--json", "--family", "--scheme"};
-}
-
-void TEST_CLI_PROGRAM::every_command_explains_itself()
-{
-    const GFPDB_PLACE place;
-    QFETCH(QString, usage);
-    QFETCH(QStringList, options);
-    const QString command = QTest::currentDataTag();
-    for (const QStringList& arguments : {QStringList{command, "--help"}, QStringList{"help", command}}) {
-        const TOOL_RUN run = run_tool(arguments);
-        QCOMPARE(run.exit_code, 0);
-        QVERIFY2(run.out.startsWith("Usage: gfpdb " + command.toUtf8() + " " + usage.toUtf8()), run.out.constData());
-        for (const QString& option : options + QStringList{"-d, --dir", "--verbose", "-h, --help"})
-            QVERIFY2(run.out.contains("\n  " + option.toUtf8() + " "), qPrintable(option));
-        QCOMPARE(run.out.count("\n  -"), options.size() + 3);
-    }
-}
-
-void TEST_CLI_PROGRAM::wrong_arguments_are_refused_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("error");
-    const auto add = [](const QStringList& arguments, const char* error) {
-        QTest::newRow(qPrintable("gfpdb " + arguments.join(' '))) << arguments << QByteArray(error);
-    };
-    add({}, "gfpdb: A command is missing.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
-    add({"frob"}, "gfpdb: \"frob\" is not a gfpdb command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
-    add({"help", "frob"}, "gfpdb: \"frob\" is not a gfpdb command.\ngfpdb: \"gfpdb --help\" lists the commands.\n");
-    add({"list", "--frob"}, "gfpdb: Unknown option 'frob'.\n");
-    add({"list", "x"}, "gfpdb: Unexpected argument \"x\": gfpdb list\n");
-    add({"show"}, "gfpdb: An argument is missing: gfpdb show NAME\n");
-    add({"show", "a", "b"}, "gfpdb: Unexpected argument \"b\": gfpdb show NAME\n");
-    add({"show", "a", "--variant", "triple"},
-        "gfpdb: \"triple\" is not a flow variant. Allowed: single, quad, both.\n");
-    add({"import"}, "gfpdb: An argument is missing: gfpdb import FILE...\n");
-    add({"diff", "a"}, "gfpdb: An argument is missing: gfpdb diff LEFT RIGHT\n");
-    add({"history", "a", "b"}, "gfpdb: Unexpected argument \"b\": gfpdb history [NAME]\n");
-    add({"restore", "x"}, "gfpdb: \"x\" is not a number of the history.\n");
-    add({"list", "--dir", ""}, "gfpdb: --dir is empty.\n");
-    add({"list", "-d", ""}, "gfpdb: --dir is empty.\n");
-    add({"export", "-o", ""}, "gfpdb: --output is empty.\n");
-    add({"show", ""}, "gfpdb: An argument is empty: gfpdb show NAME\n");
-    add({"export", "a", ""}, "gfpdb: An argument is empty: gfpdb export [NAME...]\n");
-    add({"diff", "", "b"}, "gfpdb: An argument is empty: gfpdb diff LEFT RIGHT\n");
-    add({"list", "--csv", "--json"}, "gfpdb: --csv and --json cannot be used together.\n");
-    for (const char* number : {"0", "73", "x", ""})
-        add({"list", "--family", number}, "gfpdb: --family needs a whole number from 1 to 72.\n");
-    add({"history", "--prune"}, "gfpdb: --prune needs --older-than or --keep.\n");
-    for (const QStringList& options :
-         {QStringList{"--keep", "1"}, QStringList{"--older-than", "1"}, QStringList{"--force"}})
-        add(QStringList{"history"} + options, "gfpdb: --older-than, --keep and --force need --prune.\n");
-    add({"history", "--prune", "--keep", "-1"}, "gfpdb: --keep needs a whole number from 0 to 2147483647.\n");
-    add({"history", "--prune", "--older-than", "36501"}, "gfpdb: --older-than needs a whole number from 0 to 36500.\n");
-    for (const char* number : {"-1", "25", "seven"})
-        add({"list", "--scheme", number}, "gfpdb: --scheme needs a whole number from 0 to 24.\n");
-}
-
-void TEST_CLI_PROGRAM::wrong_arguments_are_refused()
-{
-    const GFPDB_PLACE place;
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, error);
-    const TOOL_RUN run = run_tool(arguments);
-    QCOMPARE(run.err, error);
-    QCOMPARE(run.out, QByteArray());
-    QCOMPARE(run.exit_code, 2);
-}
-
-void TEST_CLI_PROGRAM::the_directory_comes_from_the_settings_or_the_option()
-{
-    const GFPDB_PLACE place;
-    make_dir(place.path("other/"));
-    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(place.db_dir(), false));
-    save_part("Mine");
-
-    QCOMPARE(names(json(run_tool({"list", "--json"}))), QStringList{"Mine"});
-    QCOMPARE(names(json(run_tool({"list", "--json", "--dir", q(place.path("other"))}))), QStringList());
-    QCOMPARE(names(json(run_tool({"list", "--json", "-d", q(place.db_dir())}))), QStringList{"Mine"});
-
-    const TOOL_RUN run = run_tool({"list", "--dir", q(place.path("missing"))});
-    QCOMPARE(run.exit_code, 5);
-    QCOMPARE(run.err, QByteArray("gfpdb: The database directory ") + QByteArray::fromStdString(place.path("missing/")) +
-                          " does not exist.\n");
-}
-
-void TEST_CLI_PROGRAM::names_that_are_not_ascii_work_in_any_locale()
-{
-    const GFPDB_PLACE place;
-    const std::string directory = place.path("\xC3\xBC'; \xE2\x82\xAC/");
-    make_dir(directory);
-    save_part("\xC3\x84 \xF0\x9F\x98\x80");
-    const TOOL_RUN copy = run_tool({"export", "-d", q(place.db_dir())});
-    const QByteArray former = qgetenv("LC_ALL");
-    for (const char* locale : {"C", "C.UTF-8"}) {
-        qputenv("LC_ALL", locale);
-        QCOMPARE(run_tool({"import", "-d", q(directory), "-"}, copy.out).exit_code, 0);
-        const TOOL_RUN run = run_tool({"show", "-d", q(directory), q("\xC3\xA4 \xF0\x9F\x98\x80"), "--json"});
-        QCOMPARE(run.exit_code, 0);
-        QCOMPARE(json(run).object().value("name").toString(), q("\xC3\x84 \xF0\x9F\x98\x80"));
-    }
-    qputenv("LC_ALL", former);
-    QVERIFY(QFile::exists(q(directory) + "gfpdb.sqlite"));
-}
-
-// What a name could do to a terminal, it must not do; a file gets every byte.
-void TEST_CLI_PROGRAM::no_control_character_reaches_a_terminal_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("list") << QStringList{"list"};
-    QTest::newRow("list --json") << QStringList{"list", "--json"};
-    QTest::newRow("list --csv") << QStringList{"list", "--csv"};
-    QTest::newRow("show") << QStringList{"show", "A"};
-    QTest::newRow("export") << QStringList{"export"};
-    QTest::newRow("check") << QStringList{"check"};
-    QTest::newRow("history") << QStringList{"history"};
-    QTest::newRow("diff") << QStringList{"diff", "A", "B\x1B]0;\x07"};
-    QTest::newRow("import") << QStringList{"import", "all.json"};
-}
-
-void TEST_CLI_PROGRAM::no_control_character_reaches_a_terminal()
-{
-    const GFPDB_PLACE place;
-    QFETCH(QStringList, arguments);
-    const std::string directory = place.path("a\x1B[31mb\xC2\x9B/");
-    make_dir(directory);
-    GFPDB_MGR::set_db_custom_dir(directory);
-    save_part("A");
-    save_part("B");
-    save_part("B");
-    const std::string odd = "x\x1B[2J\xC2\x9B' || char(13)";
-    run_sql(directory + "gfpdb.sqlite", "UPDATE history SET flow_template = '" + odd);
-    run_sql(directory + "gfpdb.sqlite", "UPDATE device SET flow_template = '" + odd);
-    run_sql(directory + "gfpdb.sqlite",
-            "UPDATE device SET name = 'B\x1B]0;\x07', name_key = 'b\x1B]0;\x07' WHERE name = 'B'");
-    const QString file = q(place.path("all.json"));
-    QCOMPARE(run_tool({"export", "-d", q(directory), "-o", file}).exit_code, 0);
-    arguments.replaceInStrings(QRegularExpression("^all.json$"), file);
-
-    QByteArray shown = run_on_terminal(arguments + QStringList{"-d", q(directory)});
-
-    QVERIFY(!shown.isEmpty());
-    shown.replace("\r\n", "\n");
-    for (const char* progress : {"\rExporting ", "\rChecking "})
-        shown.replace(progress, "");
-    for (const char* control : {"\x1B", "\x07", "\r", "\xC2\x9B"})
-        QVERIFY2(!shown.contains(control), shown.toPercentEncoding(" \n\"{}[]:,").constData());
-    const QByteArray list = run_tool({"list", "--csv", "-d", q(directory)}).out;
-    QVERIFY(list.contains("x\x1B[2J\xC2\x9B\r"));
-}
-
-void TEST_CLI_PROGRAM::a_catalogue_that_cannot_be_read_is_an_error()
-{
-    const GFPDB_PLACE place;
-    const QString pipe = q(place.path("pipe"));
-    QCOMPARE(::mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
-    for (const QString& path : {QString("/no/such.csv"), QString("/dev/zero"), pipe}) {
-        qputenv("GFPDB_CATALOGUE", path.toLocal8Bit());
-        for (const QStringList& arguments : {QStringList{"list"}, QStringList{"show", "x"}, QStringList{"export"},
-                                             QStringList{"import", "x"}, QStringList{"check"}, QStringList{"history"},
-                                             QStringList{"restore", "1"}, QStringList{"diff", "x", "y"}}) {
-            const TOOL_RUN run = run_tool(arguments);
-            QCOMPARE(run.exit_code, 4);
-            QVERIFY2(run.err.startsWith("gfpdb: GFPDB_CATALOGUE: The catalogue " + path.toUtf8() + " cannot be read: "),
-                     run.err.constData());
-            QCOMPARE(run.err.count('\n'), 1);
-            QCOMPARE(run.out, QByteArray());
-        }
-        QCOMPARE(run_tool({"list", "--help"}).exit_code, 0);
-    }
-    qunsetenv("GFPDB_CATALOGUE");
-}
-
-void TEST_CLI_PROGRAM::progress_is_shown_on_a_terminal()
-{
-    const GFPDB_PLACE place;
-    QByteArray list = "name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
-                      "quad_io_dummy_clock,flow_template\n";
-    for (int number = 1; number <= 400; ++number)
-        list += "part " + QByteArray::number(number) + ",3,7,C2 20 19,3.3V,8Mb,1,8,6,No QE bit\n";
-    write_file(place.path("list.csv"), list.toStdString());
-    const QString directory = q(place.db_dir());
-
-    const QByteArray imported = run_on_terminal({"import", q(place.path("list.csv")), "-d", directory});
-    QVERIFY2(imported.contains("\rImporting 4 of 400\rImporting 8 of 400"), imported.constData());
-    QVERIFY2(imported.contains("\rImporting 400 of 400\r\nImported 400 new, "), imported.constData());
-    QCOMPARE(imported.count("Importing "), 101);
-    QVERIFY(run_on_terminal({"check", "-d", directory}).contains("\rChecking 400 of 400\r\n"));
-    QVERIFY(run_on_terminal({"export", "-d", directory, "-o", q(place.path("all.json"))})
-                .contains("\rExporting 400 of 400\r\n"));
-    QCOMPARE(run_tool({"import", q(place.path("all.json")), "-d", directory}).err, QByteArray());
-    QCOMPARE(run_tool({"check", "-d", directory}).err, QByteArray());
-}
-
-void TEST_CLI_PROGRAM::output_that_cannot_be_written_is_an_error()
-{
-    const GFPDB_PLACE place;
-    QProcess process;
-    process.setStandardOutputFile("/dev/full");
-    process.start(GFPDB_PROGRAM, {"list", "--builtin"});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), 4);
-    QCOMPARE(process.readAllStandardError(), QByteArray("gfpdb: The output cannot be written.\n"));
-}
-
-void TEST_CLI_PROGRAM::the_man_page_has_every_command_and_option()
-{
-    const GFPDB_PLACE place;
-    const QByteArray page = text_of_file(QString(GFPDB_CLI_SOURCE) + "/gfpdb.1");
-    QByteArray plain = page;
-    plain.replace("\\-", "-");
-    for (const char* command : {"list", "show", "export", "import", "check", "history", "restore", "diff"}) {
-        QVERIFY2(plain.contains(QByteArray("\n.BR ") + command + " ") || plain.contains(QByteArray("\n.BI ") + command),
-                 command);
-        const QString help = run_tool({command, "--help"}).out;
-        QRegularExpressionMatchIterator options = QRegularExpression("--[a-z-]+").globalMatch(help);
-        while (options.hasNext()) {
-            const QByteArray option = options.next().captured().toUtf8();
-            QVERIFY2(plain.contains(option) || option == "--output", option.constData());
-        }
-    }
-    for (int code = 0; code <= 5; ++code)
-        QVERIFY(plain.contains(QByteArray(".TP\n.B ") + QByteArray::number(code) + "\n"));
-    QVERIFY(plain.contains(run_tool({"--version"}).out.trimmed()));
-}
-
-void TEST_CLI_PROGRAM::completion_knows_commands_options_and_names()
-{
-    const GFPDB_PLACE place;
-    save_part("My part");
-    save_part("My other");
-    const auto completed = [&place](const QStringList& words) {
-        QStringList quoted;
-        for (const QString& word : words)
-            quoted += "'" + word + "'";
-        const QString script =
-            QString("source '%1/gfpdb.bash'; COMP_WORDS=('%2' %3); COMP_CWORD=%4; _gfpdb; printf '%s\\n' "
-                    "\"${COMPREPLY[@]}\"")
-                .arg(GFPDB_CLI_SOURCE, GFPDB_PROGRAM, quoted.join(' '))
-                .arg(words.size());
-        QProcess bash;
-        bash.setWorkingDirectory(q(place.path("")));
-        bash.start("bash", {"--norc", "-c", script});
-        bash.waitForFinished();
-        QStringList lines = QString(bash.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-        lines.sort();
-        return lines + QString(bash.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
-    };
-    const QString directory = q(place.db_dir());
-
-    QCOMPARE(completed({"re"}), QStringList{"restore"});
-    QCOMPARE(completed({""}).size(), 11);
-    QCOMPARE(completed({"list", "--f"}), (QStringList{"--family", "--filter"}));
-    QCOMPARE(completed({"import", "--dr"}), QStringList{"--dry-run"});
-    QCOMPARE(completed({"show", "--variant", "q"}), QStringList{"quad"});
-    QCOMPARE(completed({"show", "-d", directory, "My"}), (QStringList{"My\\ other", "My\\ part"}));
-    QVERIFY(completed({"export", "-d", directory, "MX25L256"}).contains("MX25L25645G"));
-    QCOMPARE(completed({"help", "he"}), QStringList{"help"});
-    write_file(place.path("a file.json"), "");
-    QCOMPARE(completed({"import", "a"}), QStringList{"a file.json"});
-    QVERIFY(completed({"diff", "-d", directory, "a"}).contains("a file.json"));
-    // Every option that the program has is offered.
-    for (const char* command : {"list", "show", "export", "import", "check", "history", "restore", "diff"}) {
-        const QStringList offered = completed({command, "--"});
-        const QString help = run_tool({command, "--help"}).out;
-        QRegularExpressionMatchIterator options = QRegularExpression("\n  (?:-., )?(--[a-z-]+)").globalMatch(help);
-        while (options.hasNext()) {
-            const QString option = options.next().captured(1);
-            QVERIFY2(offered.contains(option), qPrintable(command + option));
-        }
-    }
-}
-
 QTEST_GUILESS_MAIN(TEST_CLI_PROGRAM)
+
 #include "test_cli_program.moc"

@@ -4,6 +4,7 @@
 #include "base/gfpdb_create_dir.h"
 #include "base/gfpdb_settings.h"
 #include "gfpdb_test.h"
+#include "test_rows.h"
 
 #include <QDirIterator>
 
@@ -65,133 +66,110 @@ class TEST_PERMISSIONS : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_place = std::make_unique<GFPDB_PLACE>(); }
 
-    void nothing_that_is_made_can_be_written_by_everyone();
-    void the_users_mask_holds_for_a_database_of_his_own();
-    void the_database_of_a_group_directory_is_the_groups_data();
-    void the_database_of_a_group_directory_is_the_groups();
-    void a_file_of_another_group_stays_the_users();
-    void a_file_that_the_directory_gives_its_group_is_the_groups();
-    void settings_that_everyone_could_write_are_mended();
+    void cleanup() { m_place.reset(); }
+
+    void nothing_that_is_made_can_be_written_by_everyone()
+    {
+        const MASK mask(0);
+        qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("new/config/settings.ini")));
+        const std::string directory = m_place->path("new/deep/database/");
+        QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(directory, true));
+        GFPDB_MGR::set_db_custom_dir(directory);
+        save_device();
+        GFPDB_MGR::set_db_custom_dir(std::string());
+        save_device();
+
+        QVERIFY(mode_of(m_place->path("new/config/settings.ini")) > 0);
+        QVERIFY(mode_of(directory + "gfpdb.sqlite-journal") > 0);
+        QVERIFY(mode_of(m_place->path("data/gfpdb/gfpdb.sqlite")) > 0);
+        QCOMPARE(writable_by_everyone(m_place->path("")), QStringList());
+        QCOMPARE(mode_of(m_place->path("new/deep")), 0775);
+        QCOMPARE(mode_of(m_place->path("data/gfpdb")), 0775);
+    }
+
+    void the_users_mask_holds_for_a_database_of_his_own()
+    {
+        QCOMPARE(::chmod(m_place->db_dir().c_str(), 0755), 0);
+        const MASK mask(077);
+        save_device();
+        QVERIFY(gfpdb_create_dir(m_place->path("own/")));
+
+        QCOMPARE(mode_of(m_place->db_file()), 0600);
+        QCOMPARE(mode_of(m_place->db_file() + "-journal"), 0600);
+        QCOMPARE(mode_of(m_place->path("own")), 0700);
+    }
+
+    void the_database_of_a_group_directory_is_the_groups_data()
+    {
+        rows<int, int, int>({{"the usual mask", 02775, 022, 0664},
+                             {"a strict mask", 02770, 077, 0660},
+                             {"no mask", 02777, 0, 0664},
+                             {"not the group's", 02755, 022, 0644},
+                             {"not the group's, no mask", 02755, 0, 0644}});
+    }
+
+    void the_database_of_a_group_directory_is_the_groups()
+    {
+        const auto [directory_mode, mask, file_mode] = row<int, int, int>();
+        QCOMPARE(::chmod(m_place->db_dir().c_str(), mode_t(directory_mode)), 0);
+        const MASK own_mask{mode_t(mask)};
+        save_device();
+
+        QCOMPARE(mode_of(m_place->db_file()), file_mode);
+        QCOMPARE(mode_of(m_place->db_file() + "-journal"), file_mode);
+    }
+
+    // Without the directory's mark for it, a new file belongs to its maker's first group, which may be everyone's. Who
+    // can give the directory to no other group has nothing to see here but that it stays his own group's.
+    void a_file_of_another_group_stays_the_users()
+    {
+        const std::optional<gid_t> group = other_group();
+        if (group)
+            QCOMPARE(::chown(m_place->db_dir().c_str(), uid_t(-1), *group), 0);
+        QCOMPARE(::chmod(m_place->db_dir().c_str(), 0775), 0);
+        const MASK mask(022);
+        save_device();
+
+        QCOMPARE(mode_of(m_place->db_file()), group ? 0644 : 0664);
+    }
+
+    // The mark makes a new file the directory's group's, whatever the groups of its maker.
+    void a_file_that_the_directory_gives_its_group_is_the_groups()
+    {
+        const gid_t group = other_group().value_or(::getegid());
+        QCOMPARE(::chown(m_place->db_dir().c_str(), uid_t(-1), group), 0);
+        QCOMPARE(::chmod(m_place->db_dir().c_str(), 02775), 0);
+        const MASK mask(022);
+        save_device();
+
+        struct stat status = {};
+        QCOMPARE(::stat(m_place->db_file().c_str(), &status), 0);
+        QCOMPARE(status.st_gid, group);
+        QCOMPARE(mode_of(m_place->db_file()), 0664);
+    }
+
+    void settings_that_everyone_could_write_are_mended()
+    {
+        write_file(m_place->settings(), "[database]\ncustom_dir=/a/\n");
+        QCOMPARE(::chmod(m_place->settings().c_str(), 0666), 0);
+        QVERIFY(gfpdb_write_setting(GFPDB_SETTING_CUSTOM_DIR, "/b/"));
+
+        QCOMPARE(mode_of(m_place->settings()), 0664);
+        QCOMPARE(gfpdb_read_setting(GFPDB_SETTING_CUSTOM_DIR), std::string("/b/"));
+    }
 
 private:
-    void save_device();
+    void save_device()
+    {
+        GFPDB_MGR* manager = fresh_manager();
+        QVERIFY(manager->save_flash(make_device(*manager, "A"), std::string()));
+    }
 
     std::unique_ptr<GFPDB_PLACE> m_place;
 };
 
-void TEST_PERMISSIONS::init()
-{
-    m_place = std::make_unique<GFPDB_PLACE>();
-}
-
-void TEST_PERMISSIONS::cleanup()
-{
-    m_place.reset();
-}
-
-void TEST_PERMISSIONS::save_device()
-{
-    GFPDB_MGR* manager = fresh_manager();
-    QVERIFY(manager->save_flash(make_device(*manager, "A"), std::string()));
-}
-
-void TEST_PERMISSIONS::nothing_that_is_made_can_be_written_by_everyone()
-{
-    const MASK mask(0);
-    qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("new/config/settings.ini")));
-    const std::string directory = m_place->path("new/deep/database/");
-    QVERIFY(GFPDB_MGR::save_custom_dir_to_ini(directory, true));
-    GFPDB_MGR::set_db_custom_dir(directory);
-    save_device();
-    GFPDB_MGR::set_db_custom_dir(std::string());
-    save_device();
-
-    QVERIFY(mode_of(m_place->path("new/config/settings.ini")) > 0);
-    QVERIFY(mode_of(directory + "gfpdb.sqlite-journal") > 0);
-    QVERIFY(mode_of(m_place->path("data/gfpdb/gfpdb.sqlite")) > 0);
-    QCOMPARE(writable_by_everyone(m_place->path("")), QStringList());
-    QCOMPARE(mode_of(m_place->path("new/deep")), 0775);
-    QCOMPARE(mode_of(m_place->path("data/gfpdb")), 0775);
-}
-
-void TEST_PERMISSIONS::the_users_mask_holds_for_a_database_of_his_own()
-{
-    QCOMPARE(::chmod(m_place->db_dir().c_str(), 0755), 0);
-    const MASK mask(077);
-    save_device();
-    QVERIFY(gfpdb_create_dir(m_place->path("own/")));
-
-    QCOMPARE(mode_of(m_place->db_file()), 0600);
-    QCOMPARE(mode_of(m_place->db_file() + "-journal"), 0600);
-    QCOMPARE(mode_of(m_place->path("own")), 0700);
-}
-
-void TEST_PERMISSIONS::the_database_of_a_group_directory_is_the_groups_data()
-{
-    QTest::addColumn<int>("directory_mode");
-    QTest::addColumn<int>("mask");
-    QTest::addColumn<int>("file_mode");
-    QTest::newRow("the usual mask") << 02775 << 022 << 0664;
-    QTest::newRow("a strict mask") << 02770 << 077 << 0660;
-    QTest::newRow("no mask") << 02777 << 0 << 0664;
-    QTest::newRow("not the group's") << 02755 << 022 << 0644;
-    QTest::newRow("not the group's, no mask") << 02755 << 0 << 0644;
-}
-
-void TEST_PERMISSIONS::the_database_of_a_group_directory_is_the_groups()
-{
-    QFETCH(int, directory_mode);
-    QFETCH(int, mask);
-    QFETCH(int, file_mode);
-    QCOMPARE(::chmod(m_place->db_dir().c_str(), mode_t(directory_mode)), 0);
-    const MASK own_mask{mode_t(mask)};
-    save_device();
-
-    QCOMPARE(mode_of(m_place->db_file()), file_mode);
-    QCOMPARE(mode_of(m_place->db_file() + "-journal"), file_mode);
-}
-
-// Without the directory's mark for it, a new file belongs to its maker's first group, which may be everyone's. Who can
-// give the directory to no other group has nothing to see here but that it stays his own group's.
-void TEST_PERMISSIONS::a_file_of_another_group_stays_the_users()
-{
-    const std::optional<gid_t> group = other_group();
-    if (group)
-        QCOMPARE(::chown(m_place->db_dir().c_str(), uid_t(-1), *group), 0);
-    QCOMPARE(::chmod(m_place->db_dir().c_str(), 0775), 0);
-    const MASK mask(022);
-    save_device();
-
-    QCOMPARE(mode_of(m_place->db_file()), group ? 0644 : 0664);
-}
-
-// The mark makes a new file the directory's group's, whatever the groups of its maker.
-void TEST_PERMISSIONS::a_file_that_the_directory_gives_its_group_is_the_groups()
-{
-    const gid_t group = other_group().value_or(::getegid());
-    QCOMPARE(::chown(m_place->db_dir().c_str(), uid_t(-1), group), 0);
-    QCOMPARE(::chmod(m_place->db_dir().c_str(), 02775), 0);
-    const MASK mask(022);
-    save_device();
-
-    struct stat status = {};
-    QCOMPARE(::stat(m_place->db_file().c_str(), &status), 0);
-    QCOMPARE(status.st_gid, group);
-    QCOMPARE(mode_of(m_place->db_file()), 0664);
-}
-
-void TEST_PERMISSIONS::settings_that_everyone_could_write_are_mended()
-{
-    write_file(m_place->settings(), "[database]\ncustom_dir=/a/\n");
-    QCOMPARE(::chmod(m_place->settings().c_str(), 0666), 0);
-    QVERIFY(gfpdb_write_setting(GFPDB_SETTING_CUSTOM_DIR, "/b/"));
-
-    QCOMPARE(mode_of(m_place->settings()), 0664);
-    QCOMPARE(gfpdb_read_setting(GFPDB_SETTING_CUSTOM_DIR), std::string("/b/"));
-}
-
 QTEST_GUILESS_MAIN(TEST_PERMISSIONS)
+
 #include "test_permissions.moc"
