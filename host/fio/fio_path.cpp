@@ -3,15 +3,12 @@
 
 #include "fio/pgm_common.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <system_error>
-#include <vector>
 
 namespace {
 
 constexpr char SLASH = '/';
-using PARTS = std::vector<std::string>;
 
 bool is_absolute(const std::string& path)
 {
@@ -36,39 +33,12 @@ std::string current_directory()
     return error ? std::string(1, SLASH) : directory.string();
 }
 
-// Adds the parts of `path` to `parts`: "." adds nothing, ".." takes the last part away and stops at the root.
-void walk(const std::string& path, PARTS& parts)
+// `path` from the root, taken relative to the current directory, without ".", ".." and a slash at its end.
+std::filesystem::path whole(const std::string& path)
 {
-    std::size_t begin = 0;
-    while (begin < path.size()) {
-        const std::size_t end = std::min(path.find(SLASH, begin), path.size());
-        const std::string part = path.substr(begin, end - begin);
-        begin = end + 1;
-        if (part == "..") {
-            if (!parts.empty())
-                parts.pop_back();
-        } else if (!part.empty() && part != ".") {
-            parts.push_back(part);
-        }
-    }
-}
-
-// The parts of `path` from the root, taken relative to the current directory.
-PARTS absolute_parts(const std::string& path)
-{
-    PARTS parts;
-    if (!is_absolute(path))
-        walk(current_directory(), parts);
-    walk(path, parts);
-    return parts;
-}
-
-std::string join(const PARTS& parts)
-{
-    std::string result;
-    for (const std::string& part : parts)
-        result += (result.empty() ? "" : "/") + part;
-    return result;
+    const std::filesystem::path from_root = is_absolute(path) ? path : with_slash(current_directory()) + path;
+    const std::filesystem::path clean = from_root.lexically_normal();
+    return clean.has_filename() ? clean : clean.parent_path();
 }
 
 } // namespace
@@ -100,19 +70,13 @@ void FIO_PATH::become_absolute(const std::string& base)
         m_path = with_slash(clean_base) + m_path;
 
     const bool was_directory = ends_in_slash(m_path);
-    m_path = SLASH + join(absolute_parts(m_path));
+    m_path = whole(m_path).string();
     if (was_directory)
         m_path = with_slash(m_path);
 }
 
 std::string FIO_PATH::get_relative_to(const std::string& base) const
 {
-    const PARTS target = absolute_parts(m_path);
-    const PARTS start = absolute_parts(PGM_COMMON::change_folder_slash(base));
-    const auto [target_rest, start_rest] = std::mismatch(target.begin(), target.end(), start.begin(), start.end());
-
-    PARTS steps(static_cast<std::size_t>(start.end() - start_rest), "..");
-    steps.insert(steps.end(), target_rest, target.end());
-    const std::string result = steps.empty() ? std::string(".") : join(steps);
+    const std::string result = whole(m_path).lexically_relative(whole(PGM_COMMON::change_folder_slash(base))).string();
     return ends_in_slash(m_path) ? with_slash(result) : result;
 }

@@ -2,18 +2,15 @@
 #include "gen/gen_text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <limits>
+#include <system_error>
 
 namespace {
 
 bool is_blank(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-bool is_digit(char c)
-{
-    return c >= '0' && c <= '9';
 }
 
 // Bytes are compared as unsigned values, so that a byte outside ASCII comes after every ASCII letter.
@@ -45,19 +42,15 @@ int compare(const std::string& left, const std::string& right, BYTE_OF byte_of)
 
 int gen_atoi(const std::string& text)
 {
-    auto c = std::find_if_not(text.begin(), text.end(), is_blank);
-    const bool negative = c != text.end() && *c == '-';
-    if (negative || (c != text.end() && *c == '+'))
-        ++c;
-
-    constexpr long long SMALLEST = std::numeric_limits<int>::min();
-    constexpr long long LARGEST = std::numeric_limits<int>::max();
-    long long value = 0;
-    for (; c != text.end() && is_digit(*c); ++c) {
-        const int digit = *c - '0';
-        value = std::clamp(value * 10 + (negative ? -digit : digit), SMALLEST, LARGEST);
-    }
-    return static_cast<int>(value);
+    const char* const end = text.data() + text.size();
+    const char* start = std::find_if_not(text.data(), end, is_blank);
+    // from_chars() knows no "+".
+    if (start != end && *start == '+' && ++start != end && *start == '-')
+        return 0;
+    int value = 0;
+    if (std::from_chars(start, end, value).ec != std::errc::result_out_of_range)
+        return value;
+    return *start == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
 }
 
 std::string gen_itoa(int value)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "base/gfpdb_create_dir.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include <sys/stat.h>
 
 namespace {
@@ -12,10 +15,11 @@ constexpr mode_t DIRECTORY_MODE = 0775;
 
 bool gfpdb_is_dir(const std::string& path)
 {
-    struct stat status = {};
-    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
 }
 
+// Not std::filesystem::create_directories(): that would let everyone write where the user's mask does.
 bool gfpdb_create_dir(const std::string& directory)
 {
     for (std::size_t end = directory.find('/', 1); end != std::string::npos; end = directory.find('/', end + 1))

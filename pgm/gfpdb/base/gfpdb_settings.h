@@ -2,6 +2,8 @@
 
 // The library's settings file.
 //
+// Not QSettings: that drops comments when it writes, and takes backslashes, commas and quotes in a value for its own.
+//
 // An INI file: lines "key=value" under "[database]". It is the file named by the environment variable GFPDB_SETTINGS if
 // that is set, else gfpdb/gfpdb.ini in the user's configuration directory. Values are bytes as they stand, without
 // blanks at their ends. A file that cannot be read is logged and counts as empty. GUI thread only.

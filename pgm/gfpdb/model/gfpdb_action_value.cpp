@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "model/gfpdb_action_value.h"
 
+#include <charconv>
+#include <system_error>
+
 namespace {
 
 constexpr std::size_t DECIMAL_DIGITS_MAX = 18;
@@ -9,29 +12,21 @@ constexpr int ADDRESS_DIGITS = 8;
 constexpr const char* HEX_PREFIX = "0x";
 constexpr std::size_t HEX_PREFIX_LENGTH = 2;
 
-int hex_digit(char character)
+// All of the text from `start` on.
+template <typename NUMBER>
+std::optional<NUMBER> parse(const std::string& text, std::size_t start, int base)
 {
-    if (character >= '0' && character <= '9')
-        return character - '0';
-    if (character >= 'A' && character <= 'F')
-        return character - 'A' + 10;
-    if (character >= 'a' && character <= 'f')
-        return character - 'a' + 10;
-    return -1;
+    const char* const end = text.data() + text.size();
+    NUMBER value = 0;
+    const auto [stop, error] = std::from_chars(text.data() + start, end, value, base);
+    return stop == end && error == std::errc() ? std::optional<NUMBER>(value) : std::nullopt;
 }
 
 std::optional<std::uint32_t> parse_hex(const std::string& text, int digits)
 {
     if (text.size() != HEX_PREFIX_LENGTH + static_cast<std::size_t>(digits) || text.rfind(HEX_PREFIX, 0) != 0)
         return std::nullopt;
-    std::uint32_t value = 0;
-    for (std::size_t at = HEX_PREFIX_LENGTH; at < text.size(); ++at) {
-        const int digit = hex_digit(text[at]);
-        if (digit < 0)
-            return std::nullopt;
-        value = value << 4 | static_cast<std::uint32_t>(digit);
-    }
-    return value;
+    return parse<std::uint32_t>(text, HEX_PREFIX_LENGTH, 16);
 }
 
 std::string hex_text(std::uint32_t value, int digits)
@@ -59,10 +54,7 @@ std::vector<std::string> split(const std::string& text, char separator)
 
 std::optional<int> gfpdb_parse_byte(const std::string& text)
 {
-    const std::optional<std::uint32_t> value = parse_hex(text, BYTE_DIGITS);
-    if (!value)
-        return std::nullopt;
-    return static_cast<int>(*value);
+    return parse_hex(text, BYTE_DIGITS);
 }
 
 std::optional<std::vector<int>> gfpdb_parse_bytes(const std::string& text)
@@ -86,13 +78,8 @@ std::optional<std::int64_t> gfpdb_parse_decimal(const std::string& text)
 {
     if (text.empty() || text.size() > DECIMAL_DIGITS_MAX || (text.size() > 1 && text[0] == '0'))
         return std::nullopt;
-    std::int64_t value = 0;
-    for (const char character : text) {
-        if (character < '0' || character > '9')
-            return std::nullopt;
-        value = value * 10 + (character - '0');
-    }
-    return value;
+    // Unsigned, so that a sign is none of the digits.
+    return parse<std::uint64_t>(text, 0, 10);
 }
 
 std::optional<GFPDB_BUS_WIDTH> gfpdb_parse_bus_width(const std::string& text)
