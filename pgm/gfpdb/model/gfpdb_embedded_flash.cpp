@@ -79,11 +79,12 @@ std::optional<GFPDB_ROW> GFPDB_EMBEDDED_FLASH::to_row(int family, int scheme) co
     return has_storable_texts(row) ? std::optional<GFPDB_ROW>(row) : std::nullopt;
 }
 
+// Records are kept: not with the texts of flows that they have as operations.
 void GFPDB_EMBEDDED_FLASH::set_stored(const GFPDB_ROW& row)
 {
     m_row = row;
-    m_row.single_flows.clear();
-    m_row.quad_flows.clear();
+    std::string().swap(m_row.single_flows);
+    std::string().swap(m_row.quad_flows);
 }
 
 std::string GFPDB_EMBEDDED_FLASH::get_name() const
