@@ -66,7 +66,7 @@ def kill_imports(tool, scratch, count):
     while killed < count:
         target = "256Mb" if present == "128Mb" else "128Mb"
         process = tool.start("import", "--replace", files[target])
-        time.sleep(random.uniform(0, longest * 1.2))
+        time.sleep(random.uniform(0, longest * 0.5))
         process.send_signal(signal.SIGKILL)
         process.communicate()
         state = tool.state()

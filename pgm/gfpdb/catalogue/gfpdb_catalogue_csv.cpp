@@ -4,6 +4,7 @@
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_action_value.h"
 #include "model/gfpdb_field.h"
+#include "rules/gfpdb_action_rules.h"
 #include "rules/gfpdb_checks.h"
 
 #include "csv/csv.h"
@@ -76,9 +77,10 @@ bool read_id(const std::string& cell, GFPDB_PART& part, std::string& error)
 bool read_density(const std::string& cell, GFPDB_PART& part, std::string& error)
 {
     part.density = cell;
-    if (gfpdb_density_bytes(cell) > 0)
+    const std::int64_t bytes = gfpdb_density_bytes(cell);
+    if (bytes > 0 && bytes <= GFPDB_DEVICE_BYTES_MAX)
         return true;
-    error = gfpdb_quoted(cell) + " is no density such as 128Mb";
+    error = gfpdb_quoted(cell) + (bytes > 0 ? " is more than 32Gb" : " is no density such as 128Mb");
     return false;
 }
 

@@ -189,6 +189,7 @@ private slots:
             "column \"name\": The part name has a line break or another control character: use letters, digits, "
             "marks and blanks.");
         add("A,,C2,,,,,,,,,,,", "column \"density\": \"\" is no density such as 128Mb");
+        add("A,,C2,,33Gb,,,,,,,,,", "column \"density\": \"33Gb\" is more than 32Gb");
         add("A,,C2,,16,,,,,,,,,", "column \"density\": \"16\" is no density such as 128Mb");
         add("A,,C2,,1Mb,0,,,,,,,,", "column \"total_die\": \"0\" is no whole number from 1 to 16");
         add("A,,C2,,1Mb,17,,,,,,,,", "column \"total_die\": \"17\" is no whole number from 1 to 16");
