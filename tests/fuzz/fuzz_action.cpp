@@ -7,7 +7,7 @@
 
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_action_model.h"
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 #include "model/gfpdb_operation.h"
 #include "rules/gfpdb_action_rules.h"
 
@@ -68,11 +68,11 @@ void check_storage(std::unique_ptr<GFPDB_ACTION> action)
     operation->add_action(action.release());
     std::vector<GFPDB_OPERATION*> operations = {operation.get()};
 
-    const std::optional<std::string> json = gfpdb_flows_to_json(&operations);
+    const std::optional<std::string> json = gfpdb_flows_to_text(&operations);
     FUZZ_CHECK(json.has_value() == can_be_stored);
     if (!json)
         return;
-    const auto read = gfpdb_flows_from_json(*json);
+    const auto read = gfpdb_flows_from_text(*json);
     FUZZ_CHECK(read && read->size() == 1 && read->front()->get_action_count() == 1);
     const GFPDB_ACTION* copy = read->front()->get_actions()->front();
     FUZZ_CHECK(copy->get_action_type() == stored->get_action_type());

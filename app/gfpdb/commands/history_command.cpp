@@ -84,6 +84,7 @@ std::string problem_of_pruning(const CLI_CALL& call)
 int prune(const CLI_CALL& call, const CLI_SELECTION& selection)
 {
     GFPDB_PRUNING pruning;
+    pruning.name = selection.name;
     pruning.is_selected = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return is_selected(selection, entry); };
     pruning.keep = call.number(CLI_OPTION_KEEP).value_or(0);
     pruning.last_of_deleted = call.has(OPTION_FORCE);
@@ -123,7 +124,7 @@ int CLI_HISTORY_COMMAND::run(const CLI_CALL& call) const
     if (call.has(OPTION_PRUNE))
         return prune(call, selection);
     std::vector<GFPDB_HISTORY_ENTRY> entries;
-    for (const GFPDB_HISTORY_ENTRY& entry : call.database.store().get_history()) {
+    for (const GFPDB_HISTORY_ENTRY& entry : call.database.store().get_history(selection.name)) {
         if (is_selected(selection, entry))
             entries.push_back(entry);
     }

@@ -4,7 +4,7 @@
 #include "output/cli_output.h"
 
 #include "model/gfpdb_field.h"
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 #include "words/gfpq_vocabulary.h"
 
 #include "gfpdb/gfpdb_enums.h"
@@ -44,7 +44,7 @@ std::string action_text(const GFPDB_ACTION& action)
 // False when the flows cannot be read.
 bool add_flows(std::string& text, const char* title, const std::string& json)
 {
-    const auto operations = gfpdb_flows_from_json(json);
+    const auto operations = gfpdb_flows_from_text(json);
     if (!operations)
         return false;
     text += std::string("\n") + title + (operations->empty() ? ": none\n" : "\n");

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/gfpdb_json.h"
 
+#include "base/gfpdb_text.h"
+
 #include <rapidjson/memorystream.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
@@ -218,38 +220,13 @@ bool is_c1_control(const std::string& text, std::size_t at)
     return second >= 0x80 && second < 0xA0;
 }
 
-std::string quoted(const std::string& text)
-{
-    std::string out = "\"";
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char character = text[at];
-        const auto byte = static_cast<unsigned char>(character);
-        if (is_c1_control(text, at)) {
-            append_escape(out, static_cast<unsigned char>(text[++at]));
-        } else if (character == '"' || character == '\\') {
-            out += '\\';
-            out += character;
-        } else if (character == '\n') {
-            out += "\\n";
-        } else if (character == '\t') {
-            out += "\\t";
-        } else if (character == '\r') {
-            out += "\\r";
-        } else if (byte < 0x20 || byte == 0x7F) {
-            append_escape(out, byte);
-        } else {
-            out += character;
-        }
-    }
-    return out + '"';
-}
-
 using WRITER = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
 
 // More characters are escaped than the writer would escape.
 void write_text(WRITER& writer, const std::string& text)
 {
-    const std::string json = quoted(text);
+    std::string json;
+    json_append_text(json, text);
     writer.RawValue(json.data(), json.size(), rapidjson::kStringType);
 }
 
@@ -336,6 +313,46 @@ JSON_VALUE json_object()
     return of_kind(JSON_VALUE::OBJECT);
 }
 
+const char* json_kind_text(const JSON_VALUE& value)
+{
+    static const char* const TEXTS[] = {"null", "true or false", "a number", "a text", "a list", "an object"};
+    return TEXTS[value.kind];
+}
+
+std::string json_item_field(const std::string& field, std::size_t index)
+{
+    return field + '[' + std::to_string(index) + ']';
+}
+
+bool json_is(const JSON_VALUE& value, JSON_VALUE::KIND kind, const std::string& field, const JSON_REPORT& report)
+{
+    if (value.kind == kind)
+        return true;
+    std::string expected = json_kind_text(of_kind(kind));
+    expected.front() = 'A';
+    report(value, field, expected + " was expected, but this is " + json_kind_text(value) + ".");
+    return false;
+}
+
+bool json_has_members(const JSON_VALUE& object, const std::vector<std::string>& known, std::size_t required,
+                      const std::string& field, const JSON_REPORT& report)
+{
+    if (!json_is(object, JSON_VALUE::OBJECT, field, report))
+        return false;
+    for (const auto& [name, value] : object.members) {
+        if (std::find(known.begin(), known.end(), name) == known.end())
+            report(value, field, gfpdb_quoted(name) + " is not known here. Allowed: " + gfpdb_joined(known) + ".");
+    }
+    bool is_complete = true;
+    for (std::size_t at = 0; at < required; ++at) {
+        if (object.member(known[at]) == nullptr) {
+            report(object, field, gfpdb_quoted(known[at]) + " is missing.");
+            is_complete = false;
+        }
+    }
+    return is_complete;
+}
+
 bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error)
 {
     constexpr unsigned FLAGS = rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
@@ -361,4 +378,30 @@ std::string json_write(const JSON_VALUE& value)
     writer.SetIndent(' ', BLANKS_PER_LEVEL);
     write_value(writer, value);
     return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+}
+
+void json_append_text(std::string& json, const std::string& text)
+{
+    json += '"';
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char character = text[at];
+        const auto byte = static_cast<unsigned char>(character);
+        if (is_c1_control(text, at)) {
+            append_escape(json, static_cast<unsigned char>(text[++at]));
+        } else if (character == '"' || character == '\\') {
+            json += '\\';
+            json += character;
+        } else if (character == '\n') {
+            json += "\\n";
+        } else if (character == '\t') {
+            json += "\\t";
+        } else if (character == '\r') {
+            json += "\\r";
+        } else if (byte < 0x20 || byte == 0x7F) {
+            append_escape(json, byte);
+        } else {
+            json += character;
+        }
+    }
+    json += '"';
 }

@@ -5,6 +5,7 @@
 // RapidJSON reads and writes it. Texts are UTF-8 and come back byte for byte. Pure functions.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,6 +44,20 @@ JSON_VALUE json_string(const std::string& text);
 JSON_VALUE json_list();
 JSON_VALUE json_object();
 
+// "a text", "an object": what `value` is called in messages.
+const char* json_kind_text(const JSON_VALUE& value);
+
+// Hears what is wrong with a value: the value, where it is ("devices[0].name"), and a sentence.
+using JSON_REPORT = std::function<void(const JSON_VALUE& value, const std::string& field, const std::string& text)>;
+// The item `index` of the list at `field`: "devices[0]".
+std::string json_item_field(const std::string& field, std::size_t index);
+// False, and reported, when `value`, which is at `field`, is of another kind.
+bool json_is(const JSON_VALUE& value, JSON_VALUE::KIND kind, const std::string& field, const JSON_REPORT& report);
+// Reports members that are not among `known`. False when `object` is no object or lacks one of the first `required` of
+// the known ones, which is reported too.
+bool json_has_members(const JSON_VALUE& object, const std::vector<std::string>& known, std::size_t required,
+                      const std::string& field, const JSON_REPORT& report);
+
 // Why a text is no JSON.
 struct JSON_ERROR
 {
@@ -56,3 +71,6 @@ bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error);
 
 // The value with two blanks per level, one member or item per line, and a line break at the end.
 std::string json_write(const JSON_VALUE& value);
+
+// Appends `text` to JSON as a text with its quotes. Control characters are escaped, also those above ASCII.
+void json_append_text(std::string& json, const std::string& text);

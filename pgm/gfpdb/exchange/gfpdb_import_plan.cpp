@@ -4,7 +4,7 @@
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"
 #include "catalogue/gfpdb_flow_templates.h"
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 
 namespace {
 
@@ -98,9 +98,9 @@ void IMPORT_PLAN::fill_flows(CLI_RECORD& record, const std::optional<CLI_RECORD>
         record.row.quad_flows = former->row.quad_flows;
     } else if (index >= 0) {
         record.row.single_flows =
-            gfpdb_flows_to_json(gfpdb_builtin_template_operations(index, false)).value_or(std::string());
+            gfpdb_flows_to_text(gfpdb_builtin_template_operations(index, false)).value_or(std::string());
         record.row.quad_flows =
-            gfpdb_flows_to_json(gfpdb_builtin_template_operations(index, true)).value_or(std::string());
+            gfpdb_flows_to_text(gfpdb_builtin_template_operations(index, true)).value_or(std::string());
     } else if (const std::optional<GFPDB_ROW> row = m_database.store().find_template(record.row.flow_template)) {
         record.row.single_flows = row->single_flows;
         record.row.quad_flows = row->quad_flows;

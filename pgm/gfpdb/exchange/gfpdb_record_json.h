@@ -47,20 +47,17 @@ public:
 private:
     void add(const JSON_VALUE& value, const std::string& field, const std::string& text,
              CLI_SERIOUSNESS seriousness = CLI_SERIOUSNESS::PROBLEM);
-    bool check_members(const JSON_VALUE& object, const std::string& field, const std::vector<std::string>& known,
-                       std::size_t required);
     void read_records(const JSON_VALUE& file, const char* name, bool are_templates, std::vector<CLI_RECORD>& records);
     void read_field(const JSON_VALUE& object, const GFPDB_FIELD& which, const std::string& field, GFPDB_ROW& row);
     std::string read_text(const JSON_VALUE& object, const char* name, const std::string& field);
     std::optional<int> read_number(const JSON_VALUE& object, const char* name, const std::string& field);
     std::string read_flows(const JSON_VALUE& object, const char* name, const std::string& field);
-    void read_operation(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation);
-    void read_action(const JSON_VALUE& value, const std::string& field, GFPDB_OPERATION& operation);
     void check_flow(const JSON_VALUE& list, const std::string& field, const std::vector<GFPDB_OPERATION*>& operations);
 
     GFPDB_MGR& m_manager;
     const RECORD_RULES m_rules;
     const std::optional<int> m_family;
     const std::optional<int> m_scheme;
+    const JSON_REPORT m_report;
     std::vector<CLI_PROBLEM> m_problems;
 };

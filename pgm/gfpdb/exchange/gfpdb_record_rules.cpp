@@ -5,7 +5,7 @@
 #include "catalogue/gfpdb_builtin_records.h"
 #include "catalogue/gfpdb_part.h"
 #include "model/gfpdb_field.h"
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 #include "rules/gfpdb_checks.h"
 #include "rules/gfpdb_options.h"
 

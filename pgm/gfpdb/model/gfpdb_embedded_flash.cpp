@@ -3,7 +3,7 @@
 
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_field.h"
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 
 #include <algorithm>
 
@@ -56,7 +56,7 @@ std::unique_ptr<GFPDB_EMBEDDED_FLASH> GFPDB_EMBEDDED_FLASH::from_row(const GFPDB
 
 bool GFPDB_EMBEDDED_FLASH::read_flows(const std::string& json, bool flow_variant)
 {
-    auto flows = gfpdb_flows_from_json(json);
+    auto flows = gfpdb_flows_from_text(json);
     if (!flows)
         return false;
     for (std::unique_ptr<GFPDB_OPERATION>& operation : *flows)
@@ -70,8 +70,8 @@ std::optional<GFPDB_ROW> GFPDB_EMBEDDED_FLASH::to_row(int family, int scheme) co
     row.family = family;
     row.scheme = scheme;
     row.revision.clear();
-    const std::optional<std::string> single = gfpdb_flows_to_json(get_operations(SINGLE_IO));
-    const std::optional<std::string> quad = gfpdb_flows_to_json(get_operations(QUAD_IO));
+    const std::optional<std::string> single = gfpdb_flows_to_text(get_operations(SINGLE_IO));
+    const std::optional<std::string> quad = gfpdb_flows_to_text(get_operations(QUAD_IO));
     if (!single || !quad)
         return std::nullopt;
     row.single_flows = *single;

@@ -77,10 +77,12 @@ struct GFPDB_USED_VALUES
     std::set<std::string> densities;
 };
 
-// Which states are removed from the history: of those that `is_selected` picks, the ones that became history before
-// `before` (UTC, as changed_at; empty for any time) and are not among the `keep` newest of their record.
+// Which states are removed from the history: of those of records called `name` (of all, when it is empty) that
+// `is_selected` picks, the ones that became history before `before` (UTC, as changed_at; empty for any time) and are
+// not among the `keep` newest of their record.
 struct GFPDB_PRUNING
 {
+    std::string name;
     std::function<bool(const GFPDB_HISTORY_ENTRY&)> is_selected;
     std::string before;
     int keep = 0;

@@ -108,8 +108,8 @@ public:
     virtual bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
                           const std::function<void(int)>& progress) = 0;
 
-    // The states in the history, oldest first, without their flows.
-    virtual std::vector<GFPDB_HISTORY_ENTRY> get_history() = 0;
+    // The states in the history, oldest first, without their flows: of records called `name`, of all when it is empty.
+    virtual std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name = std::string()) = 0;
     virtual std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) = 0;
     // Makes the state `id` the current record again, with a new revision, under `new_name` when that is not empty. The
     // history keeps it. When a record of its kind has the name, `how` decides; refused when one of the other kind has

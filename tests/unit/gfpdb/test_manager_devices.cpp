@@ -241,14 +241,15 @@ private slots:
     void flows_that_cannot_be_read_give_no_record()
     {
         const char* const broken[] = {"{",
-                                      "[]",
                                       "{}",
-                                      R"({"operations":{}})",
-                                      R"({"operations":[1]})",
-                                      R"({"operations":[{"kind":5,"actions":[]}]})",
-                                      R"({"operations":[{"kind":0}]})",
-                                      R"({"operations":[{"kind":0,"actions":[{"type":6}]}]})",
-                                      R"({"operations":[{"kind":0,"actions":[{}]}]})"};
+                                      R"({"operations":[]})",
+                                      "[1]",
+                                      R"([{"operation":"fly","actions":[]}])",
+                                      R"([{"operation":"erase"}])",
+                                      R"([{"operation":"erase","actions":{}}])",
+                                      R"([{"operation":"erase","actions":[{}]}])",
+                                      R"([{"operation":"erase","actions":[{"action":"custom"}]}])",
+                                      R"([{"operation":"erase","actions":[]},{"operation":"erase","actions":[]}])"};
         const std::string error = "The flows of \"A\" in " + m_place->db_dir() + " cannot be read.";
         save("A");
         for (const std::string flows : broken) {

@@ -282,7 +282,7 @@ void TEST_READ_ONLY::a_half_written_database_in_a_read_only_directory_is_left_al
 
 void TEST_READ_ONLY::a_read_only_database_of_an_older_schema_can_be_read()
 {
-    make_database();
+    write_file(m_dir->path("gfpdb.sqlite"), read_file(GFPDB_TEST_DATA "schema_2.sqlite"));
     for (const char* statement :
          {"DROP INDEX device_names", "DROP INDEX device_keys", "DROP INDEX template_names",
           "ALTER TABLE history DROP COLUMN changed_by", "UPDATE meta SET value = '1' WHERE name = 'schema_version'"})
@@ -292,9 +292,11 @@ void TEST_READ_ONLY::a_read_only_database_of_an_older_schema_can_be_read()
 
     m_mgr = fresh_manager();
     expect_warning("can be read, but not changed");
-    QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
-    QVERIFY(m_mgr->find_flash("A", true) != nullptr);
-    QCOMPARE(user_templates(*m_mgr), NAMES{"T"});
+    QCOMPARE(user_templates(*m_mgr), (NAMES{"A Template", "Unreadable Template", "Vorlage \xC3\xA4"}));
+    QVERIFY(m_mgr->find_flash("Single Only", true)->find_operation(GFPDB_OPERATION_PROGRAM, SINGLE_IO) != nullptr);
+    GFPDB_STORE& store = GFPDB_EMBEDDED_MGR::instance().store();
+    QCOMPARE(store.get_history("BOTH VARIANTS").size(), std::size_t(1));
+    QVERIFY(GFPDB_EMBEDDED_FLASH::from_row(store.find_history(1)->row, "/a/", false) != nullptr);
     QCOMPARE(read_file(m_dir->path("gfpdb.sqlite")), before);
 }
 

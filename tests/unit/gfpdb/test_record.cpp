@@ -226,7 +226,7 @@ private slots:
 
         const std::optional<GFPDB_ROW> row = record.to_row(FAMILY, QUAD);
         QVERIFY(row.has_value());
-        QCOMPARE(row->quad_flows, std::string(R"({"operations":[{"actions":[],"kind":3}]})"));
+        QCOMPARE(row->quad_flows, std::string(R"([{"operation":"verify","actions":[]}])"));
         QCOMPARE(row->single_flows, std::string());
         QCOMPARE(row->family, FAMILY);
         QCOMPARE(row->scheme, QUAD);
@@ -252,8 +252,9 @@ private slots:
         record.set_operation(gfpdb_make_operation(4), SINGLE_IO);
 
         QCOMPARE(record.to_row(FAMILY, ACTIVE_SERIAL)->single_flows,
-                 std::string(R"({"operations":[{"actions":[{"type":0,"values":{"0":"value 0","1":"value 1",)"
-                             R"("2":"value 2","3":"value 3","4":"value 4"}}],"kind":1},{"actions":[],"kind":4}]})"));
+                 std::string(R"([{"operation":"program","actions":[{"action":"write_register","name":"value 0",)"
+                             R"("command":"value 1","data":"value 2","delay_us":"value 3","bus_width":"value 4"}]},)"
+                             R"({"operation":"termination","actions":[]}])"));
     }
 
     void values_of_actions_are_stored_byte_for_byte_data()

@@ -160,10 +160,11 @@ void TEST_STORE::the_schema_is_as_documented()
     const std::string expected = SCHEMA_1[3] + ";CREATE INDEX device_keys ON device (name_key)" +
                                  ";CREATE INDEX device_names ON device (family, scheme, name_key, name)" + ';' +
                                  SCHEMA_1[5].substr(0, SCHEMA_1[5].size() - 1) +
-                                 ", changed_by TEXT NOT NULL DEFAULT '');" + SCHEMA_1[0] + ';' + SCHEMA_1[4] +
+                                 ", changed_by TEXT NOT NULL DEFAULT '', name_key TEXT NOT NULL DEFAULT '');" +
+                                 "CREATE INDEX history_names ON history (name_key);" + SCHEMA_1[0] + ';' + SCHEMA_1[4] +
                                  ";CREATE INDEX template_names ON template (template_key, template_name)";
     QCOMPARE(schema_of(file()), expected);
-    QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(), QStringLiteral("2"));
+    QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(), QStringLiteral("3"));
     QCOMPARE(run_sql(file(), "SELECT length(value) FROM meta WHERE name = 'database_id'").toInt(), 36);
     QCOMPARE(run_sql(file(), "SELECT count(*) FROM meta").toInt(), 2);
 }
@@ -190,7 +191,7 @@ void TEST_STORE::an_older_schema_is_upgraded_and_loses_nothing()
     QCOMPARE(text_of(m_store->find_history(5)->row), expected);
     QCOMPARE(m_store->find_history(5)->changed_by, std::string());
 
-    QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(), QStringLiteral("2"));
+    QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(), QStringLiteral("3"));
     const std::string upgraded = schema_of(file());
     make_file(m_place->path("new.sqlite"), "A");
     QCOMPARE(upgraded, schema_of(m_place->path("new.sqlite")));
@@ -200,10 +201,10 @@ void TEST_STORE::an_older_schema_is_upgraded_and_loses_nothing()
 void TEST_STORE::a_newer_schema_is_left_alone()
 {
     make_file(file(), "A");
-    QVERIFY(run_sql(file(), "UPDATE meta SET value = '3' WHERE name = 'schema_version'").isValid());
+    QVERIFY(run_sql(file(), "UPDATE meta SET value = '4' WHERE name = 'schema_version'").isValid());
     const std::string before = read_file(file());
     const std::string problem = "The database " + file() +
-                                " was written by a newer program (its schema is 3, this program knows up to 2). It is "
+                                " was written by a newer program (its schema is 4, this program knows up to 3). It is "
                                 "left as it is.";
 
     expect_warning("was written by a newer program");
@@ -215,7 +216,7 @@ void TEST_STORE::a_newer_schema_is_left_alone()
     QVERIFY(!m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
     QCOMPARE(read_file(file()), before);
 
-    QVERIFY(run_sql(file(), "UPDATE meta SET value = '2' WHERE name = 'schema_version'").isValid());
+    QVERIFY(run_sql(file(), "UPDATE meta SET value = '3' WHERE name = 'schema_version'").isValid());
     QCOMPARE(m_store->get_problem(), std::string());
     QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 
 #include "exchange/gfpdb_record_csv.h"
 #include "record_reading.h"

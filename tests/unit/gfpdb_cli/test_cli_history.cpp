@@ -307,11 +307,12 @@ private slots:
         const std::string columns =
             ", family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, "
             "quad_io_dummy_clock, "
-            "template_name, flow_template, revision, saved_at, single_flows, quad_flows, 'me' FROM ";
+            "template_name, flow_template, revision, saved_at, single_flows, quad_flows, 'me', ";
         const auto add = [&](int id, int days, const std::string& from) {
-            run_sql(m_place->db_file(), copy + std::to_string(id) + ", " + (from[0] == 't' ? "1" : "0") +
-                                            ", 'replaced', strftime('%Y-%m-%dT%H:%M:%SZ', 'now', '-" +
-                                            std::to_string(days) + " days')" + columns + from);
+            run_sql(m_place->db_file(),
+                    copy + std::to_string(id) + ", " + (from[0] == 't' ? "1" : "0") +
+                        ", 'replaced', strftime('%Y-%m-%dT%H:%M:%SZ', 'now', '-" + std::to_string(days) + " days')" +
+                        columns + (from[0] == 't' ? "lower(template_name) FROM " : "lower(name) FROM ") + from);
         };
         add(1, 50, "device WHERE name = 'Mine' AND scheme = 7");
         add(2, 30, "device WHERE name = 'Mine' AND scheme = 7");

@@ -3,7 +3,7 @@
 // Which values of a record are wrong, missing or of no use, for each kind of configuration mode.
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_field.h"
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 
 #include "record_reading.h"
 
@@ -23,7 +23,7 @@ std::string flows(bool with_action)
     if (with_action)
         operation->add_action(manager.create_action(GFPDB_ACT_WRITE_REGISTER));
     record.set_operation(operation, SINGLE_IO);
-    return gfpdb_flows_to_json(record.get_operations(SINGLE_IO)).value();
+    return gfpdb_flows_to_text(record.get_operations(SINGLE_IO)).value();
 }
 
 // A device with all values that devices of `scheme` have, and no other.

@@ -2,7 +2,7 @@
 
 // Records as JSON and as text: what is written, and that it is read again.
 #include "manager/gfpdb_embedded_mgr.h"
-#include "model/gfpdb_json.h"
+#include "model/gfpdb_flow_text.h"
 
 #include "output/record_text.h"
 #include "record_reading.h"
@@ -138,7 +138,7 @@ void TEST_CLI_RECORDS::random_records_come_back()
         action->set_property_value(GFPDB_WR_DATA, text(5));
         operation->add_action(action);
         const std::vector<GFPDB_OPERATION*> operations = {operation.get()};
-        record.row.quad_flows = gfpdb_flows_to_json(&operations).value();
+        record.row.quad_flows = gfpdb_flows_to_text(&operations).value();
 
         const READ result = read_json(json_write(all_to_json({record})), RECORD_RULES::NAMES);
 
@@ -157,7 +157,7 @@ void TEST_CLI_RECORDS::every_action_has_its_keys()
         operation->add_action(manager.create_action(static_cast<GFPDB_ACT_TYPE>(type)));
     const std::vector<GFPDB_OPERATION*> operations = {operation.get()};
     CLI_RECORD record;
-    record.row.single_flows = gfpdb_flows_to_json(&operations).value();
+    record.row.single_flows = gfpdb_flows_to_text(&operations).value();
 
     const JSON_VALUE json = record_to_json(record).value();
 

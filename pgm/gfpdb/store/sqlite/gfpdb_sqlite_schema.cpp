@@ -9,13 +9,19 @@
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include "base/gfpdb_text.h"
+#include "store/sqlite/gfpdb_old_flows.h"
+#include "store/sqlite/gfpdb_sqlite_sql.h"
 
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
+#include <QVector>
 
+#include <algorithm>
 #include <array>
+
+using namespace GFPDB_SQL;
 
 namespace {
 
@@ -27,23 +33,55 @@ namespace {
     "saved_at TEXT NOT NULL, single_flows TEXT NOT NULL, quad_flows TEXT NOT NULL"
 
 // What leads from schema version N to N + 1; a new file takes all steps. A step is never changed once it was released.
-const std::vector<std::vector<const char*>> MIGRATIONS = {
-    {
-        GFPDB_META_TABLE,
-        "INSERT INTO meta (name, value) VALUES ('schema_version', '0')",
-        "CREATE TABLE device (name_key TEXT NOT NULL, " GFPDB_RECORD_COLUMNS
-        ", PRIMARY KEY (family, scheme, name_key))",
-        "CREATE TABLE template (template_key TEXT NOT NULL PRIMARY KEY, " GFPDB_RECORD_COLUMNS ")",
-        "CREATE TABLE history (id INTEGER NOT NULL PRIMARY KEY, is_template INTEGER NOT NULL, reason TEXT NOT NULL, "
-        "changed_at TEXT NOT NULL, " GFPDB_RECORD_COLUMNS ")",
-    },
-    {
-        // The list of 100,000 names comes from the index alone, without a look at the records.
-        "CREATE INDEX device_names ON device (family, scheme, name_key, name)",
-        "CREATE INDEX device_keys ON device (name_key)",
-        "CREATE INDEX template_names ON template (template_key, template_name)",
-        "ALTER TABLE history ADD COLUMN changed_by TEXT NOT NULL DEFAULT ''",
-    },
+struct MIGRATION
+{
+    std::vector<const char*> tables;
+    // Made when the tables are filled.
+    std::vector<const char*> indexes;
+};
+const std::vector<MIGRATION> MIGRATIONS = {
+    {{
+         GFPDB_META_TABLE,
+         "INSERT INTO meta (name, value) VALUES ('schema_version', '0')",
+         "CREATE TABLE device (name_key TEXT NOT NULL, " GFPDB_RECORD_COLUMNS
+         ", PRIMARY KEY (family, scheme, name_key))",
+         "CREATE TABLE template (template_key TEXT NOT NULL PRIMARY KEY, " GFPDB_RECORD_COLUMNS ")",
+         "CREATE TABLE history (id INTEGER NOT NULL PRIMARY KEY, is_template INTEGER NOT NULL, reason TEXT NOT NULL, "
+         "changed_at TEXT NOT NULL, " GFPDB_RECORD_COLUMNS ")",
+     },
+     {}},
+    {{
+         // The list of 100,000 names comes from the index alone, without a look at the records.
+         "CREATE INDEX device_names ON device (family, scheme, name_key, name)",
+         "CREATE INDEX device_keys ON device (name_key)",
+         "CREATE INDEX template_names ON template (template_key, template_name)",
+         "ALTER TABLE history ADD COLUMN changed_by TEXT NOT NULL DEFAULT ''",
+     },
+     {}},
+    // Flows are kept as in files, see convert_rows().
+    {{"ALTER TABLE history ADD COLUMN name_key TEXT NOT NULL DEFAULT ''"},
+     {"CREATE INDEX history_names ON history (name_key)"}},
+};
+
+// How the rows of a table get the flows of schema 3, and those of the history the key of their name.
+struct CONVERSION
+{
+    const char* ids;
+    // The flows, and the name to be keyed, or null.
+    const char* row;
+    const char* update;
+};
+constexpr CONVERSION CONVERSIONS[] = {
+    {"SELECT rowid FROM device",
+     "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB), NULL FROM device WHERE rowid = ?",
+     "UPDATE device SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT) WHERE rowid = ?"},
+    {"SELECT rowid FROM template",
+     "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB), NULL FROM template WHERE rowid = ?",
+     "UPDATE template SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT) WHERE rowid = ?"},
+    {"SELECT id FROM history",
+     "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB), " GFPDB_HISTORY_NAME " FROM history WHERE id = ?",
+     "UPDATE history SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT), name_key = CAST(? AS TEXT) "
+     "WHERE id = ?"},
 };
 
 constexpr int SCHEMA_COLUMNS = 4;
@@ -72,8 +110,11 @@ QStringList make_schema(int version, const QString& connection_name)
     connection.open();
     QSqlQuery query(connection);
     for (int step = 0; step < version; ++step) {
-        for (const char* statement : MIGRATIONS[static_cast<std::size_t>(step)])
-            query.exec(QLatin1String(statement));
+        const MIGRATION& migration = MIGRATIONS[static_cast<std::size_t>(step)];
+        for (const auto* statements : {&migration.tables, &migration.indexes}) {
+            for (const char* statement : *statements)
+                query.exec(QLatin1String(statement));
+        }
     }
     query.exec(QLatin1String(SCHEMA_STATEMENT));
     return schema_rows(query);
@@ -212,11 +253,53 @@ bool GFPDB_SQLITE_STORE::run_steps(int from)
 
 bool GFPDB_SQLITE_STORE::run_step(int from)
 {
-    for (const char* statement : MIGRATIONS[static_cast<std::size_t>(from)]) {
-        if (!run(statement))
-            return false;
-    }
+    const MIGRATION& migration = MIGRATIONS[static_cast<std::size_t>(from)];
     QSqlQuery query;
-    return prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'", {QString::number(from + 1)}) &&
+    return run_all(migration.tables) && (from + 1 != GFPDB_FLOW_TEXT_SCHEMA || convert_rows()) &&
+           run_all(migration.indexes) &&
+           prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'", {QString::number(from + 1)}) &&
            run(query);
+}
+
+bool GFPDB_SQLITE_STORE::run_all(const std::vector<const char*>& statements)
+{
+    return std::all_of(statements.begin(), statements.end(), [this](const char* statement) { return run(statement); });
+}
+
+// What cannot be read stays, byte for byte.
+bool GFPDB_SQLITE_STORE::convert_rows()
+{
+    for (const CONVERSION& conversion : CONVERSIONS) {
+        QSqlQuery ids;
+        QSqlQuery row;
+        QSqlQuery update;
+        if (!prepare(ids, conversion.ids) || !run(ids) || !prepare(row, conversion.row) ||
+            !prepare(update, conversion.update))
+            return false;
+        QVector<qlonglong> numbers;
+        while (ids.next())
+            numbers.push_back(ids.value(0).toLongLong());
+        if (ids.lastError().isValid())
+            return fail(ids.lastError());
+        for (const qlonglong number : numbers) {
+            if (!convert_row(row, update, number))
+                return false;
+        }
+    }
+    return true;
+}
+
+bool GFPDB_SQLITE_STORE::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number)
+{
+    row.bindValue(0, number);
+    if (!run(row) || !row.next())
+        return fail(row.lastError());
+    int column = 0;
+    for (; column < 2; ++column)
+        update.bindValue(column, bytes_of(gfpdb_flows_of_schema_2(text_at(row, column))));
+    if (!row.isNull(column))
+        update.bindValue(column++, key_of(text_at(row, 2)));
+    update.bindValue(column, number);
+    row.finish();
+    return run(update);
 }

@@ -18,6 +18,14 @@
 
 class QSqlQuery;
 
+// The name that the record of a state went by.
+#define GFPDB_HISTORY_NAME "CAST(CASE WHEN is_template THEN template_name ELSE name END AS BLOB)"
+
+// The first schema whose history has changed_by.
+constexpr int GFPDB_CHANGED_BY_SCHEMA = 2;
+// The first schema whose flows are texts of gfpdb_flow_text.h, and whose history has keys.
+constexpr int GFPDB_FLOW_TEXT_SCHEMA = 3;
+
 // The highest number that a state of the history was ever given; 0 before the first. Users name states by their
 // numbers: those of removed states are not given again, so meta has what was the highest when states were last removed.
 #define GFPDB_LAST_STATE                                                                                               \

@@ -6,6 +6,7 @@
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
+#include "store/sqlite/gfpdb_old_flows.h"
 #include "store/sqlite/gfpdb_sqlite_sql.h"
 
 #include <QSqlDatabase>
@@ -18,13 +19,12 @@ using namespace GFPDB_SQL;
 
 namespace {
 
-constexpr char HISTORY_READ[] = "SELECT id, is_template, reason, changed_at, changed_by, ";
-
 // What moves records to the history. After the highest number that there can be, SQLite chooses one that is free.
 std::string to_history()
 {
-    return "INSERT INTO history (id, is_template, reason, changed_at, changed_by, " + columns() +
-           ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, " + columns() + ' ';
+    return "INSERT INTO history (id, is_template, reason, changed_at, changed_by, name_key, " + columns() +
+           ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, CAST(? AS TEXT), " + columns() +
+           ' ';
 }
 
 // The name of a record as it is stored.
@@ -40,9 +40,9 @@ constexpr std::size_t KEYS_AT_ONCE = 500;
 constexpr int HISTORY_COLUMNS = 5;
 
 // What to_history() asks for.
-QVariantList history_values(bool is_template, const char* reason)
+QVariantList history_values(bool is_template, const std::string& name, const char* reason)
 {
-    return {is_template ? 1 : 0, QLatin1String(reason), now(), here()};
+    return {is_template ? 1 : 0, QLatin1String(reason), now(), here(), key_of(name)};
 }
 
 constexpr char A_DEVICE[] = "device";
@@ -62,7 +62,7 @@ std::string line_at(const QSqlQuery& query, int column)
     return line;
 }
 
-// The columns of HISTORY_READ.
+// The columns of history_statement().
 GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
 {
     GFPDB_HISTORY_ENTRY entry;
@@ -244,7 +244,7 @@ std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme,
                         " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
                     {family, scheme, key_of(name)}))
         return std::nullopt;
-    return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+    return next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
 }
 
 std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_template(const std::string& template_name)
@@ -253,7 +253,7 @@ std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_template(const std::string& te
     if (!start_read(query, "SELECT " + all_read() + " FROM template WHERE template_key = CAST(? AS TEXT)",
                     {key_of(template_name)}))
         return std::nullopt;
-    return next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+    return next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
 }
 
 std::string GFPDB_SQLITE_STORE::get_device_revision(int family, int scheme, const std::string& name)
@@ -344,15 +344,31 @@ bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row)
            insert_template(row);
 }
 
-std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history()
+// A read-only file of an older schema is read as it is.
+std::string GFPDB_SQLITE_STORE::history_statement(const std::string& columns, const char* which) const
+{
+    const char* changed_by = m_schema_version < GFPDB_CHANGED_BY_SCHEMA ? "''" : "changed_by";
+    return std::string("SELECT id, is_template, reason, changed_at, ") + changed_by + ", " + columns +
+           " FROM history " + which;
+}
+
+std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history(const std::string& name)
 {
     std::vector<GFPDB_HISTORY_ENTRY> entries;
     QSqlQuery query;
-    if (!start_read(query, HISTORY_READ + scalars_read() + " FROM history ORDER BY id"))
+    if (!prepare_read())
         return entries;
+    const bool is_keyed = !name.empty() && m_schema_version >= GFPDB_FLOW_TEXT_SCHEMA;
+    const std::string statement =
+        history_statement(scalars_read(), is_keyed ? "WHERE name_key = CAST(? AS TEXT) ORDER BY id" : "ORDER BY id");
+    if (!start_read(query, statement, is_keyed ? QVariantList{key_of(name)} : QVariantList()))
+        return entries;
+    const std::string key = gfpdb_name_key(name);
     while (next_row(query)) {
-        entries.push_back(history_at(query));
-        entries.back().row = scalars_at(query, HISTORY_COLUMNS);
+        GFPDB_HISTORY_ENTRY entry = history_at(query);
+        entry.row = scalars_at(query, HISTORY_COLUMNS);
+        if (name.empty() || gfpdb_name_key(entry.name()) == key)
+            entries.push_back(std::move(entry));
     }
     return entries;
 }
@@ -360,11 +376,12 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history()
 std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t id)
 {
     QSqlQuery query;
-    if (!start_read(query, HISTORY_READ + all_read() + " FROM history WHERE id = ?", {static_cast<qlonglong>(id)}) ||
+    if (!prepare_read() ||
+        !start_read(query, history_statement(all_read(), "WHERE id = ?"), {static_cast<qlonglong>(id)}) ||
         !next_row(query))
         return std::nullopt;
     GFPDB_HISTORY_ENTRY entry = history_at(query);
-    entry.row = row_at(query, HISTORY_COLUMNS);
+    entry.row = full_row(query, HISTORY_COLUMNS);
     return entry;
 }
 
@@ -410,6 +427,17 @@ bool GFPDB_SQLITE_STORE::finds_none(QSqlQuery& query, const char* what, const st
     return !query.lastError().isValid();
 }
 
+// The columns of all_read() from `first` on. A read-only file of an older schema is read as it is.
+GFPDB_ROW GFPDB_SQLITE_STORE::full_row(const QSqlQuery& query, int first) const
+{
+    GFPDB_ROW row = row_at(query, first);
+    if (m_schema_version < GFPDB_FLOW_TEXT_SCHEMA) {
+        row.single_flows = gfpdb_flows_of_schema_2(row.single_flows);
+        row.quad_flows = gfpdb_flows_of_schema_2(row.quad_flows);
+    }
+    return row;
+}
+
 // Runs a part of a change: unlike the public reads, it looks at the file that the transaction is on.
 bool GFPDB_SQLITE_STORE::look_up(const std::string& statement, const QVariantList& values,
                                  std::optional<GFPDB_ROW>& row)
@@ -417,7 +445,7 @@ bool GFPDB_SQLITE_STORE::look_up(const std::string& statement, const QVariantLis
     QSqlQuery query;
     if (!prepare(query, statement, values))
         return false;
-    row = next_row(query) ? std::optional<GFPDB_ROW>(row_at(query, 0)) : std::nullopt;
+    row = next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
     return !query.lastError().isValid();
 }
 
@@ -488,7 +516,7 @@ bool GFPDB_SQLITE_STORE::drop_device(int family, int scheme, const std::string& 
     const QVariantList which = {family, scheme, key_of(name)};
     QSqlQuery copy;
     QSqlQuery removal;
-    if (!prepare(copy, to_history() + FORMER, history_values(false, reason) + which) || !run(copy))
+    if (!prepare(copy, to_history() + FORMER, history_values(false, name, reason) + which) || !run(copy))
         return false;
     if (history_id != nullptr && copy.numRowsAffected() > 0)
         *history_id = copy.lastInsertId().toLongLong();
@@ -501,7 +529,7 @@ bool GFPDB_SQLITE_STORE::drop_template(const std::string& template_name, const c
     QSqlQuery copy;
     QSqlQuery removal;
     return prepare(copy, to_history() + "FROM template WHERE template_key = CAST(? AS TEXT)",
-                   history_values(true, reason) + which) &&
+                   history_values(true, template_name, reason) + which) &&
            prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)", which) && run(copy) &&
            run(removal);
 }

@@ -58,7 +58,7 @@ public:
     std::vector<GFPDB_ROW> get_templates() override;
     bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
                   const std::function<void(int)>& progress) override;
-    std::vector<GFPDB_HISTORY_ENTRY> get_history() override;
+    std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name) override;
     std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) override;
     bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name) override;
     std::optional<int> prune_history(const GFPDB_PRUNING& pruning) override;
@@ -67,7 +67,7 @@ public:
 
     // The name of the database file in its directory.
     static const char FILE_NAME[];
-    static constexpr int SCHEMA_VERSION = 2;
+    static constexpr int SCHEMA_VERSION = 3;
 
 private:
     enum class STATE
@@ -137,6 +137,9 @@ private:
     bool migrate();
     bool run_steps(int from);
     bool run_step(int from);
+    bool run_all(const std::vector<const char*>& statements);
+    bool convert_rows();
+    bool convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number);
 
     // gfpdb_sqlite_store.cpp: the records.
     bool read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values);
@@ -153,6 +156,8 @@ private:
     bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how);
     bool finds_none(QSqlQuery& query, const char* what, const std::string& name);
+    std::string history_statement(const std::string& columns, const char* which) const;
+    GFPDB_ROW full_row(const QSqlQuery& query, int first) const;
     bool look_up(const std::string& statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
     bool check_no_such_device(int family, int scheme, const std::string& name);
     bool check_free_names(const GFPDB_ROW& row);
