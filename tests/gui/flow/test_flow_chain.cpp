@@ -121,21 +121,12 @@ private slots:
                               QString::fromLatin1(method.methodSignature()));
         }
 
-        const QStringList expected{qs("signal emit_action_selection_changed(GFPDB_ACTION*)"),
-                                   qs("signal emit_clear_table()"),
-                                   qs("slot on_selection()"),
-                                   qs("slot create_flow_chain()"),
-                                   qs("slot refresh_flow_chain()"),
-                                   qs("slot on_delete_action()"),
-                                   qs("slot on_copy_action()"),
-                                   qs("slot on_paste_action()"),
-                                   qs("slot on_insert_wr_action()"),
-                                   qs("slot on_insert_rr_action()"),
-                                   qs("slot on_insert_wd_action()"),
-                                   qs("slot on_insert_rd_action()"),
-                                   qs("slot on_insert_e_action()"),
-                                   qs("slot on_change_scene()")};
-        QCOMPARE(signatures, expected);
+        QCOMPARE(signatures,
+                 list({"signal emit_action_selection_changed(GFPDB_ACTION*)", "signal emit_clear_table()",
+                       "slot on_selection()", "slot create_flow_chain()", "slot refresh_flow_chain()",
+                       "slot on_delete_action()", "slot on_copy_action()", "slot on_paste_action()",
+                       "slot on_insert_wr_action()", "slot on_insert_rr_action()", "slot on_insert_wd_action()",
+                       "slot on_insert_rd_action()", "slot on_insert_e_action()", "slot on_change_scene()"}));
         QCOMPARE(QLatin1String(meta.className()), QLatin1String("GFPQ_FLOW_SCENE"));
         QCOMPARE(QLatin1String(GFPQ_GRAPHICS_TEXT_ITEM::staticMetaObject.className()),
                  QLatin1String("GFPQ_GRAPHICS_TEXT_ITEM"));
@@ -441,19 +432,12 @@ private slots:
     {
         const ACTION_LIST actions({make_named_action(0, "w")});
         TEXTLESS_SCENE scene(nullptr, 0);
-        bool reported = false;
 
-        try {
-            load(scene, actions.get());
-        } catch (const INTERNAL_ERROR_REPORTED& error) {
-            reported = true;
-            QCOMPARE(error.condition, std::string("text_item != nullptr"));
-            QCOMPARE(error.category, std::string("GFPQ"));
-            QCOMPARE(error.source, std::string("pgm/gfpq/gfpq_flow_scene"));
-            QCOMPARE(error.line, 192);
-        }
+        QVERIFY_EXCEPTION_THROWN(load(scene, actions.get()), INTERNAL_ERROR_REPORTED);
 
-        QVERIFY(reported);
+        QCOMPARE(
+            calls_of({"report"}),
+            list({R"(MSG_INTERNAL_ERROR.report("text_item != nullptr", "GFPQ", "pgm/gfpq/gfpq_flow_scene", 192))"}));
         QCOMPARE(shapes_of(scene).size(), 1);
     }
 
@@ -461,22 +445,15 @@ private slots:
     {
         const ACTION_LIST actions({make_named_action(0, "w")});
         OPEN_SCENE scene(nullptr, 0);
-        bool reported = false;
+        log().on_call(qs("report"), [](const QString&) { g_out_of_memory = false; });
+        g_out_of_memory = true;
 
-        try {
-            g_out_of_memory = true;
-            scene.create_text_item(actions.get().front(), Qt::AlignCenter);
-        } catch (const INTERNAL_ERROR_REPORTED& error) {
-            reported = true;
-            g_out_of_memory = false;
-            QCOMPARE(error.condition, std::string("item != nullptr"));
-            QCOMPARE(error.category, std::string("GFPQ"));
-            QCOMPARE(error.source, std::string("pgm/gfpq/gfpq_flow_scene"));
-            QCOMPARE(error.line, 529);
-        }
+        QVERIFY_EXCEPTION_THROWN(scene.create_text_item(actions.get().front(), Qt::AlignCenter),
+                                 INTERNAL_ERROR_REPORTED);
+
         g_out_of_memory = false;
-
-        QVERIFY(reported);
+        QCOMPARE(calls_of({"report"}),
+                 list({R"(MSG_INTERNAL_ERROR.report("item != nullptr", "GFPQ", "pgm/gfpq/gfpq_flow_scene", 529))"}));
     }
 
     void five_thousand_actions_and_very_long_values_are_drawn()

@@ -45,37 +45,26 @@ private:
 private slots:
     void a_drag_starts_when_the_way_is_long_enough_data()
     {
-        QTest::addColumn<int>("distance");
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<QPoint>("way");
-        QTest::addColumn<bool>("starts");
-
-        const auto add = [](const char* name, int distance, double scale, const QPoint& way, bool starts) {
-            QTest::newRow(name) << distance << scale << way << starts;
-        };
-        add("no way", 10, 1.0, QPoint(0, 0), false);
-        add("just below", 10, 1.0, QPoint(9, 0), false);
-        add("just below, backwards", 10, 1.0, QPoint(0, -9), false);
-        add("aslant, 9.90", 10, 1.0, QPoint(7, 7), false);
-        add("aslant, 9.85", 10, 1.0, QPoint(-9, 4), false);
-        add("the distance", 10, 1.0, QPoint(0, 10), true);
-        add("the distance, aslant", 10, 1.0, QPoint(6, -8), true);
-        add("aslant, 10.05", 10, 1.0, QPoint(1, 10), true);
-        add("far", 10, 1.0, QPoint(40, 40), true);
-        add("another distance, below", 25, 1.0, QPoint(24, 0), false);
-        add("another distance", 25, 1.0, QPoint(7, 24), true);
-        add("a small distance", 2, 1.0, QPoint(0, 2), true);
-        // Pixels of the screen count, not units of the scene.
-        add("enlarged, below", 10, 0.5, QPoint(9, 0), false);
-        add("enlarged", 10, 2.0, QPoint(10, 0), true);
+        rows<int, double, QPoint, bool>({{"no way", 10, 1.0, QPoint(0, 0), false},
+                                         {"just below", 10, 1.0, QPoint(9, 0), false},
+                                         {"just below, backwards", 10, 1.0, QPoint(0, -9), false},
+                                         {"aslant, 9.90", 10, 1.0, QPoint(7, 7), false},
+                                         {"aslant, 9.85", 10, 1.0, QPoint(-9, 4), false},
+                                         {"the distance", 10, 1.0, QPoint(0, 10), true},
+                                         {"the distance, aslant", 10, 1.0, QPoint(6, -8), true},
+                                         {"aslant, 10.05", 10, 1.0, QPoint(1, 10), true},
+                                         {"far", 10, 1.0, QPoint(40, 40), true},
+                                         {"another distance, below", 25, 1.0, QPoint(24, 0), false},
+                                         {"another distance", 25, 1.0, QPoint(7, 24), true},
+                                         {"a small distance", 2, 1.0, QPoint(0, 2), true},
+                                         // Pixels of the screen count, not units of the scene.
+                                         {"enlarged, below", 10, 0.5, QPoint(9, 0), false},
+                                         {"enlarged", 10, 2.0, QPoint(10, 0), true}});
     }
 
     void a_drag_starts_when_the_way_is_long_enough()
     {
-        QFETCH(const int, distance);
-        QFETCH(const double, scale);
-        QFETCH(const QPoint, way);
-        QFETCH(const bool, starts);
+        const auto [distance, scale, way, starts] = row<int, double, QPoint, bool>();
         QApplication::setStartDragDistance(distance);
         QGraphicsScene scene;
         auto* const entry = new GFPQ_ACTION_MENU_ITEM(4);

@@ -67,46 +67,6 @@ class TEST_FLOW_GESTURES : public PAGE_TEST
     Q_OBJECT
 
 private slots:
-    void no_command_has_a_translated_text()
-    {
-        ANY_LANGUAGE language;
-        QCoreApplication::installTranslator(&language);
-        GFPQ_FLOW_SCENE scene(nullptr, 0);
-        scene.create_flow_chain();
-        const auto view = show_view(scene);
-        QStringList offered;
-        m_modals.expect([&offered](QWidget* menu) {
-            for (const QAction* const insert : menu->actions().first()->menu()->actions())
-                offered.append(insert->text());
-            menu->close();
-        });
-
-        right_click(*view, on_arrow(scene, 0));
-
-        QCoreApplication::removeTranslator(&language);
-        QCOMPARE(m_modals.last().menu_entries, list({"other Insert", "-", "Refresh"}));
-        QCOMPARE(offered, list({"Read Register", "Write Register", "Write Data", "Read Data", "Erase"}));
-        QStringList commands;
-        for (const QAction* const command : scene.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly))
-            commands.append(command->text());
-        QCOMPARE(commands, list({"Refresh", "Delete", "Copy", "Paste", "Write Register", "Read Register", "Write Data",
-                                 "Read Data", "Erase"}));
-    }
-
-    void a_paste_without_a_place_keeps_what_was_copied()
-    {
-        LOADED_SCENE scene({"one", "two"});
-        select_blocks(scene, {0});
-        scene.on_copy_action();
-
-        scene.on_paste_action();
-        QCOMPARE(plain_names(scene), list({"one", "two"}));
-
-        press_at(scene, on_arrow(scene, 2));
-        scene.on_paste_action();
-        QCOMPARE(plain_names(scene), list({"one", "two", "one"}));
-    }
-
     void a_drop_leaves_the_paste_armed_and_its_place()
     {
         auto [scene, view] = CHART({"one", "two"});
@@ -132,15 +92,12 @@ private slots:
         drop.setScenePos(on_arrow(scene, 0));
         drop.setProposedAction(Qt::MoveAction);
         drop.setDropAction(Qt::IgnoreAction);
-        int made = 0;
-        mgr().on_new_action = [&](ACTION_DOUBLE&) {
-            ++made;
-            QCOMPARE(drop.dropAction(), Qt::MoveAction);
-        };
+        Qt::DropAction action_then = Qt::IgnoreAction;
+        mgr().on_new_action = [&](ACTION_DOUBLE&) { action_then = drop.dropAction(); };
 
         QApplication::sendEvent(&scene, &drop);
 
-        QCOMPARE(made, 1);
+        QCOMPARE(action_then, Qt::MoveAction);
     }
 
     void only_the_height_of_a_place_counts()
@@ -238,23 +195,6 @@ private slots:
 
         QCOMPARE(connectors_of(scene).first()->polygon().at(5), QPointF(0, 0));
         QCOMPARE(connectors_of(scene).first()->polygon().at(1).x(), 65.0);
-    }
-
-    void handing_the_actions_over_calls_a_waiting_refresh_off()
-    {
-        LOADED_SCENE scene({"one"});
-        const ACTION_LIST taken({scene.get_actions().first()});
-        scene.refresh_flow_chain();
-
-        scene.clear_actions(false);
-
-        QVERIFY(!scene.take_pending_refresh());
-        scene.create_flow_chain();
-
-        PAGE page(nullptr, 1);
-        emit page.emit_update_flow_scene();
-        page.release_flow(false);
-        QVERIFY(!scene_of(page).take_pending_refresh());
     }
 
     void nothing_is_selected_after_a_rebuild_data()

@@ -3,7 +3,9 @@
 // The context menu of a chart, and inserting actions by it.
 #include "flow_stand.h"
 
+#include <QAction>
 #include <QGraphicsSceneMouseEvent>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTranslator>
 
@@ -45,19 +47,6 @@ private slots:
         QCOMPARE(plain_names(scene), list({"one", "two"}));
     }
 
-    void insert_offers_read_register_first()
-    {
-        GFPQ_FLOW_SCENE scene(nullptr, 0);
-        scene.create_flow_chain();
-        const auto view = show_view(scene);
-        QStringList offered;
-        m_modals.expect(insert_by_menu(QString(), &offered));
-
-        right_click(*view, on_arrow(scene, 0));
-
-        QCOMPARE(offered, list({"Read Register", "Write Register", "Write Data", "Read Data", "Erase"}));
-    }
-
     void only_the_title_of_the_submenu_is_translated()
     {
         // Knows a word for everything, and tells from which context it was asked for.
@@ -75,27 +64,23 @@ private slots:
         auto [scene, view] = CHART({"one"});
         select_blocks(scene, {0});
         scene.on_copy_action();
-        m_modals.expect(close_menu());
-
-        right_click(*view, on_arrow(scene, 1));
-
-        QCoreApplication::removeTranslator(&language);
-        QCOMPARE(m_modals.last().menu_entries,
-                 list({"Copy", "Paste", "-", "gfpq_dlg Insert", "-", "Refresh", "Delete"}));
-    }
-
-    void the_menu_stands_where_the_click_was()
-    {
-        auto [scene, view] = CHART({"one"});
+        QStringList offered;
         QPoint menu_pos;
-        m_modals.expect([&menu_pos](QWidget* menu) {
+        m_modals.expect([&](QWidget* menu) {
             menu_pos = menu->pos();
+            for (const QAction* const insert : menu->actions().at(3)->menu()->actions())
+                offered.append(insert->text());
             menu->close();
         });
         const QPointF clicked = on_arrow(scene, 0);
 
         right_click(*view, clicked);
 
+        QCoreApplication::removeTranslator(&language);
+        QCOMPARE(m_modals.last().menu_entries,
+                 list({"Copy", "Paste", "-", "gfpq_dlg Insert", "-", "Refresh", "Delete"}));
+        QCOMPARE(offered, list({"Read Register", "Write Register", "Write Data", "Read Data", "Erase"}));
+        // The menu stands where the click was.
         QCOMPARE(menu_pos, view->viewport()->mapToGlobal(in_viewport(*view, clicked)));
     }
 
@@ -114,59 +99,33 @@ private slots:
         QCOMPARE(scene.selectedItems(), selected);
     }
 
-    void only_an_arrow_is_an_insertion_point_data()
-    {
-        QTest::addColumn<QString>("where");
-        QTest::addColumn<bool>("is_point");
-
-        for (const char* const where : {"zone"})
-            QTest::newRow(where) << QString::fromLatin1(where) << true;
-        for (const char* const where : {"start", "block", "label Yes", "label No", "connector", "beside", "diamond"})
-            QTest::newRow(where) << QString::fromLatin1(where) << false;
-    }
-
     void only_an_arrow_is_an_insertion_point()
-    {
-        QFETCH(const QString, where);
-        QFETCH(const bool, is_point);
-        auto [scene, view] =
-            CHART({make_loop_action("page", "start"), make_named_action(0, "one"), make_loop_action("page", "end")});
-        QMap<QString, QPointF> points;
-        points.insert(qs("zone"), on_arrow(scene, 1));
-        points.insert(qs("start"), on_shape(scene, 0));
-        points.insert(qs("block"), on_shape(scene, 2));
-        points.insert(qs("diamond"), on_shape(scene, 3));
-        points.insert(qs("beside"), on_arrow(scene, 1) - QPointF(40, 0));
-        const QPolygonF connector = connectors_of(scene).first()->polygon();
-        points.insert(qs("connector"), QPointF(connector.at(1).x(), connector.at(1).y() - 40));
-        for (QGraphicsItem* const item : scene.items()) {
-            const auto* const text = dynamic_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(item);
-            if (text != nullptr)
-                points.insert(qs("label ") + text->toPlainText(), text->sceneBoundingRect().center());
-        }
-        QVERIFY(points.contains(where));
-        m_modals.expect(close_menu());
-
-        right_click(*view, points.value(where));
-
-        QCOMPARE(m_modals.last().menu_entries.contains(qs("Insert")), is_point);
-    }
-
-    void a_loop_connector_is_no_insertion_point_only_because_it_takes_no_drops()
     {
         auto [scene, view] =
             CHART({make_loop_action("page", "start"), make_named_action(0, "one"), make_loop_action("page", "end")});
         QGraphicsPolygonItem& connector = *connectors_of(scene).first();
         const QPointF on_connector = connector.polygon().at(1) - QPointF(0, 40);
-        m_modals.expect(close_menu());
-        m_modals.expect(close_menu());
+        QList<QPointF> others{on_shape(scene, 0), on_shape(scene, 2), on_shape(scene, 3),
+                              on_arrow(scene, 1) - QPointF(40, 0), on_connector};
+        for (const QGraphicsItem* const item : scene.items()) {
+            const auto* const text = dynamic_cast<const GFPQ_GRAPHICS_TEXT_ITEM*>(item);
+            if (text != nullptr && list({"Yes", "No"}).contains(text->toPlainText()))
+                others.append(text->sceneBoundingRect().center());
+        }
+        QCOMPARE(others.size(), 7);
+        QGraphicsView& chart = *view;
+        const auto menu_at = [this, &chart](const QPointF& place) {
+            m_modals.expect(close_menu());
+            right_click(chart, place);
+            return m_modals.last().menu_entries;
+        };
 
-        right_click(*view, on_connector);
-        QCOMPARE(m_modals.last().menu_entries, list({"Refresh"}));
-
+        for (const QPointF& place : qAsConst(others))
+            QCOMPARE(menu_at(place), list({"Refresh"}));
+        QCOMPARE(menu_at(on_arrow(scene, 1)), list({"Insert", "-", "Refresh"}));
+        // A connector is no such point only because it takes no drops.
         connector.setAcceptDrops(true);
-        right_click(*view, on_connector);
-        QCOMPARE(m_modals.last().menu_entries, list({"Insert", "-", "Refresh"}));
+        QCOMPARE(menu_at(on_connector), list({"Insert", "-", "Refresh"}));
     }
 
     void inserting_by_the_menu_data()
@@ -183,6 +142,7 @@ private slots:
         const auto [entry, inserted] = row<QString, QString>();
         auto [scene, view] = CHART({"one", "two"});
         m_modals.expect(insert_by_menu(entry));
+        log().clear();
 
         right_click(*view, on_arrow(scene, 0));
 
@@ -191,36 +151,30 @@ private slots:
         QCOMPARE(names_of(scene.get_actions()), expected);
         QCOMPARE(shapes_of(scene).size(), 5);
         QCOMPARE(text_of(*shapes_of(scene).at(1))->action(), scene.get_actions().at(0));
-    }
-
-    void inserting_goes_to_the_arrow_that_was_clicked_data()
-    {
-        QTest::addColumn<int>("arrow");
-        QTest::addColumn<bool>("by_left_press");
-
-        for (int arrow = 0; arrow <= 3; ++arrow) {
-            QTest::newRow(qPrintable(qs("right click on %1").arg(arrow))) << arrow << false;
-            QTest::newRow(qPrintable(qs("left press on %1").arg(arrow))) << arrow << true;
-        }
+        QCOMPARE(calls_of({"get_active_flash_manager", "create_action"}),
+                 QStringList({qs("GFPDB_HELPER.get_active_flash_manager(false)"),
+                              qs("mgr.create_action(%1)").arg(inserted.left(1))}));
     }
 
     void inserting_goes_to_the_arrow_that_was_clicked()
     {
-        QFETCH(const int, arrow);
-        QFETCH(const bool, by_left_press);
-        auto [scene, view] = CHART({"one", "two", "three"});
+        for (int arrow = 0; arrow <= 3; ++arrow) {
+            for (const bool by_left_press : {true, false}) {
+                auto [scene, view] = CHART({"one", "two", "three"});
+                if (!by_left_press)
+                    m_modals.expect(close_menu());
+                if (by_left_press)
+                    click(*view, on_arrow(scene, arrow));
+                else
+                    right_click(*view, on_arrow(scene, arrow));
 
-        if (by_left_press) {
-            click(*view, on_arrow(scene, arrow));
-        } else {
-            m_modals.expect(close_menu());
-            right_click(*view, on_arrow(scene, arrow));
+                scene.on_insert_e_action();
+
+                QStringList expected = list({"0:one", "0:two", "0:three"});
+                expected.insert(arrow, qs("4:default 31"));
+                QCOMPARE(names_of(scene.get_actions()), expected);
+            }
         }
-        scene.on_insert_e_action();
-
-        QStringList expected = list({"0:one", "0:two", "0:three"});
-        expected.insert(arrow, qs("4:default 31"));
-        QCOMPARE(names_of(scene.get_actions()), expected);
     }
 
     void a_click_off_the_arrows_keeps_the_insertion_point()
@@ -327,21 +281,6 @@ private slots:
         QCOMPARE(index_at(bottom - 0.25), -1);
         QCOMPARE(index_at(bottom + 65.25), -1);
         QCOMPARE(index_at(bottom + 66), 0);
-    }
-
-    void the_manager_is_asked_for_an_action_of_the_type()
-    {
-        GFPQ_FLOW_SCENE scene(nullptr, 0);
-        load_names(scene, {});
-        const auto view = show_view(scene);
-        click(*view, on_arrow(scene, 0));
-        log().clear();
-
-        scene.on_insert_rd_action();
-
-        QCOMPARE(log().calls().mid(0, 2),
-                 list({"GFPDB_HELPER.get_active_flash_manager(false)", "mgr.create_action(3)"}));
-        QCOMPARE(count_of("create_action"), 1);
     }
 
     void refresh_draws_the_chart_anew()

@@ -79,27 +79,16 @@ class TEST_FLOW_PALETTE : public GUI_TEST
 private slots:
     void an_entry_shows_its_type_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<QColor>("color");
-        QTest::addColumn<QString>("name");
-
-        const auto add = [](int type, const char* label, const QColor& color, const char* name) {
-            QTest::newRow(name) << type << QString::fromLatin1(label) << color << QString::fromLatin1(name);
-        };
-        add(0, "WR", QColor(255, 255, 127), "Write Register");
-        add(1, "RR", QColor(170, 255, 127), "Read Register");
-        add(2, "WD", QColor(255, 170, 0), "Write Data");
-        add(3, "RD", QColor(85, 255, 255), "Read Data");
-        add(4, "E", QColor(226, 151, 226), "Erase");
+        rows<int, QString, QColor, QString>({{"WR", 0, "WR", QColor(255, 255, 127), "Write Register"},
+                                             {"RR", 1, "RR", QColor(170, 255, 127), "Read Register"},
+                                             {"WD", 2, "WD", QColor(255, 170, 0), "Write Data"},
+                                             {"RD", 3, "RD", QColor(85, 255, 255), "Read Data"},
+                                             {"E", 4, "E", QColor(226, 151, 226), "Erase"}});
     }
 
     void an_entry_shows_its_type()
     {
-        QFETCH(const int, type);
-        QFETCH(const QString, label);
-        QFETCH(const QColor, color);
-        QFETCH(const QString, name);
+        const auto [type, label, color, name] = row<int, QString, QColor, QString>();
 
         const GFPQ_ACTION_MENU_ITEM entry(type);
 
@@ -145,6 +134,10 @@ private slots:
     {
         const PALETTE palette(4);
         QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
+        // Only the left button takes hold.
+        palette.press(Qt::RightButton);
+        palette.press(Qt::MiddleButton);
+        QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
 
         QVERIFY(palette.press());
         QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
@@ -152,61 +145,11 @@ private slots:
         QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
     }
 
-    void only_the_left_button_takes_hold()
-    {
-        const PALETTE palette(4);
-
-        palette.press(Qt::RightButton);
-        palette.press(Qt::MiddleButton);
-
-        QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
-    }
-
-    void a_short_move_starts_no_drag()
-    {
-        const PALETTE palette(4);
-        const DRAG_WATCH watch(palette.view->viewport());
-        const int distance = QApplication::startDragDistance();
-        QCOMPARE(distance, 10);
-
-        palette.press();
-        palette.move(QPoint(distance - 1, 0));
-        palette.move(QPoint(0, 1 - distance));
-        // As far as the crow flies: neither step alone, nor their sum.
-        palette.move(QPoint(8, 5));
-
-        QCOMPARE(watch.count, 0);
-        QCOMPARE(palette.cursor(), Qt::ClosedHandCursor);
-        palette.release();
-        QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
-    }
-
-    void a_drag_starts_at_the_drag_distance()
-    {
-        for (const QPoint& way : {QPoint(10, 0), QPoint(-10, 0), QPoint(0, 10), QPoint(8, 6), QPoint(60, 60)}) {
-            const PALETTE palette(4);
-            const DRAG_WATCH watch(palette.view->viewport());
-
-            palette.press();
-            palette.move(way);
-
-            QCOMPARE(watch.count, 1);
-            QVERIFY(watch.drag() != nullptr);
-            // The drag is over by now; Qt deletes it.
-            QCOMPARE(palette.cursor(), Qt::OpenHandCursor);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QVERIFY(watch.drag() == nullptr);
-            palette.release(way);
-        }
-    }
-
     void a_drag_carries_name_and_colour_data() { an_entry_shows_its_type_data(); }
 
     void a_drag_carries_name_and_colour()
     {
-        QFETCH(const int, type);
-        QFETCH(const QColor, color);
-        QFETCH(const QString, name);
+        const auto [type, label, color, name] = row<int, QString, QColor, QString>();
         const PALETTE palette(type);
         const DRAG_WATCH watch(palette.view->viewport());
         QPixmap expected(120, 20);
@@ -256,19 +199,6 @@ private slots:
             QCOMPARE(watch.drag()->pixmap().toImage(), expected.toImage());
             palette.release(QPoint(10, 0));
         }
-    }
-
-    void an_entry_stays_where_it_is()
-    {
-        const PALETTE palette(2);
-        const QPointF before = palette.entry->pos();
-
-        palette.press();
-        palette.move(QPoint(30, 30));
-        palette.release(QPoint(30, 30));
-
-        QCOMPARE(palette.entry->pos(), before);
-        QCOMPARE(palette.scene.items().size(), 2);
     }
 };
 

@@ -22,19 +22,6 @@ class TEST_FLOW_SCENE : public GUI_TEST
     Q_OBJECT
 
 private slots:
-    void the_scene_owns_its_nine_commands()
-    {
-        const GFPQ_FLOW_SCENE scene(nullptr, 0);
-
-        QStringList texts;
-        const QList<QAction*> actions = scene.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
-        for (const QAction* const action : actions)
-            texts.append(action->text());
-
-        QCOMPARE(texts, list({"Refresh", "Delete", "Copy", "Paste", "Write Register", "Read Register", "Write Data",
-                              "Read Data", "Erase"}));
-    }
-
     void the_scene_draws_nothing_by_itself()
     {
         GFPQ_FLOW_SCENE scene(nullptr, 3);
@@ -49,7 +36,8 @@ private slots:
 
     void a_rebuild_tears_down_first_and_says_so_once()
     {
-        LOADED_SCENE scene({"one", "two"});
+        LOADED_SCENE scene({"one", "a wider block than the other one"});
+        const QRectF rect = scene.sceneRect();
         int told = 0;
         int items_then = -1;
         QRectF rect_then;
@@ -65,20 +53,10 @@ private slots:
         QCOMPARE(items_then, 0);
         QCOMPARE(rect_then, QRectF(0, 0, 0, 15));
         QCOMPARE(shapes_of(scene).size(), 4);
-    }
-
-    void a_rebuild_restores_the_scene_rectangle()
-    {
-        LOADED_SCENE scene({"one", "a wider block than the other one"});
-        const QRectF rect = scene.sceneRect();
-
-        scene.create_flow_chain();
-
         QCOMPARE(scene.sceneRect(), rect);
         load_names(scene, {});
         QCOMPARE(scene.sceneRect().left(), 0.0);
-        QVERIFY(scene.sceneRect().width() < rect.width());
-        QVERIFY(scene.sceneRect().height() < rect.height());
+        QVERIFY(scene.sceneRect().width() < rect.width() && scene.sceneRect().height() < rect.height());
     }
 
     void nothing_but_the_chart_moves_the_scene_rectangle()
@@ -223,71 +201,41 @@ private slots:
     void a_rebuild_of_any_kind_calls_a_waiting_refresh_off()
     {
         LOADED_SCENE scene({"one"});
-        scene.refresh_flow_chain();
+        const ACTION_LIST taken({scene.get_actions().first()});
+        QVERIFY(!scene.take_pending_refresh());
+        const std::function<void()> ends[] = {[&] { scene.create_flow_chain(); }, [&] { scene.clear_actions(false); },
+                                              [&] { scene.clear_actions(true); },
+                                              [&] { QVERIFY(scene.take_pending_refresh()); }};
+        for (const auto& end : ends) {
+            scene.refresh_flow_chain();
+            end();
+            QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+
+            focus_in(scene);
+
+            QCOMPARE(rebuilt.size(), 0);
+        }
+        QVERIFY(!scene.take_pending_refresh());
         scene.create_flow_chain();
-        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-        focus_in(scene);
-
-        QCOMPARE(rebuilt.size(), 0);
-    }
-
-    void emptying_the_list_calls_a_waiting_refresh_off()
-    {
-        LOADED_SCENE scene({"one"});
-        scene.refresh_flow_chain();
-        scene.clear_actions(true);
-        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
-
-        focus_in(scene);
-
-        QCOMPARE(rebuilt.size(), 0);
-    }
-
-    void a_waiting_refresh_can_be_taken_back()
-    {
-        GFPQ_FLOW_SCENE scene(nullptr, 0);
-        QVERIFY(!scene.take_pending_refresh());
-
-        scene.refresh_flow_chain();
-
-        QVERIFY(scene.take_pending_refresh());
-        QVERIFY(!scene.take_pending_refresh());
-    }
-
-    void a_focus_is_not_handed_on()
-    {
-        GFPQ_FLOW_SCENE scene(nullptr, 0);
-
-        focus_in(scene);
-
-        QVERIFY(!scene.hasFocus());
     }
 
     void emptying_the_list_deletes_only_on_request()
     {
-        GFPQ_FLOW_SCENE scene(nullptr, 0);
-        const int before = live_actions();
-        load_names(scene, {"one", "two"});
-        const ACTION_LIST taken({scene.get_actions().at(0), scene.get_actions().at(1)});
-
-        scene.clear_actions(false);
-
-        QVERIFY(scene.get_actions().isEmpty());
-        QCOMPARE(live_actions(), before + 2);
-        scene.create_flow_chain();
-        load_names(scene, {"three"});
-        QCOMPARE(live_actions(), before + 3);
-        scene.clear_actions(true);
-        QCOMPARE(live_actions(), before + 2);
-    }
-
-    void the_scene_deletes_its_actions_with_itself()
-    {
         const int before = live_actions();
         {
             LOADED_SCENE scene({"one", "two"});
+            const ACTION_LIST taken({scene.get_actions().at(0), scene.get_actions().at(1)});
+
+            scene.clear_actions(false);
+
+            QVERIFY(scene.get_actions().isEmpty());
             QCOMPARE(live_actions(), before + 2);
+            load_names(scene, {"three"});
+            QCOMPARE(live_actions(), before + 3);
+            scene.clear_actions(true);
+            QCOMPARE(live_actions(), before + 2);
+            // What the scene has at its end goes with it.
+            load_names(scene, {"four", "five"});
             blocks_of(scene).first()->setSelected(true);
         }
         QCOMPARE(live_actions(), before);
@@ -301,19 +249,12 @@ private slots:
         GFPQ_FLOW_SCENE scene(nullptr, 0);
 
         load(scene, actions.get());
-
-        QCOMPARE(names_of(scene.get_actions()), (QStringList{qs("0:w"), qs("1:r")}));
+        QCOMPARE(names_of(scene.get_actions()), list({"0:w", "1:r"}));
         QCOMPARE(shapes_of(scene).size(), 4);
-    }
 
-    void without_a_manager_nothing_is_copied()
-    {
-        const ACTION_LIST actions({make_named_action(0, "w")});
-        GFPQ_FLOW_SCENE scene(nullptr, 0);
+        // Without a manager there are no copies at all.
         world().active = nullptr;
-
         load(scene, actions.get());
-
         QVERIFY(scene.get_actions().isEmpty());
         QCOMPARE(shapes_of(scene).size(), 2);
     }
