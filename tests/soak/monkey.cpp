@@ -39,42 +39,14 @@ const Qt::Key KEYS[] = {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_En
 const Qt::KeyboardModifiers MODIFIERS[] = {Qt::NoModifier,      Qt::NoModifier,    Qt::NoModifier,
                                            Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier};
 
-const char* const TEXTS[] = {"",
-                             " ",
-                             "0",
-                             "1",
-                             "7",
-                             "16",
-                             "31",
-                             "-1",
-                             "99999999999",
-                             "0x9F",
-                             "0xC2 0x20 0x19",
-                             "C2,20,19",
-                             "0x00 0x02",
-                             "none",
-                             "die",
-                             "id",
-                             "image",
-                             "device",
-                             "loop",
-                             "0x00010000",
-                             "4096",
-                             "256",
-                             "'; DROP TABLE device; --",
-                             "<b>bold</b><img src=x>",
-                             "%1 %n %s",
-                             "a\nb",
-                             "[",
-                             "(",
-                             "*",
-                             ".*",
-                             "MX25",
-                             "\xC3\xA4\xC3\xB6 \xE6\x93\xA6 \xF0\x9F\x92\xBE",
-                             "\xE2\x80\xAE right to left",
-                             "<<new device>>",
-                             "../../escaped",
-                             "MX25L25645G"};
+// clang-format off
+const char* const TEXTS[] = {
+    "", " ", "0", "1", "7", "16", "31", "-1", "99999999999", "0x9F", "0xC2 0x20 0x19", "C2,20,19", "0x00 0x02",
+    "none", "die", "id", "image", "device", "loop", "0x00010000", "4096", "256", "'; DROP TABLE device; --",
+    "<b>bold</b><img src=x>", "%1 %n %s", "a\nb", "[", "(", "*", ".*", "MX25",
+    "\xC3\xA4\xC3\xB6 \xE6\x93\xA6 \xF0\x9F\x92\xBE", "\xE2\x80\xAE right to left", "<<new device>>",
+    "../../escaped", "MX25L25645G"};
+// clang-format on
 
 template <typename TYPE, std::size_t COUNT>
 constexpr int count_of(const TYPE (&)[COUNT])

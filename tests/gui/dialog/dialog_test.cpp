@@ -35,6 +35,22 @@ QStringList flows_named(const QString& name)
     return flows;
 }
 
+void set_texts(FLASH_DOUBLE& flash, const std::string& id, const std::string& voltage, const std::string& density,
+               const std::string& flow_template)
+{
+    flash.strings = {{GFPDB_FLASH_DEVICE_ID, id},
+                     {GFPDB_FLASH_VOLTAGE, voltage},
+                     {GFPDB_FLASH_DENSITY, density},
+                     {GFPDB_FLASH_FLOW_TEMPLATE, flow_template}};
+}
+
+void set_numbers(FLASH_DOUBLE& flash, int total_die, int single_io_clocks, int quad_io_clocks)
+{
+    flash.ints = {{GFPDB_FLASH_TOTAL_DIE, total_die},
+                  {GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, single_io_clocks},
+                  {GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, quad_io_clocks}};
+}
+
 DIALOG_ARGS with_map(std::map<int, std::vector<int>> family_schemes)
 {
     DIALOG_ARGS args;

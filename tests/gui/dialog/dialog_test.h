@@ -23,6 +23,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,16 @@ constexpr int SCHEME_X4 = 13;
 constexpr int SCHEME_X1 = 7;
 constexpr int READ_ONLY_ROLE = Qt::UserRole + 1;
 constexpr int EDITABLE_ROLE = Qt::UserRole + 2;
+
+// The properties that the form has a field for.
+const std::set<int> ALL_FIELDS{GFPDB_FLASH_NAME,
+                               GFPDB_FLASH_DEVICE_ID,
+                               GFPDB_FLASH_VOLTAGE,
+                               GFPDB_FLASH_DENSITY,
+                               GFPDB_FLASH_TOTAL_DIE,
+                               GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK,
+                               GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK,
+                               GFPDB_FLASH_FLOW_TEMPLATE};
 
 using test_rows::TEXT;
 
@@ -47,6 +58,11 @@ struct DIALOG_ARGS
     std::map<int, std::vector<int>> family_schemes = {};
     QWidget* parent = nullptr;
 };
+
+// Fills the record's texts and its numbers.
+void set_texts(FLASH_DOUBLE& flash, const std::string& id, const std::string& voltage, const std::string& density,
+               const std::string& flow_template);
+void set_numbers(FLASH_DOUBLE& flash, int total_die, int single_io_clocks, int quad_io_clocks);
 
 // The usual arguments with this map of families and modes.
 DIALOG_ARGS with_map(std::map<int, std::vector<int>> family_schemes);

@@ -125,7 +125,7 @@ private slots:
 
     void without_fields_only_the_flows_are_stored()
     {
-        mgr().unused_properties = {0, 1, 2, 3, 4, 5, 6, 8};
+        mgr().unused_properties = ALL_FIELDS;
         open_with("A");
 
         QVERIFY(apply());
@@ -144,7 +144,8 @@ private slots:
         check("m_save_template_check").setChecked(true);
         type_in("m_template_name_edit", "T");
         check("m_save_template_check").setChecked(false);
-        for (const int property : {0, 2, 3, 7, 8})
+        for (const int property : {GFPDB_FLASH_NAME, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY,
+                                   GFPDB_FLASH_TEMPLATE_NAME, GFPDB_FLASH_FLOW_TEMPLATE})
             mgr().refuse(property, "refused");
 
         QVERIFY(apply());
@@ -170,7 +171,7 @@ private slots:
 
     void without_flow_editing_no_flow_is_checked_or_written()
     {
-        mgr().unused_properties = {8};
+        mgr().unused_properties = {GFPDB_FLASH_FLOW_TEMPLATE};
         open_with("A");
         mgr().flow_edit_allowed = false;
 
@@ -324,8 +325,8 @@ private:
     {
         mgr().add_custom("A").operations[false] = make_operations("own");
         mgr().flashes["A"]->operations[true] = make_operations("own quad");
-        mgr().flashes["A"]->strings = {{1, "0x01"}, {2, "2.5 V"}, {3, "128 Mb"}, {8, "Built-in D"}};
-        mgr().flashes["A"]->ints = {{4, 1}, {5, 2}, {6, 3}};
+        set_texts(*mgr().flashes["A"], "0x01", "2.5 V", "128 Mb", "Built-in D");
+        set_numbers(*mgr().flashes["A"], 1, 2, 3);
         mgr().builtin_template_operations[{0, false}] = make_operations("first");
         mgr().builtin_template_operations[{1, false}] = make_operations("single");
         mgr().builtin_template_operations[{1, true}] = make_operations("quad");

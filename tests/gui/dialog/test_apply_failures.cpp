@@ -254,7 +254,7 @@ private:
     {
         mgr().add_custom("A").operations[false] = make_operations("own");
         mgr().flashes["A"]->operations[true] = make_operations("own quad");
-        mgr().flashes["A"]->strings[8] = "Built-in A";
+        mgr().flashes["A"]->strings[GFPDB_FLASH_FLOW_TEMPLATE] = "Built-in A";
         mgr().builtin_template_operations[{0, false}] = make_operations("single");
         mgr().builtin_template_operations[{0, true}] = make_operations("quad");
     }

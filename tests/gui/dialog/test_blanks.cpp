@@ -23,47 +23,26 @@ private slots:
     void a_committed_text_is_checked_as_it_stands()
     {
         const QString text = row<QString>();
-        open();
-
-        enter("m_device_name_edit", text);
-        enter("m_device_id_edit", text);
-
-        QCOMPARE(calls(), QStringList({call_with("mgr.check_string_property(0, \"%1\")", text),
-                                       call_with("mgr.check_string_property(1, \"%1\")", text)}));
-    }
-
-    void a_chosen_text_is_checked_as_it_stands_data() { blanks_data(); }
-
-    void a_chosen_text_is_checked_as_it_stands()
-    {
-        const QString text = row<QString>();
         mgr().voltages = {"1.8 V", text.toStdString()};
         mgr().densities = {"16 Mb", text.toStdString()};
-        open();
-
-        choose_text("m_voltage_cbox", text);
-        choose_text("m_density_cbox", text);
-
-        QCOMPARE(calls(), QStringList({call_with("mgr.check_string_property(2, \"%1\")", text),
-                                       call_with("mgr.verify_string_property(2, \"%1\")", text),
-                                       call_with("mgr.check_string_property(3, \"%1\")", text)}));
-    }
-
-    void a_chosen_template_is_asked_for_as_it_stands_data() { blanks_data(); }
-
-    void a_chosen_template_is_asked_for_as_it_stands()
-    {
-        const QString text = row<QString>();
         mgr().templates.push_back(text.toStdString());
         mgr().template_operations[{text.toStdString(), false}] = make_operations("stored");
         open();
 
-        choose_text("m_flow_template_cbox", text);
+        enter("m_device_name_edit", text);
+        enter("m_device_id_edit", text);
+        for (const char* box : {"m_voltage_cbox", "m_density_cbox", "m_flow_template_cbox"})
+            choose_text(box, text);
 
         QCOMPARE(calls().filter(qs("\"")),
-                 QStringList({call_with("mgr.check_string_property(8, \"%1\")", text),
+                 QStringList({call_with("mgr.check_string_property(0, \"%1\")", text),
+                              call_with("mgr.check_string_property(1, \"%1\")", text),
+                              call_with("mgr.check_string_property(2, \"%1\")", text),
+                              call_with("mgr.verify_string_property(2, \"%1\")", text),
+                              call_with("mgr.check_string_property(3, \"%1\")", text),
+                              call_with("mgr.check_string_property(8, \"%1\")", text),
                               call_with("mgr.get_template_operations(\"%1\", false)", text)}));
-        QCOMPARE(page_flow(4), list_of({"0:stored 4"}));
+        QCOMPARE(page_flows(), flows_named("stored"));
     }
 
     void an_accepted_value_stays_as_it_was_typed_data()
@@ -132,7 +111,7 @@ private slots:
         const QString text = row<QString>();
         const std::string bytes = text.toStdString();
         FLASH_DOUBLE& flash = mgr().add_custom(bytes);
-        flash.strings = {{1, bytes}, {2, bytes}, {3, bytes}, {8, bytes}};
+        set_texts(flash, bytes, bytes, bytes, bytes);
         flash.db_dir = bytes;
         mgr().voltages = {"1.8 V", bytes};
         mgr().densities = {"16 Mb", bytes};
@@ -207,7 +186,7 @@ private slots:
 
         QVERIFY(apply());
 
-        QCOMPARE(mgr().last_created->strings[7], name.toStdString());
+        QCOMPARE(mgr().last_created->strings[GFPDB_FLASH_TEMPLATE_NAME], name.toStdString());
     }
 
     void a_template_name_with_the_device_names_blanks_is_refused()
@@ -227,7 +206,9 @@ private slots:
 
     void a_choice_with_other_blanks_is_another_choice()
     {
-        mgr().add_custom("A").strings = {{2, "3.3 V "}, {3, " 1 Gb"}, {8, "Built-in  C"}};
+        mgr().add_custom("A").strings = {{GFPDB_FLASH_VOLTAGE, "3.3 V "},
+                                         {GFPDB_FLASH_DENSITY, " 1 Gb"},
+                                         {GFPDB_FLASH_FLOW_TEMPLATE, "Built-in  C"}};
 
         open_with("A");
 
@@ -293,24 +274,15 @@ private slots:
         open();
 
         enter("m_directory_edit", text);
+        world().save_dir_succeeds = false;
+        m_modals.expect(MODAL_DRIVER::accept());
+        enter("m_directory_edit", text + qs("?"));
 
         QCOMPARE(calls_of({"save_custom_dir_to_ini", "set_db_custom_dir"}),
                  QStringList({call_with("GFPDB_MGR.save_custom_dir_to_ini(\"%1/\", false)", text),
-                              call_with("GFPDB_MGR.set_db_custom_dir(\"%1/\")", text)}));
-    }
-
-    void a_refused_directory_is_told_as_it_stands_data() { blanks_data(); }
-
-    void a_refused_directory_is_told_as_it_stands()
-    {
-        const QString text = row<QString>();
-        world().save_dir_succeeds = false;
-        open();
-        m_modals.expect(MODAL_DRIVER::accept());
-
-        enter("m_directory_edit", text);
-
-        QCOMPARE(m_modals.last().text, call_with("Failed to set the custom database directory to %1\n", text));
+                              call_with("GFPDB_MGR.set_db_custom_dir(\"%1/\")", text),
+                              call_with("GFPDB_MGR.save_custom_dir_to_ini(\"%1?/\", false)", text)}));
+        QCOMPARE(m_modals.last().text, call_with("Failed to set the custom database directory to %1?\n", text));
     }
 
     // Saved without leaving the edit first.

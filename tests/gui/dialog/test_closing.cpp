@@ -50,7 +50,7 @@ private slots:
     void an_apply_after_a_failed_check_takes_the_shown_records_other_variant()
     {
         open_with("A");
-        mgr().refuse(1, "refused");
+        mgr().refuse(GFPDB_FLASH_DEVICE_ID, "refused");
         m_modals.expect(MODAL_DRIVER::accept());
         QVERIFY(!apply());
         mgr().refused_properties.clear();
@@ -67,7 +67,7 @@ private slots:
     void a_failed_check_of_a_new_device_leaves_no_record()
     {
         open();
-        mgr().refuse(1, "refused");
+        mgr().refuse(GFPDB_FLASH_DEVICE_ID, "refused");
         m_modals.expect(MODAL_DRIVER::accept());
         QVERIFY(!apply());
         log().clear();
@@ -89,7 +89,7 @@ private slots:
         mgr().delete_succeeds = failure != QLatin1String("delete");
         mgr().save_succeeds = failure != QLatin1String("save");
         if (failure == QLatin1String("check")) {
-            mgr().refuse(0, "refused");
+            mgr().refuse(GFPDB_FLASH_NAME, "refused");
             m_modals.expect(MODAL_DRIVER::accept());
         }
         QSignalSpy finished(&dlg(), &QDialog::finished);
@@ -296,7 +296,7 @@ private:
     {
         mgr().add_custom("A").operations[false] = make_operations("own");
         mgr().flashes["A"]->operations[true] = make_operations("own quad");
-        mgr().flashes["A"]->strings[8] = "Built-in A";
+        mgr().flashes["A"]->strings[GFPDB_FLASH_FLOW_TEMPLATE] = "Built-in A";
         mgr().add_custom("C").operations[false] = make_operations("other");
         mgr().builtin_template_operations[{0, false}] = make_operations("first");
         mgr().follows_saves = false;

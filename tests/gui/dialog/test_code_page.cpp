@@ -73,11 +73,11 @@ private slots:
 
         const FLASH_DOUBLE& saved = *mgr().last_created;
         QCOMPARE(saved.name, "name " + EURO);
-        QCOMPARE(saved.strings, (std::map<int, std::string>{{1, "id " + EURO},
-                                                            {2, "volt " + EURO},
-                                                            {3, "dense " + EURO},
-                                                            {7, "new template " + EURO},
-                                                            {8, "gone " + EURO}}));
+        QCOMPARE(saved.strings, (std::map<int, std::string>{{GFPDB_FLASH_DEVICE_ID, "id " + EURO},
+                                                            {GFPDB_FLASH_VOLTAGE, "volt " + EURO},
+                                                            {GFPDB_FLASH_DENSITY, "dense " + EURO},
+                                                            {GFPDB_FLASH_TEMPLATE_NAME, "new template " + EURO},
+                                                            {GFPDB_FLASH_FLOW_TEMPLATE, "gone " + EURO}}));
         QCOMPARE(calls_of({"delete_flash"}),
                  QStringList(qs("mgr.delete_flash(%1, \"/db/custom/\")").arg(log_text("name " + EURO))));
         QCOMPARE(dlg().device_name(), "name " + EURO);
@@ -150,7 +150,7 @@ private slots:
                               qs("mgr.get_template_operations(%1, false)").arg(name),
                               qs("mgr.check_string_property(0, \"\")"), qs("mgr.check_string_property(1, \"\")")}));
         QVERIFY(log().calls().contains(qs("mgr.find_flash(%1, true)").arg(name)));
-        QCOMPARE(mgr().last_created->strings[8], "template " + EURO);
+        QCOMPARE(mgr().last_created->strings[GFPDB_FLASH_FLOW_TEMPLATE], "template " + EURO);
     }
 
     void stored_templates_are_listed_and_removed_in_the_code_page()
@@ -197,7 +197,7 @@ private:
     void fill_world() override
     {
         FLASH_DOUBLE& flash = mgr().add_custom("name " + EURO);
-        flash.strings = {{1, "id " + EURO}, {2, "volt " + EURO}, {3, "dense " + EURO}, {8, "gone " + EURO}};
+        set_texts(flash, "id " + EURO, "volt " + EURO, "dense " + EURO, "gone " + EURO);
         mgr().voltages = {"volt", "volt " + EURO};
         mgr().densities = {"dense", "dense " + EURO};
         mgr().templates.push_back("template " + EURO);

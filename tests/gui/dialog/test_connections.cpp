@@ -68,7 +68,7 @@ private slots:
 
     void unused_fields_are_not_connected()
     {
-        mgr().unused_properties = {0, 1, 2, 3, 4, 5, 6, 8};
+        mgr().unused_properties = ALL_FIELDS;
 
         open();
 
@@ -82,7 +82,7 @@ private slots:
                      "m_family_cbox currentIndexChanged(int) -> on_change_family(int)",
                      "QItemSelectionModel selectionChanged(QItemSelection,QItemSelection) -> "
                      "device_changed(QItemSelection,QItemSelection)"});
-        mgr().unused_properties = {2, 3, 8};
+        mgr().unused_properties = {GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY, GFPDB_FLASH_FLOW_TEMPLATE};
         mgr().add_custom("A");
         open_with("A");
         made_connections().clear();

@@ -192,7 +192,7 @@ private slots:
 
     void taken_out_widgets_go_with_the_dialog()
     {
-        mgr().unused_properties = {0, 1, 2, 3, 4, 5, 6, 8};
+        mgr().unused_properties = ALL_FIELDS;
         open();
         const QPointer<QObject> row_of_template(&child<QHBoxLayout>("horizontalLayout"));
         const QPointer<QObject> field(&edit("m_device_id_edit"));
@@ -217,7 +217,7 @@ private slots:
 
     void handlers_of_unused_fields_are_not_connected()
     {
-        mgr().unused_properties = {0, 1, 2, 3, 4, 5, 6, 8};
+        mgr().unused_properties = ALL_FIELDS;
         open();
 
         for (const char* name : {"m_device_name_edit", "m_device_id_edit", "m_total_die_edit", "m_clock_cycle_edit",
@@ -235,7 +235,7 @@ private slots:
     void switching_tabs_activates_the_page_only_when_templates_are_used()
     {
         for (const bool used : {true, false}) {
-            mgr().unused_properties = used ? std::set<int>() : std::set<int>{8};
+            mgr().unused_properties = used ? std::set<int>() : std::set<int>{GFPDB_FLASH_FLOW_TEMPLATE};
             open();
 
             for (int position = 1; position <= 5; ++position) {

@@ -63,7 +63,7 @@ private slots:
     void a_filtered_row_names_the_right_device()
     {
         const auto [way, calls] = row<QString, QStringList>();
-        mgr().unused_properties = {2, 3};
+        mgr().unused_properties = {GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY};
         open();
         type_in("m_filter_line_edit", "25");
         pick("W25Q");
@@ -106,7 +106,7 @@ private slots:
         QCOMPARE(current_row(), device);
         QCOMPARE(table().selectionModel()->selectedIndexes(), QModelIndexList{table().currentIndex()});
         type_in("m_filter_line_edit", "none");
-        mgr().refuse(1, "refused");
+        mgr().refuse(GFPDB_FLASH_DEVICE_ID, "refused");
         if (checks > 0)
             m_modals.expect(MODAL_DRIVER::accept());
         QStringList shown_when_asked;

@@ -63,10 +63,10 @@ private slots:
         const auto [name, choice, told, expected] = row<QString, QString, QString, QStringList>();
         const QByteArray combo_name = name.toLatin1();
         mgr().voltages.push_back("5 V");
-        mgr().refuse(3, "1 Gb", "Too dense");
-        mgr().refuse(2, "5 V", "first");
-        mgr().unverified_values[{2, "5 V"}] = "second";
-        mgr().unverified_values[{2, "3.3 V"}] = "second";
+        mgr().refuse(GFPDB_FLASH_DENSITY, "1 Gb", "Too dense");
+        mgr().refuse(GFPDB_FLASH_VOLTAGE, "5 V", "first");
+        mgr().unverified_values[{GFPDB_FLASH_VOLTAGE, "5 V"}] = "second";
+        mgr().unverified_values[{GFPDB_FLASH_VOLTAGE, "3.3 V"}] = "second";
         open();
         if (!told.isEmpty())
             m_modals.expect(MODAL_DRIVER::accept());
@@ -158,7 +158,7 @@ private slots:
     {
         mgr().builtin_template_operations[{0, false}] = make_operations("A");
         mgr().builtin_template_operations[{1, false}] = make_operations("B");
-        mgr().refuse(8, "Built-in B", "no such template");
+        mgr().refuse(GFPDB_FLASH_FLOW_TEMPLATE, "Built-in B", "no such template");
         open();
         m_modals.expect(MODAL_DRIVER::accept());
 
@@ -195,7 +195,7 @@ private slots:
     void the_warning_box_shows_the_librarys_text_as_it_stands()
     {
         const QString text = row<QString>();
-        mgr().refuse(0, text.toStdString());
+        mgr().refuse(GFPDB_FLASH_NAME, text.toStdString());
         open();
         m_modals.expect(MODAL_DRIVER::accept());
 

@@ -22,17 +22,10 @@ class TEST_FORM_CHECK : public DIALOG_TEST
 private:
     void fill_world() override { mgr().builtin_template_operations[{0, false}] = make_operations("step"); }
 
-    bool apply()
-    {
-        bool applied = false;
-        QMetaObject::invokeMethod(&dlg(), "on_apply_clicked", Qt::DirectConnection, Q_RETURN_ARG(bool, applied));
-        return applied;
-    }
-
 private slots:
     void the_box_of_a_failed_check_is_the_warning_box()
     {
-        mgr().refuse(1, "<b>%1</b> %2 & 100 %");
+        mgr().refuse(GFPDB_FLASH_DEVICE_ID, "<b>%1</b> %2 & 100 %");
         open();
         m_modals.expect(MODAL_DRIVER::accept());
 
@@ -53,7 +46,7 @@ private slots:
         open_with("A");
         tabs().setCurrentIndex(2);
         edit("m_device_name_edit").setText(QStringLiteral("renamed"));
-        mgr().refuse(0, "taken");
+        mgr().refuse(GFPDB_FLASH_NAME, "taken");
         m_modals.expect(MODAL_DRIVER::accept());
         log().clear();
 
@@ -86,7 +79,7 @@ private slots:
 
     void the_template_name_is_checked_only_when_asked_for()
     {
-        mgr().refuse(7, "no template");
+        mgr().refuse(GFPDB_FLASH_TEMPLATE_NAME, "no template");
         open();
         edit("m_device_name_edit").setText(QStringLiteral("X"));
         edit("m_template_name_edit").setText(QStringLiteral("X"));

@@ -78,8 +78,8 @@ private slots:
     {
         add_full_record("A");
         FLASH_DOUBLE& builtin = mgr().add_builtin("B");
-        builtin.strings = {{1, "0xEF"}, {2, "2.5 V"}, {3, "1 Gb"}, {8, "Built-in B"}};
-        builtin.ints = {{4, -12}, {5, 1234567}};
+        set_texts(builtin, "0xEF", "2.5 V", "1 Gb", "Built-in B");
+        builtin.ints = {{GFPDB_FLASH_TOTAL_DIE, -12}, {GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 1234567}};
 
         // A built-in device shows no voltage and density; numbers are decimal.
         open_with("B");
@@ -111,9 +111,10 @@ private slots:
     {
         const auto [voltage, density, flow_template, expected] = row<QString, QString, QString, QString>();
         mgr().voltages = {"1.8 V", "2.5 V", "3.3V", "3.3v"};
-        mgr().unverified_values[{2, "1.8 V"}] = "no";
-        add_full_record("A").strings = {
-            {2, voltage.toStdString()}, {3, density.toStdString()}, {8, flow_template.toStdString()}};
+        mgr().unverified_values[{GFPDB_FLASH_VOLTAGE, "1.8 V"}] = "no";
+        add_full_record("A").strings = {{GFPDB_FLASH_VOLTAGE, voltage.toStdString()},
+                                        {GFPDB_FLASH_DENSITY, density.toStdString()},
+                                        {GFPDB_FLASH_FLOW_TEMPLATE, flow_template.toStdString()}};
 
         open_with("A");
 
@@ -254,7 +255,7 @@ private slots:
 
     void the_first_fitting_voltage_is_chosen()
     {
-        mgr().unverified_values[{2, "1.8 V"}] = "no";
+        mgr().unverified_values[{GFPDB_FLASH_VOLTAGE, "1.8 V"}] = "no";
         open_recorded();
 
         QCOMPARE(text("m_voltage_cbox"), qs("2.5 V"));
@@ -265,7 +266,7 @@ private slots:
 
         // Where none fits, the first stays.
         for (const std::string& voltage : mgr().voltages)
-            mgr().unverified_values[{2, voltage}] = "no";
+            mgr().unverified_values[{GFPDB_FLASH_VOLTAGE, voltage}] = "no";
         open();
         QCOMPARE(combo("m_voltage_cbox").currentIndex(), 0);
         QVERIFY(combo("m_voltage_cbox").isEnabled());
@@ -288,11 +289,12 @@ private slots:
     void loading_runs_no_check_and_no_box()
     {
         add_full_record("A");
-        add_full_record("B").strings = {{2, "3.3 V"}, {3, "128 Mb"}, {8, "added"}};
+        add_full_record("B").strings = {
+            {GFPDB_FLASH_VOLTAGE, "3.3 V"}, {GFPDB_FLASH_DENSITY, "128 Mb"}, {GFPDB_FLASH_FLOW_TEMPLATE, "added"}};
         add_full_record("H");
         mgr().hidden_properties = {"H"};
         mgr().add_builtin("built-in");
-        for (const int property : {0, 1, 2, 3, 4, 5, 6, 8})
+        for (const int property : ALL_FIELDS)
             mgr().refuse(property, "refused");
         open();
 
@@ -321,8 +323,8 @@ private:
     FLASH_DOUBLE& add_full_record(const std::string& name)
     {
         FLASH_DOUBLE& flash = mgr().add_custom(name);
-        flash.strings = {{1, "0xC2 0x20 0x19"}, {2, "2.5 V"}, {3, "1 Gb"}, {8, "Built-in C"}};
-        flash.ints = {{4, 2}, {5, 8}, {6, 10}};
+        set_texts(flash, "0xC2 0x20 0x19", "2.5 V", "1 Gb", "Built-in C");
+        set_numbers(flash, 2, 8, 10);
         return flash;
     }
 

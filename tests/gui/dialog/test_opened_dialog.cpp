@@ -195,7 +195,7 @@ private slots:
     void a_box_blocks_the_whole_host()
     {
         const QString why = row<QString>();
-        mgr().refuse(1, "refused");
+        mgr().refuse(GFPDB_FLASH_DEVICE_ID, "refused");
         world().save_dir_succeeds = false;
         open();
         Qt::WindowModality modality = Qt::NonModal;
@@ -227,9 +227,9 @@ private slots:
     {
         const auto [by_mode, used] = row<bool, bool>();
         MGR_DOUBLE& first = mgr();
-        first.unused_properties = used ? std::set<int>() : std::set<int>{0, 1, 2, 3, 4, 5, 6, 8};
+        first.unused_properties = used ? std::set<int>() : ALL_FIELDS;
         open();
-        switch_manager().unused_properties = used ? std::set<int>{0, 1, 2, 3, 4, 5, 6, 8} : std::set<int>();
+        switch_manager().unused_properties = used ? ALL_FIELDS : std::set<int>();
 
         if (by_mode)
             choose("m_config_mode_cbox", SCHEME_X1);

@@ -156,7 +156,7 @@ private slots:
         mgr().templates.insert(mgr().templates.end() - 1, "YOURS");
         open();
         choose_text("m_flow_template_cbox", chosen);
-        mgr().refuse(8, "refused");
+        mgr().refuse(GFPDB_FLASH_FLOW_TEMPLATE, "refused");
         log().clear();
 
         edit_templates([](QWidget& editor) { remove(editor, 0); });

@@ -45,7 +45,7 @@ private:
         open_dialog();
         show_operation_page(GFPDB_OPERATION_INITIALIZATION);
         chart().setFocus();
-        QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("third")}));
+        QCOMPARE(chain(), QStringList({qs("step 0"), qs("second"), qs("third")}));
         QCOMPARE(selected(), QStringList());
     }
 
@@ -61,32 +61,31 @@ private slots:
             walked.append(selected().join(QLatin1Char('+')));
         }
 
-        QCOMPARE(walked, QStringList({QStringLiteral("0"), QStringLiteral("second"), QStringLiteral("third"),
-                                      QStringLiteral("third"), QStringLiteral("second"), QStringLiteral("0"), QString(),
-                                      QString(), QStringLiteral("0")}));
-    }
-
-    void home_and_end_go_to_the_ends()
-    {
-        open_page();
-
-        press(Qt::Key_End);
-        QCOMPARE(selected(), QStringList({QStringLiteral("third")}));
-        press(Qt::Key_Home);
-        QCOMPARE(selected(), QStringList({QStringLiteral("0")}));
+        QCOMPARE(walked, QStringList({qs("0"), qs("second"), qs("third"), qs("third"), qs("second"), qs("0"), QString(),
+                                      QString(), qs("0")}));
     }
 
     void shift_keeps_what_is_selected()
     {
         open_page();
+        const auto after = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+            press(key, modifiers);
+            return selected().join(QLatin1Char('+'));
+        };
 
-        press(Qt::Key_Down);
-        press(Qt::Key_Down, Qt::ShiftModifier);
-        QCOMPARE(selected(), QStringList({QStringLiteral("0"), QStringLiteral("second")}));
-        press(Qt::Key_End, Qt::ShiftModifier);
-        QCOMPARE(selected(), QStringList({QStringLiteral("0"), QStringLiteral("second"), QStringLiteral("third")}));
-        press(Qt::Key_Up);
-        QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
+        // Other modifiers are left to the view.
+        QCOMPARE(after(Qt::Key_Down, Qt::AltModifier), QString());
+        QCOMPARE(after(Qt::Key_End, Qt::ShiftModifier | Qt::AltModifier), QString());
+        QCOMPARE(after(Qt::Key_Down), qs("0"));
+        QCOMPARE(after(Qt::Key_Down, Qt::ShiftModifier), qs("0+second"));
+        QCOMPARE(after(Qt::Key_End, Qt::ShiftModifier), qs("0+second+third"));
+        QCOMPARE(after(Qt::Key_Up), qs("second"));
+        QCOMPARE(after(Qt::Key_End), qs("third"));
+        QCOMPARE(property_table().model()->index(0, 1).data().toString(), qs("third"));
+        QCOMPARE(after(Qt::Key_Home), qs("0"));
+        // Keys go on from their place after a rebuild.
+        QCOMPARE(after(Qt::Key_F5), QString());
+        QCOMPARE(after(Qt::Key_Down), qs("second"));
     }
 
     void keys_go_on_from_a_block_that_was_clicked()
@@ -103,32 +102,11 @@ private slots:
         chart().ensureVisible(second);
         QTest::mouseClick(chart().viewport(), Qt::LeftButton, Qt::NoModifier,
                           chart().mapFromScene(second->sceneBoundingRect().center()));
-        QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
+        QCOMPARE(selected(), QStringList({qs("second")}));
 
         press(Qt::Key_Down);
 
-        QCOMPARE(selected(), QStringList({QStringLiteral("third")}));
-    }
-
-    void keys_go_on_from_their_place_after_a_rebuild()
-    {
-        open_page();
-        press(Qt::Key_Down);
-        press(Qt::Key_F5);
-        QCOMPARE(selected(), QStringList());
-
-        press(Qt::Key_Down);
-
-        QCOMPARE(selected(), QStringList({QStringLiteral("second")}));
-    }
-
-    void the_selected_block_fills_the_property_table()
-    {
-        open_page();
-
-        press(Qt::Key_End);
-
-        QCOMPARE(property_table().model()->index(0, 1).data().toString(), QStringLiteral("third"));
+        QCOMPARE(selected(), QStringList({qs("third")}));
     }
 
     void the_block_that_the_keys_go_to_is_scrolled_into_view()
@@ -167,46 +145,29 @@ private slots:
         }
     }
 
-    void other_modifiers_are_left_to_the_view()
-    {
-        open_page();
-
-        press(Qt::Key_Down, Qt::AltModifier);
-        press(Qt::Key_End, Qt::ShiftModifier | Qt::AltModifier);
-
-        QCOMPARE(selected(), QStringList());
-    }
-
     void the_menu_key_means_the_arrow_below_the_last_selected_block()
     {
         open_page();
+        const auto insert = [](QWidget* menu) {
+            menu->findChild<QMenu*>()->actions().first()->trigger();
+            menu->close();
+        };
         press(Qt::Key_Down);
         press(Qt::Key_Down, Qt::ShiftModifier);
 
-        open_menu([](QWidget* menu) {
-            auto* const insert_menu = menu->findChild<QMenu*>();
-            insert_menu->actions().first()->trigger();
-            menu->close();
-        });
-
+        open_menu(insert);
         QCOMPARE(m_modals.last().menu_entries,
-                 QStringList({QStringLiteral("Copy"), QStringLiteral("-"), QStringLiteral("Insert"),
-                              QStringLiteral("-"), QStringLiteral("Refresh"), QStringLiteral("Delete")}));
-        QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("default 5"),
-                                       QStringLiteral("third")}));
-    }
+                 QStringList({qs("Copy"), qs("-"), qs("Insert"), qs("-"), qs("Refresh"), qs("Delete")}));
+        QCOMPARE(chain(), QStringList({qs("step 0"), qs("second"), qs("default 5"), qs("third")}));
 
-    void the_menu_key_means_the_first_arrow_when_nothing_is_selected()
-    {
-        open_page();
-
-        open_menu([](QWidget* menu) {
-            menu->findChild<QMenu*>()->actions().first()->trigger();
-            menu->close();
-        });
-
-        QCOMPARE(chain().first(), QStringLiteral("default 5"));
-        QCOMPARE(chain().size(), 4);
+        // The first arrow when nothing is selected; what was copied is pasted there, too.
+        open_menu(insert);
+        QCOMPARE(chain(), QStringList({qs("default 5"), qs("step 0"), qs("second"), qs("default 5"), qs("third")}));
+        press(Qt::Key_End);
+        press(Qt::Key_C, Qt::ControlModifier);
+        press(Qt::Key_Home);
+        open_menu(MODAL_DRIVER::trigger(qs("Paste")));
+        QCOMPARE(chain().mid(0, 3), QStringList({qs("default 5"), qs("third"), qs("step 0")}));
     }
 
     void the_arrow_that_the_menu_key_means_is_scrolled_into_view()
@@ -226,19 +187,6 @@ private slots:
         QVERIFY(chart().viewport()->rect().contains(arrow_in_view()));
     }
 
-    void a_block_is_copied_and_pasted_with_keys_alone()
-    {
-        open_page();
-        press(Qt::Key_Down);
-        press(Qt::Key_C, Qt::ControlModifier);
-        press(Qt::Key_End);
-
-        open_menu(MODAL_DRIVER::trigger(QStringLiteral("Paste")));
-
-        QCOMPARE(chain(), QStringList({QStringLiteral("step 0"), QStringLiteral("second"), QStringLiteral("third"),
-                                       QStringLiteral("step 0")}));
-    }
-
     void the_mouse_opens_the_menu_where_it_points()
     {
         open_page();
@@ -248,7 +196,7 @@ private slots:
         QContextMenuEvent event(QContextMenuEvent::Mouse, corner, chart().viewport()->mapToGlobal(corner));
         QApplication::sendEvent(chart().viewport(), &event);
 
-        QCOMPARE(m_modals.last().menu_entries, QStringList({QStringLiteral("Refresh")}));
+        QCOMPARE(m_modals.last().menu_entries, QStringList({qs("Refresh")}));
         // Beside the viewport, on the frame, it opens none.
         QApplication::sendEvent(&chart(), &event);
         QCOMPARE(m_modals.met().size(), 1);
@@ -265,7 +213,7 @@ private slots:
 
         QVERIFY(chart().verticalScrollBar()->value() > 0);
         open_menu(MODAL_DRIVER::reject());
-        QCOMPARE(m_modals.last().menu_entries, QStringList({QStringLiteral("Refresh")}));
+        QCOMPARE(m_modals.last().menu_entries, QStringList({qs("Refresh")}));
     }
 };
 

@@ -38,9 +38,8 @@ private:
     QString cancel_text(const QString& locale_name)
     {
         QString text;
-        call_module(locale_name, [&text](QDialog& dialog) {
-            text = dialog.findChild<QPushButton*>(QStringLiteral("m_cancel_button"))->text();
-        });
+        call_module(locale_name,
+                    [&text](QDialog& dialog) { text = dialog.findChild<QPushButton*>(qs("m_cancel_button"))->text(); });
         return text;
     }
 
@@ -53,74 +52,65 @@ private:
 private slots:
     void the_dialog_speaks_the_language_of_the_host_data()
     {
-        QTest::addColumn<QString>("cancel");
-        const auto row = [](const char* locale, const char* cancel) {
-            QTest::newRow(locale) << QString::fromUtf8(cancel);
-        };
-        row("de", "Abbrechen");
-        row("de_AT", "Abbrechen");
-        row("es_MX", "Cancelar");
-        row("fr_CA", "Annuler");
-        row("it", "Annulla");
-        row("ja_JP", "キャンセル");
-        row("ko", "취소");
-        row("pt_BR", "Cancelar");
-        row("pt_PT", "Cancelar");
-        row("ru_RU", "Отмена");
-        row("zh_CN", "取消");
-        row("zh_SG", "取消");
-        row("zh_TW", "取消");
-        row("zh_HK", "取消");
-        row("en_GB", "Cancel");
-        row("fi", "Cancel");
-        row("C", "Cancel");
+        rows<QString>({{"de", "Abbrechen"},
+                       {"de_AT", "Abbrechen"},
+                       {"es_MX", "Cancelar"},
+                       {"fr_CA", "Annuler"},
+                       {"it", "Annulla"},
+                       {"ja_JP", "キャンセル"},
+                       {"ko", "취소"},
+                       {"pt_BR", "Cancelar"},
+                       {"pt_PT", "Cancelar"},
+                       {"ru_RU", "Отмена"},
+                       {"zh_CN", "取消"},
+                       {"zh_SG", "取消"},
+                       {"zh_TW", "取消"},
+                       {"zh_HK", "取消"},
+                       {"en_GB", "Cancel"},
+                       {"fi", "Cancel"},
+                       {"C", "Cancel"}});
     }
 
     void the_dialog_speaks_the_language_of_the_host()
     {
-        QFETCH(QString, cancel);
-
-        QCOMPARE(cancel_text(QLatin1String(QTest::currentDataTag())), cancel);
+        QCOMPARE(cancel_text(QLatin1String(QTest::currentDataTag())), row<QString>());
     }
 
     void the_language_goes_with_the_dialog()
     {
         const auto translated = [] { return QCoreApplication::translate("gfpq_dlg", "Cancel"); };
         QString meanwhile;
-        call_module(QStringLiteral("de"), [&](QDialog&) { meanwhile = translated(); });
+        call_module(qs("de"), [&](QDialog&) { meanwhile = translated(); });
 
-        QCOMPARE(meanwhile, QStringLiteral("Abbrechen"));
-        QCOMPARE(translated(), QStringLiteral("Cancel"));
-        QCOMPARE(cancel_text(QStringLiteral("fr")), QStringLiteral("Annuler"));
-        QCOMPARE(cancel_text(QStringLiteral("en")), QStringLiteral("Cancel"));
+        QCOMPARE(meanwhile, qs("Abbrechen"));
+        QCOMPARE(translated(), qs("Cancel"));
+        QCOMPARE(cancel_text(qs("fr")), qs("Annuler"));
+        QCOMPARE(cancel_text(qs("en")), qs("Cancel"));
     }
 
     void every_text_of_the_form_is_translated()
     {
         const auto texts = [](const QDialog& dialog) {
-            QMap<QString, QString> all{{QStringLiteral("title"), dialog.windowTitle()}};
+            QMap<QString, QString> all{{qs("title"), dialog.windowTitle()}};
             const auto* const pages = dialog.findChild<QTabWidget*>();
-            all[QStringLiteral("page")] = pages->tabText(0);
-            for (const QLabel* const label :
-                 pages->window()->findChildren<QLabel*>(QRegularExpression(QStringLiteral("^m_"))))
+            all[qs("page")] = pages->tabText(0);
+            for (const QLabel* const label : pages->window()->findChildren<QLabel*>(QRegularExpression(qs("^m_"))))
                 all[label->objectName()] = label->text();
             for (const QAbstractButton* const button :
-                 dialog.findChildren<QAbstractButton*>(QRegularExpression(QStringLiteral("^m_"))))
+                 dialog.findChildren<QAbstractButton*>(QRegularExpression(qs("^m_"))))
                 all[button->objectName()] = button->text();
-            for (const QTableView* const table :
-                 dialog.findChildren<QTableView*>(QStringLiteral("m_device_table_view"))) {
-                all[QStringLiteral("header")] = table->model()->headerData(0, Qt::Horizontal).toString();
-                all[QStringLiteral("devices")] = table->accessibleName();
+            for (const QTableView* const table : dialog.findChildren<QTableView*>(qs("m_device_table_view"))) {
+                all[qs("header")] = table->model()->headerData(0, Qt::Horizontal).toString();
+                all[qs("devices")] = table->accessibleName();
             }
-            all[QStringLiteral("example")] =
-                dialog.findChild<QLineEdit*>(QStringLiteral("m_device_id_edit"))->placeholderText();
+            all[qs("example")] = dialog.findChild<QLineEdit*>(qs("m_device_id_edit"))->placeholderText();
             return all;
         };
         QMap<QString, QString> english;
         QMap<QString, QString> russian;
 
-        call_module(QStringLiteral("en"), [&](QDialog& dialog) { english = texts(dialog); });
-        call_module(QStringLiteral("ru"), [&](QDialog& dialog) { russian = texts(dialog); });
+        call_module(qs("en"), [&](QDialog& dialog) { english = texts(dialog); });
+        call_module(qs("ru"), [&](QDialog& dialog) { russian = texts(dialog); });
 
         QCOMPARE(english.size(), 24);
         QCOMPARE(russian.keys(), english.keys());
@@ -131,28 +121,23 @@ private slots:
     void the_words_of_the_vocabulary_stay()
     {
         QStringList words;
-        call_module(QStringLiteral("ja"), [&words](QDialog& dialog) {
+        call_module(qs("ja"), [&words](QDialog& dialog) {
             const auto* const pages = dialog.findChild<QTabWidget*>();
             for (int page = 1; page < pages->count(); ++page)
                 words.append(pages->tabText(page));
-            words.append(dialog.findChild<QComboBox*>(QStringLiteral("m_config_mode_cbox"))->currentText());
-            words.append(dialog.findChild<QTableView*>(QStringLiteral("m_device_table_view"))
-                             ->model()
-                             ->index(0, 0)
-                             .data()
-                             .toString());
+            words.append(dialog.findChild<QComboBox*>(qs("m_config_mode_cbox"))->currentText());
+            words.append(
+                dialog.findChild<QTableView*>(qs("m_device_table_view"))->model()->index(0, 0).data().toString());
         });
 
-        QCOMPARE(words,
-                 QStringList({QStringLiteral("Initialization"), QStringLiteral("Program"), QStringLiteral("Erase"),
-                              QStringLiteral("Verify/Blank-Check/Examine"), QStringLiteral("Termination"),
-                              QStringLiteral("Active Serial x4"), QStringLiteral("<<new device>>")}));
+        QCOMPARE(words, QStringList({qs("Initialization"), qs("Program"), qs("Erase"), qs("Verify/Blank-Check/Examine"),
+                                     qs("Termination"), qs("Active Serial x4"), qs("<<new device>>")}));
     }
 
     void the_menu_of_a_chart_says_insert_in_the_language()
     {
-        QLocale::setDefault(QLocale(QStringLiteral("de")));
-        const TEXT_CATALOGUE texts(QStringLiteral("gfpq"), {QStringLiteral(":/gfpq/translations")});
+        QLocale::setDefault(QLocale(qs("de")));
+        const TEXT_CATALOGUE texts(qs("gfpq"), {qs(":/gfpq/translations")});
         open_dialog();
         show_operation_page(GFPDB_OPERATION_ERASE);
 
@@ -160,15 +145,14 @@ private slots:
         QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, QPoint());
         QApplication::sendEvent(&chart(), &menu_key);
 
-        QCOMPARE(m_modals.last().menu_entries,
-                 QStringList({QStringLiteral("Einf\u00fcgen"), QStringLiteral("-"), QStringLiteral("Refresh")}));
+        QCOMPARE(m_modals.last().menu_entries, QStringList({qs("Einf\u00fcgen"), qs("-"), qs("Refresh")}));
     }
 
     void the_template_editor_speaks_the_language()
     {
         QStringList texts;
-        call_module(QStringLiteral("fr"), [&](QDialog& dialog) {
-            dialog.findChild<QTableView*>(QStringLiteral("m_device_table_view"))->selectRow(0);
+        call_module(qs("fr"), [&](QDialog& dialog) {
+            dialog.findChild<QTableView*>(qs("m_device_table_view"))->selectRow(0);
             m_modals.expect([&texts](QWidget* editor) {
                 texts.append(editor->windowTitle());
                 for (const char* name : {"m_templates_label"})
@@ -177,11 +161,11 @@ private slots:
                     texts.append(editor->findChild<QPushButton*>(QLatin1String(name))->text());
                 editor->close();
             });
-            dialog.findChild<QPushButton*>(QStringLiteral("m_edit_template_button"))->click();
+            dialog.findChild<QPushButton*>(qs("m_edit_template_button"))->click();
         });
 
-        QCOMPARE(texts, QStringList({QStringLiteral("Modifier les mod\u00e8les"), QStringLiteral("Mod\u00e8les\u00a0:"),
-                                     QStringLiteral("Supprimer"), QStringLiteral("Fermer")}));
+        QCOMPARE(texts, QStringList({qs("Modifier les mod\u00e8les"), qs("Mod\u00e8les\u00a0:"), qs("Supprimer"),
+                                     qs("Fermer")}));
     }
 
     // A process of its own: the languages of the user are read once, at its start.
@@ -198,9 +182,9 @@ private slots:
     {
         const auto [languages, cancel] = row<QString, QString>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("LC_ALL"));
-        environment.insert(QStringLiteral("LANG"), QStringLiteral("en_US.UTF-8"));
-        environment.insert(QStringLiteral("LANGUAGE"), languages);
+        environment.remove(qs("LC_ALL"));
+        environment.insert(qs("LANG"), qs("en_US.UTF-8"));
+        environment.insert(qs("LANGUAGE"), languages);
         QProcess probe;
         probe.setProcessEnvironment(environment);
 
@@ -212,30 +196,28 @@ private slots:
 
     void a_catalogue_that_is_tried_out_comes_first()
     {
-        QVERIFY(
-            QFile::copy(QStringLiteral(":/gfpq/translations/gfpq_ko.qm"), scratch() + QStringLiteral("/gfpq_de.qm")));
+        QVERIFY(QFile::copy(qs(":/gfpq/translations/gfpq_ko.qm"), scratch() + qs("/gfpq_de.qm")));
         qputenv("GFPQ_TRANSLATIONS", scratch().toLocal8Bit());
-        const QString tried_out = cancel_text(QStringLiteral("de"));
+        const QString tried_out = cancel_text(qs("de"));
         qunsetenv("GFPQ_TRANSLATIONS");
 
         QCOMPARE(tried_out, QString::fromUtf8("취소"));
-        QCOMPARE(cancel_text(QStringLiteral("de")), QStringLiteral("Abbrechen"));
+        QCOMPARE(cancel_text(qs("de")), qs("Abbrechen"));
     }
 
     void directories_are_looked_through_in_order()
     {
-        QVERIFY(
-            QFile::copy(QStringLiteral(":/gfpq/translations/gfpq_it.qm"), scratch() + QStringLiteral("/gfpq_de.qm")));
-        QLocale::setDefault(QLocale(QStringLiteral("de")));
-        const QString embedded = QStringLiteral(":/gfpq/translations");
+        QVERIFY(QFile::copy(qs(":/gfpq/translations/gfpq_it.qm"), scratch() + qs("/gfpq_de.qm")));
+        QLocale::setDefault(QLocale(qs("de")));
+        const QString embedded = qs(":/gfpq/translations");
         const auto cancel = [](const QStringList& directories) {
-            const TEXT_CATALOGUE texts(QStringLiteral("gfpq"), directories);
+            const TEXT_CATALOGUE texts(qs("gfpq"), directories);
             return QCoreApplication::translate("gfpq_dlg", "Cancel");
         };
 
-        QCOMPARE(cancel({QStringLiteral("/no/such/place"), scratch(), embedded}), QStringLiteral("Annulla"));
-        QCOMPARE(cancel({embedded, scratch()}), QStringLiteral("Abbrechen"));
-        QCOMPARE(cancel({}), QStringLiteral("Cancel"));
+        QCOMPARE(cancel({qs("/no/such/place"), scratch(), embedded}), qs("Annulla"));
+        QCOMPARE(cancel({embedded, scratch()}), qs("Abbrechen"));
+        QCOMPARE(cancel({}), qs("Cancel"));
     }
 };
 
