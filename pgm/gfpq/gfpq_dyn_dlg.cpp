@@ -18,8 +18,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(lc_gfpq, "gfpq.dialog")
 
-// Closes a dialog when its parent, or a window above that, is about to be deleted (QObject::deleteLater), and takes it
-// off the parent, which would delete an object of the stack. GUI thread only.
+// Closes a dialog when its parent or a window above it is about to be deleted (QObject::deleteLater), and removes it
+// from the parent, which would otherwise delete an object on the stack. GUI thread only.
 class PARENT_WATCH : public QObject
 {
 public:
@@ -53,7 +53,7 @@ void run_dialog(QWidget* parent, GFPQ_DYN_DLG_ARGS& args, bool enable_family, bo
     const PARENT_WATCH parent_watch(dialog);
     dialog.exec();
 
-    // The copy can fail, what follows cannot: the record is written whole or not at all.
+    // Only the copy can fail, so the record is written as a whole or not at all.
     std::string chosen_name = dialog.device_name();
     args.family = dialog.family();
     args.config_scheme = dialog.config_scheme();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Connections that are cut while the program itself changes what the user usually changes.
+// Connections that are cut while the program changes what the user usually changes.
 #pragma once
 
 #include <initializer_list>
@@ -18,12 +18,12 @@ struct GFPQ_CONNECTION
 
     // Makes the connection through the framework.
     void make() const;
-    // Breaks it; false when it was not there.
+    // Breaks it; false if there was none.
     bool cut() const;
 };
 
-// Cuts connections for as long as it lives and makes them again, both in the order given. A connection that was not
-// there, because it was never made or an outer cut holds it, is left alone.
+// Cuts connections while it exists and then makes them again, both in the order given. A connection that was not there,
+// because it was never made or is cut already, is left out.
 class GFPQ_CONNECTION_CUT
 {
 public:

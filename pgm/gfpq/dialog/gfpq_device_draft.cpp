@@ -168,7 +168,7 @@ bool GFPQ_DEVICE_DRAFT::store_flows(GFPDB_FLASH& flash) const
     return true;
 }
 
-// The variant that is not shown comes from where the device came from: its former record, or its template.
+// The variant that is not shown has the same source as the device: its previous record, or its template.
 void GFPQ_DEVICE_DRAFT::store_template(GFPDB_FLASH& flash) const
 {
     if (!m_manager.is_property_used(GFPDB_FLASH_FLOW_TEMPLATE))

@@ -76,7 +76,7 @@ public:
 
     // The name that was entered.
     QString name() const;
-    // What the user is told about the first value that the library refuses; empty when it accepts all.
+    // The warning about the first value that the library refuses; empty if it accepts all.
     QString find_fault() const;
 
     void store_fields(GFPDB_FLASH& flash) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/gfpq_device_form.h"
 
+#include "words/gfpq_accessible_name.h"
 #include "words/gfpq_text.h"
 #include "words/gfpq_warning.h"
 
@@ -16,8 +17,7 @@ namespace {
 // With fewer voltages there is nothing to choose.
 constexpr int MIN_VOLTAGE_CHOICES = 2;
 
-// The item of that text: letter for letter, so that a stored value is saved as it was, else without regard to case; -1
-// when there is none.
+// The item of that text: in the same case, so that a stored value is saved as it was, else in any case; -1 for none.
 int find_choice(const QComboBox& combo, const QString& text)
 {
     const int exact = combo.findText(text, Qt::MatchExactly);
@@ -64,6 +64,11 @@ const GFPQ_DEVICE_FORM::FIELD& GFPQ_DEVICE_FORM::field_of(GFPDB_FLASH_PROPERTY p
                          [property](const FIELD& field) { return field.property == property; });
 }
 
+QWidget* GFPQ_DEVICE_FORM::editor_of(const FIELD& field)
+{
+    return field.edit != nullptr ? static_cast<QWidget*>(field.edit) : field.combo;
+}
+
 GFPQ_CONNECTION GFPQ_DEVICE_FORM::commit_of(const FIELD& field) const
 {
     if (field.combo != nullptr)
@@ -79,9 +84,10 @@ void GFPQ_DEVICE_FORM::set_up() const
             if (is_template)
                 take_out_template_row();
             else
-                take_out({field.label, field.edit != nullptr ? static_cast<QWidget*>(field.edit) : field.combo});
+                take_out({field.label, editor_of(field)});
             continue;
         }
+        gfpq_name_after(*editor_of(field), field.label->text());
         if (field.combo != nullptr)
             fill(field);
         if (field.property == GFPDB_FLASH_DEVICE_ID)
@@ -94,6 +100,7 @@ void GFPQ_DEVICE_FORM::set_up() const
 
 void GFPQ_DEVICE_FORM::set_up_template_row() const
 {
+    gfpq_name_after(*m_ui.m_template_name_edit, m_ui.m_save_template_check->text());
     const GFPQ_CONNECTION connections[] = {
         {m_ui.m_prog_flows_tab_widget, SIGNAL(currentChanged(int)), &m_dialog, SLOT(on_tab_index_changed(int))},
         {m_ui.m_save_template_check, SIGNAL(toggled(bool)), &m_dialog, SLOT(on_save_template_toggled(bool))},
@@ -112,15 +119,13 @@ void GFPQ_DEVICE_FORM::take_out(std::initializer_list<QWidget*> widgets) const
 
 void GFPQ_DEVICE_FORM::take_out_template_row() const
 {
-    for (QWidget* const widget :
-         std::initializer_list<QWidget*>{m_ui.m_flow_template_cbox, m_ui.m_edit_template_button}) {
-        widget->hide();
-        m_ui.horizontalLayout->removeWidget(widget);
-    }
-    // A layout that was taken out of another has no parent any more: without one nothing would delete it.
+    m_ui.horizontalLayout->removeWidget(m_ui.m_flow_template_cbox);
+    m_ui.horizontalLayout->removeWidget(m_ui.m_edit_template_button);
+    // A layout that is taken out of another loses its parent; without a parent nothing would delete it.
     m_ui.formLayout_3->removeItem(m_ui.horizontalLayout);
     m_ui.horizontalLayout->setParent(m_ui.scrollAreaWidgetContents);
-    take_out({m_ui.m_flow_template_label, m_ui.m_save_template_check, m_ui.m_template_name_edit});
+    take_out({m_ui.m_flow_template_label, m_ui.m_flow_template_cbox, m_ui.m_edit_template_button,
+              m_ui.m_save_template_check, m_ui.m_template_name_edit});
 }
 
 void GFPQ_DEVICE_FORM::fill_choices() const
@@ -175,7 +180,7 @@ void GFPQ_DEVICE_FORM::show(const GFPDB_FLASH& flash) const
         if (field.edit != nullptr)
             field.edit->setText(text);
         else if (field.property != GFPDB_FLASH_FLOW_TEMPLATE && !flash.is_user_defined())
-            // A built-in device does not say at what voltage and in what density it comes.
+            // The voltage and density of a built-in device are not shown.
             clear(field);
         else
             show_choice(field, text);

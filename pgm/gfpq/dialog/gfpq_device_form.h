@@ -12,6 +12,7 @@
 #include <vector>
 
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QString;
 class QWidget;
@@ -52,7 +53,7 @@ private:
     {
         GFPDB_FLASH_PROPERTY property;
         GFPQ_FIELD_KIND kind;
-        QWidget* label;
+        QLabel* label;
         // The line edit of a text or a number, or the combo box of a choice; the other is null.
         QLineEdit* edit;
         QComboBox* combo;
@@ -66,6 +67,7 @@ private:
 
     template <typename WORK>
     void for_each_used(const WORK& work) const;
+    static QWidget* editor_of(const FIELD& field);
     const FIELD& field_of(GFPDB_FLASH_PROPERTY property) const;
     GFPQ_CONNECTION commit_of(const FIELD& field) const;
     void set_up_template_row() const;

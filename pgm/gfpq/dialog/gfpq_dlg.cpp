@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Construction of the dialog, how it closes, and what holds its parts together.
+// Constructing and closing the dialog, and its connections.
 
 #include "dialog/gfpq_dlg.h"
 
@@ -8,8 +8,8 @@
 #include "dialog/gfpq_dlg_internal.h"
 #include "dialog/gfpq_form.h"
 #include "dialog/gfpq_pane_fitter.h"
-#include "flow/gfpq_accessibility.h"
 #include "flow/gfpq_operation_tab_widget.h"
+#include "words/gfpq_accessible_name.h"
 #include "words/gfpq_text.h"
 #include "words/gfpq_vocabulary.h"
 
@@ -18,6 +18,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QTabBar>
+#include <QToolButton>
 
 GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::string& device_name, bool enable_family,
                    bool enable_config_mode, bool enable_edit, const std::map<int, std::vector<int>>& family_schemes)
@@ -47,13 +49,14 @@ GFPQ_DLG::GFPQ_DLG(QWidget* parent, int family, int config_scheme, const std::st
     set_up_device_table();
     device_form().set_up();
     create_operation_tabs();
-    // The selection is connected already: the first device comes the way a click brings one, too.
+    // The selection is connected already: the first device is loaded in the same way as after a click.
     fill_device_list();
     select_device(device_name);
     connect_controls();
     new GFPQ_PANE_FITTER(*ui.m_config_device_splitter, *ui.m_device_info_scroll_area);
     gfpq_fit_titles(*this, *ui.m_prog_flows_tab_widget);
-    gfpq_make_accessible(*this, *ui.m_device_table_view, *ui.m_prog_flows_tab_widget);
+    name_controls();
+    order_stops();
 }
 
 GFPQ_DLG::~GFPQ_DLG() = default;
@@ -66,8 +69,8 @@ bool GFPQ_DLG::eventFilter(QObject* watched, QEvent* event)
     return KOVQ_DIALOG::eventFilter(watched, event);
 }
 
-// Going on to Cancel leaves the directory open: whoever cancels saves nothing, whoever leaves Cancel again for another
-// place has left the directory, too. Neither does the dialog that goes save anything; and a menu is no leaving at all.
+// Moving the focus to Cancel does not apply the directory, because Cancel discards it; moving it on from Cancel does. A
+// closing dialog applies nothing, and opening a menu does not count as leaving.
 bool GFPQ_DLG::leaves_directory(const QFocusEvent& event) const
 {
     const bool closing = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
@@ -76,7 +79,7 @@ bool GFPQ_DLG::leaves_directory(const QFocusEvent& event) const
     return !closing && !menu && next != ui.m_cancel_button && next != ui.m_directory_edit;
 }
 
-// The window's close button hands nothing back, and needs nothing of the base class's.
+// The window's close button hands nothing back. The base class is not needed.
 void GFPQ_DLG::closeEvent(QCloseEvent* event)
 {
     event->accept();
@@ -84,18 +87,13 @@ void GFPQ_DLG::closeEvent(QCloseEvent* event)
 
 void GFPQ_DLG::on_ok_clicked()
 {
-    if (!apply())
+    if (!on_apply_clicked())
         return;
     m_family = current_family();
     m_config_scheme = current_scheme();
     m_device_name = selected_device_name();
-    // The same way out as Cancel: the caller reads the three values, not the dialog's result.
+    // As Cancel does: the caller reads the three values, not the dialog's result.
     reject();
-}
-
-bool GFPQ_DLG::on_apply_clicked()
-{
-    return apply();
 }
 
 void GFPQ_DLG::on_cancel_clicked()
@@ -155,4 +153,29 @@ void GFPQ_DLG::connect_controls()
         {ui.m_browse_button, SIGNAL(clicked()), this, SLOT(on_browse_directory())}};
     for (const GFPQ_CONNECTION& connection : connections)
         connection.make();
+}
+
+// The device fields get theirs with the rest of what they need.
+void GFPQ_DLG::name_controls()
+{
+    gfpq_name_after(*ui.m_family_cbox, ui.m_family_label->text());
+    gfpq_name_after(*ui.m_config_mode_cbox, ui.m_config_mode_label->text());
+    gfpq_name_after(*ui.m_directory_edit, ui.m_directory_label->text());
+    gfpq_name_after(*ui.m_filter_line_edit, ui.m_filter_label->text());
+    ui.m_device_info_scroll_area->setAccessibleName(ui.m_prog_flows_tab_widget->tabText(GFPQ_DEVICE_TAB));
+}
+
+// Tab moves through the visible page to the buttons below it. It skips the buttons that scroll the page titles: the
+// arrow keys show every title.
+void GFPQ_DLG::order_stops()
+{
+    QWidget* previous = m_op_tabs.back()->last_stop();
+    for (QWidget* const button : {ui.m_ok_button, ui.m_cancel_button, ui.m_apply_button}) {
+        setTabOrder(previous, button);
+        previous = button;
+    }
+    const QList<QToolButton*> scrollers =
+        ui.m_prog_flows_tab_widget->findChild<QTabBar*>()->findChildren<QToolButton*>();
+    for (QToolButton* const scroller : scrollers)
+        scroller->setFocusPolicy(Qt::NoFocus);
 }

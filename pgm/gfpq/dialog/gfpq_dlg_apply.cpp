@@ -13,7 +13,7 @@
 
 #include "gfpdb/gfpdb_mgr.h"
 
-bool GFPQ_DLG::apply()
+bool GFPQ_DLG::on_apply_clicked()
 {
     uncover_shown_row();
     const std::string selected = selected_device_name();
@@ -57,7 +57,7 @@ bool GFPQ_DLG::save(const GFPQ_DEVICE_DRAFT& draft)
             tab->release_flow(false);
     }
     draft.store_template(*m_current_flash);
-    // The name may have changed: the device leaves under its former name before it comes back under the entered one.
+    // The name may have changed: the device is deleted under its previous name, then saved under the one entered.
     if (!m_gfpdb_mgr->delete_flash(draft.selected, draft.directory) ||
         !m_gfpdb_mgr->save_flash(m_current_flash, draft.directory)) {
         show_unsaved_flows();

@@ -14,34 +14,25 @@
 void GFPQ_DLG::load_device(const QModelIndex& source_index)
 {
     const QStandardItem* const item = m_device_model.itemFromIndex(source_index);
+    // Of this row: while the keyboard moves the selection, the view's current row is still the previous one.
     const std::string name = gfpq_to_local(item->text());
     const bool new_device = gfpq_is_new_device(name);
-    m_shown_row = source_index;
-    bool editable = new_device || !item->data(GFPQ_READ_ONLY_ROLE).toBool();
-
     const GFPQ_DEVICE_FORM form = device_form();
+    m_shown_row = source_index;
+
     form.fill_choices();
-    if (new_device)
-        m_current_flash = nullptr;
-    else
-        load_record(name);
-    if (m_current_flash != nullptr)
-        editable = m_current_flash->is_user_defined();
+    m_current_flash = new_device ? nullptr : m_gfpdb_mgr->find_flash(name, true);
+    if (!new_device && m_gfpdb_mgr->is_hidden_flash(name, false))
+        form.show_nothing();
+    else if (m_current_flash != nullptr)
+        form.show(*m_current_flash);
+
+    const bool read_only = !new_device && item->data(GFPQ_READ_ONLY_ROLE).toBool();
+    const bool editable = m_current_flash != nullptr ? m_current_flash->is_user_defined() : !read_only;
     form.enable(new_device, editable);
-    ui.m_delete_button->setEnabled(!new_device && m_current_flash != nullptr && m_current_flash->is_user_defined());
+    ui.m_delete_button->setEnabled(m_current_flash != nullptr && editable);
     ui.m_apply_button->setEnabled(editable);
     show_operation_tabs(name, new_device, editable);
-}
-
-// The name is the one of the row being loaded: while the keyboard moves the selection, the view's current row is still
-// the former one.
-void GFPQ_DLG::load_record(const std::string& name)
-{
-    m_current_flash = m_gfpdb_mgr->find_flash(name, true);
-    if (m_gfpdb_mgr->is_hidden_flash(name, false))
-        device_form().show_nothing();
-    else if (m_current_flash != nullptr)
-        device_form().show(*m_current_flash);
 }
 
 void GFPQ_DLG::show_operation_tabs(const std::string& name, bool new_device, bool editable)
@@ -50,16 +41,11 @@ void GFPQ_DLG::show_operation_tabs(const std::string& name, bool new_device, boo
     const bool shown = !hidden && m_gfpdb_mgr->can_edit_flow();
     if (shown)
         load_flows(new_device);
-    enable_operation_tabs(shown);
-}
-
-void GFPQ_DLG::enable_operation_tabs(bool enabled)
-{
-    // An operation page that is being disabled would hand over to its neighbour, and that to the next.
-    if (!enabled)
+    else
+        // A visible page that is disabled would show its neighbour, which is disabled next, and so on.
         show_device_page();
     for (int operation = GFPDB_OPERATION_COUNT - 1; operation >= 0; --operation)
-        ui.m_prog_flows_tab_widget->setTabEnabled(GFPQ_FIRST_OPERATION_TAB + operation, enabled);
+        ui.m_prog_flows_tab_widget->setTabEnabled(GFPQ_FIRST_OPERATION_TAB + operation, shown);
 }
 
 void GFPQ_DLG::load_flows(bool new_device)

@@ -15,7 +15,7 @@
 
 namespace {
 
-// What stands in for a filter that is no valid expression; asking an invalid one would warn once per row.
+// Replaces a filter that is not a valid expression: Qt warns about an invalid one once per row.
 const QLatin1String NEVER_MATCHING("(?!)");
 
 QStandardItem* make_row(const QString& name, int mark)
@@ -46,12 +46,14 @@ void GFPQ_DLG::set_up_device_table()
     m_proxy_model.setSourceModel(&m_device_model);
     m_proxy_model.setFilterKeyColumn(0);
     table.setModel(&m_proxy_model);
-    // Else the view would make its first row current when it gets the focus.
+    // Otherwise the view makes its first row current when it gets the focus.
     table.setCurrentIndex(QModelIndex());
 
     table.setSelectionMode(QAbstractItemView::SingleSelection);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setAlternatingRowColors(true);
+    table.setTabKeyNavigation(false);
+    table.setAccessibleName(QCoreApplication::translate("gfpq_dlg", "Devices"));
 
     m_device_model.setColumnCount(1);
     m_device_model.setHorizontalHeaderItem(0, new QStandardItem(QCoreApplication::translate("gfpq_dlg", "Name")));
@@ -67,7 +69,7 @@ void GFPQ_DLG::set_up_device_table()
         .make();
 }
 
-// All rows leave and come in one step each: row by row the proxy would need time quadratic in their number.
+// All rows are removed in one step and added in one step: row by row, the proxy takes time quadratic in their number.
 void GFPQ_DLG::fill_device_list()
 {
     const int family = current_family();
@@ -77,7 +79,7 @@ void GFPQ_DLG::fill_device_list()
     QList<QStandardItem*> rows;
     if (m_gfpdb_mgr->can_add_flash())
         rows.append(make_row(QLatin1String(GFPQ_NEW_DEVICE), GFPQ_EDITABLE_ROLE));
-    // A list of its own for each: a library may append to what it is given.
+    // A separate list for each: a library may append to the list it is given.
     std::vector<std::string> custom_names;
     append_rows(rows, m_gfpdb_mgr->get_custom_flash_names(custom_names, family, scheme, 0), GFPQ_EDITABLE_ROLE);
     std::vector<std::string> builtin_names;
@@ -90,22 +92,20 @@ void GFPQ_DLG::select_device(const std::string& name)
 {
     const QString text = name.empty() ? QString(QLatin1String(GFPQ_NEW_DEVICE)) : gfpq_from_local(name);
     const QList<QStandardItem*> found = m_device_model.findItems(text, Qt::MatchExactly, 0);
-    const QModelIndex row = found.isEmpty() ? first_row() : found.first()->index();
+    QModelIndex row = m_proxy_model.mapToSource(m_proxy_model.index(0, 0));
+    if (!found.isEmpty())
+        row = found.first()->index();
+    else if (!row.isValid())
+        row = m_device_model.index(0, 0);
     m_shown_row = row;
     make_shown_row_current();
 
-    // Loaded here whether or not the selection's slot, which is cut in most rebuilds, has seen the row; and also a row
-    // that the filter hides, so that the form never keeps a device that is not in the list.
+    // Loaded here because the slot of the selection is cut in most rebuilds. A row that the filter hides is loaded,
+    // too, so that the form never keeps a device that is not in the list.
     if (row.isValid())
         load_device(row);
     else
         m_current_flash = nullptr;
-}
-
-QModelIndex GFPQ_DLG::first_row() const
-{
-    return m_proxy_model.rowCount() > 0 ? m_proxy_model.mapToSource(m_proxy_model.index(0, 0))
-                                        : m_device_model.index(0, 0);
 }
 
 void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
@@ -115,7 +115,7 @@ void GFPQ_DLG::rebuild_device_list(const std::string& name_to_select)
     select_device(name_to_select);
 }
 
-// By the index, not by the number of the row: selectRow() finds no column in a layout from right to left.
+// By the index: selectRow() finds no column in a right-to-left layout.
 void GFPQ_DLG::make_shown_row_current()
 {
     ui.m_device_table_view->selectionModel()->setCurrentIndex(
@@ -133,16 +133,10 @@ bool GFPQ_DLG::shows_new_device() const
     return gfpq_is_new_device(gfpq_to_local(m_shown_row.data().toString()));
 }
 
-QModelIndex GFPQ_DLG::current_source_index() const
-{
-    const QItemSelectionModel* const selection = ui.m_device_table_view->selectionModel();
-    return selection == nullptr ? QModelIndex() : m_proxy_model.mapToSource(selection->currentIndex());
-}
-
 std::string GFPQ_DLG::selected_device_name() const
 {
-    const QModelIndex current = current_source_index();
-    return current.isValid() ? gfpq_to_local(m_device_model.itemFromIndex(current)->text()) : std::string();
+    const QItemSelectionModel* const selection = ui.m_device_table_view->selectionModel();
+    return selection == nullptr ? std::string() : gfpq_to_local(selection->currentIndex().data().toString());
 }
 
 void GFPQ_DLG::device_changed(const QItemSelection& current_selection, const QItemSelection& previous_selection)
@@ -151,14 +145,14 @@ void GFPQ_DLG::device_changed(const QItemSelection& current_selection, const QIt
     const QModelIndex previous = previous_selection.indexes().value(0);
     if (!current.isValid() || m_proxy_model.mapToSource(current) == m_proxy_model.mapToSource(previous))
         return;
-    // A row can be selected without becoming current: assistive technology does so.
+    // Assistive technology can select a row without making it current.
     ui.m_device_table_view->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     load_device(m_proxy_model.mapToSource(current));
 }
 
-// The rows come back in one step: row by row, the proxy would need time quadratic in the number of rows that the filter
-// shows or hides. The row that the form shows becomes current again, or no row is: the view would else go on to a
-// neighbour of a row that is hidden.
+// The rows are added again in one step: row by row, the proxy takes time quadratic in the number of rows that the
+// filter shows or hides. The row that the form shows becomes current again, or no row is: otherwise the view would make
+// the neighbour of a hidden row current.
 void GFPQ_DLG::update_filter(const QString& filter_string)
 {
     QString pattern = filter_string;

@@ -27,7 +27,7 @@ std::string folder(const std::string& text)
     return PGM_COMMON::change_folder_slash(text + "/");
 }
 
-// The directory that the host shows paths relative to; empty for none.
+// The directory that the host's paths are relative to; empty for none.
 std::string host_base_directory()
 {
     auto* const app = qobject_cast<ZUI_APP*>(kovq_get_app());
@@ -39,7 +39,7 @@ std::string host_base_directory()
     return ui_mgr->get_base_dir();
 }
 
-// Makes the place where browsing starts the process's current directory, where it stays.
+// Makes the directory where browsing starts the current directory of the process. It stays so.
 void enter_start_directory(FIO_PATH& start, const std::string& base)
 {
     if (!base.empty()) {
@@ -51,8 +51,8 @@ void enter_start_directory(FIO_PATH& start, const std::string& base)
 
 } // namespace
 
-// The edit shows the directory byte by byte; as long as the user has not touched it, its text is not read back, because
-// it would name another directory where the name has letters outside ASCII.
+// The edit shows the directory byte by byte. Its text is not read back until the user changes it: with letters outside
+// ASCII it would name another directory.
 bool GFPQ_DLG::is_directory_untouched() const
 {
     return ui.m_directory_edit->text() == gfpq_from_latin1(GFPDB_MGR::get_db_custom_dir());
@@ -63,7 +63,7 @@ std::string GFPQ_DLG::directory_text() const
     return is_directory_untouched() ? GFPDB_MGR::get_db_custom_dir() : gfpq_to_local(ui.m_directory_edit->text());
 }
 
-// An empty edit stands for the directory in use.
+// An empty edit means the directory in use.
 std::string GFPQ_DLG::entered_directory() const
 {
     const std::string text = directory_text();
@@ -101,7 +101,7 @@ void GFPQ_DLG::on_directory_editing_finished()
 void GFPQ_DLG::use_directory(const std::string& directory)
 {
     GFPDB_MGR::set_db_custom_dir(directory);
-    // The scheme of the last OK, not the combo's, on purpose; the combo's follows with set_config_scheme.
+    // On purpose the scheme of the last OK; the one in the combo box follows with set_config_scheme.
     GFPDB_HELPER::set_active_flash_family(static_cast<PGMIO_CONFIG_SCHEME>(m_config_scheme));
     fetch_manager(true, __LINE__);
     m_gfpdb_mgr->set_device_family(current_family());

@@ -14,7 +14,7 @@
 
 namespace {
 
-// The last scheme that can be preselected. The illegal one is offered when it is asked for, but never preselected.
+// The last scheme that can be preselected. The illegal one can be offered, but is never preselected.
 constexpr int LAST_PRESELECTED_SCHEME = PGMIO_SDMMC_X8;
 
 QString family_name(int family)
@@ -32,17 +32,11 @@ QString scheme_name(int scheme)
     return gfpq_from_utf8(PGMIO_CONFIG_SCHEME_NAMES[scheme]);
 }
 
-void sort_and_select_first(QComboBox* combo)
+// Sorts the items and selects the one of that text, or else the first.
+void sort_and_select(QComboBox* combo, const QString& text)
 {
     combo->model()->sort(0, Qt::AscendingOrder);
-    combo->setCurrentIndex(0);
-}
-
-void select_text(QComboBox* combo, const QString& text)
-{
-    const int index = combo->findText(text, Qt::MatchFixedString);
-    if (index > 0)
-        combo->setCurrentIndex(index);
+    combo->setCurrentIndex(qMax(0, combo->findText(text, Qt::MatchFixedString)));
 }
 
 } // namespace
@@ -67,9 +61,8 @@ void GFPQ_DLG::fill_family_list(int /*scheme*/, int family)
         if (m_family_schemes.empty() || m_family_schemes.count(offered) != 0)
             ui.m_family_cbox->addItem(family_name(offered), offered);
     }
-    sort_and_select_first(ui.m_family_cbox);
-    if (family >= DEV_FAMILY_FIRST && family <= DEV_FAMILY_LAST)
-        select_text(ui.m_family_cbox, family_name(family));
+    const bool is_family = family >= DEV_FAMILY_FIRST && family <= DEV_FAMILY_LAST;
+    sort_and_select(ui.m_family_cbox, is_family ? family_name(family) : QString());
     m_gfpdb_mgr->set_device_family(current_family());
 }
 
@@ -80,9 +73,8 @@ void GFPQ_DLG::fill_scheme_list(int family, int scheme)
         if (is_scheme(offered))
             ui.m_config_mode_cbox->addItem(scheme_name(offered), offered);
     }
-    sort_and_select_first(ui.m_config_mode_cbox);
-    if (scheme >= 0 && scheme <= LAST_PRESELECTED_SCHEME)
-        select_text(ui.m_config_mode_cbox, scheme_name(scheme));
+    const bool is_preselected = scheme >= 0 && scheme <= LAST_PRESELECTED_SCHEME;
+    sort_and_select(ui.m_config_mode_cbox, is_preselected ? scheme_name(scheme) : QString());
     m_gfpdb_mgr->set_config_scheme(current_scheme());
 }
 
@@ -111,6 +103,6 @@ void GFPQ_DLG::on_change_config_mode(int /*cursel*/)
     fetch_manager(false, GFPQ_LINE_CONFIG_MODE);
     m_gfpdb_mgr->set_config_scheme(current_scheme());
     fill_family_list(current_scheme(), current_family());
-    // The page shown stays: a change of the mode leaves the user on an operation tab.
+    // The visible page stays: a change of the mode does not leave an operation tab.
     rebuild_device_list(selected_device_name());
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// What the sources of GFPQ_DLG share and nobody else needs.
+// Shared by the sources of GFPQ_DLG only.
 #pragma once
 
 #include <qnamespace.h>
@@ -11,8 +11,8 @@
 constexpr const char* GFPQ_ERROR_CATEGORY = "GFPQ";
 constexpr const char* GFPQ_DLG_SOURCE = "pgm/gfpq/gfpq_dlg";
 
-// The line numbers by which the host's support knows the dialog's internal errors. They are fixed and have nothing to
-// do with the lines of these sources.
+// The line numbers of the dialog's internal errors, as the host's support knows them. They are fixed, and not the line
+// numbers of these sources.
 enum GFPQ_DLG_ERROR_LINE : int
 {
     GFPQ_LINE_CONSTRUCTION = 94,
@@ -26,10 +26,10 @@ enum GFPQ_DLG_ERROR_LINE : int
 constexpr int GFPQ_DEVICE_TAB = 0;
 constexpr int GFPQ_FIRST_OPERATION_TAB = 1;
 
-// The row of the device table that stands for a device yet to be added.
+// The text of the row for a device that is not stored yet.
 constexpr const char* GFPQ_NEW_DEVICE = "<<new device>>";
 
-// The template combo lists the built-in templates first; an entry from here on is a stored template.
+// The template combo box lists the built-in templates first. An entry from here on is a stored template.
 constexpr int GFPQ_BUILTIN_TEMPLATE_COUNT = 5;
 
 // Marks of the rows of the device model.

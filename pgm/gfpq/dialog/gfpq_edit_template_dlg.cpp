@@ -2,7 +2,7 @@
 #include "dialog/gfpq_edit_template_dlg.h"
 
 #include "dialog/gfpq_form.h"
-#include "flow/gfpq_accessibility.h"
+#include "words/gfpq_accessible_name.h"
 #include "words/gfpq_message.h"
 #include "words/gfpq_text.h"
 
@@ -40,7 +40,8 @@ void GFPQ_EDIT_TEMPLATE_DLG::set_up_table()
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->hide();
     table.verticalHeader()->hide();
-    gfpq_make_table_accessible(table, *ui.m_templates_label);
+    table.setTabKeyNavigation(false);
+    gfpq_name_after(table, ui.m_templates_label->text());
 }
 
 void GFPQ_EDIT_TEMPLATE_DLG::fill_list()

@@ -11,7 +11,7 @@
 
 class GFPDB_MGR;
 
-// A modal dialog; removing asks no question and takes effect at once.
+// A modal dialog. Removing takes effect at once, without a question.
 class GFPQ_EDIT_TEMPLATE_DLG : public KOVQ_DIALOG
 {
     Q_OBJECT

@@ -7,7 +7,7 @@ namespace {
 
 const QLatin1String HELD_BACK("QMetaObject::connectSlotsByName: No matching signal for ");
 
-// The handler that was installed before. It stays set: a line of another thread may be on its way through here.
+// The handler that was installed before. Stays set: another thread may be printing a line through it.
 QtMessageHandler g_next_handler = nullptr;
 
 void pass_on(QtMsgType type, const QMessageLogContext& context, const QString& text)
@@ -20,12 +20,12 @@ void pass_on(QtMsgType type, const QMessageLogContext& context, const QString& t
 
 GFPQ_CONNECTION_LINES_CUT::GFPQ_CONNECTION_LINES_CUT()
 {
-    // Known before a line can come.
+    // Set before a line can be printed.
     g_next_handler = qInstallMessageHandler(nullptr);
     qInstallMessageHandler(&pass_on);
 }
 
-// A handler that came meanwhile stays.
+// A handler that was installed since then stays.
 GFPQ_CONNECTION_LINES_CUT::~GFPQ_CONNECTION_LINES_CUT()
 {
     const QtMessageHandler installed = qInstallMessageHandler(g_next_handler);

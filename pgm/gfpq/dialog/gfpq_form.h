@@ -6,9 +6,9 @@
 #include <QDialog>
 #include <QtGlobal>
 
-// Holds back, as long as it lives, the lines that the automatic connection by object name prints for each slot that it
-// does not know a signal for. Every other line goes to the message handler that was installed before. GUI thread only;
-// lines of other threads pass.
+// While it exists, drops the line that Qt's connection by object name prints for each slot without a matching signal.
+// Every other line goes to the message handler that was installed before, lines of other threads included. GUI thread
+// only.
 class GFPQ_CONNECTION_LINES_CUT
 {
 public:
@@ -18,8 +18,8 @@ public:
     GFPQ_CONNECTION_LINES_CUT& operator=(const GFPQ_CONNECTION_LINES_CUT&) = delete;
 };
 
-// Builds `form` on `dialog`. Building ends with the automatic connection by object name, which recognises none of the
-// module's slot names and would print a warning for each.
+// Builds `form` on `dialog`. Building ends with the connection by object name, which recognises none of the module's
+// slot names and would print a warning for each.
 template <typename FORM>
 void gfpq_build_form(FORM& form, QDialog* dialog)
 {

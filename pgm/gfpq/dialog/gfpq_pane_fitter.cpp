@@ -17,7 +17,7 @@ namespace {
 constexpr int LARGEST_SHARE_PERCENT = 75;
 constexpr int PERCENT = 100;
 
-// More than what stands to the left and right of the page titles.
+// More than the room to the left and right of the page titles.
 constexpr int AROUND_TITLES = 80;
 
 } // namespace
@@ -31,8 +31,8 @@ GFPQ_PANE_FITTER::GFPQ_PANE_FITTER(QSplitter& splitter, const QScrollArea& area)
     kovq_safe_connect(&splitter, SIGNAL(splitterMoved(int, int)), this, SLOT(leave_to_user()));
 }
 
-// Everything is laid out first; and only what is shown knows what it needs. A combo box, for one, learns it when it is
-// shown, and has its surroundings laid out again.
+// Queued, so that everything is laid out first. Only a visible widget knows the size that it needs: a combo box, for
+// example, finds out when it is shown, and then has its parent laid out again.
 bool GFPQ_PANE_FITTER::eventFilter(QObject* watched, QEvent* event)
 {
     const bool of_contents = watched == m_contents;
@@ -47,7 +47,7 @@ void GFPQ_PANE_FITTER::leave_to_user()
     m_is_users = true;
 }
 
-// The size hint, because the smallest size leaves the texts of combo boxes out.
+// By the size hint, because the minimum size leaves out the texts of combo boxes.
 int GFPQ_PANE_FITTER::needed_width(int whole) const
 {
     // Frames, and the scroll bar where there is one.
@@ -77,13 +77,13 @@ void GFPQ_PANE_FITTER::fit()
     m_splitter.setSizes(sizes);
 }
 
-// With all titles in sight, the dialog's smallest width is what they take.
+// With all titles visible, they determine the minimum width of the dialog.
 void gfpq_fit_titles(QWidget& dialog, QTabWidget& pages)
 {
-    // Mostly they fit, and the smallest width of the whole dialog takes its time.
+    // They usually fit, and the minimum width of the whole dialog takes time to compute.
     if (pages.tabBar()->sizeHint().width() + AROUND_TITLES <= dialog.width())
         return;
-    // As long as the pages are not shown, their surroundings must be told that they need another size.
+    // While the pages are hidden, a new size hint has to be announced.
     const auto set_scrolls = [&pages](bool scrolls) {
         pages.setUsesScrollButtons(scrolls);
         pages.updateGeometry();

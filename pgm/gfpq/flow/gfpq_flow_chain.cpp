@@ -37,7 +37,7 @@ constexpr double ARROW_PEN_WIDTH = 2.0;
 
 // How far a loop connector runs to the right of the blocks; also what each loop adds to the width of the chart.
 constexpr double LOOP_WIDTH = 65.0;
-// What a diamond is larger than its text, on each side.
+// The margin of a diamond around its text, on each side.
 constexpr double DIAMOND_MARGIN = 15.0;
 constexpr double LABEL_GAP = 5.0;
 
@@ -49,11 +49,11 @@ constexpr const char* LOOP_END = "end";
 
 constexpr const char* ERROR_CATEGORY = "GFPQ";
 constexpr const char* ERROR_SOURCE = "pgm/gfpq/gfpq_flow_scene";
-// The places under which internal errors of the chart are known.
+// The source and lines that internal errors of the chart name; all are fixed.
 constexpr int ERROR_LINE_NO_TEXT = 192;
 constexpr int ERROR_LINE_NO_ITEM = 529;
 
-// Puts the views of a scene back to where they were scrolled to, as far as the scene still reaches.
+// Restores the scroll positions of the views of a scene, as far as the scene still reaches.
 class VIEW_POSITION_KEEPER
 {
 public:
@@ -108,8 +108,8 @@ QString action_text(const GFPDB_ACTION& action)
     return text;
 }
 
-// Qt lays long texts out in steps, most of them when the event loop comes to it, and the item learns its extent from
-// the first. Asking the document for its size takes them all; the item is told at once, not by the last of them.
+// Qt lays out a long text in steps, most of them in the event loop, and the item takes its extent from the first step.
+// Asking the document for its size runs all steps; the item then gets its extent at once.
 void finish_layout(const QGraphicsTextItem& item)
 {
     QTextDocument& document = *item.document();
@@ -118,9 +118,9 @@ void finish_layout(const QGraphicsTextItem& item)
         emit document.documentLayout()->documentSizeChanged(size);
 }
 
-// The item keeps its natural width: no line is wrapped, and each is aligned within the widest. Format and text go in as
-// one edit, and nothing is kept for an undo: every step of its own would lay the document out anew. The lines that the
-// text brings take the format over from the empty one.
+// The item keeps its natural width: no line is wrapped, and each is aligned within the widest. Format and text are set
+// in one edit block without undo, because each separate edit would lay out the document again. The lines of the text
+// take over the format of the empty line.
 void set_aligned_text(GFPQ_GRAPHICS_TEXT_ITEM& item, const QString& text, Qt::Alignment alignment)
 {
     QTextDocument& document = *item.document();
@@ -156,7 +156,7 @@ struct GFPQ_FLOW_SCENE::CHAIN_CURSOR
     double y = 0.0;
     // The right edge of the last block, beyond which a loop runs back.
     double last_right = 0.0;
-    // Where the next loop leads back to.
+    // The end point of the next loop connector.
     QPointF loop_anchor;
 };
 
@@ -194,8 +194,7 @@ void GFPQ_FLOW_SCENE::clear_flow_chain()
     emit emit_clear_table();
 }
 
-// Empties the list of texts, and deletes those that entered no scene (of actions that cannot be drawn): they have no
-// other owner.
+// Clears the list of texts and deletes those in no scene (of actions that cannot be drawn), which have no other owner.
 void GFPQ_FLOW_SCENE::clear_text_items()
 {
     for (GFPQ_GRAPHICS_TEXT_ITEM* const text : qAsConst(m_text_items)) {
@@ -247,7 +246,7 @@ QGraphicsPolygonItem* GFPQ_FLOW_SCENE::add_loop_back(double from_x, double from_
 {
     const double run = right + LOOP_WIDTH;
     const double head = to_x + ARROW_HEAD;
-    // Retraces itself, so that it encloses no area but its head.
+    // Runs back along itself, so that it encloses no area but its head.
     const QPolygonF polygon({QPointF(from_x, from_y), QPointF(run, from_y), QPointF(run, to_y), QPointF(head, to_y),
                              QPointF(head, to_y - ARROW_HEAD), QPointF(to_x, to_y), QPointF(head, to_y + ARROW_HEAD),
                              QPointF(head, to_y), QPointF(run, to_y), QPointF(run, from_y)});
@@ -258,7 +257,7 @@ QGraphicsPolygonItem* GFPQ_FLOW_SCENE::add_loop_back(double from_x, double from_
     return connector;
 }
 
-// Puts `shape`, which is in the scene, to its place in the chain and `text` into it.
+// Places `shape`, an item of the scene, in the chain and puts `text` into it.
 void GFPQ_FLOW_SCENE::place_shape(QAbstractGraphicsShapeItem* shape, const QPointF& pos, QGraphicsItem* text)
 {
     m_shape_items.append(shape);

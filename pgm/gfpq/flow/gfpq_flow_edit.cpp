@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// GFPQ_FLOW_SCENE: the commands that edit the chain, and how the user gives them.
+// GFPQ_FLOW_SCENE: the commands that edit the chain, by menu, keys, mouse and drops.
 #include "flow/gfpq_flow_scene.h"
 
 #include "flow/gfpq_action_copy.h"
@@ -26,7 +26,7 @@
 
 namespace {
 
-// The action type that a drag with this text stands for, or -1.
+// The action type that a drag with this text inserts; -1 for none.
 int type_of_text(const QString& text)
 {
     const auto names_text = [&text](const char* name) { return gfpq_from_utf8(name) == text; };
@@ -37,8 +37,7 @@ int type_of_text(const QString& text)
 
 } // namespace
 
-// The shape above the arrow that `y` lies on stands at the index that an action inserted there gets: Start is the
-// first.
+// The index for an action inserted on the arrow at `y` is that of the shape above the arrow; Start is the first shape.
 bool GFPQ_FLOW_SCENE::find_index_at(double y, int& index) const
 {
     index = 0;
@@ -58,14 +57,14 @@ bool GFPQ_FLOW_SCENE::find_insert_index(int& index) const
     return find_index_at(m_menu_pos.y(), index);
 }
 
-// Only the arrows take drops; texts do as well by Qt's default, so that alone is no sign of one.
+// In Qt, texts accept drops by default, so accepting drops alone does not make an item an arrow.
 bool GFPQ_FLOW_SCENE::is_insertion_point(const QPointF& position) const
 {
     QGraphicsItem* const item = itemAt(position, QTransform());
     return item != nullptr && item->acceptDrops() && m_drop_zones.contains(item);
 }
 
-// Past the end (the point may lie below End) counts as the end.
+// An index past the end (the point can be below End) counts as the end.
 bool GFPQ_FLOW_SCENE::insert_new_action(GFPDB_ACT_TYPE type, int index)
 {
     GFPDB_MGR* const manager = GFPDB_HELPER::get_active_flash_manager(false);
@@ -179,7 +178,7 @@ void GFPQ_FLOW_SCENE::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
     menu.exec(event->screenPos());
 }
 
-// Other buttons than the left one are swallowed: a right press never changes the selection.
+// Presses of other buttons than the left one are dropped: a right press never changes the selection.
 void GFPQ_FLOW_SCENE::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton) {

@@ -71,7 +71,7 @@ GFPQ_ACTION_MENU_ITEM::GFPQ_ACTION_MENU_ITEM(int type) : m_type(type)
     if (has_color(type)) {
         m_color = ACTION_TYPE_COLORS[type];
         label = gfpq_from_utf8(PALETTE_LABELS[type]);
-        // Without a colour of its own the entry stays unfilled: an invalid colour as a solid brush would paint black.
+        // An entry without a colour is not filled: a solid brush of an invalid colour would paint black.
         setBrush(QBrush(m_color, Qt::SolidPattern));
     }
     auto* const text = new QGraphicsTextItem(label);
@@ -93,7 +93,7 @@ QString GFPQ_ACTION_MENU_ITEM::type_name() const
     return is_type ? gfpq_from_utf8(GFPQ_ACTION_TYPE_NAMES[m_type]) : QString();
 }
 
-// The base class is not asked: the press stays accepted, so that the moves that follow come here.
+// Not passed to the base class: the press stays accepted, so that the item gets the moves that follow.
 void GFPQ_ACTION_MENU_ITEM::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
     Q_UNUSED(event)

@@ -22,8 +22,10 @@ inline constexpr QColor ACTION_TYPE_COLORS[GFPQ_COLORED_TYPE_COUNT] = {
     QColor(226, 151, 226), // Erase
 };
 
-// A text of the chart. The chart's colours are fixed and light, so the text is black whatever the palette of the
-// application is.
+// The background of charts and palettes; fixed, as their colours are.
+constexpr Qt::GlobalColor GFPQ_PAPER_COLOR = Qt::white;
+
+// A text of the chart. Black in every palette, because the chart's colours are fixed and light.
 class GFPQ_GRAPHICS_TEXT_ITEM : public QGraphicsTextItem
 {
     Q_OBJECT
@@ -39,10 +41,10 @@ private:
     GFPDB_ACTION* m_action;
 };
 
-// The action of a block of the chart: that of its text, which is the block's first child.
+// The action of a block of the chart, which is that of its text, its first child.
 GFPDB_ACTION* gfpq_action_of(const QGraphicsItem& block);
 
-// An arrow of the chart. Its drop zone, a transparent child rectangle, is what a drop or a right click meets.
+// An arrow of the chart. Drops and right clicks go to its drop zone, a transparent child rectangle.
 class GFPQ_ARROW_POLYGON_ITEM : public QGraphicsPolygonItem
 {
 public:

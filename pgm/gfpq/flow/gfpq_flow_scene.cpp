@@ -25,8 +25,9 @@ GFPQ_FLOW_SCENE::GFPQ_FLOW_SCENE(QObject* parent, int operation) : QGraphicsScen
 {
     Q_UNUSED(operation)
     clear_actions(true);
+    kovq_safe_connect(this, SIGNAL(selectionChanged()), this, SLOT(on_selection()));
+    kovq_safe_connect(this, SIGNAL(sceneRectChanged(const QRectF&)), this, SLOT(on_change_scene()));
     create_actions();
-    connect_signals();
 }
 
 GFPQ_FLOW_SCENE::~GFPQ_FLOW_SCENE()
@@ -35,33 +36,25 @@ GFPQ_FLOW_SCENE::~GFPQ_FLOW_SCENE()
     clear_actions(true);
 }
 
-void GFPQ_FLOW_SCENE::create_actions()
+QAction* GFPQ_FLOW_SCENE::add_action(const char* text, const char* slot)
 {
-    const auto type_name = [](GFPDB_ACT_TYPE type) { return gfpq_from_utf8(GFPQ_ACTION_TYPE_NAMES[type]); };
-    m_refresh_action = new QAction(QStringLiteral("Refresh"), this);
-    m_delete_action = new QAction(QStringLiteral("Delete"), this);
-    m_copy_action = new QAction(QStringLiteral("Copy"), this);
-    m_paste_action = new QAction(QStringLiteral("Paste"), this);
-    m_insert_wr_action = new QAction(type_name(GFPDB_ACT_WRITE_REGISTER), this);
-    m_insert_rr_action = new QAction(type_name(GFPDB_ACT_READ_REGISTER), this);
-    m_insert_wd_action = new QAction(type_name(GFPDB_ACT_WRITE_DATA), this);
-    m_insert_rd_action = new QAction(type_name(GFPDB_ACT_READ_DATA), this);
-    m_insert_e_action = new QAction(type_name(GFPDB_ACT_ERASE), this);
+    auto* const action = new QAction(gfpq_from_utf8(text), this);
+    kovq_safe_connect(action, SIGNAL(triggered()), this, slot);
+    return action;
 }
 
-void GFPQ_FLOW_SCENE::connect_signals()
+void GFPQ_FLOW_SCENE::create_actions()
 {
-    kovq_safe_connect(this, SIGNAL(selectionChanged()), this, SLOT(on_selection()));
-    kovq_safe_connect(this, SIGNAL(sceneRectChanged(const QRectF&)), this, SLOT(on_change_scene()));
-    kovq_safe_connect(m_refresh_action, SIGNAL(triggered()), this, SLOT(create_flow_chain()));
-    kovq_safe_connect(m_delete_action, SIGNAL(triggered()), this, SLOT(on_delete_action()));
-    kovq_safe_connect(m_copy_action, SIGNAL(triggered()), this, SLOT(on_copy_action()));
-    kovq_safe_connect(m_paste_action, SIGNAL(triggered()), this, SLOT(on_paste_action()));
-    kovq_safe_connect(m_insert_wr_action, SIGNAL(triggered()), this, SLOT(on_insert_wr_action()));
-    kovq_safe_connect(m_insert_rr_action, SIGNAL(triggered()), this, SLOT(on_insert_rr_action()));
-    kovq_safe_connect(m_insert_wd_action, SIGNAL(triggered()), this, SLOT(on_insert_wd_action()));
-    kovq_safe_connect(m_insert_rd_action, SIGNAL(triggered()), this, SLOT(on_insert_rd_action()));
-    kovq_safe_connect(m_insert_e_action, SIGNAL(triggered()), this, SLOT(on_insert_e_action()));
+    const auto& names = GFPQ_ACTION_TYPE_NAMES;
+    m_refresh_action = add_action("Refresh", SLOT(create_flow_chain()));
+    m_delete_action = add_action("Delete", SLOT(on_delete_action()));
+    m_copy_action = add_action("Copy", SLOT(on_copy_action()));
+    m_paste_action = add_action("Paste", SLOT(on_paste_action()));
+    m_insert_wr_action = add_action(names[GFPDB_ACT_WRITE_REGISTER], SLOT(on_insert_wr_action()));
+    m_insert_rr_action = add_action(names[GFPDB_ACT_READ_REGISTER], SLOT(on_insert_rr_action()));
+    m_insert_wd_action = add_action(names[GFPDB_ACT_WRITE_DATA], SLOT(on_insert_wd_action()));
+    m_insert_rd_action = add_action(names[GFPDB_ACT_READ_DATA], SLOT(on_insert_rd_action()));
+    m_insert_e_action = add_action(names[GFPDB_ACT_ERASE], SLOT(on_insert_e_action()));
 }
 
 void GFPQ_FLOW_SCENE::clear_actions(bool delete_actions)

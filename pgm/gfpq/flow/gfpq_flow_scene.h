@@ -3,8 +3,8 @@
 // The flow chart of one operation: the ordered list of its actions, the picture of them, and the commands that edit it.
 //
 // The scene owns its actions. The picture is never edited item by item: every change of the list ends in
-// create_flow_chain(), which draws all of it anew; the selection, the property table and a copy do not survive that,
-// the position of the views does. GUI thread only.
+// create_flow_chain(), which draws all of it again. That clears the selection, the property table and what was copied;
+// the views keep their scroll positions. GUI thread only.
 //
 // Implemented in gfpq_flow_scene.cpp (life, selection, focus), gfpq_flow_chain.cpp (drawing) and gfpq_flow_edit.cpp
 // (commands, menu, keys, mouse, drops).
@@ -31,35 +31,34 @@ class GFPQ_FLOW_SCENE : public QGraphicsScene
     Q_OBJECT
 
 public:
-    // The chart of operation `operation` (0 to 4). The chart does not depend on it: a tab decides by it what its
-    // palette offers.
+    // The chart of operation `operation` (0 to 4), which makes no difference to it.
     GFPQ_FLOW_SCENE(QObject* parent, int operation);
     // Deletes the actions.
     ~GFPQ_FLOW_SCENE() override;
 
-    // Empties the list of actions, deleting them if `delete_actions` is set, and with it the copied actions and a
-    // pending rebuild. Draws nothing: the items of the last picture still point at the actions until the next build.
+    // Clears the list of actions, deleting them if `delete_actions` is set, the copied actions and a pending rebuild.
+    // Draws nothing: until the next build, the items of the last picture still point at the actions.
     void clear_actions(bool delete_actions);
-    // Whether blocks can be selected and arrows take drops; holds from the next build on.
+    // Whether blocks can be selected and arrows accept drops, from the next build on.
     void set_editable(bool editable) { m_editable = editable; }
     // Appends a deep copy of each action, in order; null actions are left out. Draws nothing.
     void append_copies(const std::vector<GFPDB_ACTION*>& actions);
     // The actions in execution order; owned by the scene.
     const QList<GFPDB_ACTION*>& get_actions() const { return m_actions; }
-    // Calls a pending rebuild off; true when there was one.
+    // Cancels a pending rebuild; true if there was one.
     bool take_pending_refresh();
 
 signals:
     // A block was selected; `action` is its action, never null.
     void emit_action_selection_changed(GFPDB_ACTION* action);
-    // The picture was torn down: what was shown of an action is out of date.
+    // The picture was removed: what is shown of an action is out of date.
     void emit_clear_table();
 
 public slots:
     void on_selection();
     // Draws the whole chart from the list of actions. The views keep their scroll positions.
     void create_flow_chain();
-    // Has the chart drawn anew when the scene gets the focus next.
+    // Draws the chart again when the scene next gets the focus.
     void refresh_flow_chain();
     void on_delete_action();
     void on_copy_action();
@@ -78,7 +77,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
 
-    // Removes every graphics item and says so with emit_clear_table().
+    // Removes every graphics item and emits emit_clear_table().
     void clear_flow_chain();
     // The text of `action`, one line for each property, listed in m_text_items but in no scene yet. Never null here; a
     // derived scene that has no text for an action ends the process.
@@ -90,7 +89,7 @@ protected:
     // The connector of a loop from its diamond at (from_x, from_y) back to its block at (to_x, to_y), running upwards
     // to the right of `right`.
     QGraphicsPolygonItem* add_loop_back(double from_x, double from_y, double to_x, double to_y, double right);
-    // The place in the list for what is inserted at m_menu_pos; false when that is not on an arrow.
+    // The index for an insertion at m_menu_pos; false if that is not on an arrow.
     bool find_insert_index(int& index) const;
 
 private:
@@ -100,8 +99,8 @@ private:
     // The running position of a build.
     struct CHAIN_CURSOR;
 
+    QAction* add_action(const char* text, const char* slot);
     void create_actions();
-    void connect_signals();
     QRectF chain_rect() const;
 
     void clear_text_items();
@@ -142,7 +141,7 @@ private:
     QList<GFPDB_ACTION*> m_actions;
     // Actions of m_actions that Copy marked.
     QList<GFPDB_ACTION*> m_clipboard;
-    // Where inserts and pastes go: the last left press or right click on a drop zone.
+    // Where to insert and paste: the last left press or right click on a drop zone.
     QPointF m_menu_pos;
     double m_chain_bottom = 0.0;
     double m_max_width = 0.0;

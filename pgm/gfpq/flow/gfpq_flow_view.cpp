@@ -6,8 +6,8 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QGraphicsScene>
-#include <QGraphicsView>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -20,12 +20,12 @@ bool is_moving_key(int key)
     return key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Home || key == Qt::Key_End;
 }
 
-bool stands_above(const QGraphicsItem* left, const QGraphicsItem* right)
+bool is_above(const QGraphicsItem* left, const QGraphicsItem* right)
 {
     return left->sceneBoundingRect().top() < right->sceneBoundingRect().top();
 }
 
-// What of `block` is to be seen in a view of that width: of one that is wider, its middle, where the chain runs.
+// The part of `block` to show in a view of that width: of a wider one its middle, where the chain is.
 QRectF middle_of(const QGraphicsItem& block, int view_width)
 {
     QRectF middle = block.sceneBoundingRect();
@@ -35,7 +35,7 @@ QRectF middle_of(const QGraphicsItem& block, int view_width)
     return middle;
 }
 
-// The drop zone of the first arrow that begins below `y`; null when there is none.
+// The drop zone of the first arrow that begins below `y`; null for none.
 const QGraphicsItem* drop_zone_below(const QGraphicsScene& scene, double y)
 {
     const QGraphicsItem* found = nullptr;
@@ -44,7 +44,7 @@ const QGraphicsItem* drop_zone_below(const QGraphicsScene& scene, double y)
         const auto* const arrow = dynamic_cast<const GFPQ_ARROW_POLYGON_ITEM*>(item);
         if (arrow == nullptr || arrow->sceneBoundingRect().center().y() < y)
             continue;
-        if (found == nullptr || stands_above(arrow->drop_zone(), found))
+        if (found == nullptr || is_above(arrow->drop_zone(), found))
             found = arrow->drop_zone();
     }
     return found;
@@ -52,33 +52,52 @@ const QGraphicsItem* drop_zone_below(const QGraphicsScene& scene, double y)
 
 } // namespace
 
-GFPQ_FLOW_KEYBOARD::GFPQ_FLOW_KEYBOARD(QGraphicsView& view) : QObject(&view), m_view(view)
+GFPQ_FLOW_VIEW::GFPQ_FLOW_VIEW(QGraphicsScene& scene, QWidget* parent, const QString& title, const QString& description)
+    : QGraphicsView(&scene, parent)
 {
-    view.installEventFilter(this);
+    setBackgroundBrush(GFPQ_PAPER_COLOR);
+    setAlignment(Qt::AlignCenter);
+    setAccessibleName(QCoreApplication::translate("gfpq_dlg", "%1: flow chart").arg(title));
+    setAccessibleDescription(description);
 }
 
-bool GFPQ_FLOW_KEYBOARD::eventFilter(QObject* watched, QEvent* event)
+// Not by the scroll bars: a hidden view scrolls to its centre point when it is shown.
+void GFPQ_FLOW_VIEW::show_top()
 {
-    if (event->type() == QEvent::KeyPress && move(*static_cast<QKeyEvent*>(event)))
-        return true;
-    if (event->type() == QEvent::ContextMenu && open_menu(*static_cast<QContextMenuEvent*>(event)))
-        return true;
-    return QObject::eventFilter(watched, event);
+    centerOn(sceneRect().center().x(), 0.0);
 }
 
-QList<QGraphicsItem*> GFPQ_FLOW_KEYBOARD::blocks() const
+void GFPQ_FLOW_VIEW::center_horizontally()
+{
+    QScrollBar& bar = *horizontalScrollBar();
+    bar.setValue((bar.minimum() + bar.maximum()) / 2);
+}
+
+void GFPQ_FLOW_VIEW::keyPressEvent(QKeyEvent* event)
+{
+    if (!move(*event))
+        QGraphicsView::keyPressEvent(event);
+}
+
+void GFPQ_FLOW_VIEW::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!open_menu(*event))
+        QGraphicsView::contextMenuEvent(event);
+}
+
+QList<QGraphicsItem*> GFPQ_FLOW_VIEW::blocks() const
 {
     QList<QGraphicsItem*> found;
-    const QList<QGraphicsItem*> items = m_view.scene()->items();
+    const QList<QGraphicsItem*> items = scene()->items();
     for (QGraphicsItem* const item : items) {
         if (item->flags().testFlag(QGraphicsItem::ItemIsSelectable))
             found.append(item);
     }
-    std::sort(found.begin(), found.end(), stands_above);
+    std::sort(found.begin(), found.end(), is_above);
     return found;
 }
 
-bool GFPQ_FLOW_KEYBOARD::move(const QKeyEvent& event)
+bool GFPQ_FLOW_VIEW::move(const QKeyEvent& event)
 {
     const bool extends = event.modifiers() == Qt::ShiftModifier;
     if (!is_moving_key(event.key()) || (!extends && event.modifiers() != Qt::NoModifier))
@@ -90,16 +109,16 @@ bool GFPQ_FLOW_KEYBOARD::move(const QKeyEvent& event)
     follow_selection(chain);
     m_place = place_after(event.key(), chain.size() - 1);
     if (!extends)
-        m_view.scene()->clearSelection();
+        scene()->clearSelection();
     if (m_place != NO_BLOCK) {
         chain.at(m_place)->setSelected(true);
-        m_view.ensureVisible(middle_of(*chain.at(m_place), m_view.viewport()->width()));
+        ensureVisible(middle_of(*chain.at(m_place), viewport()->width()));
     }
     return true;
 }
 
-// A click may have gone elsewhere meanwhile.
-void GFPQ_FLOW_KEYBOARD::follow_selection(const QList<QGraphicsItem*>& chain)
+// The user may have clicked another block since.
+void GFPQ_FLOW_VIEW::follow_selection(const QList<QGraphicsItem*>& chain)
 {
     if (m_place >= 0 && m_place < chain.size() && chain.at(m_place)->isSelected())
         return;
@@ -109,7 +128,7 @@ void GFPQ_FLOW_KEYBOARD::follow_selection(const QList<QGraphicsItem*>& chain)
     }
 }
 
-int GFPQ_FLOW_KEYBOARD::place_after(int key, int last) const
+int GFPQ_FLOW_VIEW::place_after(int key, int last) const
 {
     switch (key) {
     case Qt::Key_Home:
@@ -123,21 +142,21 @@ int GFPQ_FLOW_KEYBOARD::place_after(int key, int last) const
     }
 }
 
-bool GFPQ_FLOW_KEYBOARD::open_menu(const QContextMenuEvent& event)
+bool GFPQ_FLOW_VIEW::open_menu(const QContextMenuEvent& event)
 {
     if (event.reason() != QContextMenuEvent::Keyboard)
         return false;
-    double bottom = m_view.sceneRect().top();
-    const QList<QGraphicsItem*> selected = m_view.scene()->selectedItems();
+    double bottom = sceneRect().top();
+    const QList<QGraphicsItem*> selected = scene()->selectedItems();
     for (const QGraphicsItem* const item : selected)
         bottom = std::max(bottom, item->sceneBoundingRect().bottom());
-    const QGraphicsItem* const zone = drop_zone_below(*m_view.scene(), bottom);
+    const QGraphicsItem* const zone = drop_zone_below(*scene(), bottom);
     if (zone == nullptr)
         return false;
 
-    m_view.ensureVisible(zone);
-    const QPoint place = m_view.mapFromScene(zone->sceneBoundingRect().center());
-    QContextMenuEvent at_arrow(QContextMenuEvent::Other, place, m_view.viewport()->mapToGlobal(place));
-    QCoreApplication::sendEvent(m_view.viewport(), &at_arrow);
+    ensureVisible(zone);
+    const QPoint place = mapFromScene(zone->sceneBoundingRect().center());
+    QContextMenuEvent at_arrow(QContextMenuEvent::Other, place, viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(viewport(), &at_arrow);
     return true;
 }

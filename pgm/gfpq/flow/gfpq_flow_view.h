@@ -1,30 +1,36 @@
 // SPDX-License-Identifier: MIT
 
-// A flow chart without a mouse.
+// The view of a flow chart, which is also used without a mouse.
 //
-// Down and Up select the next and the previous block, Home and End the first and the last; with Shift the blocks that
-// were selected stay so. Up from the first block selects none. The menu key opens the chart's menu at the arrow below
-// the last selected block, or at the first arrow when none is selected: from there actions are inserted and pasted.
-// A chart without blocks that can be selected leaves these keys to the view, which scrolls.
+// Down and Up select the next and the previous block, Home and End the first and the last. With Shift, the selected
+// blocks stay selected. Up from the first block selects none. The menu key opens the chart's menu at the arrow below
+// the last selected block, or at the first arrow when none is selected: actions are inserted and pasted there. A chart
+// without blocks that can be selected leaves these keys to the base class, which scrolls.
 #pragma once
 
+#include <QGraphicsView>
 #include <QList>
-#include <QObject>
 
-class QContextMenuEvent;
 class QGraphicsItem;
-class QGraphicsView;
-class QKeyEvent;
 
-class GFPQ_FLOW_KEYBOARD : public QObject
+// GUI thread only.
+class GFPQ_FLOW_VIEW : public QGraphicsView
 {
     Q_OBJECT
 
 public:
-    // Serves `view`, which owns it and shows a GFPQ_FLOW_SCENE.
-    explicit GFPQ_FLOW_KEYBOARD(QGraphicsView& view);
+    // Shows `scene`, a GFPQ_FLOW_SCENE, which must outlive the view. Assistive technology reads `title` and
+    // `description`.
+    GFPQ_FLOW_VIEW(QGraphicsScene& scene, QWidget* parent, const QString& title, const QString& description);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    // Scrolls to the top of the chart.
+    void show_top();
+    // Of a chart that is wider than the view, scrolls to the middle, where the chain is.
+    void center_horizontally();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     // The blocks that can be selected, in chain order.
@@ -35,7 +41,6 @@ private:
     int place_after(int key, int last) const;
     bool open_menu(const QContextMenuEvent& event);
 
-    QGraphicsView& m_view;
-    // The block that the keys went to last; kept when the chart is drawn anew, so that they go on from there.
+    // The block that the keys went to last. Kept when the chart is drawn again, so that they go on from there.
     int m_place = -1;
 };

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int VALUE_COLUMN = 1;
 
-// The place under which the internal error of a foreign model is known.
+// The source and line that the internal error of another kind of model names; both are fixed.
 constexpr const char* ERROR_SOURCE = "pgm/gfpq/gfpq_operation_tab_widget";
 constexpr int ERROR_LINE_NO_MODEL = 534;
 
@@ -45,7 +45,7 @@ bool has_choices(GFPDB_ACT_PROPERTY property)
     }
 }
 
-// Fills the combo box anew: the view asks for this again after every store.
+// Fills the combo box again, because the view calls this after every store.
 void load_choices(QComboBox& combo, const std::vector<std::string>& choices, const QString& current)
 {
     combo.clear();
@@ -111,7 +111,7 @@ void GFPQ_PROPERTY_DELEGATE::setModelData(QWidget* editor, QAbstractItemModel* m
         if (m_value_checker != nullptr && !m_value_checker->check_property_value(property, gfpq_to_local(text), error))
             tab->warn_about_value(gfpq_from_local(error));
     }
-    // Where the table was filled again while the box was open, it shows another action now.
+    // If the table was filled again while the box was open, it shows another action now.
     if (!cell.isValid())
         return;
     std_model->setData(cell, text, Qt::EditRole);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The one home of every conversion between the library's byte strings and the widgets' texts.
+// All conversions between the library's byte strings and the texts of widgets.
 #pragma once
 
 #include <QString>
@@ -8,15 +8,15 @@
 
 #include <string>
 
-// Text of a widget, as the flash database takes it: local 8-bit.
+// The text of a widget for the flash database: local 8-bit.
 inline std::string gfpq_to_local(const QString& text)
 {
     const QByteArray bytes = text.toLocal8Bit();
     return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 
-// Text that came from the flash database: local 8-bit. A byte order mark at its start is part of the text, so that what
-// came in goes out byte for byte.
+// A text of the flash database: local 8-bit. A byte order mark at its start is part of the text, so that it is saved
+// unchanged.
 inline QString gfpq_from_local(const std::string& text)
 {
     const int size = static_cast<int>(text.size());
@@ -26,7 +26,7 @@ inline QString gfpq_from_local(const std::string& text)
     return QTextCodec::codecForLocale()->toUnicode(text.data(), size, &state);
 }
 
-// Text of a table that is no user's: UTF-8.
+// A text of a constant table: UTF-8.
 inline QString gfpq_from_utf8(const char* text)
 {
     return QString::fromUtf8(text);

@@ -2,8 +2,7 @@
 
 // The words that the dialog shows for the flash database's numbers.
 //
-// Constant tables of UTF-8 texts, indexed directly by their enumeration value; none is searched by text and none is
-// ever translated. No other place holds a copy of these words.
+// Constant tables of UTF-8 texts, indexed by their enumeration value. They are not searched by text and not translated.
 #pragma once
 
 #include "gfpdb/gfpdb_enums.h"
@@ -13,8 +12,7 @@ constexpr const char* GFPQ_OPERATION_NAMES[GFPDB_OPERATION_COUNT] = {
     "Initialization", "Program", "Erase", "Verify/Blank-Check/Examine", "Termination",
 };
 
-// Shown at the top of each operation tab. The Erase text has typographic quotes, and a question mark that belongs
-// there.
+// Shown at the top of each operation tab. The Erase text has typographic quotes and a question mark on purpose.
 // clang-format off
 constexpr const char* GFPQ_OPERATION_DESCRIPTIONS[GFPDB_OPERATION_COUNT] = {
     "The Programmer engine performs the Initialization operation at the beginning of the Program, Erase, "
@@ -36,7 +34,7 @@ constexpr const char* GFPQ_ACTION_TYPE_NAMES[GFPDB_ACT_TYPE_COUNT] = {
     "Write Register", "Read Register", "Write Data", "Read Data", "Erase", "Custom",
 };
 
-// Labels of the property table, by GFPDB_ACT_PROPERTY. The same label belongs to several properties: carry the value.
+// Labels of the property table, by GFPDB_ACT_PROPERTY. Several properties have the same label.
 constexpr const char* GFPQ_PROPERTY_LABELS[GFPDB_ACT_PROPERTY_COUNT] = {
     // Write Register
     "Name:",
@@ -86,7 +84,7 @@ constexpr const char* GFPQ_PROPERTY_LABELS[GFPDB_ACT_PROPERTY_COUNT] = {
     "",
 };
 
-// Names of the configuration schemes, by PGMIO_CONFIG_SCHEME. "With ERAM" and "with ERAM" are both as users know them.
+// Names of the configuration schemes, by PGMIO_CONFIG_SCHEME. "With ERAM" and "with ERAM" differ on purpose.
 constexpr const char* PGMIO_CONFIG_SCHEME_NAMES[PGMIO_CONFIG_SCHEME_COUNT] = {
     "1-bit Passive Serial",
     "2-bit Passive Serial",

@@ -5,6 +5,6 @@
 
 #include <QString>
 
-// Shows `text` as it stands (plain text, never markup) in a modal box with the warning icon, without parent or title,
-// with the default OK button, and waits until it is closed.
+// Shows `text`, never as markup, in a modal box with the warning icon and the default OK button, without parent or
+// title, and waits until it is closed.
 void gfpq_show_warning(const QString& text);
