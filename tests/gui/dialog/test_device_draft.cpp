@@ -6,10 +6,13 @@
 
 #include "gfpdb_double.h"
 #include "marking_translator.h"
+#include "test_rows.h"
 
 #include <QTest>
 
 namespace {
+
+using test_rows::TEXTS;
 
 const char* const NEW_DEVICE = "<<new device>>";
 const QStringList CHECKS{QStringLiteral("check_string_property"), QStringLiteral("check_int_property")};
@@ -24,19 +27,16 @@ CALL_LOG& calls()
     return CALL_LOG::instance();
 }
 
-QStringList list_of(std::initializer_list<const char*> texts)
+QStringList list_of(const TEXTS& texts)
 {
-    QStringList list;
-    for (const char* text : texts)
-        list.append(QString::fromUtf8(text));
-    return list;
+    return texts;
 }
 
 // What the user reads of an error on one tab.
 QString fault_on(const char* tab, const char* error)
 {
-    return QString::fromUtf8("Failed to save flash as ") + QString::fromUtf8(tab) +
-           QString::fromUtf8(" tab has invalid property value: \n\n") + QString::fromUtf8(error);
+    const char* const heading = "Failed to save flash as %1 tab has invalid property value: \n\n%2";
+    return QString::fromUtf8(heading).arg(QString::fromUtf8(tab), QString::fromUtf8(error));
 }
 
 // A new device "X" with a value in each field, from the second built-in template.
@@ -93,22 +93,18 @@ private slots:
 
     void the_first_refusal_ends_the_check_data()
     {
-        QTest::addColumn<int>("property");
-        QTest::addColumn<int>("checks");
-
-        QTest::newRow("name") << 0 << 1;
-        QTest::newRow("id") << 1 << 2;
-        QTest::newRow("die") << 4 << 3;
-        QTest::newRow("single") << 5 << 4;
-        QTest::newRow("quad") << 6 << 5;
-        QTest::newRow("template name") << 7 << 6;
-        QTest::newRow("none") << 99 << 6;
+        rows<int, int>({{"name", 0, 1},
+                        {"id", 1, 2},
+                        {"die", 4, 3},
+                        {"single", 5, 4},
+                        {"quad", 6, 5},
+                        {"template name", 7, 6},
+                        {"none", 99, 6}});
     }
 
     void the_first_refusal_ends_the_check()
     {
-        QFETCH(const int, property);
-        QFETCH(const int, checks);
+        const auto [property, checks] = row<int, int>();
         GFPQ_DEVICE_DRAFT draft = new_draft();
         draft.template_name = QStringLiteral("T");
         // Everything behind the first refusal would be refused, too; choices were checked when they were made.
@@ -132,18 +128,12 @@ private slots:
 
     void a_name_is_checked_when_it_differs_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<int>("checks");
-
-        QTest::newRow("the same") << QByteArray("X") << 0;
-        QTest::newRow("another") << QByteArray("Y") << 1;
-        QTest::newRow("in case") << QByteArray("x") << 1;
+        rows<QByteArray, int>({{"the same", "X", 0}, {"another", "Y", 1}, {"in case", "x", 1}});
     }
 
     void a_name_is_checked_when_it_differs()
     {
-        QFETCH(const QByteArray, name);
-        QFETCH(const int, checks);
+        const auto [name, checks] = row<QByteArray, int>();
         GFPQ_DEVICE_DRAFT draft = new_draft(name.constData());
         draft.selected = "X";
 
@@ -180,16 +170,16 @@ private slots:
 
     void a_refused_action_names_its_page_data()
     {
-        QTest::addColumn<int>("kind");
-
-        const char* const pages[] = {"Initialization", "Program", "Erase", "Verify/Blank-Check/Examine", "Termination"};
-        for (int kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind)
-            QTest::newRow(pages[kind]) << kind;
+        rows<int>({{"Initialization", 0},
+                   {"Program", 1},
+                   {"Erase", 2},
+                   {"Verify/Blank-Check/Examine", 3},
+                   {"Termination", 4}});
     }
 
     void a_refused_action_names_its_page()
     {
-        QFETCH(const int, kind);
+        const auto kind = row<int>();
         const std::vector<GFPDB_OPERATION*>& steps = mgr().add_record("S").operations[false] = make_operations("step");
         for (int later = kind; later < GFPDB_OPERATION_COUNT; ++later)
             dynamic_cast<ACTION_DOUBLE&>(*steps[later]->get_actions()->front()).refused = {
@@ -207,24 +197,17 @@ private slots:
 
     void a_template_is_not_called_like_the_device_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QByteArray>("template_name");
-        QTest::addColumn<QByteArray>("error");
-
-        QTest::newRow("another case") << QByteArray("X") << QByteArray("x") << QByteArray();
-        QTest::newRow("the same") << QByteArray("X 25") << QByteArray("X 25")
-                                  << QByteArray("Tempate name 'X 25' is conflicts with the device name X 25.");
-        QTest::newRow("place markers")
-            << QByteArray("%2 <i>%1</i>") << QByteArray("%2 <i>%1</i>")
-            << QByteArray("Tempate name '%2 <i>%1</i>' is conflicts with the device name %2 <i>%1</i>.");
-        QTest::newRow("refused before") << QByteArray("taken") << QByteArray("taken") << QByteArray("no %1");
+        rows<QByteArray, QByteArray, QByteArray>(
+            {{"another case", "X", "x", ""},
+             {"the same", "X 25", "X 25", "Tempate name 'X 25' is conflicts with the device name X 25."},
+             {"place markers", "%2 <i>%1</i>", "%2 <i>%1</i>",
+              "Tempate name '%2 <i>%1</i>' is conflicts with the device name %2 <i>%1</i>."},
+             {"refused before", "taken", "taken", "no %1"}});
     }
 
     void a_template_is_not_called_like_the_device()
     {
-        QFETCH(const QByteArray, name);
-        QFETCH(const QByteArray, template_name);
-        QFETCH(const QByteArray, error);
+        const auto [name, template_name, error] = row<QByteArray, QByteArray, QByteArray>();
         mgr().refuse(7, "taken", "no %1");
         GFPQ_DEVICE_DRAFT draft = new_draft(name.constData());
         draft.template_name = QString::fromUtf8(template_name);
@@ -302,26 +285,21 @@ private slots:
 
     void the_other_variant_comes_from_where_the_device_comes_from_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("saved");
-
-        QTest::newRow("first") << 0 << "mgr.get_builtin_template_operations(0, true)"
-                               << "mgr.get_builtin_template_operations(0, false)";
-        QTest::newRow("last built-in") << 4 << "mgr.get_builtin_template_operations(4, true)"
-                                       << "mgr.get_builtin_template_operations(4, false)";
-        QTest::newRow("first stored") << 5 << R"(mgr.get_template_operations("T", true))"
-                                      << R"(mgr.find_flash("T", true))";
-        QTest::newRow("nothing chosen") << -1 << QString() << QString();
-        QTest::newRow("record") << 99 << R"(mgr.get_template_operations("T", true))"
-                                << "flash:A.get_operations(false)";
+        rows<int, QStringList>(
+            {{"first",
+              0,
+              {"mgr.get_builtin_template_operations(0, true)", "mgr.get_builtin_template_operations(0, false)"}},
+             {"last built-in",
+              4,
+              {"mgr.get_builtin_template_operations(4, true)", "mgr.get_builtin_template_operations(4, false)"}},
+             {"first stored", 5, {R"(mgr.get_template_operations("T", true))", R"(mgr.find_flash("T", true))"}},
+             {"nothing chosen", -1, {}},
+             {"record", 99, {R"(mgr.get_template_operations("T", true))", "flash:A.get_operations(false)"}}});
     }
 
     void the_other_variant_comes_from_where_the_device_comes_from()
     {
-        QFETCH(const int, index);
-        QFETCH(const QString, shown);
-        QFETCH(const QString, saved);
+        const auto [index, expected] = row<int, QStringList>();
         mgr().flow_variant = true;
         FLASH_DOUBLE& flash = mgr().add_record("X");
         GFPQ_DEVICE_DRAFT draft = index == 99 ? draft_of(mgr().add_custom("A")) : new_draft();
@@ -330,8 +308,6 @@ private slots:
         QVERIFY(draft.flow_template.shown_operations(mgr()) == nullptr);
         draft.store_template(flash);
 
-        QStringList expected{shown, saved};
-        expected.removeAll(QString());
         QCOMPARE(calls().calls_without({QStringLiteral("is_property_used"), QStringLiteral("get_flow_variant")}),
                  expected);
         QVERIFY(flash.operations.empty());
@@ -339,19 +315,15 @@ private slots:
 
     void a_record_or_template_gives_its_other_variant_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QByteArray>("selected");
-
-        QTest::newRow("built-in") << 1 << QByteArray(NEW_DEVICE);
-        QTest::newRow("in any case") << 1 << QByteArray("<<NEW Device>>");
-        QTest::newRow("stored") << 5 << QByteArray(NEW_DEVICE);
-        QTest::newRow("record") << 1 << QByteArray("A");
+        rows<int, QByteArray, QString>({{"built-in", 1, NEW_DEVICE, "built-in"},
+                                        {"in any case", 1, "<<NEW Device>>", "built-in"},
+                                        {"stored", 5, NEW_DEVICE, "stored"},
+                                        {"record", 1, "A", "record"}});
     }
 
     void a_record_or_template_gives_its_other_variant()
     {
-        QFETCH(const int, index);
-        QFETCH(const QByteArray, selected);
+        const auto [index, selected, source] = row<int, QByteArray, QString>();
         FLASH_DOUBLE& flash = mgr().add_record("X");
         FLASH_DOUBLE& previous = mgr().add_custom("A");
         previous.operations[true] = make_operations("record");
@@ -363,8 +335,6 @@ private slots:
 
         draft.store_template(flash);
 
-        const QString source = selected == "A" ? QStringLiteral("record")
-                                               : (index == 1 ? QStringLiteral("built-in") : QStringLiteral("stored"));
         for (int kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind)
             QCOMPARE(flash.flow(kind, true), QStringList(QStringLiteral("0:%1 %2").arg(source).arg(kind)));
         QVERIFY(flash.operations[true][0] != previous.operations[true][0]);
