@@ -6,6 +6,7 @@
 #include "fault_injector.h"
 #include "gfpdb_test.h"
 #include "store/gfpdb_store.h"
+#include "test_rows.h"
 
 #include <algorithm>
 #include <map>
@@ -84,8 +85,6 @@ void ignore_message(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 } // namespace
 
-Q_DECLARE_METATYPE(FAULT_CALL)
-
 class TEST_FOREIGN_FILE_FAULTS : public QObject
 {
     Q_OBJECT
@@ -93,209 +92,202 @@ class TEST_FOREIGN_FILE_FAULTS : public QObject
 private slots:
     void initTestCase() { qInstallMessageHandler(&ignore_message); }
 
-    void what_a_killed_program_leaves_is_taken_back_data();
-    void what_a_killed_program_leaves_is_taken_back();
-    void a_journal_is_not_rolled_back_into_another_file_data();
-    void a_journal_is_not_rolled_back_into_another_file();
-    void a_journal_is_not_rolled_back_into_a_file_that_was_written_over();
-    void no_database_is_made_or_used_beside_a_left_file_data();
-    void no_database_is_made_or_used_beside_a_left_file();
-    void what_is_reported_as_stored_is_in_the_file_of_that_name_data();
-    void what_is_reported_as_stored_is_in_the_file_of_that_name();
+    void what_a_killed_program_leaves_is_taken_back_data()
+    {
+        QTest::addColumn<FAULT_CALL>("call");
+        QTest::addColumn<int>("size");
+        for (const FAULT_CALL call : {FAULT_CALL::WRITE, FAULT_CALL::SYNC, FAULT_CALL::TRUNCATE}) {
+            QTest::addRow("small, %s", name_of(call)) << call << 10;
+            QTest::addRow("large, %s", name_of(call)) << call << int(LARGE);
+        }
+    }
+
+    void what_a_killed_program_leaves_is_taken_back()
+    {
+        QFETCH(FAULT_CALL, call);
+        QFETCH(int, size);
+        int journals = 0;
+        std::optional<FILES> left;
+        for (int at = 1;; at += 1 + at / 10) {
+            const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+            const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+            save(*store, "A");
+            left = left_after(place, call, at, std::size_t(size));
+            if (!left)
+                break;
+            journals += is_hot(*left) ? 1 : 0;
+            put(place, *left);
+
+            const std::unique_ptr<GFPDB_STORE> after = gfpdb_make_store(place.db_dir());
+            const NAMES names = after->get_device_names(FAMILY, ACTIVE_SERIAL);
+            QCOMPARE(after->get_problem(), std::string());
+            QVERIFY(names == NAMES{"A"} || names == (NAMES{"A", "B"}));
+            QVERIFY(after->check_integrity());
+            QVERIFY(save(*after, "C"));
+        }
+        QVERIFY(journals > 0 || call == FAULT_CALL::TRUNCATE);
+    }
+
+    void a_journal_is_not_rolled_back_into_another_file_data()
+    {
+        rows_named<QString>({"an older state", "a later state", "another database", "a text"});
+    }
+
+    void a_journal_is_not_rolled_back_into_another_file()
+    {
+        const QString put_in = row<QString>();
+        int journals = 0;
+        std::optional<FILES> left;
+        for (int at = 1;; ++at) {
+            const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+            const auto make = [&](const NAMES& names) {
+                const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+                for (const std::string& name : names)
+                    save(*store, name);
+                return files_in(place);
+            };
+            std::map<QString, FILES> files;
+            files["a text"] = {std::string(10000, 'x'), std::string()};
+            files["another database"] = make({"X", "Y"});
+            ::unlink(place.db_file().c_str());
+            files["an older state"] = make({"A"});
+            make({"Z"});
+            left = left_after(place, FAULT_CALL::WRITE, at, 10);
+            if (!left)
+                break;
+            files["a later state"] = make({"C"});
+            const FILES other = {files[put_in].database, left->journal};
+            put(place, other);
+            const std::string problem = gfpdb_make_store(place.db_dir())->get_problem();
+            if (is_hot(*left)) {
+                ++journals;
+                QCOMPARE(problem,
+                         "The database " + place.db_file() + " is not used: " + journal_of(place) +
+                             " is the journal of another database, or of another state of this one, and would " +
+                             "damage it. Move that file to another directory, then try again.");
+                const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+                QVERIFY(!save(*store, "D"));
+                QCOMPARE(store->get_last_error(), problem);
+                QCOMPARE(read_file(journal_of(place)), other.journal);
+            }
+            QCOMPARE(read_file(place.db_file()), other.database);
+
+            ::unlink(journal_of(place).c_str());
+            QCOMPARE(read_file(place.db_file()), other.database);
+            QCOMPARE(gfpdb_make_store(place.db_dir())->get_problem().empty(), put_in != QLatin1String("a text"));
+        }
+        QVERIFY(journals > 0);
+    }
+
+    // The file stays the same one for the system, and is open.
+    void a_journal_is_not_rolled_back_into_a_file_that_was_written_over()
+    {
+        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        save(*store, "A");
+        const FILES older = files_in(place);
+        save(*store, "Z");
+        const std::optional<FILES> left = left_after(place, FAULT_CALL::SYNC, 3, 10);
+        QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B", "Z"}));
+        QVERIFY(left && is_hot(*left));
+
+        write_file(place.db_file(), older.database);
+        write_file(journal_of(place), left->journal);
+
+        QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
+        QVERIFY(!save(*store, "C"));
+        QCOMPARE(read_file(place.db_file()), older.database);
+        ::unlink(journal_of(place).c_str());
+        QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
+    }
+
+    void no_database_is_made_or_used_beside_a_left_file_data()
+    {
+        QTest::addColumn<QByteArray>("suffix");
+        QTest::addColumn<bool>("has_database");
+        QTest::addColumn<QByteArray>("problem");
+        for (const char* suffix : {"-journal", "-wal"})
+            QTest::addRow("%s alone", suffix)
+                << QByteArray(suffix) << false
+                << QByteArray("There is no database %1, but %2, which a program left that was writing it. Put the "
+                              "database back, or move that file to another directory to begin with an empty database.");
+        QTest::newRow("-journal") << QByteArray("-journal") << true
+                                  << QByteArray(
+                                         "The database %1 is not used: %2 is the journal of another database, or of "
+                                         "another state of this one, and would damage it. Move that file to another "
+                                         "directory, then try again.");
+        QTest::newRow("-wal") << QByteArray("-wal") << true
+                              << QByteArray("The database %1 is not used: %2 was written by another program, and would "
+                                            "change it. Close the database in that program. If the file is still there "
+                                            "then, move it to another directory.");
+    }
+
+    void no_database_is_made_or_used_beside_a_left_file()
+    {
+        QFETCH(QByteArray, suffix);
+        QFETCH(bool, has_database);
+        QFETCH(QByteArray, problem);
+        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        if (has_database)
+            save(*store, "A");
+        const std::string before = content_of(place.db_file());
+        const std::string left = place.db_file() + suffix.toStdString();
+        write_file(left, "of another program");
+        problem.replace("%1", place.db_file().c_str()).replace("%2", left.c_str());
+
+        QCOMPARE(store->get_problem(), problem.toStdString());
+        QVERIFY(!store->is_readable());
+        QVERIFY(!save(*store, "B"));
+        QCOMPARE(store->get_last_error(), problem.toStdString());
+        QCOMPARE(content_of(place.db_file()), before);
+        QCOMPARE(read_file(left), std::string("of another program"));
+        ::unlink(left.c_str());
+        QVERIFY(save(*store, "B"));
+        QCOMPARE(names_in(place), has_database ? (NAMES{"A", "B"}) : NAMES{"B"});
+    }
+
+    void what_is_reported_as_stored_is_in_the_file_of_that_name_data()
+    {
+        QTest::addColumn<FAULT_CALL>("call");
+        QTest::addColumn<bool>("is_replaced");
+        for (const FAULT_CALL call : CALLS) {
+            QTest::addRow("removed after a %s", name_of(call)) << call << false;
+            QTest::addRow("replaced after a %s", name_of(call)) << call << true;
+        }
+    }
+
+    void what_is_reported_as_stored_is_in_the_file_of_that_name()
+    {
+        QFETCH(FAULT_CALL, call);
+        QFETCH(bool, is_replaced);
+        bool is_over = false;
+        for (int at = 1; !is_over; ++at) {
+            const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+            const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+            save(*store, "A");
+            write_file(place.path("copy"), read_file(place.db_file()));
+            FAULT_INJECTOR::run_after(place.db_dir(), call, at, [&] {
+                if (is_replaced)
+                    std::rename(place.path("copy").c_str(), place.db_file().c_str());
+                else
+                    ::unlink(place.db_file().c_str());
+            });
+            const bool is_saved = save(*store, "B").has_value();
+            FAULT_INJECTOR::stop();
+            is_over = FAULT_INJECTOR::count(call) < at;
+
+            const NAMES names = names_in(place);
+            QCOMPARE(is_saved, std::count(names.begin(), names.end(), "B") == 1);
+            QVERIFY(is_saved || store->get_last_error().find("was replaced or removed") != std::string::npos);
+            QVERIFY(is_saved || save(*store, "B"));
+            QCOMPARE(names_in(place).back(), std::string("B"));
+        }
+    }
 };
 
-void TEST_FOREIGN_FILE_FAULTS::what_a_killed_program_leaves_is_taken_back_data()
-{
-    QTest::addColumn<FAULT_CALL>("call");
-    QTest::addColumn<int>("size");
-    for (const FAULT_CALL call : {FAULT_CALL::WRITE, FAULT_CALL::SYNC, FAULT_CALL::TRUNCATE}) {
-        QTest::addRow("small, %s", name_of(call)) << call << 10;
-        QTest::addRow("large, %s", name_of(call)) << call << int(LARGE);
-    }
-}
-
-void TEST_FOREIGN_FILE_FAULTS::what_a_killed_program_leaves_is_taken_back()
-{
-    QFETCH(FAULT_CALL, call);
-    QFETCH(int, size);
-    int journals = 0;
-    std::optional<FILES> left;
-    for (int at = 1;; at += 1 + at / 10) {
-        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
-        save(*store, "A");
-        left = left_after(place, call, at, std::size_t(size));
-        if (!left)
-            break;
-        journals += is_hot(*left) ? 1 : 0;
-        put(place, *left);
-
-        const std::unique_ptr<GFPDB_STORE> after = gfpdb_make_store(place.db_dir());
-        const NAMES names = after->get_device_names(FAMILY, ACTIVE_SERIAL);
-        QCOMPARE(after->get_problem(), std::string());
-        QVERIFY(names == NAMES{"A"} || names == (NAMES{"A", "B"}));
-        QVERIFY(after->check_integrity());
-        QVERIFY(save(*after, "C"));
-    }
-    QVERIFY(journals > 0 || call == FAULT_CALL::TRUNCATE);
-}
-
-void TEST_FOREIGN_FILE_FAULTS::a_journal_is_not_rolled_back_into_another_file_data()
-{
-    QTest::addColumn<QString>("put_in");
-    for (const char* put_in : {"an older state", "a later state", "another database", "a text"})
-        QTest::newRow(put_in) << QString::fromLatin1(put_in);
-}
-
-void TEST_FOREIGN_FILE_FAULTS::a_journal_is_not_rolled_back_into_another_file()
-{
-    QFETCH(QString, put_in);
-    int journals = 0;
-    std::optional<FILES> left;
-    for (int at = 1;; ++at) {
-        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-        const auto make = [&](const NAMES& names) {
-            const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
-            for (const std::string& name : names)
-                save(*store, name);
-            return files_in(place);
-        };
-        std::map<QString, FILES> files;
-        files["a text"] = {std::string(10000, 'x'), std::string()};
-        files["another database"] = make({"X", "Y"});
-        ::unlink(place.db_file().c_str());
-        files["an older state"] = make({"A"});
-        make({"Z"});
-        left = left_after(place, FAULT_CALL::WRITE, at, 10);
-        if (!left)
-            break;
-        files["a later state"] = make({"C"});
-        const FILES other = {files[put_in].database, left->journal};
-        put(place, other);
-        const std::string problem = gfpdb_make_store(place.db_dir())->get_problem();
-        if (is_hot(*left)) {
-            ++journals;
-            QCOMPARE(problem, "The database " + place.db_file() + " is not used: " + journal_of(place) +
-                                  " is the journal of another database, or of another state of this one, and would " +
-                                  "damage it. Move that file to another directory, then try again.");
-            const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
-            QVERIFY(!save(*store, "D"));
-            QCOMPARE(store->get_last_error(), problem);
-            QCOMPARE(read_file(journal_of(place)), other.journal);
-        }
-        QCOMPARE(read_file(place.db_file()), other.database);
-
-        ::unlink(journal_of(place).c_str());
-        QCOMPARE(read_file(place.db_file()), other.database);
-        QCOMPARE(gfpdb_make_store(place.db_dir())->get_problem().empty(), put_in != QLatin1String("a text"));
-    }
-    QVERIFY(journals > 0);
-}
-
-// The file stays the same one for the system, and is open.
-void TEST_FOREIGN_FILE_FAULTS::a_journal_is_not_rolled_back_into_a_file_that_was_written_over()
-{
-    const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
-    save(*store, "A");
-    const FILES older = files_in(place);
-    save(*store, "Z");
-    const std::optional<FILES> left = left_after(place, FAULT_CALL::SYNC, 3, 10);
-    QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"A", "B", "Z"}));
-    QVERIFY(left && is_hot(*left));
-
-    write_file(place.db_file(), older.database);
-    write_file(journal_of(place), left->journal);
-
-    QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES());
-    QVERIFY(!save(*store, "C"));
-    QCOMPARE(read_file(place.db_file()), older.database);
-    ::unlink(journal_of(place).c_str());
-    QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
-}
-
-void TEST_FOREIGN_FILE_FAULTS::no_database_is_made_or_used_beside_a_left_file_data()
-{
-    QTest::addColumn<QByteArray>("suffix");
-    QTest::addColumn<bool>("has_database");
-    QTest::addColumn<QByteArray>("problem");
-    for (const char* suffix : {"-journal", "-wal"})
-        QTest::addRow("%s alone", suffix)
-            << QByteArray(suffix) << false
-            << QByteArray("There is no database %1, but %2, which a program left that was writing it. Put the "
-                          "database back, or move that file to another directory to begin with an empty database.");
-    QTest::newRow("-journal") << QByteArray("-journal") << true
-                              << QByteArray("The database %1 is not used: %2 is the journal of another database, or of "
-                                            "another state of this one, and would damage it. Move that file to another "
-                                            "directory, then try again.");
-    QTest::newRow("-wal") << QByteArray("-wal") << true
-                          << QByteArray("The database %1 is not used: %2 was written by another program, and would "
-                                        "change it. Close the database in that program. If the file is still there "
-                                        "then, move it to another directory.");
-}
-
-void TEST_FOREIGN_FILE_FAULTS::no_database_is_made_or_used_beside_a_left_file()
-{
-    QFETCH(QByteArray, suffix);
-    QFETCH(bool, has_database);
-    QFETCH(QByteArray, problem);
-    const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-    const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
-    if (has_database)
-        save(*store, "A");
-    const std::string before = content_of(place.db_file());
-    const std::string left = place.db_file() + suffix.toStdString();
-    write_file(left, "of another program");
-    problem.replace("%1", place.db_file().c_str()).replace("%2", left.c_str());
-
-    QCOMPARE(store->get_problem(), problem.toStdString());
-    QVERIFY(!store->is_readable());
-    QVERIFY(!save(*store, "B"));
-    QCOMPARE(store->get_last_error(), problem.toStdString());
-    QCOMPARE(content_of(place.db_file()), before);
-    QCOMPARE(read_file(left), std::string("of another program"));
-    ::unlink(left.c_str());
-    QVERIFY(save(*store, "B"));
-    QCOMPARE(names_in(place), has_database ? (NAMES{"A", "B"}) : NAMES{"B"});
-}
-
-void TEST_FOREIGN_FILE_FAULTS::what_is_reported_as_stored_is_in_the_file_of_that_name_data()
-{
-    QTest::addColumn<FAULT_CALL>("call");
-    QTest::addColumn<bool>("is_replaced");
-    for (const FAULT_CALL call : CALLS) {
-        QTest::addRow("removed after a %s", name_of(call)) << call << false;
-        QTest::addRow("replaced after a %s", name_of(call)) << call << true;
-    }
-}
-
-void TEST_FOREIGN_FILE_FAULTS::what_is_reported_as_stored_is_in_the_file_of_that_name()
-{
-    QFETCH(FAULT_CALL, call);
-    QFETCH(bool, is_replaced);
-    bool is_over = false;
-    for (int at = 1; !is_over; ++at) {
-        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
-        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
-        save(*store, "A");
-        write_file(place.path("copy"), read_file(place.db_file()));
-        FAULT_INJECTOR::run_after(place.db_dir(), call, at, [&] {
-            if (is_replaced)
-                std::rename(place.path("copy").c_str(), place.db_file().c_str());
-            else
-                ::unlink(place.db_file().c_str());
-        });
-        const bool is_saved = save(*store, "B").has_value();
-        FAULT_INJECTOR::stop();
-        is_over = FAULT_INJECTOR::count(call) < at;
-
-        const NAMES names = names_in(place);
-        QCOMPARE(is_saved, std::count(names.begin(), names.end(), "B") == 1);
-        QVERIFY(is_saved || store->get_last_error().find("was replaced or removed") != std::string::npos);
-        QVERIFY(is_saved || save(*store, "B"));
-        QCOMPARE(names_in(place).back(), std::string("B"));
-    }
-}
+Q_DECLARE_METATYPE(FAULT_CALL)
 
 QTEST_GUILESS_MAIN(TEST_FOREIGN_FILE_FAULTS)
+
 #include "test_foreign_file_faults.moc"

@@ -30,7 +30,8 @@ GFPDB_ACT_PROPERTY property_id(int property)
 // The action type that a property belongs to.
 int type_of(int property)
 {
-    const int first_properties[] = {0, 5, 13, 21, 31, 38};
+    const int first_properties[] = {GFPDB_WR_NAME, GFPDB_RR_NAME, GFPDB_WD_NAME,
+                                    GFPDB_RD_NAME, GFPDB_ER_NAME, GFPDB_CUSTOM_LOOP_UNIT};
     int type = 0;
     for (int candidate = 0; candidate < GFPDB_ACT_TYPE_COUNT; ++candidate) {
         if (property >= first_properties[candidate])
@@ -61,6 +62,9 @@ std::string bytes_of(int count)
     return text;
 }
 
+const std::initializer_list<int> NAMES = {GFPDB_WR_NAME, GFPDB_RR_NAME, GFPDB_WD_NAME, GFPDB_RD_NAME, GFPDB_ER_NAME};
+const std::initializer_list<int> BYTES = {GFPDB_WR_COMMAND, GFPDB_RR_COMMAND, GFPDB_WD_COMMAND,
+                                          GFPDB_RD_COMMAND, GFPDB_ER_COMMAND, GFPDB_RD_EXPECTED_DATA_MASK};
 const QByteArray BYTES_ALLOWED = "1 to 256 bytes in hexadecimal with one blank between two of them, such as 0x00 0x02.";
 const QByteArray BYTE_ALLOWED = "one byte in hexadecimal, such as 0x9F.";
 const QByteArray ADDRESS_ALLOWED = "an address of eight hexadecimal digits, such as 0x00010000.";
@@ -74,12 +78,12 @@ class TEST_FLOW_ACTIONS : public QObject
 private slots:
     void each_type_has_its_run_of_properties_in_order_data()
     {
-        rows<int, int, int>({{"Write Register", 0, 0, 4},
-                             {"Read Register", 1, 5, 12},
-                             {"Write Data", 2, 13, 20},
-                             {"Read Data", 3, 21, 30},
-                             {"Erase", 4, 31, 37},
-                             {"Custom", 5, 38, 39}});
+        rows<int, int, int>({{"Write Register", GFPDB_ACT_WRITE_REGISTER, GFPDB_WR_NAME, GFPDB_WR_BUS_WIDTH},
+                             {"Read Register", GFPDB_ACT_READ_REGISTER, GFPDB_RR_NAME, GFPDB_RR_BUS_WIDTH},
+                             {"Write Data", GFPDB_ACT_WRITE_DATA, GFPDB_WD_NAME, GFPDB_WD_BUS_WIDTH},
+                             {"Read Data", GFPDB_ACT_READ_DATA, GFPDB_RD_NAME, GFPDB_RD_BUS_WIDTH},
+                             {"Erase", GFPDB_ACT_ERASE, GFPDB_ER_NAME, GFPDB_ER_BUS_WIDTH},
+                             {"Custom", GFPDB_ACT_CUSTOM, GFPDB_CUSTOM_LOOP_UNIT, GFPDB_CUSTOM_LOOP_MARKER}});
     }
 
     void each_type_has_its_run_of_properties_in_order()
@@ -127,19 +131,22 @@ private slots:
 
     void a_new_action_has_the_default_values_data()
     {
-        rows<QStringList>(
-            {{"0", QStringList{"Write Register", "0x06", "none", "0", "1-1"}},
-             {"1", QStringList{"Read Register", "0x05", "1", "0x00", "0x01", "1", "0", "1-1"}},
-             {"2", QStringList{"Write Data", "0x02", "loop", "image", "256", "3", "0", "1-1-1"}},
-             {"3", QStringList{"Read Data", "0x0B", "0x00000000", "device", "image", "0xFF", "3", "8", "0", "1-1-1"}},
-             {"4", QStringList{"Erase", "0xD8", "loop", "65536", "3", "0", "1-1"}},
-             {"5", QStringList{"page", "start"}}});
+        rows<int, QStringList>(
+            {{"Write Register", GFPDB_ACT_WRITE_REGISTER, QStringList{"Write Register", "0x06", "none", "0", "1-1"}},
+             {"Read Register", GFPDB_ACT_READ_REGISTER,
+              QStringList{"Read Register", "0x05", "1", "0x00", "0x01", "1", "0", "1-1"}},
+             {"Write Data", GFPDB_ACT_WRITE_DATA,
+              QStringList{"Write Data", "0x02", "loop", "image", "256", "3", "0", "1-1-1"}},
+             {"Read Data", GFPDB_ACT_READ_DATA,
+              QStringList{"Read Data", "0x0B", "0x00000000", "device", "image", "0xFF", "3", "8", "0", "1-1-1"}},
+             {"Erase", GFPDB_ACT_ERASE, QStringList{"Erase", "0xD8", "loop", "65536", "3", "0", "1-1"}},
+             {"Custom", GFPDB_ACT_CUSTOM, QStringList{"page", "start"}}});
     }
 
     void a_new_action_has_the_default_values()
     {
-        const QStringList values = row<QStringList>();
-        const ACTION action = make(QByteArray(QTest::currentDataTag()).toInt());
+        const auto [type, values] = row<int, QStringList>();
+        const ACTION action = make(type);
 
         QStringList found;
         for (const GFPDB_ACT_PROPERTY property : action->get_property_enum_list()) {
@@ -164,11 +171,16 @@ private slots:
     {
         const QStringList two_phases = {"1-1", "1-2", "1-4", "2-2", "4-4"};
         const QStringList three_phases = {"1-1-1", "1-1-2", "1-2-2", "1-1-4", "1-4-4", "2-2-2", "4-4-4"};
-        const QMap<int, QStringList> choices = {
-            {4, two_phases},       {12, two_phases}, {18, {"3", "4"}},
-            {20, three_phases},    {27, {"3", "4"}}, {30, three_phases},
-            {35, {"0", "3", "4"}}, {37, two_phases}, {38, {"page", "sector", "die"}},
-            {39, {"start", "end"}}};
+        const QMap<int, QStringList> choices = {{GFPDB_WR_BUS_WIDTH, two_phases},
+                                                {GFPDB_RR_BUS_WIDTH, two_phases},
+                                                {GFPDB_WD_ADDRESSING_MODE, {"3", "4"}},
+                                                {GFPDB_WD_BUS_WIDTH, three_phases},
+                                                {GFPDB_RD_ADDRESSING_MODE, {"3", "4"}},
+                                                {GFPDB_RD_BUS_WIDTH, three_phases},
+                                                {GFPDB_ER_ADDRESSING_MODE, {"0", "3", "4"}},
+                                                {GFPDB_ER_BUS_WIDTH, two_phases},
+                                                {GFPDB_CUSTOM_LOOP_UNIT, {"page", "sector", "die"}},
+                                                {GFPDB_CUSTOM_LOOP_MARKER, {"start", "end"}}};
         QTest::addColumn<QStringList>("choices");
         for (int property = -1; property <= 40; ++property)
             QTest::newRow(QByteArray::number(property).constData()) << choices.value(property);
@@ -223,18 +235,18 @@ private slots:
                     QTest::addRow("%d %s", property, value) << property << QByteArray(value);
             }
         };
-        add({0, 5, 13, 21, 31}, {"x", "Write Enable", "Quad-Enable (unverified)", "\xC3\xBC\xF0\x9F\x98\x80", "<b>",
-                                 "0123456789012345678901234567890123456789012345678901234567890123"});
-        add({1, 6, 14, 22, 32, 26}, {"0x00", "0x9f", "0xFF"});
-        add({2}, {"none", "die", "0x40", "0x00 0x02"});
-        add({8}, {"none", "id", "0xC2 0x20 0x19"});
-        add({9}, {"0xFF 0xFF 0xFF"});
-        add({16}, {"image", "0x12 0x34"});
-        add({15, 23, 33}, {"loop", "die", "0x00FF0000"});
-        add({33}, {"none"});
-        add({25}, {"image", "none", "0xFF"});
-        add({24, 34}, {"device", "die", "1", "65536", "4294967296"});
-        add({17}, {"1", "2", "256", "512", "4096"});
+        add(NAMES, {"x", "Write Enable", "Quad-Enable (unverified)", "\xC3\xBC\xF0\x9F\x98\x80", "<b>",
+                    "0123456789012345678901234567890123456789012345678901234567890123"});
+        add(BYTES, {"0x00", "0x9f", "0xFF"});
+        add({GFPDB_WR_DATA}, {"none", "die", "0x40", "0x00 0x02"});
+        add({GFPDB_RR_EXPECTED_DATA}, {"none", "id", "0xC2 0x20 0x19"});
+        add({GFPDB_RR_EXPECTED_DATA_MASK}, {"0xFF 0xFF 0xFF"});
+        add({GFPDB_WD_DATA}, {"image", "0x12 0x34"});
+        add({GFPDB_WD_ADDRESS, GFPDB_RD_ADDRESS, GFPDB_ER_ADDRESS}, {"loop", "die", "0x00FF0000"});
+        add({GFPDB_ER_ADDRESS}, {"none"});
+        add({GFPDB_RD_EXPECTED_DATA}, {"image", "none", "0xFF"});
+        add({GFPDB_RD_DATA_LENGTH, GFPDB_ER_ERASE_SIZE}, {"device", "die", "1", "65536", "4294967296"});
+        add({GFPDB_WD_PAGE_SIZE}, {"1", "2", "256", "512", "4096"});
     }
 
     void allowed_values_pass()
@@ -256,27 +268,31 @@ private slots:
                     QTest::addRow("%d %s", property, value.left(30).constData()) << property << value << allowed;
             }
         };
-        add({0, 5, 13, 21, 31}, {"", " ", "two\nlines", "\x7F", "\xFF", QByteArray(65, 'x')},
+        add(NAMES, {"", " ", "two\nlines", "\x7F", "\xFF", QByteArray(65, 'x')},
             "a text of 1 to 64 characters on one line.");
-        add({1, 6, 14, 22, 32, 26}, {"", "9F", "0x9", "0x9FF", "none", "0x9F 0x9F"}, BYTE_ALLOWED);
-        add({2}, {"", "image", "id", "0x4", "0x40,0x02", "NONE", QByteArray::fromStdString(bytes_of(257))},
+        add(BYTES, {"", "9F", "0x9", "0x9FF", "none", "0x9F 0x9F"}, BYTE_ALLOWED);
+        add({GFPDB_WR_DATA}, {"", "image", "id", "0x4", "0x40,0x02", "NONE", QByteArray::fromStdString(bytes_of(257))},
             "none, die, or " + BYTES_ALLOWED);
-        add({8}, {"", "die", "image", "40", QByteArray::fromStdString(bytes_of(257))}, "none, id, or " + BYTES_ALLOWED);
-        add({9}, {"", "none", "id", "FF"}, BYTES_ALLOWED);
-        add({16}, {"", "none", "die", QByteArray::fromStdString(bytes_of(4097))},
+        add({GFPDB_RR_EXPECTED_DATA}, {"", "die", "image", "40", QByteArray::fromStdString(bytes_of(257))},
+            "none, id, or " + BYTES_ALLOWED);
+        add({GFPDB_RR_EXPECTED_DATA_MASK}, {"", "none", "id", "FF"}, BYTES_ALLOWED);
+        add({GFPDB_WD_DATA}, {"", "none", "die", QByteArray::fromStdString(bytes_of(4097))},
             "image, or 1 to 4096 bytes in hexadecimal with one blank between two of them, such as 0x00 0x02.");
-        add({15, 23}, {"", "none", "0x0", "0", "image", "Loop"}, "loop, die, or " + ADDRESS_ALLOWED);
-        add({33}, {"", "0x0", "0", "image"}, "loop, die, none, or " + ADDRESS_ALLOWED);
-        add({25}, {"", "loop", "id", "0xFF 0xFF"}, "image, none, or " + BYTE_ALLOWED);
-        add({24, 34}, {"", "0", "4294967297", "0x100", "64K", "image"},
+        add({GFPDB_WD_ADDRESS, GFPDB_RD_ADDRESS}, {"", "none", "0x0", "0", "image", "Loop"},
+            "loop, die, or " + ADDRESS_ALLOWED);
+        add({GFPDB_ER_ADDRESS}, {"", "0x0", "0", "image"}, "loop, die, none, or " + ADDRESS_ALLOWED);
+        add({GFPDB_RD_EXPECTED_DATA}, {"", "loop", "id", "0xFF 0xFF"}, "image, none, or " + BYTE_ALLOWED);
+        add({GFPDB_RD_DATA_LENGTH, GFPDB_ER_ERASE_SIZE}, {"", "0", "4294967297", "0x100", "64K", "image"},
             "device, die, or a whole number from 1 to 4294967296.");
-        add({17}, {"", "0", "3", "255", "8192", "0x100"}, "a power of two from 1 to 4096.");
-        add({4, 12, 37}, {"", "1", "1-1-1", "1-8", "4-1"}, "1-1, 1-2, 1-4, 2-2, 4-4.");
-        add({20, 30}, {"", "1-1", "1-4-1", "4-1-1"}, "1-1-1, 1-1-2, 1-2-2, 1-1-4, 1-4-4, 2-2-2, 4-4-4.");
-        add({18, 27}, {"", "0", "2", "5"}, "3, 4.");
-        add({35}, {"", "1", "5"}, "0, 3, 4.");
-        add({38}, {"", "Page", "chip"}, "page, sector, die.");
-        add({39}, {"", "Start", "begin"}, "start, end.");
+        add({GFPDB_WD_PAGE_SIZE}, {"", "0", "3", "255", "8192", "0x100"}, "a power of two from 1 to 4096.");
+        add({GFPDB_WR_BUS_WIDTH, GFPDB_RR_BUS_WIDTH, GFPDB_ER_BUS_WIDTH}, {"", "1", "1-1-1", "1-8", "4-1"},
+            "1-1, 1-2, 1-4, 2-2, 4-4.");
+        add({GFPDB_WD_BUS_WIDTH, GFPDB_RD_BUS_WIDTH}, {"", "1-1", "1-4-1", "4-1-1"},
+            "1-1-1, 1-1-2, 1-2-2, 1-1-4, 1-4-4, 2-2-2, 4-4-4.");
+        add({GFPDB_WD_ADDRESSING_MODE, GFPDB_RD_ADDRESSING_MODE}, {"", "0", "2", "5"}, "3, 4.");
+        add({GFPDB_ER_ADDRESSING_MODE}, {"", "1", "5"}, "0, 3, 4.");
+        add({GFPDB_CUSTOM_LOOP_UNIT}, {"", "Page", "chip"}, "page, sector, die.");
+        add({GFPDB_CUSTOM_LOOP_MARKER}, {"", "Start", "begin"}, "start, end.");
     }
 
     void other_values_are_refused_with_a_text()
@@ -293,20 +309,20 @@ private slots:
 
     void numbers_keep_to_their_range_data()
     {
-        QTest::addColumn<int>("lowest");
-        QTest::addColumn<int>("highest");
-        for (const char* delay : {"3", "11", "19", "29", "36"})
-            QTest::newRow(delay) << 0 << 600000000;
-        QTest::newRow("7") << 1 << 256;
-        QTest::newRow("10") << 1 << 1000000;
-        QTest::newRow("28") << 0 << 31;
+        constexpr int LONGEST_DELAY = 600000000;
+        rows<int, int, int>({{"Write Register: delay", GFPDB_WR_DELAY, 0, LONGEST_DELAY},
+                             {"Read Register: delay", GFPDB_RR_DELAY, 0, LONGEST_DELAY},
+                             {"Write Data: delay", GFPDB_WD_DELAY, 0, LONGEST_DELAY},
+                             {"Read Data: delay", GFPDB_RD_DELAY, 0, LONGEST_DELAY},
+                             {"Erase: delay", GFPDB_ER_DELAY, 0, LONGEST_DELAY},
+                             {"data length", GFPDB_RR_DATA_LENGTH, 1, 256},
+                             {"attempt count", GFPDB_RR_ATTEMPT_COUNT, 1, 1000000},
+                             {"dummy clocks", GFPDB_RD_DUMMY_CLOCK, 0, 31}});
     }
 
     void numbers_keep_to_their_range()
     {
-        QFETCH(int, lowest);
-        QFETCH(int, highest);
-        const int property = QByteArray(QTest::currentDataTag()).toInt();
+        const auto [property, lowest, highest] = row<int, int, int>();
         const ACTION checker = make(GFPDB_ACT_CUSTOM);
 
         QCOMPARE(error_of(*checker, property, std::to_string(lowest)), std::string());

@@ -33,6 +33,30 @@ GFPDB_PART only_part(const std::string& row)
     return content.parts[0];
 }
 
+// The values of a part in the order of the columns.
+QString line_of(const GFPDB_PART& part)
+{
+    static const char* const QUAD_ENABLES[] = {"unknown", "none", "SR1.6", "SR2.1"};
+    QStringList id;
+    for (const int byte : part.jedec_id)
+        id += QString::number(byte, 16);
+    QStringList erases;
+    for (const GFPDB_ERASE_COMMAND& erase : part.sector_erase)
+        erases += QString("%1:%2").arg(erase.opcode, 0, 16).arg(erase.size_bytes);
+    const QString texts = QString("%1|%2|%3|%4|%5")
+                              .arg(part.name.c_str(), part.manufacturer.c_str(), id.join(' '), part.voltage.c_str(),
+                                   part.density.c_str());
+    const QString numbers = QString("|%1|%2|%3|%4|%5|%6")
+                                .arg(part.total_die)
+                                .arg(part.page_size)
+                                .arg(erases.join(' '))
+                                .arg(part.addressing_bytes)
+                                .arg(part.dummy_single)
+                                .arg(part.dummy_quad);
+    return texts + numbers + part.dummy_quad_note.c_str() + '|' + QUAD_ENABLES[int(part.quad_enable)] + '|' +
+           part.source.c_str();
+}
+
 std::vector<std::string> error_texts(const std::string& text)
 {
     std::vector<std::string> texts;
@@ -63,6 +87,8 @@ QByteArray names_in_other_process(const QString& catalogue_path)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::string)
 
 class TEST_FLOW_CATALOGUE : public QObject
 {
@@ -117,52 +143,29 @@ private slots:
         QCOMPARE(rows[2].line, 6);
     }
 
-    void every_cell_is_read()
+    void every_cell_is_read_data()
     {
-        const GFPDB_PART part = only_part(FULL_ROW);
-
-        QCOMPARE(part.name, std::string("A1"));
-        QCOMPARE(part.manufacturer, std::string("Maker"));
-        QCOMPARE(part.jedec_id, (std::vector<int>{0xC2, 0x20, 0x19}));
-        QCOMPARE(part.voltage, std::string("3.3V"));
-        QCOMPARE(part.density, std::string("256Mb"));
-        QCOMPARE(part.total_die, 2);
-        QCOMPARE(part.page_size, 512);
-        QCOMPARE(part.sector_erase.size(), std::size_t(2));
-        QCOMPARE(part.sector_erase[0].opcode, 0x20);
-        QCOMPARE(part.sector_erase[0].size_bytes, 4096);
-        QCOMPARE(part.sector_erase[1].opcode, 0xD8);
-        QCOMPARE(part.sector_erase[1].size_bytes, 65536);
-        QCOMPARE(part.addressing_bytes, 4);
-        QCOMPARE(part.dummy_single, 8);
-        QCOMPARE(part.dummy_quad, 6);
-        QCOMPARE(part.dummy_quad_note, std::string("(2 mode + 4 wait)"));
-        QCOMPARE(part.quad_enable, GFPDB_QUAD_ENABLE::SR1_BIT6);
-        QCOMPARE(part.source, std::string("from"));
-        QVERIFY(!part.properties_hidden);
-        QVERIFY(!part.flows_hidden);
-        QCOMPARE(only_part("A,,C2,,1Mb,,,81:256B 52:1M,,,6,none,,\n").sector_erase[0].size_bytes, 256);
-        QCOMPARE(only_part("A,,C2,,1Mb,,,81:256B 52:1M,,,6,none,,\n").sector_erase[1].size_bytes, 1048576);
-        QCOMPARE(only_part("A,,C2,,1Mb,,,81:1024K,,,6,none,,\n").sector_erase[0].size_bytes, 1048576);
-        QCOMPARE(only_part("A,,C2,,1Mb,,,,,,6,none,,\n").quad_enable, GFPDB_QUAD_ENABLE::NONE);
-        QCOMPARE(only_part("A,,C2,,1Mb,,,,,,6,SR2.1,,\n").quad_enable, GFPDB_QUAD_ENABLE::SR2_BIT1);
+        rows<std::string, QString>(
+            {{"every value", FULL_ROW,
+              "A1|Maker|c2 20 19|3.3V|256Mb|2|512|20:4096 d8:65536|4|8|6(2 mode + 4 wait)|SR1.6|from"},
+             {"an empty cell leaves its value unknown", "A1,,C2,,256Mb,,,,,,,,,\n",
+              "A1||c2||256Mb|0|0||0|0|0|unknown|"},
+             {"the highest values", "A,,00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F,,1Mb,16,4096,,,31,31,,,\n",
+              "A||0 1 2 3 4 5 6 7 8 9 a b c d e f||1Mb|16|4096||0|31|31|unknown|"},
+             {"the lowest values", "A,,00,,1Mb,1,1,,,1,1,,,\n", "A||0||1Mb|1|1||0|1|1|unknown|"},
+             {"sizes in bytes and MiB", "A,,C2,,1Mb,,,81:256B 52:1M,,,6,none,,\n",
+              "A||c2||1Mb|0|0|81:256 52:1048576|0|0|6|none|"},
+             {"1024 KiB", "A,,C2,,1Mb,,,81:1024K,,,6,SR2.1,,\n", "A||c2||1Mb|0|0|81:1048576|0|0|6|SR2.1|"}});
     }
 
-    void an_empty_cell_leaves_its_value_unknown()
+    void every_cell_is_read()
     {
-        const GFPDB_PART part = only_part("A1,,C2,,256Mb,,,,,,,,,\n");
+        const auto [cells, line] = row<std::string, QString>();
 
-        QCOMPARE(part.name, std::string("A1"));
-        QCOMPARE(part.manufacturer, std::string());
-        QCOMPARE(part.voltage, std::string());
-        QCOMPARE(part.total_die, 0);
-        QCOMPARE(part.page_size, 0);
-        QVERIFY(part.sector_erase.empty());
-        QCOMPARE(part.addressing_bytes, 0);
-        QCOMPARE(part.dummy_single, 0);
-        QCOMPARE(part.dummy_quad, 0);
-        QCOMPARE(part.dummy_quad_note, std::string());
-        QCOMPARE(part.quad_enable, GFPDB_QUAD_ENABLE::UNKNOWN);
+        const GFPDB_PART part = only_part(cells);
+
+        QCOMPARE(line_of(part), line);
+        QVERIFY(!part.properties_hidden && !part.flows_hidden);
     }
 
     void columns_stand_in_any_order()
@@ -223,23 +226,6 @@ private slots:
 
         QCOMPARE(error_texts(text), TEXTS{"line 3, " + error.toStdString()});
         QCOMPARE(gfpdb_parse_catalogue(text).parts.size(), std::size_t(1));
-    }
-
-    void the_highest_and_lowest_values_are_read()
-    {
-        const GFPDB_PART highest =
-            only_part("A,,00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F,,1Mb,16,4096,,,31,31,,,\n");
-        QCOMPARE(highest.jedec_id.size(), std::size_t(16));
-        QCOMPARE(highest.total_die, 16);
-        QCOMPARE(highest.page_size, 4096);
-        QCOMPARE(highest.dummy_single, 31);
-        QCOMPARE(highest.dummy_quad, 31);
-        const GFPDB_PART lowest = only_part("A,,00,,1Mb,1,1,,,1,1,,,\n");
-        QCOMPARE(lowest.jedec_id, std::vector<int>{0});
-        QCOMPARE(lowest.total_die, 1);
-        QCOMPARE(lowest.page_size, 1);
-        QCOMPARE(lowest.dummy_single, 1);
-        QCOMPARE(lowest.dummy_quad, 1);
     }
 
     void a_row_with_an_error_is_left_out_alone()

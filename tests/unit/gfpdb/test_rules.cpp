@@ -275,10 +275,21 @@ private slots:
             return used;
         };
 
-        QCOMPARE(properties(GFPDB_SCHEME_KIND::SERIAL), (std::vector<int>{0, 1, 2, 3, 4, 5, 6, 8}));
-        QCOMPARE(properties(GFPDB_SCHEME_KIND::PARALLEL), (std::vector<int>{0, 1, 2, 3, 4}));
-        QCOMPARE(properties(GFPDB_SCHEME_KIND::CARD), (std::vector<int>{0, 2, 3}));
-        QCOMPARE(properties(GFPDB_SCHEME_KIND::NONE), (std::vector<int>{0, 1, 2, 3, 4, 5, 6, 8}));
+        const std::vector<int> card = {GFPDB_FLASH_NAME, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_DENSITY};
+        const std::vector<int> parallel = {GFPDB_FLASH_NAME, GFPDB_FLASH_DEVICE_ID, GFPDB_FLASH_VOLTAGE,
+                                           GFPDB_FLASH_DENSITY, GFPDB_FLASH_TOTAL_DIE};
+        const std::vector<int> serial = {GFPDB_FLASH_NAME,
+                                         GFPDB_FLASH_DEVICE_ID,
+                                         GFPDB_FLASH_VOLTAGE,
+                                         GFPDB_FLASH_DENSITY,
+                                         GFPDB_FLASH_TOTAL_DIE,
+                                         GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK,
+                                         GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK,
+                                         GFPDB_FLASH_FLOW_TEMPLATE};
+        QCOMPARE(properties(GFPDB_SCHEME_KIND::SERIAL), serial);
+        QCOMPARE(properties(GFPDB_SCHEME_KIND::PARALLEL), parallel);
+        QCOMPARE(properties(GFPDB_SCHEME_KIND::CARD), card);
+        QCOMPARE(properties(GFPDB_SCHEME_KIND::NONE), serial);
     }
 
     void voltage_lists()
