@@ -7,7 +7,7 @@
 
 #include "base/gfpdb_settings.h"
 #include "manager/gfpdb_embedded_mgr.h"
-#include "store/sqlite/gfpdb_sqlite_store.h"
+#include "store/sqlite/gfpdb_sqlite_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,7 +29,7 @@ const std::string& directory()
 
 QString file_name(const char* suffix)
 {
-    return QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_STORE::FILE_NAME + suffix));
+    return QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME + suffix));
 }
 
 QByteArray file_content()
@@ -87,7 +87,7 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     QFile::remove(file_name("-journal"));
-    fuzz_write_file(directory() + GFPDB_SQLITE_STORE::FILE_NAME, FUZZ_INPUT(data, size).take_rest());
+    fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, FUZZ_INPUT(data, size).take_rest());
     GFPDB_EMBEDDED_MGR manager;
     manager.set_device_family(FAMILY);
     manager.set_config_scheme(SCHEME);

@@ -11,7 +11,7 @@
 #include "exchange/gfpdb_record_file.h"
 #include "exchange/gfpdb_record_json.h"
 #include "manager/gfpdb_embedded_mgr.h"
-#include "store/sqlite/gfpdb_sqlite_store.h"
+#include "store/sqlite/gfpdb_sqlite_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -58,7 +58,7 @@ const std::string& full_database()
         GFPDB_ROW model = row_of(DEVICES[0]);
         model.template_name = TEMPLATE;
         FUZZ_CHECK(database.store().save_all({row_of(DEVICES[0]), row_of(DEVICES[1])}, {model}, [](int) {}));
-        QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_STORE::FILE_NAME)));
+        QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME)));
         FUZZ_CHECK(file.open(QIODevice::ReadOnly));
         return file.readAll().toStdString();
     }();
@@ -107,7 +107,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         options.family = FAMILY;
         options.scheme = SCHEME;
     }
-    fuzz_write_file(directory() + GFPDB_SQLITE_STORE::FILE_NAME, full_database());
+    fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, full_database());
     CLI_DATABASE database(directory());
     IMPORT_PLAN plan(database, (kind & REPLACE) != 0, RECORD_RULES::IMPORTED);
     bool good = true;

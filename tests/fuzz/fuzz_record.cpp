@@ -8,7 +8,7 @@
 
 #include "base/gfpdb_text.h"
 #include "manager/gfpdb_embedded_mgr.h"
-#include "store/sqlite/gfpdb_sqlite_store.h"
+#include "store/sqlite/gfpdb_sqlite_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -51,7 +51,7 @@ const std::string& directory()
 
 QString file_name()
 {
-    return QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_STORE::FILE_NAME));
+    return QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME));
 }
 
 // An empty database, as the library makes it.
@@ -174,7 +174,7 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FUZZ_INPUT input(data, size);
-    fuzz_write_file(directory() + GFPDB_SQLITE_STORE::FILE_NAME, empty_database().toStdString());
+    fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, empty_database().toStdString());
     insert_records(input);
     QSqlDatabase::removeDatabase(CONNECTION);
 

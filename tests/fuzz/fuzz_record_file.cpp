@@ -10,7 +10,7 @@
 #include "exchange/gfpdb_record_file.h"
 #include "exchange/gfpdb_record_json.h"
 #include "manager/gfpdb_embedded_mgr.h"
-#include "store/sqlite/gfpdb_sqlite_store.h"
+#include "store/sqlite/gfpdb_sqlite_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,7 +40,7 @@ const std::string& empty_database()
         row.scheme = SCHEME;
         row.name = "first";
         FUZZ_CHECK(database.store().save_device(row) && database.store().remove_device(FAMILY, SCHEME, row.name));
-        QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_STORE::FILE_NAME)));
+        QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME)));
         FUZZ_CHECK(file.open(QIODevice::ReadOnly));
         return file.readAll().toStdString();
     }();
@@ -98,7 +98,7 @@ void check_export(CLI_DATABASE& database, const std::string& exported, const REC
 // A file without a problem is stored whole.
 void check_import(RECORD_FILE& file, const RECORD_FILE_OPTIONS& options)
 {
-    fuzz_write_file(directory() + GFPDB_SQLITE_STORE::FILE_NAME, empty_database());
+    fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, empty_database());
     CLI_DATABASE database(directory());
     IMPORT_PLAN plan(database, false, options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::IMPORTED);
     plan.add(file);

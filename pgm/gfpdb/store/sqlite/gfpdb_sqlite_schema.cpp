@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 
-// The part of GFPDB_SQLITE_STORE that deals with the schema: what it must be, reading it, upgrading it. The file is in
-// gfpdb_sqlite_file.cpp.
-//
-// A file that others can write is believed only as far as its schema is, word for word, one that this library makes:
-// then nothing runs but the library's own statements. A view in the place of a table could run for ever, a trigger
-// could remove what is being saved.
-#include "store/sqlite/gfpdb_sqlite_store.h"
+#include "store/sqlite/gfpdb_sqlite_schema.h"
 
 #include "base/gfpdb_text.h"
 #include "store/sqlite/gfpdb_old_flows.h"
+#include "store/sqlite/gfpdb_sqlite_connection.h"
 #include "store/sqlite/gfpdb_sqlite_sql.h"
 
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QUuid>
 #include <QVariant>
 #include <QVector>
 
@@ -123,7 +119,7 @@ QStringList make_schema(int version, const QString& connection_name)
 // The rows of schema `version`, which must be one of ours.
 const QStringList& known_schema(int version)
 {
-    static std::array<QStringList, GFPDB_SQLITE_STORE::SCHEMA_VERSION + 1> schemas;
+    static std::array<QStringList, GFPDB_SQLITE_SCHEMA::VERSION + 1> schemas;
     QStringList& rows = schemas[static_cast<std::size_t>(version)];
     if (rows.isEmpty()) {
         const QString connection_name = QStringLiteral("gfpdb schema");
@@ -135,152 +131,158 @@ const QStringList& known_schema(int version)
 
 } // namespace
 
-std::optional<std::string> GFPDB_SQLITE_STORE::read_meta(const char* name)
+GFPDB_SQLITE_SCHEMA::GFPDB_SQLITE_SCHEMA(GFPDB_SQLITE_CONNECTION& connection) : m_connection(connection) {}
+
+std::optional<std::string> GFPDB_SQLITE_SCHEMA::read_meta(const char* name)
 {
     QSqlQuery query;
-    if (!prepare(query, "SELECT value FROM meta WHERE name = ?", {QLatin1String(name)}) || !run(query))
+    if (!m_connection.prepare(query, "SELECT value FROM meta WHERE name = ?", {QLatin1String(name)}) ||
+        !m_connection.run(query))
         return std::nullopt;
     return query.next() ? gfpdb_to_utf8(query.value(0).toString()) : std::string();
 }
 
-std::optional<QStringList> GFPDB_SQLITE_STORE::read_schema_rows()
+std::optional<QStringList> GFPDB_SQLITE_SCHEMA::read_rows()
 {
     QSqlQuery query;
-    if (!prepare(query, SCHEMA_STATEMENT) || !run(query))
+    if (!m_connection.prepare(query, SCHEMA_STATEMENT) || !m_connection.run(query))
         return std::nullopt;
     const QStringList rows = schema_rows(query);
     if (query.lastError().isValid()) {
-        fail(query.lastError());
+        m_connection.fail(query.lastError());
         return std::nullopt;
     }
     return rows;
 }
 
-// In one transaction, so that the size and the schema belong to the content.
-bool GFPDB_SQLITE_STORE::read_schema()
+bool GFPDB_SQLITE_SCHEMA::read()
 {
-    return run("BEGIN") && check_schema() && check_encoding() && is_whole_file() && run("COMMIT");
+    return check_tables() && check_encoding();
 }
 
 // Texts are compared and cast as the bytes that they are: another encoding would cut them.
-bool GFPDB_SQLITE_STORE::check_encoding()
+bool GFPDB_SQLITE_SCHEMA::check_encoding()
 {
     QSqlQuery query;
-    if (!prepare(query, "PRAGMA encoding") || !run(query) || !query.next())
-        return fail(query.lastError());
+    if (!m_connection.prepare(query, "PRAGMA encoding") || !m_connection.run(query) || !query.next())
+        return m_connection.fail(query.lastError());
     const QString encoding = query.value(0).toString();
     return encoding == QLatin1String("UTF-8") ||
-           fail("The database " + file_path() + " was altered by another program: its texts are " +
-                gfpdb_to_utf8(encoding) + ", not UTF-8. It is left as it is.");
+           m_connection.fail("The database " + m_connection.path() + " was altered by another program: its texts are " +
+                             gfpdb_to_utf8(encoding) + ", not UTF-8. It is left as it is.");
 }
 
 // Nothing but the list of what is in the file is read before that list is known to be ours.
-bool GFPDB_SQLITE_STORE::check_schema()
+bool GFPDB_SQLITE_SCHEMA::check_tables()
 {
     static const QString META_ROW = schema_row(
         {QStringLiteral("table"), QStringLiteral("meta"), QStringLiteral("meta"), QStringLiteral(GFPDB_META_TABLE)});
-    const std::optional<QStringList> rows = read_schema_rows();
+    const std::optional<QStringList> rows = read_rows();
     const std::optional<std::string> version =
         rows && rows->contains(META_ROW) ? read_meta("schema_version") : std::string();
-    return rows && version && is_known_schema(*rows, QByteArray::fromStdString(*version).toInt()) && remember_schema();
+    return rows && version && is_known(*rows, QByteArray::fromStdString(*version).toInt()) && remember_count();
 }
 
-bool GFPDB_SQLITE_STORE::is_known_schema(const QStringList& rows, int version)
+bool GFPDB_SQLITE_SCHEMA::is_known(const QStringList& rows, int version)
 {
-    m_schema_version = version;
-    if (m_schema_version < 1)
-        return fail("The file " + file_path() + " is a database of another program. It is left as it is.");
-    if (m_schema_version > SCHEMA_VERSION)
-        return fail("The database " + file_path() + " was written by a newer program (its schema is " +
-                    std::to_string(m_schema_version) + ", this program knows up to " + std::to_string(SCHEMA_VERSION) +
-                    "). It is left as it is.");
-    if (rows != known_schema(m_schema_version))
-        return fail("The database " + file_path() + " was altered by another program: its tables are not those of " +
-                    "schema " + std::to_string(m_schema_version) + ". It is left as it is.");
+    m_version = version;
+    if (m_version < 1)
+        return m_connection.fail("The file " + m_connection.path() +
+                                 " is a database of another program. It is left as it is.");
+    if (m_version > VERSION)
+        return m_connection.fail("The database " + m_connection.path() +
+                                 " was written by a newer program (its schema is " + std::to_string(m_version) +
+                                 ", this program knows up to " + std::to_string(VERSION) + "). It is left as it is.");
+    if (rows != known_schema(m_version))
+        return m_connection.fail("The database " + m_connection.path() +
+                                 " was altered by another program: its tables are not those of " + "schema " +
+                                 std::to_string(m_version) + ". It is left as it is.");
     m_database_id = read_meta("database_id").value_or(std::string());
     return true;
 }
 
 // SQLite counts the changes of a schema.
-std::optional<int> GFPDB_SQLITE_STORE::read_schema_count()
+std::optional<int> GFPDB_SQLITE_SCHEMA::read_count()
 {
     QSqlQuery query;
-    if (!prepare(query, "PRAGMA schema_version") || !run(query) || !query.next())
+    if (!m_connection.prepare(query, "PRAGMA schema_version") || !m_connection.run(query) || !query.next())
         return std::nullopt;
     return query.value(0).toInt();
 }
 
-bool GFPDB_SQLITE_STORE::remember_schema()
+bool GFPDB_SQLITE_SCHEMA::remember_count()
 {
-    m_schema_count = read_schema_count();
-    return m_schema_count.has_value();
+    m_count = read_count();
+    return m_count.has_value();
 }
 
 // True in a transaction on the file as it was opened: the same database with the same schema.
-bool GFPDB_SQLITE_STORE::is_same_database()
+bool GFPDB_SQLITE_SCHEMA::is_same_database()
 {
-    if (m_schema_count == read_schema_count())
+    if (m_count == read_count())
         return m_database_id == read_meta("database_id");
     const std::string database_id = m_database_id;
-    return check_schema() && m_schema_version == SCHEMA_VERSION && m_database_id == database_id;
-}
-
-// The journal is kept, emptied and synced. SQLite does not sync the directory of a journal that it deletes, so that a
-// machine that loses power could find it again and roll back what was reported as saved.
-bool GFPDB_SQLITE_STORE::upgrade()
-{
-    if (!run("PRAGMA journal_mode = TRUNCATE"))
-        return false;
-    return m_schema_version == SCHEMA_VERSION || run_transaction([this] { return migrate(); });
+    return check_tables() && m_version == VERSION && m_database_id == database_id;
 }
 
 // Reads the version again: another program may have upgraded the file meanwhile.
-bool GFPDB_SQLITE_STORE::migrate()
+bool GFPDB_SQLITE_SCHEMA::migrate()
 {
     const std::optional<std::string> text = read_meta("schema_version");
     return text && run_steps(QByteArray::fromStdString(*text).toInt());
 }
 
-// From the schema `from` to the present one.
-bool GFPDB_SQLITE_STORE::run_steps(int from)
+bool GFPDB_SQLITE_SCHEMA::make()
 {
-    for (int version = from; version < SCHEMA_VERSION; ++version) {
+    QSqlQuery query;
+    return run_steps(0) &&
+           m_connection.prepare(query, "INSERT INTO meta (name, value) VALUES ('database_id', ?)",
+                                {QUuid::createUuid().toString(QUuid::WithoutBraces)}) &&
+           m_connection.run(query);
+}
+
+// From the schema `from` to the present one.
+bool GFPDB_SQLITE_SCHEMA::run_steps(int from)
+{
+    for (int version = from; version < VERSION; ++version) {
         if (!run_step(version))
             return false;
     }
     return true;
 }
 
-bool GFPDB_SQLITE_STORE::run_step(int from)
+bool GFPDB_SQLITE_SCHEMA::run_step(int from)
 {
     const MIGRATION& migration = MIGRATIONS[static_cast<std::size_t>(from)];
     QSqlQuery query;
     return run_all(migration.tables) && (from + 1 != GFPDB_FLOW_TEXT_SCHEMA || convert_rows()) &&
            run_all(migration.indexes) &&
-           prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'", {QString::number(from + 1)}) &&
-           run(query);
+           m_connection.prepare(query, "UPDATE meta SET value = ? WHERE name = 'schema_version'",
+                                {QString::number(from + 1)}) &&
+           m_connection.run(query);
 }
 
-bool GFPDB_SQLITE_STORE::run_all(const std::vector<const char*>& statements)
+bool GFPDB_SQLITE_SCHEMA::run_all(const std::vector<const char*>& statements)
 {
-    return std::all_of(statements.begin(), statements.end(), [this](const char* statement) { return run(statement); });
+    return std::all_of(statements.begin(), statements.end(),
+                       [this](const char* statement) { return m_connection.run(statement); });
 }
 
 // What cannot be read stays, byte for byte.
-bool GFPDB_SQLITE_STORE::convert_rows()
+bool GFPDB_SQLITE_SCHEMA::convert_rows()
 {
     for (const CONVERSION& conversion : CONVERSIONS) {
         QSqlQuery ids;
         QSqlQuery row;
         QSqlQuery update;
-        if (!prepare(ids, conversion.ids) || !run(ids) || !prepare(row, conversion.row) ||
-            !prepare(update, conversion.update))
+        if (!m_connection.prepare(ids, conversion.ids) || !m_connection.run(ids) ||
+            !m_connection.prepare(row, conversion.row) || !m_connection.prepare(update, conversion.update))
             return false;
         QVector<qlonglong> numbers;
         while (ids.next())
             numbers.push_back(ids.value(0).toLongLong());
         if (ids.lastError().isValid())
-            return fail(ids.lastError());
+            return m_connection.fail(ids.lastError());
         for (const qlonglong number : numbers) {
             if (!convert_row(row, update, number))
                 return false;
@@ -289,11 +291,11 @@ bool GFPDB_SQLITE_STORE::convert_rows()
     return true;
 }
 
-bool GFPDB_SQLITE_STORE::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number)
+bool GFPDB_SQLITE_SCHEMA::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number)
 {
     row.bindValue(0, number);
-    if (!run(row) || !row.next())
-        return fail(row.lastError());
+    if (!m_connection.run(row) || !row.next())
+        return m_connection.fail(row.lastError());
     int column = 0;
     for (; column < 2; ++column)
         update.bindValue(column, bytes_of(gfpdb_flows_of_schema_2(text_at(row, column))));
@@ -301,5 +303,5 @@ bool GFPDB_SQLITE_STORE::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglon
         update.bindValue(column++, key_of(text_at(row, 2)));
     update.bindValue(column, number);
     row.finish();
-    return run(update);
+    return m_connection.run(update);
 }

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-
-// The part of GFPDB_SQLITE_STORE that deals with the records. Saving and removing one device is in
-// gfpdb_sqlite_store_apply.cpp, the file in gfpdb_sqlite_file.cpp.
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include "base/gfpdb_log.h"
@@ -83,7 +80,7 @@ std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory)
 
 bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values)
 {
-    return prepare_read() && (prepare(query, statement, values) || note_read_problem());
+    return m_file.prepare_read() && (prepare(query, statement, values) || m_file.note_read_problem());
 }
 
 // The next row of `query`, which is run when it has no row yet; false at the end and, with the problem kept, on
@@ -91,23 +88,14 @@ bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const std::string& stateme
 bool GFPDB_SQLITE_STORE::next_row(QSqlQuery& query)
 {
     const bool is_run = query.isActive() || query.exec();
-    if (is_run && m_is_locked)
-        m_read_problem.clear();
+    if (is_run)
+        m_file.note_read();
     if (is_run && query.next())
         return true;
     if (!query.lastError().isValid())
         return false;
-    fail(query.lastError());
-    return note_read_problem();
-}
-
-// A lock is forgotten when a read succeeds again; damage stays known until the file is opened anew.
-bool GFPDB_SQLITE_STORE::note_read_problem()
-{
-    if (m_read_problem != m_last_error)
-        qCWarning(GFPDB_LOG, "%s", m_last_error.c_str());
-    m_read_problem = m_last_error;
-    return false;
+    m_file.connection().fail(query.lastError());
+    return m_file.note_read_problem();
 }
 
 std::vector<std::string> GFPDB_SQLITE_STORE::read_names(QSqlQuery& query)
@@ -140,12 +128,13 @@ std::vector<std::string> GFPDB_SQLITE_STORE::get_template_names()
 GFPDB_USED_VALUES GFPDB_SQLITE_STORE::get_used_values(const std::vector<int>& schemes)
 {
     const std::string foreign_changes = read_text("PRAGMA data_version", {});
+    const std::string read_at = std::to_string(m_file.openings()) + ' ' + foreign_changes;
     KNOWN_VALUES& known = m_used_values[schemes];
-    if (!m_last_error.empty() || (!foreign_changes.empty() && foreign_changes == known.foreign_changes))
+    if (!get_last_error().empty() || (!foreign_changes.empty() && read_at == known.read_at))
         return known.values;
     GFPDB_USED_VALUES values;
-    if (read_used_values(schemes, values) || m_last_error.empty())
-        known = {values, foreign_changes};
+    if (read_used_values(schemes, values) || get_last_error().empty())
+        known = {values, read_at};
     return known.values;
 }
 
@@ -190,7 +179,7 @@ void GFPDB_SQLITE_STORE::note_used_values(const std::vector<int>& schemes, const
 void GFPDB_SQLITE_STORE::forget_used_values()
 {
     for (auto& known : m_used_values)
-        known.second.foreign_changes.clear();
+        known.second.read_at.clear();
 }
 
 std::string GFPDB_SQLITE_STORE::read_text(const std::string& statement, const QVariantList& values)
@@ -271,9 +260,9 @@ bool GFPDB_SQLITE_STORE::check_integrity()
 {
     QSqlQuery query;
     if (!start_read(query, "PRAGMA integrity_check"))
-        return m_last_error.empty();
-    return next_row(query) &&
-           (line_at(query, 0) == "ok" || fail("The database in " + m_directory + " is damaged: " + line_at(query, 0)));
+        return get_last_error().empty();
+    return next_row(query) && (line_at(query, 0) == "ok" ||
+                               fail("The database in " + get_directory() + " is damaged: " + line_at(query, 0)));
 }
 
 bool GFPDB_SQLITE_STORE::has_device(const std::string& name)
@@ -285,9 +274,9 @@ bool GFPDB_SQLITE_STORE::has_device(const std::string& name)
 
 bool GFPDB_SQLITE_STORE::remove_template(const std::string& template_name)
 {
-    if (!prepare_write())
+    if (!m_file.prepare_write())
         return false;
-    return m_state == STATE::NO_FILE || change([&] { return drop_template(template_name, REASON_DELETED); });
+    return m_file.is_missing() || m_file.change([&] { return drop_template(template_name, REASON_DELETED); });
 }
 
 std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const std::string& statement)
@@ -316,20 +305,20 @@ bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const s
                                   const std::function<void(int)>& progress)
 {
     forget_used_values();
-    return prepare_write() && change([&] {
-               int done = 0;
-               for (const GFPDB_ROW& row : devices) {
-                   if (!replace_device(row))
-                       return false;
-                   progress(++done);
-               }
-               for (const GFPDB_ROW& row : templates) {
-                   if (!replace_template(row))
-                       return false;
-                   progress(++done);
-               }
-               return true;
-           });
+    return m_file.prepare_write() && m_file.change([&] {
+        int done = 0;
+        for (const GFPDB_ROW& row : devices) {
+            if (!replace_device(row))
+                return false;
+            progress(++done);
+        }
+        for (const GFPDB_ROW& row : templates) {
+            if (!replace_template(row))
+                return false;
+            progress(++done);
+        }
+        return true;
+    });
 }
 
 bool GFPDB_SQLITE_STORE::replace_device(const GFPDB_ROW& row)
@@ -347,7 +336,7 @@ bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row)
 // A read-only file of an older schema is read as it is.
 std::string GFPDB_SQLITE_STORE::history_statement(const std::string& columns, const char* which) const
 {
-    const char* changed_by = m_schema_version < GFPDB_CHANGED_BY_SCHEMA ? "''" : "changed_by";
+    const char* changed_by = m_file.schema_version() < GFPDB_CHANGED_BY_SCHEMA ? "''" : "changed_by";
     return std::string("SELECT id, is_template, reason, changed_at, ") + changed_by + ", " + columns +
            " FROM history " + which;
 }
@@ -356,9 +345,9 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history(const std::stri
 {
     std::vector<GFPDB_HISTORY_ENTRY> entries;
     QSqlQuery query;
-    if (!prepare_read())
+    if (!m_file.prepare_read())
         return entries;
-    const bool is_keyed = !name.empty() && m_schema_version >= GFPDB_FLOW_TEXT_SCHEMA;
+    const bool is_keyed = !name.empty() && m_file.schema_version() >= GFPDB_FLOW_TEXT_SCHEMA;
     const std::string statement =
         history_statement(scalars_read(), is_keyed ? "WHERE name_key = CAST(? AS TEXT) ORDER BY id" : "ORDER BY id");
     if (!start_read(query, statement, is_keyed ? QVariantList{key_of(name)} : QVariantList()))
@@ -376,7 +365,7 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history(const std::stri
 std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t id)
 {
     QSqlQuery query;
-    if (!prepare_read() ||
+    if (!m_file.prepare_read() ||
         !start_read(query, history_statement(all_read(), "WHERE id = ?"), {static_cast<qlonglong>(id)}) ||
         !next_row(query))
         return std::nullopt;
@@ -389,16 +378,16 @@ bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::
 {
     const std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
     if (!entry)
-        return m_last_error.empty() ? fail("There is no state " + std::to_string(id) + " in the history.") : false;
+        return get_last_error().empty() ? fail("There is no state " + std::to_string(id) + " in the history.") : false;
     GFPDB_ROW row = entry->row;
     row.revision = gfpdb_new_revision();
     if (!new_name.empty())
         (entry->is_template ? row.template_name : row.name) = new_name;
     forget_used_values();
-    return prepare_write() && change([&] {
-               return check_different_names(row) &&
-                      (entry->is_template ? put_back_template(row, how) : put_back_device(row, how));
-           });
+    return m_file.prepare_write() && m_file.change([&] {
+        return check_different_names(row) &&
+               (entry->is_template ? put_back_template(row, how) : put_back_device(row, how));
+    });
 }
 
 bool GFPDB_SQLITE_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
@@ -431,7 +420,7 @@ bool GFPDB_SQLITE_STORE::finds_none(QSqlQuery& query, const char* what, const st
 GFPDB_ROW GFPDB_SQLITE_STORE::full_row(const QSqlQuery& query, int first) const
 {
     GFPDB_ROW row = row_at(query, first);
-    if (m_schema_version < GFPDB_FLOW_TEXT_SCHEMA) {
+    if (m_file.schema_version() < GFPDB_FLOW_TEXT_SCHEMA) {
         row.single_flows = gfpdb_flows_of_schema_2(row.single_flows);
         row.quad_flows = gfpdb_flows_of_schema_2(row.quad_flows);
     }

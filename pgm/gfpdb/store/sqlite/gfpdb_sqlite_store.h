@@ -1,40 +1,31 @@
 // SPDX-License-Identifier: MIT
 
-// The store in a SQLite file of the database directory. All SQL is here and in the sources of this class.
-//
-// The file is never overwritten: one that is empty, damaged, of another program, altered by one or of a newer schema
-// stays as it is. Before every use the store looks whether the file of that name is still the one it has open.
+// The store in a SQLite file of the database directory: the SQL of records, templates and the history.
 #pragma once
 
 #include "store/gfpdb_store.h"
+#include "store/sqlite/gfpdb_sqlite_file.h"
 
-#include <QStringList>
 #include <QVariant>
 
 #include <map>
 
-#include <sys/types.h>
-
-class QSqlDatabase;
-class QSqlError;
 class QSqlQuery;
 
-class GFPDB_SQLITE_STORE : public GFPDB_STORE
+class GFPDB_SQLITE_STORE final : public GFPDB_STORE
 {
 public:
-    explicit GFPDB_SQLITE_STORE(const std::string& directory);
-    ~GFPDB_SQLITE_STORE() override;
-    GFPDB_SQLITE_STORE(const GFPDB_SQLITE_STORE&) = delete;
-    GFPDB_SQLITE_STORE& operator=(const GFPDB_SQLITE_STORE&) = delete;
+    // `directory` ends in "/".
+    explicit GFPDB_SQLITE_STORE(const std::string& directory) : m_file(directory) {}
 
-    const std::string& get_directory() const override { return m_directory; }
-    void reload() override;
-    bool is_readable() override;
-    bool is_writable() override;
-    bool is_read_only() override;
-    bool can_be_changed() override { return prepare_write(); }
-    std::string get_problem() override;
-    const std::string& get_last_error() const override { return m_last_error; }
+    const std::string& get_directory() const override { return m_file.directory(); }
+    void reload() override { m_file.reload(); }
+    bool is_readable() override { return m_file.is_readable(); }
+    bool is_writable() override { return m_file.is_writable(); }
+    bool is_read_only() override { return m_file.is_read_only(); }
+    bool can_be_changed() override { return m_file.prepare_write(); }
+    std::string get_problem() override { return m_file.problem(); }
+    const std::string& get_last_error() const override { return m_file.connection().last_error(); }
     bool check_integrity() override;
     std::vector<std::string> get_device_names(int family, int scheme) override;
     std::vector<std::string> get_template_names() override;
@@ -65,81 +56,14 @@ public:
     std::vector<GFPDB_MISPLACED> get_misplaced() override;
     std::optional<int> rebuild_keys() override;
 
-    // The name of the database file in its directory.
-    static const char FILE_NAME[];
-    static constexpr int SCHEMA_VERSION = 3;
-
 private:
-    enum class STATE
+    bool prepare(QSqlQuery& query, const std::string& statement, const QVariantList& values = {})
     {
-        CLOSED,    // not looked at yet
-        UNUSABLE,  // m_problem says why
-        NO_FILE,   // the first change makes the file
-        READ_ONLY, // m_problem says why
-        READ_WRITE,
-    };
-    // Which file stands behind a name.
-    struct FILE_IDENTITY
-    {
-        dev_t device = 0;
-        ino_t inode = 0;
-        bool operator==(const FILE_IDENTITY& other) const { return device == other.device && inode == other.inode; }
-    };
-    using WORK = std::function<bool()>;
-
-    // gfpdb_sqlite_file.cpp: the file, its schema, transactions.
-    std::string file_path() const;
-    QString connection_name() const;
-    QSqlDatabase database() const;
-    void open();
-    void close();
-    bool examine_directory();
-    bool examine_file();
-    void examine_missing_file(int error, const std::string& left);
-    bool has_own_companions();
-    bool has_own_journal(const std::string& path);
-    bool connect(const std::string& path, const char* mode);
-    bool is_whole_file();
-    bool create_file();
-    bool build_new_file(const std::string& path);
-    bool fail_to_make(const std::string& why);
-    bool is_same_file() const;
-    void refresh();
-    bool prepare_read();
-    bool prepare_write();
-    bool refuse_replaced_file();
-    bool change(const WORK& work);
-    bool run_transaction(const WORK& work);
-    bool set_mark(int mark);
-    std::optional<int> read_mark();
-    bool is_stored(int mark, const std::string& error);
-    bool is_stored_in_place();
-    void set_problem(STATE state, const std::string& problem);
-    bool fail(const std::string& error);
-    bool fail(const QSqlError& error);
-    void limit_wait();
-    // `values` are what the question marks stand for, in their order.
-    bool prepare(QSqlQuery& query, const std::string& statement, const QVariantList& values = {});
-    bool run(const char* statement);
-    bool run(QSqlQuery& query);
-
-    // gfpdb_sqlite_schema.cpp: what is in the file besides records.
-    std::optional<std::string> read_meta(const char* name);
-    std::optional<QStringList> read_schema_rows();
-    bool read_schema();
-    bool check_schema();
-    bool check_encoding();
-    bool is_known_schema(const QStringList& rows, int version);
-    std::optional<int> read_schema_count();
-    bool remember_schema();
-    bool is_same_database();
-    bool upgrade();
-    bool migrate();
-    bool run_steps(int from);
-    bool run_step(int from);
-    bool run_all(const std::vector<const char*>& statements);
-    bool convert_rows();
-    bool convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number);
+        return m_file.connection().prepare(query, statement, values);
+    }
+    bool run(const char* statement) { return m_file.connection().run(statement); }
+    bool run(QSqlQuery& query) { return m_file.connection().run(query); }
+    bool fail(const std::string& error) { return m_file.connection().fail(error); }
 
     // gfpdb_sqlite_store.cpp: the records.
     bool read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values);
@@ -147,7 +71,6 @@ private:
     void forget_used_values();
     bool start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values = {});
     bool next_row(QSqlQuery& query);
-    bool note_read_problem();
     std::vector<std::string> read_names(QSqlQuery& query);
     std::string read_text(const std::string& statement, const QVariantList& values);
     std::vector<GFPDB_ROW> read_rows(const std::string& statement);
@@ -188,32 +111,13 @@ private:
     bool set_key(const GFPDB_MISPLACED& record, const std::string& key);
     bool place(const GFPDB_MISPLACED& record, int& placed);
 
-    std::string m_directory;
-    int m_connection;
-    STATE m_state = STATE::CLOSED;
-    // The file that is open, if one is.
-    FILE_IDENTITY m_identity;
-    std::string m_database_id;
-    int m_schema_version = 0;
-    // The count of the schema that was found to be a known one.
-    std::optional<int> m_schema_count;
-    // What is known of used values for which schemes, and SQLite's count of other programs' changes when it was read;
-    // empty when it is to be read again.
+    GFPDB_SQLITE_FILE m_file;
+    // What is known of used values for which schemes, and which opening of the file and which count of other programs'
+    // changes that was read at; empty when it is to be read again.
     struct KNOWN_VALUES
     {
         GFPDB_USED_VALUES values;
-        std::string foreign_changes;
+        std::string read_at;
     };
     std::map<std::vector<int>, KNOWN_VALUES> m_used_values;
-    // The file that the user has seen is gone, and no change was refused for that yet.
-    bool m_was_replaced = false;
-    // The last error was another program's lock.
-    bool m_is_locked = false;
-    // How long to wait for one by the settings, and how long the connection waits now.
-    int m_busy_timeout_ms = 0;
-    int m_wait_ms = 0;
-    // What was wrong when the file was opened, and when it was last read.
-    std::string m_problem;
-    std::string m_read_problem;
-    std::string m_last_error;
 };

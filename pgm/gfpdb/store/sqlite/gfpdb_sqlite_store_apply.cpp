@@ -19,7 +19,7 @@ std::optional<std::string> GFPDB_SQLITE_STORE::save_device(const GFPDB_ROW& row,
         return check_free_names(row) && (!is_new_name || check_no_such_device(row.family, row.scheme, row.name)) &&
                save_over(row, taken, revision) && save_template(row);
     };
-    if (!prepare_write() || !change(work))
+    if (!m_file.prepare_write() || !m_file.change(work))
         return std::nullopt;
     note_used_values(row);
     return revision;
@@ -64,17 +64,17 @@ bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
 bool GFPDB_SQLITE_STORE::remove_device(int family, int scheme, const std::string& name,
                                        std::optional<GFPDB_TAKEN>* taken)
 {
-    if (!prepare_write())
+    if (!m_file.prepare_write())
         return false;
-    if (m_state == STATE::NO_FILE)
+    if (m_file.is_missing())
         return true;
     GFPDB_TAKEN removed{std::string(), 0, family, scheme, name, std::string()};
     const auto work = [&] {
         return drop_device(family, scheme, name, REASON_DELETED, &removed.history_id) && read_revision(removed);
     };
-    if (!change(work))
+    if (!m_file.change(work))
         return false;
-    removed.database_id = m_database_id;
+    removed.database_id = m_file.database_id();
     if (taken != nullptr && removed.history_id != 0)
         *taken = removed;
     return true;
@@ -96,11 +96,11 @@ bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
         return check_no_template(taken.name) && check_no_such_device(taken.family, taken.scheme, taken.name) &&
                insert_taken(taken) && mark_taken(taken, REASON_PUT_BACK);
     };
-    const bool is_ready = prepare_write();
-    if (is_ready && (m_state != STATE::READ_WRITE || m_database_id != taken.database_id))
-        return fail("The database in " + m_directory + " is another one now.");
-    return (is_ready && change(work)) ||
-           fail(m_last_error + " It is state " + std::to_string(taken.history_id) + " of the history.");
+    const bool is_ready = m_file.prepare_write();
+    if (is_ready && m_file.database_id() != taken.database_id)
+        return fail("The database in " + get_directory() + " is another one now.");
+    return (is_ready && m_file.change(work)) ||
+           fail(get_last_error() + " It is state " + std::to_string(taken.history_id) + " of the history.");
 }
 
 // The taken record in the history, by its number and, should that have been given to another one, its revision.

@@ -32,10 +32,10 @@ std::string record_of(const GFPDB_HISTORY_ENTRY& entry)
 std::optional<int> GFPDB_SQLITE_STORE::prune_history(const GFPDB_PRUNING& pruning)
 {
     std::vector<std::int64_t> ids;
-    if (!prepare_write())
+    if (!m_file.prepare_write())
         return std::nullopt;
     const bool is_done =
-        m_state == STATE::NO_FILE || change([&] { return find_prunable(pruning, ids) && remove_states(ids); });
+        m_file.is_missing() || m_file.change([&] { return find_prunable(pruning, ids) && remove_states(ids); });
     return is_done ? std::optional<int>(static_cast<int>(ids.size())) : std::nullopt;
 }
 
@@ -105,8 +105,8 @@ bool GFPDB_SQLITE_STORE::remove_states(const std::vector<std::int64_t>& ids)
 std::vector<GFPDB_MISPLACED> GFPDB_SQLITE_STORE::get_misplaced()
 {
     std::vector<GFPDB_MISPLACED> misplaced;
-    if (prepare_read() && !read_misplaced(misplaced))
-        note_read_problem();
+    if (m_file.prepare_read() && !read_misplaced(misplaced))
+        m_file.note_read_problem();
     return misplaced;
 }
 
@@ -137,22 +137,22 @@ bool GFPDB_SQLITE_STORE::read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced)
 std::optional<int> GFPDB_SQLITE_STORE::rebuild_keys()
 {
     int placed = 0;
-    if (!prepare_write())
+    if (!m_file.prepare_write())
         return std::nullopt;
-    const bool is_done = m_state == STATE::NO_FILE || change([&] {
-                             std::vector<GFPDB_MISPLACED> misplaced;
-                             if (!read_misplaced(misplaced))
-                                 return false;
-                             for (const GFPDB_MISPLACED& record : misplaced) {
-                                 if (!set_key(record, PARKED_KEY + std::to_string(record.row_id)))
-                                     return false;
-                             }
-                             for (const GFPDB_MISPLACED& record : misplaced) {
-                                 if (!place(record, placed))
-                                     return false;
-                             }
-                             return true;
-                         });
+    const bool is_done = m_file.is_missing() || m_file.change([&] {
+        std::vector<GFPDB_MISPLACED> misplaced;
+        if (!read_misplaced(misplaced))
+            return false;
+        for (const GFPDB_MISPLACED& record : misplaced) {
+            if (!set_key(record, PARKED_KEY + std::to_string(record.row_id)))
+                return false;
+        }
+        for (const GFPDB_MISPLACED& record : misplaced) {
+            if (!place(record, placed))
+                return false;
+        }
+        return true;
+    });
     return is_done ? std::optional<int>(placed) : std::nullopt;
 }
 

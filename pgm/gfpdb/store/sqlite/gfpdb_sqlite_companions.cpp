@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "store/sqlite/gfpdb_journal.h"
+#include "store/sqlite/gfpdb_sqlite_companions.h"
 
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
+
+constexpr char JOURNAL_SUFFIX[] = "-journal";
+constexpr char WAL_SUFFIX[] = "-wal";
+constexpr char WAL_INDEX_SUFFIX[] = "-shm";
 
 // The format of SQLite's files; numbers have four bytes, the highest first.
 const std::string DATABASE_BEGIN("SQLite format 3\0", 16);
@@ -85,9 +92,9 @@ bool fits(const std::string& database, const JOURNAL& journal)
     return mark == number_at(database, DATABASE_MARK) || mark == former_mark || (former_mark == 0 && mark_before == 0);
 }
 
-} // namespace
-
-bool gfpdb_journal_fits(const std::string& file, const std::string& journal_path)
+// True when the journal in `journal_path` belongs to the database in `file`, or nothing is in it. Also when it cannot
+// be read.
+bool is_own_journal(const std::string& file, const std::string& journal_path)
 {
     JOURNAL journal = read_journal(journal_path);
     for (int i = 0; i < MOST_TRIES; ++i) {
@@ -100,4 +107,46 @@ bool gfpdb_journal_fits(const std::string& file, const std::string& journal_path
             return false;
     }
     return true;
+}
+
+std::string real_path_of(const std::string& path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real_path(::realpath(path.c_str(), nullptr), &std::free);
+    return real_path ? real_path.get() : path;
+}
+
+std::string left_beside(const std::string& path)
+{
+    for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX}) {
+        struct stat status = {};
+        if (::lstat((path + suffix).c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0)
+            return path + suffix;
+    }
+    return std::string();
+}
+
+} // namespace
+
+std::string gfpdb_left_file(const std::string& file)
+{
+    return left_beside(real_path_of(file));
+}
+
+std::string gfpdb_companion_problem(const std::string& file)
+{
+    const std::string path = real_path_of(file);
+    const std::string problem = "The database " + file + " is not used: ";
+    for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX, WAL_INDEX_SUFFIX}) {
+        struct stat status = {};
+        if (::lstat((path + suffix).c_str(), &status) == 0 && (!S_ISREG(status.st_mode) || status.st_nlink != 1))
+            return problem + path + suffix + " is a link or no file. Remove it if you did not put it there.";
+    }
+    const std::string left = left_beside(path);
+    if (left == path + WAL_SUFFIX)
+        return problem + left + " was written by another program, and would change it. Close the database in that " +
+               "program. If the file is still there then, move it to another directory.";
+    if (!left.empty() && !is_own_journal(path, left))
+        return problem + left + " is the journal of another database, or of another state of this one, and would " +
+               "damage it. Move that file to another directory, then try again.";
+    return std::string();
 }
