@@ -24,9 +24,10 @@ QString settings_path()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/gfpdb/gfpdb.ini");
 }
 
+// Another directory than the user's may be used then: that is told where warnings are not.
 bool refuse(const QString& path, const QString& why)
 {
-    qCWarning(GFPDB_LOG, "The settings file %s %s", qUtf8Printable(path), qUtf8Printable(why));
+    qCCritical(GFPDB_LOG, "The settings file %s %s", qUtf8Printable(path), qUtf8Printable(why));
     return false;
 }
 

@@ -20,9 +20,9 @@
 
 namespace {
 
-void expect_warning(const std::string& text)
+void expect_warning(const std::string& text, QtMsgType type = QtWarningMsg)
 {
-    QTest::ignoreMessage(QtWarningMsg, text.c_str());
+    QTest::ignoreMessage(type, text.c_str());
 }
 
 QStringList entries(const std::string& directory)
@@ -190,7 +190,8 @@ private slots:
         write_file(m_place->path("file"), "content");
         qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("file/settings.ini")));
         expect_warning("The settings file " + m_place->path("file/settings.ini") +
-                       " cannot be written: its directory cannot be created");
+                           " cannot be written: its directory cannot be created",
+                       QtCriticalMsg);
         QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
         QCOMPARE(read_file(m_place->path("file")), std::string("content"));
     }
@@ -406,7 +407,7 @@ private:
     std::string settings() const { return m_place->settings(); }
     void expect_settings_warning(const std::string& text)
     {
-        expect_warning("The settings file " + settings() + ' ' + text);
+        expect_warning("The settings file " + settings() + ' ' + text, QtCriticalMsg);
     }
     // What is logged when `directory` of the place is not accepted because of `problem`.
     void expect_refusal(const std::string& directory, const std::string& problem)
