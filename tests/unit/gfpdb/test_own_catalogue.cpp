@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 
 // A host's own catalogue: its order, its voltages and densities, and parts that are not to be shown.
-#include "gfpdb_test.h"
+#include "manager_test.h"
 #include "rules/gfpdb_options.h"
+#include "test_rows.h"
 
 namespace {
 
@@ -17,19 +18,11 @@ const char CATALOGUE[] =
 
 } // namespace
 
-class TEST_OWN_CATALOGUE : public QObject
+class TEST_OWN_CATALOGUE : public MANAGER_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_place = std::make_unique<GFPDB_PLACE>();
-        m_mgr = fresh_manager();
-    }
-
-    void cleanup() { m_place.reset(); }
-
     void names_come_in_the_order_of_the_catalogue()
     {
         NAMES names;
@@ -40,23 +33,20 @@ private slots:
 
     void hidden_parts_hide_what_the_catalogue_says_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("properties");
-        QTest::addColumn<bool>("flows");
-        QTest::newRow("open") << QStringLiteral("Zebra") << false << false;
-        QTest::newRow("nothing said") << QStringLiteral("Ant") << false << false;
-        QTest::newRow("no properties") << QStringLiteral("fox") << true << false;
-        QTest::newRow("no flows") << QStringLiteral("Elk") << false << true;
-        QTest::newRow("hidden") << QStringLiteral("Cat") << true << true;
-        QTest::newRow("unknown") << QStringLiteral("Dog") << false << false;
+        rows<QString, bool, bool>({{"open", "Zebra", false, false},
+                                   {"nothing said", "Ant", false, false},
+                                   {"no properties", "fox", true, false},
+                                   {"no flows", "Elk", false, true},
+                                   {"hidden", "Cat", true, true},
+                                   {"unknown", "Dog", false, false}});
     }
 
     void hidden_parts_hide_what_the_catalogue_says()
     {
-        QFETCH(QString, name);
+        const auto [name, properties, flows] = row<QString, bool, bool>();
 
-        QTEST(m_mgr->is_hidden_flash(name.toStdString(), false), "properties");
-        QTEST(m_mgr->is_hidden_flash(name.toStdString(), true), "flows");
+        QCOMPARE(m_mgr->is_hidden_flash(name.toStdString(), false), properties);
+        QCOMPARE(m_mgr->is_hidden_flash(name.toStdString(), true), flows);
     }
 
     void parts_are_hidden_for_serial_schemes_only()
@@ -96,27 +86,18 @@ private slots:
         QCOMPARE(checked(*m_mgr, GFPDB_FLASH_VOLTAGE, std::string("5V")), std::string());
     }
 
-    void every_byte_of_an_id_has_two_digits()
+    void known_values_are_set()
     {
-        QCOMPARE(m_mgr->find_flash("Zebra", true)->get_string_property(GFPDB_FLASH_DEVICE_ID),
-                 std::string("0x0A 0x1B"));
-        QCOMPARE(m_mgr->find_flash("Ant", true)->get_string_property(GFPDB_FLASH_DEVICE_ID),
-                 std::string("0xC2 0x20 0x15 0x00 0x01 0xFF"));
+        const GFPDB_FLASH* zebra = m_mgr->find_flash("Zebra", true);
+        const GFPDB_FLASH* ant = m_mgr->find_flash("Ant", true);
+
+        QCOMPARE(zebra->get_string_property(GFPDB_FLASH_DEVICE_ID), std::string("0x0A 0x1B"));
+        QCOMPARE(ant->get_string_property(GFPDB_FLASH_DEVICE_ID), std::string("0xC2 0x20 0x15 0x00 0x01 0xFF"));
+        QCOMPARE(zebra->get_int_property(GFPDB_FLASH_TOTAL_DIE, 0), 3);
+        QCOMPARE(zebra->get_int_property(GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 0), 7);
+        QCOMPARE(zebra->get_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, 0), 5);
+        QCOMPARE(ant->get_int_property(GFPDB_FLASH_TOTAL_DIE, 7), 1);
     }
-
-    void known_numbers_are_set()
-    {
-        const GFPDB_FLASH* record = m_mgr->find_flash("Zebra", true);
-
-        QCOMPARE(record->get_int_property(GFPDB_FLASH_TOTAL_DIE, 0), 3);
-        QCOMPARE(record->get_int_property(GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, 0), 7);
-        QCOMPARE(record->get_int_property(GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, 0), 5);
-        QCOMPARE(m_mgr->find_flash("Ant", true)->get_int_property(GFPDB_FLASH_TOTAL_DIE, 7), 1);
-    }
-
-private:
-    std::unique_ptr<GFPDB_PLACE> m_place;
-    GFPDB_MGR* m_mgr = nullptr;
 };
 
 // The catalogue is read once, so the variable is set before anything else.

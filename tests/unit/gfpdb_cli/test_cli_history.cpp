@@ -2,6 +2,7 @@
 
 // The real program: history, restore and diff.
 #include "cli_test.h"
+#include "test_rows.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -161,30 +162,23 @@ private slots:
 
     void restore_checks_the_other_name_data()
     {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("error");
-        const auto add = [](const char* row, const char* id, const QString& name, const QByteArray& error) {
-            QTest::newRow(row) << QString(id) << name << "gfpdb: " + error + "\n";
-        };
-        add("built-in device", "1", "mx25l1606e",
-            "There is a built-in device called \"MX25L1606E\": choose another name. Upper and lower case count as the "
-            "same.");
-        add("built-in template", "2", "No QE bit",
-            "There is a built-in template called \"No QE bit\": choose another name.");
-        add("blank at its end", "1", "x ", "The device name \"x \" begins or ends with a blank: remove it.");
-        add("too long", "2", QString(65, 'x'), "The template name has 65 characters: 1 to 64 characters are allowed.");
-        add("device and its template", "1", "t",
-            "The device and its template need different names: both are called \"t\".");
-        add("template and its device", "2", "MINE",
-            "The device and its template need different names: both are called \"Mine\".");
+        const QByteArray alike("The device and its template need different names: both are called ");
+        rows<QString, QString, QByteArray>(
+            {{"built-in device", "1", "mx25l1606e",
+              "There is a built-in device called \"MX25L1606E\": choose another name. Upper and lower case count as "
+              "the same."},
+             {"built-in template", "2", "No QE bit",
+              "There is a built-in template called \"No QE bit\": choose another name."},
+             {"blank at its end", "1", "x ", "The device name \"x \" begins or ends with a blank: remove it."},
+             {"too long", "2", QString(65, 'x'),
+              "The template name has 65 characters: 1 to 64 characters are allowed."},
+             {"device and its template", "1", "t", alike + "\"t\"."},
+             {"template and its device", "2", "MINE", alike + "\"Mine\"."}});
     }
 
     void restore_checks_the_other_name()
     {
-        QFETCH(QString, id);
-        QFETCH(QString, name);
-        QFETCH(QByteArray, error);
+        const auto [id, name, error] = row<QString, QString, QByteArray>();
         save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
         QVERIFY(fresh_manager()->delete_flash("Mine", m_place->db_dir()));
         QVERIFY(fresh_manager()->remove_template("T"));
@@ -192,18 +186,23 @@ private slots:
         const TOOL_RUN run = tool({"restore", id, "--as", name});
 
         QCOMPARE(run.exit_code, 5);
-        QCOMPARE(run.err, error);
+        QCOMPARE(run.err, "gfpdb: " + error + "\n");
         QCOMPARE(names(json(tool({"list", "--json"}))), QStringList());
     }
 
-    // The catalogue has grown, or another version of the program has a smaller one.
-    void a_device_with_a_built_in_name_is_restored()
+    // The catalogue has grown, or another version of the program has a smaller one; what an older program stored has
+    // names that would not be accepted today.
+    void a_device_with_a_built_in_or_a_bad_name_is_restored()
     {
         save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
         QVERIFY(fresh_manager()->delete_flash("Mine", m_place->db_dir()));
         QVERIFY(fresh_manager()->remove_template("T"));
-        run_sql(m_place->db_file(), "UPDATE history SET name = 'MX25L1606E', template_name = 'MX25L3233F'");
+        run_sql(m_place->db_file(), "UPDATE history SET name = 'Mine '");
+        QCOMPARE(tool({"restore", "1"}).err,
+                 QByteArray("gfpdb: The device name \"Mine \" begins or ends with a blank: remove it.\n"));
+        QCOMPARE(tool({"restore", "1", "--as", "Mine"}).exit_code, 0);
 
+        run_sql(m_place->db_file(), "UPDATE history SET name = 'MX25L1606E', template_name = 'MX25L3233F'");
         QCOMPARE(tool({"restore", "1"}).out, QByteArray("Restored the device \"MX25L1606E\"\n"));
         QCOMPARE(tool({"restore", "2"}).out, QByteArray("Restored the template \"MX25L3233F\"\n"));
         QCOMPARE(tool({"restore", "1", "--replace"}).exit_code, 0);
@@ -212,29 +211,14 @@ private slots:
         QCOMPARE(tool({"restore", "1", "--as", "MX25L25645G"}).exit_code, 5);
     }
 
-    // What an older program stored has names that would not be accepted today.
-    void a_state_whose_name_is_not_allowed_gets_another_one()
-    {
-        save_part("Mine");
-        QVERIFY(fresh_manager()->delete_flash("Mine", m_place->db_dir()));
-        run_sql(m_place->db_file(), "UPDATE history SET name = 'Mine '");
-
-        const TOOL_RUN run = tool({"restore", "1"});
-        QCOMPARE(run.exit_code, 5);
-        QCOMPARE(run.err, QByteArray("gfpdb: The device name \"Mine \" begins or ends with a blank: remove it.\n"));
-        QCOMPARE(tool({"restore", "1", "--as", "Mine"}).exit_code, 0);
-    }
-
     void every_number_of_the_history_is_known_data()
     {
-        QTest::addColumn<QString>("id");
-        for (const char* id : {"2147483648", "4294967297", "999999999999999999", "9223372036854775807"})
-            QTest::newRow(id) << QString(id);
+        rows_named<QString>({"2147483648", "4294967297", "999999999999999999", "9223372036854775807"});
     }
 
     void every_number_of_the_history_is_known()
     {
-        QFETCH(QString, id);
+        const QString id = row<QString>();
         save_part("Mine");
         const QByteArray before = exported();
         save_part("Other");
@@ -252,14 +236,12 @@ private slots:
 
     void what_is_no_number_of_the_history_is_refused_data()
     {
-        QTest::addColumn<QString>("id");
-        for (const char* id : {"x", "1x", " 1", "1 ", "+1", "1.0", "0x1", "9223372036854775808"})
-            QTest::newRow(id) << QString(id);
+        rows_named<QString>({"x", "1x", " 1", "1 ", "+1", "1.0", "0x1", "9223372036854775808"});
     }
 
     void what_is_no_number_of_the_history_is_refused()
     {
-        QFETCH(QString, id);
+        const QString id = row<QString>();
         save_part("Mine", FAMILY, ACTIVE_SERIAL, std::string(), 2);
         save_part("Mine");
 
