@@ -9,21 +9,6 @@ using KIND = GFPDB_FIELD_KIND;
 using USE = GFPDB_FIELD_USE;
 using ROW = GFPDB_ROW;
 
-std::string text_of(int number)
-{
-    return std::to_string(number);
-}
-
-std::string text_of(const std::optional<int>& number)
-{
-    return number ? std::to_string(*number) : std::string();
-}
-
-std::string text_of(const std::string& text)
-{
-    return text;
-}
-
 template <typename CONDITION>
 const GFPDB_FIELD* find(CONDITION condition)
 {
@@ -36,7 +21,11 @@ const GFPDB_FIELD* find(CONDITION condition)
 
 std::string GFPDB_FIELD::text(const GFPDB_ROW& row) const
 {
-    return in(row, [](const auto& value) { return text_of(value); });
+    if (is_text())
+        return row.*std::get<GFPDB_TEXT_MEMBER>(member);
+    const auto* place = std::get_if<GFPDB_PLACE_MEMBER>(&member);
+    const std::optional<int> number = place != nullptr ? row.**place : row.*std::get<GFPDB_NUMBER_MEMBER>(member);
+    return number ? std::to_string(*number) : std::string();
 }
 
 bool GFPDB_FIELD::is_same(const GFPDB_ROW& left, const GFPDB_ROW& right) const

@@ -17,35 +17,13 @@ namespace {
 constexpr char REVISION[] = "revision";
 constexpr char SAVED_AT[] = "saved_at";
 
-QVariant value_of(int number)
+template <typename VALUE>
+void read(const QSqlQuery& query, int column, VALUE& value)
 {
-    return number;
-}
-
-QVariant value_of(const std::optional<int>& number)
-{
-    return number ? QVariant(*number) : QVariant(QVariant::Int);
-}
-
-QVariant value_of(const std::string& text)
-{
-    return GFPDB_SQL::bytes_of(text);
-}
-
-void read_value(const QSqlQuery& query, int column, int& number)
-{
-    number = query.value(column).toInt();
-}
-
-void read_value(const QSqlQuery& query, int column, std::optional<int>& number)
-{
-    const QVariant value = query.value(column);
-    number = value.isNull() ? std::nullopt : std::optional<int>(value.toInt());
-}
-
-void read_value(const QSqlQuery& query, int column, std::string& text)
-{
-    text = GFPDB_SQL::text_at(query, column);
+    if constexpr (std::is_same_v<VALUE, std::string>)
+        value = GFPDB_SQL::text_at(query, column);
+    else if (!query.isNull(column))
+        value = query.value(column).toInt();
 }
 
 std::string selection(bool with_flows)
@@ -63,7 +41,7 @@ GFPDB_ROW record_at(const QSqlQuery& query, int first, bool with_flows)
     int column = first;
     for (const GFPDB_FIELD& field : gfpdb_fields()) {
         if (with_flows || field.kind != GFPDB_FIELD_KIND::FLOWS)
-            field.in(row, [&query, &column](auto& value) { read_value(query, ++column, value); });
+            field.in(row, [&query, at = ++column](auto& value) { read(query, at, value); });
     }
     return row;
 }
@@ -89,8 +67,10 @@ std::string insertion(const std::string& table, const std::string& key)
 QVariantList values_of(const GFPDB_ROW& row)
 {
     QVariantList values;
-    for (const GFPDB_FIELD& field : gfpdb_fields())
-        values << field.in(row, [](const auto& value) { return value_of(value); });
+    for (const GFPDB_FIELD& field : gfpdb_fields()) {
+        const QByteArray bytes = bytes_of(field.text(row));
+        values << (field.is_text() ? QVariant(bytes) : bytes.isEmpty() ? QVariant(QVariant::Int) : bytes.toInt());
+    }
     return values << gfpdb_from_utf8(row.revision) << now();
 }
 
