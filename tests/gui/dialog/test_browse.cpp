@@ -14,82 +14,58 @@ class TEST_BROWSE : public DIALOG_TEST
 private slots:
     void the_folder_dialog_is_set_up_in_order()
     {
-        const QString start = make_dir(qs("start"));
+        const MARKING_TRANSLATOR translator("gfpq_dlg");
+        // The edit shows the directory byte by byte; that text would name another one.
+        const QString start = make_dir(qs("gr\xC3\xBCn"));
+        world().custom_dir = start.toStdString();
         open();
 
         click_browse();
 
-        QStringList expected =
-            list_of({"file_dlg.created(gfpq_dlg)", "file_dlg.set_file_mode(2)", "file_dlg.set_option(1, true)"});
-        expected << qs("file_dlg.set_directory(\"%1\")").arg(start) << qs("file_dlg.set_accept_mode(0)")
-                 << qs(R"(file_dlg.set_window_title("Browse"))") << qs("file_dlg.exec()");
-        QCOMPARE(calls(), expected);
+        QCOMPARE(calls(),
+                 QStringList({qs("file_dlg.created(gfpq_dlg)"), qs("file_dlg.set_file_mode(2)"),
+                              qs("file_dlg.set_option(1, true)"), qs("file_dlg.set_directory(\"%1\")").arg(start),
+                              qs("file_dlg.set_accept_mode(0)"), qs(R"(file_dlg.set_window_title("[Browse]"))"),
+                              qs("file_dlg.exec()")}));
+        QCOMPARE(file_dlg_answers().parent, &dlg());
+        QCOMPARE(here() + QLatin1Char('/'), start);
         QCOMPARE(static_cast<int>(QFileDialog::Directory), 2);
         QCOMPARE(static_cast<int>(QFileDialog::ShowDirsOnly), 1);
         QCOMPARE(static_cast<int>(QFileDialog::AcceptOpen), 0);
     }
 
-    void the_folder_dialog_belongs_to_the_dialog()
-    {
-        open();
-
-        click_browse();
-
-        QCOMPARE(file_dlg_answers().parent, &dlg());
-    }
-
     void cancelling_changes_nothing()
     {
-        file_dlg_answers().selected = QStringList{make_dir(qs("chosen"))};
-        open();
-        edit("m_directory_edit").setText(make_dir(qs("typed")));
+        for (const int result : {0, 2}) {
+            file_dlg_answers().result = result;
+            file_dlg_answers().selected = QStringList{make_dir(qs("chosen"))};
+            open();
+            type_in("m_directory_edit", make_dir(qs("typed")));
 
-        click_browse();
+            click_browse();
 
-        QCOMPARE(count_of("selected_files"), 0);
-        QCOMPARE(count_of("save_custom_dir_to_ini"), 0);
-        QCOMPARE(text("m_directory_edit"), make_dir(qs("typed")));
-    }
-
-    void a_result_other_than_accepted_changes_nothing()
-    {
-        file_dlg_answers().result = 2;
-        file_dlg_answers().selected = QStringList{make_dir(qs("chosen"))};
-        open();
-
-        click_browse();
-
-        QCOMPARE(count_of("save_custom_dir_to_ini"), 0);
+            QCOMPARE(calls_of({"selected_files", "save_custom_dir_to_ini"}), QStringList());
+            QCOMPARE(text("m_directory_edit"), make_dir(qs("typed")));
+        }
     }
 
     void the_chosen_directory_is_taken_over()
     {
-        const QString chosen = make_dir(qs("chosen"));
-        file_dlg_answers().result = 1;
-        file_dlg_answers().selected = QStringList{chosen};
-        open();
-
-        click_browse();
-
-        QCOMPARE(calls_of({"save_custom_dir_to_ini", "set_db_custom_dir"}),
-                 QStringList({qs("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen),
-                              qs("GFPDB_MGR.set_db_custom_dir(\"%1\")").arg(chosen)}));
-        QCOMPARE(text("m_directory_edit"), chosen);
-    }
-
-    void the_chosen_directory_is_shown_when_it_is_asked_for()
-    {
-        const QString chosen = make_dir(qs("chosen"));
+        const QString chosen = make_dir(qs("gr\xC3\xBCn"));
         file_dlg_answers().result = 1;
         file_dlg_answers().selected = QStringList{chosen.chopped(1)};
         open();
         QString shown;
-        log().on_call(qs("save_custom_dir_to_ini"), [&](const QString&) { shown = edit("m_directory_edit").text(); });
+        log().on_call(qs("save_custom_dir_to_ini"), [&](const QString&) { shown = text("m_directory_edit"); });
 
         click_browse();
 
         // A directory: it ends in a separator although the folder dialog gave none.
         QCOMPARE(shown, chosen);
+        QCOMPARE(calls_of({"save_custom_dir_to_ini", "set_db_custom_dir"}),
+                 QStringList({qs("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen),
+                              qs("GFPDB_MGR.set_db_custom_dir(\"%1\")").arg(chosen)}));
+        QCOMPARE(world().custom_dir, chosen.toStdString());
     }
 
     void the_chosen_directory_can_be_refused()
@@ -206,43 +182,6 @@ private slots:
         QCOMPARE(calls(),
                  list_of({R"(MSG_INTERNAL_ERROR.report("ui_mgr != nullptr", "GFPQ", "pgm/gfpq/gfpq_dlg", 909))"}));
         QCOMPARE(here(), before);
-    }
-
-    // The edit shows the directory byte by byte; that text would name another one.
-    void browsing_starts_in_the_real_directory()
-    {
-        const QString start = make_dir(qs("gr\xC3\xBCn"));
-        world().custom_dir = start.toStdString();
-        open();
-
-        click_browse();
-
-        QCOMPARE(calls_of({"set_directory"}), QStringList(qs("file_dlg.set_directory(\"%1\")").arg(start)));
-        QCOMPARE(here() + QLatin1Char('/'), start);
-    }
-
-    void a_chosen_directory_with_other_letters_goes_out_as_local_8_bit()
-    {
-        const QString chosen = make_dir(qs("gr\xC3\xBCn"));
-        file_dlg_answers().result = 1;
-        file_dlg_answers().selected = QStringList{chosen};
-        open();
-
-        click_browse();
-
-        QCOMPARE(calls_of({"save_custom_dir_to_ini"}),
-                 QStringList(qs("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen)));
-        QCOMPARE(world().custom_dir, chosen.toStdString());
-    }
-
-    void the_window_title_is_translated()
-    {
-        const MARKING_TRANSLATOR translator("gfpq_dlg");
-        open();
-
-        click_browse();
-
-        QCOMPARE(calls_of({"set_window_title"}), list_of({R"(file_dlg.set_window_title("[Browse]"))"}));
     }
 
 private:
