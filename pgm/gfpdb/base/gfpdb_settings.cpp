@@ -50,7 +50,7 @@ bool read_lines(const QString& path, QList<QByteArray>& lines)
         return refuse(path, QStringLiteral("cannot be read: ") + file.errorString());
     if (content.contains('\0'))
         return refuse(path, QStringLiteral("is no settings file: it is not a text"));
-    if (content.startsWith(BYTE_ORDER_MARK))
+    while (content.startsWith(BYTE_ORDER_MARK))
         content.remove(0, BYTE_ORDER_MARK.size());
     lines = content.split('\n');
     if (lines.last().isEmpty())

@@ -106,12 +106,15 @@ private slots:
 
     void a_byte_order_mark_hides_no_setting()
     {
-        QByteArray rest = row<QByteArray>();
-        write_file(settings(), "\xEF\xBB\xBF" + rest.toStdString());
+        const QByteArray rest = row<QByteArray>();
+        const std::string mark = "\xEF\xBB\xBF";
+        for (const std::string& marks : {mark, mark + mark}) {
+            write_file(settings(), marks + rest.toStdString());
 
-        QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/a/"));
-        QVERIFY(gfpdb_write_setting("custom_dir", "/b/"));
-        QCOMPARE(read_file(settings()), rest.replace("/a/", "/b/").toStdString());
+            QCOMPARE(gfpdb_read_setting("custom_dir"), std::string("/a/"));
+            QVERIFY(gfpdb_write_setting("custom_dir", "/b/"));
+            QCOMPARE(read_file(settings()), QByteArray(rest).replace("/a/", "/b/").toStdString());
+        }
     }
 
     void writing_makes_the_file_and_its_directory_and_nothing_else()
