@@ -1,22 +1,30 @@
 // SPDX-License-Identifier: MIT
 
-// The JSON that the database keeps flows in.
+// The text of flows, and the one of former databases that is converted to it.
 //
 // Input: the text.
 #include "fuzz_target.h"
 
 #include "model/gfpdb_flow_text.h"
+#include "store/sqlite/gfpdb_old_flows.h"
 
 namespace {
 
-using OPERATIONS = std::vector<std::unique_ptr<GFPDB_OPERATION>>;
-
-std::vector<GFPDB_OPERATION*> pointers(const OPERATIONS& operations)
+void check_round_trip(const std::string& text)
 {
-    std::vector<GFPDB_OPERATION*> list;
-    for (const std::unique_ptr<GFPDB_OPERATION>& operation : operations)
-        list.push_back(operation.get());
-    return list;
+    const std::optional<GFPDB_OPERATION_LIST> operations = gfpdb_flows_from_text(text);
+    FUZZ_CHECK(gfpdb_flows_to_json(text).has_value() == operations.has_value());
+    if (!operations)
+        return;
+    for (const std::unique_ptr<GFPDB_OPERATION>& operation : *operations)
+        FUZZ_CHECK(operation->m_kind >= 0 && operation->m_kind < GFPDB_OPERATION_COUNT);
+    const std::vector<GFPDB_OPERATION*> list = gfpdb_pointers(*operations);
+    const std::optional<std::string> written = gfpdb_flows_to_text(&list);
+    FUZZ_CHECK(written.has_value());
+    const std::optional<GFPDB_OPERATION_LIST> again = gfpdb_flows_from_text(*written);
+    FUZZ_CHECK(again && again->size() == operations->size());
+    const std::vector<GFPDB_OPERATION*> again_list = gfpdb_pointers(*again);
+    FUZZ_CHECK(gfpdb_flows_to_text(&again_list) == written);
 }
 
 } // namespace
@@ -30,17 +38,10 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 // What was read can be written, and comes back as what was read.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const std::optional<OPERATIONS> operations = gfpdb_flows_from_text(FUZZ_INPUT(data, size).take_rest());
-    if (!operations)
-        return 0;
-    for (const std::unique_ptr<GFPDB_OPERATION>& operation : *operations)
-        FUZZ_CHECK(operation->m_kind >= 0 && operation->m_kind < GFPDB_OPERATION_COUNT);
-    const std::vector<GFPDB_OPERATION*> list = pointers(*operations);
-    const std::optional<std::string> json = gfpdb_flows_to_text(&list);
-    FUZZ_CHECK(json.has_value());
-    const std::optional<OPERATIONS> again = gfpdb_flows_from_text(*json);
-    FUZZ_CHECK(again && again->size() == operations->size());
-    const std::vector<GFPDB_OPERATION*> again_list = pointers(*again);
-    FUZZ_CHECK(gfpdb_flows_to_text(&again_list) == json);
+    const std::string text = FUZZ_INPUT(data, size).take_rest();
+    check_round_trip(text);
+    const std::string converted = gfpdb_flows_of_schema_2(text);
+    if (converted != text)
+        FUZZ_CHECK(converted.empty() || gfpdb_flows_from_text(converted));
     return 0;
 }
