@@ -226,15 +226,12 @@ private slots:
 
     void long_values_leave_the_table_a_usable_width_data()
     {
-        QTest::addColumn<int>("bytes");
-
-        for (const int bytes : {0, 16, 256, 4096})
-            QTest::addRow("%d bytes", bytes) << bytes;
+        rows<int>({{"none", 0}, {"16", 16}, {"256", 256}, {"4096", 4096}});
     }
 
     void long_values_leave_the_table_a_usable_width()
     {
-        QFETCH(const int, bytes);
+        const int bytes = row<int>();
         const auto page =
             show_page(1, ACTION_LIST({make_action(2, {{16, data_bytes(bytes)}})}).get(), true, QSize(740, 500));
         const QTableView& table = *property_table_of(*page);

@@ -111,33 +111,27 @@ private:
 private slots:
     void editors_are_named_after_their_labels_data()
     {
-        QTest::addColumn<QString>("editor");
-        QTest::addColumn<QString>("name");
-        const auto row = [](const char* editor, const char* name) {
-            QTest::newRow(editor) << QString::fromLatin1(editor) << QString::fromLatin1(name);
-        };
-        row("m_family_cbox", "Device family");
-        row("m_config_mode_cbox", "Configuration mode");
-        row("m_directory_edit", "Custom database directory");
-        row("m_filter_line_edit", "Name filter");
-        row("m_device_name_edit", "Device name");
-        row("m_device_id_edit", "Device ID");
-        row("m_voltage_cbox", "Device I/O voltage");
-        row("m_density_cbox", "Device density");
-        row("m_total_die_edit", "Total device die");
-        row("m_clock_cycle_edit", "Single I/O mode dummy clock");
-        row("m_clock_cycle_edit_x4", "Quad I/O mode dummy clock");
-        row("m_flow_template_cbox", "Programming flow template");
-        row("m_template_name_edit", "Save as template");
+        rows<QString>({{"m_family_cbox", "Device family"},
+                       {"m_config_mode_cbox", "Configuration mode"},
+                       {"m_directory_edit", "Custom database directory"},
+                       {"m_filter_line_edit", "Name filter"},
+                       {"m_device_name_edit", "Device name"},
+                       {"m_device_id_edit", "Device ID"},
+                       {"m_voltage_cbox", "Device I/O voltage"},
+                       {"m_density_cbox", "Device density"},
+                       {"m_total_die_edit", "Total device die"},
+                       {"m_clock_cycle_edit", "Single I/O mode dummy clock"},
+                       {"m_clock_cycle_edit_x4", "Quad I/O mode dummy clock"},
+                       {"m_flow_template_cbox", "Programming flow template"},
+                       {"m_template_name_edit", "Save as template"}});
     }
 
     void editors_are_named_after_their_labels()
     {
-        QFETCH(QString, editor);
-        QFETCH(QString, name);
+        const QString name = row<QString>();
         open_dialog();
 
-        QWidget& widget = child<QWidget>(qPrintable(editor));
+        QWidget& widget = child<QWidget>(QTest::currentDataTag());
         QCOMPARE(widget.accessibleName(), name);
         // The name that a combo box gives on this platform is its current text.
         const bool is_combo = qobject_cast<QComboBox*>(&widget) != nullptr;
@@ -249,24 +243,18 @@ private slots:
                  QStringLiteral("Templates"));
     }
 
-    void tab_and_backtab_visit_everything_on_each_page_data()
-    {
-        QTest::addColumn<int>("page");
-        for (int page = 0; page <= GFPDB_OPERATION_COUNT; ++page)
-            QTest::addRow("page %d", page) << page;
-    }
-
     void tab_and_backtab_visit_everything_on_each_page()
     {
-        QFETCH(int, page);
         const GFPQ_DLG& dialog = open_dialog();
-        tabs().setCurrentIndex(page);
-        child<QPushButton>("m_ok_button").setFocus();
-        const QStringList expected = names(expected_stops(dialog));
-        QVERIFY(expected.size() >= 10);
+        for (int page = 0; page <= GFPDB_OPERATION_COUNT; ++page) {
+            tabs().setCurrentIndex(page);
+            child<QPushButton>("m_ok_button").setFocus();
+            const QStringList expected = names(expected_stops(dialog));
+            QVERIFY(expected.size() >= 10);
 
-        QCOMPARE(names(stops(Qt::Key_Tab)), expected);
-        QCOMPARE(names(stops(Qt::Key_Backtab)), expected);
+            QCOMPARE(names(stops(Qt::Key_Tab)), expected);
+            QCOMPARE(names(stops(Qt::Key_Backtab)), expected);
+        }
     }
 
     void tab_goes_through_a_page_from_left_to_right()
