@@ -28,6 +28,11 @@
 #include <string>
 #include <vector>
 
+// Why a state is in the history (GFPDB_HISTORY_ENTRY::reason).
+constexpr char GFPDB_REASON_REPLACED[] = "replaced";
+constexpr char GFPDB_REASON_DELETED[] = "deleted";
+constexpr char GFPDB_REASON_PUT_BACK[] = "put back";
+
 class GFPDB_STORE
 {
 public:

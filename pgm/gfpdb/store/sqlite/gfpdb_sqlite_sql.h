@@ -32,10 +32,6 @@ constexpr int GFPDB_FLOW_TEXT_SCHEMA = 3;
     "max(coalesce((SELECT max(id) FROM history), 0), "                                                                 \
     "coalesce((SELECT CAST(value AS INTEGER) FROM meta WHERE name = 'last_state'), 0))"
 
-constexpr char REASON_REPLACED[] = "replaced";
-constexpr char REASON_DELETED[] = "deleted";
-constexpr char REASON_PUT_BACK[] = "put back";
-
 namespace GFPDB_SQL {
 
 QByteArray bytes_of(const std::string& text);

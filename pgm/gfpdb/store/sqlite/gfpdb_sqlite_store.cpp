@@ -276,7 +276,7 @@ bool GFPDB_SQLITE_STORE::remove_template(const std::string& template_name)
 {
     if (!m_file.prepare_write())
         return false;
-    return m_file.is_missing() || m_file.change([&] { return drop_template(template_name, REASON_DELETED); });
+    return m_file.is_missing() || m_file.change([&] { return drop_template(template_name, GFPDB_REASON_DELETED); });
 }
 
 std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const std::string& statement)
@@ -323,13 +323,13 @@ bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const s
 
 bool GFPDB_SQLITE_STORE::replace_device(const GFPDB_ROW& row)
 {
-    return check_no_template(row.name) && drop_device(row.family, row.scheme, row.name, REASON_REPLACED) &&
+    return check_no_template(row.name) && drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED) &&
            insert_device(row);
 }
 
 bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row)
 {
-    return check_no_device(row.template_name) && drop_template(row.template_name, REASON_REPLACED) &&
+    return check_no_device(row.template_name) && drop_template(row.template_name, GFPDB_REASON_REPLACED) &&
            insert_template(row);
 }
 
@@ -395,7 +395,7 @@ bool GFPDB_SQLITE_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how
     if (!check_no_template(row.name))
         return false;
     if (how == GFPDB_RESTORE_REPLACE)
-        return drop_device(row.family, row.scheme, row.name, REASON_REPLACED) && insert_device(row);
+        return drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED) && insert_device(row);
     return check_no_such_device(row.family, row.scheme, row.name) && insert_device(row);
 }
 
@@ -403,7 +403,7 @@ bool GFPDB_SQLITE_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE h
 {
     if (!check_no_device(row.template_name))
         return false;
-    const bool is_free = how == GFPDB_RESTORE_REPLACE ? drop_template(row.template_name, REASON_REPLACED)
+    const bool is_free = how == GFPDB_RESTORE_REPLACE ? drop_template(row.template_name, GFPDB_REASON_REPLACED)
                                                       : check_no_template(row.template_name);
     return is_free && insert_template(row);
 }

@@ -42,9 +42,9 @@ bool GFPDB_SQLITE_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* take
     revision = is_unchanged ? former->revision : row.revision;
     if (is_unchanged && !is_stored)
         return insert_taken(*taken) && forget_taken(*taken);
-    if (!is_unchanged && is_stored && !drop_device(row.family, row.scheme, row.name, REASON_REPLACED))
+    if (!is_unchanged && is_stored && !drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED))
         return false;
-    return (is_unchanged || insert_device(row)) && (taken == nullptr || mark_taken(*taken, REASON_REPLACED));
+    return (is_unchanged || insert_device(row)) && (taken == nullptr || mark_taken(*taken, GFPDB_REASON_REPLACED));
 }
 
 bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
@@ -57,7 +57,7 @@ bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
         return false;
     if (former && gfpdb_is_same_state(*former, row))
         return true;
-    return (!former || drop_template(row.template_name, REASON_REPLACED)) && insert_template(row);
+    return (!former || drop_template(row.template_name, GFPDB_REASON_REPLACED)) && insert_template(row);
 }
 
 // Nothing is made just to remove something from it.
@@ -70,7 +70,7 @@ bool GFPDB_SQLITE_STORE::remove_device(int family, int scheme, const std::string
         return true;
     GFPDB_TAKEN removed{std::string(), 0, family, scheme, name, std::string()};
     const auto work = [&] {
-        return drop_device(family, scheme, name, REASON_DELETED, &removed.history_id) && read_revision(removed);
+        return drop_device(family, scheme, name, GFPDB_REASON_DELETED, &removed.history_id) && read_revision(removed);
     };
     if (!m_file.change(work))
         return false;
@@ -94,7 +94,7 @@ bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
 {
     const auto work = [&] {
         return check_no_template(taken.name) && check_no_such_device(taken.family, taken.scheme, taken.name) &&
-               insert_taken(taken) && mark_taken(taken, REASON_PUT_BACK);
+               insert_taken(taken) && mark_taken(taken, GFPDB_REASON_PUT_BACK);
     };
     const bool is_ready = m_file.prepare_write();
     if (is_ready && m_file.database_id() != taken.database_id)
