@@ -129,7 +129,7 @@ public:
     // place, names and revision.
     virtual std::vector<GFPDB_MISPLACED> get_misplaced() = 0;
     // Stores them under the keys of their names, all at once; their number, or none on failure. Those whose name
-    // another record has stay misplaced.
+    // another record has stay misplaced. The states of the history get the keys of their names too.
     virtual std::optional<int> rebuild_keys() = 0;
 
 protected:

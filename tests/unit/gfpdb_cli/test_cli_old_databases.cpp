@@ -128,6 +128,12 @@ void TEST_CLI_OLD_DATABASES::former_states_are_found_by_name()
     QCOMPARE(json(run_tool({"history", "both variants", "--json", "-d", q(place.db_dir())})).array().size(), 1);
     QCOMPARE(json(run_tool({"history", "TO BE REMOVED", "--json", "-d", q(place.db_dir())})).array().size(), 1);
     QCOMPARE(json(run_tool({"history", "No Flows", "--json", "-d", q(place.db_dir())})).array().size(), 0);
+
+    // As if the tables of Unicode had changed.
+    run_sql(place.db_file(), "UPDATE history SET name_key = 'x'");
+    QCOMPARE(json(run_tool({"history", "both variants", "--json", "-d", q(place.db_dir())})).array().size(), 0);
+    run_tool({"check", "--rebuild-keys", "-d", q(place.db_dir())});
+    QCOMPARE(json(run_tool({"history", "both variants", "--json", "-d", q(place.db_dir())})).array().size(), 1);
 }
 
 void TEST_CLI_OLD_DATABASES::files_of_the_former_version_are_imported_without_a_difference()

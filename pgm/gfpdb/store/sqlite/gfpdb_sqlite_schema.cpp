@@ -225,11 +225,13 @@ bool GFPDB_SQLITE_SCHEMA::is_same_database()
     return check_tables() && m_version == VERSION && m_database_id == database_id;
 }
 
-// Reads the version again: another program may have upgraded the file meanwhile.
+// Reads the version again: another program may have upgraded the file meanwhile. Every record may be written: that is
+// more than memory need hold.
 bool GFPDB_SQLITE_SCHEMA::migrate()
 {
     const std::optional<std::string> text = read_meta("schema_version");
-    return text && run_steps(QByteArray::fromStdString(*text).toInt());
+    return text && m_connection.run("PRAGMA cache_spill = ON") && run_steps(QByteArray::fromStdString(*text).toInt()) &&
+           m_connection.run("PRAGMA cache_spill = OFF");
 }
 
 bool GFPDB_SQLITE_SCHEMA::make()

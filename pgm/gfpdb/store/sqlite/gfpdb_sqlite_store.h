@@ -108,6 +108,7 @@ private:
     bool note_last_state();
     bool remove_states(const std::vector<std::int64_t>& ids);
     bool read_misplaced(std::vector<GFPDB_MISPLACED>& misplaced);
+    bool rekey_history();
     bool set_key(const GFPDB_MISPLACED& record, const std::string& key);
     bool place(const GFPDB_MISPLACED& record, int& placed);
 

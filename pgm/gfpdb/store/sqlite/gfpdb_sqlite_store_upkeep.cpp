@@ -151,9 +151,31 @@ std::optional<int> GFPDB_SQLITE_STORE::rebuild_keys()
             if (!place(record, placed))
                 return false;
         }
-        return true;
+        return rekey_history();
     });
     return is_done ? std::optional<int>(placed) : std::nullopt;
+}
+
+bool GFPDB_SQLITE_STORE::rekey_history()
+{
+    QSqlQuery states;
+    QSqlQuery update;
+    if (!prepare(states, "SELECT id, " GFPDB_HISTORY_NAME ", CAST(name_key AS BLOB) FROM history") ||
+        !prepare(update, "UPDATE history SET name_key = CAST(? AS TEXT) WHERE id = ?"))
+        return false;
+    std::vector<std::pair<qlonglong, QByteArray>> changes;
+    while (next_row(states)) {
+        const QByteArray key = key_of(text_at(states, 1));
+        if (states.value(2).toByteArray() != key)
+            changes.emplace_back(states.value(0).toLongLong(), key);
+    }
+    for (const auto& [id, key] : changes) {
+        update.bindValue(0, key);
+        update.bindValue(1, id);
+        if (!run(update))
+            return false;
+    }
+    return !states.lastError().isValid();
 }
 
 bool GFPDB_SQLITE_STORE::set_key(const GFPDB_MISPLACED& record, const std::string& key)
