@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli_command.h"
 
-#include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_text.h"
 
 std::string CLI_CALL::argument(int index) const
 {
@@ -29,11 +29,11 @@ std::optional<int> CLI_CALL::number(const char* option) const
     return has(option) ? std::optional<int>(options.value(QLatin1String(option)).toInt()) : std::nullopt;
 }
 
-std::optional<CSV_FOR> CLI_CALL::list_reader() const
+std::optional<GFPDB_LIST_FOR> CLI_CALL::list_reader() const
 {
     if (has(CLI_OPTION_SPREADSHEET))
-        return CSV_FOR::SPREADSHEET;
-    return has(CLI_OPTION_CSV) ? std::optional<CSV_FOR>(CSV_FOR::IMPORT) : std::nullopt;
+        return GFPDB_LIST_FOR::SPREADSHEET;
+    return has(CLI_OPTION_CSV) ? std::optional<GFPDB_LIST_FOR>(GFPDB_LIST_FOR::IMPORT) : std::nullopt;
 }
 
 int CLI_CALL::wrong_usage(const std::string& text) const

@@ -3,10 +3,9 @@
 // A command of the tool.
 #pragma once
 
-#include "manager/gfpdb_database.h"
 #include "output/cli_output.h"
 
-#include "exchange/gfpdb_record_csv.h"
+#include "gfpdb/gfpdb_exchange.h"
 
 #include <QCommandLineParser>
 
@@ -28,7 +27,7 @@ enum CLI_EXIT : int
 struct CLI_CALL
 {
     const QCommandLineParser& options;
-    CLI_DATABASE& database;
+    GFPDB_DATABASE& database;
     CLI_OUTPUT& output;
 
     // The positional argument at `index` behind the command's name; empty when there is none.
@@ -39,7 +38,7 @@ struct CLI_CALL
     // The whole number that is the value of `option`; none when it was not given. It was checked before.
     std::optional<int> number(const char* option) const;
     // Who reads the CSV list that the options ask for; none when they do not ask for one.
-    std::optional<CSV_FOR> list_reader() const;
+    std::optional<GFPDB_LIST_FOR> list_reader() const;
     // Prints what is wrong with the arguments; returns CLI_EXIT_USAGE.
     int wrong_usage(const std::string& text) const;
     // Prints why the database cannot be used; returns CLI_EXIT_DATABASE.

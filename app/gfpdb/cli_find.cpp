@@ -1,28 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "cli_find.h"
 
-#include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_text.h"
 
 #include <charconv>
 
 namespace {
 
-std::string places_of(const std::vector<CLI_RECORD>& records)
+std::string places_of(const std::vector<GFPDB_RECORD>& records)
 {
     std::vector<std::string> places;
     places.reserve(records.size());
-    for (const CLI_RECORD& record : records)
+    for (const GFPDB_RECORD& record : records)
         places.push_back("--family " + std::to_string(record.row.family) + " --scheme " +
                          std::to_string(record.row.scheme));
     return gfpdb_joined(places);
 }
 
 // The devices alone when there are some: they come before templates of that name.
-std::vector<CLI_RECORD> find_all(const CLI_CALL& call, const CLI_SELECTION& selection)
+std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& selection)
 {
-    std::vector<CLI_RECORD> stored = call.database.find_stored(selection);
-    std::vector<CLI_RECORD> devices;
-    for (const CLI_RECORD& record : stored) {
+    std::vector<GFPDB_RECORD> stored = call.database.find_stored(selection);
+    std::vector<GFPDB_RECORD> devices;
+    for (const GFPDB_RECORD& record : stored) {
         if (!record.is_template)
             devices.push_back(record);
     }
@@ -31,16 +31,16 @@ std::vector<CLI_RECORD> find_all(const CLI_CALL& call, const CLI_SELECTION& sele
 
 } // namespace
 
-CLI_SELECTION cli_selection(const CLI_CALL& call, const std::string& name)
+GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name)
 {
     return {name, call.number(CLI_OPTION_FAMILY), call.number(CLI_OPTION_SCHEME)};
 }
 
-std::optional<CLI_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code)
+std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code)
 {
-    const CLI_SELECTION selection = cli_selection(call, name);
-    const std::vector<CLI_RECORD> stored = find_all(call, selection);
-    const std::vector<CLI_RECORD> builtin = call.database.find_builtin(selection);
+    const GFPDB_SELECTION selection = cli_selection(call, name);
+    const std::vector<GFPDB_RECORD> stored = find_all(call, selection);
+    const std::vector<GFPDB_RECORD> builtin = call.database.find_builtin(selection);
     exit_code = CLI_EXIT_NOT_FOUND;
     if (stored.size() > 1) {
         call.output.error("There are several devices called " + gfpdb_quoted(name) +
@@ -48,21 +48,22 @@ std::optional<CLI_RECORD> cli_find_one(const CLI_CALL& call, const std::string& 
         return std::nullopt;
     }
     if (!stored.empty()) {
-        std::optional<CLI_RECORD> record = call.database.load(stored.front());
-        const std::string error = call.database.store().get_last_error();
+        std::optional<GFPDB_RECORD> record = call.database.load(stored.front());
+        const std::string error = call.database.get_last_error();
         if (!record && error.empty() && !call.database.find_misplaced(selection).empty())
-            exit_code = call.database_failed(cli_title(stored.front()) + ": " + CLI_MISPLACED);
+            exit_code = call.database_failed(gfpdb_title(stored.front()) + ": " + CLI_MISPLACED);
         else if (!record)
             exit_code = call.database_failed(error);
         return record;
     }
     if (!builtin.empty())
         return builtin.front();
-    const std::string problem = call.database.read_problem();
+    const std::string problem = call.database.get_read_problem();
     if (!problem.empty())
         exit_code = call.database_failed(problem);
     else
-        call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.directory() + ".");
+        call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.get_directory() +
+                          ".");
     return std::nullopt;
 }
 

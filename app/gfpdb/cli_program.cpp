@@ -10,9 +10,8 @@
 #include "commands/restore_command.h"
 #include "commands/show_command.h"
 
-#include "base/gfpdb_text.h"
-#include "catalogue/gfpdb_catalogue.h"
 #include "gfpdb/gfpdb_enums.h"
+#include "gfpdb/gfpdb_text.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -173,11 +172,12 @@ int run_command(const CLI_COMMAND& command, const QStringList& arguments, CLI_OU
     // The tool reports what goes wrong; the log would repeat it.
     if (!parser.isSet(QLatin1String(OPTION_VERBOSE)))
         QLoggingCategory::setFilterRules(QStringLiteral("pgm.gfpdb.warning=false"));
-    if (!gfpdb_catalogue_problem().empty()) {
-        output.error(gfpdb_catalogue_problem());
+    const std::string catalogue_problem = GFPDB_DATABASE::get_catalogue_problem();
+    if (!catalogue_problem.empty()) {
+        output.error(catalogue_problem);
         return CLI_EXIT_BAD_FILE;
     }
-    CLI_DATABASE database(QFile::encodeName(parser.value(QLatin1String(CLI_OPTION_DIR))).toStdString());
+    GFPDB_DATABASE database(QFile::encodeName(parser.value(QLatin1String(CLI_OPTION_DIR))).toStdString());
     return command.run({parser, database, output});
 }
 

@@ -6,12 +6,10 @@
 // of the rest, then both.
 #include "fuzz_target.h"
 
-#include "exchange/gfpdb_import_plan.h"
-#include "exchange/gfpdb_record_csv.h"
-#include "exchange/gfpdb_record_file.h"
-#include "exchange/gfpdb_record_json.h"
 #include "manager/gfpdb_embedded_mgr.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
+
+#include "gfpdb/gfpdb_exchange.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,10 +52,11 @@ const std::string& full_database()
 {
     static const std::string content = [] {
         FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory()))));
-        CLI_DATABASE database(directory());
+        GFPDB_DATABASE database(directory());
         GFPDB_ROW model = row_of(DEVICES[0]);
         model.template_name = TEMPLATE;
-        FUZZ_CHECK(database.store().save_all({row_of(DEVICES[0]), row_of(DEVICES[1])}, {model}, [](int) {}));
+        FUZZ_CHECK(GFPDB_EMBEDDED_MGR::instance().store().save_all({row_of(DEVICES[0]), row_of(DEVICES[1])}, {model},
+                                                                   [](int) {}));
         QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME)));
         FUZZ_CHECK(file.open(QIODevice::ReadOnly));
         return file.readAll().toStdString();
@@ -65,23 +64,22 @@ const std::string& full_database()
     return content;
 }
 
-RECORD_FILE read_file(const std::string& content, RECORD_FILE_OPTIONS options, bool csv)
+GFPDB_RECORD_FILE read_file(const std::string& content, GFPDB_READ_OPTIONS options, bool csv)
 {
     const std::string path = fuzz_directory() + (csv ? "list.csv" : "records.json");
     fuzz_write_file(path, content);
     options.csv = csv;
-    return read_record_file(path, GFPDB_EMBEDDED_MGR::instance(), options);
+    return gfpdb_read_records(path, GFPDB_EMBEDDED_MGR::instance(), options);
 }
 
 // What an import lets in, the rules for stored records accept; and every record is found by its name.
-void check_stored(CLI_DATABASE& database)
+void check_stored(GFPDB_DATABASE& database)
 {
-    for (const CLI_RECORD& listed : database.find_stored({})) {
-        const std::optional<CLI_RECORD> record = database.load(listed);
+    for (const GFPDB_RECORD& listed : database.find_stored({})) {
+        const std::optional<GFPDB_RECORD> record = database.load(listed);
         FUZZ_CHECK(record && record->row.revision == listed.row.revision);
-        FUZZ_CHECK(record_problems(database.manager(), *record, RECORD_RULES::STORED).empty());
-        FUZZ_CHECK(record_to_json(*record).has_value());
-        record_warnings(database.manager(), *record);
+        for (const GFPDB_FINDING& finding : gfpdb_check_record(database.get_manager(), *record))
+            FUZZ_CHECK(finding.seriousness == GFPDB_SERIOUSNESS::WARNING);
     }
     FUZZ_CHECK(database.find_misplaced({}).empty());
 }
@@ -102,30 +100,31 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto share = static_cast<std::size_t>(input.take_byte() % PARTS);
     const std::string content = input.take_rest();
     const std::size_t length = content.size() * share / PARTS;
-    RECORD_FILE_OPTIONS options;
+    GFPDB_READ_OPTIONS options;
     if ((kind & TO_ONE_PLACE) != 0) {
         options.family = FAMILY;
         options.scheme = SCHEME;
     }
     fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, full_database());
-    CLI_DATABASE database(directory());
-    IMPORT_PLAN plan(database, (kind & REPLACE) != 0, RECORD_RULES::IMPORTED);
+    GFPDB_DATABASE database(directory());
+    GFPDB_IMPORT_PLAN plan(database, (kind & REPLACE) != 0, GFPDB_RECORD_RULES::IMPORTED);
     bool good = true;
     for (const bool is_second : {false, true}) {
         const bool csv = (kind & (is_second ? SECOND_AS_CSV : FIRST_AS_CSV)) != 0;
         // A share of nothing is a call with one file.
         if (!is_second && length == 0)
             continue;
-        RECORD_FILE file = read_file(is_second ? content.substr(length) : content.substr(0, length), options, csv);
+        GFPDB_RECORD_FILE file =
+            read_file(is_second ? content.substr(length) : content.substr(0, length), options, csv);
         if (file.problems.empty())
             plan.add(file);
         good = good && file.problems.empty();
-        for (const CLI_PROBLEM& warning : file.warnings)
+        for (const GFPDB_FINDING& warning : file.warnings)
             FUZZ_CHECK(warning.line >= 1 && !warning.text.empty());
     }
     if (!good)
         return 0;
-    FUZZ_CHECK(database.store().save_all(plan.devices(), plan.templates(), [](int) {}));
+    FUZZ_CHECK(database.import(plan, [](int) {}));
     check_stored(database);
     return 0;
 }

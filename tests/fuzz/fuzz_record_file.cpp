@@ -5,12 +5,11 @@
 // Input: a byte for the format and the rules, then the content of the file.
 #include "fuzz_target.h"
 
-#include "exchange/gfpdb_import_plan.h"
-#include "exchange/gfpdb_record_csv.h"
-#include "exchange/gfpdb_record_file.h"
 #include "exchange/gfpdb_record_json.h"
 #include "manager/gfpdb_embedded_mgr.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
+
+#include "gfpdb/gfpdb_exchange.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,12 +33,13 @@ const std::string& empty_database()
 {
     static const std::string content = [] {
         FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory()))));
-        CLI_DATABASE database(directory());
+        GFPDB_DATABASE database(directory());
         GFPDB_ROW row;
         row.family = FAMILY;
         row.scheme = SCHEME;
         row.name = "first";
-        FUZZ_CHECK(database.store().save_device(row) && database.store().remove_device(FAMILY, SCHEME, row.name));
+        FUZZ_CHECK(GFPDB_EMBEDDED_MGR::instance().store().save_device(row) &&
+                   GFPDB_EMBEDDED_MGR::instance().store().remove_device(FAMILY, SCHEME, row.name));
         QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME)));
         FUZZ_CHECK(file.open(QIODevice::ReadOnly));
         return file.readAll().toStdString();
@@ -47,18 +47,18 @@ const std::string& empty_database()
     return content;
 }
 
-RECORD_FILE read_file(const std::string& content, const RECORD_FILE_OPTIONS& options)
+GFPDB_RECORD_FILE read_file(const std::string& content, const GFPDB_READ_OPTIONS& options)
 {
     const std::string path = fuzz_directory() + "records";
     fuzz_write_file(path, content);
-    return read_record_file(path, GFPDB_EMBEDDED_MGR::instance(), options);
+    return gfpdb_read_records(path, GFPDB_EMBEDDED_MGR::instance(), options);
 }
 
 // Each problem says where in the file it is.
-void check_problems(const RECORD_FILE& file, const std::string& content)
+void check_problems(const GFPDB_RECORD_FILE& file, const std::string& content)
 {
     const auto lines = 1 + std::count(content.begin(), content.end(), '\n');
-    for (const CLI_PROBLEM& problem : file.problems)
+    for (const GFPDB_FINDING& problem : file.problems)
         FUZZ_CHECK(problem.line >= 1 && problem.line <= lines && !problem.text.empty());
 }
 
@@ -74,11 +74,11 @@ void check_json(const std::string& text)
     FUZZ_CHECK(json_write(value) == written);
 }
 
-std::vector<CLI_RECORD> stored_records(CLI_DATABASE& database)
+std::vector<GFPDB_RECORD> stored_records(GFPDB_DATABASE& database)
 {
-    std::vector<CLI_RECORD> records;
-    for (const CLI_RECORD& listed : database.find_stored({})) {
-        const std::optional<CLI_RECORD> record = database.load(listed);
+    std::vector<GFPDB_RECORD> records;
+    for (const GFPDB_RECORD& listed : database.find_stored({})) {
+        const std::optional<GFPDB_RECORD> record = database.load(listed);
         FUZZ_CHECK(record.has_value());
         records.push_back(*record);
     }
@@ -86,38 +86,38 @@ std::vector<CLI_RECORD> stored_records(CLI_DATABASE& database)
 }
 
 // What was exported is imported again without a problem, and changes nothing.
-void check_export(CLI_DATABASE& database, const std::string& exported, const RECORD_FILE_OPTIONS& options, int count)
+void check_export(GFPDB_DATABASE& database, const std::string& exported, const GFPDB_READ_OPTIONS& options, int count)
 {
-    RECORD_FILE file = read_file(exported, options);
-    IMPORT_PLAN plan(database, false, options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::IMPORTED);
+    GFPDB_RECORD_FILE file = read_file(exported, options);
+    GFPDB_IMPORT_PLAN plan(database, false, options.rules);
     plan.add(file);
     FUZZ_CHECK(file.problems.empty());
     FUZZ_CHECK(plan.unchanged_count() == count && plan.new_count() == 0);
 }
 
 // A file without a problem is stored whole.
-void check_import(RECORD_FILE& file, const RECORD_FILE_OPTIONS& options)
+void check_import(GFPDB_RECORD_FILE& file, const GFPDB_READ_OPTIONS& options)
 {
     fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, empty_database());
-    CLI_DATABASE database(directory());
-    IMPORT_PLAN plan(database, false, options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::IMPORTED);
+    GFPDB_DATABASE database(directory());
+    GFPDB_IMPORT_PLAN plan(database, false, options.rules);
     plan.add(file);
     if (!file.problems.empty())
         return;
     const auto devices = static_cast<int>(plan.devices().size());
     const int count = devices + static_cast<int>(plan.templates().size());
-    FUZZ_CHECK(database.store().save_all(plan.devices(), plan.templates(), [](int) {}));
+    FUZZ_CHECK(database.import(plan, [](int) {}));
 
-    const std::vector<CLI_RECORD> stored = stored_records(database);
+    const std::vector<GFPDB_RECORD> stored = stored_records(database);
     FUZZ_CHECK(static_cast<int>(stored.size()) == count);
-    std::vector<CLI_RECORD> unreadable;
-    const JSON_VALUE json = records_to_json(stored, unreadable);
+    std::vector<GFPDB_RECORD> unreadable;
+    const std::string json = gfpdb_write_records(stored, unreadable);
     FUZZ_CHECK(unreadable.empty());
-    RECORD_FILE_OPTIONS again = options;
+    GFPDB_READ_OPTIONS again = options;
     again.csv = false;
-    check_export(database, json_write(json), again, count);
+    check_export(database, json, again, count);
     again.csv = true;
-    check_export(database, records_to_csv(stored), again, devices);
+    check_export(database, gfpdb_write_list(stored), again, devices);
 }
 
 } // namespace
@@ -134,12 +134,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FUZZ_INPUT input(data, size);
     const int kind = input.take_byte();
     const std::string content = input.take_rest();
-    RECORD_FILE_OPTIONS options;
+    GFPDB_READ_OPTIONS options;
     options.csv = (kind & AS_CSV) != 0;
-    options.unchecked = (kind & UNCHECKED) != 0;
+    options.rules = (kind & UNCHECKED) != 0 ? GFPDB_RECORD_RULES::NAMES : GFPDB_RECORD_RULES::IMPORTED;
     if (!options.csv)
         check_json(content);
-    RECORD_FILE file = read_file(content, options);
+    GFPDB_RECORD_FILE file = read_file(content, options);
     check_problems(file, content);
     if (file.problems.empty() && !file.records.empty())
         check_import(file, options);

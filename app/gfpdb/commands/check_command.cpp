@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "commands/check_command.h"
 
-#include "exchange/gfpdb_record_json.h"
+#include "cli_find.h"
+#include "output/cli_json.h"
 
 #include <algorithm>
 
@@ -10,63 +11,47 @@ namespace {
 constexpr const char* OPTION_REBUILD_KEYS = "rebuild-keys";
 
 // A record and one thing that was found in it.
-struct FINDING
+struct FOUND
 {
     std::string record;
-    CLI_PROBLEM problem;
+    GFPDB_FINDING finding;
 
-    bool is_warning() const { return problem.seriousness == CLI_SERIOUSNESS::WARNING; }
+    bool is_warning() const { return finding.seriousness == GFPDB_SERIOUSNESS::WARNING; }
 };
-using FINDINGS = std::vector<FINDING>;
+using FINDINGS = std::vector<FOUND>;
 
-void check_record(const CLI_CALL& call, const CLI_RECORD& record, FINDINGS& found)
+void add_list(CLI_JSON& json, const char* key, const FINDINGS& found, bool warnings)
 {
-    const std::optional<JSON_VALUE> json = record_to_json(record);
-    if (!json) {
-        found.push_back({cli_title(record), {0, "", "The flows cannot be read."}});
-        return;
-    }
-    RECORD_READER reader(call.database.manager(), RECORD_RULES::STORED);
-    reader.read_record(*json, record.is_template, "");
-    for (CLI_PROBLEM problem : reader.problems()) {
-        if (!problem.field.empty() && problem.field.front() == '.')
-            problem.field.erase(0, 1);
-        found.push_back({cli_title(record), problem});
-    }
-    for (const RECORD_REMARK& remark : record_warnings(call.database.manager(), record))
-        found.push_back({cli_title(record), {0, remark.member, remark.text, CLI_SERIOUSNESS::WARNING}});
-}
-
-JSON_VALUE json_of(const FINDINGS& found, bool warnings)
-{
-    JSON_VALUE list = json_list();
-    for (const FINDING& each : found) {
+    json.begin_list(key);
+    for (const FOUND& each : found) {
         if (each.is_warning() != warnings)
             continue;
-        JSON_VALUE problem = json_object();
-        problem.add("record", json_string(each.record));
-        problem.add("field", json_string(each.problem.field));
-        problem.add("text", json_string(each.problem.text));
-        list.items.push_back(std::move(problem));
+        json.begin_object();
+        json.add("record", each.record);
+        json.add("field", each.finding.field);
+        json.add("text", each.finding.text);
+        json.end_object();
     }
-    return list;
+    json.end_list();
 }
 
 std::string json(const CLI_CALL& call, std::size_t count, const std::string& damage, const FINDINGS& found)
 {
-    JSON_VALUE object = json_object();
-    object.add("directory", json_string(call.database.directory()));
-    object.add("integrity", json_string(damage.empty() ? "ok" : damage));
-    object.add("records", json_number(static_cast<long long>(count)));
-    object.add("problems", json_of(found, false));
-    object.add("warnings", json_of(found, true));
-    return json_write(object);
+    CLI_JSON json;
+    json.begin_object();
+    json.add("directory", call.database.get_directory());
+    json.add("integrity", damage.empty() ? "ok" : damage);
+    json.add_number("records", static_cast<long long>(count));
+    add_list(json, "problems", found, false);
+    add_list(json, "warnings", found, true);
+    json.end_object();
+    return json.text();
 }
 
-std::string line(const FINDING& found)
+std::string line(const FOUND& found)
 {
-    return found.record + (found.problem.field.empty() ? "" : ": " + found.problem.field) +
-           (found.is_warning() ? ": warning: " : ": ") + found.problem.text + '\n';
+    return found.record + (found.finding.field.empty() ? "" : ": " + found.finding.field) +
+           (found.is_warning() ? ": warning: " : ": ") + found.finding.text + '\n';
 }
 
 std::string counted(std::size_t count, const std::string& what)
@@ -77,7 +62,7 @@ std::string counted(std::size_t count, const std::string& what)
 std::string text(std::size_t count, const FINDINGS& found, std::size_t problems)
 {
     std::string text;
-    for (const FINDING& each : found)
+    for (const FOUND& each : found)
         text += line(each);
     const std::size_t warnings = found.size() - problems;
     return text + counted(count, "record") + ", " + counted(problems, "problem") +
@@ -95,26 +80,27 @@ void CLI_CHECK_COMMAND::add_options(QCommandLineParser& parser) const
 
 int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
 {
-    const std::string problem = call.database.read_problem();
+    const std::string problem = call.database.get_read_problem();
     if (!problem.empty())
         return call.database_failed(problem);
-    if (call.has(OPTION_REBUILD_KEYS) && !call.database.store().rebuild_keys())
-        return call.database_failed(call.database.store().get_last_error());
-    const std::string damage =
-        call.database.store().check_integrity() ? std::string() : call.database.store().get_last_error();
+    if (call.has(OPTION_REBUILD_KEYS) && !call.database.rebuild_keys())
+        return call.database_failed(call.database.get_last_error());
+    const std::string damage = call.database.check_integrity() ? std::string() : call.database.get_last_error();
     FINDINGS found;
-    const std::vector<CLI_RECORD> records = call.database.find_stored({});
-    for (const CLI_RECORD& record : call.database.find_misplaced({}))
-        found.push_back({cli_title(record), {0, "", CLI_MISPLACED}});
+    const std::vector<GFPDB_RECORD> records = call.database.find_stored({});
+    for (const GFPDB_RECORD& record : call.database.find_misplaced({}))
+        found.push_back({gfpdb_title(record), {0, "", CLI_MISPLACED}});
     int done = 0;
-    for (const CLI_RECORD& record : records) {
-        if (const std::optional<CLI_RECORD> loaded = call.database.load(record))
-            check_record(call, *loaded, found);
+    for (const GFPDB_RECORD& record : records) {
+        if (const std::optional<GFPDB_RECORD> loaded = call.database.load(record)) {
+            for (const GFPDB_FINDING& finding : gfpdb_check_record(call.database.get_manager(), *loaded))
+                found.push_back({gfpdb_title(record), finding});
+        }
         call.output.progress("Checking", ++done, static_cast<int>(records.size()));
     }
     call.output.finish_progress();
     const auto warnings =
-        std::stable_partition(found.begin(), found.end(), [](const FINDING& each) { return !each.is_warning(); });
+        std::stable_partition(found.begin(), found.end(), [](const FOUND& each) { return !each.is_warning(); });
     const auto problems = static_cast<std::size_t>(warnings - found.begin());
     call.output.print(call.has(CLI_OPTION_JSON) ? json(call, records.size(), damage, found)
                                                 : text(records.size(), found, problems));

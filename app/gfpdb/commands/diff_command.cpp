@@ -2,11 +2,10 @@
 #include "commands/diff_command.h"
 
 #include "cli_find.h"
-#include "exchange/gfpdb_record_file.h"
-#include "exchange/gfpdb_record_json.h"
+#include "output/cli_json.h"
 #include "output/line_diff.h"
 
-#include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_text.h"
 
 #include <QFileInfo>
 
@@ -23,45 +22,46 @@ bool is_file(const std::string& operand)
 }
 
 // A state of the history.
-std::optional<CLI_RECORD> find_state(const CLI_CALL& call, const std::string& number, int& exit_code)
+std::optional<GFPDB_RECORD> find_state(const CLI_CALL& call, const std::string& number, int& exit_code)
 {
     const std::optional<std::int64_t> id = cli_history_id(number);
-    const std::optional<GFPDB_HISTORY_ENTRY> entry = id ? call.database.store().find_history(*id) : std::nullopt;
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = id ? call.database.load_state(*id) : std::nullopt;
     if (entry)
-        return CLI_RECORD{entry->is_template, entry->row, 0};
+        return GFPDB_RECORD{entry->is_template, entry->row, 0};
     exit_code = CLI_EXIT_NOT_FOUND;
-    call.output.error("There is no state " + gfpdb_quoted(number) + " in the history of " + call.database.directory() +
-                      ".");
+    call.output.error("There is no state " + gfpdb_quoted(number) + " in the history of " +
+                      call.database.get_directory() + ".");
     return std::nullopt;
 }
 
 // The records of a file. Empty: a message was printed.
-std::vector<CLI_RECORD> read_file(const CLI_CALL& call, const std::string& path)
+std::vector<GFPDB_RECORD> read_file(const CLI_CALL& call, const std::string& path)
 {
-    RECORD_FILE_OPTIONS options;
-    options.unchecked = true;
-    RECORD_FILE file = read_record_file(path, call.database.manager(), options);
+    GFPDB_READ_OPTIONS options;
+    options.rules = GFPDB_RECORD_RULES::NAMES;
+    GFPDB_RECORD_FILE file = gfpdb_read_records(path, call.database.get_manager(), options);
     bool good = true;
-    for (const CLI_PROBLEM& problem : file.problems) {
+    for (const GFPDB_FINDING& problem : file.problems) {
         // Nothing is stored here.
-        if (problem.seriousness == CLI_SERIOUSNESS::BUILTIN_NAME)
+        if (problem.seriousness == GFPDB_SERIOUSNESS::BUILTIN_NAME)
             continue;
-        call.output.problem(path, problem);
+        call.output.finding(path, problem);
         good = false;
     }
     if (good && file.records.empty())
-        call.output.problem(path, {0, "", "The file has no records."});
-    return good ? file.records : std::vector<CLI_RECORD>();
+        call.output.finding(path, {0, "", "The file has no records."});
+    return good ? file.records : std::vector<GFPDB_RECORD>();
 }
 
 // The record of a file that matches `other`: the only one, or the one of the same kind, name, family and scheme.
-std::optional<CLI_RECORD> pick(const CLI_CALL& call, const std::string& path, const CLI_RECORD* other, int& exit_code)
+std::optional<GFPDB_RECORD> pick(const CLI_CALL& call, const std::string& path, const GFPDB_RECORD* other,
+                                 int& exit_code)
 {
-    const std::vector<CLI_RECORD> records = read_file(call, path);
+    const std::vector<GFPDB_RECORD> records = read_file(call, path);
     exit_code = CLI_EXIT_BAD_FILE;
     if (records.size() == 1)
         return records.front();
-    for (const CLI_RECORD& record : records) {
+    for (const GFPDB_RECORD& record : records) {
         const bool is_placed =
             other &&
             (record.is_template || (record.row.family == other->row.family && record.row.scheme == other->row.scheme));
@@ -76,8 +76,8 @@ std::optional<CLI_RECORD> pick(const CLI_CALL& call, const std::string& path, co
     return std::nullopt;
 }
 
-std::optional<CLI_RECORD> find(const CLI_CALL& call, const std::string& operand, const CLI_RECORD* other,
-                               int& exit_code)
+std::optional<GFPDB_RECORD> find(const CLI_CALL& call, const std::string& operand, const GFPDB_RECORD* other,
+                                 int& exit_code)
 {
     const std::string prefix = HISTORY_PREFIX;
     if (operand.rfind(prefix, 0) == 0)
@@ -85,27 +85,31 @@ std::optional<CLI_RECORD> find(const CLI_CALL& call, const std::string& operand,
     return is_file(operand) ? pick(call, operand, other, exit_code) : cli_find_one(call, operand, exit_code);
 }
 
+void add_lines(CLI_JSON& json, const char* key, const std::vector<std::string>& lines)
+{
+    json.begin_list(key);
+    for (const std::string& line : lines)
+        json.add(line);
+    json.end_list();
+}
+
 std::string json(const std::vector<LINE_CHANGE>& changes)
 {
-    JSON_VALUE object = json_object();
-    object.add("same", json_bool(changes.empty()));
-    JSON_VALUE list = json_list();
+    CLI_JSON json;
+    json.begin_object();
+    json.add_flag("same", changes.empty());
+    json.begin_list("changes");
     for (const LINE_CHANGE& change : changes) {
-        JSON_VALUE item = json_object();
-        item.add("left_line", json_number(change.left + 1));
-        item.add("right_line", json_number(change.right + 1));
-        JSON_VALUE removed = json_list();
-        for (const std::string& line : change.removed)
-            removed.items.push_back(json_string(line));
-        JSON_VALUE added = json_list();
-        for (const std::string& line : change.added)
-            added.items.push_back(json_string(line));
-        item.add("removed", std::move(removed));
-        item.add("added", std::move(added));
-        list.items.push_back(std::move(item));
+        json.begin_object();
+        json.add_number("left_line", change.left + 1);
+        json.add_number("right_line", change.right + 1);
+        add_lines(json, "removed", change.removed);
+        add_lines(json, "added", change.added);
+        json.end_object();
     }
-    object.add("changes", std::move(list));
-    return json_write(object);
+    json.end_list();
+    json.end_object();
+    return json.text();
 }
 
 } // namespace
@@ -122,18 +126,18 @@ int CLI_DIFF_COMMAND::run(const CLI_CALL& call) const
     // The side that is no file says which record of a file is meant.
     const bool right_first = is_file(call.argument(0)) && !is_file(call.argument(1));
     const int first = right_first ? 1 : 0;
-    const std::optional<CLI_RECORD> one = find(call, call.argument(first), nullptr, exit_code);
+    const std::optional<GFPDB_RECORD> one = find(call, call.argument(first), nullptr, exit_code);
     if (!one)
         return exit_code;
-    const std::optional<CLI_RECORD> other = find(call, call.argument(1 - first), &*one, exit_code);
+    const std::optional<GFPDB_RECORD> other = find(call, call.argument(1 - first), &*one, exit_code);
     if (!other)
         return exit_code;
-    const std::optional<JSON_VALUE> left = record_to_json(right_first ? *other : *one);
-    const std::optional<JSON_VALUE> right = record_to_json(right_first ? *one : *other);
+    const std::optional<std::string> left = gfpdb_write_record(right_first ? *other : *one);
+    const std::optional<std::string> right = gfpdb_write_record(right_first ? *one : *other);
     if (!left || !right)
         return call.database_failed("The flows of a record cannot be read.");
-    const std::vector<std::string> left_lines = split_lines(json_write(*left));
-    const std::vector<std::string> right_lines = split_lines(json_write(*right));
+    const std::vector<std::string> left_lines = split_lines(*left);
+    const std::vector<std::string> right_lines = split_lines(*right);
     call.output.print(call.has(CLI_OPTION_JSON)
                           ? json(diff_lines(left_lines, right_lines))
                           : unified_diff(call.argument(0), left_lines, call.argument(1), right_lines));

@@ -2,9 +2,9 @@
 #include "commands/history_command.h"
 
 #include "cli_find.h"
+#include "output/cli_json.h"
 
-#include "base/gfpdb_json.h"
-#include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_text.h"
 
 #include <QDateTime>
 
@@ -49,27 +49,22 @@ std::string table(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
 
 std::string json(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
 {
-    JSON_VALUE list = json_list();
+    CLI_JSON json;
+    json.begin_list();
     for (const GFPDB_HISTORY_ENTRY& entry : entries) {
-        JSON_VALUE object = json_object();
-        object.add("id", json_number(entry.id));
-        object.add("changed_at", json_string(entry.changed_at));
-        object.add("changed_by", json_string(entry.changed_by));
-        object.add("reason", json_string(entry.reason));
-        object.add("kind", json_string(kind_of(entry)));
-        object.add("family", json_number(entry.row.family));
-        object.add("scheme", json_number(entry.row.scheme));
-        object.add("name", json_string(entry.name()));
-        list.items.push_back(std::move(object));
+        json.begin_object();
+        json.add_number("id", entry.id);
+        json.add("changed_at", entry.changed_at);
+        json.add("changed_by", entry.changed_by);
+        json.add("reason", entry.reason);
+        json.add("kind", kind_of(entry));
+        json.add_number("family", entry.row.family);
+        json.add_number("scheme", entry.row.scheme);
+        json.add("name", entry.name());
+        json.end_object();
     }
-    return json_write(list);
-}
-
-bool is_selected(const CLI_SELECTION& selection, const GFPDB_HISTORY_ENTRY& entry)
-{
-    return (selection.name.empty() || gfpdb_name_key(selection.name) == gfpdb_name_key(entry.name())) &&
-           selection.family.value_or(entry.row.family) == entry.row.family &&
-           selection.scheme.value_or(entry.row.scheme) == entry.row.scheme;
+    json.end_list();
+    return json.text();
 }
 
 // What is wrong with the options for pruning; empty when nothing is.
@@ -81,20 +76,18 @@ std::string problem_of_pruning(const CLI_CALL& call)
     return has_limit || call.has(OPTION_FORCE) ? "--older-than, --keep and --force need --prune." : "";
 }
 
-int prune(const CLI_CALL& call, const CLI_SELECTION& selection)
+int prune(const CLI_CALL& call, const GFPDB_SELECTION& selection)
 {
     GFPDB_PRUNING pruning;
-    pruning.name = selection.name;
-    pruning.is_selected = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return is_selected(selection, entry); };
     pruning.keep = call.number(CLI_OPTION_KEEP).value_or(0);
     pruning.last_of_deleted = call.has(OPTION_FORCE);
     if (const std::optional<int> days = call.number(CLI_OPTION_OLDER_THAN))
         pruning.before = gfpdb_to_utf8(QDateTime::currentDateTimeUtc().addDays(-*days).toString(Qt::ISODate));
-    const std::optional<int> count = call.database.store().prune_history(pruning);
+    const std::optional<int> count = call.database.prune_history(selection, pruning);
     if (!count)
-        return call.database_failed(call.database.store().get_last_error());
+        return call.database_failed(call.database.get_last_error());
     call.output.print("Removed " + std::to_string(*count) + (*count == 1 ? " state" : " states") +
-                      " from the history of " + cli_printable(call.database.directory()) + '\n');
+                      " from the history of " + cli_printable(call.database.get_directory()) + '\n');
     return CLI_EXIT_OK;
 }
 
@@ -117,18 +110,14 @@ void CLI_HISTORY_COMMAND::add_options(QCommandLineParser& parser) const
 
 int CLI_HISTORY_COMMAND::run(const CLI_CALL& call) const
 {
-    const CLI_SELECTION selection = cli_selection(call, call.argument(0));
+    const GFPDB_SELECTION selection = cli_selection(call, call.argument(0));
     const std::string usage_problem = problem_of_pruning(call);
     if (!usage_problem.empty())
         return call.wrong_usage(usage_problem);
     if (call.has(OPTION_PRUNE))
         return prune(call, selection);
-    std::vector<GFPDB_HISTORY_ENTRY> entries;
-    for (const GFPDB_HISTORY_ENTRY& entry : call.database.store().get_history(selection.name)) {
-        if (is_selected(selection, entry))
-            entries.push_back(entry);
-    }
-    const std::string problem = call.database.read_problem();
+    const std::vector<GFPDB_HISTORY_ENTRY> entries = call.database.find_history(selection);
+    const std::string problem = call.database.get_read_problem();
     if (!problem.empty())
         return call.database_failed(problem);
     call.output.print(call.has(CLI_OPTION_JSON) ? json(entries) : table(entries));

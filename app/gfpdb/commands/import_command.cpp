@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "commands/import_command.h"
 
-#include "exchange/gfpdb_import_plan.h"
-
 namespace {
 
 constexpr const char* OPTION_REPLACE = "replace";
@@ -10,7 +8,7 @@ constexpr const char* OPTION_DRY_RUN = "dry-run";
 constexpr const char* OPTION_UNCHECKED = "unchecked";
 constexpr const char* OPTION_CSV = "csv";
 
-std::string summary_of(const IMPORT_PLAN& plan, const char* verb, const std::string& directory)
+std::string summary_of(const GFPDB_IMPORT_PLAN& plan, const char* verb, const std::string& directory)
 {
     return std::string(verb) + ' ' + std::to_string(plan.new_count()) + " new, " +
            std::to_string(plan.replaced_count()) + " replaced; " + std::to_string(plan.unchanged_count()) +
@@ -35,22 +33,23 @@ void CLI_IMPORT_COMMAND::add_options(QCommandLineParser& parser) const
 
 int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
 {
-    const std::string problem = call.database.store().is_writable() ? "" : call.database.store().get_problem();
+    const std::string problem = call.database.get_write_problem();
     if (!problem.empty())
         return call.database_failed(problem);
-    const RECORD_FILE_OPTIONS options = {call.has(OPTION_CSV), call.has(OPTION_UNCHECKED),
-                                         call.number(CLI_OPTION_FAMILY), call.number(CLI_OPTION_SCHEME)};
-    IMPORT_PLAN plan(call.database, call.has(OPTION_REPLACE),
-                     options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::IMPORTED);
-    std::vector<std::pair<std::string, CLI_PROBLEM>> warnings;
+    const GFPDB_RECORD_RULES rules =
+        call.has(OPTION_UNCHECKED) ? GFPDB_RECORD_RULES::NAMES : GFPDB_RECORD_RULES::IMPORTED;
+    const GFPDB_READ_OPTIONS options = {call.has(OPTION_CSV), rules, call.number(CLI_OPTION_FAMILY),
+                                        call.number(CLI_OPTION_SCHEME)};
+    GFPDB_IMPORT_PLAN plan(call.database, call.has(OPTION_REPLACE), rules);
+    std::vector<std::pair<std::string, GFPDB_FINDING>> warnings;
     bool good = true;
     for (int at = 0; at < call.argument_count(); ++at) {
-        RECORD_FILE file = read_record_file(call.argument(at), call.database.manager(), options);
+        GFPDB_RECORD_FILE file = gfpdb_read_records(call.argument(at), call.database.get_manager(), options);
         if (file.problems.empty())
             plan.add(file);
-        for (const CLI_PROBLEM& each : file.problems)
-            call.output.problem(file.path, each);
-        for (const CLI_PROBLEM& each : file.warnings)
+        for (const GFPDB_FINDING& each : file.problems)
+            call.output.finding(file.path, each);
+        for (const GFPDB_FINDING& each : file.warnings)
             warnings.emplace_back(file.path, each);
         good = good && file.problems.empty();
     }
@@ -59,16 +58,16 @@ int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
         return CLI_EXIT_BAD_FILE;
     }
     for (const auto& [path, warning] : warnings)
-        call.output.problem(path, warning);
+        call.output.finding(path, warning);
     if (call.has(OPTION_DRY_RUN)) {
-        call.output.print(summary_of(plan, "Would import", call.database.directory()));
+        call.output.print(summary_of(plan, "Would import", call.database.get_directory()));
         return CLI_EXIT_OK;
     }
     const int total = static_cast<int>(plan.devices().size() + plan.templates().size());
     const auto progress = [&call, total](int done) { call.output.progress("Importing", done, total); };
-    if (total > 0 && !call.database.store().save_all(plan.devices(), plan.templates(), progress))
-        return call.database_failed(call.database.store().get_last_error());
+    if (total > 0 && !call.database.import(plan, progress))
+        return call.database_failed(call.database.get_last_error());
     call.output.finish_progress();
-    call.output.print(summary_of(plan, "Imported", call.database.directory()));
+    call.output.print(summary_of(plan, "Imported", call.database.get_directory()));
     return CLI_EXIT_OK;
 }

@@ -2,10 +2,9 @@
 #include "commands/list_command.h"
 
 #include "cli_find.h"
-#include "exchange/gfpdb_record_json.h"
+#include "output/cli_json.h"
 
-#include "base/gfpdb_text.h"
-#include "model/gfpdb_field.h"
+#include "gfpdb/gfpdb_text.h"
 
 #include <QRegularExpression>
 #include <QString>
@@ -26,7 +25,7 @@ using LINE = std::array<std::string, COLUMN_COUNT>;
 
 struct LISTED
 {
-    CLI_RECORD record;
+    GFPDB_RECORD record;
     bool is_builtin;
 
     const char* kind() const { return is_builtin ? "builtin" : record.is_template ? "template" : "device"; }
@@ -71,22 +70,34 @@ std::string table(const std::vector<LISTED>& records)
     return gfpdb_to_utf8(text);
 }
 
+void add_value(CLI_JSON& json, const GFPDB_VALUE& value)
+{
+    if (!value.is_number)
+        json.add(value.key, value.text);
+    else if (value.text.empty())
+        json.add_null(value.key);
+    else
+        json.add_number(value.key, std::stoll(value.text));
+}
+
 std::string json(const std::vector<LISTED>& records)
 {
-    JSON_VALUE list = json_list();
+    CLI_JSON json;
+    json.begin_list();
     for (const LISTED& listed : records) {
-        JSON_VALUE object = json_object();
-        object.add(GFPDB_KEY_NAME, json_string(listed.record.name()));
-        object.add("kind", json_string(listed.kind()));
-        for (const GFPDB_FIELD& field : gfpdb_fields()) {
-            const bool is_name = field.property == GFPDB_FLASH_NAME || field.property == GFPDB_FLASH_TEMPLATE_NAME;
-            const bool is_unknown = listed.is_builtin && field.kind == GFPDB_FIELD_KIND::PLACE;
-            if (!is_name && field.kind != GFPDB_FIELD_KIND::FLOWS)
-                object.add(field.key, is_unknown ? json_null() : field_to_json(field, listed.record.row));
+        json.begin_object();
+        json.add("name", listed.record.name());
+        json.add("kind", listed.kind());
+        for (GFPDB_VALUE& value : gfpdb_values(listed.record)) {
+            if (listed.is_builtin && value.property == GFPDB_NO_PROPERTY)
+                value.text.clear();
+            if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_FLASH_TEMPLATE_NAME)
+                add_value(json, value);
         }
-        list.items.push_back(std::move(object));
+        json.end_object();
     }
-    return json_write(list);
+    json.end_list();
+    return json.text();
 }
 
 // Qt's own wildcards are for paths: their star ends at a slash, which a name may have.
@@ -101,13 +112,13 @@ QRegularExpression wildcard(const QString& pattern)
 std::vector<LISTED> find(const CLI_CALL& call)
 {
     std::vector<LISTED> found;
-    const CLI_SELECTION selection = cli_selection(call, std::string());
+    const GFPDB_SELECTION selection = cli_selection(call, std::string());
     if (!call.has(OPTION_BUILTIN)) {
-        for (const CLI_RECORD& record : call.database.find_stored(selection))
+        for (const GFPDB_RECORD& record : call.database.find_stored(selection))
             found.push_back({record, false});
     }
     if (call.has(OPTION_BUILTIN) || call.has(OPTION_ALL)) {
-        for (const CLI_RECORD& record : call.database.find_builtin(selection))
+        for (const GFPDB_RECORD& record : call.database.find_builtin(selection))
             found.push_back({record, true});
     }
     const QRegularExpression filter = wildcard(gfpdb_from_utf8(call.value(OPTION_FILTER)));
@@ -119,13 +130,13 @@ std::vector<LISTED> find(const CLI_CALL& call)
     return found;
 }
 
-std::string csv(const std::vector<LISTED>& listed, CSV_FOR reader)
+std::string csv(const std::vector<LISTED>& listed, GFPDB_LIST_FOR reader)
 {
-    std::vector<CLI_RECORD> records;
+    std::vector<GFPDB_RECORD> records;
     records.reserve(listed.size());
     for (const LISTED& each : listed)
         records.push_back(each.record);
-    return records_to_csv(records, reader);
+    return gfpdb_write_list(records, reader);
 }
 
 } // namespace
@@ -143,11 +154,11 @@ void CLI_LIST_COMMAND::add_options(QCommandLineParser& parser) const
 
 int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
 {
-    const std::optional<CSV_FOR> reader = call.list_reader();
+    const std::optional<GFPDB_LIST_FOR> reader = call.list_reader();
     if (reader && call.has(CLI_OPTION_JSON))
         return call.wrong_usage("--csv and --json cannot be used together.");
     const std::vector<LISTED> records = find(call);
     call.output.print(call.has(CLI_OPTION_JSON) ? json(records) : reader ? csv(records, *reader) : table(records));
-    const std::string problem = call.has(OPTION_BUILTIN) ? std::string() : call.database.read_problem();
+    const std::string problem = call.has(OPTION_BUILTIN) ? std::string() : call.database.get_read_problem();
     return problem.empty() ? CLI_EXIT_OK : call.database_failed(problem);
 }

@@ -3,7 +3,7 @@
 
 #include "cli_find.h"
 
-#include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_text.h"
 
 namespace {
 
@@ -11,14 +11,11 @@ constexpr const char* OPTION_REPLACE = "replace";
 constexpr const char* OPTION_AS = "as";
 
 // What to do when the name of `state` is in use; empty when it is not.
-std::string hint_for(const CLI_CALL& call, const CLI_RECORD& state)
+std::string hint_for(const CLI_CALL& call, const GFPDB_RECORD& state)
 {
     if (call.database.load(state))
         return "Use --replace to replace the current record, or --as to give the state another name.";
-    const bool is_of_other_kind = state.is_template
-                                      ? call.database.store().has_device(state.name())
-                                      : !call.database.store().get_template_revision(state.name()).empty();
-    return is_of_other_kind ? "Use --as to give the state another name." : "";
+    return call.database.is_name_of_other_kind(state) ? "Use --as to give the state another name." : "";
 }
 
 } // namespace
@@ -41,20 +38,20 @@ int CLI_RESTORE_COMMAND::run(const CLI_CALL& call) const
         return call.wrong_usage(gfpdb_quoted(number) + " is not a number of the history.");
     if (call.has(OPTION_AS) && new_name.empty())
         return call.wrong_usage("--as is empty.");
-    const std::string problem = call.database.read_problem();
+    const std::string problem = call.database.get_read_problem();
     if (!problem.empty())
         return call.database_failed(problem);
-    const std::optional<GFPDB_HISTORY_ENTRY> entry = call.database.store().find_history(*id);
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = call.database.load_state(*id);
     if (!entry) {
-        call.output.error("There is no state " + number + " in the history of " + call.database.directory() + ".");
+        call.output.error("There is no state " + number + " in the history of " + call.database.get_directory() + ".");
         return CLI_EXIT_NOT_FOUND;
     }
-    CLI_RECORD state = {entry->is_template, entry->row, 0};
+    GFPDB_RECORD state = {entry->is_template, entry->row, 0};
     if (!new_name.empty())
         (state.is_template ? state.row.template_name : state.row.name) = new_name;
     const GFPDB_RESTORE how = call.has(OPTION_REPLACE) ? GFPDB_RESTORE_REPLACE : GFPDB_RESTORE_KEEP;
-    if (!call.database.manager().restore_flash(*id, std::string(), how, new_name)) {
-        const int exit_code = call.database_failed(call.database.manager().get_last_error());
+    if (!call.database.get_manager().restore_flash(*id, std::string(), how, new_name)) {
+        const int exit_code = call.database_failed(call.database.get_manager().get_last_error());
         const std::string hint = hint_for(call, state);
         if (how == GFPDB_RESTORE_KEEP && !hint.empty())
             call.output.error(hint);

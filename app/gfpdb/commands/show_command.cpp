@@ -2,10 +2,9 @@
 #include "commands/show_command.h"
 
 #include "cli_find.h"
-#include "exchange/gfpdb_record_json.h"
 #include "output/record_text.h"
 
-#include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_text.h"
 
 namespace {
 
@@ -30,13 +29,12 @@ int CLI_SHOW_COMMAND::run(const CLI_CALL& call) const
     if (variant != SINGLE && variant != QUAD && variant != BOTH)
         return call.wrong_usage(gfpdb_quoted(variant) + " is not a flow variant. Allowed: single, quad, both.");
     int exit_code = CLI_EXIT_OK;
-    std::optional<CLI_RECORD> record = cli_find_one(call, call.argument(0), exit_code);
+    std::optional<GFPDB_RECORD> record = cli_find_one(call, call.argument(0), exit_code);
     if (!record)
         return exit_code;
-    const std::optional<JSON_VALUE> json = record_to_json(*record);
+    const std::optional<std::string> json = gfpdb_write_record(*record);
     if (!json)
         return call.database_failed("The flows of " + gfpdb_quoted(record->name()) + " cannot be read.");
-    call.output.print(call.has(CLI_OPTION_JSON) ? json_write(*json)
-                                                : record_to_text(*record, variant != QUAD, variant != SINGLE));
+    call.output.print(call.has(CLI_OPTION_JSON) ? *json : record_to_text(*record, variant != QUAD, variant != SINGLE));
     return CLI_EXIT_OK;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/cli_output.h"
 
-#include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_text.h"
 
 #include <cstdio>
 
@@ -51,14 +51,14 @@ void CLI_OUTPUT::error(const std::string& text)
     write(stderr, PROGRAM + cli_printable(text) + '\n');
 }
 
-void CLI_OUTPUT::problem(const std::string& file, const CLI_PROBLEM& problem)
+void CLI_OUTPUT::finding(const std::string& file, const GFPDB_FINDING& finding)
 {
     std::string text = file;
-    if (problem.line > 0)
-        text += ':' + std::to_string(problem.line);
-    if (!problem.field.empty())
-        text += ": " + problem.field;
-    error(text + (problem.seriousness == CLI_SERIOUSNESS::WARNING ? ": warning: " : ": ") + problem.text);
+    if (finding.line > 0)
+        text += ':' + std::to_string(finding.line);
+    if (!finding.field.empty())
+        text += ": " + finding.field;
+    error(text + (finding.seriousness == GFPDB_SERIOUSNESS::WARNING ? ": warning: " : ": ") + finding.text);
 }
 
 // Once per percent: a terminal is slower than the work.

@@ -3,7 +3,7 @@
 // Where the tool's texts go.
 #pragma once
 
-#include "exchange/gfpdb_record.h"
+#include "gfpdb/gfpdb_exchange.h"
 
 #include <string>
 
@@ -19,7 +19,7 @@ public:
     // Prints a message to standard error, on a line of its own.
     void error(const std::string& text);
     // Prints a problem as "file:line: field: text", a warning with "warning: " before the text.
-    void problem(const std::string& file, const CLI_PROBLEM& problem);
+    void finding(const std::string& file, const GFPDB_FINDING& finding);
     // Shows how far a long piece of work has come, when standard error is a terminal: "Importing 120 of 4000". Nothing
     // else may be printed until finish_progress().
     void progress(const char* work, int done, int total);

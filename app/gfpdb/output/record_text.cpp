@@ -3,11 +3,10 @@
 
 #include "output/cli_output.h"
 
-#include "model/gfpdb_field.h"
-#include "model/gfpdb_flow_text.h"
 #include "words/gfpq_vocabulary.h"
 
 #include "gfpdb/gfpdb_enums.h"
+#include "gfpdb/gfpdb_exchange.h"
 
 #include "dstr/dstr.h"
 
@@ -42,9 +41,9 @@ std::string action_text(const GFPDB_ACTION& action)
 }
 
 // False when the flows cannot be read.
-bool add_flows(std::string& text, const char* title, const std::string& json)
+bool add_flows(std::string& text, const char* title, const GFPDB_RECORD& record, bool flow_variant)
 {
-    const auto operations = gfpdb_flows_from_text(json);
+    const auto operations = gfpdb_operations(record, flow_variant);
     if (!operations)
         return false;
     text += std::string("\n") + title + (operations->empty() ? ": none\n" : "\n");
@@ -58,7 +57,7 @@ bool add_flows(std::string& text, const char* title, const std::string& json)
 
 } // namespace
 
-std::string record_to_text(const CLI_RECORD& record, bool with_single, bool with_quad)
+std::string record_to_text(const GFPDB_RECORD& record, bool with_single, bool with_quad)
 {
     const GFPDB_ROW& row = record.row;
     const bool is_placed = row.family != 0;
@@ -70,14 +69,13 @@ std::string record_to_text(const CLI_RECORD& record, bool with_single, bool with
         text += line("Family", std::to_string(row.family) + " (" + dstr_get_user_string(row.family) + ')');
         text += line("Scheme", std::to_string(row.scheme));
     }
-    for (const GFPDB_FIELD& field : gfpdb_fields()) {
-        const bool is_said = field.property == GFPDB_FLASH_NAME || field.kind == GFPDB_FIELD_KIND::PLACE;
-        if (!is_said && field.kind != GFPDB_FIELD_KIND::FLOWS)
-            text += line(field.title, field.text(row));
+    for (const GFPDB_VALUE& value : gfpdb_values(record)) {
+        if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_NO_PROPERTY)
+            text += line(value.title, value.text);
     }
-    if (with_single && !add_flows(text, "Single-I/O flow", row.single_flows))
+    if (with_single && !add_flows(text, "Single-I/O flow", record, false))
         return std::string();
-    if (with_quad && !add_flows(text, "Quad-I/O flow", row.quad_flows))
+    if (with_quad && !add_flows(text, "Quad-I/O flow", record, true))
         return std::string();
     return text;
 }

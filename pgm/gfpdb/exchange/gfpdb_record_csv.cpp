@@ -38,7 +38,7 @@ JSON_VALUE number_of(const std::string& text)
     return is_number ? value : json_string(text);
 }
 
-bool check_columns(const CSV_ROW& head, std::vector<CLI_PROBLEM>& problems)
+bool check_columns(const CSV_ROW& head, std::vector<GFPDB_FINDING>& problems)
 {
     const std::size_t before = problems.size();
     for (std::size_t at = 0; at < GFPDB_REQUIRED_FIELDS; ++at) {
@@ -83,10 +83,10 @@ JSON_VALUE object_of(const CSV_ROW& head, const CSV_ROW& row)
 
 } // namespace
 
-std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reader)
+std::string gfpdb_write_list(const std::vector<GFPDB_RECORD>& records, GFPDB_LIST_FOR reader)
 {
     std::string text = csv_line(COLUMNS);
-    for (const CLI_RECORD& record : records) {
+    for (const GFPDB_RECORD& record : records) {
         if (record.is_template)
             continue;
         std::vector<std::string> cells;
@@ -94,7 +94,7 @@ std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reade
             if (field.kind == GFPDB_FIELD_KIND::FLOWS)
                 continue;
             const std::string value = field.text(record.row);
-            const bool is_dangerous = reader == CSV_FOR::SPREADSHEET && field.is_text() && is_formula(value);
+            const bool is_dangerous = reader == GFPDB_LIST_FOR::SPREADSHEET && field.is_text() && is_formula(value);
             cells.push_back(is_dangerous ? '\'' + value : value);
         }
         text += csv_line(cells);
@@ -102,16 +102,15 @@ std::string records_to_csv(const std::vector<CLI_RECORD>& records, CSV_FOR reade
     return text;
 }
 
-std::vector<CLI_RECORD> records_from_csv(const std::string& text, GFPDB_MGR& manager, bool checked,
-                                         std::optional<int> family, std::optional<int> scheme,
-                                         std::vector<CLI_PROBLEM>& problems)
+std::vector<GFPDB_RECORD> gfpdb_read_list(const std::string& text, GFPDB_MGR& manager,
+                                          const GFPDB_READ_OPTIONS& options, std::vector<GFPDB_FINDING>& problems)
 {
-    std::vector<CLI_RECORD> records;
+    std::vector<GFPDB_RECORD> records;
     const std::vector<CSV_ROW> rows = csv_rows(text);
     const CSV_ROW head = rows.empty() ? CSV_ROW() : rows.front();
     if (!check_columns(head, problems))
         return records;
-    RECORD_READER reader(manager, checked ? RECORD_RULES::IMPORTED : RECORD_RULES::NAMES, family, scheme);
+    GFPDB_RECORD_READER reader(manager, options);
     for (std::size_t at = 1; at < rows.size(); ++at) {
         const std::string problem = problem_of(rows[at], head.cells.size());
         if (problem.empty())
@@ -119,7 +118,7 @@ std::vector<CLI_RECORD> records_from_csv(const std::string& text, GFPDB_MGR& man
         else
             problems.push_back({rows[at].line, "", problem});
     }
-    for (CLI_PROBLEM problem : reader.problems()) {
+    for (GFPDB_FINDING problem : reader.problems()) {
         problem.field.erase(0, problem.field.rfind('.') + 1);
         problems.push_back(problem);
     }

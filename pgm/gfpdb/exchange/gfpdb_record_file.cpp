@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/gfpdb_record_file.h"
-
 #include "exchange/gfpdb_record_csv.h"
 #include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_read_file.h"
 #include "base/gfpdb_text.h"
+
+#include "gfpdb/gfpdb_exchange.h"
 
 #include <QFile>
 
@@ -15,6 +15,8 @@ namespace {
 
 constexpr const char* STANDARD_INPUT = "-";
 constexpr const char* CSV_SUFFIX = ".csv";
+// An export of 80,000 devices with their flows has as many bytes.
+constexpr std::size_t LARGEST = std::size_t(1) << 30;
 
 // False: `problem` says why.
 bool read_text(const std::string& path, std::string& text, std::string& problem)
@@ -22,8 +24,8 @@ bool read_text(const std::string& path, std::string& text, std::string& problem)
     std::string reason;
     std::optional<std::string> bytes =
         path == STANDARD_INPUT
-            ? gfpdb_read_descriptor(STDIN_FILENO, RECORD_FILE_LARGEST, reason)
-            : gfpdb_read_file(QFile::encodeName(gfpdb_from_utf8(path)).toStdString(), RECORD_FILE_LARGEST, reason);
+            ? gfpdb_read_descriptor(STDIN_FILENO, LARGEST, reason)
+            : gfpdb_read_file(QFile::encodeName(gfpdb_from_utf8(path)).toStdString(), LARGEST, reason);
     if (!bytes) {
         problem = "The file cannot be read: " + reason + ".";
         return false;
@@ -32,25 +34,24 @@ bool read_text(const std::string& path, std::string& text, std::string& problem)
     return true;
 }
 
-void read_json(const std::string& text, GFPDB_MGR& manager, const RECORD_FILE_OPTIONS& options, RECORD_FILE& file)
+void read_json(const std::string& text, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options, GFPDB_RECORD_FILE& file)
 {
     JSON_VALUE value;
     JSON_ERROR error;
     if (!json_parse(text, value, error)) {
-        file.problems.push_back({error.line, "", "This is no JSON: " + error.text + "."});
+        file.problems.push_back({error.line, "", "This is not valid JSON: " + error.text + "."});
         return;
     }
-    RECORD_READER reader(manager, options.unchecked ? RECORD_RULES::NAMES : RECORD_RULES::IMPORTED, options.family,
-                         options.scheme);
+    GFPDB_RECORD_READER reader(manager, options);
     file.records = reader.read_file(value);
     file.problems = reader.problems();
 }
 
 } // namespace
 
-RECORD_FILE read_record_file(const std::string& path, GFPDB_MGR& manager, const RECORD_FILE_OPTIONS& options)
+GFPDB_RECORD_FILE gfpdb_read_records(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
 {
-    RECORD_FILE file;
+    GFPDB_RECORD_FILE file;
     file.path = path;
     file.is_csv = options.csv || gfpdb_from_utf8(path).endsWith(QLatin1String(CSV_SUFFIX), Qt::CaseInsensitive);
     std::string text;
@@ -58,8 +59,7 @@ RECORD_FILE read_record_file(const std::string& path, GFPDB_MGR& manager, const 
     if (!read_text(path, text, problem))
         file.problems.push_back({0, "", problem});
     else if (file.is_csv)
-        file.records =
-            records_from_csv(text, manager, !options.unchecked, options.family, options.scheme, file.problems);
+        file.records = gfpdb_read_list(text, manager, options, file.problems);
     else
         read_json(text, manager, options, file);
     return file;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/gfpdb_record_json.h"
 
+#include "exchange/gfpdb_record_rules.h"
+
 #include "base/gfpdb_text.h"
 #include "model/gfpdb_field.h"
 #include "model/gfpdb_flow_text.h"
@@ -13,6 +15,9 @@
 #include <limits>
 
 namespace {
+
+constexpr const char* FORMAT_NAME = "gfpdb-records";
+constexpr int FORMAT_VERSION = 1;
 
 constexpr const char* FORMAT = "format";
 constexpr const char* VERSION = "version";
@@ -48,17 +53,12 @@ const JSON_VALUE& place_of(const JSON_VALUE& object, const char* name)
 
 } // namespace
 
-JSON_VALUE field_to_json(const GFPDB_FIELD& field, const GFPDB_ROW& row)
-{
-    return field.in(row, [](const auto& value) { return json_of(value); });
-}
-
-std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record)
+std::optional<JSON_VALUE> gfpdb_record_to_json(const GFPDB_RECORD& record)
 {
     JSON_VALUE object = json_object();
     for (const GFPDB_FIELD& field : gfpdb_fields()) {
         if (field.kind != GFPDB_FIELD_KIND::FLOWS) {
-            object.add(field.key, field_to_json(field, record.row));
+            object.add(field.key, field.in(record.row, [](const auto& value) { return json_of(value); }));
             continue;
         }
         std::optional<JSON_VALUE> flows = gfpdb_flows_to_json(field.text(record.row));
@@ -69,17 +69,23 @@ std::optional<JSON_VALUE> record_to_json(const CLI_RECORD& record)
     return object;
 }
 
-JSON_VALUE records_to_json(const std::vector<CLI_RECORD>& records, std::vector<CLI_RECORD>& unreadable)
+std::optional<std::string> gfpdb_write_record(const GFPDB_RECORD& record)
+{
+    const std::optional<JSON_VALUE> json = gfpdb_record_to_json(record);
+    return json ? std::optional<std::string>(json_write(*json)) : std::nullopt;
+}
+
+std::string gfpdb_write_records(const std::vector<GFPDB_RECORD>& records, std::vector<GFPDB_RECORD>& unreadable)
 {
     JSON_VALUE file = json_object();
-    file.add(FORMAT, json_string(RECORD_FORMAT));
-    file.add(VERSION, json_number(RECORD_FORMAT_VERSION));
+    file.add(FORMAT, json_string(FORMAT_NAME));
+    file.add(VERSION, json_number(FORMAT_VERSION));
     for (const bool templates : {false, true}) {
         JSON_VALUE list = json_list();
-        for (const CLI_RECORD& record : records) {
+        for (const GFPDB_RECORD& record : records) {
             if (record.is_template != templates)
                 continue;
-            std::optional<JSON_VALUE> object = record_to_json(record);
+            std::optional<JSON_VALUE> object = gfpdb_record_to_json(record);
             if (object)
                 list.items.push_back(std::move(*object));
             else
@@ -87,35 +93,32 @@ JSON_VALUE records_to_json(const std::vector<CLI_RECORD>& records, std::vector<C
         }
         file.add(templates ? TEMPLATES : DEVICES, std::move(list));
     }
-    return file;
+    return json_write(file);
 }
 
-RECORD_READER::RECORD_READER(GFPDB_MGR& manager, RECORD_RULES rules, std::optional<int> family,
-                             std::optional<int> scheme)
-    : m_manager(manager), m_rules(rules), m_family(family), m_scheme(scheme),
-      m_report([this](const JSON_VALUE& value, const std::string& field, const std::string& text) {
-          add(value, field, text);
-      })
+GFPDB_RECORD_READER::GFPDB_RECORD_READER(GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
+    : m_manager(manager), m_options(options), m_report([this](const JSON_VALUE& value, const std::string& field,
+                                                              const std::string& text) { add(value, field, text); })
 {}
 
-void RECORD_READER::add(const JSON_VALUE& value, const std::string& field, const std::string& text,
-                        CLI_SERIOUSNESS seriousness)
+void GFPDB_RECORD_READER::add(const JSON_VALUE& value, const std::string& field, const std::string& text,
+                              GFPDB_SERIOUSNESS seriousness)
 {
     m_problems.push_back({value.line, field, text, seriousness});
 }
 
-std::vector<CLI_RECORD> RECORD_READER::read_file(const JSON_VALUE& file)
+std::vector<GFPDB_RECORD> GFPDB_RECORD_READER::read_file(const JSON_VALUE& file)
 {
-    std::vector<CLI_RECORD> records;
+    std::vector<GFPDB_RECORD> records;
     const JSON_VALUE* format = file.member(FORMAT);
     const JSON_VALUE* version = file.member(VERSION);
     if (!json_has_members(file, {FORMAT, VERSION, DEVICES, TEMPLATES}, 2, "", m_report))
         return records;
-    if (format->kind != JSON_VALUE::TEXT || format->text != RECORD_FORMAT)
-        add(*format, FORMAT, std::string("This is not a file of records. Allowed: ") + RECORD_FORMAT + ".");
-    else if (version->kind != JSON_VALUE::NUMBER || version->text != std::to_string(RECORD_FORMAT_VERSION))
+    if (format->kind != JSON_VALUE::TEXT || format->text != FORMAT_NAME)
+        add(*format, FORMAT, std::string("This is not a file of records. Allowed: ") + FORMAT_NAME + ".");
+    else if (version->kind != JSON_VALUE::NUMBER || version->text != std::to_string(FORMAT_VERSION))
         add(*version, VERSION,
-            "This version of the format is not known. Allowed: " + std::to_string(RECORD_FORMAT_VERSION) + ".");
+            "This version of the format is not known. Allowed: " + std::to_string(FORMAT_VERSION) + ".");
     else {
         read_records(file, DEVICES, false, records);
         read_records(file, TEMPLATES, true, records);
@@ -123,8 +126,8 @@ std::vector<CLI_RECORD> RECORD_READER::read_file(const JSON_VALUE& file)
     return records;
 }
 
-void RECORD_READER::read_records(const JSON_VALUE& file, const char* name, bool are_templates,
-                                 std::vector<CLI_RECORD>& records)
+void GFPDB_RECORD_READER::read_records(const JSON_VALUE& file, const char* name, bool are_templates,
+                                       std::vector<GFPDB_RECORD>& records)
 {
     const JSON_VALUE* list = file.member(name);
     if (!list || !json_is(*list, JSON_VALUE::LIST, name, m_report))
@@ -133,9 +136,9 @@ void RECORD_READER::read_records(const JSON_VALUE& file, const char* name, bool 
         records.push_back(read_record(list->items[at], are_templates, indexed("", name, at)));
 }
 
-CLI_RECORD RECORD_READER::read_record(const JSON_VALUE& value, bool is_template, const std::string& field)
+GFPDB_RECORD GFPDB_RECORD_READER::read_record(const JSON_VALUE& value, bool is_template, const std::string& field)
 {
-    CLI_RECORD record;
+    GFPDB_RECORD record;
     record.is_template = is_template;
     record.line = value.line;
     if (!json_has_members(value, gfpdb_field_keys(true), GFPDB_REQUIRED_FIELDS, field, m_report))
@@ -143,22 +146,22 @@ CLI_RECORD RECORD_READER::read_record(const JSON_VALUE& value, bool is_template,
     const std::size_t problems_before = m_problems.size();
     for (const GFPDB_FIELD& each : gfpdb_fields())
         read_field(value, each, field, record.row);
-    for (const RECORD_REMARK& remark : record_problems(m_manager, record, m_rules)) {
-        const std::string place = field + '.' + remark.member;
+    for (const GFPDB_FINDING& remark : gfpdb_record_problems(m_manager, record, m_options.rules)) {
+        const std::string place = field + '.' + remark.field;
         // What could not be read is not missing.
         if (std::none_of(m_problems.begin() + static_cast<std::ptrdiff_t>(problems_before), m_problems.end(),
-                         [&place](const CLI_PROBLEM& problem) { return problem.field == place; }))
-            add(place_of(value, remark.member), place, remark.text, remark.seriousness);
+                         [&place](const GFPDB_FINDING& problem) { return problem.field == place; }))
+            add(place_of(value, remark.field.c_str()), place, remark.text, remark.seriousness);
     }
     return record;
 }
 
-void RECORD_READER::read_field(const JSON_VALUE& object, const GFPDB_FIELD& which, const std::string& field,
-                               GFPDB_ROW& row)
+void GFPDB_RECORD_READER::read_field(const JSON_VALUE& object, const GFPDB_FIELD& which, const std::string& field,
+                                     GFPDB_ROW& row)
 {
     if (which.kind == GFPDB_FIELD_KIND::PLACE) {
         int& place = row.*std::get<GFPDB_PLACE_MEMBER>(which.member);
-        const std::optional<int>& given = &place == &row.family ? m_family : m_scheme;
+        const std::optional<int>& given = &place == &row.family ? m_options.family : m_options.scheme;
         place = (given ? given : read_number(object, which.key, field)).value_or(place);
     } else if (which.kind == GFPDB_FIELD_KIND::NUMBER) {
         row.*std::get<GFPDB_NUMBER_MEMBER>(which.member) = read_number(object, which.key, field);
@@ -169,7 +172,7 @@ void RECORD_READER::read_field(const JSON_VALUE& object, const GFPDB_FIELD& whic
     }
 }
 
-std::string RECORD_READER::read_text(const JSON_VALUE& object, const char* name, const std::string& field)
+std::string GFPDB_RECORD_READER::read_text(const JSON_VALUE& object, const char* name, const std::string& field)
 {
     const JSON_VALUE* value = object.member(name);
     if (!value || !json_is(*value, JSON_VALUE::TEXT, field + '.' + name, m_report))
@@ -180,7 +183,8 @@ std::string RECORD_READER::read_text(const JSON_VALUE& object, const char* name,
     return value->text;
 }
 
-std::optional<int> RECORD_READER::read_number(const JSON_VALUE& object, const char* name, const std::string& field)
+std::optional<int> GFPDB_RECORD_READER::read_number(const JSON_VALUE& object, const char* name,
+                                                    const std::string& field)
 {
     const JSON_VALUE* value = object.member(name);
     if (!value || value->kind == JSON_VALUE::NOTHING)
@@ -196,7 +200,7 @@ std::optional<int> RECORD_READER::read_number(const JSON_VALUE& object, const ch
     return std::nullopt;
 }
 
-std::string RECORD_READER::read_flows(const JSON_VALUE& object, const char* name, const std::string& field)
+std::string GFPDB_RECORD_READER::read_flows(const JSON_VALUE& object, const char* name, const std::string& field)
 {
     const JSON_VALUE* list = object.member(name);
     if (!list)
@@ -204,14 +208,14 @@ std::string RECORD_READER::read_flows(const JSON_VALUE& object, const char* name
     const std::size_t problems_before = m_problems.size();
     const GFPDB_OPERATION_LIST operations = gfpdb_flows_from_json(*list, field + '.' + name, m_report);
     const std::vector<GFPDB_OPERATION*> pointers = gfpdb_pointers(operations);
-    if (m_rules != RECORD_RULES::NAMES && m_problems.size() == problems_before)
+    if (m_options.rules != GFPDB_RECORD_RULES::NAMES && m_problems.size() == problems_before)
         check_flow(*list, field + '.' + name, pointers);
     return gfpdb_flows_to_text(&pointers).value_or(std::string());
 }
 
 // The list was read without a problem, so its items are the operations, in their order.
-void RECORD_READER::check_flow(const JSON_VALUE& list, const std::string& field,
-                               const std::vector<GFPDB_OPERATION*>& operations)
+void GFPDB_RECORD_READER::check_flow(const JSON_VALUE& list, const std::string& field,
+                                     const std::vector<GFPDB_OPERATION*>& operations)
 {
     for (const GFPDB_FLOW_PROBLEM& problem : gfpdb_check_flow(operations)) {
         std::size_t at = 0;

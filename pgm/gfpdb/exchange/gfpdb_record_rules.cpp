@@ -10,7 +10,6 @@
 #include "rules/gfpdb_options.h"
 
 #include "gfpdb/gfpdb_enums.h"
-#include "gfpdb/gfpdb_mgr.h"
 
 #include <algorithm>
 #include <iterator>
@@ -67,7 +66,7 @@ void make_current(GFPDB_MGR& manager, const GFPDB_ROW& row)
 }
 
 // What is there already keeps a name that a built-in device has got since.
-void check_name(const GFPDB_MGR& manager, bool of_template, const std::string& name, std::vector<RECORD_REMARK>& found)
+void check_name(const GFPDB_MGR& manager, bool of_template, const std::string& name, std::vector<GFPDB_FINDING>& found)
 {
     const std::string what = of_template ? "template name" : "device name";
     const bool keeps_name = gfpdb_builtin_part(name) != nullptr &&
@@ -75,13 +74,13 @@ void check_name(const GFPDB_MGR& manager, bool of_template, const std::string& n
     const char* member = of_template ? GFPDB_KEY_TEMPLATE_NAME : GFPDB_KEY_NAME;
     std::string error;
     if (!gfpdb_check_name(name, what, error))
-        found.push_back({member, error});
+        found.push_back({0, member, error});
     else if (!keeps_name && !gfpdb_check_record_name(name, what, error))
-        found.push_back({member, error, CLI_SERIOUSNESS::BUILTIN_NAME});
+        found.push_back({0, member, error, GFPDB_SERIOUSNESS::BUILTIN_NAME});
 }
 
 // A template goes by its template name; its device name only says what it is a copy of.
-void check_names(const GFPDB_MGR& manager, const CLI_RECORD& record, std::vector<RECORD_REMARK>& found)
+void check_names(const GFPDB_MGR& manager, const GFPDB_RECORD& record, std::vector<GFPDB_FINDING>& found)
 {
     const GFPDB_ROW& row = record.row;
     if (!record.is_template)
@@ -89,19 +88,20 @@ void check_names(const GFPDB_MGR& manager, const CLI_RECORD& record, std::vector
     if (record.is_template || !row.template_name.empty())
         check_name(manager, true, row.template_name, found);
     if (found.empty() && gfpdb_name_key(row.name) == gfpdb_name_key(row.template_name))
-        found.push_back({GFPDB_KEY_TEMPLATE_NAME, "The device and its template need different names: both are called " +
-                                                      gfpdb_quoted(row.template_name) + "."});
+        found.push_back({0, GFPDB_KEY_TEMPLATE_NAME,
+                         "The device and its template need different names: both are called " +
+                             gfpdb_quoted(row.template_name) + "."});
 }
 
-void check_place(const GFPDB_MGR& manager, const GFPDB_ROW& row, std::vector<RECORD_REMARK>& found)
+void check_place(const GFPDB_MGR& manager, const GFPDB_ROW& row, std::vector<GFPDB_FINDING>& found)
 {
     if (row.family < DEV_FAMILY_FIRST || row.family > DEV_FAMILY_LAST)
-        found.push_back({GFPDB_KEY_FAMILY, "There is no family " + std::to_string(row.family) +
-                                               ". Allowed: " + std::to_string(DEV_FAMILY_FIRST) + " to " +
-                                               std::to_string(DEV_FAMILY_LAST) + "."});
+        found.push_back({0, GFPDB_KEY_FAMILY,
+                         "There is no family " + std::to_string(row.family) + ". Allowed: " +
+                             std::to_string(DEV_FAMILY_FIRST) + " to " + std::to_string(DEV_FAMILY_LAST) + "."});
     if (!manager.can_add_flash())
         found.push_back(
-            {GFPDB_KEY_SCHEME, "The configuration mode " + std::to_string(row.scheme) + " has no flash devices."});
+            {0, GFPDB_KEY_SCHEME, "The configuration mode " + std::to_string(row.scheme) + " has no flash devices."});
 }
 
 // The first voltage that fits, as the dialog proposes it for a new device.
@@ -138,20 +138,26 @@ bool check_number(const GFPDB_MGR& manager, const GFPDB_FIELD& field, const GFPD
     return manager.check_int_property(property_of(field), value.value_or(UNSET_NUMBER), error);
 }
 
-void check_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, RECORD_RULES rules, std::vector<RECORD_REMARK>& found)
+void check_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, GFPDB_RECORD_RULES rules,
+                  std::vector<GFPDB_FINDING>& found)
 {
     for (const GFPDB_FIELD& field : gfpdb_fields()) {
         const bool is_value = is_number(field) || field.kind == GFPDB_FIELD_KIND::TEXT;
         if (!is_value || !manager.is_property_used(property_of(field)))
             continue;
-        const bool may_miss = rules == RECORD_RULES::IMPORTED && has_default(field) && field.text(row).empty();
+        const bool may_miss = rules == GFPDB_RECORD_RULES::IMPORTED && has_default(field) && field.text(row).empty();
         std::string error;
         if (!may_miss && !(is_number(field) ? check_number : check_text)(manager, field, row, error))
-            found.push_back({field.key, error});
+            found.push_back({0, field.key, error});
     }
 }
 
-void warn_of_unusual_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, std::vector<RECORD_REMARK>& found)
+void warn(std::vector<GFPDB_FINDING>& found, const char* field, const std::string& text)
+{
+    found.push_back({0, field, text, GFPDB_SERIOUSNESS::WARNING});
+}
+
+void warn_of_unusual_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, std::vector<GFPDB_FINDING>& found)
 {
     for (const CHOICE& choice : CHOICES) {
         const GFPDB_FIELD& field = *gfpdb_field(choice.property);
@@ -160,46 +166,47 @@ void warn_of_unusual_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, std:
         if (!manager.is_property_used(choice.property) || !choice.is_possible(value) ||
             is_usual(choice, field, row, error))
             continue;
-        found.push_back({field.key, std::string("The ") + field.noun + ' ' + gfpdb_quoted(value) +
-                                        " is not a usual one. Usual: " +
-                                        gfpdb_joined(choice.options(gfpdb_scheme_kind(row.scheme))) + '.'});
+        warn(found, field.key,
+             std::string("The ") + field.noun + ' ' + gfpdb_quoted(value) +
+                 " is not a usual one. Usual: " + gfpdb_joined(choice.options(gfpdb_scheme_kind(row.scheme))) + '.');
     }
 }
 
-void warn_of_flows(const GFPDB_MGR& manager, const CLI_RECORD& record, std::vector<RECORD_REMARK>& found)
+void warn_of_flows(const GFPDB_MGR& manager, const GFPDB_RECORD& record, std::vector<GFPDB_FINDING>& found)
 {
     const bool is_quad = manager.get_flow_variant();
     const bool has_single = gfpdb_flows_have_actions(record.row.single_flows);
     const bool has_quad = gfpdb_flows_have_actions(record.row.quad_flows);
     if (!manager.can_edit_flow()) {
         if (!record.is_template && (has_single || has_quad))
-            found.push_back({has_single ? GFPDB_KEY_SINGLE_FLOWS : GFPDB_KEY_QUAD_FLOWS,
-                             "Devices of this configuration mode have no flows: the dialog drops them."});
+            warn(found, has_single ? GFPDB_KEY_SINGLE_FLOWS : GFPDB_KEY_QUAD_FLOWS,
+                 "Devices of this configuration mode have no flows: the dialog drops them.");
     } else if (!has_single && !has_quad) {
-        found.push_back({is_quad ? GFPDB_KEY_QUAD_FLOWS : GFPDB_KEY_SINGLE_FLOWS, "There are no flows."});
+        warn(found, is_quad ? GFPDB_KEY_QUAD_FLOWS : GFPDB_KEY_SINGLE_FLOWS, "There are no flows.");
     } else if (!record.is_template && !(is_quad ? has_quad : has_single)) {
-        found.push_back({is_quad ? GFPDB_KEY_QUAD_FLOWS : GFPDB_KEY_SINGLE_FLOWS,
-                         "There are no flows for this configuration mode."});
+        warn(found, is_quad ? GFPDB_KEY_QUAD_FLOWS : GFPDB_KEY_SINGLE_FLOWS,
+             "There are no flows for this configuration mode.");
     }
 }
 
 } // namespace
 
-std::vector<RECORD_REMARK> record_problems(GFPDB_MGR& manager, const CLI_RECORD& record, RECORD_RULES rules)
+std::vector<GFPDB_FINDING> gfpdb_record_problems(GFPDB_MGR& manager, const GFPDB_RECORD& record,
+                                                 GFPDB_RECORD_RULES rules)
 {
-    std::vector<RECORD_REMARK> found;
+    std::vector<GFPDB_FINDING> found;
     make_current(manager, record.row);
     check_names(manager, record, found);
-    if (rules == RECORD_RULES::NAMES)
+    if (rules == GFPDB_RECORD_RULES::NAMES)
         return found;
     check_place(manager, record.row, found);
     check_values(manager, record.row, rules, found);
     return found;
 }
 
-std::vector<RECORD_REMARK> record_fill_missing(GFPDB_MGR& manager, CLI_RECORD& record)
+std::vector<GFPDB_FINDING> gfpdb_fill_missing(GFPDB_MGR& manager, GFPDB_RECORD& record)
 {
-    std::vector<RECORD_REMARK> filled;
+    std::vector<GFPDB_FINDING> filled;
     make_current(manager, record.row);
     for (const GFPDB_FIELD& field : gfpdb_fields()) {
         if (!has_default(field) || !field.text(record.row).empty() || !manager.is_property_used(property_of(field)))
@@ -208,20 +215,20 @@ std::vector<RECORD_REMARK> record_fill_missing(GFPDB_MGR& manager, CLI_RECORD& r
             record.row.*std::get<GFPDB_NUMBER_MEMBER>(field.member) = field.initial;
         else
             record.row.voltage = default_voltage(manager);
-        filled.push_back({field.key, "The value is missing: " + field.text(record.row) + " is stored."});
+        warn(filled, field.key, "The value is missing: " + field.text(record.row) + " is stored.");
     }
     return filled;
 }
 
-std::vector<RECORD_REMARK> record_warnings(GFPDB_MGR& manager, const CLI_RECORD& record)
+std::vector<GFPDB_FINDING> gfpdb_record_warnings(GFPDB_MGR& manager, const GFPDB_RECORD& record)
 {
-    std::vector<RECORD_REMARK> found;
+    std::vector<GFPDB_FINDING> found;
     make_current(manager, record.row);
     for (const GFPDB_FIELD& field : gfpdb_fields()) {
         const bool is_kept = field.use == GFPDB_FIELD_USE::NO_ROW || manager.is_property_used(property_of(field));
         // A template serves every configuration mode.
         if (!record.is_template && !is_kept && !field.text(record.row).empty())
-            found.push_back({field.key, "Devices of this configuration mode have no such value: the dialog drops it."});
+            warn(found, field.key, "Devices of this configuration mode have no such value: the dialog drops it.");
     }
     warn_of_unusual_values(manager, record.row, found);
     warn_of_flows(manager, record, found);

@@ -7,38 +7,21 @@
 // All functions make the record's family and configuration mode the manager's. Texts are UTF-8.
 #pragma once
 
-#include "exchange/gfpdb_record.h"
+#include "gfpdb/gfpdb_exchange.h"
 
-#include <string>
 #include <vector>
 
-class GFPDB_MGR;
-
-// Which rules a record is held against.
-enum class RECORD_RULES
-{
-    STORED,   // all
-    IMPORTED, // all, but a value that is missing and has a default (record_fill_missing()) is no problem
-    NAMES,    // only those without which a record cannot be stored
-};
-
-// What there is to say about one member of a record.
-struct RECORD_REMARK
-{
-    // Its name in files (gfpdb_field.h).
-    const char* member;
-    std::string text;
-    CLI_SERIOUSNESS seriousness = CLI_SERIOUSNESS::PROBLEM;
-};
+// The findings have no line; their field is the key of a field in files.
 
 // What is wrong with the values of `record`.
-std::vector<RECORD_REMARK> record_problems(GFPDB_MGR& manager, const CLI_RECORD& record, RECORD_RULES rules);
+std::vector<GFPDB_FINDING> gfpdb_record_problems(GFPDB_MGR& manager, const GFPDB_RECORD& record,
+                                                 GFPDB_RECORD_RULES rules);
 
 // Gives values that are missing, and that records of its configuration mode have, their default where there is one;
 // says which.
-std::vector<RECORD_REMARK> record_fill_missing(GFPDB_MGR& manager, CLI_RECORD& record);
+std::vector<GFPDB_FINDING> gfpdb_fill_missing(GFPDB_MGR& manager, GFPDB_RECORD& record);
 
 // What can be stored, but is lost when the dialog saves the record, is of no use, or may be a mistake: values and flows
 // that records of its configuration mode do not have, flows that are missing, a voltage or density that is none of the
 // usual ones.
-std::vector<RECORD_REMARK> record_warnings(GFPDB_MGR& manager, const CLI_RECORD& record);
+std::vector<GFPDB_FINDING> gfpdb_record_warnings(GFPDB_MGR& manager, const GFPDB_RECORD& record);

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "manager/gfpdb_database.h"
+#include "gfpdb/gfpdb_database.h"
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"
+#include "catalogue/gfpdb_catalogue.h"
 #include "manager/gfpdb_embedded_mgr.h"
 
+#include "gfpdb/gfpdb_exchange.h"
 #include "gfpdb/gfpdb_helper.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -17,14 +21,19 @@ GFPDB_EMBEDDED_MGR& opened_manager(const std::string& directory)
     return GFPDB_EMBEDDED_MGR::instance();
 }
 
-bool has_name(const CLI_SELECTION& selection, const std::string& name)
+bool has_name(const GFPDB_SELECTION& selection, const std::string& name)
 {
     return selection.name.empty() || gfpdb_name_key(selection.name) == gfpdb_name_key(name);
 }
 
-bool has_place(const CLI_SELECTION& selection, const GFPDB_ROW& row)
+bool has_place(const GFPDB_SELECTION& selection, const GFPDB_ROW& row)
 {
     return selection.family.value_or(row.family) == row.family && selection.scheme.value_or(row.scheme) == row.scheme;
+}
+
+bool is_selected(const GFPDB_SELECTION& selection, const GFPDB_HISTORY_ENTRY& entry)
+{
+    return has_name(selection, entry.name()) && has_place(selection, entry.row);
 }
 
 // What is not to be shown of a built-in device is as good as not there.
@@ -46,23 +55,38 @@ void hide(const GFPDB_PART& part, GFPDB_ROW& row)
 
 } // namespace
 
-CLI_DATABASE::CLI_DATABASE(const std::string& directory)
+GFPDB_DATABASE::GFPDB_DATABASE(const std::string& directory)
     : m_manager(opened_manager(directory)), m_store(GFPDB_EMBEDDED_MGR::instance().store())
 {}
 
-const std::string& CLI_DATABASE::directory() const
+std::string GFPDB_DATABASE::get_catalogue_problem()
+{
+    return gfpdb_catalogue_problem();
+}
+
+const std::string& GFPDB_DATABASE::get_directory() const
 {
     return m_store.get_directory();
 }
 
-std::string CLI_DATABASE::read_problem()
+std::string GFPDB_DATABASE::get_read_problem()
 {
     return m_store.is_readable() ? std::string() : m_store.get_problem();
 }
 
-std::vector<CLI_RECORD> CLI_DATABASE::find_stored(const CLI_SELECTION& selection)
+std::string GFPDB_DATABASE::get_write_problem()
 {
-    std::vector<CLI_RECORD> records;
+    return m_store.is_writable() ? std::string() : m_store.get_problem();
+}
+
+const std::string& GFPDB_DATABASE::get_last_error() const
+{
+    return m_store.get_last_error();
+}
+
+std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_stored(const GFPDB_SELECTION& selection)
+{
+    std::vector<GFPDB_RECORD> records;
     for (const GFPDB_ROW& row : m_store.get_devices()) {
         if (has_name(selection, row.name) && has_place(selection, row))
             records.push_back({false, row, 0});
@@ -74,9 +98,9 @@ std::vector<CLI_RECORD> CLI_DATABASE::find_stored(const CLI_SELECTION& selection
     return records;
 }
 
-std::vector<CLI_RECORD> CLI_DATABASE::find_builtin(const CLI_SELECTION& selection)
+std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_builtin(const GFPDB_SELECTION& selection)
 {
-    std::vector<CLI_RECORD> records;
+    std::vector<GFPDB_RECORD> records;
     for (const std::string& name : gfpdb_builtin_names()) {
         if (!has_name(selection, name))
             continue;
@@ -88,20 +112,60 @@ std::vector<CLI_RECORD> CLI_DATABASE::find_builtin(const CLI_SELECTION& selectio
     return records;
 }
 
-std::optional<CLI_RECORD> CLI_DATABASE::load(const CLI_RECORD& record)
+std::optional<GFPDB_RECORD> GFPDB_DATABASE::load(const GFPDB_RECORD& record)
 {
     const std::optional<GFPDB_ROW> row =
         record.is_template ? m_store.find_template(record.row.template_name)
                            : m_store.find_device(record.row.family, record.row.scheme, record.row.name);
-    return row ? std::optional<CLI_RECORD>({record.is_template, *row, 0}) : std::nullopt;
+    return row ? std::optional<GFPDB_RECORD>({record.is_template, *row, 0}) : std::nullopt;
 }
 
-std::vector<CLI_RECORD> CLI_DATABASE::find_misplaced(const CLI_SELECTION& selection)
+std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_misplaced(const GFPDB_SELECTION& selection)
 {
-    std::vector<CLI_RECORD> records;
+    std::vector<GFPDB_RECORD> records;
     for (const GFPDB_MISPLACED& record : m_store.get_misplaced()) {
         if (has_name(selection, record.name()) && (record.is_template || has_place(selection, record.row)))
             records.push_back({record.is_template, record.row, 0});
     }
     return records;
+}
+
+bool GFPDB_DATABASE::rebuild_keys()
+{
+    return m_store.rebuild_keys().has_value();
+}
+
+bool GFPDB_DATABASE::is_name_of_other_kind(const GFPDB_RECORD& record)
+{
+    return record.is_template ? m_store.has_device(record.name())
+                              : !m_store.get_template_revision(record.name()).empty();
+}
+
+bool GFPDB_DATABASE::check_integrity()
+{
+    return m_store.check_integrity();
+}
+
+bool GFPDB_DATABASE::import(const GFPDB_IMPORT_PLAN& plan, const std::function<void(int)>& progress)
+{
+    return m_store.save_all(plan.devices(), plan.templates(), progress);
+}
+
+std::vector<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::find_history(const GFPDB_SELECTION& selection)
+{
+    std::vector<GFPDB_HISTORY_ENTRY> entries = m_store.get_history();
+    const auto is_out = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return !is_selected(selection, entry); };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), is_out), entries.end());
+    return entries;
+}
+
+std::optional<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::load_state(std::int64_t id)
+{
+    return m_store.find_history(id);
+}
+
+std::optional<int> GFPDB_DATABASE::prune_history(const GFPDB_SELECTION& selection, GFPDB_PRUNING pruning)
+{
+    pruning.is_selected = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return is_selected(selection, entry); };
+    return m_store.prune_history(pruning);
 }

@@ -34,8 +34,6 @@ using GFPDB_PLACE_MEMBER = int GFPDB_ROW::*;
 using GFPDB_NUMBER_MEMBER = std::optional<int> GFPDB_ROW::*;
 using GFPDB_TEXT_MEMBER = std::string GFPDB_ROW::*;
 
-constexpr int GFPDB_NO_PROPERTY = -1;
-
 struct GFPDB_FIELD
 {
     // The key in JSON files, the column of CSV files and of the database.

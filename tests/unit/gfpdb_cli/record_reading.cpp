@@ -7,10 +7,10 @@
 namespace {
 
 // The texts of problems as "line: field: text".
-QStringList texts_of(const std::vector<CLI_PROBLEM>& problems)
+QStringList texts_of(const std::vector<GFPDB_FINDING>& problems)
 {
     QStringList texts;
-    for (const CLI_PROBLEM& problem : problems)
+    for (const GFPDB_FINDING& problem : problems)
         texts += QStringLiteral("%1: %2: %3")
                      .arg(problem.line)
                      .arg(QString::fromStdString(problem.field), QString::fromStdString(problem.text));
@@ -19,13 +19,13 @@ QStringList texts_of(const std::vector<CLI_PROBLEM>& problems)
 
 } // namespace
 
-READ read_json(const std::string& text, RECORD_RULES rules, std::optional<int> family, std::optional<int> scheme)
+READ read_json(const std::string& text, GFPDB_RECORD_RULES rules, std::optional<int> family, std::optional<int> scheme)
 {
     JSON_VALUE value;
     JSON_ERROR error;
     if (!json_parse(text, value, error))
         qFatal("%s", error.text.c_str());
-    RECORD_READER reader(*fresh_manager(), rules, family, scheme);
+    GFPDB_RECORD_READER reader(*fresh_manager(), {false, rules, family, scheme});
     READ result;
     result.records = reader.read_file(value);
     result.problems = texts_of(reader.problems());
@@ -34,9 +34,11 @@ READ read_json(const std::string& text, RECORD_RULES rules, std::optional<int> f
 
 READ read_csv(const std::string& text, bool checked)
 {
-    std::vector<CLI_PROBLEM> problems;
+    std::vector<GFPDB_FINDING> problems;
     READ result;
-    result.records = records_from_csv(text, *fresh_manager(), checked, std::nullopt, std::nullopt, problems);
+    GFPDB_READ_OPTIONS options;
+    options.rules = checked ? GFPDB_RECORD_RULES::IMPORTED : GFPDB_RECORD_RULES::NAMES;
+    result.records = gfpdb_read_list(text, *fresh_manager(), options, problems);
     result.problems = texts_of(problems);
     return result;
 }

@@ -3,7 +3,6 @@
 // Reading records in the tests: what comes of a text, and the mistakes that were found in it.
 #pragma once
 
-#include "exchange/gfpdb_record.h"
 #include "exchange/gfpdb_record_json.h"
 
 // The constants of the tests have names that enumerators of the library have as well.
@@ -13,13 +12,13 @@
 
 struct READ
 {
-    std::vector<CLI_RECORD> records;
+    std::vector<GFPDB_RECORD> records;
     // As "line: field: text".
     QStringList problems;
 };
 
 // Records of a text that is JSON, read for a manager that has just opened the directory.
-READ read_json(const std::string& text, RECORD_RULES rules = RECORD_RULES::IMPORTED,
+READ read_json(const std::string& text, GFPDB_RECORD_RULES rules = GFPDB_RECORD_RULES::IMPORTED,
                std::optional<int> family = std::nullopt, std::optional<int> scheme = std::nullopt);
 // Devices of a CSV text.
 READ read_csv(const std::string& text, bool checked = true);

@@ -180,7 +180,7 @@ private slots:
         run_sql(m_place->db_file(), "UPDATE device SET name_key = 'lo\xC5\xBFt' WHERE name = 'Lost'");
         run_sql(m_place->db_file(), "UPDATE template SET template_key = 'T'");
         const QByteArray how =
-            "The stored key does not fit the name, so that no search finds the record: \"gfpdb check "
+            "The stored key does not match the name, so that no search finds the record: \"gfpdb check "
             "--rebuild-keys\" repairs that, unless another record has the name.\n";
         const QByteArray device = "device \"Lost\" (family 3, scheme 7): ";
 

@@ -15,17 +15,17 @@ class TEST_CLI_LISTS : public QObject
 private slots:
     void a_list_has_a_line_for_each_device()
     {
-        CLI_RECORD plain;
+        GFPDB_RECORD plain;
         plain.row.name = "A";
         plain.row.family = 3;
         plain.row.scheme = 7;
-        CLI_RECORD full;
+        GFPDB_RECORD full;
         full.row = make_row("B, \"best\"\r\n");
         full.row.template_name = "T";
-        CLI_RECORD other = full;
+        GFPDB_RECORD other = full;
         other.is_template = true;
 
-        QCOMPARE(records_to_csv({plain, other, full}),
+        QCOMPARE(gfpdb_write_list({plain, other, full}),
                  std::string("name,family,scheme,device_id,voltage,density,total_die,single_io_dummy_clock,"
                              "quad_io_dummy_clock,template_name,flow_template\n"
                              "A,3,7,,,,,,,,\n"
@@ -47,30 +47,30 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(bool, is_formula);
-        CLI_RECORD record;
+        GFPDB_RECORD record;
         GFPDB_ROW& row = record.row;
         for (std::string* value :
              {&row.name, &row.device_id, &row.voltage, &row.density, &row.template_name, &row.flow_template})
             *value = text.toStdString();
-        CLI_RECORD quoted = record;
+        GFPDB_RECORD quoted = record;
         GFPDB_ROW& quoted_row = quoted.row;
         for (std::string* value : {&quoted_row.name, &quoted_row.device_id, &quoted_row.voltage, &quoted_row.density,
                                    &quoted_row.template_name, &quoted_row.flow_template})
             *value = is_formula ? "'" + *value : *value;
 
-        QCOMPARE(records_to_csv({record}, CSV_FOR::SPREADSHEET), records_to_csv({quoted}));
+        QCOMPARE(gfpdb_write_list({record}, GFPDB_LIST_FOR::SPREADSHEET), gfpdb_write_list({quoted}));
     }
 
     void a_list_is_read_again()
     {
         const GFPDB_PLACE place;
-        CLI_RECORD record;
+        GFPDB_RECORD record;
         record.row = make_row("B, \"best\"");
         record.row.single_flows.clear();
         record.row.quad_flows.clear();
         record.row.quad_io_dummy_clock.reset();
 
-        const READ result = read_csv(records_to_csv({record}));
+        const READ result = read_csv(gfpdb_write_list({record}));
 
         QCOMPARE(result.problems, QStringList());
         QCOMPARE(result.records.size(), std::size_t(1));
@@ -84,7 +84,7 @@ private slots:
     void odd_values_in_a_list_are_read_again()
     {
         const GFPDB_PLACE place;
-        CLI_RECORD record;
+        GFPDB_RECORD record;
         record.row.name = "A";
         record.row.family = -1;
         record.row.scheme = -1;
@@ -93,7 +93,7 @@ private slots:
         record.row.voltage = std::string("\xEF\xBB\xBF\0\r", 5);
         record.row.flow_template = "end\r";
 
-        const READ result = read_csv(records_to_csv({record}), false);
+        const READ result = read_csv(gfpdb_write_list({record}), false);
 
         QCOMPARE(result.problems, QStringList());
         QCOMPARE(text_of(result.records.at(0).row), text_of(record.row));

@@ -47,7 +47,7 @@ std::string history_of_store()
     JSON_VALUE states = json_object();
     for (const GFPDB_HISTORY_ENTRY& entry : store.get_history()) {
         const std::optional<JSON_VALUE> record =
-            record_to_json({entry.is_template, store.find_history(entry.id)->row, 0});
+            gfpdb_record_to_json({entry.is_template, store.find_history(entry.id)->row, 0});
         states.add(std::to_string(entry.id), record.value_or(json_null()));
     }
     return json_write(states);

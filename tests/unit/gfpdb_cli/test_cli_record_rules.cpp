@@ -162,7 +162,7 @@ private slots:
 
     void names_are_checked_in_any_case()
     {
-        for (const RECORD_RULES rules : {RECORD_RULES::IMPORTED, RECORD_RULES::NAMES}) {
+        for (const GFPDB_RECORD_RULES rules : {GFPDB_RECORD_RULES::IMPORTED, GFPDB_RECORD_RULES::NAMES}) {
             for (const char* name : {"", "<<new device>>", "MX25L1606E", "No QE bit", "two\\nlines"}) {
                 const READ result = read_json(replaced(file_with(SMALL_FLOW), "Mine", name), rules);
                 QCOMPARE(result.problems.size(), 1);
@@ -188,7 +188,7 @@ private slots:
                                                                            {"\"marker\": \"end\"", "\"marker\": \"\""}})
             text = replaced(text, what, with);
 
-        const READ result = read_json(text, RECORD_RULES::NAMES);
+        const READ result = read_json(text, GFPDB_RECORD_RULES::NAMES);
 
         QCOMPARE(result.problems, QStringList());
         QCOMPARE(result.records.at(0).row.device_id, std::string("no ID"));

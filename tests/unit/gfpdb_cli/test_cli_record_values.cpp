@@ -2,6 +2,7 @@
 
 // Which values of a record are wrong, missing or of no use, for each kind of configuration mode.
 #include "base/gfpdb_text.h"
+#include "exchange/gfpdb_record_rules.h"
 #include "model/gfpdb_field.h"
 #include "model/gfpdb_flow_text.h"
 
@@ -27,9 +28,9 @@ std::string flows(bool with_action)
 }
 
 // A device with all values that devices of `scheme` have, and no other.
-CLI_RECORD complete(int scheme, int family = FAMILY)
+GFPDB_RECORD complete(int scheme, int family = FAMILY)
 {
-    CLI_RECORD record;
+    GFPDB_RECORD record;
     GFPDB_ROW& row = record.row;
     row.name = "Mine";
     row.family = family;
@@ -55,15 +56,15 @@ void clear(GFPDB_ROW& row, const std::string& member)
     gfpdb_field(member)->in(row, [](auto& value) { value = {}; });
 }
 
-QStringList whole_texts_of(const std::vector<RECORD_REMARK>& remarks)
+QStringList whole_texts_of(const std::vector<GFPDB_FINDING>& remarks)
 {
     QStringList texts;
-    for (const RECORD_REMARK& remark : remarks)
-        texts += QString(remark.member) + ": " + QString::fromStdString(remark.text);
+    for (const GFPDB_FINDING& remark : remarks)
+        texts += QString::fromStdString(remark.field) + ": " + QString::fromStdString(remark.text);
     return texts;
 }
 
-QStringList texts_of(const std::vector<RECORD_REMARK>& remarks)
+QStringList texts_of(const std::vector<GFPDB_FINDING>& remarks)
 {
     QStringList texts = whole_texts_of(remarks);
     for (QString& text : texts)
@@ -72,7 +73,7 @@ QStringList texts_of(const std::vector<RECORD_REMARK>& remarks)
 }
 
 // A device of the same configuration mode with the voltage and density of `record`.
-void save_values_of(const CLI_RECORD& record)
+void save_values_of(const GFPDB_RECORD& record)
 {
     GFPDB_MGR& manager = *fresh_manager();
     manager.set_config_scheme(record.row.scheme);
@@ -121,12 +122,12 @@ void TEST_CLI_RECORD_VALUES::a_complete_record_is_kept_by_the_dialog()
 {
     const GFPDB_PLACE place;
     QFETCH(int, scheme);
-    CLI_RECORD record = complete(scheme);
+    GFPDB_RECORD record = complete(scheme);
     GFPDB_MGR& manager = *fresh_manager();
 
-    QCOMPARE(texts_of(record_problems(manager, record, RECORD_RULES::STORED)), QStringList());
-    QCOMPARE(texts_of(record_fill_missing(manager, record)), QStringList());
-    QCOMPARE(texts_of(record_warnings(manager, record)), QStringList());
+    QCOMPARE(texts_of(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::STORED)), QStringList());
+    QCOMPARE(texts_of(gfpdb_fill_missing(manager, record)), QStringList());
+    QCOMPARE(texts_of(gfpdb_record_warnings(manager, record)), QStringList());
 }
 
 // A problem that is only one of stored records is the reason for a default.
@@ -173,37 +174,37 @@ void TEST_CLI_RECORD_VALUES::a_missing_value_is_wrong_or_gets_its_default()
     QFETCH(QString, stored);
     QFETCH(QString, imported);
     QFETCH(QString, value);
-    CLI_RECORD record = complete(scheme, family);
+    GFPDB_RECORD record = complete(scheme, family);
     clear(record.row, member.toStdString());
     GFPDB_MGR& manager = *fresh_manager();
-    const auto is_found = [&member](const std::vector<RECORD_REMARK>& remarks, const QString& text) {
+    const auto is_found = [&member](const std::vector<GFPDB_FINDING>& remarks, const QString& text) {
         return text.isEmpty() ? remarks.empty()
                               : texts_of(remarks).size() == 1 && texts_of(remarks)[0].startsWith(member + ": " + text);
     };
 
-    QVERIFY(is_found(record_problems(manager, record, RECORD_RULES::STORED), stored));
-    QVERIFY(is_found(record_problems(manager, record, RECORD_RULES::IMPORTED), imported));
-    QVERIFY(record_problems(manager, record, RECORD_RULES::NAMES).empty());
-    const std::vector<RECORD_REMARK> filled = record_fill_missing(manager, record);
+    QVERIFY(is_found(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::STORED), stored));
+    QVERIFY(is_found(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::IMPORTED), imported));
+    QVERIFY(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::NAMES).empty());
+    const std::vector<GFPDB_FINDING> filled = gfpdb_fill_missing(manager, record);
     QCOMPARE(filled.size(), std::size_t(value.isEmpty() ? 0 : 1));
     if (!filled.empty()) {
-        QCOMPARE(filled[0].member, member.toUtf8().constData());
+        QCOMPARE(filled[0].field, member.toUtf8().constData());
         QCOMPARE(filled[0].text, "The value is missing: " + value.toStdString() + " is stored.");
-        QVERIFY(record_problems(manager, record, RECORD_RULES::STORED).empty());
-        QVERIFY(record_fill_missing(manager, record).empty());
+        QVERIFY(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::STORED).empty());
+        QVERIFY(gfpdb_fill_missing(manager, record).empty());
     }
 }
 
 void TEST_CLI_RECORD_VALUES::a_die_count_of_nothing_is_refused()
 {
     const GFPDB_PLACE place;
-    CLI_RECORD record = complete(ACTIVE_SERIAL);
+    GFPDB_RECORD record = complete(ACTIVE_SERIAL);
     record.row.total_die = 0;
     GFPDB_MGR& manager = *fresh_manager();
-    for (const RECORD_RULES rules : {RECORD_RULES::STORED, RECORD_RULES::IMPORTED})
-        QCOMPARE(texts_of(record_problems(manager, record, rules)),
+    for (const GFPDB_RECORD_RULES rules : {GFPDB_RECORD_RULES::STORED, GFPDB_RECORD_RULES::IMPORTED})
+        QCOMPARE(texts_of(gfpdb_record_problems(manager, record, rules)),
                  QStringList{"total_die: The total die count 0 is out of range: 1 to 16 are allowed"});
-    QVERIFY(record_fill_missing(manager, record).empty());
+    QVERIFY(gfpdb_fill_missing(manager, record).empty());
 }
 
 void TEST_CLI_RECORD_VALUES::a_text_that_is_no_voltage_or_size_is_refused_data()
@@ -231,7 +232,7 @@ void TEST_CLI_RECORD_VALUES::a_text_that_is_no_voltage_or_size_is_refused()
     QFETCH(int, scheme);
     QFETCH(QString, member);
     QFETCH(QString, value);
-    CLI_RECORD record = complete(scheme);
+    GFPDB_RECORD record = complete(scheme);
     const bool is_voltage = member == "voltage";
     (is_voltage ? record.row.voltage : record.row.density) = value.toStdString();
     const QString problem =
@@ -242,13 +243,13 @@ void TEST_CLI_RECORD_VALUES::a_text_that_is_no_voltage_or_size_is_refused()
         if (is_stored)
             save_values_of(record);
         GFPDB_MGR& manager = *fresh_manager();
-        for (const RECORD_RULES rules : {RECORD_RULES::STORED, RECORD_RULES::IMPORTED}) {
-            const QStringList problems = whole_texts_of(record_problems(manager, record, rules));
+        for (const GFPDB_RECORD_RULES rules : {GFPDB_RECORD_RULES::STORED, GFPDB_RECORD_RULES::IMPORTED}) {
+            const QStringList problems = whole_texts_of(gfpdb_record_problems(manager, record, rules));
             QCOMPARE(problems.size(), 1);
             QVERIFY2(problems[0].startsWith(problem), qPrintable(problems[0]));
         }
-        QVERIFY(record_problems(manager, record, RECORD_RULES::NAMES).empty());
-        QCOMPARE(texts_of(record_warnings(manager, record)), QStringList());
+        QVERIFY(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::NAMES).empty());
+        QCOMPARE(texts_of(gfpdb_record_warnings(manager, record)), QStringList());
     }
 }
 
@@ -288,7 +289,7 @@ void TEST_CLI_RECORD_VALUES::an_unusual_voltage_or_size_is_warned_of()
     QFETCH(QString, voltage);
     QFETCH(QString, density);
     QFETCH(QStringList, warnings);
-    CLI_RECORD record = complete(scheme);
+    GFPDB_RECORD record = complete(scheme);
     record.is_template = is_template;
     record.row.template_name = is_template ? "T" : "";
     record.row.voltage = voltage.toStdString();
@@ -298,8 +299,8 @@ void TEST_CLI_RECORD_VALUES::an_unusual_voltage_or_size_is_warned_of()
         if (is_stored)
             save_values_of(record);
         GFPDB_MGR& manager = *fresh_manager();
-        QCOMPARE(texts_of(record_problems(manager, record, RECORD_RULES::STORED)), QStringList());
-        const QStringList found = whole_texts_of(record_warnings(manager, record));
+        QCOMPARE(texts_of(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::STORED)), QStringList());
+        const QStringList found = whole_texts_of(gfpdb_record_warnings(manager, record));
         QCOMPARE(found.size(), warnings.size());
         for (int i = 0; i < found.size(); ++i)
             QVERIFY2(found[i].startsWith(warnings[i]), qPrintable(found[i]));
@@ -309,11 +310,11 @@ void TEST_CLI_RECORD_VALUES::an_unusual_voltage_or_size_is_warned_of()
 void TEST_CLI_RECORD_VALUES::a_template_needs_another_name_than_its_device()
 {
     const GFPDB_PLACE place;
-    CLI_RECORD record = complete(ACTIVE_SERIAL);
+    GFPDB_RECORD record = complete(ACTIVE_SERIAL);
     record.row.template_name = "mINE";
     for (const bool is_template : {false, true}) {
         record.is_template = is_template;
-        QCOMPARE(texts_of(record_problems(*fresh_manager(), record, RECORD_RULES::NAMES)),
+        QCOMPARE(texts_of(gfpdb_record_problems(*fresh_manager(), record, GFPDB_RECORD_RULES::NAMES)),
                  QStringList{"template_name: The device and its template need different names: both are called "
                              "\"mINE\""});
     }
@@ -335,7 +336,7 @@ void TEST_CLI_RECORD_VALUES::what_the_dialog_drops_is_warned_of()
     const GFPDB_PLACE place;
     QFETCH(int, scheme);
     QFETCH(QStringList, members);
-    CLI_RECORD record = complete(ACTIVE_SERIAL);
+    GFPDB_RECORD record = complete(ACTIVE_SERIAL);
     record.row.scheme = scheme;
     record.row.density = scheme == CARD ? "1GB" : "256Mb";
     GFPDB_MGR& manager = *fresh_manager();
@@ -345,13 +346,13 @@ void TEST_CLI_RECORD_VALUES::what_the_dialog_drops_is_warned_of()
         expected += member + (member == "single_flows"
                                   ? ": Devices of this configuration mode have no flows: the dialog drops them"
                                   : ": Devices of this configuration mode have no such value: the dialog drops it");
-    QCOMPARE(texts_of(record_warnings(manager, record)), expected);
-    QVERIFY(record_problems(manager, record, RECORD_RULES::STORED).empty());
+    QCOMPARE(texts_of(gfpdb_record_warnings(manager, record)), expected);
+    QVERIFY(gfpdb_record_problems(manager, record, GFPDB_RECORD_RULES::STORED).empty());
     record.row.single_flows.clear();
-    QVERIFY(texts_of(record_warnings(manager, record)).last().startsWith("quad_flows: "));
+    QVERIFY(texts_of(gfpdb_record_warnings(manager, record)).last().startsWith("quad_flows: "));
     // A template serves every configuration mode.
     record.is_template = true;
-    QVERIFY(record_warnings(manager, record).empty());
+    QVERIFY(gfpdb_record_warnings(manager, record).empty());
 }
 
 void TEST_CLI_RECORD_VALUES::flows_that_are_missing_are_warned_of_data()
@@ -391,13 +392,13 @@ void TEST_CLI_RECORD_VALUES::flows_that_are_missing_are_warned_of()
     QFETCH(QString, single);
     QFETCH(QString, quad);
     QFETCH(QStringList, warnings);
-    CLI_RECORD record = complete(scheme);
+    GFPDB_RECORD record = complete(scheme);
     record.is_template = is_template;
     record.row.template_name = is_template ? "T" : "";
     record.row.single_flows = single.toStdString();
     record.row.quad_flows = quad.toStdString();
 
-    QCOMPARE(texts_of(record_warnings(*fresh_manager(), record)), warnings);
+    QCOMPARE(texts_of(gfpdb_record_warnings(*fresh_manager(), record)), warnings);
 }
 
 QTEST_GUILESS_MAIN(TEST_CLI_RECORD_VALUES)

@@ -137,7 +137,7 @@ private slots:
         const TOOL_RUN refused = tool({"import", file});
         QCOMPARE(refused.exit_code, 4);
         QCOMPARE(refused.err, "gfpdb: " + file.toUtf8() +
-                                  ":5: The device \"Mine\" exists with another content: --replace replaces it.\n"
+                                  ":5: The device \"Mine\" exists with different content: --replace replaces it.\n"
                                   "gfpdb: Nothing was imported.\n");
         QCOMPARE(fresh_manager()->find_flash("Mine", true)->get_int_property(GFPDB_FLASH_TOTAL_DIE, 0), 1);
 
@@ -184,8 +184,8 @@ private slots:
         QVERIFY(QFile::copy(file, copy));
         const TOOL_RUN run = run_tool({"import", file, copy, "-d", at("elsewhere")});
         QCOMPARE(run.exit_code, 4);
-        QCOMPARE(run.err, "gfpdb: " + copy.toUtf8() + ":5: The device \"Mine\" stands in " + file.toUtf8() +
-                              ":5 already.\ngfpdb: Nothing was imported.\n");
+        QCOMPARE(run.err, "gfpdb: " + copy.toUtf8() + ":5: The device \"Mine\" is already in " + file.toUtf8() +
+                              ":5.\ngfpdb: Nothing was imported.\n");
     }
 
     void import_tries_without_a_change()
@@ -204,7 +204,7 @@ private slots:
         const QByteArray list = "name,family,scheme,device_id,density\nListed,3,7,C2 20 19,256Mb\n";
         QCOMPARE(tool({"import", "-", "--csv"}, list).exit_code, 0);
         QCOMPARE(names(json(tool({"list", "--json"}))), QStringList{"Listed"});
-        QVERIFY(tool({"import", "-"}, list).err.startsWith("gfpdb: -:1: This is no JSON: "));
+        QVERIFY(tool({"import", "-"}, list).err.startsWith("gfpdb: -:1: This is not valid JSON: "));
     }
 
     void import_of_a_built_in_device_needs_a_name_and_a_place()
@@ -299,7 +299,7 @@ private slots:
         }
         write_file(m_place->path("broken.json"), "{\n\"format\": nonsense\n}");
         run = tool({"import", at("broken.json")});
-        QVERIFY(run.err.contains("broken.json:2: This is no JSON: a value was expected.\n"));
+        QVERIFY(run.err.contains("broken.json:2: This is not valid JSON: a value was expected.\n"));
     }
 
     void a_database_that_cannot_be_changed_is_said()

@@ -20,6 +20,8 @@ enum GFPDB_FLASH_PROPERTY : int
     GFPDB_FLASH_TEMPLATE_NAME = 7,
     GFPDB_FLASH_FLOW_TEMPLATE = 8,
 };
+// Of what a record has besides: its family, configuration scheme and flows.
+constexpr int GFPDB_NO_PROPERTY = -1;
 
 // The kind of an operation; also its place among the five operations of a flow variant.
 enum GFPDB_OPERATION_KIND : int

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+
+// A database directory as a whole, for tools: the records of all families and schemes, their history, imports.
+#pragma once
+
+#include "gfpdb/gfpdb_export.h"
+#include "gfpdb/gfpdb_mgr.h"
+#include "gfpdb/gfpdb_record.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+class GFPDB_IMPORT_PLAN;
+class GFPDB_STORE;
+
+// Which records are meant.
+struct GFPDB_SELECTION
+{
+    // Empty for all; compared as the library compares names.
+    std::string name;
+    std::optional<int> family;
+    std::optional<int> scheme;
+};
+
+// Every change is one transaction. When a call fails, get_last_error() says why. Texts are UTF-8. GUI thread only.
+class GFPDB_EXPORT GFPDB_DATABASE
+{
+public:
+    // Opens `directory` (local 8-bit), which becomes the manager's custom directory; empty for the user's own.
+    explicit GFPDB_DATABASE(const std::string& directory);
+
+    // What keeps the catalogue of built-in devices from being used, as a sentence; empty when nothing does.
+    static std::string get_catalogue_problem();
+
+    const std::string& get_directory() const;
+    // Checks values and restores states in the directory.
+    GFPDB_MGR& get_manager() { return m_manager; }
+    // What keeps the directory from being read or changed, as a sentence; empty when nothing does.
+    std::string get_read_problem();
+    std::string get_write_problem();
+    // Why the last call failed; empty when it did not.
+    const std::string& get_last_error() const;
+
+    // The devices of the directory, then its stored templates, without their flows. Templates have no family and scheme
+    // to be selected by: they serve all.
+    std::vector<GFPDB_RECORD> find_stored(const GFPDB_SELECTION& selection);
+    // The built-in device of that name, or all of them; with flows.
+    std::vector<GFPDB_RECORD> find_builtin(const GFPDB_SELECTION& selection);
+    // Records that load() does not find, because their key in the database is not that of their name.
+    std::vector<GFPDB_RECORD> find_misplaced(const GFPDB_SELECTION& selection);
+    // Stores them under the keys of their names. Those whose name another record has stay misplaced.
+    bool rebuild_keys();
+    // The record with its flows; none when it is gone, or cannot be read.
+    std::optional<GFPDB_RECORD> load(const GFPDB_RECORD& record);
+    // True when a stored template has the name of the device `record`, or a device that of the template `record`.
+    bool is_name_of_other_kind(const GFPDB_RECORD& record);
+    // Reads the whole file and compares it with its indexes.
+    bool check_integrity();
+
+    // Stores the records of the plan, all or none. `progress` hears the number of records that are done.
+    bool import(const GFPDB_IMPORT_PLAN& plan, const std::function<void(int)>& progress);
+
+    // The states in the history, oldest first, without their flows; and one of them, with its flows.
+    std::vector<GFPDB_HISTORY_ENTRY> find_history(const GFPDB_SELECTION& selection);
+    std::optional<GFPDB_HISTORY_ENTRY> load_state(std::int64_t id);
+    // Removes states of the selected records; their number, or none on failure.
+    std::optional<int> prune_history(const GFPDB_SELECTION& selection, GFPDB_PRUNING pruning);
+
+private:
+    GFPDB_MGR& m_manager;
+    GFPDB_STORE& m_store;
+};

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+
+// Records as files, for tools: reading, checking, planning an import, and writing. docs/gfpdb.md describes the formats.
+//
+// A file becomes records (gfpdb_read_records()), the records an import plan (GFPDB_IMPORT_PLAN), and the plan is stored
+// (GFPDB_DATABASE::import()). Texts are UTF-8. GUI thread only.
+#pragma once
+
+#include "gfpdb/gfpdb_database.h"
+#include "gfpdb/gfpdb_export.h"
+#include "gfpdb/gfpdb_operation.h"
+#include "gfpdb/gfpdb_record.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+// How serious a finding is.
+enum class GFPDB_SERIOUSNESS
+{
+    PROBLEM,      // the record is wrong
+    BUILTIN_NAME, // the record is right, but cannot be stored: a built-in device or template has its name
+    WARNING,      // the record is right, but a user should know this
+};
+
+// One thing that was found in a record or a file.
+struct GFPDB_FINDING
+{
+    // The line of the file; 0 when there is no file.
+    int line = 0;
+    // The record and the place in it: "devices[0].single_flows[1].actions[2].command"; empty for the whole.
+    std::string field;
+    std::string text;
+    GFPDB_SERIOUSNESS seriousness = GFPDB_SERIOUSNESS::PROBLEM;
+};
+
+// The rules that a record is checked by.
+enum class GFPDB_RECORD_RULES
+{
+    STORED,   // all
+    IMPORTED, // all, but a missing value that has a default is not a problem
+    NAMES,    // only those without which a record cannot be stored
+};
+
+// How a file is read.
+struct GFPDB_READ_OPTIONS
+{
+    // As CSV whatever its name; otherwise files that end in ".csv" are.
+    bool csv = false;
+    GFPDB_RECORD_RULES rules = GFPDB_RECORD_RULES::IMPORTED;
+    // The family and scheme of all records, in place of their own.
+    std::optional<int> family;
+    std::optional<int> scheme;
+};
+
+// What a file contains, and what is wrong with it.
+struct GFPDB_RECORD_FILE
+{
+    // "-" is standard input.
+    std::string path;
+    bool is_csv = false;
+    std::vector<GFPDB_RECORD> records;
+    std::vector<GFPDB_FINDING> problems;
+    // What a user should know about records that are imported all the same.
+    std::vector<GFPDB_FINDING> warnings;
+};
+
+// Reads a regular file, or standard input to its end: at most 1 GiB. `manager` checks the values; its family and scheme
+// change with every record.
+GFPDB_EXPORT GFPDB_RECORD_FILE gfpdb_read_records(const std::string& path, GFPDB_MGR& manager,
+                                                  const GFPDB_READ_OPTIONS& options);
+
+// What is wrong with a record that is stored, and what a user should know about it.
+GFPDB_EXPORT std::vector<GFPDB_FINDING> gfpdb_check_record(GFPDB_MGR& manager, const GFPDB_RECORD& record);
+
+// What an import will do: which records are new, replace others or already exist; and what prevents it.
+class GFPDB_IMPORT_PLAN
+{
+public:
+    // With `may_replace` a record that exists with different content is replaced. `rules` are those by which the files
+    // were read; unless they are only those for names, missing values get their defaults.
+    GFPDB_IMPORT_PLAN(GFPDB_DATABASE& database, bool may_replace, GFPDB_RECORD_RULES rules)
+        : m_database(database), m_may_replace(may_replace), m_rules(rules)
+    {}
+
+    // Adds the records of `file`; what prevents their import is added to its problems, missing values and other notes
+    // to its warnings.
+    GFPDB_EXPORT void add(GFPDB_RECORD_FILE& file);
+
+    const std::vector<GFPDB_ROW>& devices() const { return m_devices; }
+    const std::vector<GFPDB_ROW>& templates() const { return m_templates; }
+    int new_count() const { return m_new; }
+    int replaced_count() const { return m_replaced; }
+    int unchanged_count() const { return m_unchanged; }
+
+private:
+    // Where a record is in the files: "file:line".
+    using PLACES = std::map<std::string, std::string>;
+
+    void add_record(GFPDB_RECORD_FILE& file, GFPDB_RECORD record);
+    bool is_name_free(GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record);
+    void fill_flows(GFPDB_RECORD& record, const std::optional<GFPDB_RECORD>& former);
+
+    GFPDB_DATABASE& m_database;
+    const bool m_may_replace;
+    const GFPDB_RECORD_RULES m_rules;
+    std::vector<GFPDB_ROW> m_devices;
+    std::vector<GFPDB_ROW> m_templates;
+    int m_new = 0;
+    int m_replaced = 0;
+    int m_unchanged = 0;
+    PLACES m_places;
+    PLACES m_device_names;
+    PLACES m_template_names;
+};
+
+// The record as JSON, one value per line; none when its flows cannot be read.
+GFPDB_EXPORT std::optional<std::string> gfpdb_write_record(const GFPDB_RECORD& record);
+// A whole file as JSON: devices, then templates, each in the given order. Records whose flows cannot be read are left
+// out, and added to `unreadable`.
+GFPDB_EXPORT std::string gfpdb_write_records(const std::vector<GFPDB_RECORD>& records,
+                                             std::vector<GFPDB_RECORD>& unreadable);
+
+// The reader of a list.
+enum class GFPDB_LIST_FOR
+{
+    IMPORT,      // texts as they are
+    SPREADSHEET, // with "'" before texts that a spreadsheet would run as formulas
+};
+
+// A list of the devices among `records` as CSV, without flows: a line of column names, then one line each.
+GFPDB_EXPORT std::string gfpdb_write_list(const std::vector<GFPDB_RECORD>& records,
+                                          GFPDB_LIST_FOR reader = GFPDB_LIST_FOR::IMPORT);
+
+// One value of a record.
+struct GFPDB_VALUE
+{
+    // The key in files, and the heading for people.
+    const char* key;
+    const char* title;
+    // The GFPDB_FLASH_PROPERTY; GFPDB_NO_PROPERTY for the family and the configuration scheme.
+    int property;
+    bool is_number;
+    // Empty for a value that the record does not have.
+    std::string text;
+};
+
+// The values of a record, in the order of files, without the flows.
+GFPDB_EXPORT std::vector<GFPDB_VALUE> gfpdb_values(const GFPDB_RECORD& record);
+// The operations of a flow variant; none when they cannot be read.
+GFPDB_EXPORT std::optional<std::vector<std::unique_ptr<GFPDB_OPERATION>>> gfpdb_operations(const GFPDB_RECORD& record,
+                                                                                           bool flow_variant);
+
+// "device "X" (family 3, scheme 7)", "template "T"": what messages call the record.
+GFPDB_EXPORT std::string gfpdb_title(const GFPDB_RECORD& record);
