@@ -130,12 +130,21 @@ private:
         if (!has_members(value, properties, field))
             return;
         for (const GFPDB_ACT_PROPERTY property : properties) {
-            const std::string name = gfpdb_property_word(property);
+            const char* const name = gfpdb_property_word(property);
             const JSON_VALUE& text = *value.member(name);
-            json_is(text, JSON_VALUE::TEXT, field + '.' + name, m_report);
-            action->set_property_value(property, text.kind == JSON_VALUE::TEXT ? text.text : std::string());
+            const bool is_text = text.kind == JSON_VALUE::TEXT;
+            if (!is_text)
+                report_no_text(text, field, name);
+            action->set_property_value(property, is_text ? text.text : std::string());
         }
         operation.add_action(action.release());
+    }
+
+    void report_no_text(const JSON_VALUE& value, std::string field, const char* name)
+    {
+        field += '.';
+        field += name;
+        json_is(value, JSON_VALUE::TEXT, field, m_report);
     }
 
     bool has_members(const JSON_VALUE& action, const std::vector<GFPDB_ACT_PROPERTY>& properties,
