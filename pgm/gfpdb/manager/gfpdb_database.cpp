@@ -153,7 +153,7 @@ bool GFPDB_DATABASE::import(const GFPDB_IMPORT_PLAN& plan, const std::function<v
 
 std::vector<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::find_history(const GFPDB_SELECTION& selection)
 {
-    std::vector<GFPDB_HISTORY_ENTRY> entries = m_store.get_history();
+    std::vector<GFPDB_HISTORY_ENTRY> entries = m_store.get_history(selection.name);
     const auto is_out = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return !is_selected(selection, entry); };
     entries.erase(std::remove_if(entries.begin(), entries.end(), is_out), entries.end());
     return entries;
@@ -167,5 +167,6 @@ std::optional<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::load_state(std::int64_t id)
 std::optional<int> GFPDB_DATABASE::prune_history(const GFPDB_SELECTION& selection, GFPDB_PRUNING pruning)
 {
     pruning.is_selected = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return is_selected(selection, entry); };
+    pruning.name = selection.name;
     return m_store.prune_history(pruning);
 }
