@@ -8,6 +8,7 @@
 #include "rules/gfpdb_scheme_kind.h"
 #include "store/gfpdb_store.h"
 
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,7 +44,7 @@ struct GFPDB_DELETION
 class GFPDB_EMBEDDED_MGR : public GFPDB_MGR
 {
 public:
-    // Lives until the process ends, so that no pointer that it handed out ever dangles.
+    // Lives until the process ends.
     static GFPDB_EMBEDDED_MGR& instance();
 
     GFPDB_EMBEDDED_MGR();
@@ -104,6 +105,10 @@ private:
     GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::string& revision) const;
     GFPDB_EMBEDDED_FLASH* keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template);
     GFPDB_EMBEDDED_FLASH* nothing_read();
+    // Makes `record` (may be null) the latest of the former ones; the earliest goes when there are too many.
+    void retire(std::unique_ptr<GFPDB_EMBEDDED_FLASH> record);
+    void retire_stored(const GFPDB_EMBEDDED_FLASH* record);
+    void retire_read(const std::string& place_in_directory);
     std::vector<std::string> densities() const;
     bool was_read(std::string& error) const;
     bool check_seen(GFPDB_STORE& store, const std::string& name);
@@ -131,7 +136,9 @@ private:
     mutable GFPDB_ASKED_DEVICE m_asked;
     // The places of devices that could not be read when they were last looked for, and why.
     std::unordered_map<std::string, std::string> m_unread;
-    // Every record that was made or read; the last one that was read from each place of a database.
-    std::vector<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_records;
-    std::unordered_map<std::string, GFPDB_EMBEDDED_FLASH*> m_read_records;
+    // The records that were made and not stored yet; the last one that was read from each place of a database; and the
+    // last ones of those that were stored, or that another one has replaced in its place.
+    std::vector<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_made_records;
+    std::unordered_map<std::string, std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_read_records;
+    std::deque<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_former_records;
 };

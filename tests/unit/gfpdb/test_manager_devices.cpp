@@ -6,6 +6,8 @@
 #include "manager_test.h"
 #include "test_rows.h"
 
+#include <malloc.h>
+
 #include <functional>
 
 class TEST_MANAGER_DEVICES : public MANAGER_TEST
@@ -283,6 +285,39 @@ private slots:
         QVERIFY(m_mgr->find_flash("A", true)->get_revision() != first->get_revision());
         QCOMPARE(m_mgr->find_flash("T", true), first_template);
         QCOMPARE(text_of(*first), before);
+    }
+
+    // AddressSanitizer counts nothing in mallinfo2(), but looks at what is used after it was freed.
+    void repeated_saves_keep_a_limited_number_of_records()
+    {
+        constexpr int FORMER = 256;
+        constexpr int MORE = 100;
+        // Flows that take more than the bytes that are allowed for each save.
+        const auto save_again = [this] {
+            GFPDB_FLASH* record = make_device(*m_mgr, "A");
+            GFPDB_OPERATION* program = m_mgr->create_operation(GFPDB_OPERATION_PROGRAM);
+            for (int i = 0; i < 40; ++i)
+                program->add_action(m_mgr->create_action(GFPDB_ACT_WRITE_REGISTER));
+            record->set_operation(program, SINGLE_IO);
+            return m_mgr->save_flash(record, m_place->db_dir()) ? record : nullptr;
+        };
+        for (int i = 0; i < FORMER; ++i)
+            QVERIFY(save_again() != nullptr && m_mgr->find_flash("A", true) != nullptr);
+        const std::size_t before = ::mallinfo2().uordblks;
+
+        for (int i = 0; i < MORE; ++i)
+            QVERIFY(save_again() != nullptr && m_mgr->find_flash("A", true) != nullptr);
+
+        const std::size_t after = ::mallinfo2().uordblks;
+        QVERIFY2(after < before + MORE * 1000, std::to_string((after - before) / MORE).c_str());
+
+        const GFPDB_FLASH* saved = save_again();
+        const std::string text = text_of(*saved);
+        const GFPDB_FLASH* read = m_mgr->find_flash("A", true);
+        for (int i = 1; i < FORMER / 2; ++i)
+            QVERIFY(save_again() != nullptr && m_mgr->find_flash("A", true) != nullptr);
+        QCOMPARE(text_of(*saved), text);
+        QCOMPARE(text_of(*read), text);
     }
 
     void a_record_that_was_changed_in_memory_is_read_again()
