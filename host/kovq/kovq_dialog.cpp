@@ -65,11 +65,15 @@ QSize own_size(const QWidget& window)
     return is_maximized ? window.normalGeometry().size() : window.size();
 }
 
-// With Shift, Control or Alt the keys mean something else.
-bool is_plain_return(const QKeyEvent& event)
+bool is_return(const QKeyEvent& event)
 {
-    return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
-           (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+// With Shift, Control, Alt or Meta the keys mean something else.
+bool is_plain(const QKeyEvent& event)
+{
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
 } // namespace
@@ -103,10 +107,15 @@ void KOVQ_DIALOG::hideEvent(QHideEvent* event)
     QDialog::hideEvent(event);
 }
 
+// QDialog sees no Return and no Enter: it takes Enter of the keypad, whatever the modifiers, for the default button.
 void KOVQ_DIALOG::keyPressEvent(QKeyEvent* event)
 {
-    if (!is_plain_return(*event)) {
+    if (!is_return(*event)) {
         QDialog::keyPressEvent(event);
+        return;
+    }
+    if (!is_plain(*event)) {
+        event->ignore();
         return;
     }
     if (auto* button = qobject_cast<QPushButton*>(focusWidget()))

@@ -221,8 +221,12 @@ private slots:
         QCOMPARE(return_pressed.count(), 1);
         QVERIFY(form.isVisible());
         QCOMPARE(clicks_after(form.plain), (QList<int>{0, 0, 1}));
-        for (const auto modifier : {Qt::ControlModifier, Qt::ShiftModifier})
-            QTest::keyClick(&form.plain, Qt::Key_Return, modifier);
+        for (const auto modifier : {Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier, Qt::MetaModifier}) {
+            for (QWidget* const focus : std::initializer_list<QWidget*>{&form.field, &form.plain}) {
+                focus->setFocus();
+                QTest::keyClick(focus, key, modifiers | modifier);
+            }
+        }
         QCOMPARE(clicks.counts(), (QList<int>{0, 0, 1}));
         QCOMPARE(clicks_after(form.auto_default), (QList<int>{1, 0, 1}));
         QCOMPARE(clicks_after(form.default_one), (QList<int>{1, 1, 1}));
