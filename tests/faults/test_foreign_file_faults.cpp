@@ -85,6 +85,8 @@ void ignore_message(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 } // namespace
 
+Q_DECLARE_METATYPE(FAULT_CALL)
+
 class TEST_FOREIGN_FILE_FAULTS : public QObject
 {
     Q_OBJECT
@@ -285,8 +287,6 @@ private slots:
         }
     }
 };
-
-Q_DECLARE_METATYPE(FAULT_CALL)
 
 QTEST_GUILESS_MAIN(TEST_FOREIGN_FILE_FAULTS)
 

@@ -57,6 +57,9 @@ void ignore_message(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 } // namespace
 
+Q_DECLARE_METATYPE(EXCHANGE)
+Q_DECLARE_METATYPE(FAULT_CALL)
+
 class TEST_NEW_FILE_FAULTS : public QObject
 {
     Q_OBJECT
@@ -95,10 +98,6 @@ private slots:
         QVERIFY(exchanges > 0);
     }
 };
-
-Q_DECLARE_METATYPE(EXCHANGE)
-
-Q_DECLARE_METATYPE(FAULT_CALL)
 
 QTEST_GUILESS_MAIN(TEST_NEW_FILE_FAULTS)
 

@@ -106,6 +106,8 @@ using ACTIONS = std::vector<GFPDB_ACTION*>;
 
 using MAKE_ACTIONS = std::function<ACTIONS()>;
 
+Q_DECLARE_METATYPE(MAKE_ACTIONS)
+
 class TEST_FLOW_CHAIN : public GUI_TEST
 {
     Q_OBJECT
@@ -480,8 +482,6 @@ private slots:
                  shapes_of(scene).last()->y() + shapes_of(scene).last()->boundingRect().height() + 15);
     }
 };
-
-Q_DECLARE_METATYPE(MAKE_ACTIONS)
 
 GFPQ_TEST_MAIN(TEST_FLOW_CHAIN)
 
