@@ -249,6 +249,38 @@ private slots:
         QCOMPARE(names_in(place), has_database ? (NAMES{"A", "B"}) : NAMES{"B"});
     }
 
+    // SQLite would write such a WAL into the database, whatever lies beside it.
+    void a_wal_is_not_used_beside_a_journal_data() { rows_named<QString>({"not synced", "of this database"}); }
+
+    void a_wal_is_not_used_beside_a_journal()
+    {
+        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        save(*store, "A");
+        FILES files = files_in(place);
+        files.journal = std::string(4096, '\0');
+        if (row<QString>() == QLatin1String("of this database")) {
+            const std::optional<FILES> left = left_after(place, FAULT_CALL::SYNC, 3, 10);
+            QVERIFY(left && is_hot(*left));
+            files = *left;
+        }
+        put(place, files);
+        const std::string wal = place.db_file() + "-wal";
+        write_file(wal, "of another program");
+
+        QVERIFY(!gfpdb_make_store(place.db_dir())->is_readable());
+        QCOMPARE(gfpdb_make_store(place.db_dir())->get_problem(),
+                 "The database " + place.db_file() + " is not used: " + wal +
+                     " was written by another program, and would change it. Close the database in that program. If " +
+                     "the file is still there then, move it to another directory.");
+        QCOMPARE(read_file(place.db_file()), files.database);
+        QCOMPARE(read_file(journal_of(place)), files.journal);
+        QCOMPARE(read_file(wal), std::string("of another program"));
+        ::unlink(wal.c_str());
+        const NAMES names = names_in(place);
+        QVERIFY(names == NAMES{"A"} || names == (NAMES{"A", "B"}));
+    }
+
     void what_is_reported_as_stored_is_in_the_file_of_that_name_data()
     {
         QTest::addColumn<FAULT_CALL>("call");

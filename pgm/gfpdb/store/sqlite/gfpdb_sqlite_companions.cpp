@@ -98,8 +98,10 @@ bool is_own_journal(const std::string& file, const std::string& journal_path)
 {
     JOURNAL journal = read_journal(journal_path);
     for (int i = 0; i < MOST_TRIES; ++i) {
+        if (is_empty(journal))
+            return true;
         const std::string database = read_part(file, 0, DATABASE_HEADER);
-        if (is_empty(journal) || database.empty() || fits(database, journal))
+        if (database.empty() || fits(database, journal))
             return true;
         const JOURNAL before = journal;
         journal = read_journal(journal_path);
@@ -115,21 +117,22 @@ std::string real_path_of(const std::string& path)
     return real_path ? real_path.get() : path;
 }
 
-std::string left_beside(const std::string& path)
+bool is_left(const std::string& path)
 {
-    for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX}) {
-        struct stat status = {};
-        if (::lstat((path + suffix).c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0)
-            return path + suffix;
-    }
-    return std::string();
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
 }
 
 } // namespace
 
 std::string gfpdb_left_file(const std::string& file)
 {
-    return left_beside(real_path_of(file));
+    const std::string path = real_path_of(file);
+    for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX}) {
+        if (is_left(path + suffix))
+            return path + suffix;
+    }
+    return std::string();
 }
 
 std::string gfpdb_companion_problem(const std::string& file)
@@ -141,12 +144,14 @@ std::string gfpdb_companion_problem(const std::string& file)
         if (::lstat((path + suffix).c_str(), &status) == 0 && (!S_ISREG(status.st_mode) || status.st_nlink != 1))
             return problem + path + suffix + " is a link or no file. Remove it if you did not put it there.";
     }
-    const std::string left = left_beside(path);
-    if (left == path + WAL_SUFFIX)
-        return problem + left + " was written by another program, and would change it. Close the database in that " +
+    // First the WAL: SQLite uses it whatever the journal is.
+    const std::string wal = path + WAL_SUFFIX;
+    const std::string journal = path + JOURNAL_SUFFIX;
+    if (is_left(wal))
+        return problem + wal + " was written by another program, and would change it. Close the database in that " +
                "program. If the file is still there then, move it to another directory.";
-    if (!left.empty() && !is_own_journal(path, left))
-        return problem + left + " is the journal of another database, or of another state of this one, and would " +
+    if (is_left(journal) && !is_own_journal(path, journal))
+        return problem + journal + " is the journal of another database, or of another state of this one, and would " +
                "damage it. Move that file to another directory, then try again.";
     return std::string();
 }
