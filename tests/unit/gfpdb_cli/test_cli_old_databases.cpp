@@ -63,6 +63,7 @@ private slots:
     void nothing_of_an_old_database_is_lost_data();
     void nothing_of_an_old_database_is_lost();
     void flows_that_cannot_be_read_stay_as_they_are();
+    void a_state_without_a_name_hurts_no_other();
     void former_states_are_found_by_name();
     void files_of_the_former_version_are_imported_without_a_difference();
 
@@ -118,6 +119,21 @@ void TEST_CLI_OLD_DATABASES::flows_that_cannot_be_read_stay_as_they_are()
 
     QCOMPARE(run.out.count("The flows cannot be read."), 6);
     QCOMPARE(raw_flows(place, unreadable), before);
+}
+
+void TEST_CLI_OLD_DATABASES::a_state_without_a_name_hurts_no_other()
+{
+    const GFPDB_PLACE place;
+    make_database(place, 2);
+    run_sql(place.db_file(), "UPDATE history SET name = '', is_template = 0 WHERE id = 3");
+
+    run_tool({"check", "-d", q(place.db_dir())});
+
+    const std::string keys = "SELECT group_concat(name_key, '|') FROM history WHERE id < 5";
+    QCOMPARE(run_sql(place.db_file(), keys).toString(),
+             QStringLiteral("both variants|to be deleted||deleted unreadable"));
+    const std::string unconverted = "SELECT count(*) FROM history WHERE single_flows LIKE '{\"operations\"%'";
+    QCOMPARE(run_sql(place.db_file(), unconverted).toInt(), 0);
 }
 
 void TEST_CLI_OLD_DATABASES::former_states_are_found_by_name()

@@ -63,21 +63,23 @@ const std::vector<MIGRATION> MIGRATIONS = {
 struct CONVERSION
 {
     const char* ids;
-    // The flows, and the name to be keyed, or null.
+    // The flows, and the name to be keyed.
     const char* row;
     const char* update;
+    bool has_key;
 };
 constexpr CONVERSION CONVERSIONS[] = {
     {"SELECT rowid FROM device",
-     "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB), NULL FROM device WHERE rowid = ?",
-     "UPDATE device SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT) WHERE rowid = ?"},
+     "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB) FROM device WHERE rowid = ?",
+     "UPDATE device SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT) WHERE rowid = ?", false},
     {"SELECT rowid FROM template",
-     "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB), NULL FROM template WHERE rowid = ?",
-     "UPDATE template SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT) WHERE rowid = ?"},
+     "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB) FROM template WHERE rowid = ?",
+     "UPDATE template SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT) WHERE rowid = ?", false},
     {"SELECT id FROM history",
      "SELECT CAST(single_flows AS BLOB), CAST(quad_flows AS BLOB), " GFPDB_HISTORY_NAME " FROM history WHERE id = ?",
      "UPDATE history SET single_flows = CAST(? AS TEXT), quad_flows = CAST(? AS TEXT), name_key = CAST(? AS TEXT) "
-     "WHERE id = ?"},
+     "WHERE id = ?",
+     true},
 };
 
 constexpr int SCHEMA_COLUMNS = 4;
@@ -286,14 +288,14 @@ bool GFPDB_SQLITE_SCHEMA::convert_rows()
         if (ids.lastError().isValid())
             return m_connection.fail(ids.lastError());
         for (const qlonglong number : numbers) {
-            if (!convert_row(row, update, number))
+            if (!convert_row(row, update, number, conversion.has_key))
                 return false;
         }
     }
     return true;
 }
 
-bool GFPDB_SQLITE_SCHEMA::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number)
+bool GFPDB_SQLITE_SCHEMA::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number, bool has_key)
 {
     row.bindValue(0, number);
     if (!m_connection.run(row) || !row.next())
@@ -301,7 +303,7 @@ bool GFPDB_SQLITE_SCHEMA::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglo
     int column = 0;
     for (; column < 2; ++column)
         update.bindValue(column, bytes_of(gfpdb_flows_of_schema_2(text_at(row, column))));
-    if (!row.isNull(column))
+    if (has_key)
         update.bindValue(column++, key_of(text_at(row, 2)));
     update.bindValue(column, number);
     row.finish();

@@ -53,7 +53,7 @@ private:
     bool run_step(int from);
     bool run_all(const std::vector<const char*>& statements);
     bool convert_rows();
-    bool convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number);
+    bool convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number, bool has_key);
 
     GFPDB_SQLITE_CONNECTION& m_connection;
     std::string m_database_id;
