@@ -130,6 +130,30 @@ private slots:
         QVERIFY(journals > 0 || call == FAULT_CALL::TRUNCATE);
     }
 
+    // Its transactions leave no marks, make the file larger, and write the first page last.
+    void what_another_killed_program_leaves_is_taken_back()
+    {
+        int journals = 0;
+        for (int at = 1;; ++at) {
+            const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+            save(*gfpdb_make_store(place.db_dir()), "A");
+            FILES left;
+            FAULT_INJECTOR::run_after(place.db_dir(), FAULT_CALL::WRITE, at, [&] { left = files_in(place); });
+            run_sql(place.db_file(), "INSERT INTO meta (name, value) VALUES ('x', hex(zeroblob(20000)))");
+            FAULT_INJECTOR::stop();
+            if (FAULT_INJECTOR::count(FAULT_CALL::WRITE) < at)
+                break;
+            journals += is_hot(left) ? 1 : 0;
+            put(place, left);
+
+            const std::unique_ptr<GFPDB_STORE> after = gfpdb_make_store(place.db_dir());
+            QCOMPARE(after->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
+            QCOMPARE(after->get_problem(), std::string());
+            QVERIFY(after->check_integrity());
+        }
+        QVERIFY(journals > 0);
+    }
+
     void a_journal_is_not_rolled_back_into_another_file_data()
     {
         rows_named<QString>({"an older state", "a later state", "another database", "a text"});

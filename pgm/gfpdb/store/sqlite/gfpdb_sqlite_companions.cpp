@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/gfpdb_sqlite_companions.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -22,27 +23,48 @@ constexpr std::size_t DATABASE_MARK = 60;
 constexpr std::size_t DATABASE_FORMER_MARK = 68;
 constexpr std::size_t DATABASE_HEADER = 100;
 const std::string JOURNAL_BEGIN = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+constexpr std::size_t JOURNAL_PAGES = 8;
 constexpr std::size_t JOURNAL_PAGES_OF_DATABASE = 16;
 constexpr std::size_t JOURNAL_SECTOR = 20;
+constexpr std::size_t JOURNAL_PAGE_SIZE = 24;
 constexpr std::size_t JOURNAL_HEADER = 28;
-// The first page lies behind the header's sector, after its number.
+// Pages lie behind the header's sector, each after its number and before its checksum.
 constexpr std::size_t PAGE_NUMBER = 4;
+constexpr std::size_t PAGE_CHECKSUM = 4;
 
 // While another program goes on writing, what is read of the two files may belong to different transactions.
 constexpr int MOST_TRIES = 20;
 
-// A part of a file; shorter where the file is. Nothing when it cannot be opened.
-std::string read_part(const std::string& path, std::size_t first, std::size_t size)
+// Other programs' transactions begin with any page. Only a file that is made to be slow has more than this.
+constexpr std::size_t MOST_PAGES = 1000000;
+
+// A file that is read; an empty one when it cannot be opened.
+class PARTS
 {
-    std::string part(size, '\0');
-    const int file = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (file < 0)
-        return std::string();
-    const ssize_t got = ::pread(file, part.data(), size, static_cast<off_t>(first));
-    ::close(file);
-    part.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
-    return part;
-}
+public:
+    explicit PARTS(const std::string& path)
+        : m_file(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC))
+    {}
+    PARTS(const PARTS&) = delete;
+    PARTS& operator=(const PARTS&) = delete;
+    ~PARTS()
+    {
+        if (m_file >= 0)
+            ::close(m_file);
+    }
+
+    // Shorter where the file is.
+    std::string read(std::size_t first, std::size_t size) const
+    {
+        std::string part(size, '\0');
+        const ssize_t got = ::pread(m_file, part.data(), size, static_cast<off_t>(first));
+        part.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+        return part;
+    }
+
+private:
+    int m_file;
+};
 
 // The number at `at`, or 0 where there is none.
 std::uint32_t number_at(const std::string& bytes, std::size_t at)
@@ -56,16 +78,26 @@ std::uint32_t number_at(const std::string& bytes, std::size_t at)
 struct JOURNAL
 {
     std::string header;
-    // The number of the first page, and the beginning of that page.
+    // The beginning of the database's first page; empty when it is not in the journal.
     std::string first_page;
     bool operator==(const JOURNAL& other) const { return header == other.header && first_page == other.first_page; }
 };
 
 JOURNAL read_journal(const std::string& path)
 {
+    const PARTS file(path);
     JOURNAL journal;
-    journal.header = read_part(path, 0, JOURNAL_HEADER);
-    journal.first_page = read_part(path, number_at(journal.header, JOURNAL_SECTOR), PAGE_NUMBER + DATABASE_HEADER);
+    journal.header = file.read(0, JOURNAL_HEADER);
+    const std::size_t pages = std::min<std::size_t>(number_at(journal.header, JOURNAL_PAGES), MOST_PAGES);
+    std::size_t at = number_at(journal.header, JOURNAL_SECTOR);
+    for (std::size_t i = 0; i < pages; ++i) {
+        const std::string number = file.read(at, PAGE_NUMBER);
+        if (number.size() < PAGE_NUMBER || number_at(number, 0) == 1) {
+            journal.first_page = file.read(at + PAGE_NUMBER, DATABASE_HEADER);
+            break;
+        }
+        at += PAGE_NUMBER + number_at(journal.header, JOURNAL_PAGE_SIZE) + PAGE_CHECKSUM;
+    }
     return journal;
 }
 
@@ -83,12 +115,12 @@ bool fits(const std::string& database, const JOURNAL& journal)
         database.compare(0, DATABASE_BEGIN.size(), DATABASE_BEGIN) != 0)
         return false;
     const std::uint32_t former_mark = number_at(database, DATABASE_FORMER_MARK);
-    // Of another program, or of a version that left no marks; it may come to the first page later.
-    if (number_at(journal.first_page, 0) != 1)
+    // Of another program, or of a version that left no marks, which did not come to the first page.
+    if (journal.first_page.empty())
         return former_mark == 0 ||
                number_at(database, DATABASE_PAGES) == number_at(journal.header, JOURNAL_PAGES_OF_DATABASE);
-    const std::uint32_t mark = number_at(journal.first_page, PAGE_NUMBER + DATABASE_MARK);
-    const std::uint32_t mark_before = number_at(journal.first_page, PAGE_NUMBER + DATABASE_FORMER_MARK);
+    const std::uint32_t mark = number_at(journal.first_page, DATABASE_MARK);
+    const std::uint32_t mark_before = number_at(journal.first_page, DATABASE_FORMER_MARK);
     return mark == number_at(database, DATABASE_MARK) || mark == former_mark || (former_mark == 0 && mark_before == 0);
 }
 
@@ -100,7 +132,7 @@ bool is_own_journal(const std::string& file, const std::string& journal_path)
     for (int i = 0; i < MOST_TRIES; ++i) {
         if (is_empty(journal))
             return true;
-        const std::string database = read_part(file, 0, DATABASE_HEADER);
+        const std::string database = PARTS(file).read(0, DATABASE_HEADER);
         if (database.empty() || fits(database, journal))
             return true;
         const JOURNAL before = journal;
