@@ -136,7 +136,7 @@ QString problem_of_count(const CLI_COMMAND& command, const QCommandLineParser& p
         return QStringLiteral("An argument is missing: %1").arg(synopsis(command));
     if (most >= 0 && count > most)
         return QStringLiteral("Unexpected argument \"%1\": %2")
-            .arg(parser.positionalArguments()[most], synopsis(command));
+            .arg(parser.positionalArguments().at(most), synopsis(command));
     return QString();
 }
 

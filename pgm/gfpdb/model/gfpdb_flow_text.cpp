@@ -6,7 +6,6 @@
 #include "model/gfpdb_operation.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -18,7 +17,7 @@ const std::vector<std::string> ACTION_WORDS = {"write_register", "read_register"
                                                "read_data",      "erase",         "custom"};
 
 // By GFPDB_ACT_PROPERTY.
-constexpr std::array<const char*, GFPDB_ACT_PROPERTY_COUNT> PROPERTY_WORDS = {
+constexpr const char* PROPERTY_WORDS[GFPDB_ACT_PROPERTY_COUNT] = {
     // Write Register
     "name", "command", "data", "delay_us", "bus_width",
     // Read Register

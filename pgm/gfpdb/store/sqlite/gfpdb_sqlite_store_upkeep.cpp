@@ -47,7 +47,7 @@ bool GFPDB_SQLITE_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
     const std::string statement = std::string("SELECT id, is_template, changed_at, family, scheme, CAST(name AS BLOB), "
                                               "CAST(template_name AS BLOB) FROM history ") +
                                   (has_name ? "WHERE name_key = CAST(? AS TEXT) " : "") + "ORDER BY id DESC";
-    if (!prepare(query, statement.c_str(), has_name ? QVariantList{key_of(pruning.name)} : QVariantList()))
+    if (!prepare(query, statement, has_name ? QVariantList{key_of(pruning.name)} : QVariantList()))
         return false;
     std::unordered_map<std::string, int> newer_states;
     while (next_row(query)) {
