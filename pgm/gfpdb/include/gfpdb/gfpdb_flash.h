@@ -10,8 +10,8 @@
 #include <vector>
 
 // A flash record: the properties of the device, the database directory it belongs to, and for each of the two flow
-// variants five operations. Owned by the manager that made or found it, which says how long it is valid. Texts are in the
-// library's encoding. GUI thread only.
+// variants five operations. Owned by the manager that made or found it, which says how long it is valid. Texts are in
+// the library's encoding. GUI thread only.
 //
 // The declaration order of the virtual operations is the slot order of the interface.
 class GFPDB_EXPORT GFPDB_FLASH
