@@ -50,7 +50,7 @@ public:
     GFPDB_EMBEDDED_MGR();
     ~GFPDB_EMBEDDED_MGR() override;
 
-    // Opens the database of the custom directory anew. The default directory is created when it is missing.
+    // Opens the database of the custom directory again. The default directory is created when it is missing.
     void reload();
     // The database of what was the custom directory at the last reload.
     GFPDB_STORE& store() { return *m_store; }

@@ -26,7 +26,7 @@ protected:
     // The screen that the test needs: by default one with room for everything.
     virtual QSize screen_size() const { return {1600, 1200}; }
 
-    // Starts the program anew on the same directory; the former run must have ended.
+    // Starts the program again on the same directory; the former run must have ended.
     bool start(const QStringList& options);
     bool start_with_database(const QString& database_directory, const QStringList& options);
     // The same with the probe of the host's libraries (tests/unit/host/host_probe.cpp).

@@ -52,7 +52,7 @@ bool FLOW_PAGE::shows(const QStringList& expected)
     return false;
 }
 
-// A block loses its selection when the chart is drawn anew: that is how the end of the refresh is noticed.
+// A block loses its selection when the chart is drawn again: that is how the end of the refresh is noticed.
 bool FLOW_PAGE::agrees_on(const QStringList& expected)
 {
     const auto is_action = [](const QString& text) { return text.startsWith(QLatin1String("Name:")); };

@@ -22,7 +22,7 @@ public:
     QStringList texts();
     // Waits until the picture shows `expected`.
     bool shows(const QStringList& expected);
-    // Waits until the picture shows `expected`, then has it drawn anew from the list of actions and looks again:
+    // Waits until the picture shows `expected`, then has it drawn again from the list of actions and looks again:
     // picture and list agree.
     bool agrees_on(const QStringList& expected);
 

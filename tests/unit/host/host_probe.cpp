@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Does what its first argument names, so that a test can look at a process that dies or that reads the world anew.
+// Does what its first argument names, so that a test can look at a process that dies or that reads the world again.
 #include "dstr/dstr.h"
 #include "kovq/kovq_connect.h"
 #include "kovq/zui_app.h"

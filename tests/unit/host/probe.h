@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// A child process that does one thing which a test process cannot do itself: die, or read the world anew.
+// A child process that does one thing which a test process cannot do itself: die, or read the world again.
 #pragma once
 
 #include <QByteArray>

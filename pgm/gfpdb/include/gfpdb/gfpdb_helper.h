@@ -18,7 +18,7 @@ public:
 
     // Chooses the flash that goes with `scheme` for the next fetch of the manager. False for a value that is no scheme.
     static bool set_active_flash_family(PGMIO_CONFIG_SCHEME scheme);
-    // The manager of the active flash; `reload` true opens the database of the custom directory anew. Not owned by the
+    // The manager of the active flash; `reload` true opens the database of the custom directory again. Not owned by the
     // caller. Never null in this library; a caller must not rely on that.
     static GFPDB_MGR* get_active_flash_manager(bool reload);
     // What keeps the database of the custom directory from being read or written, or else the catalogue that the
