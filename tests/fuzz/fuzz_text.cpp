@@ -6,12 +6,12 @@
 #include "fuzz_target.h"
 
 #include "base/gfpdb_text.h"
-#include "catalogue/gfpdb_part.h"
 #include "fio/fio_path.h"
 #include "fio/pgm_common.h"
 #include "gen/gen_text.h"
+#include "gfpdb/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_part.h"
 #include "manager/gfpdb_custom_dir.h"
-#include "model/gfpdb_action_value.h"
 #include "rules/gfpdb_checks.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 #include "catalogue/gfpdb_builtin_records.h"
 
 #include "base/gfpdb_text.h"
-#include "catalogue/gfpdb_catalogue.h"
 #include "catalogue/gfpdb_flow_templates.h"
+#include "gfpdb/gfpdb_catalogue.h"
 #include "model/gfpdb_field.h"
 #include "rules/gfpdb_checks.h"
 

@@ -6,7 +6,7 @@
 // case. GUI thread only.
 #pragma once
 
-#include "catalogue/gfpdb_part.h"
+#include "gfpdb/gfpdb_part.h"
 #include "model/gfpdb_embedded_flash.h"
 
 #include <string>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/gfpdb_catalogue.h"
+#include "gfpdb/gfpdb_catalogue.h"
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_read_file.h"

@@ -2,7 +2,7 @@
 #include "catalogue/gfpdb_catalogue_csv.h"
 
 #include "base/gfpdb_text.h"
-#include "model/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_action_value.h"
 #include "model/gfpdb_field.h"
 #include "rules/gfpdb_action_rules.h"
 #include "rules/gfpdb_checks.h"

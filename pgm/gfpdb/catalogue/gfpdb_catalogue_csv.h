@@ -5,7 +5,7 @@
 // Pure functions. Texts are UTF-8. Columns may stand in any order; docs/flows.md lists them. Throws nothing.
 #pragma once
 
-#include "catalogue/gfpdb_part.h"
+#include "gfpdb/gfpdb_part.h"
 
 #include <string>
 #include <vector>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/gfpdb_flow_builder.h"
 
+#include "gfpdb/gfpdb_action_value.h"
 #include "model/gfpdb_action_model.h"
-#include "model/gfpdb_action_value.h"
 #include "model/gfpdb_operation.h"
 
 #include "gfpdb/gfpdb_enums.h"

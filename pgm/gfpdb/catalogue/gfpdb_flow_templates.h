@@ -3,7 +3,7 @@
 // The five built-in flow templates, and the flows of built-in parts.
 #pragma once
 
-#include "catalogue/gfpdb_part.h"
+#include "gfpdb/gfpdb_part.h"
 
 #include "gfpdb/gfpdb_flash.h"
 #include "gfpdb/gfpdb_operation.h"

@@ -7,7 +7,7 @@
 // functions.
 #pragma once
 
-#include "catalogue/gfpdb_part.h"
+#include "gfpdb/gfpdb_part.h"
 
 #include <cstdint>
 #include <optional>

@@ -4,10 +4,10 @@
 #include "exchange/gfpdb_record_rules.h"
 
 #include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_flow_check.h"
 #include "model/gfpdb_field.h"
 #include "model/gfpdb_flow_text.h"
 #include "model/gfpdb_operation.h"
-#include "rules/gfpdb_flow_check.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

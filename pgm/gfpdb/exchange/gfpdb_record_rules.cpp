@@ -3,7 +3,7 @@
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"
-#include "catalogue/gfpdb_part.h"
+#include "gfpdb/gfpdb_part.h"
 #include "model/gfpdb_field.h"
 #include "model/gfpdb_flow_text.h"
 #include "rules/gfpdb_checks.h"

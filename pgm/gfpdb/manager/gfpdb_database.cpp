@@ -3,7 +3,7 @@
 
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"
-#include "catalogue/gfpdb_catalogue.h"
+#include "gfpdb/gfpdb_catalogue.h"
 #include "manager/gfpdb_embedded_mgr.h"
 
 #include "gfpdb/gfpdb_exchange.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_helper.h"
 
-#include "catalogue/gfpdb_catalogue.h"
+#include "gfpdb/gfpdb_catalogue.h"
 #include "manager/gfpdb_embedded_mgr.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/gfpdb_action_model.h"
 
-#include "model/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_action_value.h"
 #include "rules/gfpdb_action_rules.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "model/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_action_value.h"
 
 #include <charconv>
 #include <system_error>

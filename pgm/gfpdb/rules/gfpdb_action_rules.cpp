@@ -2,7 +2,7 @@
 #include "rules/gfpdb_action_rules.h"
 
 #include "base/gfpdb_text.h"
-#include "model/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_action_value.h"
 
 #include <QString>
 

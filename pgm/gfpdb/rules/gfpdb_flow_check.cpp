@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "rules/gfpdb_flow_check.h"
+#include "gfpdb/gfpdb_flow_check.h"
 
-#include "model/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_action_value.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

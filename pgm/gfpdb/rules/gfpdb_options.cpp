@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rules/gfpdb_options.h"
 
-#include "catalogue/gfpdb_catalogue.h"
+#include "gfpdb/gfpdb_catalogue.h"
 
 #include <QRegularExpression>
 

@@ -5,9 +5,9 @@
 
 #include "flow_making.h"
 
-#include "catalogue/gfpdb_catalogue.h"
 #include "catalogue/gfpdb_flow_builder.h"
 #include "catalogue/gfpdb_flow_traits.h"
+#include "gfpdb/gfpdb_catalogue.h"
 
 #include <stdexcept>
 #include <string>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 // The catalogue of built-in parts and the reader of its file.
-#include "catalogue/gfpdb_catalogue.h"
 #include "catalogue/gfpdb_catalogue_csv.h"
+#include "gfpdb/gfpdb_catalogue.h"
 #include "test_rows.h"
 
 #include "csv/csv.h"

@@ -4,7 +4,7 @@
 #include "flow_making.h"
 #include "test_rows.h"
 
-#include "rules/gfpdb_flow_check.h"
+#include "gfpdb/gfpdb_flow_check.h"
 
 #include <QTest>
 

@@ -7,8 +7,8 @@
 #include "flow_parts.h"
 
 #include "catalogue/gfpdb_flow_templates.h"
+#include "gfpdb/gfpdb_flow_check.h"
 #include "model/gfpdb_embedded_flash.h"
-#include "rules/gfpdb_flow_check.h"
 
 #include <QFile>
 #include <QRegularExpression>

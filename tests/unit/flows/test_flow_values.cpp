@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // How the values of actions are written.
-#include "model/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_action_value.h"
 
 #include <rapidcheck.h>
 

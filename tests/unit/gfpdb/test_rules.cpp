@@ -2,7 +2,7 @@
 
 // The rules for values, the lists of choices, and what a configuration scheme has.
 #include "base/gfpdb_text.h"
-#include "catalogue/gfpdb_catalogue.h"
+#include "gfpdb/gfpdb_catalogue.h"
 #include "gfpdb_test.h"
 #include "rules/gfpdb_checks.h"
 #include "rules/gfpdb_options.h"

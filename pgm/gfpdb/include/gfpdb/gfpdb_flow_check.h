@@ -3,6 +3,7 @@
 // Checks a whole flow: the values of its actions, and how the actions go together.
 #pragma once
 
+#include "gfpdb/gfpdb_export.h"
 #include "gfpdb/gfpdb_operation.h"
 
 #include <string>
@@ -24,4 +25,4 @@ struct GFPDB_FLOW_PROBLEM
 // What is wrong with a flow: values that their own action refuses; loops that do not pair up, are nested in the wrong
 // order or have nothing that tells their step; steps of one loop that do not go together; values that need a loop
 // outside of one; different numbers of address bytes. Empty for a flow that can be executed. Pure.
-std::vector<GFPDB_FLOW_PROBLEM> gfpdb_check_flow(const std::vector<GFPDB_OPERATION*>& operations);
+GFPDB_EXPORT std::vector<GFPDB_FLOW_PROBLEM> gfpdb_check_flow(const std::vector<GFPDB_OPERATION*>& operations);

@@ -3,6 +3,7 @@
 // One built-in part of the catalogue, as its data row says.
 #pragma once
 
+#include "gfpdb/gfpdb_export.h"
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -50,4 +51,4 @@ struct GFPDB_PART
 
 // The bytes of a density such as "128Mb" or "1GB": a whole number and Kb, Mb, Gb (bits) or KB, MB, GB (bytes); 0 for
 // any other text.
-std::int64_t gfpdb_density_bytes(const std::string& density);
+GFPDB_EXPORT std::int64_t gfpdb_density_bytes(const std::string& density);

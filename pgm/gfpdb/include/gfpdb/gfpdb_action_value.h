@@ -5,6 +5,7 @@
 // docs/flows.md gives the grammar. Pure functions, safe from every thread; texts are UTF-8.
 #pragma once
 
+#include "gfpdb/gfpdb_export.h"
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
@@ -30,18 +31,18 @@ constexpr const char* GFPDB_LOOP_END = "end";
 using GFPDB_BUS_WIDTH = std::vector<int>;
 
 // "0x9F": "0x" and exactly two hexadecimal digits.
-std::optional<int> gfpdb_parse_byte(const std::string& text);
+GFPDB_EXPORT std::optional<int> gfpdb_parse_byte(const std::string& text);
 // "0x00 0x02": at least one byte, one blank between two of them.
-std::optional<std::vector<int>> gfpdb_parse_bytes(const std::string& text);
+GFPDB_EXPORT std::optional<std::vector<int>> gfpdb_parse_bytes(const std::string& text);
 // "0x00012000": "0x" and exactly eight hexadecimal digits.
-std::optional<std::uint32_t> gfpdb_parse_address(const std::string& text);
+GFPDB_EXPORT std::optional<std::uint32_t> gfpdb_parse_address(const std::string& text);
 // "4096": decimal digits without sign and without a leading zero, up to 18 of them.
-std::optional<std::int64_t> gfpdb_parse_decimal(const std::string& text);
+GFPDB_EXPORT std::optional<std::int64_t> gfpdb_parse_decimal(const std::string& text);
 // "1-4-4": one number per phase, joined by "-"; each is 1, 2, 4 or 8.
-std::optional<GFPDB_BUS_WIDTH> gfpdb_parse_bus_width(const std::string& text);
+GFPDB_EXPORT std::optional<GFPDB_BUS_WIDTH> gfpdb_parse_bus_width(const std::string& text);
 
 // The texts of numbers, each as the parser of its kind reads it.
-std::string gfpdb_byte_text(int value);
-std::string gfpdb_bytes_text(const std::vector<int>& values);
-std::string gfpdb_address_text(std::uint32_t value);
-std::string gfpdb_decimal_text(std::int64_t value);
+GFPDB_EXPORT std::string gfpdb_byte_text(int value);
+GFPDB_EXPORT std::string gfpdb_bytes_text(const std::vector<int>& values);
+GFPDB_EXPORT std::string gfpdb_address_text(std::uint32_t value);
+GFPDB_EXPORT std::string gfpdb_decimal_text(std::int64_t value);
