@@ -30,7 +30,7 @@ function(gfpq_install_library name)
     endforeach()
 endfunction()
 
-foreach(library gen fio dstr msg kovq gfpdb)
+foreach(library gen fio dstr msg kovq gfpdb gfpe)
     gfpq_install_library(${library})
 endforeach()
 

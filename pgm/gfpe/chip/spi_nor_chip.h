@@ -6,7 +6,7 @@
 
 #include "spi_bus.h"
 
-#include "catalogue/gfpdb_part.h"
+#include "gfpdb/gfpdb_part.h"
 
 #include <optional>
 #include <set>

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+
+// Emulated serial NOR flash chips: they do what the real ones do, and note every command that a real one would refuse,
+// misread or silently drop.
+#pragma once
+
+#include "gfpe/gfpe_bus.h"
+
+#include "gfpdb/gfpdb_part.h"
+#include "gfpdb/gfpdb_record.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+// What an emulated chip does wrong, for those who want to see what a flow does then.
+struct GFPE_CHIP_FAULTS
+{
+    // No chip answers: every byte from it is FF.
+    bool is_missing = false;
+    // Once busy, it never gets ready.
+    bool stays_busy = false;
+    // A bit that does not program (it stays 1) or does not erase (it stays 0): its byte's position, and its number.
+    struct BIT
+    {
+        std::int64_t position = 0;
+        int bit = 0;
+    };
+    std::optional<BIT> does_not_program;
+    std::optional<BIT> does_not_erase;
+    // The number of the command, from 0, in the middle of which the power goes; the chip answers nothing any more.
+    std::optional<std::int64_t> power_lost_at;
+};
+
+struct GFPE_CHIP_FACTS; // what sets a chip apart from others, in pgm/gfpe/chip
+class GFPE_CHIP_CORE;   // in pgm/gfpe/chip
+
+// Powered up, blank unless a file gives it contents. Its time is its own: it passes with commands and waits, and takes
+// no time of the user. Thread and errors as GFPE_BUS.
+class GFPE_EXPORT GFPE_CHIP : public GFPE_BUS
+{
+public:
+    // The chip of a built-in part. Null when the part lacks what an emulation needs; `problem` says what.
+    static std::unique_ptr<GFPE_CHIP> make(const GFPDB_PART& part, std::string& problem);
+    // The chip of a record: of the built-in part of that name, else what the record says of it and the rest as parts of
+    // its maker (by the ID's first byte) have it. GUI thread only.
+    static std::unique_ptr<GFPE_CHIP> make(const GFPDB_RECORD& record, std::string& problem);
+    ~GFPE_CHIP() override;
+
+    // Keeps its contents in a file: read from it if there is one of the chip's size, else made, blank. Every change is
+    // in the file when the chip is destroyed, or at flush(). False: `problem` says why. `path` in local 8-bit.
+    bool use_file(const std::string& path, std::string& problem);
+    bool flush(std::string& problem);
+
+    GFPE_ABILITIES get_abilities() const override;
+    bool transfer(const GFPE_COMMAND& command, GFPE_READER* reader) override;
+    bool wait(std::int64_t microseconds) override;
+    std::int64_t get_time() const override;
+    std::string get_last_error() const override;
+
+    void set_faults(const GFPE_CHIP_FAULTS& faults);
+    // Switches the power off and on: what is volatile starts again.
+    void cycle_power();
+    // What was wrong with the commands so far, oldest first, as "02: not write enabled (3 times)"; at most
+    // GFPE_CHIP_NOTES different ones.
+    std::vector<std::string> get_notes() const;
+    // The size of its memory, and its memory past all commands.
+    std::int64_t get_size() const;
+    void read_memory(std::int64_t position, std::uint8_t* bytes, std::size_t length) const;
+    void write_memory(std::int64_t position, const std::uint8_t* bytes, std::size_t length);
+    // True when nothing but data, protection and quad enable is other than after power-up.
+    bool is_at_rest() const;
+
+private:
+    explicit GFPE_CHIP(const GFPE_CHIP_FACTS& facts);
+
+    std::unique_ptr<GFPE_CHIP_CORE> m_core;
+};
+constexpr std::size_t GFPE_CHIP_NOTES = 100;

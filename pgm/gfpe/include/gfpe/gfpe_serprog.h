@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+
+// Programmers that speak serprog (version 1): the client, which is a connection to a chip, and a server that offers
+// one.
+#pragma once
+
+#include "gfpe/gfpe_bus.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+// A programmer behind a TCP connection or a serial line, in local 8-bit texts. Every call ends within the limits that
+// docs/programming.md gives. Null when it cannot be reached or does not speak the protocol; `problem` says which, a
+// sentence in UTF-8. The connection is closed with the bus.
+GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string& host, int port, std::string& problem);
+GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& device, int baud, std::string& problem);
+
+class GFPE_SERPROG_TALK; // one client's bytes, in pgm/gfpe/serprog
+
+// Offers a bus, mostly an emulated chip, to one client after the other on a TCP port of this machine.
+class GFPE_EXPORT GFPE_SERPROG_SERVER
+{
+public:
+    // `bus` outlives the server.
+    explicit GFPE_SERPROG_SERVER(GFPE_BUS& bus);
+    ~GFPE_SERPROG_SERVER();
+
+    // Listens on 127.0.0.1, or on every address of this machine; port 0 for any free one. False: `problem` says why.
+    bool listen(bool on_every_address, int port, std::string& problem);
+    int get_port() const;
+    // Serves until `ends` returns true; it is asked at least ten times a second.
+    void run(const std::function<bool()>& ends);
+
+private:
+    class SOCKET;
+    GFPE_BUS& m_bus;
+    std::unique_ptr<SOCKET> m_socket;
+};
