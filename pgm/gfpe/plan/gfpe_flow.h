@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+
+// The compiled flow.
+#pragma once
+
+class GFPE_FLOW
+{};
