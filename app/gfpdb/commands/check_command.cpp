@@ -2,7 +2,7 @@
 #include "commands/check_command.h"
 
 #include "cli_find.h"
-#include "output/cli_json.h"
+#include "cli_json.h"
 
 #include <algorithm>
 

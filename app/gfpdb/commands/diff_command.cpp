@@ -2,7 +2,7 @@
 #include "commands/diff_command.h"
 
 #include "cli_find.h"
-#include "output/cli_json.h"
+#include "cli_json.h"
 #include "output/line_diff.h"
 
 #include "gfpdb/gfpdb_text.h"

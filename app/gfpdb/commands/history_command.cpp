@@ -2,7 +2,7 @@
 #include "commands/history_command.h"
 
 #include "cli_find.h"
-#include "output/cli_json.h"
+#include "cli_json.h"
 
 #include "gfpdb/gfpdb_text.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "output/record_text.h"
 
-#include "output/cli_output.h"
+#include "cli_output.h"
 
 #include "words/gfpq_vocabulary.h"
 

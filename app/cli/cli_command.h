@@ -3,7 +3,7 @@
 // A command of the tool.
 #pragma once
 
-#include "output/cli_output.h"
+#include "cli_output.h"
 
 #include "gfpdb/gfpdb_exchange.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output/cli_output.h"
+#include "cli_output.h"
 
 #include "gfpdb/gfpdb_text.h"
 
