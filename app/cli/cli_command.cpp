@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli_command.h"
 
+#include "cli_place.h"
+
 #include "gfpdb/gfpdb_text.h"
 
 std::string CLI_CALL::argument(int index) const
@@ -27,6 +29,16 @@ std::string CLI_CALL::value(const char* option) const
 std::optional<int> CLI_CALL::number(const char* option) const
 {
     return has(option) ? std::optional<int>(options.value(QLatin1String(option)).toInt()) : std::nullopt;
+}
+
+std::optional<int> CLI_CALL::family() const
+{
+    return has(CLI_OPTION_FAMILY) ? cli_family(value(CLI_OPTION_FAMILY)) : std::nullopt;
+}
+
+std::optional<int> CLI_CALL::scheme() const
+{
+    return has(CLI_OPTION_SCHEME) ? cli_scheme(value(CLI_OPTION_SCHEME)) : std::nullopt;
 }
 
 std::optional<GFPDB_LIST_FOR> CLI_CALL::list_reader() const
@@ -64,9 +76,9 @@ void cli_add_csv_options(QCommandLineParser& parser, const char* explanation)
 void cli_add_place_options(QCommandLineParser& parser, const char* what)
 {
     parser.addOption({QLatin1String(CLI_OPTION_FAMILY),
-                      QStringLiteral("%1 device family (1 to 72).").arg(QLatin1String(what)),
-                      QStringLiteral("number")});
+                      QStringLiteral("%1 device family (1 to 72, or its name).").arg(QLatin1String(what)),
+                      QStringLiteral("family")});
     parser.addOption({QLatin1String(CLI_OPTION_SCHEME),
-                      QStringLiteral("%1 configuration scheme (0 to 24).").arg(QLatin1String(what)),
-                      QStringLiteral("number")});
+                      QStringLiteral("%1 configuration scheme (0 to 24, or its name).").arg(QLatin1String(what)),
+                      QStringLiteral("scheme")});
 }

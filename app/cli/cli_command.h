@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// A command of the tool.
+// A command of a tool.
 #pragma once
 
 #include "cli_output.h"
@@ -11,12 +11,13 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
-// The exit codes of the tool, as in the man page.
+// The exit codes that all tools have, as in their man pages.
 enum CLI_EXIT : int
 {
     CLI_EXIT_OK = 0,
-    CLI_EXIT_DIFFERENT = 1, // records differ, or the check found something
+    CLI_EXIT_DIFFERENT = 1, // records differ, or a check found something
     CLI_EXIT_USAGE = 2,     // wrong arguments
     CLI_EXIT_NOT_FOUND = 3, // no such record, or several of that name
     CLI_EXIT_BAD_FILE = 4,  // a file cannot be read or written, or its content is wrong
@@ -37,12 +38,23 @@ struct CLI_CALL
     std::string value(const char* option) const;
     // The whole number that is the value of `option`; none when it was not given. It was checked before.
     std::optional<int> number(const char* option) const;
+    // The number of the device family or configuration scheme that the options ask for; none when they ask for none.
+    std::optional<int> family() const;
+    std::optional<int> scheme() const;
     // Who reads the CSV list that the options ask for; none when they do not ask for one.
     std::optional<GFPDB_LIST_FOR> list_reader() const;
     // Prints what is wrong with the arguments; returns CLI_EXIT_USAGE.
     int wrong_usage(const std::string& text) const;
     // Prints why the database cannot be used; returns CLI_EXIT_DATABASE.
     int database_failed(const std::string& text) const;
+};
+
+// An option whose value is a whole number, and the lowest and highest one.
+struct CLI_NUMBER
+{
+    const char* option;
+    int lowest;
+    int highest;
 };
 
 // One class per command. run() does all its work and returns the exit code.
@@ -57,6 +69,8 @@ public:
     virtual const char* arguments() const = 0;
     // The fewest and most arguments; -1 for no limit.
     virtual std::pair<int, int> argument_range() const = 0;
+    // The options whose values are whole numbers.
+    virtual std::vector<CLI_NUMBER> numbers() const { return {}; }
     virtual void add_options(QCommandLineParser& parser) const = 0;
     virtual int run(const CLI_CALL& call) const = 0;
 
@@ -77,7 +91,5 @@ constexpr const char* CLI_OPTION_FAMILY = "family";
 constexpr const char* CLI_OPTION_SCHEME = "scheme";
 constexpr const char* CLI_OPTION_DIR = "dir";
 constexpr const char* CLI_OPTION_OUTPUT = "output";
-constexpr const char* CLI_OPTION_OLDER_THAN = "older-than";
-constexpr const char* CLI_OPTION_KEEP = "keep";
 constexpr const char* CLI_OPTION_CSV = "csv";
 constexpr const char* CLI_OPTION_SPREADSHEET = "spreadsheet";

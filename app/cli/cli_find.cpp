@@ -33,7 +33,7 @@ std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& 
 
 GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name)
 {
-    return {name, call.number(CLI_OPTION_FAMILY), call.number(CLI_OPTION_SCHEME)};
+    return {name, call.family(), call.scheme()};
 }
 
 std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code)

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr const char* PROGRAM = "gfpdb: ";
-
 void write(std::FILE* stream, const std::string& text)
 {
     std::fwrite(text.data(), 1, text.size(), stream);
@@ -48,7 +46,7 @@ void CLI_OUTPUT::error(const std::string& text)
 {
     finish_progress();
     std::fflush(stdout);
-    write(stderr, PROGRAM + cli_printable(text) + '\n');
+    write(stderr, m_tool + ": " + cli_printable(text) + '\n');
 }
 
 void CLI_OUTPUT::finding(const std::string& file, const GFPDB_FINDING& finding)
@@ -65,12 +63,27 @@ void CLI_OUTPUT::finding(const std::string& file, const GFPDB_FINDING& finding)
 void CLI_OUTPUT::progress(const char* work, int done, int total)
 {
     const int percent = total > 0 ? static_cast<int>(100LL * done / total) : 100;
-    if (percent == m_percent || ::isatty(STDERR_FILENO) != 1)
+    if (percent == m_percent)
         return;
     m_percent = percent;
+    progress_line(std::string(work) + ' ' + std::to_string(done) + " of " + std::to_string(total));
+}
+
+void CLI_OUTPUT::progress_line(const std::string& line)
+{
+    if (!shows_progress())
+        return;
     m_shows_progress = true;
-    write(stderr, '\r' + std::string(work) + ' ' + std::to_string(done) + " of " + std::to_string(total));
+    // Blanks cover the end of a longer line before it.
+    const std::size_t covered = m_width > line.size() ? m_width - line.size() : 0;
+    m_width = line.size();
+    write(stderr, '\r' + line + std::string(covered, ' '));
     std::fflush(stderr);
+}
+
+bool CLI_OUTPUT::shows_progress()
+{
+    return ::isatty(STDERR_FILENO) == 1;
 }
 
 void CLI_OUTPUT::finish_progress()
@@ -79,6 +92,7 @@ void CLI_OUTPUT::finish_progress()
         write(stderr, "\n");
     m_shows_progress = false;
     m_percent = -1;
+    m_width = 0;
 }
 
 bool CLI_OUTPUT::flush()

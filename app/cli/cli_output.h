@@ -14,6 +14,9 @@ std::string cli_printable(const std::string& text);
 class CLI_OUTPUT
 {
 public:
+    // `tool` is the name before each message.
+    explicit CLI_OUTPUT(std::string tool) : m_tool(std::move(tool)) {}
+
     // Prints `text`: unchanged into a file or a pipe, without control characters other than line breaks on a terminal.
     void print(const std::string& text);
     // Prints a message to standard error, on a line of its own.
@@ -24,10 +27,16 @@ public:
     // else may be printed until finish_progress().
     void progress(const char* work, int done, int total);
     void finish_progress();
+    // Shows `line` in place of the progress before it, when standard error is a terminal.
+    void progress_line(const std::string& line);
+    // True when progress is shown at all.
+    static bool shows_progress();
     // False when something could not be printed (a full disk, a closed pipe).
     bool flush();
 
 private:
+    const std::string m_tool;
     bool m_shows_progress = false;
     int m_percent = -1;
+    std::size_t m_width = 0;
 };

@@ -1,68 +1,50 @@
 // SPDX-License-Identifier: MIT
 #include "cli_program.h"
 
-#include "commands/check_command.h"
-#include "commands/diff_command.h"
-#include "commands/export_command.h"
-#include "commands/history_command.h"
-#include "commands/import_command.h"
-#include "commands/list_command.h"
-#include "commands/restore_command.h"
-#include "commands/show_command.h"
+#include "cli_place.h"
 
-#include "gfpdb/gfpdb_enums.h"
 #include "gfpdb/gfpdb_text.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QLoggingCategory>
+#include <QTextCodec>
 
-#include <limits>
-#include <memory>
+#include <algorithm>
+#include <clocale>
+#include <cstring>
 
 namespace {
 
 constexpr const char* OPTION_HELP = "help";
 constexpr const char* OPTION_VERBOSE = "verbose";
-// A hundred years.
-constexpr int DAYS_MAX = 36500;
 constexpr int NAME_WIDTH = 10;
+// Between a name that is longer and its text.
+constexpr int NAME_GAP = 2;
 
-using COMMANDS = std::vector<std::unique_ptr<CLI_COMMAND>>;
-
-COMMANDS make_commands()
+const CLI_COMMAND* find_command(const CLI_PROGRAM& program, const QString& name)
 {
-    COMMANDS commands;
-    commands.push_back(std::make_unique<CLI_LIST_COMMAND>());
-    commands.push_back(std::make_unique<CLI_SHOW_COMMAND>());
-    commands.push_back(std::make_unique<CLI_EXPORT_COMMAND>());
-    commands.push_back(std::make_unique<CLI_IMPORT_COMMAND>());
-    commands.push_back(std::make_unique<CLI_CHECK_COMMAND>());
-    commands.push_back(std::make_unique<CLI_HISTORY_COMMAND>());
-    commands.push_back(std::make_unique<CLI_RESTORE_COMMAND>());
-    commands.push_back(std::make_unique<CLI_DIFF_COMMAND>());
-    return commands;
-}
-
-const CLI_COMMAND* find_command(const COMMANDS& commands, const QString& name)
-{
-    for (const std::unique_ptr<CLI_COMMAND>& command : commands) {
+    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands) {
         if (name == QLatin1String(command->name()))
             return command.get();
     }
     return nullptr;
 }
 
-std::string overview(const COMMANDS& commands)
+std::string overview(const CLI_PROGRAM& program)
 {
-    QString text = QStringLiteral("Usage: gfpdb COMMAND [options] [arguments]\n\n"
-                                  "Manages the flash database of the programmer: its devices and flow templates.\n\n"
-                                  "Commands:\n");
-    for (const std::unique_ptr<CLI_COMMAND>& command : commands)
+    const QString name = QLatin1String(program.name);
+    QString text = QStringLiteral("Usage: %1 COMMAND [options] [arguments]\n\n%2\n\nCommands:\n")
+                       .arg(name, QLatin1String(program.purpose));
+    int width = NAME_WIDTH;
+    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands)
+        width = std::max(width, static_cast<int>(std::strlen(command->name())) + NAME_GAP);
+    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands)
         text += QStringLiteral("  %1%2\n")
-                    .arg(QLatin1String(command->name()), -NAME_WIDTH)
+                    .arg(QLatin1String(command->name()), -width)
                     .arg(QLatin1String(command->summary()));
-    text += QStringLiteral("\n\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the version.\n");
+    text +=
+        QStringLiteral("\n\"%1 COMMAND --help\" explains a command, \"%1 --version\" prints the version.\n").arg(name);
     return gfpdb_to_utf8(text);
 }
 
@@ -75,39 +57,38 @@ void add_common_options(QCommandLineParser& parser)
     parser.addOption({{QStringLiteral("h"), QLatin1String(OPTION_HELP)}, QStringLiteral("Print this help.")});
 }
 
-// How the command is called, with `options` between its name and its arguments.
-QString synopsis(const CLI_COMMAND& command, const char* options = "")
+// One call of a command: what the user wrote, and for which tool.
+struct CALLED
 {
-    const QStringList parts = {QStringLiteral("gfpdb"), QLatin1String(command.name()), QLatin1String(options),
-                               QLatin1String(command.arguments())};
-    return parts.join(QLatin1Char(' ')).simplified();
-}
+    const CLI_PROGRAM& program;
+    const CLI_COMMAND& command;
+    const QCommandLineParser& parser;
 
-std::string usage_of(const CLI_COMMAND& command, const QCommandLineParser& parser)
+    // How the command is called, with `options` between its name and its arguments.
+    QString synopsis(const char* options = "") const
+    {
+        const QStringList parts = {QLatin1String(program.name), QLatin1String(command.name()), QLatin1String(options),
+                                   QLatin1String(command.arguments())};
+        return parts.join(QLatin1Char(' ')).simplified();
+    }
+};
+
+std::string usage_of(const CALLED& called)
 {
-    QString options = parser.helpText();
+    QString options = called.parser.helpText();
     options.remove(0, options.indexOf(QLatin1Char('\n')) + 1);
-    return "Usage: " + gfpdb_to_utf8(synopsis(command, "[options]")) + "\n" + command.summary() + ".\n" +
+    return "Usage: " + gfpdb_to_utf8(called.synopsis("[options]")) + "\n" + called.command.summary() + ".\n" +
            gfpdb_to_utf8(options);
 }
 
-QString problem_of_numbers(const QCommandLineParser& parser)
+QString problem_of_numbers(const CALLED& called)
 {
-    const struct
-    {
-        const char* name;
-        int lowest;
-        int highest;
-    } ranges[] = {{CLI_OPTION_FAMILY, DEV_FAMILY_FIRST, DEV_FAMILY_LAST},
-                  {CLI_OPTION_SCHEME, 0, PGMIO_ILLEGAL_SCHEME - 1},
-                  {CLI_OPTION_OLDER_THAN, 0, DAYS_MAX},
-                  {CLI_OPTION_KEEP, 0, std::numeric_limits<int>::max()}};
-    for (const auto& range : ranges) {
-        const QString name = QLatin1String(range.name);
-        if (!parser.optionNames().contains(name))
+    for (const CLI_NUMBER& range : called.command.numbers()) {
+        const QString name = QLatin1String(range.option);
+        if (!called.parser.isSet(name))
             continue;
         bool is_number = false;
-        const int number = parser.value(name).toInt(&is_number);
+        const int number = called.parser.value(name).toInt(&is_number);
         if (!is_number || number < range.lowest || number > range.highest)
             return QStringLiteral("--%1 needs a whole number from %2 to %3.")
                 .arg(name)
@@ -117,41 +98,56 @@ QString problem_of_numbers(const QCommandLineParser& parser)
     return QString();
 }
 
-// A script's variable that was never set: it would mean the user's own directory, or every record.
-QString problem_of_empty_texts(const CLI_COMMAND& command, const QCommandLineParser& parser)
+QString problem_of_places(const CALLED& called)
 {
+    const auto value = [&called](const char* option) {
+        return gfpdb_to_utf8(called.parser.value(QLatin1String(option)));
+    };
+    const QStringList options = called.parser.optionNames();
+    if (options.contains(QLatin1String(CLI_OPTION_FAMILY)) && !cli_family(value(CLI_OPTION_FAMILY)))
+        return gfpdb_from_utf8(cli_family_rule());
+    if (options.contains(QLatin1String(CLI_OPTION_SCHEME)) && !cli_scheme(value(CLI_OPTION_SCHEME)))
+        return gfpdb_from_utf8(cli_scheme_rule());
+    return QString();
+}
+
+// A script's variable that was never set: it would mean the user's own directory, or every record.
+QString problem_of_empty_texts(const CALLED& called)
+{
+    const QCommandLineParser& parser = called.parser;
     const QString directory = QLatin1String(CLI_OPTION_DIR);
     if (parser.isSet(directory) && parser.value(directory).isEmpty())
         return QStringLiteral("--%1 is empty.").arg(directory);
     if (parser.positionalArguments().contains(QString()))
-        return QStringLiteral("An argument is empty: %1").arg(synopsis(command));
+        return QStringLiteral("An argument is empty: %1").arg(called.synopsis());
     return QString();
 }
 
-QString problem_of_count(const CLI_COMMAND& command, const QCommandLineParser& parser)
+QString problem_of_count(const CALLED& called)
 {
-    const auto [fewest, most] = command.argument_range();
-    const int count = parser.positionalArguments().size();
+    const auto [fewest, most] = called.command.argument_range();
+    const int count = called.parser.positionalArguments().size();
     if (count < fewest)
-        return QStringLiteral("An argument is missing: %1").arg(synopsis(command));
+        return QStringLiteral("An argument is missing: %1").arg(called.synopsis());
     if (most >= 0 && count > most)
         return QStringLiteral("Unexpected argument \"%1\": %2")
-            .arg(parser.positionalArguments().at(most), synopsis(command));
+            .arg(called.parser.positionalArguments().at(most), called.synopsis());
     return QString();
 }
 
 // A sentence about what is wrong with the options and arguments; empty when nothing is.
-QString problem_of(const CLI_COMMAND& command, const QCommandLineParser& parser)
+QString problem_of(const CALLED& called)
 {
-    for (const QString& problem :
-         {problem_of_numbers(parser), problem_of_empty_texts(command, parser), problem_of_count(command, parser)}) {
+    for (const QString& problem : {problem_of_numbers(called), problem_of_places(called),
+                                   problem_of_empty_texts(called), problem_of_count(called)}) {
         if (!problem.isEmpty())
             return problem;
     }
     return QString();
 }
 
-int run_command(const CLI_COMMAND& command, const QStringList& arguments, CLI_OUTPUT& output)
+int run_command(const CLI_PROGRAM& program, const CLI_COMMAND& command, const QStringList& arguments,
+                CLI_OUTPUT& output)
 {
     QCommandLineParser parser;
     add_common_options(parser);
@@ -161,17 +157,17 @@ int run_command(const CLI_COMMAND& command, const QStringList& arguments, CLI_OU
         return CLI_EXIT_USAGE;
     }
     if (parser.isSet(QLatin1String(OPTION_HELP))) {
-        output.print(usage_of(command, parser));
+        output.print(usage_of({program, command, parser}));
         return CLI_EXIT_OK;
     }
-    const QString problem = problem_of(command, parser);
+    const QString problem = problem_of({program, command, parser});
     if (!problem.isEmpty()) {
         output.error(gfpdb_to_utf8(problem));
         return CLI_EXIT_USAGE;
     }
     // The tool reports what goes wrong; the log would repeat it.
     if (!parser.isSet(QLatin1String(OPTION_VERBOSE)))
-        QLoggingCategory::setFilterRules(QStringLiteral("pgm.gfpdb.warning=false"));
+        QLoggingCategory::setFilterRules(QStringLiteral("pgm.*.warning=false"));
     const std::string catalogue_problem = GFPDB_DATABASE::get_catalogue_problem();
     if (!catalogue_problem.empty()) {
         output.error(catalogue_problem);
@@ -181,9 +177,8 @@ int run_command(const CLI_COMMAND& command, const QStringList& arguments, CLI_OU
     return command.run({parser, database, output});
 }
 
-int dispatch(const QStringList& arguments, CLI_OUTPUT& output)
+int dispatch(const CLI_PROGRAM& program, const QStringList& arguments, CLI_OUTPUT& output)
 {
-    const COMMANDS commands = make_commands();
     QString name = arguments.value(1);
     QStringList rest = arguments.mid(1);
     if (name == QLatin1String("help") && arguments.size() > 2) {
@@ -191,29 +186,45 @@ int dispatch(const QStringList& arguments, CLI_OUTPUT& output)
         rest = QStringList{name, QStringLiteral("--help")};
     }
     if (name == QLatin1String("help") || name == QLatin1String("--help") || name == QLatin1String("-h")) {
-        output.print(overview(commands));
+        output.print(overview(program));
         return CLI_EXIT_OK;
     }
     if (name == QLatin1String("--version")) {
-        output.print("gfpdb " GFPDB_CLI_VERSION "\n");
+        output.print(std::string(program.name) + " " CLI_VERSION "\n");
         return CLI_EXIT_OK;
     }
-    if (const CLI_COMMAND* command = find_command(commands, name))
-        return run_command(*command, rest, output);
+    if (const CLI_COMMAND* command = find_command(program, name))
+        return run_command(program, *command, rest, output);
     output.error(name.isEmpty() ? std::string("A command is missing.")
-                                : gfpdb_quoted(gfpdb_to_utf8(name)) + " is not a gfpdb command.");
-    output.error("\"gfpdb --help\" lists the commands.");
+                                : gfpdb_quoted(gfpdb_to_utf8(name)) + " is not a " + program.name + " command.");
+    output.error("\"" + std::string(program.name) + " --help\" lists the commands.");
     return CLI_EXIT_USAGE;
 }
 
-} // namespace
-
-int cli_run(const QStringList& arguments)
+int run(const CLI_PROGRAM& program, const QStringList& arguments)
 {
-    CLI_OUTPUT output;
-    const int exit_code = dispatch(arguments, output);
+    CLI_OUTPUT output(program.name);
+    const int exit_code = dispatch(program, arguments, output);
     if (output.flush())
         return exit_code;
     output.error("The output cannot be written.");
     return exit_code == CLI_EXIT_OK ? CLI_EXIT_BAD_FILE : exit_code;
+}
+
+// Arguments and paths are UTF-8 also where the locale is plain ASCII, as in many build machines.
+void use_utf8()
+{
+    constexpr int UTF8_MIB = 106;
+    if (QTextCodec::codecForLocale()->mibEnum() != UTF8_MIB)
+        QTextCodec::setCodecForLocale(QTextCodec::codecForMib(UTF8_MIB));
+}
+
+} // namespace
+
+int cli_main(int argc, char** argv, const CLI_PROGRAM& program)
+{
+    std::setlocale(LC_ALL, "");
+    use_utf8();
+    const QCoreApplication application(argc, argv);
+    return run(program, application.arguments());
 }

@@ -1,10 +1,20 @@
 // SPDX-License-Identifier: MIT
 
-// The tool: finds the command, reads its options, runs it.
+// A command line tool: finds the command, reads its options, runs it.
 #pragma once
 
-#include <QStringList>
+#include "cli_command.h"
 
-// Runs the tool with `arguments` (the program's name first) and gives its exit code. Needs a QCoreApplication. Throws
-// nothing.
-int cli_run(const QStringList& arguments);
+#include <memory>
+#include <vector>
+
+struct CLI_PROGRAM
+{
+    // "gfpdb", and what it is for, a sentence.
+    const char* name;
+    const char* purpose;
+    std::vector<std::unique_ptr<CLI_COMMAND>> commands;
+};
+
+// What main() of a tool does: runs it with its arguments and gives its exit code. Arguments and paths are UTF-8.
+int cli_main(int argc, char** argv, const CLI_PROGRAM& program);

@@ -2,28 +2,35 @@
 
 // gfpdb: the command line tool of the flash database.
 #include "cli_program.h"
-
-#include <QCoreApplication>
-#include <QTextCodec>
-
-#include <clocale>
+#include "commands/check_command.h"
+#include "commands/diff_command.h"
+#include "commands/export_command.h"
+#include "commands/history_command.h"
+#include "commands/import_command.h"
+#include "commands/list_command.h"
+#include "commands/restore_command.h"
+#include "commands/show_command.h"
 
 namespace {
 
-// Arguments and paths are UTF-8 also where the locale is plain ASCII, as in many build machines.
-void use_utf8()
+CLI_PROGRAM make_program()
 {
-    constexpr int UTF8_MIB = 106;
-    if (QTextCodec::codecForLocale()->mibEnum() != UTF8_MIB)
-        QTextCodec::setCodecForLocale(QTextCodec::codecForMib(UTF8_MIB));
+    CLI_PROGRAM program = {
+        "gfpdb", "Manages the flash database of the programmer: its devices and flow templates.", {}};
+    program.commands.push_back(std::make_unique<CLI_LIST_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_SHOW_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_EXPORT_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_IMPORT_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_CHECK_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_HISTORY_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_RESTORE_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_DIFF_COMMAND>());
+    return program;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    std::setlocale(LC_ALL, "");
-    use_utf8();
-    const QCoreApplication application(argc, argv);
-    return cli_run(application.arguments());
+    return cli_main(argc, argv, make_program());
 }

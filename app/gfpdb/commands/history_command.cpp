@@ -8,10 +8,16 @@
 
 #include <QDateTime>
 
+#include <limits>
+
 namespace {
 
 constexpr const char* OPTION_PRUNE = "prune";
 constexpr const char* OPTION_FORCE = "force";
+constexpr const char* OPTION_OLDER_THAN = "older-than";
+constexpr const char* OPTION_KEEP = "keep";
+// A hundred years.
+constexpr int DAYS_MAX = 36500;
 
 constexpr int ID_WIDTH = 6;
 constexpr int WHEN_WIDTH = 22;
@@ -70,7 +76,7 @@ std::string json(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
 // What is wrong with the options for pruning; empty when nothing is.
 std::string problem_of_pruning(const CLI_CALL& call)
 {
-    const bool has_limit = call.has(CLI_OPTION_OLDER_THAN) || call.has(CLI_OPTION_KEEP);
+    const bool has_limit = call.has(OPTION_OLDER_THAN) || call.has(OPTION_KEEP);
     if (call.has(OPTION_PRUNE))
         return has_limit ? "" : "--prune needs --older-than or --keep.";
     return has_limit || call.has(OPTION_FORCE) ? "--older-than, --keep and --force need --prune." : "";
@@ -79,9 +85,9 @@ std::string problem_of_pruning(const CLI_CALL& call)
 int prune(const CLI_CALL& call, const GFPDB_SELECTION& selection)
 {
     GFPDB_PRUNING pruning;
-    pruning.keep = call.number(CLI_OPTION_KEEP).value_or(0);
+    pruning.keep = call.number(OPTION_KEEP).value_or(0);
     pruning.last_of_deleted = call.has(OPTION_FORCE);
-    if (const std::optional<int> days = call.number(CLI_OPTION_OLDER_THAN))
+    if (const std::optional<int> days = call.number(OPTION_OLDER_THAN))
         pruning.before = gfpdb_to_utf8(QDateTime::currentDateTimeUtc().addDays(-*days).toString(Qt::ISODate));
     const std::optional<int> count = call.database.prune_history(selection, pruning);
     if (!count)
@@ -93,14 +99,19 @@ int prune(const CLI_CALL& call, const GFPDB_SELECTION& selection)
 
 } // namespace
 
+std::vector<CLI_NUMBER> CLI_HISTORY_COMMAND::numbers() const
+{
+    return {{OPTION_OLDER_THAN, 0, DAYS_MAX}, {OPTION_KEEP, 0, std::numeric_limits<int>::max()}};
+}
+
 void CLI_HISTORY_COMMAND::add_options(QCommandLineParser& parser) const
 {
     parser.addOption({QLatin1String(OPTION_PRUNE), QStringLiteral("Remove states instead of listing them, but not the "
                                                                   "last one of a deleted record.")});
-    parser.addOption({QLatin1String(CLI_OPTION_OLDER_THAN),
+    parser.addOption({QLatin1String(OPTION_OLDER_THAN),
                       QStringLiteral("Remove only states that are older than this many days."),
                       QStringLiteral("days")});
-    parser.addOption({QLatin1String(CLI_OPTION_KEEP), QStringLiteral("Keep this many states of each record."),
+    parser.addOption({QLatin1String(OPTION_KEEP), QStringLiteral("Keep this many states of each record."),
                       QStringLiteral("number")});
     parser.addOption({QLatin1String(OPTION_FORCE), QStringLiteral("Also remove the last state of a deleted record: it "
                                                                   "cannot be restored then.")});

@@ -12,6 +12,7 @@ public:
     const char* summary() const override { return "List former states of records"; }
     const char* arguments() const override { return "[NAME]"; }
     std::pair<int, int> argument_range() const override { return {0, 1}; }
+    std::vector<CLI_NUMBER> numbers() const override;
     void add_options(QCommandLineParser& parser) const override;
     int run(const CLI_CALL& call) const override;
 };

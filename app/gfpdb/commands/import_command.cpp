@@ -38,8 +38,7 @@ int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
         return call.database_failed(problem);
     const GFPDB_RECORD_RULES rules =
         call.has(OPTION_UNCHECKED) ? GFPDB_RECORD_RULES::NAMES : GFPDB_RECORD_RULES::IMPORTED;
-    const GFPDB_READ_OPTIONS options = {call.has(OPTION_CSV), rules, call.number(CLI_OPTION_FAMILY),
-                                        call.number(CLI_OPTION_SCHEME)};
+    const GFPDB_READ_OPTIONS options = {call.has(OPTION_CSV), rules, call.family(), call.scheme()};
     GFPDB_IMPORT_PLAN plan(call.database, call.has(OPTION_REPLACE), rules);
     std::vector<std::pair<std::string, GFPDB_FINDING>> warnings;
     bool good = true;

@@ -4,6 +4,8 @@
 #include "cli_command.h"
 #include "test_rows.h"
 
+#include "dstr/dstr.h"
+
 // The constants of the tests have names that enumerators of the library have as well.
 #include "cli_test.h"
 
@@ -145,7 +147,8 @@ private slots:
         add({"diff", "", "b"}, "gfpdb: An argument is empty: gfpdb diff LEFT RIGHT\n");
         add({"list", "--csv", "--json"}, "gfpdb: --csv and --json cannot be used together.\n");
         for (const char* number : {"0", "73", "x", ""})
-            add({"list", "--family", number}, "gfpdb: --family needs a whole number from 1 to 72.\n");
+            add({"list", "--family", number},
+                "gfpdb: --family needs a whole number from 1 to 72, or the name of a device family.\n");
         add({"history", "--prune"}, "gfpdb: --prune needs --older-than or --keep.\n");
         for (const QStringList& options :
              {QStringList{"--keep", "1"}, QStringList{"--older-than", "1"}, QStringList{"--force"}})
@@ -153,8 +156,9 @@ private slots:
         add({"history", "--prune", "--keep", "-1"}, "gfpdb: --keep needs a whole number from 0 to 2147483647.\n");
         add({"history", "--prune", "--older-than", "36501"},
             "gfpdb: --older-than needs a whole number from 0 to 36500.\n");
-        for (const char* number : {"-1", "25", "seven"})
-            add({"list", "--scheme", number}, "gfpdb: --scheme needs a whole number from 0 to 24.\n");
+        for (const char* number : {"-1", "25", "seven", "Illegal Configuration Scheme"})
+            add({"list", "--scheme", number},
+                "gfpdb: --scheme needs a whole number from 0 to 24, or the name of a configuration scheme.\n");
     }
 
     void wrong_arguments_are_refused()
@@ -165,6 +169,25 @@ private slots:
         QCOMPARE(run.err, error);
         QCOMPARE(run.out, QByteArray());
         QCOMPARE(run.exit_code, 2);
+    }
+
+    void families_and_schemes_have_numbers_and_names_data()
+    {
+        const std::string family = dstr_get_user_string(FAMILY);
+        rows<QStringList, QStringList>({{"number", QStringList{"--scheme", "7"}, QStringList{"single"}},
+                                        {"name", QStringList{"--scheme", "Active Serial"}, QStringList{"single"}},
+                                        {"case", QStringList{"--scheme", "active serial X4"}, QStringList{"quad"}},
+                                        {"family", QStringList{"--family", q(family)}, QStringList{"single", "quad"}},
+                                        {"other", QStringList{"--family", "4"}, QStringList{}}});
+    }
+
+    void families_and_schemes_have_numbers_and_names()
+    {
+        const auto [options, found] = row<QStringList, QStringList>();
+        save_part("single", FAMILY, ACTIVE_SERIAL);
+        save_part("quad", FAMILY, QUAD);
+
+        QCOMPARE(names(json(tool(QStringList{"list", "--json"} + options))), found);
     }
 
     void the_directory_comes_from_the_settings_or_the_option()
