@@ -2,6 +2,7 @@
 #include "rules/gfpdb_checks.h"
 
 #include "base/gfpdb_text.h"
+#include "gfpdb/gfpdb_part.h"
 
 #include <QRegularExpression>
 
@@ -23,6 +24,14 @@ bool refuse(std::string& error, const std::string& text)
 {
     error = text;
     return false;
+}
+
+// The bytes of a device ID as they are written; one empty text when there are none.
+QStringList id_texts(const std::string& id)
+{
+    static const QRegularExpression OUTER_BLANKS(QStringLiteral("\\A[ \\t]+|[ \\t]+\\z"));
+    static const QRegularExpression SEPARATORS(QStringLiteral("[ \\t]*,[ \\t]*|[ \\t]+"));
+    return gfpdb_from_utf8(id).remove(OUTER_BLANKS).split(SEPARATORS);
 }
 
 } // namespace
@@ -51,15 +60,12 @@ bool gfpdb_check_name(const std::string& name, const std::string& what, std::str
 
 bool gfpdb_check_device_id(const std::string& id, std::string& error)
 {
-    static const QRegularExpression OUTER_BLANKS(QStringLiteral("\\A[ \\t]+|[ \\t]+\\z"));
-    static const QRegularExpression SEPARATORS(QStringLiteral("[ \\t]*,[ \\t]*|[ \\t]+"));
     static const QRegularExpression BYTE(QStringLiteral("\\A(?:0[xX])?[0-9A-Fa-f]{1,2}\\z"));
     const std::string allowed = "Enter 1 to " + std::to_string(GFPDB_ID_BYTES_MAX) +
                                 " bytes in hexadecimal, separated by blanks or commas, i.e. 0xC2 0x20 0x19.";
-    const QString text = gfpdb_from_utf8(id).remove(OUTER_BLANKS);
-    if (text.isEmpty())
+    const QStringList bytes = id_texts(id);
+    if (bytes == QStringList(QString()))
         return refuse(error, "The device ID is empty. " + allowed);
-    const QStringList bytes = text.split(SEPARATORS);
     for (const QString& byte : bytes) {
         if (!BYTE.match(byte).hasMatch())
             return refuse(error, gfpdb_quoted(gfpdb_to_utf8(byte)) + " is no byte of a device ID. " + allowed);
@@ -67,6 +73,17 @@ bool gfpdb_check_device_id(const std::string& id, std::string& error)
     if (bytes.size() > GFPDB_ID_BYTES_MAX)
         return refuse(error, "The device ID has " + std::to_string(bytes.size()) + " bytes. " + allowed);
     return true;
+}
+
+std::vector<std::uint8_t> gfpdb_device_id_bytes(const std::string& id)
+{
+    std::string error;
+    std::vector<std::uint8_t> bytes;
+    if (!gfpdb_check_device_id(id, error))
+        return bytes;
+    for (const QString& byte : id_texts(id))
+        bytes.push_back(static_cast<std::uint8_t>(byte.toUInt(nullptr, 16)));
+    return bytes;
 }
 
 bool gfpdb_check_range(int value, int lowest, int highest, const std::string& what, std::string& error)

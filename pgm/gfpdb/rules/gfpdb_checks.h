@@ -10,7 +10,6 @@
 #include <vector>
 
 constexpr int GFPDB_NAME_LENGTH_MAX = 64;
-constexpr int GFPDB_ID_BYTES_MAX = 16;
 
 // The name of a device or template: 1 to 64 characters of UTF-8, no control characters, no blank at either end, and not
 // the text that stands for a new device. `what` says in the error whose name it is.

@@ -11,6 +11,9 @@
 
 #include <algorithm>
 
+using BYTES = std::vector<std::uint8_t>;
+Q_DECLARE_METATYPE(BYTES)
+
 namespace {
 
 const std::string UMLAUT = "\xC3\xA4";
@@ -136,22 +139,24 @@ private slots:
 
     void a_device_id_is_1_to_16_bytes_data()
     {
-        rows<std::string>({{"as in the field's hint", "0xC2 0x20 0x19"},
-                           {"without prefix", "c2 20 19"},
-                           {"upper-case prefix", "0XC2 0X20"},
-                           {"one digit", "0x2 f 0"},
-                           {"commas", "0xC2,0x20 , 0x19"},
-                           {"tabulators and runs of blanks", "C2\t20   19"},
-                           {"blanks around", "  C2 20 \t"},
-                           {"one byte", "FF"},
-                           {"16 bytes", "00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F"}});
+        rows<std::string, BYTES>({{"as in the field's hint", "0xC2 0x20 0x19", BYTES{0xC2, 0x20, 0x19}},
+                                  {"without prefix", "c2 20 19", BYTES{0xC2, 0x20, 0x19}},
+                                  {"upper-case prefix", "0XC2 0X20", BYTES{0xC2, 0x20}},
+                                  {"one digit", "0x2 f 0", BYTES{2, 15, 0}},
+                                  {"commas", "0xC2,0x20 , 0x19", BYTES{0xC2, 0x20, 0x19}},
+                                  {"tabulators and runs of blanks", "C2\t20   19", BYTES{0xC2, 0x20, 0x19}},
+                                  {"blanks around", "  C2 20 \t", BYTES{0xC2, 0x20}},
+                                  {"one byte", "FF", BYTES{0xFF}},
+                                  {"16 bytes", "00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F",
+                                   BYTES{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}}});
     }
 
     void a_device_id_is_1_to_16_bytes()
     {
-        const auto id = row<std::string>();
+        const auto [id, bytes] = row<std::string, BYTES>();
 
         QCOMPARE(id_error(id), std::string());
+        QCOMPARE(gfpdb_device_id_bytes(id), bytes);
     }
 
     void a_device_id_that_is_none_says_why_data()
@@ -177,6 +182,7 @@ private slots:
         const auto [id, error] = row<std::string, std::string>();
 
         QCOMPARE(id_error(id), error + ID_RULE);
+        QVERIFY(gfpdb_device_id_bytes(id).empty());
     }
 
     void a_range_has_two_ends()

@@ -52,3 +52,8 @@ struct GFPDB_PART
 // The bytes of a density such as "128Mb" or "1GB": a whole number and Kb, Mb, Gb (bits) or KB, MB, GB (bytes); 0 for
 // any other text.
 GFPDB_EXPORT std::int64_t gfpdb_density_bytes(const std::string& density);
+
+// The most bytes of a device ID.
+constexpr int GFPDB_ID_BYTES_MAX = 16;
+// The bytes of a record's device ID; empty for a text that is not one.
+GFPDB_EXPORT std::vector<std::uint8_t> gfpdb_device_id_bytes(const std::string& id);
