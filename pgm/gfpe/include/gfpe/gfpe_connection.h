@@ -43,7 +43,7 @@ GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_open_connection(const GFPE_CONNECTION
                                                            const GFPDB_RECORD* record, std::string& problem,
                                                            GFPE_CHIP** chip = nullptr);
 
-// The serial lines of this machine, as "/dev/ttyUSB0", with what is known of each.
+// The serial lines of this machine, as "/dev/ttyUSB0", with what is known of each, in UTF-8; empty for nothing.
 struct GFPE_PORT
 {
     std::string device;
