@@ -7,8 +7,9 @@ CALL_LOG& CALL_LOG::instance()
     return log;
 }
 
-void CALL_LOG::record(const QString& object, const QString& function, const QStringList& arguments)
+void CALL_LOG::record(const QString& object, const QString& function, QStringList arguments)
 {
+    arguments.removeAll(QString());
     const QString call = object + QLatin1Char('.') + function + QLatin1Char('(') + arguments.join(QLatin1String(", ")) +
                          QLatin1Char(')');
     m_calls.append(call);
@@ -64,17 +65,27 @@ void CALL_LOG::reset()
     m_hooks.clear();
 }
 
-QString log_text(const std::string& text)
+QString logged(const std::string& text)
 {
-    return QLatin1Char('"') + QString::fromUtf8(text.data(), static_cast<int>(text.size())) + QLatin1Char('"');
+    return logged(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
 }
 
-QString log_bool(bool value)
+QString logged(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString logged(bool value)
 {
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
-QString log_int(int value)
+QString logged(int value)
+{
+    return QString::number(value);
+}
+
+QString logged(std::int64_t value)
 {
     return QString::number(value);
 }

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
@@ -21,8 +22,8 @@ public:
 
     static CALL_LOG& instance();
 
-    // Appends `object.function(arguments)` and runs the hooks of `function`.
-    void record(const QString& object, const QString& function, const QStringList& arguments = {});
+    // Appends `object.function(arguments)` and runs the hooks of `function`. Empty arguments are left out.
+    void record(const QString& object, const QString& function, QStringList arguments);
 
     // Every call since the last clear().
     QStringList calls() const { return m_calls; }
@@ -49,7 +50,16 @@ private:
     std::map<QString, std::vector<HOOK>> m_hooks;
 };
 
-// `text` as it stands in a line of the log: UTF-8, in double quotes.
-QString log_text(const std::string& text);
-QString log_bool(bool value);
-QString log_int(int value);
+// An argument as it is in a line of the log; texts (UTF-8) in double quotes.
+QString logged(const std::string& text);
+QString logged(const QString& text);
+QString logged(bool value);
+QString logged(int value);
+QString logged(std::int64_t value);
+
+// Records `object.function(arguments)`.
+template <typename... ARGUMENTS>
+void log_call(const QString& object, const char* function, const ARGUMENTS&... arguments)
+{
+    CALL_LOG::instance().record(object, QLatin1String(function), {logged(arguments)...});
+}

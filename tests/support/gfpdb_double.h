@@ -12,6 +12,7 @@
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
@@ -20,24 +21,106 @@
 #include <utility>
 #include <vector>
 
+// A double that records its calls: recorded("get_name").name is the answer to a call, taken after it was recorded.
+template <typename SELF>
+class RECORDING
+{
+protected:
+    template <typename... ARGUMENTS>
+    SELF& recorded(const char* function, const ARGUMENTS&... arguments)
+    {
+        return const_cast<SELF&>(std::as_const(*this).recorded(function, arguments...));
+    }
+    template <typename... ARGUMENTS>
+    const SELF& recorded(const char* function, const ARGUMENTS&... arguments) const
+    {
+        const SELF& self = static_cast<const SELF&>(*this);
+        log_call(self.label_of_calls(), function, arguments...);
+        return self;
+    }
+};
+
+// The text that a check is to fill, as it comes in: logged if it is not empty.
+struct ERROR_IN
+{
+    const std::string& text;
+};
+QString logged(const ERROR_IN& error);
+QString logged(const GFPDB_FLASH* flash);
+QString logged(const GFPDB_OPERATION* operation);
+QString logged(const GFPDB_ACTION* action);
+
+template <typename LIST, typename VALUE>
+bool contains(const LIST& list, const VALUE& value)
+{
+    return std::find(list.begin(), list.end(), value) != list.end();
+}
+
+// The entry of `key`; `otherwise` where there is none.
+template <typename MAP>
+typename MAP::mapped_type entry(const MAP& map, const typename MAP::key_type& key,
+                                const typename MAP::mapped_type& otherwise = {})
+{
+    const auto found = map.find(key);
+    return found == map.end() ? otherwise : found->second;
+}
+
+template <typename MAP>
+const typename MAP::mapped_type* entry_or_null(const MAP& map, const typename MAP::key_type& key)
+{
+    const auto found = map.find(key);
+    return found == map.end() ? nullptr : &found->second;
+}
+
+// Appends, as a library may that leaves clearing to its caller: whoever asks twice with one list shows it.
+template <typename LIST>
+LIST& filled(LIST& out, const LIST& answer)
+{
+    out.insert(out.end(), answer.begin(), answer.end());
+    return out;
+}
+
 // An action whose property list, values, choices and checks are set by the test. Its line in the log is its type and
 // the value of its first property: "0:write enable".
-class ACTION_DOUBLE : public GFPDB_ACTION
+class ACTION_DOUBLE : public GFPDB_ACTION, public RECORDING<ACTION_DOUBLE>
 {
 public:
     // An action with the properties of `type` (value N starts as "default N"); none for an unknown type.
     explicit ACTION_DOUBLE(int type);
     ~ACTION_DOUBLE() override;
 
-    std::string get_property_label(GFPDB_ACT_PROPERTY property) const override;
-    std::string get_property_value(GFPDB_ACT_PROPERTY property) const override;
-    std::string get_property_default(GFPDB_ACT_PROPERTY property) const override;
-    bool has_property(GFPDB_ACT_PROPERTY property) const override;
-    std::vector<std::string> get_property_choices(GFPDB_ACT_PROPERTY property) const override;
-    void set_property_value(GFPDB_ACT_PROPERTY property, const std::string& value) override;
+    std::string get_property_label(GFPDB_ACT_PROPERTY property) const override
+    {
+        return entry(recorded("get_property_label", property).labels, property, "label " + std::to_string(property));
+    }
+    std::string get_property_value(GFPDB_ACT_PROPERTY property) const override
+    {
+        return entry(recorded("get_property_value", property).values, property);
+    }
+    std::string get_property_default(GFPDB_ACT_PROPERTY property) const override
+    {
+        return recorded("get_property_default", property).default_of(property);
+    }
+    bool has_property(GFPDB_ACT_PROPERTY property) const override
+    {
+        return contains(recorded("has_property", property).properties, property);
+    }
+    std::vector<std::string> get_property_choices(GFPDB_ACT_PROPERTY property) const override
+    {
+        return entry(recorded("get_property_choices", property).choices, property);
+    }
+    void set_property_value(GFPDB_ACT_PROPERTY property, const std::string& value) override
+    {
+        recorded("set_property_value", property, value).values[property] = value;
+    }
     bool check_property_value(GFPDB_ACT_PROPERTY property, const std::string& value, std::string& error) const override;
-    bool is_property_enabled(GFPDB_ACT_PROPERTY property) const override;
+    bool is_property_enabled(GFPDB_ACT_PROPERTY property) const override
+    {
+        return recorded("is_property_enabled", property).disabled.count(property) == 0;
+    }
 
+    static std::string default_of(int property) { return "default " + std::to_string(property); }
+    QString label_of_calls() const { return QStringLiteral("action(") + label() + QLatin1Char(')'); }
     QString label() const;
 
     std::vector<GFPDB_ACT_PROPERTY> properties;
@@ -51,18 +134,22 @@ public:
     std::map<int, std::string> refused;
 };
 
-class OPERATION_DOUBLE : public GFPDB_OPERATION
+class OPERATION_DOUBLE : public GFPDB_OPERATION, public RECORDING<OPERATION_DOUBLE>
 {
 public:
     // Takes `actions` over.
     explicit OPERATION_DOUBLE(int kind, std::vector<GFPDB_ACTION*> actions = {});
     ~OPERATION_DOUBLE() override;
 
-    const std::vector<GFPDB_ACTION*>* get_actions() const override;
-    int get_action_count() const override;
+    const std::vector<GFPDB_ACTION*>* get_actions() const override
+    {
+        return recorded("get_actions").without_list ? nullptr : &actions;
+    }
+    int get_action_count() const override { return static_cast<int>(recorded("get_action_count").actions.size()); }
     void add_action(GFPDB_ACTION* action) override;
 
     QString label() const { return QStringLiteral("op%1").arg(m_kind); }
+    QString label_of_calls() const { return label(); }
 
     std::vector<GFPDB_ACTION*> actions;
     // get_actions() answers null.
@@ -70,34 +157,58 @@ public:
 };
 
 // A record. In the log it is "flash:NAME", or "new:NAME" when create_flash made it.
-class FLASH_DOUBLE : public GFPDB_FLASH
+class FLASH_DOUBLE : public GFPDB_FLASH, public RECORDING<FLASH_DOUBLE>
 {
 public:
-    FLASH_DOUBLE(const QString& prefix, std::string flash_name);
-    ~FLASH_DOUBLE() override;
+    FLASH_DOUBLE(QString label_prefix, std::string flash_name)
+        : prefix(std::move(label_prefix)), name(std::move(flash_name))
+    {}
+    ~FLASH_DOUBLE() override { delete_operations(); }
 
-    std::string get_name() const override;
-    void set_name(const std::string& new_name) override;
-    std::string get_density() const override;
-    void set_density(const std::string& density) override;
-    int get_device_family() const override;
-    int get_config_scheme() const override;
-    std::string get_db_dir() const override;
-    void set_db_dir(const std::string& directory) override;
-    bool is_user_defined() const override;
-    void set_user_defined(bool defined) override;
-    bool is_template() const override;
-    std::string get_revision() const override;
-    const std::vector<GFPDB_OPERATION*>* get_operations(bool flow_variant) const override;
+    std::string get_name() const override { return recorded("get_name").name; }
+    void set_name(const std::string& new_name) override { recorded("set_name", new_name).name = new_name; }
+    std::string get_density() const override { return entry(recorded("get_density").strings, GFPDB_FLASH_DENSITY); }
+    void set_density(const std::string& density) override
+    {
+        recorded("set_density", density).strings[GFPDB_FLASH_DENSITY] = density;
+    }
+    int get_device_family() const override { return recorded("get_device_family").family; }
+    int get_config_scheme() const override { return recorded("get_config_scheme").scheme; }
+    std::string get_db_dir() const override { return recorded("get_db_dir").db_dir; }
+    void set_db_dir(const std::string& directory) override { recorded("set_db_dir", directory).db_dir = directory; }
+    bool is_user_defined() const override { return recorded("is_user_defined").user_defined; }
+    void set_user_defined(bool defined) override { recorded("set_user_defined", defined).user_defined = defined; }
+    bool is_template() const override { return recorded("is_template").template_record; }
+    std::string get_revision() const override { return recorded("get_revision").revision; }
+    const std::vector<GFPDB_OPERATION*>* get_operations(bool flow_variant) const override
+    {
+        return entry_or_null(recorded("get_operations", flow_variant).operations, flow_variant);
+    }
     void set_operation(GFPDB_OPERATION* operation, bool flow_variant) override;
-    GFPDB_OPERATION* find_operation(int kind, bool flow_variant) const override;
-    void clear_operations() override;
-    std::string get_string_property(GFPDB_FLASH_PROPERTY property) const override;
-    int get_int_property(GFPDB_FLASH_PROPERTY property, int default_value) const override;
-    void set_int_property(GFPDB_FLASH_PROPERTY property, int value) override;
-    void set_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value) override;
+    GFPDB_OPERATION* find_operation(int kind, bool flow_variant) const override
+    {
+        return recorded("find_operation", kind, flow_variant).operation_of(kind, flow_variant);
+    }
+    void clear_operations() override { recorded("clear_operations").delete_operations(); }
+    std::string get_string_property(GFPDB_FLASH_PROPERTY property) const override
+    {
+        return entry(recorded("get_string_property", property).strings, property);
+    }
+    int get_int_property(GFPDB_FLASH_PROPERTY property, int default_value) const override
+    {
+        return entry(recorded("get_int_property", property, default_value).ints, property, default_value);
+    }
+    void set_int_property(GFPDB_FLASH_PROPERTY property, int value) override
+    {
+        recorded("set_int_property", property, value).ints[property] = value;
+    }
+    void set_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value) override
+    {
+        recorded("set_string_property", property, value).strings[property] = value;
+    }
 
-    QString label() const;
+    QString label() const { return prefix + QLatin1Char(':') + QString::fromUtf8(name.c_str()); }
+    QString label_of_calls() const { return label(); }
     // The name and value lines of the actions of one operation, for a comparison: "0:write enable".
     QStringList flow(int kind, bool flow_variant) const;
     // Those of all five kinds in one list.
@@ -109,13 +220,22 @@ public:
     bool user_defined = true;
     std::map<int, std::string> strings;
     std::map<int, int> ints;
+    int family = 0;
+    int scheme = -1;
+    bool template_record = false;
+    std::string revision;
     // Owned. A variant that is not there answers null.
     std::map<bool, std::vector<GFPDB_OPERATION*>> operations;
+
+private:
+    // Null where there is none.
+    GFPDB_OPERATION* operation_of(int kind, bool flow_variant) const;
+    void delete_operations();
 };
 
 // A manager. In the log it is its label. Names are looked up in `flashes`; with `follows_saves` a successful save or
 // delete changes `flashes` and `custom_names`, as a real database would.
-class MGR_DOUBLE : public GFPDB_MGR
+class MGR_DOUBLE : public GFPDB_MGR, public RECORDING<MGR_DOUBLE>
 {
 public:
     explicit MGR_DOUBLE(QString manager_label);
@@ -128,50 +248,127 @@ public:
     // Makes a record that find_flash finds, but that no list names.
     FLASH_DOUBLE& add_record(const std::string& name);
     // Refuses every value of `property`, or one value, with `error`.
-    void refuse(int property, const std::string& error);
-    void refuse(int property, const std::string& value, const std::string& error);
+    void refuse(int property, const std::string& error) { refused_properties[property] = error; }
+    void refuse(int property, const std::string& value, const std::string& error)
+    {
+        refused_values[{property, value}] = error;
+    }
 
-    bool get_flow_variant() const override;
-    int get_device_family() const override;
-    void set_device_family(int new_family) override;
-    int get_config_scheme() const override;
-    void set_config_scheme(int new_scheme) override;
-    GFPDB_FLASH* find_flash(const std::string& name, bool load_flows) override;
-    bool is_builtin_flash(const std::string& name) const override;
-    bool is_custom_flash(const std::string& name) const override;
-    std::string get_last_error() const override;
-    bool is_hidden_flash(const std::string& name, bool flows) const override;
-    bool can_add_flash() const override;
-    bool can_edit_flow() const override;
-    bool is_writable() const override;
-    bool check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const override;
+    bool get_flow_variant() const override { return recorded("get_flow_variant").flow_variant; }
+    int get_device_family() const override { return recorded("get_device_family").m_family; }
+    void set_device_family(int family) override { recorded("set_device_family", family).m_family = family; }
+    int get_config_scheme() const override { return recorded("get_config_scheme").m_scheme; }
+    void set_config_scheme(int scheme) override { recorded("set_config_scheme", scheme).m_scheme = scheme; }
+    GFPDB_FLASH* find_flash(const std::string& name, bool load_flows) override
+    {
+        return entry(recorded("find_flash", name, load_flows).flashes, name);
+    }
+    bool is_builtin_flash(const std::string& name) const override
+    {
+        return contains(recorded("is_builtin_flash", name).builtin_names, name);
+    }
+    bool is_custom_flash(const std::string& name) const override
+    {
+        return contains(recorded("is_custom_flash", name).custom_names, name);
+    }
+    std::string get_last_error() const override { return recorded("get_last_error").last_error; }
+    bool is_hidden_flash(const std::string& name, bool flows) const override
+    {
+        recorded("is_hidden_flash", name, flows);
+        return (flows ? hidden_flows : hidden_properties).count(name) != 0;
+    }
+    bool can_add_flash() const override
+    {
+        return recorded("can_add_flash").add_allowed && schemes_without_devices.count(m_scheme) == 0;
+    }
+    bool can_edit_flow() const override
+    {
+        return recorded("can_edit_flow").flow_edit_allowed && schemes_without_flows.count(m_scheme) == 0;
+    }
+    bool is_writable() const override { return recorded("is_writable").writable; }
+    bool check_int_property(GFPDB_FLASH_PROPERTY property, int value, std::string& error) const override
+    {
+        return recorded("check_int_property", property, value, ERROR_IN{error})
+            .is_accepted(property, std::to_string(value), error);
+    }
     bool check_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
-                               std::string& error) const override;
-    bool is_property_used(GFPDB_FLASH_PROPERTY property) const override;
+                               std::string& error) const override
+    {
+        return recorded("check_string_property", property, value, ERROR_IN{error}).is_accepted(property, value, error);
+    }
+    bool is_property_used(GFPDB_FLASH_PROPERTY property) const override
+    {
+        recorded("is_property_used", property);
+        return entry(unused_properties_of, m_scheme, unused_properties).count(property) == 0;
+    }
     bool verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,
                                 std::string& error) const override;
     bool save_flash(GFPDB_FLASH* flash, const std::string& directory) override;
     bool delete_flash(const std::string& name, const std::string& directory) override;
     bool restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
-                       const std::string& new_name) override;
-    void get_family_list(std::vector<int>& list) const override;
-    std::vector<int>& get_config_scheme_list(std::vector<int>& list) const override;
-    std::vector<std::string>& get_custom_flash_names(std::vector<std::string>& names, int of_family, int of_scheme,
-                                                     int reserved) const override;
-    std::vector<std::string>& get_builtin_flash_names(std::vector<std::string>& names, int of_family, int of_scheme,
-                                                      int reserved) const override;
-    std::vector<std::string>& get_voltage_list(std::vector<std::string>& list) const override;
-    std::vector<std::string>& get_density_list(std::vector<std::string>& list) const override;
-    std::vector<std::string>& get_template_list(std::vector<std::string>& list) const override;
-    std::vector<std::string>& get_user_template_list(std::vector<std::string>& list) const override;
-    bool is_template(const std::string& name) const override;
+                       const std::string& new_name) override
+    {
+        return recorded("restore_flash", history_id, directory, how, new_name).restore_succeeds;
+    }
+    void get_family_list(std::vector<int>& list) const override { list = recorded("get_family_list").families; }
+    std::vector<int>& get_config_scheme_list(std::vector<int>& list) const override
+    {
+        return filled(list, entry(recorded("get_config_scheme_list").schemes_of, m_family, schemes));
+    }
+    std::vector<std::string>& get_custom_flash_names(std::vector<std::string>& names, int family, int scheme,
+                                                     int reserved) const override
+    {
+        recorded("get_custom_flash_names", family, scheme, reserved);
+        return filled(names, entry(custom_names_of, {family, scheme}, custom_names));
+    }
+    std::vector<std::string>& get_builtin_flash_names(std::vector<std::string>& names, int family, int scheme,
+                                                      int reserved) const override
+    {
+        recorded("get_builtin_flash_names", family, scheme, reserved);
+        return filled(names, entry(builtin_names_of, {family, scheme}, builtin_names));
+    }
+    std::vector<std::string>& get_voltage_list(std::vector<std::string>& list) const override
+    {
+        return filled(list, recorded("get_voltage_list").voltages);
+    }
+    std::vector<std::string>& get_density_list(std::vector<std::string>& list) const override
+    {
+        return filled(list, recorded("get_density_list").densities);
+    }
+    std::vector<std::string>& get_template_list(std::vector<std::string>& list) const override
+    {
+        return filled(list, recorded("get_template_list").templates);
+    }
+    std::vector<std::string>& get_user_template_list(std::vector<std::string>& list) const override
+    {
+        return filled(list, recorded("get_user_template_list").user_templates);
+    }
+    bool is_template(const std::string& name) const override
+    {
+        return contains(recorded("is_template", name).templates, name);
+    }
     GFPDB_FLASH* create_flash(const std::string& name) override;
     GFPDB_ACTION* create_action(GFPDB_ACT_TYPE type) override;
-    GFPDB_OPERATION* create_operation(int kind) override;
-    const std::vector<GFPDB_OPERATION*>* get_builtin_template_operations(int index, bool variant) override;
-    const std::vector<GFPDB_OPERATION*>* get_template_operations(const std::string& name, bool variant) override;
-    bool is_flow_editable(const GFPDB_FLASH* flash) const override;
+    GFPDB_OPERATION* create_operation(int kind) override
+    {
+        const bool refused = recorded("create_operation", kind).refused_operations.count(kind) != 0;
+        return refused ? nullptr : new OPERATION_DOUBLE(kind);
+    }
+    const std::vector<GFPDB_OPERATION*>* get_builtin_template_operations(int index, bool variant) override
+    {
+        recorded("get_builtin_template_operations", index, variant);
+        return entry_or_null(builtin_template_operations, {index, variant});
+    }
+    const std::vector<GFPDB_OPERATION*>* get_template_operations(const std::string& name, bool variant) override
+    {
+        return entry_or_null(recorded("get_template_operations", name, variant).template_operations, {name, variant});
+    }
+    bool is_flow_editable(const GFPDB_FLASH* flash) const override
+    {
+        return recorded("is_flow_editable", flash).flow_editable;
+    }
     bool remove_template(const std::string& name) override;
+    QString label_of_calls() const { return label; }
 
     QString label;
     bool flow_variant = false;
@@ -209,6 +406,8 @@ public:
     bool save_succeeds = true;
     bool delete_succeeds = true;
     bool remove_succeeds = true;
+    bool restore_succeeds = false;
+    bool writable = true;
     // What get_last_error answers.
     std::string last_error;
     bool creates_flash = true;
@@ -239,6 +438,13 @@ class GFPDB_WORLD
 {
 public:
     static GFPDB_WORLD& instance();
+    // The same, after a call of a function of the class `object` was recorded.
+    template <typename... ARGUMENTS>
+    static GFPDB_WORLD& recorded(const char* object, const char* function, const ARGUMENTS&... arguments)
+    {
+        log_call(QLatin1String(object), function, arguments...);
+        return instance();
+    }
 
     // A fresh world with one active manager "mgr" of six families, five schemes and no devices.
     void reset();

@@ -12,15 +12,7 @@ namespace {
 FILE_DLG_ANSWERS g_answers;
 QList<MADE_CONNECTION> g_connections;
 
-void record(const char* function, const QStringList& arguments = {})
-{
-    CALL_LOG::instance().record(QStringLiteral("file_dlg"), QLatin1String(function), arguments);
-}
-
-QString quoted(const QString& text)
-{
-    return log_text(text.toStdString());
-}
+constexpr QLatin1String LABEL("file_dlg");
 
 QString object_text(const QObject* object)
 {
@@ -51,46 +43,47 @@ bool kovq_safe_connect(const QObject* sender, const char* signal, const QObject*
 KOVQ_NATIVE_FILE_DLG::KOVQ_NATIVE_FILE_DLG(QWidget* parent)
 {
     g_answers.parent = parent;
-    record("created", {parent == nullptr ? QStringLiteral("null") : parent->objectName()});
+    CALL_LOG::instance().record(LABEL, QStringLiteral("created"),
+                                {parent == nullptr ? QStringLiteral("null") : parent->objectName()});
 }
 
 KOVQ_NATIVE_FILE_DLG::~KOVQ_NATIVE_FILE_DLG() = default;
 
 void KOVQ_NATIVE_FILE_DLG::set_file_mode(QFileDialog::FileMode mode)
 {
-    record("set_file_mode", {log_int(mode)});
+    log_call(LABEL, "set_file_mode", mode);
 }
 
 void KOVQ_NATIVE_FILE_DLG::set_option(QFileDialog::Option option, bool on)
 {
-    record("set_option", {log_int(option), log_bool(on)});
+    log_call(LABEL, "set_option", option, on);
 }
 
 void KOVQ_NATIVE_FILE_DLG::set_directory(const QString& directory)
 {
-    record("set_directory", {quoted(directory)});
+    log_call(LABEL, "set_directory", directory);
 }
 
 void KOVQ_NATIVE_FILE_DLG::set_accept_mode(QFileDialog::AcceptMode mode)
 {
-    record("set_accept_mode", {log_int(mode)});
+    log_call(LABEL, "set_accept_mode", mode);
 }
 
 void KOVQ_NATIVE_FILE_DLG::set_window_title(const QString& title)
 {
-    record("set_window_title", {quoted(title)});
+    log_call(LABEL, "set_window_title", title);
 }
 
 int KOVQ_NATIVE_FILE_DLG::exec()
 {
     g_answers.current_dir_at_exec = QDir::currentPath();
-    record("exec");
+    log_call(LABEL, "exec");
     return g_answers.result;
 }
 
 QStringList KOVQ_NATIVE_FILE_DLG::selected_files() const
 {
-    record("selected_files");
+    log_call(LABEL, "selected_files");
     return g_answers.selected;
 }
 

@@ -6,32 +6,29 @@ namespace {
 std::vector<PROMPTED_MESSAGE> g_prompted;
 std::vector<INTERNAL_ERROR_REPORTED> g_reported;
 
-void record(const char* function, const QStringList& arguments = {})
-{
-    CALL_LOG::instance().record(QStringLiteral("MSG_O"), QLatin1String(function), arguments);
-}
+constexpr QLatin1String LABEL("MSG_O");
 
-QString null_or_not(const MSG_REPORT* report)
+} // namespace
+
+QString logged(const MSG_REPORT* report)
 {
     return report == nullptr ? QStringLiteral("null") : QStringLiteral("report");
 }
 
-} // namespace
-
 MSG_BASE::~MSG_BASE()
 {
-    record("destroyed");
+    log_call(LABEL, "destroyed");
 }
 
 void MSG_BASE::fill_args(const std::string& args)
 {
-    record("fill_args", {log_text(args)});
+    log_call(LABEL, "fill_args", args);
     m_args = args;
 }
 
 void MSG_BASE::set_id(int id)
 {
-    record("set_id", {log_int(id)});
+    log_call(LABEL, "set_id", id);
     m_id = id;
 }
 
@@ -43,21 +40,20 @@ std::string MSG_BASE::text() const
 
 MSG_O::MSG_O(MSG_REPORT* report)
 {
-    record("created", {null_or_not(report)});
+    log_call(LABEL, "created", report);
 }
 
 MSG_VALUE MSG_O::prompt(MSG_REPORT* report)
 {
-    record("prompt", {null_or_not(report)});
+    log_call(LABEL, "prompt", report);
     g_prompted.push_back({id(), text()});
     return MSG_VALUE_OK;
 }
 
 void MSG_INTERNAL_ERROR::report(const char* condition, const char* category, const char* source, int line)
 {
-    CALL_LOG::instance().record(QStringLiteral("MSG_INTERNAL_ERROR"), QStringLiteral("report"),
-                                {log_text(condition), log_text(category), log_text(source), log_int(line)});
     const INTERNAL_ERROR_REPORTED error{condition, category, source, line};
+    log_call(QStringLiteral("MSG_INTERNAL_ERROR"), "report", error.condition, error.category, error.source, error.line);
     g_reported.push_back(error);
     throw error;
 }

@@ -371,7 +371,7 @@ private:
         for (int kind = 0; kind < 5; ++kind) {
             lines << qs("mgr.create_operation(%1)").arg(kind)
                   << qs("op%1.add_action(0:%2 %1)").arg(kind).arg(qs(prefix))
-                  << qs("new:%1.set_operation(op%2, %3)").arg(qs(name)).arg(kind).arg(log_bool(variant));
+                  << qs("new:%1.set_operation(op%2, %3)").arg(qs(name)).arg(kind).arg(logged(variant));
         }
         return lines;
     }

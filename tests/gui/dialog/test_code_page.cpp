@@ -79,7 +79,7 @@ private slots:
                                                             {GFPDB_FLASH_TEMPLATE_NAME, "new template " + EURO},
                                                             {GFPDB_FLASH_FLOW_TEMPLATE, "gone " + EURO}}));
         QCOMPARE(calls_of({"delete_flash"}),
-                 QStringList(qs("mgr.delete_flash(%1, \"/db/custom/\")").arg(log_text("name " + EURO))));
+                 QStringList(qs("mgr.delete_flash(%1, \"/db/custom/\")").arg(logged("name " + EURO))));
         QCOMPARE(dlg().device_name(), "name " + EURO);
     }
 
@@ -92,11 +92,11 @@ private slots:
         choose_text("m_voltage_cbox", shown("volt "));
         choose_text("m_density_cbox", shown("dense "));
 
-        QCOMPARE(calls(), QStringList({qs("mgr.check_string_property(0, %1)").arg(log_text("name " + EURO)),
-                                       qs("mgr.check_string_property(1, %1)").arg(log_text("id " + EURO)),
-                                       qs("mgr.check_string_property(2, %1)").arg(log_text("volt " + EURO)),
-                                       qs("mgr.verify_string_property(2, %1)").arg(log_text("volt " + EURO)),
-                                       qs("mgr.check_string_property(3, %1)").arg(log_text("dense " + EURO))}));
+        QCOMPARE(calls(), QStringList({qs("mgr.check_string_property(0, %1)").arg(logged("name " + EURO)),
+                                       qs("mgr.check_string_property(1, %1)").arg(logged("id " + EURO)),
+                                       qs("mgr.check_string_property(2, %1)").arg(logged("volt " + EURO)),
+                                       qs("mgr.verify_string_property(2, %1)").arg(logged("volt " + EURO)),
+                                       qs("mgr.check_string_property(3, %1)").arg(logged("dense " + EURO))}));
     }
 
     void refusals_are_shown_in_the_code_page_data()
@@ -139,7 +139,7 @@ private slots:
 
     void a_stored_template_is_asked_for_in_the_code_page()
     {
-        const QString name = log_text("template " + EURO);
+        const QString name = logged("template " + EURO);
         open();
 
         choose_text("m_flow_template_cbox", shown("template "));
@@ -163,7 +163,7 @@ private slots:
         editor.findChild<QPushButton*>(qs("m_remove_button"))->click();
 
         QCOMPARE(calls_of({"remove_template"}),
-                 QStringList(qs("mgr.remove_template(%1)").arg(log_text("template " + EURO))));
+                 QStringList(qs("mgr.remove_template(%1)").arg(logged("template " + EURO))));
     }
 
     void a_typed_directory_goes_out_in_the_code_page()

@@ -375,7 +375,7 @@ private slots:
         QCOMPARE(m_modals.last().text, QString(QChar(0xDF)));
         QCOMPARE(action_of(*page, 0).values[1], std::string("\xFC"));
         QCOMPARE(calls_of({"check_property_value"}),
-                 QStringList{qs("action(5:default 38).check_property_value(1, %1)").arg(log_text("\xFC"))});
+                 QStringList{qs("action(5:default 38).check_property_value(1, %1)").arg(logged(std::string("\xFC")))});
         // The page's own words are not the library's.
         QVERIFY(PAGE(nullptr, 2).findChild<QLabel*>()->text().contains(QChar(0x201C)));
     }
