@@ -81,6 +81,21 @@ std::optional<FILES> left_after(const GFPDB_PLACE& place, FAULT_CALL call, int a
     return FAULT_INJECTOR::count(call) < at ? std::nullopt : std::optional<FILES>(left);
 }
 
+std::string number(std::size_t value)
+{
+    return {char(value >> 24), char(value >> 16), char(value >> 8), char(value)};
+}
+
+// What SQLite writes at the end of the journals of a change of several databases: the file that lists them. It removes
+// that file after such a journal was rolled back.
+std::string with_list(const std::string& journal, const std::string& list)
+{
+    std::size_t sum = 0;
+    for (const char byte : list)
+        sum += static_cast<unsigned char>(byte);
+    return journal + number(0) + list + number(list.size()) + number(sum) + "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+}
+
 void ignore_message(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 } // namespace
@@ -225,6 +240,32 @@ private slots:
         QCOMPARE(read_file(place.db_file()), older.database);
         ::unlink(journal_of(place).c_str());
         QCOMPARE(store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
+    }
+
+    void a_journal_that_names_another_file_has_nothing_removed()
+    {
+        const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+        save(*gfpdb_make_store(place.db_dir()), "A");
+        FILES files = *left_after(place, FAULT_CALL::SYNC, 3, 10);
+        QVERIFY(is_hot(files));
+        const std::string letter = place.path("letter");
+        write_file(letter, "of the user");
+        files.journal = with_list(files.journal, letter);
+        put(place, files);
+
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        const bool is_saved = save(*store, "C").has_value();
+
+        QCOMPARE(content_of(letter), std::string("of the user"));
+        QVERIFY(!is_saved);
+        QCOMPARE(store->get_problem(),
+                 "The database " + place.db_file() + " is not used: " + journal_of(place) +
+                     " was written by another program for several databases at once, and names a file that would be " +
+                     "removed. Open the database in that program, or move the file to another directory.");
+        QCOMPARE(read_file(journal_of(place)), files.journal);
+        QCOMPARE(read_file(place.db_file()), files.database);
+        ::unlink(journal_of(place).c_str());
+        QVERIFY(save(*store, "C"));
     }
 
     void no_database_is_made_or_used_beside_a_left_file_data()

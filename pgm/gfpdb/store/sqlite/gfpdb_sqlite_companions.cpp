@@ -143,16 +143,31 @@ bool is_own_journal(const std::string& file, const std::string& journal_path)
     return true;
 }
 
+// True when the journal of that size is one of a change of several databases. Its end names the file that lists them,
+// and SQLite removes whatever has that name once it has rolled the journal back. Nothing here makes such a change.
+bool names_a_list(const std::string& journal_path, std::size_t size)
+{
+    const std::size_t end = JOURNAL_BEGIN.size();
+    return size >= end && PARTS(journal_path).read(size - end, end) == JOURNAL_BEGIN;
+}
+
 std::string real_path_of(const std::string& path)
 {
     const std::unique_ptr<char, decltype(&std::free)> real_path(::realpath(path.c_str(), nullptr), &std::free);
     return real_path ? real_path.get() : path;
 }
 
-bool is_left(const std::string& path)
+// The size of the file; 0 when there is none.
+std::size_t size_of(const std::string& path)
 {
     struct stat status = {};
-    return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
+    return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size)
+                                                                          : 0;
+}
+
+bool is_left(const std::string& path)
+{
+    return size_of(path) > 0;
 }
 
 } // namespace
@@ -182,6 +197,9 @@ std::string gfpdb_companion_problem(const std::string& file)
     if (is_left(wal))
         return problem + wal + " was written by another program, and would change it. Close the database in that " +
                "program. If the file is still there then, move it to another directory.";
+    if (names_a_list(journal, size_of(journal)))
+        return problem + journal + " was written by another program for several databases at once, and names a file " +
+               "that would be removed. Open the database in that program, or move the file to another directory.";
     if (is_left(journal) && !is_own_journal(path, journal))
         return problem + journal + " is the journal of another database, or of another state of this one, and would " +
                "damage it. Move that file to another directory, then try again.";

@@ -7,7 +7,8 @@
 // whichever file that is by then. To tell its own file from another one, every transaction leaves two numbers in the
 // file's first page: its own mark (PRAGMA user_version), which no other transaction has, and the mark of the one before
 // (PRAGMA application_id). The journal keeps the first page as it was before the transaction, so it belongs to a file
-// that has the journal's mark in one of these places. A WAL is always another program's: this one writes none.
+// that has the journal's mark in one of these places. A journal can also name a file that SQLite removes with it. A WAL
+// is always another program's: this one writes none.
 //
 // The companions of a file that is a link lie where the file really is.
 #pragma once
