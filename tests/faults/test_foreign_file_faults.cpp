@@ -346,6 +346,30 @@ private slots:
         QVERIFY(names == NAMES{"A"} || names == (NAMES{"A", "B"}));
     }
 
+    void a_file_that_cannot_be_read_is_not_another_file()
+    {
+        bool is_over = false;
+        int refused = 0;
+        for (int at = 1; !is_over; ++at) {
+            const GFPDB_PLACE place(GFPDB_PLACE::ON::MEMORY);
+            const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+            save(*store, "A");
+            // What is in memory is read again then.
+            save(*gfpdb_make_store(place.db_dir()), "B");
+            FAULT_INJECTOR::inject(place.db_dir(), {FAULT_CALL::READ, at, EIO});
+            const bool is_saved = save(*store, "C").has_value();
+            FAULT_INJECTOR::stop();
+            is_over = FAULT_INJECTOR::count(FAULT_CALL::READ) < at;
+
+            refused += is_saved ? 0 : 1;
+            QVERIFY2(is_saved || store->get_last_error().find("replaced") == std::string::npos,
+                     store->get_last_error().c_str());
+            QVERIFY(is_saved || save(*store, "C"));
+            QCOMPARE(names_in(place), (NAMES{"A", "B", "C"}));
+        }
+        QVERIFY(refused > 0);
+    }
+
     void what_is_reported_as_stored_is_in_the_file_of_that_name_data()
     {
         QTest::addColumn<FAULT_CALL>("call");

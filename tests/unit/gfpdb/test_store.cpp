@@ -138,6 +138,9 @@ private slots:
         const std::string upgraded = schema_of(file());
         make_file(m_place->path("new.sqlite"), "A");
         QCOMPARE(upgraded, schema_of(m_place->path("new.sqlite")));
+
+        QVERIFY(gfpdb_make_store(m_place->db_dir())->remove_device(3, 7, "Old", nullptr));
+        QVERIFY(!m_store->get_history().back().changed_by.empty());
         QVERIFY(m_store->save_device(make_row("New")));
     }
 

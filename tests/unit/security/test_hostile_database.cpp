@@ -175,6 +175,21 @@ private slots:
         QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM template").toInt(), 1);
     }
 
+    // SQLite keeps the tables and triggers that it has read as long as the count of changes stays.
+    void a_trigger_that_was_read_and_hidden_does_not_run()
+    {
+        make_database();
+        run_sql(m_place->db_file(), "CREATE TRIGGER t AFTER INSERT ON device BEGIN DELETE FROM template; END");
+        const int count = run_sql(m_place->db_file(), "PRAGMA schema_version").toInt();
+        QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+        run_sql(m_place->db_file(), "DROP TRIGGER t");
+        run_sql(m_place->db_file(), "PRAGMA schema_version = " + std::to_string(count));
+
+        QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+
+        QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM template").toInt(), 1);
+    }
+
     // SQLite counts that as a change of the schema, which it is not.
     void a_file_that_was_only_tidied_up_is_used()
     {

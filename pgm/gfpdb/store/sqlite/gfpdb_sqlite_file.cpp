@@ -396,22 +396,37 @@ bool GFPDB_SQLITE_FILE::is_stored_in_place()
                              "stored, which is lost: look at the devices that are there now, then try again.");
 }
 
+// The schema is read again: nothing runs but what is in the file, and is ours, at that time.
+GFPDB_SQLITE_FILE::FOUND GFPDB_SQLITE_FILE::look_again()
+{
+    const std::string database_id = m_schema.database_id();
+    const int version = m_schema.version();
+    if (!is_same_file())
+        return FOUND::ANOTHER;
+    if (!m_schema.read())
+        return FOUND::UNREADABLE;
+    const bool is_usable = m_schema.version() == GFPDB_SQLITE_SCHEMA::VERSION || m_schema.version() == version;
+    return is_usable && m_schema.database_id() == database_id ? FOUND::THE_SAME : FOUND::ANOTHER;
+}
+
 bool GFPDB_SQLITE_FILE::run_transaction(const WORK& work)
 {
     if (!m_connection.run("BEGIN IMMEDIATE"))
         return false;
     const int mark = new_mark();
-    bool is_same = is_same_file() && m_schema.is_same_database();
-    const bool is_done = is_same && set_mark(mark) && work();
-    is_same = is_same && is_same_file();
-    if (is_done && is_same && m_connection.run("COMMIT"))
+    FOUND found = look_again();
+    const bool is_done = found == FOUND::THE_SAME && set_mark(mark) && work();
+    if (found == FOUND::THE_SAME && !is_same_file())
+        found = FOUND::ANOTHER;
+    if (is_done && found == FOUND::THE_SAME && m_connection.run("COMMIT"))
         return is_stored_in_place();
 
     const std::string error = m_connection.last_error();
     m_connection.run("ROLLBACK");
-    if (!is_same) {
-        open();
-        return m_state == STATE::UNUSABLE ? m_connection.fail(m_problem) : refuse_replaced_file();
-    }
-    return is_done ? is_stored(mark, error) && is_stored_in_place() : m_connection.fail(error);
+    if (found == FOUND::THE_SAME)
+        return is_done ? is_stored(mark, error) && is_stored_in_place() : m_connection.fail(error);
+    open();
+    if (m_state == STATE::UNUSABLE)
+        return m_connection.fail(m_problem);
+    return found == FOUND::UNREADABLE ? m_connection.fail(error) : refuse_replaced_file();
 }

@@ -69,6 +69,13 @@ private:
         READ_ONLY, // m_problem says why
         READ_WRITE,
     };
+    // What a transaction finds in the place of what was opened.
+    enum class FOUND
+    {
+        THE_SAME,
+        ANOTHER,    // another file or database
+        UNREADABLE, // last_error() says why
+    };
     // Which file a name stands for.
     struct FILE_IDENTITY
     {
@@ -95,6 +102,7 @@ private:
     bool build_new_file(const std::string& path);
     bool fail_to_make(const std::string& why);
 
+    FOUND look_again();
     bool run_transaction(const WORK& work);
     bool set_mark(int mark);
     std::optional<int> read_mark();

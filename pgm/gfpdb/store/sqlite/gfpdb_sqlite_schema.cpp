@@ -174,15 +174,19 @@ bool GFPDB_SQLITE_SCHEMA::check_encoding()
                              gfpdb_to_utf8(encoding) + ", not UTF-8. It is left as it is.");
 }
 
-// Nothing but the list of what is in the file is read before that list is known to be ours.
+// Nothing but the list of what is in the file is read before that list is known to be ours. SQLite must not go on with
+// tables and triggers that it has read before: who changes the file can change them back, and set their count, by which
+// SQLite notices changes. The first statement takes the lock, so that the tables are those of this transaction.
 bool GFPDB_SQLITE_SCHEMA::check_tables()
 {
     static const QString META_ROW = schema_row(
         {QStringLiteral("table"), QStringLiteral("meta"), QStringLiteral("meta"), QStringLiteral(GFPDB_META_TABLE)});
-    const std::optional<QStringList> rows = read_rows();
+    const std::optional<QStringList> rows =
+        m_connection.run("PRAGMA schema_version") && m_connection.run("PRAGMA writable_schema = RESET") ? read_rows()
+                                                                                                        : std::nullopt;
     const std::optional<std::string> version =
         rows && rows->contains(META_ROW) ? read_meta("schema_version") : std::string();
-    return rows && version && is_known(*rows, QByteArray::fromStdString(*version).toInt()) && remember_count();
+    return rows && version && is_known(*rows, QByteArray::fromStdString(*version).toInt());
 }
 
 bool GFPDB_SQLITE_SCHEMA::is_known(const QStringList& rows, int version)
@@ -199,32 +203,9 @@ bool GFPDB_SQLITE_SCHEMA::is_known(const QStringList& rows, int version)
         return m_connection.fail("The database " + m_connection.path() +
                                  " was altered by another program: its tables are not those of " + "schema " +
                                  std::to_string(m_version) + ". It is left as it is.");
-    m_database_id = read_meta("database_id").value_or(std::string());
-    return true;
-}
-
-// SQLite counts the changes of a schema.
-std::optional<int> GFPDB_SQLITE_SCHEMA::read_count()
-{
-    QSqlQuery query;
-    if (!m_connection.prepare(query, "PRAGMA schema_version") || !m_connection.run(query) || !query.next())
-        return std::nullopt;
-    return query.value(0).toInt();
-}
-
-bool GFPDB_SQLITE_SCHEMA::remember_count()
-{
-    m_count = read_count();
-    return m_count.has_value();
-}
-
-// True in a transaction on the file as it was opened: the same database with the same schema.
-bool GFPDB_SQLITE_SCHEMA::is_same_database()
-{
-    if (m_count == read_count())
-        return m_database_id == read_meta("database_id");
-    const std::string database_id = m_database_id;
-    return check_tables() && m_version == VERSION && m_database_id == database_id;
+    const std::optional<std::string> database_id = read_meta("database_id");
+    m_database_id = database_id.value_or(std::string());
+    return database_id.has_value();
 }
 
 // Reads the version again: another program may have upgraded the file meanwhile. Every record may be written: that is
@@ -232,8 +213,10 @@ bool GFPDB_SQLITE_SCHEMA::is_same_database()
 bool GFPDB_SQLITE_SCHEMA::migrate()
 {
     const std::optional<std::string> text = read_meta("schema_version");
-    return text && m_connection.run("PRAGMA cache_spill = ON") && run_steps(QByteArray::fromStdString(*text).toInt()) &&
-           m_connection.run("PRAGMA cache_spill = OFF");
+    if (!text || !m_connection.run("PRAGMA cache_spill = ON") || !run_steps(QByteArray::fromStdString(*text).toInt()))
+        return false;
+    m_version = VERSION;
+    return m_connection.run("PRAGMA cache_spill = OFF");
 }
 
 bool GFPDB_SQLITE_SCHEMA::make()

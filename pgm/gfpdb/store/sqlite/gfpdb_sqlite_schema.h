@@ -29,14 +29,13 @@ public:
 
     // Fills a new file.
     bool make();
-    // False when the schema is none of ours.
+    // False when the schema is none of ours. SQLite forgets what it had read of it before. Every transaction begins
+    // with this, so that nothing runs in it but what is ours.
     bool read();
     // Brings the file to the present version.
     bool migrate();
-    // True when the file has the present schema, as it was when read() read it, and is the same database.
-    bool is_same_database();
 
-    // As read() found them.
+    // As read() found them, and migrate() left them.
     int version() const { return m_version; }
     // A text that no other database has.
     const std::string& database_id() const { return m_database_id; }
@@ -47,8 +46,6 @@ private:
     bool check_tables();
     bool check_encoding();
     bool is_known(const QStringList& rows, int version);
-    std::optional<int> read_count();
-    bool remember_count();
     bool run_steps(int from);
     bool run_step(int from);
     bool run_all(const std::vector<const char*>& statements);
@@ -58,6 +55,4 @@ private:
     GFPDB_SQLITE_CONNECTION& m_connection;
     std::string m_database_id;
     int m_version = 0;
-    // SQLite's count of changes of the schema, when that was found to be a known one.
-    std::optional<int> m_count;
 };
