@@ -84,26 +84,32 @@ private:
     int m_row_line = 1;
 };
 
-void add_cell(std::string& line, const std::string& cell)
-{
-    if (cell.find_first_of(",\"\r\n") == std::string::npos) {
-        line += cell;
-        return;
-    }
-    line += '"';
-    for (const char character : cell) {
-        line += character;
-        if (character == '"')
-            line += '"';
-    }
-    line += '"';
-}
-
 } // namespace
 
 std::vector<CSV_ROW> csv_rows(const std::string& text)
 {
     return CSV_SPLITTER().split(text);
+}
+
+// Some spreadsheets take it for a formula behind blanks and line breaks as well.
+std::string csv_spreadsheet_text(const std::string& text)
+{
+    const std::size_t start = text.find_first_not_of(" \t\r\n");
+    const bool is_formula = start != std::string::npos && std::string("=+-@").find(text[start]) != std::string::npos;
+    return is_formula ? '\'' + text : text;
+}
+
+std::string csv_cell(const std::string& text)
+{
+    if (text.find_first_of(",\"\r\n") == std::string::npos)
+        return text;
+    std::string cell = "\"";
+    for (const char character : text) {
+        cell += character;
+        if (character == '"')
+            cell += '"';
+    }
+    return cell + '"';
 }
 
 std::string csv_line(const std::vector<std::string>& cells)
@@ -112,7 +118,7 @@ std::string csv_line(const std::vector<std::string>& cells)
     for (std::size_t at = 0; at < cells.size(); ++at) {
         if (at > 0)
             line += ',';
-        add_cell(line, cells[at]);
+        line += csv_cell(cells[at]);
     }
     return line + '\n';
 }

@@ -20,13 +20,6 @@ bool is_one_of(const std::vector<std::string>& texts, const std::string& text)
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-// Spreadsheets take what begins like this for a formula, some of them also behind blanks and line breaks.
-bool is_formula(const std::string& text)
-{
-    const std::size_t start = text.find_first_not_of(" \t\r\n");
-    return start != std::string::npos && std::string("=+-@").find(text[start]) != std::string::npos;
-}
-
 // The number in a cell, null for an empty one; any other text stays one, so that the reader refuses it.
 JSON_VALUE number_of(const std::string& text)
 {
@@ -94,8 +87,8 @@ std::string gfpdb_write_list(const std::vector<GFPDB_RECORD>& records, GFPDB_LIS
             if (field.kind == GFPDB_FIELD_KIND::FLOWS)
                 continue;
             const std::string value = field.text(record.row);
-            const bool is_dangerous = reader == GFPDB_LIST_FOR::SPREADSHEET && field.is_text() && is_formula(value);
-            cells.push_back(is_dangerous ? '\'' + value : value);
+            const bool is_guarded = reader == GFPDB_LIST_FOR::SPREADSHEET && field.is_text();
+            cells.push_back(is_guarded ? csv_spreadsheet_text(value) : value);
         }
         text += csv_line(cells);
     }

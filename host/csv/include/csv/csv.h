@@ -22,5 +22,11 @@ struct CSV_ROW
 // The rows of `text`, empty lines left out. A quote that is never closed ends with the text.
 std::vector<CSV_ROW> csv_rows(const std::string& text);
 
+// `text` with a quote before it when a spreadsheet would run it as a formula.
+std::string csv_spreadsheet_text(const std::string& text);
+
+// A cell as it stands in a line, in quotes where it must be.
+std::string csv_cell(const std::string& text);
+
 // A row as a line with its line break. Cells are quoted where they must be.
 std::string csv_line(const std::vector<std::string>& cells);
