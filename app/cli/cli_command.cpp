@@ -3,12 +3,12 @@
 
 #include "cli_place.h"
 
-#include "gfpdb/gfpdb_text.h"
+#include <QFile>
 
 std::string CLI_CALL::argument(int index) const
 {
     const QStringList arguments = options.positionalArguments();
-    return index < arguments.size() ? gfpdb_to_utf8(arguments[index]) : std::string();
+    return index < arguments.size() ? QFile::encodeName(arguments[index]).toStdString() : std::string();
 }
 
 int CLI_CALL::argument_count() const
@@ -23,7 +23,7 @@ bool CLI_CALL::has(const char* option) const
 
 std::string CLI_CALL::value(const char* option) const
 {
-    return gfpdb_to_utf8(options.value(QLatin1String(option)));
+    return QFile::encodeName(options.value(QLatin1String(option))).toStdString();
 }
 
 std::optional<int> CLI_CALL::number(const char* option) const

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-// JSON as the tool prints it: two blanks per level, one value per line, in the order in which they are added.
+// JSON as the tool prints it: two blanks per level, one value per line, in the order in which they are added. Bytes
+// that are not UTF-8 become replacement characters.
 #pragma once
+
+#include "gfpdb/gfpdb_text.h"
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
@@ -24,7 +27,11 @@ public:
     void end_list() { m_writer.EndArray(); }
 
     // An item of a list.
-    void add(const std::string& text) { m_writer.String(text.data(), static_cast<rapidjson::SizeType>(text.size())); }
+    void add(const std::string& text)
+    {
+        const QByteArray shown = gfpdb_from_utf8(text).toUtf8();
+        m_writer.String(shown.constData(), static_cast<rapidjson::SizeType>(shown.size()));
+    }
     // A member of an object.
     void add(const char* key, const std::string& text)
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli_program.h"
 
+#include "cli_file_names.h"
 #include "cli_place.h"
 
 #include "gfpdb/gfpdb_text.h"
@@ -8,10 +9,10 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QLoggingCategory>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <clocale>
+#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -211,12 +212,11 @@ int run(const CLI_PROGRAM& program, const QStringList& arguments)
     return exit_code == CLI_EXIT_OK ? CLI_EXIT_BAD_FILE : exit_code;
 }
 
-// Arguments and paths are UTF-8 also where the locale is plain ASCII, as in many build machines.
-void use_utf8()
+// What the library logs can have texts of others in it.
+void print_log(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    constexpr int UTF8_MIB = 106;
-    if (QTextCodec::codecForLocale()->mibEnum() != UTF8_MIB)
-        QTextCodec::setCodecForLocale(QTextCodec::codecForMib(UTF8_MIB));
+    const std::string line = cli_printable(gfpdb_to_utf8(qFormatLogMessage(type, context, text))) + '\n';
+    std::fputs(line.c_str(), stderr);
 }
 
 } // namespace
@@ -224,7 +224,8 @@ void use_utf8()
 int cli_main(int argc, char** argv, const CLI_PROGRAM& program)
 {
     std::setlocale(LC_ALL, "");
-    use_utf8();
+    cli_use_file_names();
+    qInstallMessageHandler(print_log);
     const QCoreApplication application(argc, argv);
     return run(program, application.arguments());
 }

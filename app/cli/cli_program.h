@@ -16,5 +16,5 @@ struct CLI_PROGRAM
     std::vector<std::unique_ptr<CLI_COMMAND>> commands;
 };
 
-// What main() of a tool does: runs it with its arguments and gives its exit code. Arguments and paths are UTF-8.
+// What main() of a tool does: runs it with its arguments and gives its exit code. Arguments are UTF-8, paths any bytes.
 int cli_main(int argc, char** argv, const CLI_PROGRAM& program);

@@ -16,7 +16,7 @@ constexpr const char* JSON_SUFFIX = ".json";
 
 bool is_file(const std::string& operand)
 {
-    const QString path = gfpdb_from_utf8(operand);
+    const QString path = QFile::decodeName(QByteArray::fromStdString(operand));
     return path.endsWith(QLatin1String(JSON_SUFFIX), Qt::CaseInsensitive) || path.contains(QLatin1Char('/')) ||
            operand == "-" || QFileInfo(path).isFile();
 }

@@ -60,7 +60,7 @@ bool replace_file(QSaveFile& file, const std::string& text)
 // A regular file is replaced as a whole. A device or pipe is written to: it must not be replaced by a file.
 int write_file(const CLI_CALL& call, const std::string& text)
 {
-    const QString path = gfpdb_from_utf8(call.value(CLI_OPTION_OUTPUT));
+    const QString path = QFile::decodeName(QByteArray::fromStdString(call.value(CLI_OPTION_OUTPUT)));
     const QFileInfo existing(path);
     QString error;
     if (existing.exists() && !existing.isFile()) {
@@ -74,7 +74,7 @@ int write_file(const CLI_CALL& call, const std::string& text)
     }
     if (error.isEmpty())
         return CLI_EXIT_OK;
-    call.output.error(gfpdb_to_utf8(path) + ": The file cannot be written: " + gfpdb_to_utf8(error) + ".");
+    call.output.error(call.value(CLI_OPTION_OUTPUT) + ": The file cannot be written: " + gfpdb_to_utf8(error) + ".");
     return CLI_EXIT_BAD_FILE;
 }
 

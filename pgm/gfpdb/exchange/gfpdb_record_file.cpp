@@ -7,8 +7,6 @@
 
 #include "gfpdb/gfpdb_exchange.h"
 
-#include <QFile>
-
 #include <unistd.h>
 
 namespace {
@@ -22,10 +20,8 @@ constexpr std::size_t LARGEST = std::size_t(1) << 30;
 bool read_text(const std::string& path, std::string& text, std::string& problem)
 {
     std::string reason;
-    std::optional<std::string> bytes =
-        path == STANDARD_INPUT
-            ? gfpdb_read_descriptor(STDIN_FILENO, LARGEST, reason)
-            : gfpdb_read_file(QFile::encodeName(gfpdb_from_utf8(path)).toStdString(), LARGEST, reason);
+    std::optional<std::string> bytes = path == STANDARD_INPUT ? gfpdb_read_descriptor(STDIN_FILENO, LARGEST, reason)
+                                                              : gfpdb_read_file(path, LARGEST, reason);
     if (!bytes) {
         problem = "The file cannot be read: " + reason + ".";
         return false;

@@ -268,6 +268,39 @@ private slots:
         QVERIFY(list.contains("x\x1B[2J\xC2\x9B\r"));
     }
 
+    void no_control_character_of_the_log_reaches_a_terminal()
+    {
+        const QByteArray shown = run_on_terminal({"list", "--verbose", "-d", at("missing \x1B[31m")});
+
+        QVERIFY2(shown.contains("pgm.gfpdb: The database directory "), shown.constData());
+        QVERIFY(!shown.contains('\x1B'));
+    }
+
+    // A file name is bytes.
+    void names_of_files_need_not_be_utf8()
+    {
+        save_part("Mine");
+        QProcess shell;
+        shell.setWorkingDirectory(at(""));
+        shell.start("sh", {"-ec",
+                           R"(odd=$(printf 'odd\377\303\274\355\240\200'); mkdir "$odd"
+                              "$0" export -d db -o "$odd.json"
+                              "$0" import -d "$odd" "$odd.json" --dry-run
+                              "$0" import --dir="$odd" "./$odd.json"
+                              "$0" diff "$odd.json" "$odd.json"
+                              "$0" check --json -d "$odd"
+                              rm "$odd.json" "$odd/gfpdb.sqlite" "$odd/gfpdb.sqlite-journal"; rmdir "$odd")",
+                           GFPDB_PROGRAM});
+        QVERIFY(shell.waitForFinished(120000));
+
+        const QByteArray out = shell.readAllStandardOutput();
+        QCOMPARE(shell.readAllStandardError(), QByteArray());
+        QCOMPARE(shell.exitCode(), 0);
+        QVERIFY2(out.contains("1 new") && out.contains("odd\xFF\xC3\xBC\xED\xA0\x80/"), out.constData());
+        const QJsonDocument report = QJsonDocument::fromJson(out.mid(out.indexOf('{')));
+        QVERIFY(report.object().value("directory").toString().contains("odd\uFFFDü"));
+    }
+
     void a_catalogue_that_cannot_be_read_is_an_error()
     {
         const QString pipe = at("pipe");
