@@ -37,6 +37,10 @@ struct GFPE_CHIP_FAULTS
 struct GFPE_CHIP_FACTS; // what sets a chip apart from others, in pgm/gfpe/chip
 class GFPE_CHIP_CORE;   // in pgm/gfpe/chip
 
+// A chip sees no phases, it counts clocks: on one line, a command with everything behind the opcode as `out`, and with an
+// `in_length` besides, is heard as the same command in phases. It has what real chips have: no more commands than its
+// row in the catalogue and its maker's data sheets give it.
+//
 // Powered up, blank unless a file gives it contents. Its time is its own: it passes with commands and waits, and takes
 // no time of the user. Thread and errors as GFPE_BUS.
 class GFPE_EXPORT GFPE_CHIP : public GFPE_BUS
@@ -66,10 +70,13 @@ public:
     // What was wrong with the commands so far, oldest first, as "02: not write enabled (3 times)"; at most
     // GFPE_CHIP_NOTES different ones.
     std::vector<std::string> get_notes() const;
+    void clear_notes();
     // The size of its memory, and its memory past all commands.
     std::int64_t get_size() const;
     void read_memory(std::int64_t position, std::uint8_t* bytes, std::size_t length) const;
     void write_memory(std::int64_t position, const std::uint8_t* bytes, std::size_t length);
+    // Makes every byte `value`.
+    void fill_memory(std::uint8_t value);
     // True when nothing but data, protection and quad enable is other than after power-up.
     bool is_at_rest() const;
 
