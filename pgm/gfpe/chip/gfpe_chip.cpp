@@ -12,7 +12,7 @@ GFPE_CHIP::GFPE_CHIP(const GFPE_CHIP_FACTS& facts) : m_core(std::make_unique<GFP
 GFPE_CHIP::~GFPE_CHIP()
 {
     std::string problem;
-    m_core->memory().flush(problem);
+    m_core->memory().save(problem);
 }
 
 std::unique_ptr<GFPE_CHIP> GFPE_CHIP::make(const GFPDB_PART& part, std::string& problem)
@@ -34,9 +34,9 @@ bool GFPE_CHIP::use_file(const std::string& path, std::string& problem)
     return m_core->memory().use_file(path, problem);
 }
 
-bool GFPE_CHIP::flush(std::string& problem)
+bool GFPE_CHIP::save(std::string& problem)
 {
-    return m_core->memory().flush(problem);
+    return m_core->memory().save(problem);
 }
 
 GFPE_ABILITIES GFPE_CHIP::get_abilities() const

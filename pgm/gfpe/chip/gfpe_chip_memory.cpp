@@ -103,7 +103,7 @@ bool GFPE_CHIP_MEMORY::use_file(const std::string& path, std::string& problem)
     return true;
 }
 
-bool GFPE_CHIP_MEMORY::flush(std::string& problem)
+bool GFPE_CHIP_MEMORY::save(std::string& problem)
 {
     if (!m_file)
         return true;

@@ -33,7 +33,7 @@ public:
 
     // As GFPE_CHIP has them.
     bool use_file(const std::string& path, std::string& problem);
-    bool flush(std::string& problem);
+    bool save(std::string& problem);
 
 private:
     using BYTES = std::unique_ptr<std::uint8_t[]>;

@@ -54,9 +54,9 @@ public:
     ~GFPE_CHIP() override;
 
     // Keeps its contents in a file: read from it if there is one of the chip's size, else made, blank. Every change is
-    // in the file when the chip is destroyed, or at flush(). False: `problem` says why. `path` in local 8-bit.
+    // in the file when the chip is destroyed, or at save(). False: `problem` says why. `path` in local 8-bit.
     bool use_file(const std::string& path, std::string& problem);
-    bool flush(std::string& problem);
+    bool save(std::string& problem);
 
     GFPE_ABILITIES get_abilities() const override;
     bool transfer(const GFPE_COMMAND& command, GFPE_READER* reader) override;
