@@ -71,6 +71,10 @@ public:
     virtual bool transfer(const GFPE_COMMAND& command, GFPE_READER* reader) = 0;
     // Lets at least that time pass for the chip. False as above.
     virtual bool wait(std::int64_t microseconds) = 0;
+    // Ends when all commands and waits so far are over. Commands without an answer and waits may be sent later than
+    // they were asked for, and their failure is reported by a later call: what counts as done was settled. False as
+    // above.
+    virtual bool settle();
     // The time on this connection in microseconds, from any start: the clock of traces. An emulated chip has a clock of
     // its own, on which waiting takes no time of the user.
     virtual std::int64_t get_time() const;
