@@ -99,10 +99,12 @@ std::unique_ptr<GFPE_BUS> open_emulated(const GFPE_CONNECTION& connection, const
         problem = "An emulated chip needs a device.";
         return nullptr;
     }
-    (void)connection;
-    (void)chip;
-    problem = "Emulated chips cannot be used yet.";
-    return nullptr;
+    std::unique_ptr<GFPE_CHIP> made = GFPE_CHIP::make(*record, problem);
+    if (!made || (!connection.file.empty() && !made->use_file(connection.file, problem)))
+        return nullptr;
+    if (chip)
+        *chip = made.get();
+    return made;
 }
 
 } // namespace
