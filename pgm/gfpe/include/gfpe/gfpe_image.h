@@ -5,6 +5,7 @@
 
 #include "gfpe/gfpe_export.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -18,6 +19,12 @@ struct GFPE_RANGE
     std::int64_t length = 0;
 
     std::int64_t end() const { return start + length; }
+    // The part of both; of length 0 when there is none.
+    GFPE_RANGE common_with(const GFPE_RANGE& other) const
+    {
+        const std::int64_t first = std::max(start, other.start);
+        return {first, std::max<std::int64_t>(0, std::min(end(), other.end()) - first)};
+    }
 };
 
 // Used from one thread at a time, but not bound to a thread. Throws nothing.

@@ -56,7 +56,7 @@ struct GFPE_PROBLEM
     GFPE_EXPORT std::string to_text() const;
 };
 
-class GFPE_FLOW; // the typed steps, in pgm/gfpe/plan
+struct GFPE_FLOW; // the typed steps, in pgm/gfpe/plan
 
 // Immutable, and safe from every thread, once it is made; it keeps nothing of the operations that it was made from.
 class GFPE_EXPORT GFPE_PLAN
@@ -77,13 +77,15 @@ public:
     // What an order erases: whole sectors, sorted, without gaps or overlaps that could be joined. Empty when it erases
     // nothing, or when check() finds something.
     std::vector<GFPE_RANGE> get_erased(const GFPE_ORDER& order) const;
-    // True when an operation, by its kind, has actions.
+    // True when an operation, by its kind, has actions; of a flow that has problems none has.
     bool has_actions(int operation) const;
 
     // For the run alone.
     const GFPE_FLOW& get_flow() const { return *m_flow; }
 
 private:
+    void compile(const std::vector<GFPDB_OPERATION*>& operations);
+
     GFPE_DEVICE m_device;
     std::vector<GFPE_PROBLEM> m_problems;
     std::unique_ptr<GFPE_FLOW> m_flow;
