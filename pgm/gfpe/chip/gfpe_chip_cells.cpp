@@ -2,8 +2,11 @@
 
 // Programming and erasing, and what protects from both.
 #include "chip/gfpe_chip_core.h"
+#include "chip/gfpe_chip_times.h"
 
 #include <algorithm>
+
+using namespace gfpe_chip_times;
 
 namespace {
 
@@ -11,25 +14,11 @@ using JOB = GFPE_CHIP_JOB;
 using REG = GFPE_CHIP_REGISTER;
 using PROTECTION = GFPE_CHIP_PROTECTION;
 
-// Most pages and sectors are as quick as a data sheet calls typical, few as slow as it allows.
-constexpr std::int64_t PROGRAM_US = 250;
-constexpr std::int64_t SLOW_PROGRAM_US = 9000;
-constexpr std::int64_t ERASE_US = 15000;
-constexpr std::int64_t SLOW_EVERY = 64;
-
-constexpr std::int64_t SECTOR_BYTES = 4096;
 constexpr std::int64_t BLOCK_BYTES = 65536;
 
 constexpr int PROGRAM_FAILED = 0x10;
 constexpr int ERASE_FAILED = 0x20;
 constexpr int PROTECTION_ERROR = 0x02;
-
-std::int64_t slow_erase_us(std::int64_t size, std::int64_t chip)
-{
-    if (size <= SECTOR_BYTES)
-        return 900000;
-    return size < chip ? 6000000 : std::max<std::int64_t>(chip / (1 << 15), 1) * 800000;
-}
 
 } // namespace
 

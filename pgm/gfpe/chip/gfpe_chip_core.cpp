@@ -123,7 +123,8 @@ bool GFPE_CHIP_CORE::is_possible(const GFPE_COMMAND& command)
     const auto are_lines = [](int lines) { return lines == 1 || lines == 2 || lines == 4; };
     const bool possible = are_lines(command.opcode_lines) && are_lines(command.address_lines) &&
                           are_lines(command.data_lines) && command.address_bytes >= 0 && command.address_bytes <= 4 &&
-                          command.dummy_clocks >= 0 && command.dummy_clocks <= MOST_DUMMY_CLOCKS && command.in_length >= 0 && (command.out || !command.out_length);
+                          command.dummy_clocks >= 0 && command.dummy_clocks <= MOST_DUMMY_CLOCKS &&
+                          command.in_length >= 0 && (command.out || !command.out_length);
     if (!possible)
         m_notes.add(command.opcode, "not a command: wrong numbers of lines, bytes or clocks");
     return possible;

@@ -4,6 +4,7 @@
 // from what the flows do.
 #include "chip/gfpe_chip_facts.h"
 
+#include "chip/gfpe_chip_sfdp.h"
 #include "gfpdb/gfpdb_text.h"
 
 #include <algorithm>
@@ -18,6 +19,8 @@ constexpr std::int64_t BLOCK_BYTES = 65536;
 constexpr std::int64_t MOST_BYTES = std::int64_t(1) << 32;
 constexpr int USUAL_PAGE = 256;
 constexpr int USUAL_DUMMY = 8;
+
+constexpr std::initializer_list<const char*> OLD_ADESTO = {"AT25SF081", "AT25SF161", "AT25SF321"};
 
 bool begins(const std::string& text, const char* start)
 {
@@ -384,6 +387,16 @@ void add_erase(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
     }
 }
 
+void add_sfdp(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
+{
+    if (is_any(part.name, OLD_ADESTO))
+        return; // older than the standard's spread
+    add(facts, JOB::READ_SFDP, {0x5A});
+    facts.command(0x5A).address = ADDRESS::ALWAYS_THREE;
+    facts.command(0x5A).dummy_clocks = 8;
+    facts.sfdp = gfpe_sfdp_of(facts);
+}
+
 std::string problem_of(const GFPDB_PART& part, const GFPE_CHIP_FACTS& facts)
 {
     const std::string of = " of " + gfpdb_quoted(part.name);
@@ -419,7 +432,7 @@ bool gfpe_chip_facts(const GFPDB_PART& part, GFPE_CHIP_FACTS& facts, std::string
     add_register(facts, 0x05, REG::STATUS_1);
     add_register_write(facts, 0x01, REG::STATUS_1);
     add_maker(facts, part);
-    if (is_any(part.name, {"AT25SF081", "AT25SF161", "AT25SF321"}))
+    if (is_any(part.name, OLD_ADESTO))
         remove(facts, {0x32});
     if (part.name == "W25M512JV" || part.name == "GD25S512MD") {
         add(facts, JOB::SELECT_DIE, {0xC2});
@@ -429,5 +442,6 @@ bool gfpe_chip_facts(const GFPDB_PART& part, GFPE_CHIP_FACTS& facts, std::string
         facts.quad_enable = part.quad_enable;
     set_read_clocks(facts, part);
     add_erase(facts, part);
+    add_sfdp(facts, part);
     return true;
 }
