@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "cli_records.h"
+
+#include "cli_output.h"
+
+#include "gfpdb/gfpdb_exchange.h"
+#include "gfpdb/gfpdb_text.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::size_t COLUMN_COUNT = 7;
+// A name that is longer than the rules allow shifts its own line, not all others.
+constexpr int COLUMN_WIDTH_MAX = 64;
+using LINE = std::array<std::string, COLUMN_COUNT>;
+
+// A built-in device serves every family and scheme.
+LINE line_of(const CLI_LISTED& listed)
+{
+    const GFPDB_ROW& row = listed.record.row;
+    const bool placed = !listed.is_builtin;
+    return {listed.record.name(),
+            listed.kind(),
+            placed ? std::to_string(row.family) : "-",
+            placed ? std::to_string(row.scheme) : "-",
+            row.density.empty() ? "-" : row.density,
+            row.voltage.empty() ? "-" : row.voltage,
+            row.device_id.empty() ? "-" : row.device_id};
+}
+
+// Two blanks at least stand behind a cell, also behind one that is too long for its column.
+QString padded(const QString& cell, int width)
+{
+    return cell.leftJustified(std::max(width, cell.size()) + 2);
+}
+
+void add_value(CLI_JSON& json, const GFPDB_VALUE& value)
+{
+    if (!value.is_number)
+        json.add(value.key, value.text);
+    else if (value.text.empty())
+        json.add_null(value.key);
+    else
+        json.add_number(value.key, std::stoll(value.text));
+}
+
+} // namespace
+
+std::string cli_records_table(const std::vector<CLI_LISTED>& records)
+{
+    std::vector<LINE> lines = {{"NAME", "KIND", "FAMILY", "SCHEME", "DENSITY", "VOLTAGE", "ID"}};
+    for (const CLI_LISTED& record : records)
+        lines.push_back(line_of(record));
+    std::array<int, COLUMN_COUNT> widths = {};
+    for (const LINE& line : lines) {
+        for (std::size_t at = 0; at < COLUMN_COUNT; ++at)
+            widths[at] = std::min(std::max(widths[at], gfpdb_from_utf8(line[at]).size()), COLUMN_WIDTH_MAX);
+    }
+    QString text;
+    for (const LINE& line : lines) {
+        for (std::size_t at = 0; at + 1 < COLUMN_COUNT; ++at)
+            text += padded(gfpdb_from_utf8(cli_printable(line[at])), widths[at]);
+        text += gfpdb_from_utf8(cli_printable(line.back())) + QLatin1Char('\n');
+    }
+    return gfpdb_to_utf8(text);
+}
+
+void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records)
+{
+    for (const CLI_LISTED& listed : records) {
+        json.begin_object();
+        json.add("name", listed.record.name());
+        json.add("kind", listed.kind());
+        for (GFPDB_VALUE& value : gfpdb_values(listed.record)) {
+            if (listed.is_builtin && value.property == GFPDB_NO_PROPERTY)
+                value.text.clear();
+            if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_FLASH_TEMPLATE_NAME)
+                add_value(json, value);
+        }
+        json.end_object();
+    }
+}
+
+std::string cli_records_json(const std::vector<CLI_LISTED>& records)
+{
+    CLI_JSON json;
+    json.begin_list();
+    cli_add_records(json, records);
+    json.end_list();
+    return json.text();
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+
+// Lists of devices and templates, for people and for programs.
+#pragma once
+
+#include "cli_json.h"
+
+#include "gfpdb/gfpdb_record.h"
+
+#include <string>
+#include <vector>
+
+struct CLI_LISTED
+{
+    GFPDB_RECORD record;
+    bool is_builtin;
+
+    const char* kind() const { return is_builtin ? "builtin" : record.is_template ? "template" : "device"; }
+};
+
+// A line of titles, then one line each.
+std::string cli_records_table(const std::vector<CLI_LISTED>& records);
+// A list of objects; and these objects alone, for the list that is open.
+std::string cli_records_json(const std::vector<CLI_LISTED>& records);
+void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records);
