@@ -17,6 +17,11 @@ public:
     CLI_JSON() : m_writer(m_buffer) { m_writer.SetIndent(' ', 2); }
 
     void begin_object() { m_writer.StartObject(); }
+    void begin_object(const char* key)
+    {
+        m_writer.Key(key);
+        m_writer.StartObject();
+    }
     void end_object() { m_writer.EndObject(); }
     void begin_list() { m_writer.StartArray(); }
     void begin_list(const char* key)

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "commands/ports_command.h"
+
+#include "cli_json.h"
+
+#include "gfpe/gfpe_connection.h"
+
+namespace {
+
+std::string json(const std::vector<GFPE_PORT>& ports)
+{
+    CLI_JSON json;
+    json.begin_list();
+    for (const GFPE_PORT& port : ports) {
+        json.begin_object();
+        json.add("device", port.device);
+        json.add("description", port.description);
+        json.end_object();
+    }
+    json.end_list();
+    return json.text();
+}
+
+std::string table(const std::vector<GFPE_PORT>& ports)
+{
+    std::string text;
+    for (const GFPE_PORT& port : ports)
+        text += cli_printable(port.device + (port.description.empty() ? "" : "  " + port.description)) + '\n';
+    return text;
+}
+
+} // namespace
+
+void GFPROG_PORTS_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    cli_add_json_option(parser);
+}
+
+int GFPROG_PORTS_COMMAND::run(const CLI_CALL& call) const
+{
+    const std::vector<GFPE_PORT> ports = gfpe_serial_ports();
+    call.output.print(call.has(CLI_OPTION_JSON) ? json(ports) : table(ports));
+    return CLI_EXIT_OK;
+}

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "gfprog_options.h"
+
+#include "gfpdb/gfpdb_text.h"
+
+#include <charconv>
+
+namespace {
+
+QCommandLineOption option(const char* name, const char* text, const char* value)
+{
+    return {QLatin1String(name), QLatin1String(text), QLatin1String(value)};
+}
+
+std::string hex(std::int64_t value, int digits)
+{
+    constexpr int HEXADECIMAL = 16;
+    return gfpdb_to_utf8(QString::number(value, HEXADECIMAL).toUpper().rightJustified(digits, QLatin1Char('0')));
+}
+
+} // namespace
+
+void gfprog_add_target_options(QCommandLineParser& parser)
+{
+    parser.addOption(option(GFPROG_OPTION_ON,
+                            "The connection: emulated, emulated:FILE, tcp:HOST:PORT, serial:DEVICE or "
+                            "serial:DEVICE@BAUD.",
+                            "connection"));
+    parser.addOption(option(GFPROG_OPTION_DEVICE,
+                            "The device: one of the directory, or a built-in one. By default the one that is detected.",
+                            "name"));
+    cli_add_place_options(parser, "The device of this");
+    cli_add_json_option(parser);
+}
+
+void gfprog_add_run_options(QCommandLineParser& parser)
+{
+    parser.addOption(option(GFPROG_OPTION_OFFSET, "The first position in the device (by default 0).", "bytes"));
+    parser.addOption(option(GFPROG_OPTION_LENGTH,
+                            "So many bytes; by default those of the file, or up to the end of the device.", "bytes"));
+    parser.addOption(
+        option(GFPROG_OPTION_TRACE, "Write every command that is sent to this file (.csv or .vcd).", "file"));
+}
+
+void gfprog_add_force_option(QCommandLineParser& parser)
+{
+    parser.addOption({QLatin1String(GFPROG_OPTION_FORCE), QStringLiteral("Replace a file that already exists.")});
+}
+
+std::optional<std::int64_t> gfprog_bytes(const std::string& text)
+{
+    constexpr int DECIMAL = 10;
+    constexpr int HEXADECIMAL = 16;
+    const bool is_hex = text.rfind("0x", 0) == 0;
+    const std::string digits = is_hex ? text.substr(2) : text;
+    std::uint64_t number = 0;
+    const char* const end = digits.data() + digits.size();
+    const auto [stop, error] = std::from_chars(digits.data(), end, number, is_hex ? HEXADECIMAL : DECIMAL);
+    constexpr std::uint64_t MOST = std::uint64_t(1) << 40;
+    if (error != std::errc() || stop != end || number > MOST)
+        return std::nullopt;
+    return static_cast<std::int64_t>(number);
+}
+
+std::string gfprog_position(std::int64_t position)
+{
+    constexpr int DIGITS = 8;
+    return "0x" + hex(position, DIGITS);
+}
+
+std::string gfprog_hex(const std::vector<std::uint8_t>& bytes)
+{
+    std::string text;
+    for (const std::uint8_t byte : bytes)
+        text += (text.empty() ? "0x" : " 0x") + hex(byte, 2);
+    return text;
+}
