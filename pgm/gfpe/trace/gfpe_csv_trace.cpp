@@ -7,8 +7,9 @@
 
 namespace {
 
-constexpr const char* COLUMNS = "number,start_us,operation,action,action_name,command,lines,address,dummy_clocks,"
-                                "bytes_out,data_out,data_in,bytes_in,end_us,failed,expected,mask";
+constexpr const char* COLUMNS =
+    "number,start_us,operation,action,action_name,command,command_lines,address_lines,data_lines,address,dummy_clocks,"
+    "bytes_out,data_out,data_in,bytes_in,end_us,failed,expected,mask";
 constexpr char HEX[] = "0123456789ABCDEF";
 
 std::string hex(std::uint64_t value, int bytes)
@@ -19,15 +20,13 @@ std::string hex(std::uint64_t value, int bytes)
     return text;
 }
 
-// "1-4-4": the lines of the phases that the command has.
+// The lines of the phases, each in a column of its own: spreadsheets would take "1-4-4" for a date.
 std::string lines_of(const GFPE_COMMAND& command)
 {
-    std::string text = std::to_string(command.opcode_lines);
-    if (command.address_bytes > 0)
-        text += '-' + std::to_string(command.address_lines);
-    if (command.out_length > 0 || command.in_length > 0)
-        text += '-' + std::to_string(command.data_lines);
-    return text;
+    const bool has_data = command.out_length > 0 || command.in_length > 0;
+    return std::to_string(command.opcode_lines) + ',' +
+           (command.address_bytes > 0 ? std::to_string(command.address_lines) : "") + ',' +
+           (has_data ? std::to_string(command.data_lines) : "");
 }
 
 } // namespace

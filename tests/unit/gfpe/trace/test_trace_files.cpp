@@ -83,12 +83,13 @@ private slots:
         trace(csv, {command(0x20, 3, 0x012345), {}, {}, 3001, 3002}, GFPE_PHASE::ERASE);
 
         QCOMPARE(text(csv, "t.csv"),
-                 QByteArray("number,start_us,operation,action,action_name,command,lines,address,dummy_clocks,"
+                 QByteArray("number,start_us,operation,action,action_name,command,command_lines,address_lines,data_"
+                            "lines,address,dummy_clocks,"
                             "bytes_out,data_out,data_in,bytes_in,end_us,failed,expected,mask\n"
-                            "0,0,Initialization,2,\"Write \"\"Enable\"\", again\",0x06,1,,0,0,,,0,2,,,\n"
-                            "1,10,Program,2,Read Register,0x9F,1-1,,0,0,,0xC2 0x20,2,20,failed,0xEF 0x40,0xFF 0xF0\n"
-                            "2,1000,Blank-Check,2,'=cmd(),0x38,1-4-4,0x01A2B3C4,6,3,0x00 0x0A 0xFF,,0,2000,,,\n"
-                            "3,2001,Erase,2,Read Register,0x20,1-1,0x012345,0,0,,,0,2002,,,\n"));
+                            "0,0,Initialization,2,\"Write \"\"Enable\"\", again\",0x06,1,,,,0,0,,,0,2,,,\n"
+                            "1,10,Program,2,Read Register,0x9F,1,,1,,0,0,,0xC2 0x20,2,20,failed,0xEF 0x40,0xFF 0xF0\n"
+                            "2,1000,Blank-Check,2,'=cmd(),0x38,1,4,4,0x01A2B3C4,6,3,0x00 0x0A 0xFF,,0,2000,,,\n"
+                            "3,2001,Erase,2,Read Register,0x20,1,1,,0x012345,0,0,,,0,2002,,,\n"));
     }
 
     void bytes_that_come_in_pieces_are_one_list()
