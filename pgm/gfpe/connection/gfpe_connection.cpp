@@ -10,11 +10,13 @@
 
 namespace {
 
-constexpr const char* EMULATED_WORD = "emulated";
-constexpr const char* TCP_WORD = "tcp";
-constexpr const char* SERIAL_WORD = "serial";
+const std::string EMULATED_WORD = "emulated";
+const std::string TCP_WORD = "tcp";
+const std::string SERIAL_WORD = "serial";
 constexpr int PORT_MAX = 65535;
 constexpr int BAUD_MAX = 12000000;
+const std::string CLOCK_MARK = ",clock=";
+constexpr int CLOCK_MAX = 1000000000;
 
 const std::string FORMS = "Write emulated, emulated:FILE, tcp:HOST:PORT, serial:DEVICE or serial:DEVICE@BAUD.";
 
@@ -112,16 +114,17 @@ std::unique_ptr<GFPE_BUS> open_emulated(const GFPE_CONNECTION& connection, const
 std::string GFPE_CONNECTION::to_text() const
 {
     const bool is_ipv6 = host.find(':') != std::string::npos;
+    const bool needs_baud = baud != GFPE_CONNECTION().baud || device.find('@') != std::string::npos;
+    const std::string clock_text = clock > 0 ? CLOCK_MARK + std::to_string(clock) : std::string();
     switch (kind) {
     case EMULATED:
-        return file.empty() ? EMULATED_WORD : std::string(EMULATED_WORD) + ':' + file;
+        return file.empty() ? EMULATED_WORD : EMULATED_WORD + ':' + file;
     case TCP:
-        return std::string(TCP_WORD) + ':' + (is_ipv6 ? '[' + host + ']' : host) + ':' + std::to_string(port);
+        return TCP_WORD + ':' + (is_ipv6 ? '[' + host + ']' : host) + ':' + std::to_string(port) + clock_text;
     case SERIAL:
         break;
     }
-    const bool needs_baud = baud != GFPE_CONNECTION().baud || device.find('@') != std::string::npos;
-    return std::string(SERIAL_WORD) + ':' + device + (needs_baud ? '@' + std::to_string(baud) : std::string());
+    return SERIAL_WORD + ':' + device + (needs_baud ? '@' + std::to_string(baud) : std::string()) + clock_text;
 }
 
 std::optional<GFPE_CONNECTION> gfpe_parse_connection(const std::string& text, std::string& problem)
@@ -131,11 +134,20 @@ std::optional<GFPE_CONNECTION> gfpe_parse_connection(const std::string& text, st
     const std::string rest = colon == std::string::npos ? std::string() : text.substr(colon + 1);
     if (word == EMULATED_WORD)
         return parse_emulated(rest, colon != std::string::npos, problem);
-    if (word == TCP_WORD)
-        return parse_tcp(rest, problem);
-    if (word == SERIAL_WORD)
-        return parse_serial(rest, problem);
-    return refuse(problem, quoted(text) + " is not a connection. " + FORMS);
+    if (word != TCP_WORD && word != SERIAL_WORD)
+        return refuse(problem, quoted(text) + " is not a connection. " + FORMS);
+
+    const std::size_t mark = rest.rfind(CLOCK_MARK);
+    const std::string place = rest.substr(0, mark);
+    std::optional<GFPE_CONNECTION> connection =
+        word == TCP_WORD ? parse_tcp(place, problem) : parse_serial(place, problem);
+    if (!connection || mark == std::string::npos)
+        return connection;
+    const std::optional<int> clock = parse_number(rest.substr(mark + CLOCK_MARK.size()), "clock", CLOCK_MAX, problem);
+    if (!clock)
+        return std::nullopt;
+    connection->clock = *clock;
+    return connection;
 }
 
 std::unique_ptr<GFPE_BUS> gfpe_open_connection(const GFPE_CONNECTION& connection, const GFPDB_RECORD* record,
@@ -147,9 +159,9 @@ std::unique_ptr<GFPE_BUS> gfpe_open_connection(const GFPE_CONNECTION& connection
     case GFPE_CONNECTION::EMULATED:
         return open_emulated(connection, record, problem, chip);
     case GFPE_CONNECTION::TCP:
-        return gfpe_serprog_over_tcp(connection.host, connection.port, problem);
+        return gfpe_serprog_over_tcp(connection.host, connection.port, connection.clock, problem);
     case GFPE_CONNECTION::SERIAL:
         break;
     }
-    return gfpe_serprog_over_line(connection.device, connection.baud, problem);
+    return gfpe_serprog_over_line(connection.device, connection.baud, connection.clock, problem);
 }

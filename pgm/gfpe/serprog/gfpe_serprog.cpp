@@ -1,39 +1,48 @@
 // SPDX-License-Identifier: MIT
 #include "gfpe/gfpe_serprog.h"
 
+#include "serprog/gfpe_serprog_client.h"
+
+#include <algorithm>
+
 namespace {
 
-constexpr const char* MISSING = "Programmers cannot be used yet.";
+// A byte has a start and a stop bit on a line.
+constexpr int LINE_BITS = 10;
+constexpr int PAGE_BYTES = 256;
+
+std::unique_ptr<GFPE_BUS> start(std::unique_ptr<GFPE_LINK> link, const GFPE_SERPROG_LIMITS& limits, std::int64_t clock,
+                                std::string& problem)
+{
+    if (!link)
+        return nullptr;
+    auto client = std::make_unique<GFPE_SERPROG_CLIENT>(std::move(link), limits);
+    if (client->start(clock))
+        return client;
+    problem = client->get_last_error();
+    return nullptr;
+}
 
 } // namespace
 
-class GFPE_SERPROG_SERVER::SOCKET
-{};
-
-std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string&, int, std::string& problem)
+GFPE_SERPROG_LIMITS gfpe_line_limits(int baud)
 {
-    problem = MISSING;
-    return nullptr;
+    GFPE_SERPROG_LIMITS limits;
+    const int bytes_per_second = std::max(1, baud / LINE_BITS);
+    limits.bytes_per_second = std::min(limits.bytes_per_second, std::max(1, bytes_per_second / 2));
+    limits.longest_read = std::clamp<std::int64_t>(bytes_per_second, PAGE_BYTES, limits.longest_read);
+    return limits;
 }
 
-std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string&, int, std::string& problem)
+std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string& host, int port, std::int64_t clock,
+                                                std::string& problem)
 {
-    problem = MISSING;
-    return nullptr;
+    const GFPE_SERPROG_LIMITS limits;
+    return start(gfpe_tcp_link(host, port, limits.connect_ms, problem), limits, clock, problem);
 }
 
-GFPE_SERPROG_SERVER::GFPE_SERPROG_SERVER(GFPE_BUS& bus) : m_bus(bus) {}
-GFPE_SERPROG_SERVER::~GFPE_SERPROG_SERVER() = default;
-
-bool GFPE_SERPROG_SERVER::listen(bool, int, std::string& problem)
+std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& device, int baud, std::int64_t clock,
+                                                 std::string& problem)
 {
-    problem = MISSING;
-    return false;
+    return start(gfpe_line_link(device, baud, problem), gfpe_line_limits(baud), clock, problem);
 }
-
-int GFPE_SERPROG_SERVER::get_port() const
-{
-    return 0;
-}
-
-void GFPE_SERPROG_SERVER::run(const std::function<bool()>&) {}

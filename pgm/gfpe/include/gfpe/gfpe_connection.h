@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// Connections as users write them: "emulated", "emulated:FILE", "tcp:HOST:PORT", "serial:DEVICE", "serial:DEVICE@BAUD".
+// Connections as users write them: "emulated", "emulated:FILE", "tcp:HOST:PORT", "serial:DEVICE", "serial:DEVICE@BAUD";
+// behind the last three ",clock=HERTZ".
 #pragma once
 
 #include "gfpe/gfpe_chip.h"
@@ -30,6 +31,8 @@ struct GFPE_CONNECTION
     int port = 0;
     std::string device;
     int baud = 115200;
+    // Of the programmer, in hertz; 0 for its own.
+    int clock = 0;
 
     GFPE_EXPORT std::string to_text() const;
 };

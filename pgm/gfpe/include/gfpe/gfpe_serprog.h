@@ -12,14 +12,16 @@
 #include <string>
 
 // A programmer behind a TCP connection or a serial line, in local 8-bit texts. Every call ends within the limits that
-// docs/programming.md gives. Null when it cannot be reached or does not speak the protocol; `problem` says which, a
-// sentence in UTF-8. The connection is closed with the bus.
-GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string& host, int port, std::string& problem);
-GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& device, int baud, std::string& problem);
+// docs/programming.md gives. `clock` is in hertz; the programmer takes the next lower one that it has; 0 leaves its
+// own. Null when it cannot be reached or does not speak the protocol; `problem` says which, a sentence in UTF-8. The
+// connection is closed with the bus.
+GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string& host, int port, std::int64_t clock,
+                                                            std::string& problem);
+GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& device, int baud, std::int64_t clock,
+                                                             std::string& problem);
 
-class GFPE_SERPROG_TALK; // one client's bytes, in pgm/gfpe/serprog
-
-// Offers a bus, mostly an emulated chip, to one client after the other on a TCP port of this machine.
+// Offers a bus, mostly an emulated chip, to one client after the other on a TCP port of this machine. Used from one
+// thread at a time, but not bound to a thread.
 class GFPE_EXPORT GFPE_SERPROG_SERVER
 {
 public:

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "serprog/gfpe_link.h"
+
+#include "gfpdb/gfpdb_text.h"
+
+#include <QFile>
+#include <QSerialPort>
+#include <QTcpSocket>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+using CLOCK = std::chrono::steady_clock;
+
+// Qt finds the host and sets the line up. From then on its descriptor alone is used: Qt's sockets and lines listen to
+// the events of the thread that made them, which may be gone when the next call comes from another one.
+class DESCRIPTOR_LINK : public GFPE_LINK
+{
+public:
+    DESCRIPTOR_LINK(int descriptor, bool is_socket, std::unique_ptr<QObject> owner)
+        : m_descriptor(descriptor), m_is_socket(is_socket), m_owner(std::move(owner))
+    {
+        if (m_owner)
+            m_owner->moveToThread(nullptr);
+    }
+
+    ~DESCRIPTOR_LINK() override
+    {
+        if (!m_owner)
+            ::close(m_descriptor);
+    }
+
+    GFPE_LINK_STATE write(const std::uint8_t* bytes, std::size_t most, std::size_t& sent, int milliseconds) override
+    {
+        return repeat(POLLOUT, sent, milliseconds, [&] {
+            return m_is_socket ? ::send(m_descriptor, bytes, most, MSG_NOSIGNAL) : ::write(m_descriptor, bytes, most);
+        });
+    }
+
+    GFPE_LINK_STATE read(std::uint8_t* bytes, std::size_t most, std::size_t& length, int milliseconds) override
+    {
+        return repeat(POLLIN, length, milliseconds, [&] { return ::read(m_descriptor, bytes, most); });
+    }
+
+    std::string get_problem() const override { return m_problem; }
+
+private:
+    // Waits for the event and calls, until the call has done something.
+    template <typename CALL>
+    GFPE_LINK_STATE repeat(short event, std::size_t& done, int milliseconds, const CALL& call)
+    {
+        done = 0;
+        const CLOCK::time_point end = CLOCK::now() + std::chrono::milliseconds(milliseconds);
+        for (;;) {
+            const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - CLOCK::now()).count();
+            pollfd entry = {m_descriptor, event, 0};
+            const int ready = ::poll(&entry, 1, std::max(0, static_cast<int>(left)));
+            if (ready == 0)
+                return GFPE_LINK_STATE::TIMED_OUT;
+            const ssize_t result = ready < 0 ? ready : call();
+            if (result > 0) {
+                done = static_cast<std::size_t>(result);
+                return GFPE_LINK_STATE::DONE;
+            }
+            if (result == 0)
+                return lose(0);
+            if (errno != EAGAIN && errno != EINTR)
+                return lose(errno);
+        }
+    }
+
+    // 0 for an end that the other side made.
+    GFPE_LINK_STATE lose(int error)
+    {
+        m_problem = error == 0 ? "it was closed by the other side" : std::strerror(error);
+        return GFPE_LINK_STATE::LOST;
+    }
+
+    const int m_descriptor;
+    const bool m_is_socket;
+    // Closes the descriptor; null when this does.
+    const std::unique_ptr<QObject> m_owner;
+    std::string m_problem;
+};
+
+std::string utf8(const std::string& local)
+{
+    return gfpdb_to_utf8(QString::fromLocal8Bit(local.data(), static_cast<int>(local.size())));
+}
+
+} // namespace
+
+std::unique_ptr<GFPE_LINK> gfpe_tcp_link(const std::string& host, int port, int milliseconds, std::string& problem)
+{
+    auto socket = std::make_unique<QTcpSocket>();
+    socket->connectToHost(gfpdb_from_utf8(utf8(host)), static_cast<quint16>(port));
+    if (!socket->waitForConnected(milliseconds)) {
+        problem = "The programmer at " + gfpdb_quoted(utf8(host)) + ", port " + std::to_string(port) +
+                  " cannot be reached: " + gfpdb_to_utf8(socket->errorString()) + ".";
+        return nullptr;
+    }
+    // Commands are short, and each waits for its answer.
+    socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    const int descriptor = static_cast<int>(socket->socketDescriptor());
+    return std::make_unique<DESCRIPTOR_LINK>(descriptor, true, std::move(socket));
+}
+
+std::unique_ptr<GFPE_LINK> gfpe_line_link(const std::string& device, int baud, std::string& problem)
+{
+    auto line = std::make_unique<QSerialPort>(QFile::decodeName(QByteArray::fromStdString(device)));
+    if (!line->setBaudRate(baud) || !line->open(QIODevice::ReadWrite)) {
+        problem = "The serial line " + gfpdb_quoted(utf8(device)) + " cannot be opened at " + std::to_string(baud) +
+                  " baud: " + gfpdb_to_utf8(line->errorString()) + ".";
+        return nullptr;
+    }
+    const int descriptor = line->handle();
+    return std::make_unique<DESCRIPTOR_LINK>(descriptor, false, std::move(line));
+}
+
+std::unique_ptr<GFPE_LINK> gfpe_socket_link(int socket)
+{
+    return std::make_unique<DESCRIPTOR_LINK>(socket, true, nullptr);
+}
