@@ -38,6 +38,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -107,6 +108,20 @@ protected:
     void lock(const QString& how = qs("IMMEDIATE"));
     void unlock();
 
+    // Plays what a user does and sees, for tables of cases: steps with "; " between them. The first one that fails ends
+    // it, and is named.
+    //
+    //     store NAME, ID       open NAME            row NAME (a click)        select NAME (selected, not current)
+    //     FIELD = TEXT         save_as NAME         apply, ok, delete         return (in the name)
+    //     lock HOW             unlock               sql STATEMENT             focus (the table)
+    //     apply says A, B      (and the others: one box comes, its text has both, and it is accepted)
+    //     FIELD is TEXT        COLUMN of NAME is TEXT (in the file)           devices is NAMES, history is ENTRIES
+    //     current is NAME      selected is NAME     rows is NAMES             rows of NAME is COUNT
+    //     dialog is closed     result is NAME       Delete is disabled
+    //
+    // A field is one of name, id, dies, template, filter. Lists have ", " between their parts.
+    void play(const QString& steps);
+
     MODAL_DRIVER m_modals;
 
 private slots:
@@ -115,6 +130,12 @@ private slots:
 
 private:
     static void handle_message(QtMsgType type, const QMessageLogContext& context, const QString& text);
+    void play_step(const QString& step);
+    // False when there is no such verb.
+    bool act(const QString& verb, const QString& rest);
+    void do_and_read(const QString& rest, const std::function<void()>& deed);
+    QString seen_of(const QString& subject) const;
+    void select_only(const QString& name);
     QStringList read_column(const QString& statement, const QVariantList& values) const;
 
     std::unique_ptr<QTemporaryDir> m_scratch;
