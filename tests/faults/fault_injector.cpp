@@ -217,180 +217,80 @@ const char* name_of(FAULT_CALL call)
 
 #define FAULT_NEXT(function) static const auto real = next(&::function, #function)
 
-extern "C" {
-
-ssize_t read(int descriptor, void* data, size_t size)
-{
-    FAULT_NEXT(read);
-    return counted(is_watched(descriptor), FAULT_CALL::READ, [&] { return real(descriptor, data, size); });
-}
-
-ssize_t pread(int descriptor, void* data, size_t size, off_t offset)
-{
-    FAULT_NEXT(pread);
-    return counted(is_watched(descriptor), FAULT_CALL::READ, [&] { return real(descriptor, data, size, offset); });
-}
-
-ssize_t pread64(int descriptor, void* data, size_t size, off64_t offset)
-{
-    FAULT_NEXT(pread64);
-    return counted(is_watched(descriptor), FAULT_CALL::READ, [&] { return real(descriptor, data, size, offset); });
-}
-
-ssize_t write(int descriptor, const void* data, size_t size)
-{
-    FAULT_NEXT(write);
-    return counted(is_watched(descriptor), FAULT_CALL::WRITE, [&] { return real(descriptor, data, size); });
-}
-
-ssize_t pwrite(int descriptor, const void* data, size_t size, off_t offset)
-{
-    FAULT_NEXT(pwrite);
-    return counted(is_watched(descriptor), FAULT_CALL::WRITE, [&] { return real(descriptor, data, size, offset); });
-}
-
-ssize_t pwrite64(int descriptor, const void* data, size_t size, off64_t offset)
-{
-    FAULT_NEXT(pwrite64);
-    return counted(is_watched(descriptor), FAULT_CALL::WRITE, [&] { return real(descriptor, data, size, offset); });
-}
-
-ssize_t writev(int descriptor, const iovec* parts, int count)
-{
-    FAULT_NEXT(writev);
-    return counted(is_watched(descriptor), FAULT_CALL::WRITE, [&] { return real(descriptor, parts, count); });
-}
-
-int ftruncate(int descriptor, off_t size) noexcept
-{
-    FAULT_NEXT(ftruncate);
-    return counted(is_watched(descriptor), FAULT_CALL::TRUNCATE, [&] { return real(descriptor, size); });
-}
-
-int ftruncate64(int descriptor, off64_t size) noexcept
-{
-    FAULT_NEXT(ftruncate64);
-    return counted(is_watched(descriptor), FAULT_CALL::TRUNCATE, [&] { return real(descriptor, size); });
-}
-
-int fsync(int descriptor)
-{
-    FAULT_NEXT(fsync);
-    return counted(is_watched(descriptor), FAULT_CALL::SYNC, [&] { return real(descriptor); });
-}
-
-int fdatasync(int descriptor)
-{
-    FAULT_NEXT(fdatasync);
-    return counted(is_watched(descriptor), FAULT_CALL::SYNC, [&] { return real(descriptor); });
-}
-
-int rename(const char* from, const char* to) noexcept
-{
-    FAULT_NEXT(rename);
-    return counted(is_watched(AT_FDCWD, to), FAULT_CALL::RENAME, [&] { return real(from, to); });
-}
-
-int renameat2(int from_directory, const char* from, int to_directory, const char* to, unsigned int flags) noexcept
-{
-    FAULT_NEXT(renameat2);
-    return counted(is_watched(to_directory, to), FAULT_CALL::RENAME,
-                   [&] { return real(from_directory, from, to_directory, to, flags); });
-}
-
-int link(const char* from, const char* to) noexcept
-{
-    FAULT_NEXT(link);
-    return counted(is_watched(AT_FDCWD, to), FAULT_CALL::RENAME, [&] { return real(from, to); });
-}
-
-int linkat(int from_directory, const char* from, int to_directory, const char* to, int flags) noexcept
-{
-    FAULT_NEXT(linkat);
-    return counted(is_watched(to_directory, to), FAULT_CALL::RENAME,
-                   [&] { return real(from_directory, from, to_directory, to, flags); });
-}
-
-// The mode is there when a file may be made.
-#define FAULT_READ_MODE(flags)                                                                                         \
-    mode_t mode = 0;                                                                                                   \
-    if (needs_mode(flags)) {                                                                                           \
-        va_list arguments;                                                                                             \
-        va_start(arguments, flags);                                                                                    \
-        mode = va_arg(arguments, mode_t);                                                                              \
-        va_end(arguments);                                                                                             \
+// A function with its PARAMETERS, the ARGUMENTS of the real one, WATCHED what tells whether it counts, and as which
+// CALL.
+#define FAULT_HOOK(RESULT, FUNCTION, PARAMETERS, ARGUMENTS, WATCHED, CALL)                                             \
+    RESULT FUNCTION PARAMETERS                                                                                         \
+    {                                                                                                                  \
+        FAULT_NEXT(FUNCTION);                                                                                          \
+        return counted(is_watched WATCHED, FAULT_CALL::CALL, [&] { return real ARGUMENTS; });                          \
     }
 
-int open(const char* path, int flags, ...)
-{
-    FAULT_NEXT(open);
-    FAULT_READ_MODE(flags)
-    return counted(is_watched(AT_FDCWD, path), FAULT_CALL::OPEN, [&] { return real(path, flags, mode); });
-}
-
-int open64(const char* path, int flags, ...)
-{
-    FAULT_NEXT(open64);
-    FAULT_READ_MODE(flags)
-    return counted(is_watched(AT_FDCWD, path), FAULT_CALL::OPEN, [&] { return real(path, flags, mode); });
-}
-
-int openat(int directory, const char* path, int flags, ...)
-{
-    FAULT_NEXT(openat);
-    FAULT_READ_MODE(flags)
-    return counted(is_watched(directory, path), FAULT_CALL::OPEN, [&] { return real(directory, path, flags, mode); });
-}
+// The mode is there when a file may be made.
+#define FAULT_OPEN(FUNCTION, PARAMETERS, ARGUMENTS, WATCHED)                                                           \
+    int FUNCTION PARAMETERS                                                                                            \
+    {                                                                                                                  \
+        FAULT_NEXT(FUNCTION);                                                                                          \
+        mode_t mode = 0;                                                                                               \
+        if (needs_mode(flags)) {                                                                                       \
+            va_list arguments;                                                                                         \
+            va_start(arguments, flags);                                                                                \
+            mode = va_arg(arguments, mode_t);                                                                          \
+            va_end(arguments);                                                                                         \
+        }                                                                                                              \
+        return counted(is_watched WATCHED, FAULT_CALL::OPEN, [&] { return real ARGUMENTS; });                          \
+    }
 
 // Only taking a lock counts: a lock that cannot be given back would last as long as the process.
 #define FAULT_LOCK(function)                                                                                           \
-    FAULT_NEXT(function);                                                                                              \
-    va_list arguments;                                                                                                 \
-    va_start(arguments, command);                                                                                      \
-    void* argument = va_arg(arguments, void*);                                                                         \
-    va_end(arguments);                                                                                                 \
-    const bool is_lock = takes_lock(command, static_cast<const struct flock*>(argument));                              \
-    return counted(is_lock && is_watched(descriptor), FAULT_CALL::LOCK,                                                \
-                   [&] { return real(descriptor, command, argument); });
+    int function(int descriptor, int command, ...)                                                                     \
+    {                                                                                                                  \
+        FAULT_NEXT(function);                                                                                          \
+        va_list arguments;                                                                                             \
+        va_start(arguments, command);                                                                                  \
+        void* argument = va_arg(arguments, void*);                                                                     \
+        va_end(arguments);                                                                                             \
+        const bool is_lock = takes_lock(command, static_cast<const struct flock*>(argument));                          \
+        return counted(is_lock && is_watched(descriptor), FAULT_CALL::LOCK,                                            \
+                       [&] { return real(descriptor, command, argument); });                                           \
+    }
 
-int fcntl(int descriptor, int command, ...)
-{
-    FAULT_LOCK(fcntl)
-}
+extern "C" {
 
-int fcntl64(int descriptor, int command, ...)
-{
-    FAULT_LOCK(fcntl64)
-}
+FAULT_HOOK(ssize_t, read, (int descriptor, void* data, size_t size), (descriptor, data, size), (descriptor), READ)
+FAULT_HOOK(ssize_t, pread, (int descriptor, void* data, size_t size, off_t offset), (descriptor, data, size, offset),
+           (descriptor), READ)
+FAULT_HOOK(ssize_t, pread64, (int descriptor, void* data, size_t size, off64_t offset),
+           (descriptor, data, size, offset), (descriptor), READ)
+FAULT_HOOK(ssize_t, write, (int descriptor, const void* data, size_t size), (descriptor, data, size), (descriptor),
+           WRITE)
+FAULT_HOOK(ssize_t, pwrite, (int descriptor, const void* data, size_t size, off_t offset),
+           (descriptor, data, size, offset), (descriptor), WRITE)
+FAULT_HOOK(ssize_t, pwrite64, (int descriptor, const void* data, size_t size, off64_t offset),
+           (descriptor, data, size, offset), (descriptor), WRITE)
+FAULT_HOOK(ssize_t, writev, (int descriptor, const iovec* parts, int count), (descriptor, parts, count), (descriptor),
+           WRITE)
+FAULT_HOOK(int, ftruncate, (int descriptor, off_t size) noexcept, (descriptor, size), (descriptor), TRUNCATE)
+FAULT_HOOK(int, ftruncate64, (int descriptor, off64_t size) noexcept, (descriptor, size), (descriptor), TRUNCATE)
+FAULT_HOOK(int, fsync, (int descriptor), (descriptor), (descriptor), SYNC)
+FAULT_HOOK(int, fdatasync, (int descriptor), (descriptor), (descriptor), SYNC)
+FAULT_HOOK(int, rename, (const char* from, const char* to) noexcept, (from, to), (AT_FDCWD, to), RENAME)
+FAULT_HOOK(int, renameat2,
+           (int from_directory, const char* from, int to_directory, const char* to, unsigned int flags) noexcept,
+           (from_directory, from, to_directory, to, flags), (to_directory, to), RENAME)
+FAULT_HOOK(int, link, (const char* from, const char* to) noexcept, (from, to), (AT_FDCWD, to), RENAME)
+FAULT_HOOK(int, linkat, (int from_directory, const char* from, int to_directory, const char* to, int flags) noexcept,
+           (from_directory, from, to_directory, to, flags), (to_directory, to), RENAME)
+FAULT_HOOK(int, stat, (const char* path, struct stat* status) noexcept, (path, status), (AT_FDCWD, path), STATUS)
+FAULT_HOOK(int, lstat, (const char* path, struct stat* status) noexcept, (path, status), (AT_FDCWD, path), STATUS)
+FAULT_HOOK(int, fstat, (int descriptor, struct stat* status) noexcept, (descriptor, status), (descriptor), STATUS)
+FAULT_HOOK(int, chmod, (const char* path, mode_t mode) noexcept, (path, mode), (AT_FDCWD, path), MODE)
+FAULT_HOOK(int, fchmod, (int descriptor, mode_t mode) noexcept, (descriptor, mode), (descriptor), MODE)
 
-int stat(const char* path, struct stat* status) noexcept
-{
-    FAULT_NEXT(stat);
-    return counted(is_watched(AT_FDCWD, path), FAULT_CALL::STATUS, [&] { return real(path, status); });
-}
-
-int lstat(const char* path, struct stat* status) noexcept
-{
-    FAULT_NEXT(lstat);
-    return counted(is_watched(AT_FDCWD, path), FAULT_CALL::STATUS, [&] { return real(path, status); });
-}
-
-int fstat(int descriptor, struct stat* status) noexcept
-{
-    FAULT_NEXT(fstat);
-    return counted(is_watched(descriptor), FAULT_CALL::STATUS, [&] { return real(descriptor, status); });
-}
-
-int chmod(const char* path, mode_t mode) noexcept
-{
-    FAULT_NEXT(chmod);
-    return counted(is_watched(AT_FDCWD, path), FAULT_CALL::MODE, [&] { return real(path, mode); });
-}
-
-int fchmod(int descriptor, mode_t mode) noexcept
-{
-    FAULT_NEXT(fchmod);
-    return counted(is_watched(descriptor), FAULT_CALL::MODE, [&] { return real(descriptor, mode); });
-}
+FAULT_OPEN(open, (const char* path, int flags, ...), (path, flags, mode), (AT_FDCWD, path))
+FAULT_OPEN(open64, (const char* path, int flags, ...), (path, flags, mode), (AT_FDCWD, path))
+FAULT_OPEN(openat, (int directory, const char* path, int flags, ...), (directory, path, flags, mode), (directory, path))
+FAULT_LOCK(fcntl)
+FAULT_LOCK(fcntl64)
 
 } // extern "C"
