@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -195,6 +196,44 @@ FOREIGN_LOCK::~FOREIGN_LOCK()
 {
     QSqlDatabase::database(OTHER_PROGRAM).close();
     QSqlDatabase::removeDatabase(OTHER_PROGRAM);
+}
+
+void expect_warning(const std::string& part)
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(gfpdb_from_utf8(part))));
+}
+
+void expect_message(const std::string& text, QtMsgType type)
+{
+    QTest::ignoreMessage(type, text.c_str());
+}
+
+void DATABASE_TEST::init()
+{
+    m_place = std::make_unique<GFPDB_PLACE>(medium());
+    set_up();
+}
+
+void DATABASE_TEST::cleanup()
+{
+    take_down();
+    m_place.reset();
+}
+
+GFPDB_FLASH* DATABASE_TEST::save(const std::string& name, const std::string& template_name)
+{
+    GFPDB_FLASH* record = make_device(*m_mgr, name);
+    record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, template_name);
+    if (!m_mgr->save_flash(record, m_place->db_dir()))
+        qFatal("%s was not saved: %s", name.c_str(), m_mgr->get_last_error().c_str());
+    return record;
+}
+
+void DATABASE_TEST::make_database()
+{
+    m_mgr = fresh_manager();
+    save("A", "T");
+    save("B");
 }
 
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, const std::string& value)

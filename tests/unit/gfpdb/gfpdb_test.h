@@ -81,6 +81,34 @@ public:
     FOREIGN_LOCK& operator=(const FOREIGN_LOCK&) = delete;
 };
 
+// The library will print a warning that has `part` in it, or a message of just that text.
+void expect_warning(const std::string& part);
+void expect_message(const std::string& text, QtMsgType type = QtWarningMsg);
+
+// Base of the tests of the flash database: a place for each test function, and what it adds to that before and after.
+class DATABASE_TEST : public QObject
+{
+    Q_OBJECT
+
+protected:
+    // Saves the device of make_device() into the place, as a template too if that has a name.
+    GFPDB_FLASH* save(const std::string& name, const std::string& template_name = std::string());
+    // Opens the place with a fresh manager, and saves the devices "A", with the template "T", and "B".
+    void make_database();
+
+    std::unique_ptr<GFPDB_PLACE> m_place;
+    GFPDB_MGR* m_mgr = nullptr;
+
+private slots:
+    void init();
+    void cleanup();
+
+private:
+    virtual GFPDB_PLACE::ON medium() const { return GFPDB_PLACE::ON::DISK; }
+    virtual void set_up() {}
+    virtual void take_down() {}
+};
+
 // The one text that a check gives back; empty when it passed.
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, const std::string& value);
 std::string checked(const GFPDB_MGR& manager, GFPDB_FLASH_PROPERTY property, int value);

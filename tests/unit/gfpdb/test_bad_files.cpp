@@ -21,17 +21,6 @@ namespace {
 
 const char BUSY_TIMEOUT_MS[] = "50";
 
-void expect_warning(const std::string& text)
-{
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(QString::fromStdString(text))));
-}
-
-// The whole text of a warning.
-void expect_warning_text(const std::string& text)
-{
-    QTest::ignoreMessage(QtWarningMsg, text.c_str());
-}
-
 // Another program that holds the database of `path` locked as long as this object lives.
 class OTHER_PROGRAM
 {
@@ -69,19 +58,11 @@ int hold_lock(const QString& path)
 
 } // namespace
 
-class TEST_BAD_FILES : public QObject
+class TEST_BAD_FILES : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_place = std::make_unique<GFPDB_PLACE>();
-        write_file(m_place->settings(), "[database]\nbusy_timeout=" + std::string(BUSY_TIMEOUT_MS) + "\n");
-    }
-
-    void cleanup() { m_place.reset(); }
-
     void a_file_that_is_no_usable_database_is_left_alone_data()
     {
         const QByteArray nothing;
@@ -160,7 +141,7 @@ private slots:
     {
         QFETCH(int, missing);
         QFETCH(QByteArray, problem);
-        make_database();
+        make_closed_database();
         const std::string whole = read_file(m_place->db_file());
         const std::string kept =
             whole.substr(0, missing > 0 ? whole.size() - std::size_t(missing) : std::size_t(-missing));
@@ -173,7 +154,7 @@ private slots:
     // Whole pages of the device's record are overwritten; the list of names does not need them.
     void a_damaged_page_is_reported_when_it_is_read()
     {
-        make_database();
+        make_closed_database();
         const std::string sound = read_file(m_place->db_file());
         std::string content = sound;
         const int root =
@@ -186,7 +167,7 @@ private slots:
                                  " is damaged (database disk image is malformed). It is left as it is.";
         m_mgr = fresh_manager();
         QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
-        expect_warning_text(told);
+        expect_message(told);
         QVERIFY(m_mgr->find_flash("A", true) == nullptr);
         QCOMPARE(m_mgr->get_last_error(), told);
         QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
@@ -194,7 +175,7 @@ private slots:
         GFPDB_STORE& store = GFPDB_EMBEDDED_MGR::instance().store();
         QVERIFY(!store.check_integrity());
         QVERIFY(store.get_last_error().find("The database in " + m_place->db_dir() + " is damaged: ") == 0);
-        expect_warning_text(told);
+        expect_message(told);
         QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
         QCOMPARE(read_file(m_place->db_file()), content);
 
@@ -230,7 +211,7 @@ private slots:
         m_mgr = fresh_manager();
         const std::string told = problem.replace("%1", path.c_str()).toStdString();
         for (int i = 0; i < 3; ++i)
-            expect_warning_text(told);
+            expect_message(told);
         QCOMPARE(GFPDB_HELPER::get_database_problem(), told);
         QCOMPARE(custom_names(*m_mgr), NAMES());
         QVERIFY(m_mgr->find_flash("MX25L25645G", true) != nullptr);
@@ -274,7 +255,7 @@ private slots:
 
     void a_database_locked_for_reading_is_reported()
     {
-        make_database();
+        make_closed_database();
         const OTHER_PROGRAM other(m_place->db_file(), "BEGIN EXCLUSIVE");
         const std::string before = read_file(m_place->db_file());
 
@@ -284,7 +265,7 @@ private slots:
 
     void a_locked_database_is_read_again_when_the_lock_is_gone()
     {
-        make_database();
+        make_closed_database();
         {
             const OTHER_PROGRAM other(m_place->db_file(), "BEGIN EXCLUSIVE");
             m_mgr = fresh_manager();
@@ -306,7 +287,7 @@ private slots:
 
     void a_database_locked_for_writing_can_be_read()
     {
-        make_database();
+        make_closed_database();
         m_mgr = fresh_manager();
         {
             const OTHER_PROGRAM other(m_place->db_file(), "BEGIN IMMEDIATE");
@@ -326,7 +307,7 @@ private slots:
     // The lock is held by a process of its own, which lets go while this one waits.
     void a_change_waits_for_a_lock_that_goes_away()
     {
-        make_database();
+        make_closed_database();
         write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n");
         QProcess other;
         other.start(QCoreApplication::applicationFilePath(),
@@ -343,7 +324,7 @@ private slots:
 
     void the_busy_timeout_comes_from_the_settings()
     {
-        make_database();
+        make_closed_database();
         const auto timeout = [this] {
             fresh_manager();
             custom_names(*GFPDB_HELPER::get_active_flash_manager(false));
@@ -375,14 +356,15 @@ private slots:
     }
 
 private:
-    // With the devices A and B and the template T.
-    void make_database()
+    void set_up() override
     {
-        m_mgr = fresh_manager();
-        GFPDB_FLASH* record = make_device(*m_mgr, "A");
-        record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, "T");
-        QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
-        QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "B"), m_place->db_dir()));
+        write_file(m_place->settings(), "[database]\nbusy_timeout=" + std::string(BUSY_TIMEOUT_MS) + "\n");
+    }
+
+    // With the devices A and B and the template T.
+    void make_closed_database()
+    {
+        make_database();
         // The connection of this process is not to hold the file.
         GFPDB_MGR::set_db_custom_dir(m_place->path(""));
         fresh_manager();
@@ -394,7 +376,7 @@ private:
     {
         NAMES names;
         m_mgr = fresh_manager();
-        expect_warning_text(told);
+        expect_message(told);
         QCOMPARE(GFPDB_HELPER::get_database_problem(), told);
         QCOMPARE(QSqlDatabase::connectionNames().filter(QStringLiteral("gfpdb ")), QStringList());
         QVERIFY(!m_mgr->is_writable());
@@ -412,18 +394,15 @@ private:
         QCOMPARE(checked(*m_mgr, GFPDB_FLASH_TEMPLATE_NAME, "C"), told);
         const auto is_refused = [&](bool done) { return !done && m_mgr->get_last_error() == told; };
         for (int i = 0; i < 5; ++i)
-            expect_warning_text(told);
+            expect_message(told);
         QVERIFY(is_refused(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir())));
         QVERIFY(is_refused(m_mgr->delete_flash("A", m_place->db_dir())));
         QVERIFY(is_refused(m_mgr->remove_template("T")));
         QVERIFY(is_refused(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string())));
-        expect_warning_text(m_place->db_dir() + " was not made the database directory: " + told);
+        expect_message(m_place->db_dir() + " was not made the database directory: " + told);
         QVERIFY(!GFPDB_MGR::save_custom_dir_to_ini(m_place->db_dir(), false));
         QVERIFY(!GFPDB_EMBEDDED_MGR::instance().store().check_integrity());
     }
-
-    std::unique_ptr<GFPDB_PLACE> m_place;
-    GFPDB_MGR* m_mgr = nullptr;
 };
 
 int main(int argc, char** argv)

@@ -44,11 +44,6 @@ int count_from(const char* variable, int default_count)
     return is_number ? count : default_count;
 }
 
-void expect_warning(const char* text)
-{
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(text)));
-}
-
 // The content of a record follows from its name and its mark, so that a mixed or half one is noticed.
 void fill_record(GFPDB_MGR& manager, GFPDB_FLASH& record, const std::string& mark)
 {
@@ -72,7 +67,7 @@ void say(const std::string& line)
     std::fflush(stdout);
 }
 
-bool save(GFPDB_MGR& manager, const std::string& name, const std::string& mark)
+bool save_marked(GFPDB_MGR& manager, const std::string& name, const std::string& mark)
 {
     GFPDB_FLASH* record = manager.create_flash(name);
     fill_record(manager, *record, mark);
@@ -113,7 +108,7 @@ int work()
         const std::string new_name = manager->is_custom_flash(wish) ? old_name : wish;
         if (!remove(*manager, old_name))
             return 1;
-        if (action != 2 && !save(*manager, new_name, random_mark()))
+        if (action != 2 && !save_marked(*manager, new_name, random_mark()))
             return 1;
     }
 }
@@ -123,7 +118,7 @@ int fill(const std::string& prefix, int count)
 {
     GFPDB_MGR* manager = fresh_manager();
     for (int i = 0; i < count; ++i) {
-        if (!save(*manager, prefix + std::to_string(i), random_mark()))
+        if (!save_marked(*manager, prefix + std::to_string(i), random_mark()))
             return 1;
     }
     return 0;
@@ -247,19 +242,11 @@ private:
 
 } // namespace
 
-class TEST_DURABILITY : public QObject
+class TEST_DURABILITY : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_place = std::make_unique<GFPDB_PLACE>();
-        write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n");
-    }
-
-    void cleanup() { m_place.reset(); }
-
     void a_killed_program_loses_nothing_that_it_reported()
     {
         REPORT report;
@@ -320,7 +307,7 @@ private slots:
     {
         const QByteArray change = row<QByteArray>();
         m_mgr = fresh_manager();
-        QVERIFY(save(*m_mgr, "A", "1"));
+        QVERIFY(save_marked(*m_mgr, "A", "1"));
         const std::string before = stored_text(*m_mgr, "A");
         const std::string file = read_file(m_place->db_file());
         GFPDB_FLASH* record = m_mgr->create_flash(change == "replace" ? "A" : "B");
@@ -377,7 +364,7 @@ private slots:
             expect_warning("gfpdb.sqlite");
             for (int i = 0; error.empty(); ++i) {
                 const std::string name = "Name " + std::string(1, char('a' + i));
-                if (save(*m_mgr, name, "mark"))
+                if (save_marked(*m_mgr, name, "mark"))
                     saved.push_back(name);
                 else
                     error = m_mgr->get_last_error();
@@ -407,12 +394,13 @@ private slots:
     void changes_fail_when_the_directory_is_gone()
     {
         m_mgr = fresh_manager();
-        QVERIFY(save(*m_mgr, "A", "1"));
+        QVERIFY(save_marked(*m_mgr, "A", "1"));
         const QString moved = QString::fromStdString(m_place->path("moved"));
         QVERIFY(QDir().rename(QString::fromStdString(m_place->db_dir()), moved));
 
         for (int i = 0; i < 4; ++i)
-            expect_warning("replaced or removed|does not exist");
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QStringLiteral("replaced or removed|does not exist")));
         QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
         QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
         QVERIFY(!QFile::exists(QString::fromStdString(m_place->db_dir())));
@@ -424,9 +412,9 @@ private slots:
     void changes_fail_once_when_the_file_was_replaced()
     {
         m_mgr = fresh_manager();
-        QVERIFY(save(*m_mgr, "A", "1"));
+        QVERIFY(save_marked(*m_mgr, "A", "1"));
         QVERIFY(QFile::copy(QString::fromStdString(m_place->db_file()), QString::fromStdString(m_place->path("copy"))));
-        QVERIFY(save(*m_mgr, "B", "1"));
+        QVERIFY(save_marked(*m_mgr, "B", "1"));
         QCOMPARE(std::rename(m_place->path("copy").c_str(), m_place->db_file().c_str()), 0);
         const std::string before = read_file(m_place->db_file());
 
@@ -437,11 +425,13 @@ private slots:
         QCOMPARE(read_file(m_place->db_file()), before);
         QCOMPARE(custom_names(*m_mgr), NAMES{"A"});
         QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
-        QVERIFY(save(*m_mgr, "C", "1"));
+        QVERIFY(save_marked(*m_mgr, "C", "1"));
         QCOMPARE(custom_names(*m_mgr), NAMES{"C"});
     }
 
 private:
+    void set_up() override { write_file(m_place->settings(), "[database]\nbusy_timeout=60000\n"); }
+
     void kill_a_worker(REPORT& report)
     {
         QProcess worker;
@@ -499,8 +489,6 @@ private:
         ++m_undone_renames;
     }
 
-    std::unique_ptr<GFPDB_PLACE> m_place;
-    GFPDB_MGR* m_mgr = nullptr;
     int m_kills_within_a_change = 0;
     int m_undone_renames = 0;
 };

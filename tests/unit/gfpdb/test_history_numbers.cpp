@@ -13,23 +13,11 @@ using IDS = QVector<qlonglong>;
 
 } // namespace
 
-class TEST_HISTORY_NUMBERS : public QObject
+class TEST_HISTORY_NUMBERS : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_place = std::make_unique<GFPDB_PLACE>();
-        m_store = gfpdb_make_store(m_place->db_dir());
-    }
-
-    void cleanup()
-    {
-        m_store.reset();
-        m_place.reset();
-    }
-
     void a_new_history_begins_with_one()
     {
         add_state();
@@ -136,6 +124,9 @@ private slots:
     }
 
 private:
+    void set_up() override { m_store = gfpdb_make_store(m_place->db_dir()); }
+    void take_down() override { m_store.reset(); }
+
     // Adds a state of the device `name` to the history.
     void add_state(const std::string& name = "A")
     {
@@ -171,7 +162,6 @@ private:
 
     static constexpr char NOTED[] = "SELECT coalesce((SELECT value FROM meta WHERE name = 'last_state'), 'none')";
 
-    std::unique_ptr<GFPDB_PLACE> m_place;
     std::unique_ptr<GFPDB_STORE> m_store;
 };
 

@@ -14,11 +14,6 @@ namespace {
 const std::string NEW_DEVICE = "<<new device>>";
 const std::string CASE_NOTE = " Upper and lower case count as the same.";
 
-void expect_warning(const std::string& text)
-{
-    QTest::ignoreMessage(QtWarningMsg, text.c_str());
-}
-
 } // namespace
 
 class TEST_MANAGER_NAMES : public MANAGER_TEST
@@ -189,7 +184,7 @@ private slots:
     {
         save_with_builtin_name();
         QVERIFY(remove(BUILTIN));
-        expect_warning("There is no record to save.");
+        expect_message("There is no record to save.");
         QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
         QCOMPARE(custom_names(*m_mgr), NAMES{BUILTIN});
 
@@ -237,15 +232,15 @@ private slots:
     {
         save("A");
         break_flows();
-        expect_warning(flows_error());
+        expect_message(flows_error());
         QVERIFY(m_mgr->find_flash("A", true) == nullptr);
 
         for (const char* name : {"A", "a"}) {
-            expect_warning(unread_error(name));
+            expect_message(unread_error(name));
             QVERIFY(!remove(name));
             QCOMPARE(m_mgr->get_last_error(), unread_error(name));
         }
-        expect_warning(unread_error("A"));
+        expect_message(unread_error("A"));
         QCOMPARE(save_error("A"), unread_error("A"));
         QCOMPARE(run_sql(m_place->db_file(), "SELECT revision FROM device").toString(), QStringLiteral("broken"));
 
@@ -258,7 +253,7 @@ private slots:
         make_dir(m_place->path("other/"));
         QVERIFY(m_mgr->delete_flash("A", m_place->path("other/")));
         m_mgr = fresh_manager();
-        expect_warning(unread_error("A"));
+        expect_message(unread_error("A"));
         QVERIFY(!remove("A"));
     }
 
@@ -266,7 +261,7 @@ private slots:
     {
         save("A");
         break_flows();
-        expect_warning(flows_error());
+        expect_message(flows_error());
         QVERIFY(m_mgr->find_flash("A", true) == nullptr);
         run_sql(m_place->db_file(), "UPDATE device SET single_flows = '', revision = 'whole'");
 
@@ -300,7 +295,7 @@ private slots:
         m_mgr = fresh_manager();
         save("A");
         break_flows();
-        expect_warning(flows_error());
+        expect_message(flows_error());
         QVERIFY(m_mgr->find_flash("A", true) == nullptr);
         run_sql(m_place->db_file(), "DELETE FROM device");
 

@@ -22,11 +22,6 @@ namespace {
 
 constexpr uid_t NOBODY = 65534;
 
-void expect_warning(const std::string& text)
-{
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(QString::fromStdString(text))));
-}
-
 // A directory that can be filled, then sealed: nothing in it can be written until it is opened again. Root, whom no
 // permission stops, gets a read-only mount of it; where that is not allowed, the process becomes another user.
 class READ_ONLY_DIR
@@ -95,28 +90,11 @@ void READ_ONLY_DIR::unseal()
 
 } // namespace
 
-class TEST_READ_ONLY : public QObject
+class TEST_READ_ONLY : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        // The other user can go on working there.
-        m_place = std::make_unique<GFPDB_PLACE>(GFPDB_PLACE::ON::MEMORY);
-        ::chmod(m_place->path("").c_str(), 0777);
-        m_dir = std::make_unique<READ_ONLY_DIR>();
-        GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
-    }
-
-    void cleanup()
-    {
-        GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
-        fresh_manager();
-        m_dir.reset();
-        m_place.reset();
-    }
-
     void the_devices_of_a_read_only_database_can_be_used_but_not_changed()
     {
         make_database();
@@ -293,6 +271,23 @@ private slots:
     }
 
 private:
+    // The other user can go on working there.
+    GFPDB_PLACE::ON medium() const override { return GFPDB_PLACE::ON::MEMORY; }
+
+    void set_up() override
+    {
+        ::chmod(m_place->path("").c_str(), 0777);
+        m_dir = std::make_unique<READ_ONLY_DIR>();
+        GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
+    }
+
+    void take_down() override
+    {
+        GFPDB_MGR::set_db_custom_dir(m_place->db_dir());
+        fresh_manager();
+        m_dir.reset();
+    }
+
     // With the device A and the template T, and closed.
     void make_database()
     {
@@ -305,9 +300,7 @@ private:
         GFPDB_MGR::set_db_custom_dir(m_dir->path(""));
     }
 
-    std::unique_ptr<GFPDB_PLACE> m_place;
     std::unique_ptr<READ_ONLY_DIR> m_dir;
-    GFPDB_MGR* m_mgr = nullptr;
 };
 
 QTEST_GUILESS_MAIN(TEST_READ_ONLY)

@@ -122,15 +122,11 @@ NAMES names_of(const std::map<std::string, std::string>& records)
 
 } // namespace
 
-class TEST_ROUND_TRIP : public QObject
+class TEST_ROUND_TRIP : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_place = std::make_unique<GFPDB_PLACE>(GFPDB_PLACE::ON::MEMORY); }
-
-    void cleanup() { m_place.reset(); }
-
     void a_saved_record_is_read_byte_for_byte()
     {
         const bool holds = rc::check("a saved record is read byte for byte", [this] {
@@ -199,6 +195,7 @@ private slots:
     }
 
 private:
+    GFPDB_PLACE::ON medium() const override { return GFPDB_PLACE::ON::MEMORY; }
     void change_anything(GFPDB_MGR& manager, EXPECTED& expected)
     {
         const int action = *rc::gen::inRange(0, 4);
@@ -247,8 +244,6 @@ private:
         if (!template_name.empty())
             expected.templates[template_name] = saved;
     }
-
-    std::unique_ptr<GFPDB_PLACE> m_place;
 };
 
 QTEST_GUILESS_MAIN(TEST_ROUND_TRIP)

@@ -20,11 +20,6 @@
 
 namespace {
 
-void expect_warning(const std::string& text, QtMsgType type = QtWarningMsg)
-{
-    QTest::ignoreMessage(type, text.c_str());
-}
-
 QStringList entries(const std::string& directory)
 {
     return QDir(QString::fromStdString(directory)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -55,19 +50,11 @@ int ask_for_the_custom_directory(const QStringList& base_directories)
 
 } // namespace
 
-class TEST_SETTINGS : public QObject
+class TEST_SETTINGS : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_place = std::make_unique<GFPDB_PLACE>(); }
-
-    void cleanup()
-    {
-        GFPDB_HELPER::set_base_dir(std::string());
-        m_place.reset();
-    }
-
     void a_value_is_read_from_its_section()
     {
         write_file(settings(),
@@ -192,7 +179,7 @@ private slots:
 
         write_file(m_place->path("file"), "content");
         qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(m_place->path("file/settings.ini")));
-        expect_warning("The settings file " + m_place->path("file/settings.ini") +
+        expect_message("The settings file " + m_place->path("file/settings.ini") +
                            " cannot be written: its directory cannot be created",
                        QtCriticalMsg);
         QVERIFY(!gfpdb_write_setting("custom_dir", "/b/"));
@@ -401,25 +388,25 @@ private slots:
         GFPDB_MGR::set_db_custom_dir(m_place->path("missing"));
         fresh_manager();
         const std::string problem = "The database directory " + m_place->path("missing/") + " does not exist.";
-        expect_warning(problem);
+        expect_message(problem);
         QCOMPARE(GFPDB_HELPER::get_database_problem(), problem);
         QVERIFY(!QFile::exists(QString::fromStdString(m_place->path("missing"))));
     }
 
 private:
+    void take_down() override { GFPDB_HELPER::set_base_dir(std::string()); }
+
     std::string settings() const { return m_place->settings(); }
     void expect_settings_warning(const std::string& text)
     {
-        expect_warning("The settings file " + settings() + ' ' + text, QtCriticalMsg);
+        expect_message("The settings file " + settings() + ' ' + text, QtCriticalMsg);
     }
     // What is logged when `directory` of the place is not accepted because of `problem`.
     void expect_refusal(const std::string& directory, const std::string& problem)
     {
-        expect_warning(problem);
-        expect_warning(m_place->path(directory) + " was not made the database directory: " + problem);
+        expect_message(problem);
+        expect_message(m_place->path(directory) + " was not made the database directory: " + problem);
     }
-
-    std::unique_ptr<GFPDB_PLACE> m_place;
 };
 
 int main(int argc, char** argv)

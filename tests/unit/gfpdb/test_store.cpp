@@ -40,11 +40,6 @@ const std::vector<std::string> SCHEMA_1 = {
 const std::string VALUES = "3, 7, 'Old', 'C2', '1.8V', '8Mb', 2, NULL, 6, 'Old template', 'a flow template', 'r', "
                            "'2024-05-17T09:30:00Z', 'single', 'quad'";
 
-void expect_warning(const char* text)
-{
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(text)));
-}
-
 std::string schema_of(const std::string& path)
 {
     return run_sql(path, "SELECT group_concat(sql, ';') FROM (SELECT sql FROM sqlite_master ORDER BY name)")
@@ -54,23 +49,11 @@ std::string schema_of(const std::string& path)
 
 } // namespace
 
-class TEST_STORE : public QObject
+class TEST_STORE : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_place = std::make_unique<GFPDB_PLACE>();
-        m_store = gfpdb_make_store(m_place->db_dir());
-    }
-
-    void cleanup()
-    {
-        m_store.reset();
-        m_place.reset();
-    }
-
     void the_file_is_made_by_the_first_change()
     {
         QVERIFY(m_store->is_readable());
@@ -547,6 +530,9 @@ private slots:
     }
 
 private:
+    void set_up() override { m_store = gfpdb_make_store(m_place->db_dir()); }
+    void take_down() override { m_store.reset(); }
+
     std::string file() const { return m_place->db_file(); }
     // A database with the one device `name`, at `path`.
     void make_file(const std::string& path, const std::string& name)
@@ -561,7 +547,6 @@ private:
             qFatal("cannot rename to %s", path.c_str());
     }
 
-    std::unique_ptr<GFPDB_PLACE> m_place;
     std::unique_ptr<GFPDB_STORE> m_store;
 };
 

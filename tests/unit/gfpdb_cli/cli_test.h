@@ -46,7 +46,7 @@ QString exported_file(const GFPDB_PLACE& place, const char* device);
 void replace_in_file(const QString& path, const char* what, const char* with);
 
 // Base of the tests of the tool: a scratch directory for each test function.
-class CLI_TEST : public QObject
+class CLI_TEST : public DATABASE_TEST
 {
     Q_OBJECT
 
@@ -58,10 +58,4 @@ protected:
     QString exported_file(const char* device) const { return ::exported_file(*m_place, device); }
     // The path of a file of it.
     QString at(const char* name) const { return q(m_place->path(name)); }
-
-    std::unique_ptr<GFPDB_PLACE> m_place;
-
-private slots:
-    void init() { m_place = std::make_unique<GFPDB_PLACE>(); }
-    void cleanup() { m_place.reset(); }
 };

@@ -7,18 +7,12 @@
 #include "test_rows.h"
 
 #include <QDirIterator>
-#include <QRegularExpression>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
-
-void expect_warning(const std::string& text)
-{
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(QString::fromStdString(text))));
-}
 
 // Every file and directory under `directory`.
 QStringList tree(const std::string& directory)
@@ -39,15 +33,11 @@ const char ENDLESS_VIEW[] = "CREATE VIEW device AS WITH RECURSIVE n(x) AS (SELEC
 
 } // namespace
 
-class TEST_HOSTILE_DATABASE : public QObject
+class TEST_HOSTILE_DATABASE : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_place = std::make_unique<GFPDB_PLACE>(); }
-
-    void cleanup() { m_place.reset(); }
-
     void a_name_never_becomes_sql_data()
     {
         rows_named<QString>({"'; DROP TABLE device; --",
@@ -312,16 +302,6 @@ private slots:
     }
 
 private:
-    // With the devices "A" and "B" and the stored template "T".
-    void make_database()
-    {
-        m_mgr = fresh_manager();
-        GFPDB_FLASH* record = make_device(*m_mgr, "A");
-        record->set_string_property(GFPDB_FLASH_TEMPLATE_NAME, "T");
-        QVERIFY(m_mgr->save_flash(record, m_place->db_dir()));
-        QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "B"), m_place->db_dir()));
-    }
-
     // A program that is started now does not use the file, says why, and leaves it as it is.
     void verify_refused(const std::string& problem)
     {
@@ -338,9 +318,6 @@ private:
         QVERIFY(!m_mgr->delete_flash("A", m_place->db_dir()));
         QCOMPARE(read_file(m_place->db_file()), before);
     }
-
-    std::unique_ptr<GFPDB_PLACE> m_place;
-    GFPDB_MGR* m_mgr = nullptr;
 };
 
 QTEST_GUILESS_MAIN(TEST_HOSTILE_DATABASE)

@@ -61,15 +61,11 @@ std::optional<gid_t> other_group()
 
 } // namespace
 
-class TEST_PERMISSIONS : public QObject
+class TEST_PERMISSIONS : public DATABASE_TEST
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_place = std::make_unique<GFPDB_PLACE>(); }
-
-    void cleanup() { m_place.reset(); }
-
     void nothing_that_is_made_can_be_written_by_everyone()
     {
         const MASK mask(0);
@@ -166,8 +162,6 @@ private:
         GFPDB_MGR* manager = fresh_manager();
         QVERIFY(manager->save_flash(make_device(*manager, "A"), std::string()));
     }
-
-    std::unique_ptr<GFPDB_PLACE> m_place;
 };
 
 QTEST_GUILESS_MAIN(TEST_PERMISSIONS)
