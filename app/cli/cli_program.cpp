@@ -202,16 +202,6 @@ int dispatch(const CLI_PROGRAM& program, const QStringList& arguments, CLI_OUTPU
     return CLI_EXIT_USAGE;
 }
 
-int run(const CLI_PROGRAM& program, const QStringList& arguments)
-{
-    CLI_OUTPUT output(program.name);
-    const int exit_code = dispatch(program, arguments, output);
-    if (output.flush())
-        return exit_code;
-    output.error("The output cannot be written.");
-    return exit_code == CLI_EXIT_OK ? CLI_EXIT_BAD_FILE : exit_code;
-}
-
 // What the library logs can have texts of others in it.
 void print_log(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
@@ -221,11 +211,21 @@ void print_log(QtMsgType type, const QMessageLogContext& context, const QString&
 
 } // namespace
 
+int cli_run(const CLI_PROGRAM& program, const QStringList& arguments)
+{
+    CLI_OUTPUT output(program.name);
+    const int exit_code = dispatch(program, arguments, output);
+    if (output.flush())
+        return exit_code;
+    output.error("The output cannot be written.");
+    return exit_code == CLI_EXIT_OK ? CLI_EXIT_BAD_FILE : exit_code;
+}
+
 int cli_main(int argc, char** argv, const CLI_PROGRAM& program)
 {
     std::setlocale(LC_ALL, "");
     cli_use_file_names();
     qInstallMessageHandler(print_log);
     const QCoreApplication application(argc, argv);
-    return run(program, application.arguments());
+    return cli_run(program, application.arguments());
 }

@@ -16,5 +16,7 @@ struct CLI_PROGRAM
     std::vector<std::unique_ptr<CLI_COMMAND>> commands;
 };
 
-// What main() of a tool does: runs it with its arguments and gives its exit code. Arguments are UTF-8, paths any bytes.
+// Runs a tool with its arguments, the program's name first, and gives its exit code. UTF-8, paths any bytes.
+int cli_run(const CLI_PROGRAM& program, const QStringList& arguments);
+// What main() of a tool does: the same for a process of its own.
 int cli_main(int argc, char** argv, const CLI_PROGRAM& program);
