@@ -4,6 +4,7 @@
 #include "base/gfpdb_create_dir.h"
 #include "base/gfpdb_log.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -11,6 +12,7 @@
 
 namespace {
 
+const QString START_DIRECTORY = QDir::currentPath();
 const QByteArray SECTION = QByteArrayLiteral("[database]");
 constexpr qint64 LARGEST_FILE = 1 << 20;
 // What some editors put before the first line.
@@ -20,8 +22,9 @@ QString settings_path()
 {
     const QByteArray named = qgetenv("GFPDB_SETTINGS");
     if (!named.isEmpty())
-        return QFile::decodeName(named);
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/gfpdb/gfpdb.ini");
+        return gfpdb_from_start(QFile::decodeName(named));
+    return gfpdb_from_start(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                            QLatin1String("/gfpdb/gfpdb.ini"));
 }
 
 // Another directory than the user's may be used then: that is told where warnings are not.
@@ -106,6 +109,11 @@ bool write_lines(const QString& path, const QList<QByteArray>& lines)
 }
 
 } // namespace
+
+QString gfpdb_from_start(const QString& path)
+{
+    return QDir(START_DIRECTORY).absoluteFilePath(path);
+}
 
 std::string gfpdb_read_setting(const std::string& key)
 {

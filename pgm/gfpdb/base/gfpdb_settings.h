@@ -5,11 +5,17 @@
 // Not QSettings: that drops comments when it writes, and takes backslashes, commas and quotes in a value for its own.
 //
 // An INI file: lines "key=value" under "[database]". It is the file named by the environment variable GFPDB_SETTINGS if
-// that is set, else gfpdb/gfpdb.ini in the user's configuration directory. Values are bytes as they stand, without
-// blanks at their ends. A file that cannot be read is logged and counts as empty. GUI thread only.
+// that is set, else gfpdb/gfpdb.ini in the user's configuration directory. A relative name is relative to where the
+// program was started: the current directory may become one that others can write. Values are bytes as they stand,
+// without blanks at their ends. A file that cannot be read is logged and counts as empty. GUI thread only.
 #pragma once
 
+#include <QString>
+
 #include <string>
+
+// `path`, relative to the directory that was the current one when the library was loaded, as an absolute path.
+QString gfpdb_from_start(const QString& path);
 
 // The value of `key`; empty when the file does not have it. The last of several lines counts.
 std::string gfpdb_read_setting(const std::string& key);

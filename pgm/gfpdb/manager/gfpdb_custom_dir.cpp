@@ -45,7 +45,7 @@ std::string absolute_dir(std::string directory, const std::string& base)
 
 std::string gfpdb_default_dir()
 {
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString data = gfpdb_from_start(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     return PGM_COMMON::change_folder_slash(QFile::encodeName(data + QLatin1String("/gfpdb/")).toStdString());
 }
 

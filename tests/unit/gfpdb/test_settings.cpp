@@ -199,6 +199,27 @@ private slots:
         QCOMPARE(read_file(m_place->path("config/gfpdb/gfpdb.ini")), std::string("[database]\ncustom_dir=/a/\n"));
     }
 
+    // The dialog makes the directory that the user looks at the current one, which others may write.
+    void relative_names_stay_where_the_program_was_started()
+    {
+        const QString start = QDir::currentPath();
+        qputenv("GFPDB_SETTINGS", QDir(start).relativeFilePath(QString::fromStdString(settings())).toLocal8Bit());
+        const QByteArray data = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", QDir(start).relativeFilePath(QString::fromLocal8Bit(data)).toLocal8Bit());
+        write_file(settings(), "[database]\nbusy_timeout=7\n");
+        QVERIFY(QDir::setCurrent(QString::fromStdString(m_place->db_dir())));
+
+        const std::string read = gfpdb_read_setting("busy_timeout");
+        const bool is_written = gfpdb_write_setting("busy_timeout", "8");
+        const std::string directory = gfpdb_default_dir();
+        QVERIFY(QDir::setCurrent(start));
+
+        QCOMPARE(read, std::string("7"));
+        QVERIFY(is_written);
+        QCOMPARE(read_file(settings()), std::string("[database]\nbusy_timeout=8\n"));
+        QCOMPARE(directory, m_place->path("data/gfpdb/"));
+    }
+
     void an_empty_directory_is_the_default_in_the_data_directory()
     {
         QCOMPARE(gfpdb_default_dir(), m_place->path("data/gfpdb/"));
