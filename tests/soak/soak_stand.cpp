@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <limits>
 
 #include <malloc.h>
@@ -89,6 +90,16 @@ std::size_t allocated_bytes()
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
 #endif
+}
+
+double usual_growth(const std::vector<std::size_t>& levels)
+{
+    std::vector<double> growths;
+    for (std::size_t at = 1; at < levels.size(); ++at)
+        growths.push_back(double(levels[at]) - double(levels[at - 1]));
+    const auto middle = growths.begin() + std::ptrdiff_t(growths.size() / 2);
+    std::nth_element(growths.begin(), middle, growths.end());
+    return *middle;
 }
 
 void allow_a_long_run()

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 // One in a process, made after the application object. The library's settings, its default directory and the two
 // database directories lie in a scratch directory.
@@ -38,6 +39,10 @@ private:
 
 // The bytes that the process has allocated and not freed.
 std::size_t allocated_bytes();
+
+// By how many bytes memory grows from one of the levels to the next: the median. What is lost in every stretch of work
+// shows in every level; a cache that is emptied after some seconds, and filled again later, in one or two.
+double usual_growth(const std::vector<std::size_t>& levels);
 
 // Keeps Qt Test from ending a test function after five minutes. Called before the first test; a limit that the
 // environment sets stays.
