@@ -16,9 +16,18 @@ using PROTECTION = GFPE_CHIP_PROTECTION;
 
 constexpr std::int64_t BLOCK_BYTES = 65536;
 
-constexpr int PROGRAM_FAILED = 0x10;
-constexpr int ERASE_FAILED = 0x20;
-constexpr int PROTECTION_ERROR = 0x02;
+constexpr std::int64_t UNLOCK_US = 25;
+
+// In the flag register, and in the first status register.
+constexpr std::uint8_t PROGRAM_FAILED = 0x10;
+constexpr std::uint8_t ERASE_FAILED = 0x20;
+constexpr std::uint8_t PROTECTION_ERROR = 0x02;
+constexpr std::uint8_t STATUS_PROGRAM_FAILED = 0x40;
+constexpr std::uint8_t STATUS_ERASE_FAILED = 0x20;
+
+constexpr int SECTORS = 0x40;              // the level counts 4K sectors
+constexpr int COMPLEMENT = 0x40;           // what is protected is not, and the other way round
+constexpr int CONFIGURATION_BOTTOM = 0x08; // the level counts from the bottom
 
 } // namespace
 
@@ -27,37 +36,61 @@ bool GFPE_CHIP_CORE::may_change(const REQUEST& request, std::int64_t start, std:
     if (!is_write_enabled(request))
         return false;
     const bool is_erase = request.spec.job != JOB::PROGRAM;
-    if (!is_protected(start, length) && !is_locked(start, length))
+    if (!is_protected(start, length) && !die().locks.is_locked(start, length))
         return true;
     note(request, is_erase ? "protected: nothing was erased" : "protected: nothing was programmed");
-    fail_flags(PROTECTION_ERROR | (is_erase ? ERASE_FAILED : PROGRAM_FAILED));
+    fail(is_erase);
     return false;
 }
 
-void GFPE_CHIP_CORE::fail_flags(int bits)
+// Chips with a flag register note it there. Others show it in the status register, and stay busy until it is cleared.
+void GFPE_CHIP_CORE::fail(bool is_erase)
 {
+    REGISTERS& registers = die().registers;
     if (m_facts.has_flags)
-        die().registers[static_cast<std::size_t>(REG::FLAGS)] |= static_cast<std::uint8_t>(bits);
+        registers[static_cast<std::size_t>(REG::FLAGS)] |=
+            PROTECTION_ERROR | (is_erase ? ERASE_FAILED : PROGRAM_FAILED);
+    if (!m_facts.shows_errors)
+        return;
+    registers[static_cast<std::size_t>(REG::STATUS_1)] |= is_erase ? STATUS_ERASE_FAILED : STATUS_PROGRAM_FAILED;
+    std::fill(m_busy_until.begin(), m_busy_until.end(), NEVER);
 }
 
+// From the lowest to behind the highest protected position.
 void GFPE_CHIP_CORE::protected_range(std::int64_t& start, std::int64_t& end) const
 {
-    start = end = 0;
     const int status = die().registers[static_cast<std::size_t>(REG::STATUS_1)];
     const std::int64_t size = die_bytes();
-    const bool three = m_facts.protection == PROTECTION::THREE_BITS;
-    int level = status >> 2 & (three ? 7 : 15);
-    bool from_bottom = three ? status & 0x20 : m_facts.protection == PROTECTION::FOUR_BITS_TB && (status & 0x40);
-    if (m_facts.protection == PROTECTION::MICRON) {
-        level = (status >> 2 & 7) | (status & 0x40 ? 8 : 0);
-        from_bottom = status & 0x20;
+    const PROTECTION kind = m_facts.protection;
+    const bool three = kind == PROTECTION::THREE_BITS || kind == PROTECTION::THREE_BITS_TOP;
+    const int most = three ? 7 : 15;
+    const int level = kind == PROTECTION::MICRON ? (status >> 2 & 7) | (status >> 3 & 8) : status >> 2 & most;
+    std::int64_t length = (three ? std::max(size / 64, BLOCK_BYTES) : BLOCK_BYTES) << std::max(level - 1, 0);
+    if (kind == PROTECTION::THREE_BITS && status & SECTORS)
+        length = std::min(SECTOR_BYTES << std::max(level - 1, 0), BLOCK_BYTES / 2);
+    if (level == 0 || kind == PROTECTION::NONE)
+        length = 0;
+    else if (level == most)
+        length = size;
+    start = is_protected_from_bottom() ? 0 : size - std::min(length, size);
+    end = start + std::min(length, size);
+}
+
+bool GFPE_CHIP_CORE::is_protected_from_bottom() const
+{
+    const REGISTERS& registers = die().registers;
+    const int status = registers[static_cast<std::size_t>(REG::STATUS_1)];
+    switch (m_facts.protection) {
+    case PROTECTION::THREE_BITS:
+    case PROTECTION::MICRON:
+        return status & 0x20;
+    case PROTECTION::FOUR_BITS_TB:
+        return status & 0x40;
+    case PROTECTION::FOUR_BITS:
+        return registers[static_cast<std::size_t>(REG::CONFIGURATION)] & CONFIGURATION_BOTTOM;
+    default:
+        return false;
     }
-    if (m_facts.protection == PROTECTION::NONE || level == 0)
-        return;
-    const std::int64_t unit = three ? std::max(size / 64, BLOCK_BYTES) : BLOCK_BYTES;
-    const std::int64_t length = level == (three ? 7 : 15) ? size : std::min(unit << (level - 1), size);
-    start = from_bottom ? 0 : size - length;
-    end = start + length;
 }
 
 bool GFPE_CHIP_CORE::is_protected(std::int64_t start, std::int64_t length) const
@@ -65,28 +98,23 @@ bool GFPE_CHIP_CORE::is_protected(std::int64_t start, std::int64_t length) const
     std::int64_t from = 0;
     std::int64_t to = 0;
     protected_range(from, to);
+    if (m_facts.complements && die().registers[static_cast<std::size_t>(REG::STATUS_2)] & COMPLEMENT)
+        return start < from || start + length > to;
     return start < to && start + length > from;
 }
 
-// The lock of each block: 8K ones at both ends, then a 32K one each, and 64K between them.
-bool GFPE_CHIP_CORE::is_locked(std::int64_t start, std::int64_t length) const
+void GFPE_CHIP_CORE::execute_locks(const REQUEST& request)
 {
-    for (std::int64_t at = start; !die().locks.empty() && at < start + length;) {
-        const std::int64_t size = graded_size(at);
-        if (die().locks[static_cast<std::size_t>(at / SECTOR_BYTES)])
-            return true;
-        at = at / size * size + size;
-    }
-    return false;
+    const std::vector<std::uint8_t>& locks = die().locks.get_register();
+    if (request.spec.job == JOB::READ_LOCKS)
+        return answer(request,
+                      [&locks](std::int64_t at) { return locks[static_cast<std::size_t>(at) % locks.size()]; });
+    if (!is_write_enabled(request) || loses_power())
+        return;
+    if (!die().locks.set_register(request.data, request.length))
+        return note(request, "takes " + std::to_string(locks.size()) + " data bytes: ignored");
+    start_busy(UNLOCK_US);
 }
-
-void GFPE_CHIP_CORE::reset_locks(DIE& which) const
-{
-    if (m_facts.has_block_locks)
-        which.locks.assign(static_cast<std::size_t>(m_facts.bytes / SECTOR_BYTES), 1);
-}
-
-void GFPE_CHIP_CORE::execute_locks(const REQUEST&) {}
 
 void GFPE_CHIP_CORE::execute_program(REQUEST& request)
 {
@@ -154,15 +182,6 @@ bool GFPE_CHIP_CORE::program_run(std::int64_t position, const std::uint8_t* data
     return missed == 0;
 }
 
-std::int64_t GFPE_CHIP_CORE::graded_size(std::int64_t address) const
-{
-    constexpr std::int64_t SMALL = 4 * 8192;
-    const std::int64_t distance = std::min(address, m_facts.bytes - 1 - address);
-    if (distance < SMALL)
-        return 8192;
-    return distance < BLOCK_BYTES ? 32768 : 65536;
-}
-
 void GFPE_CHIP_CORE::execute_erase(const REQUEST& request)
 {
     if (request.length || request.command.in_length)
@@ -180,7 +199,7 @@ void GFPE_CHIP_CORE::execute_erase(const REQUEST& request)
     else if (request.spec.job == JOB::ERASE_DIE)
         size = part;
     else if (m_facts.has_block_locks && size > SECTOR_BYTES)
-        size = graded_size(address);
+        size = die().locks.block_bytes(address);
     const std::int64_t start = address / size * size;
     if (!may_change(request, start, size))
         return;

@@ -8,10 +8,10 @@ namespace {
 using JOB = GFPE_CHIP_JOB;
 using REG = GFPE_CHIP_REGISTER;
 
+constexpr std::uint8_t STATUS_ERRORS = 0x60;
 constexpr std::int64_t RESET_US = 500;
 constexpr std::int64_t UNLOCK_US = 25;
 constexpr int MOST_DUMMY_CLOCKS = 1024;
-constexpr std::int64_t NEVER = INT64_MAX;
 constexpr std::int64_t LONGEST_WAIT_US = std::int64_t(1) << 50;
 
 std::int64_t clocks_before_answer(const GFPE_COMMAND& command)
@@ -26,6 +26,8 @@ GFPE_CHIP_CORE::GFPE_CHIP_CORE(GFPE_CHIP_FACTS facts)
     : m_facts(std::move(facts)), m_memory(m_facts.bytes), m_dies(static_cast<std::size_t>(m_facts.selected_dies)),
       m_busy_until(static_cast<std::size_t>(m_facts.status_dies))
 {
+    for (DIE& each : m_dies)
+        each.locks = GFPE_CHIP_LOCKS(m_facts.has_block_locks ? m_facts.bytes : 0);
     power_up();
 }
 
@@ -40,7 +42,7 @@ void GFPE_CHIP_CORE::power_up()
     for (DIE& each : m_dies) {
         each.registers = each.stored;
         each.write_enabled = each.volatile_write = each.four_byte = false;
-        reset_locks(each);
+        each.locks.reset();
     }
 }
 
@@ -134,7 +136,7 @@ bool GFPE_CHIP_CORE::is_heard(const GFPE_COMMAND& command, const GFPE_CHIP_COMMA
 {
     const bool is_poll = command.opcode == 0x05 || command.opcode == 0x70;
     const bool may_interrupt = is_poll || spec.job == JOB::RESET_ENABLE || spec.job == JOB::RESET ||
-                               (spec.job == JOB::SELECT_DIE && m_facts.status_dies > 1);
+                               spec.job == JOB::CLEAR_FLAGS || (spec.job == JOB::SELECT_DIE && m_facts.status_dies > 1);
     std::string problem;
     if (command.opcode_lines != 1)
         problem = "sent on " + std::to_string(command.opcode_lines) + " lines, but the chip takes commands on one";
@@ -198,7 +200,10 @@ void GFPE_CHIP_CORE::execute_simple(REQUEST& request)
         die().volatile_write = true;
         break;
     case JOB::CLEAR_FLAGS:
-        die().registers[static_cast<std::size_t>(REG::FLAGS)] = 0;
+        clear_errors();
+        break;
+    case JOB::ENTER_QPI:
+        note(request, "commands on four lines from now on, which this emulation does not have: ignored");
         break;
     case JOB::POWER_DOWN:
         m_is_down = true;
@@ -209,7 +214,7 @@ void GFPE_CHIP_CORE::execute_simple(REQUEST& request)
     case JOB::UNLOCK_BLOCKS:
         if (!is_write_enabled(request))
             break;
-        std::fill(die().locks.begin(), die().locks.end(), std::uint8_t(0));
+        die().locks.unlock();
         start_busy(UNLOCK_US);
         break;
     case JOB::ENTER_4_BYTE:
@@ -219,6 +224,17 @@ void GFPE_CHIP_CORE::execute_simple(REQUEST& request)
     default:
         break;
     }
+}
+
+void GFPE_CHIP_CORE::clear_errors()
+{
+    die().registers[static_cast<std::size_t>(REG::FLAGS)] = 0;
+    std::uint8_t& status = die().registers[static_cast<std::size_t>(REG::STATUS_1)];
+    if (!m_facts.shows_errors || !(status & STATUS_ERRORS))
+        return;
+    status &= static_cast<std::uint8_t>(~STATUS_ERRORS);
+    die().write_enabled = false;
+    std::fill(m_busy_until.begin(), m_busy_until.end(), m_now);
 }
 
 void GFPE_CHIP_CORE::execute_reset(const REQUEST& request)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "chip/gfpe_chip_facts.h"
+#include "chip/gfpe_chip_locks.h"
 #include "chip/gfpe_chip_memory.h"
 #include "chip/gfpe_chip_notes.h"
 #include "gfpe/gfpe_chip.h"
@@ -35,6 +36,7 @@ public:
 
 private:
     static constexpr std::int64_t CLOCK_NS = 1000000000 / CLOCK;
+    static constexpr std::int64_t NEVER = INT64_MAX;
     using REGISTERS = std::array<std::uint8_t, GFPE_CHIP_REGISTERS>;
 
     struct DIE
@@ -45,7 +47,7 @@ private:
         bool write_enabled = false;
         bool volatile_write = false;
         bool four_byte = false;
-        std::vector<std::uint8_t> locks;
+        GFPE_CHIP_LOCKS locks;
     };
 
     // A command as the chip hears it: its own number of address bytes and dummy clocks taken off the clocks that came.
@@ -68,6 +70,7 @@ private:
     void dispatch(REQUEST& request);
     void execute_simple(REQUEST& request);
     void execute_reset(const REQUEST& request);
+    void clear_errors();
     bool is_write_enabled(const REQUEST& request);
     void note(const REQUEST& request, const std::string& what) { m_notes.add(request.command.opcode, what); }
     void settle();
@@ -113,13 +116,11 @@ private:
     bool program_run(std::int64_t position, const std::uint8_t* data, std::int64_t length);
     void execute_erase(const REQUEST& request);
     void erase_cells(std::int64_t start, std::int64_t length);
-    std::int64_t graded_size(std::int64_t address) const;
     bool may_change(const REQUEST& request, std::int64_t start, std::int64_t length);
     bool is_protected(std::int64_t start, std::int64_t length) const;
-    bool is_locked(std::int64_t start, std::int64_t length) const;
     void protected_range(std::int64_t& start, std::int64_t& end) const;
-    void fail_flags(int bits);
-    void reset_locks(DIE& which) const;
+    bool is_protected_from_bottom() const;
+    void fail(bool is_erase);
     void execute_locks(const REQUEST& request);
 
     GFPE_CHIP_FACTS m_facts;

@@ -19,6 +19,8 @@ constexpr std::int64_t BLOCK_BYTES = 65536;
 constexpr std::int64_t MOST_BYTES = std::int64_t(1) << 32;
 constexpr int USUAL_PAGE = 256;
 constexpr int USUAL_DUMMY = 8;
+constexpr std::uint8_t SECURITY_LOCKS = 0x38; // of the security registers, in the second status register
+constexpr std::size_t MICRON_ID_BYTES = 20;
 
 constexpr std::initializer_list<const char*> OLD_ADESTO = {"AT25SF081", "AT25SF161", "AT25SF321"};
 
@@ -144,6 +146,7 @@ void add_macronix(GFPE_CHIP_FACTS& facts)
     facts.quad_enable = GFPDB_QUAD_ENABLE::SR1_BIT6;
     facts.protection = GFPE_CHIP_PROTECTION::FOUR_BITS;
     add_data(facts, {0x38, 0x3B, 0x6B, 0xEB});
+    add(facts, JOB::ENTER_QPI, {0x35});
     show_mode_in(facts, 0x15, REG::CONFIGURATION, 0x20);
     add_register_write(facts, 0x01, REG::STATUS_1, REG::CONFIGURATION);
     add_mode_commands(facts);
@@ -165,7 +168,7 @@ void add_issi(GFPE_CHIP_FACTS& facts)
     facts.quad_enable = GFPDB_QUAD_ENABLE::SR1_BIT6;
     facts.protection = GFPE_CHIP_PROTECTION::FOUR_BITS;
     add_data(facts, {0x32, 0x38, 0x3B, 0x6B, 0xEB});
-    // On four lines or one, the address tells it; the program of 1-4-4 is not listed by its tables.
+    add(facts, JOB::ENTER_QPI, {0x35});
     add_bank_register(facts);
     if (facts.address_bytes == 4) {
         add(facts, JOB::ENTER_4_BYTE, {0xB7});
@@ -173,6 +176,15 @@ void add_issi(GFPE_CHIP_FACTS& facts)
     }
     add_reset(facts);
     add_signatures(facts);
+}
+
+// The length of what follows, two bytes on how the part was ordered, and 14 of the factory.
+void add_long_id(GFPE_CHIP_FACTS& facts)
+{
+    facts.repeats_id = false;
+    if (facts.id.size() == 3)
+        facts.id.push_back(0x10);
+    facts.id.resize(MICRON_ID_BYTES, 0);
 }
 
 void add_micron(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
@@ -183,6 +195,9 @@ void add_micron(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
     add_data(facts, {0x32, 0x38, 0x3B, 0x6B, 0xEB});
     add(facts, JOB::CLEAR_FLAGS, {0x50});
     add(facts, JOB::READ_ID, {0x9E});
+    add(facts, JOB::ENTER_QPI, {0x35});
+    add_long_id(facts);
+    remove(facts, {0x60});
     show_mode_in(facts, 0x70, REG::FLAGS, 0x01);
     add_reset(facts);
     add_mode_commands(facts);
@@ -201,6 +216,8 @@ void add_micron(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
         add(facts, JOB::ERASE_DIE, {0xC4});
         facts.command(0xC4).address = ADDRESS::BY_MODE;
         remove(facts, {0xC7});
+    } else if (begins(part.name, "MT25Q")) {
+        add(facts, JOB::ERASE_CHIP, {0x60});
     }
 }
 
@@ -211,6 +228,8 @@ void add_common(GFPE_CHIP_FACTS& facts)
     facts.protection = facts.address_bytes == 4 ? GFPE_CHIP_PROTECTION::FOUR_BITS_TB : GFPE_CHIP_PROTECTION::THREE_BITS;
     add_data(facts, {0x32, 0x3B, 0x6B, 0xEB});
     add_register(facts, 0x35, REG::STATUS_2);
+    facts.complements = true;
+    facts.one_time_bits = SECURITY_LOCKS;
     add_register_write(facts, 0x01, REG::STATUS_1, REG::STATUS_2, true);
     add(facts, JOB::VOLATILE_WRITE_ENABLE, {0x50});
     add_mode_commands(facts);
@@ -278,9 +297,12 @@ void add_eon(GFPE_CHIP_FACTS& facts)
 void add_infineon(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 {
     facts.quad_enable = GFPDB_QUAD_ENABLE::SR2_BIT1;
-    facts.protection = GFPE_CHIP_PROTECTION::THREE_BITS;
+    facts.protection = GFPE_CHIP_PROTECTION::THREE_BITS_TOP;
+    facts.shows_errors = true;
+    facts.repeats_id = false;
     add_register(facts, 0x35, REG::STATUS_2);
     add_register_write(facts, 0x01, REG::STATUS_1, REG::STATUS_2, true);
+    add(facts, JOB::CLEAR_FLAGS, {0x30});
     facts.register_write_us = 750000;
     const bool fl_s = is_any(part.name, {"S25FL127S", "S25FL128S", "S25FL256S", "S25FL512S"});
     const bool hx_t = is_any(part.name, {"S25HL", "S25HS"});
@@ -295,7 +317,7 @@ void add_infineon(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
         add_reset(facts);
         facts.split_sectors = hx_t && part.total_die != 2 ? 32 : 0;
         if (part.total_die == 2)
-            remove(facts, {0xC7});
+            remove(facts, {0xC7, 0x60});
     } else if (begins(part.name, "S25FS")) {
         // E9 is a password command here: 4-byte addressing is left by a reset.
         add_data(facts, {0xEB, 0x0C, 0x12, 0x13, 0xEC});
@@ -305,6 +327,10 @@ void add_infineon(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
         facts.split_sectors = 8;
     } else {
         add_data(facts, {0x32, 0x34, 0x3B, 0x6B, 0x6C, 0xEB, 0xEC, 0x0C, 0x12, 0x13});
+        facts.protection = GFPE_CHIP_PROTECTION::THREE_BITS;
+        facts.complements = true;
+        facts.shows_errors = false;
+        remove(facts, {0x30});
         add_mode_commands(facts);
         add_reset(facts);
         add_signatures(facts);
@@ -317,8 +343,13 @@ void add_sst(GFPE_CHIP_FACTS& facts)
     facts.protection = GFPE_CHIP_PROTECTION::NONE;
     facts.has_block_locks = facts.mirrors_busy = true;
     add(facts, JOB::UNLOCK_BLOCKS, {0x98});
+    facts.complements = false;
+    facts.one_time_bits = 0;
+    add(facts, JOB::READ_LOCKS, {0x72});
+    add(facts, JOB::WRITE_LOCKS, {0x42});
     facts.command(0x32).address_lines = 4;
-    remove(facts, {0x50, 0x90, 0xB9, 0xAB});
+    remove(facts, {0x50, 0x60, 0x90, 0xB9, 0xAB});
+    add(facts, JOB::ENTER_QPI, {0x38});
     add_reset(facts);
 }
 
@@ -427,7 +458,7 @@ bool gfpe_chip_facts(const GFPDB_PART& part, GFPE_CHIP_FACTS& facts, std::string
     add(facts, JOB::WRITE_ENABLE, {0x06});
     add(facts, JOB::WRITE_DISABLE, {0x04});
     add(facts, JOB::READ_ID, {0x9F});
-    add(facts, JOB::ERASE_CHIP, {0xC7});
+    add(facts, JOB::ERASE_CHIP, {0xC7, 0x60});
     add_data(facts, {0x02, 0x03, 0x0B});
     add_register(facts, 0x05, REG::STATUS_1);
     add_register_write(facts, 0x01, REG::STATUS_1);
@@ -440,6 +471,9 @@ bool gfpe_chip_facts(const GFPDB_PART& part, GFPE_CHIP_FACTS& facts, std::string
     }
     if (part.quad_enable != GFPDB_QUAD_ENABLE::UNKNOWN)
         facts.quad_enable = part.quad_enable;
+    // The bit cannot be that of the protection as well.
+    if (facts.quad_enable == GFPDB_QUAD_ENABLE::SR1_BIT6 && facts.protection != GFPE_CHIP_PROTECTION::NONE)
+        facts.protection = GFPE_CHIP_PROTECTION::FOUR_BITS;
     set_read_clocks(facts, part);
     add_erase(facts, part);
     add_sfdp(facts, part);

@@ -18,6 +18,7 @@ enum class GFPE_CHIP_JOB : std::uint8_t
     WRITE_DISABLE,
     VOLATILE_WRITE_ENABLE, // for the next register write, which is gone with the power
     CLEAR_FLAGS,
+    ENTER_QPI,
     RESET_ENABLE,
     RESET,
     POWER_DOWN,
@@ -81,14 +82,15 @@ struct GFPE_CHIP_COMMAND
     std::int64_t erase_bytes = 0;
 };
 
-// Which part of the memory the block protection bits protect.
+// Which part of the memory the bits of the first status register protect.
 enum class GFPE_CHIP_PROTECTION : std::uint8_t
 {
     NONE,
-    THREE_BITS,   // BP0 to BP2 as 64ths of the chip, TB (bit 5), SEC (bit 6), CMP (bit 6 of the second register)
-    FOUR_BITS,    // BP0 to BP3 as a power of two of 64 KiB blocks, from the top
-    FOUR_BITS_TB, // the same with TB in bit 6
-    MICRON,       // BP0 to BP2, TB (bit 5), BP3 (bit 6)
+    THREE_BITS,     // BP0 to BP2 as 64ths of the chip, TB (bit 5), SEC (bit 6): 4K sectors instead
+    THREE_BITS_TOP, // BP0 to BP2 as 64ths of the chip, from its top
+    FOUR_BITS,      // BP0 to BP3 as a power of two of 64K blocks; TB is in the configuration register (bit 3)
+    FOUR_BITS_TB,   // the same with TB in bit 6
+    MICRON,         // the same with TB in bit 5 and BP3 in bit 6
 };
 
 struct GFPE_CHIP_FACTS
@@ -115,6 +117,11 @@ struct GFPE_CHIP_FACTS
     bool has_block_locks = false;
     bool write_enable_before_mode = false;
     bool leaving_sets_extended_address = false;
+    // The second status register has a bit 6 that turns the protection round, and bits that are only ever set.
+    bool complements = false;
+    std::uint8_t one_time_bits = 0;
+    // A program or erase that fails is in bits 6 and 5 of the first status register.
+    bool shows_errors = false;
     bool mirrors_busy = false; // in bit 7 of the first status register
     // The register that shows the addressing mode, and its bit.
     GFPE_CHIP_REGISTER mode_register = GFPE_CHIP_REGISTER::NONE;
@@ -122,6 +129,8 @@ struct GFPE_CHIP_FACTS
     // Notes what goes wrong in a flag register, which is also the one that shows readiness.
     bool has_flags = false;
     std::int64_t register_write_us = 150000;
+    // The ID starts again behind its end; else FF follow.
+    bool repeats_id = true;
     // What 5A reads.
     std::vector<std::uint8_t> sfdp;
 

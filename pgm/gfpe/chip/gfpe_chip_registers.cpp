@@ -18,17 +18,10 @@ constexpr std::uint8_t REGISTER_LOCK = 0x80;
 constexpr std::uint8_t SR1_QUAD = 0x40;
 constexpr std::uint8_t SR2_QUAD = 0x02;
 constexpr std::uint8_t BANK_FOUR_BYTE = 0x80;
-constexpr int MICRON_ID_BYTES = 20;
 
 std::size_t number_of(REG target)
 {
     return static_cast<std::size_t>(target);
-}
-
-// The bits that a write changes.
-std::uint8_t writable_bits(REG target)
-{
-    return target == REG::STATUS_1 ? 0xFC : 0xFF;
 }
 
 int log2_of(std::int64_t bytes)
@@ -109,10 +102,17 @@ void GFPE_CHIP_CORE::execute_register_write(REQUEST& request)
 
 void GFPE_CHIP_CORE::write_register(const REQUEST& request, REG target, std::uint8_t value, bool is_stored)
 {
+    std::uint8_t& present = die().registers[number_of(target)];
     if (target == REG::STATUS_1 && (value & REGISTER_LOCK) && !m_facts.mirrors_busy)
         note(request, "sets bit 7, which locks the status register as long as the write protection pin is low");
-    const std::uint8_t written = value & writable_bits(target);
-    die().registers[number_of(target)] = written;
+    std::uint8_t written = value;
+    if (target == REG::STATUS_1)
+        written &= m_facts.shows_errors ? 0x9C : 0xFC;
+    if (target == REG::STATUS_2 && (value & ~present & m_facts.one_time_bits))
+        note(request, "sets bits of the second status register that can never be cleared");
+    if (target == REG::STATUS_2)
+        written |= present & m_facts.one_time_bits;
+    present = written;
     if (is_stored && target != REG::EXTENDED_ADDRESS)
         die().stored[number_of(target)] = written;
 }
@@ -161,7 +161,11 @@ void GFPE_CHIP_CORE::execute_id(const REQUEST& request)
     const std::vector<std::uint8_t>& id = m_facts.id;
     const auto signature = static_cast<std::uint8_t>(log2_of(m_facts.bytes) - 1);
     if (request.spec.job == JOB::READ_ID) {
-        answer(request, [&id](std::int64_t at) { return id[static_cast<std::size_t>(at) % id.size()]; });
+        const bool repeats = m_facts.repeats_id;
+        answer(request, [&id, repeats](std::int64_t at) {
+            const auto place = static_cast<std::size_t>(at);
+            return repeats || place < id.size() ? id[place % id.size()] : std::uint8_t(0xFF);
+        });
     } else if (request.spec.job == JOB::READ_MAKER) {
         const std::int64_t start = request.address & 1;
         answer(request, [&id, start, signature](std::int64_t at) { return (start + at) & 1 ? signature : id[0]; });
