@@ -144,6 +144,10 @@ GFPE_OUTCOME GFPE_EXECUTOR::run(int operation, GFPE_PHASE phase)
     if (phase == GFPE_PHASE::INITIALIZATION)
         m_is_chip_unknown = m_flow.operation(operation).has_id_check;
     walk(m_flow.operation(operation).steps);
+    if (m_outcome != GFPE_OUTCOME::LOST && !m_link.settle()) {
+        fail({}, m_link.get_problem());
+        m_outcome = GFPE_OUTCOME::LOST;
+    }
     m_meter.report();
     return m_outcome;
 }

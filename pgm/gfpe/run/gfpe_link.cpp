@@ -74,6 +74,11 @@ bool GFPE_LINK::wait(std::int64_t microseconds)
     return true;
 }
 
+bool GFPE_LINK::settle()
+{
+    return m_bus.settle() || lose(m_bus.get_last_error());
+}
+
 void GFPE_LINK::mark_failed(const std::vector<std::uint8_t>& expected, const std::vector<std::uint8_t>& mask)
 {
     if (m_trace && m_commands > 0)

@@ -28,6 +28,8 @@ public:
     bool send(const GFPE_ACTION& step, const GFPE_COMMAND& command, GFPE_READER* reader = nullptr);
     // Lets at least that time pass. False as above.
     bool wait(std::int64_t microseconds);
+    // Waits until everything has reached the chip. False as above.
+    bool settle();
     // The command that was sent last is the one at which its action failed.
     void mark_failed(const std::vector<std::uint8_t>& expected, const std::vector<std::uint8_t>& mask);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Executes the flows of every part, in both variants, on an emulated chip of that part.
+// Runs the flows of every part, in both variants, on an emulated chip of that part.
 #include "chip_of_part.h"
 #include "test_rows.h"
 
@@ -10,14 +10,13 @@
 
 namespace {
 
-constexpr int PROTECTED = 0x1C;
+constexpr int PROTECTED = OLD_CHIP::PROTECTED;
 
 // Runs at the start, across the 16 MiB border and every die's, in the middle of pages, and to the very end.
-FLOW_IMAGE image_for(std::int64_t device_bytes)
+SPARSE_IMAGE* fill(SPARSE_IMAGE& image, std::int64_t device_bytes)
 {
-    FLOW_IMAGE image;
     const auto run = [](std::int64_t length, int seed) {
-        FLOW_BYTES bytes;
+        BYTES bytes;
         for (std::int64_t at = 0; at < length; ++at)
             bytes.push_back(static_cast<std::uint8_t>(at * 31 + seed));
         return bytes;
@@ -29,77 +28,41 @@ FLOW_IMAGE image_for(std::int64_t device_bytes)
     image.add(device_bytes - 777, run(777, 4));
     if (device_bytes > THREE_BYTE_END * 4)
         image.add(THREE_BYTE_END - 200, run(456, 5));
-    return image;
+    return &image;
 }
 
-// A chip with old data, and what a session with it came to.
+// A chip of a part, and what a session with it came to.
 struct SESSION
 {
-    SESSION(const GFPDB_PART& part_of_chip, bool quad_variant, int protection)
-        : part(part_of_chip), quad(quad_variant), chip(chip_facts(part_of_chip), protection),
-          image(image_for(chip_facts(part_of_chip).bytes)), executor(chip, device_of(part_of_chip), image)
-    {}
-
-    bool run(int kind, FLOW_PURPOSE purpose = FLOW_PURPOSE::VERIFY)
+    explicit SESSION(const GFPDB_PART& part_of_chip, int protection = 0,
+                     OLD_CHIP::QUAD_BIT quad_bit = OLD_CHIP::QUAD_DISABLED)
+        : part(part_of_chip), chip(part, protection, quad_bit)
     {
-        const OPERATION operation(gfpdb_build_operation(kind, gfpdb_flow_traits(part, quad), quad));
-        return executor.run(*operation, purpose);
+        fill(image, device_of(part).bytes);
     }
 
-    std::string report() const
+    bool run(const FLOW& flow, const char* order)
     {
-        std::string text = executor.failed_at();
-        for (const std::string& complaint : chip.complaints())
-            text += "; " + complaint;
-        return text;
+        result = chip.run(flow, order_of(order), image);
+        return has_passed(result);
     }
+    bool run(bool quad, const char* order) { return run(flow_of(part, quad), order); }
 
-    const GFPDB_PART& part;
-    const bool quad;
-    SPI_NOR_CHIP chip;
-    FLOW_IMAGE image;
-    FLOW_EXECUTOR executor;
+    std::string report() const { return part.name + ": " + report_of(result) + "; " + chip.notes(); }
+    bool failed_at_action(const char* name) const { return result.failure && result.failure->action_name == name; }
+    // Nothing but the data, the protection and the quad-enable bit is other than before, and nobody had to complain.
+    bool is_at_rest() { return chip.notes().empty() && chip.chip().is_at_rest(); }
+
+    const GFPDB_PART part;
+    OLD_CHIP chip;
+    SPARSE_IMAGE image;
+    GFPE_RESULT result;
 };
-
-// A flow with one thing altered, executed as a whole.
-struct ALTERED_SESSION
-{
-    explicit ALTERED_SESSION(const GFPDB_PART& part)
-        : chip(chip_facts(part), PROTECTED), image(image_for(chip_facts(part).bytes)),
-          executor(chip, device_of(part), image)
-    {
-        operations = flow_of(part, true);
-    }
-
-    // True when nobody could tell the altered flow from a good one.
-    bool passes()
-    {
-        try {
-            for (const int kind : {0, 2, 1, 3, 4}) {
-                if (!executor.run(*operations[static_cast<std::size_t>(kind)]))
-                    return false;
-            }
-        } catch (const std::runtime_error&) {
-            return false;
-        }
-        return chip.complaints().empty() && chip.holds(image) && chip.is_at_rest();
-    }
-
-    SPI_NOR_CHIP chip;
-    FLOW_IMAGE image;
-    FLOW_EXECUTOR executor;
-    FLOW operations;
-};
-
-std::string name_of(const GFPDB_ACTION& action)
-{
-    return action.get_property_value(action.get_property_enum_list()[0]);
-}
 
 // Actions that only turn a failure of the chip into an error, or that leave no trace on a chip in good order.
 bool only_checks(const GFPDB_ACTION& action)
 {
-    const std::string name = name_of(action);
+    const std::string name = value_of(action, action.get_property_enum_list()[0]);
     return name.rfind("Check", 0) == 0 || name == "Write Disable" || name == "Clear Flag Status" ||
            action.m_action_type == GFPDB_ACT_READ_DATA || name.rfind("Reset", 0) == 0 || name == "Unlock All Blocks";
 }
@@ -117,6 +80,13 @@ OPERATION without(const GFPDB_OPERATION& operation, std::size_t left_out)
         copy->add_action(action);
     }
     return copy;
+}
+
+// True when nobody could tell an altered flow from a good one.
+bool passes(const GFPDB_PART& part, const FLOW& flow)
+{
+    SESSION session(part, PROTECTED);
+    return session.run(flow, "EPV") && session.is_at_rest() && session.chip.holds(session.image);
 }
 
 } // namespace
@@ -140,39 +110,32 @@ private slots:
     {
         QFETCH(QByteArray, name);
         QFETCH(bool, quad);
-        const GFPDB_PART& part = part_called(name.toStdString());
-        SESSION session(part, quad, quad ? PROTECTED : 0);
+        SESSION session(part_called(name.toStdString()), quad ? PROTECTED : 0);
 
-        QVERIFY2(session.run(GFPDB_OPERATION_INITIALIZATION), session.report().c_str());
-        QVERIFY2(session.run(GFPDB_OPERATION_ERASE), session.report().c_str());
-        QVERIFY2(session.chip.is_blank(), "not blank after the erase");
-        QVERIFY2(session.run(GFPDB_OPERATION_VERIFY, FLOW_PURPOSE::BLANK_CHECK), session.report().c_str());
-        QVERIFY2(session.run(GFPDB_OPERATION_PROGRAM), session.report().c_str());
-        QVERIFY2(session.run(GFPDB_OPERATION_VERIFY), session.report().c_str());
-        QVERIFY2(session.run(GFPDB_OPERATION_TERMINATION), session.report().c_str());
+        QVERIFY2(session.run(quad, "EBPV"), session.report().c_str());
 
-        QCOMPARE(session.report(), std::string());
+        QVERIFY2(session.is_at_rest(), session.report().c_str());
         QVERIFY(session.chip.holds(session.image));
-        QVERIFY(session.chip.is_at_rest());
-        QVERIFY(session.chip.is_unprotected() || part.manufacturer == "Microchip (SST)");
+        QVERIFY(session.chip.is_unprotected());
     }
 
-    // The ID check stands before anything that changes the chip.
+    // The ID check is before anything that changes the chip.
     void another_chip_is_not_touched()
     {
         for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
-            CHIP_FACTS other = chip_facts(part);
-            other.id[2] ^= 1;
-            SPI_NOR_CHIP chip(other, PROTECTED);
-            const FLOW_IMAGE image;
-            FLOW_EXECUTOR executor(chip, device_of(part), image);
+            GFPDB_PART other = part;
+            other.jedec_id[2] ^= 1;
+            SESSION session(other, PROTECTED);
 
-            QVERIFY2(!executor.run(*flow_of(part, true)[0]), part.name.c_str());
+            COMMAND_COUNTS counts;
+            session.result = run_flow(device_of(part), flow_of(part, true), session.chip.chip(), order_of("EBPV"),
+                                      &session.image, nullptr, &counts);
 
-            QVERIFY(QByteArray::fromStdString(executor.failed_at()).endsWith(": Check Device ID"));
-            QCOMPARE(chip.count_of(0x06), 0);
-            QCOMPARE(chip.count_of(0x01), 0);
-            QVERIFY(!chip.is_unprotected());
+            QVERIFY2(session.failed_at_action("Check Device ID") && session.result.chip_is_unknown,
+                     session.report().c_str());
+            QCOMPARE(letters_of(session.result.phases), std::string("I"));
+            QCOMPARE(counts.of(0x06) + counts.of(0x01), 0);
+            QVERIFY(!session.chip.is_unprotected() || part.manufacturer == "Microchip (SST)");
         }
     }
 
@@ -192,15 +155,12 @@ private slots:
     {
         const auto [fifth, sixth, passes] = row<int, int, bool>();
         for (const char* name : {"MT25QL128ABA", "MT25QU02GCBB"}) {
-            const GFPDB_PART& part = part_called(name);
-            CHIP_FACTS facts = chip_facts(part);
-            facts.id[4] = static_cast<std::uint8_t>(fifth);
-            facts.id[5] = static_cast<std::uint8_t>(sixth);
-            SPI_NOR_CHIP chip(facts, 0);
-            const FLOW_IMAGE image;
-            FLOW_EXECUTOR executor(chip, device_of(part), image);
+            GFPDB_PART other = part_called(name);
+            other.jedec_id[4] = fifth;
+            other.jedec_id[5] = sixth;
+            SESSION session(other);
 
-            QVERIFY2(executor.run(*flow_of(part, false)[0]) == passes, executor.failed_at().c_str());
+            QVERIFY2(session.run(flow_of(part_called(name), false), "") == passes, session.report().c_str());
         }
     }
 
@@ -210,29 +170,24 @@ private slots:
         for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
             if (part.manufacturer == "Microchip (SST)")
                 continue; // its protection is gone at the next power-up, and never in the first status register
-            SESSION session(part, false, PROTECTED);
-            session.chip.enable_quad();
+            SESSION session(part, PROTECTED, OLD_CHIP::QUAD_ENABLED);
 
-            QVERIFY2(!session.run(GFPDB_OPERATION_INITIALIZATION), part.name.c_str());
+            QVERIFY2(!session.run(false, "EP"), part.name.c_str());
 
-            QVERIFY2(QByteArray::fromStdString(session.executor.failed_at()).endsWith(": Check Protection"),
-                     (part.name + " " + session.report()).c_str());
-            QVERIFY2(!session.chip.is_unprotected(), part.name.c_str());
-            QVERIFY2(session.chip.is_quad_enabled(), part.name.c_str());
+            QVERIFY2(session.failed_at_action("Check Protection"), session.report().c_str());
+            QVERIFY2(!session.chip.is_unprotected() && session.chip.is_quad_enabled(), part.name.c_str());
+            QCOMPARE(session.chip.byte_at(0), int(OLD_CHIP::OLD));
         }
     }
 
     void a_single_flow_keeps_the_quad_enable_bit()
     {
         for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
-            SESSION session(part, false, 0);
-            session.chip.enable_quad();
+            SESSION session(part, 0, OLD_CHIP::QUAD_ENABLED);
 
-            for (const int kind : {GFPDB_OPERATION_INITIALIZATION, GFPDB_OPERATION_TERMINATION})
-                QVERIFY2(session.run(kind), (part.name + " " + session.report()).c_str());
+            QVERIFY2(session.run(false, ""), session.report().c_str());
 
-            QCOMPARE(session.report(), std::string());
-            QVERIFY2(session.chip.is_quad_enabled(), part.name.c_str());
+            QVERIFY2(session.is_at_rest() && session.chip.is_quad_enabled(), session.report().c_str());
             QCOMPARE(session.chip.count_of(0x01) + session.chip.count_of(0x31), 0);
         }
     }
@@ -242,14 +197,11 @@ private slots:
     {
         for (const char* name : {"MX25L12833F", "W25Q128JV-Q", "MX25L25645G", "W25Q256JV-Q", "MT25QL256ABA", "GD25Q64E",
                                  "W25M512JV", "IS25LP256D"}) {
-            const GFPDB_PART& part = part_called(name);
             for (const bool quad : {false, true}) {
-                const OPERATION original(gfpdb_build_operation(0, gfpdb_flow_traits(part, quad), quad));
-                SPI_NOR_CHIP chip(chip_facts(part), PROTECTED);
-                const FLOW_IMAGE image;
-                FLOW_EXECUTOR executor(chip, device_of(part), image);
+                SESSION session(part_called(name), PROTECTED);
+                const FLOW flow = flow_of(session.part, quad);
                 // The register stays as it is when its writes are taken out.
-                for (GFPDB_ACTION* action : *original->get_actions()) {
+                for (GFPDB_ACTION* action : *flow[0]->get_actions()) {
                     const std::string opcode = action->get_property_value(GFPDB_WR_COMMAND);
                     if (opcode == "0x01" || opcode == "0x31") {
                         action->set_property_value(GFPDB_WR_COMMAND, "0x04");
@@ -257,37 +209,39 @@ private slots:
                     }
                 }
 
-                QVERIFY2(!executor.run(*original), name);
+                QVERIFY2(!session.run(flow, "E"), name);
 
-                QVERIFY2(executor.failed_at().find("Check") != std::string::npos, executor.failed_at().c_str());
+                QVERIFY2(session.result.failure->action_name.rfind("Check", 0) == 0, session.report().c_str());
             }
         }
     }
 
     void a_blank_check_finds_what_is_not_blank()
     {
-        SESSION session(part_called("MX25L12833F"), true, 0);
-        QVERIFY(session.run(GFPDB_OPERATION_INITIALIZATION));
-        QVERIFY(!session.run(GFPDB_OPERATION_VERIFY, FLOW_PURPOSE::BLANK_CHECK));
-        QCOMPARE(session.report(), std::string("0: Read Data"));
+        SESSION session(part_called("MX25L12833F"));
+
+        QVERIFY(!session.run(true, "B"));
+
+        QCOMPARE(session.result.failure->text,
+                 std::string("Blank-Check, action 1 \"Read Data\": expected FF at 0x00000000, received 5A."));
     }
 
     void a_verify_finds_a_wrong_byte()
     {
-        SESSION session(part_called("W25M512JV"), true, 0);
-        for (const int kind : {GFPDB_OPERATION_INITIALIZATION, GFPDB_OPERATION_ERASE, GFPDB_OPERATION_PROGRAM})
-            QVERIFY2(session.run(kind), session.report().c_str());
-        session.image.add(device_of(session.part).bytes / 2 + 1000, {0x7E});
+        SESSION session(part_called("W25M512JV"));
+        QVERIFY2(session.run(true, "EP"), session.report().c_str());
+        const std::int64_t wrong = device_of(session.part).bytes / 2 + 1000;
+        session.image.add(wrong, {0x7E});
 
-        QVERIFY(!session.run(GFPDB_OPERATION_VERIFY));
+        QVERIFY(!session.run(true, "V"));
+        QCOMPARE(session.result.failure->position, wrong);
     }
 
     void an_examine_reads_whatever_is_there()
     {
-        SESSION session(part_called("MT25QL256ABA"), false, 0);
-        QVERIFY(session.run(GFPDB_OPERATION_INITIALIZATION));
-        QVERIFY(session.run(GFPDB_OPERATION_VERIFY, FLOW_PURPOSE::EXAMINE));
-        QCOMPARE(session.report(), std::string());
+        SESSION session(part_called("MT25QL256ABA"));
+
+        QVERIFY2(session.run(false, "X"), session.report().c_str());
     }
 
     void every_step_and_constant_of_a_flow_counts_data()
@@ -301,17 +255,17 @@ private slots:
     void every_step_and_constant_of_a_flow_counts()
     {
         const GFPDB_PART& part = part_called(row<QByteArray>().toStdString());
-        QVERIFY(ALTERED_SESSION(part).passes());
+        QVERIFY(passes(part, flow_of(part, true)));
         for (std::size_t kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind) {
-            const std::size_t count = ALTERED_SESSION(part).operations[kind]->get_actions()->size();
-            for (std::size_t at = 0; at < count; ++at) {
-                ALTERED_SESSION session(part);
-                const GFPDB_ACTION& action = *(*session.operations[kind]->get_actions())[at];
-                if (action.m_action_type == GFPDB_ACT_CUSTOM || only_checks(action))
+            const FLOW whole = flow_of(part, true);
+            const std::vector<GFPDB_ACTION*>& actions = *whole[kind]->get_actions();
+            for (std::size_t at = 0; at < actions.size(); ++at) {
+                if (actions[at]->m_action_type == GFPDB_ACT_CUSTOM || only_checks(*actions[at]))
                     continue;
-                const std::string what = std::to_string(kind) + "/" + std::to_string(at) + " " + name_of(action);
-                session.operations[kind] = without(*session.operations[kind], at);
-                QVERIFY2(!session.passes(), what.c_str());
+                FLOW flow = flow_of(part, true);
+                flow[kind] = without(*whole[kind], at);
+                const std::string name = value_of(*actions[at], actions[at]->get_property_enum_list()[0]);
+                QVERIFY2(!passes(part, flow), (std::to_string(kind) + "/" + std::to_string(at) + " " + name).c_str());
             }
         }
         const std::pair<int, const char*> alterations[] = {
@@ -320,12 +274,12 @@ private slots:
             {GFPDB_RD_ADDRESS, "0x00000100"}, {GFPDB_ER_COMMAND, "0x02"},
         };
         for (const auto& [property, value] : alterations) {
-            ALTERED_SESSION session(part);
-            for (const OPERATION& operation : session.operations) {
+            const FLOW flow = flow_of(part, true);
+            for (const OPERATION& operation : flow) {
                 for (GFPDB_ACTION* action : *operation->get_actions())
                     action->set_property_value(static_cast<GFPDB_ACT_PROPERTY>(property), value);
             }
-            QVERIFY2(!session.passes(), QByteArray::number(property).constData());
+            QVERIFY2(!passes(part, flow), QByteArray::number(property).constData());
         }
     }
 
@@ -335,14 +289,16 @@ private slots:
         const char* const names[] = {"MX25L12833F", "W25Q128JV-Q", "MX25L25645G", "W25Q256JV-Q", "MT25QL256ABA"};
         for (int index = 0; index < GFPDB_FLOW_TEMPLATE_COUNT; ++index) {
             for (const bool quad : {false, true}) {
-                const GFPDB_PART& part = part_called(names[index]);
-                SESSION session(part, quad, quad ? PROTECTED : 0);
-                const auto& operations = *gfpdb_builtin_template_operations(index, quad);
-                for (const std::size_t kind : {0, 2, 1, 3, 4})
-                    QVERIFY2(session.executor.run(*operations[kind]), session.report().c_str());
-                QCOMPARE(session.report(), std::string());
+                SESSION session(part_called(names[index]), quad ? PROTECTED : 0);
+                GFPE_RUN run(std::make_shared<GFPE_PLAN>(device_of(session.part),
+                                                         *gfpdb_builtin_template_operations(index, quad)),
+                             session.chip.chip());
+                run.set_image(&session.image);
+
+                session.result = run.run(order_of("EPV"));
+
+                QVERIFY2(has_passed(session.result) && session.is_at_rest(), session.report().c_str());
                 QVERIFY(session.chip.holds(session.image));
-                QVERIFY(session.chip.is_at_rest());
             }
         }
     }

@@ -1,41 +1,57 @@
 // SPDX-License-Identifier: MIT
 
 // The rules by which a flow is executed, each on a few actions: what is left out, what is chosen, what is compared.
-#include "flow_executor.h"
-#include "flow_making.h"
+#include "flow_run.h"
 #include "recording_bus.h"
 #include "test_rows.h"
 
 #include <QTest>
 
-#include <stdexcept>
-
 namespace {
 
 constexpr std::int64_t K = 1024;
 
-FLOW_DEVICE device_of(std::int64_t bytes, int dies = 1)
-{
-    FLOW_DEVICE device;
-    device.bytes = bytes;
-    device.dies = dies;
-    device.id = {0xC2, 0x20, 0x18};
-    return device;
-}
-
 // Executes one operation on a bus that answers by rote.
-struct RUN
+struct RUN : GFPE_LISTENER
 {
-    explicit RUN(std::int64_t bytes, int dies = 1) : executor(bus, device_of(bytes, dies), image) {}
+    explicit RUN(std::int64_t bytes, int dies = 1) : device{"chip", bytes, dies, {0xC2, 0x20, 0x18}} {}
 
-    bool execute(int kind, std::initializer_list<GFPDB_ACTION*> actions, FLOW_PURPOSE purpose = FLOW_PURPOSE::VERIFY)
+    // Passes when the operation passes.
+    bool execute(GFPE_PHASE phase, std::initializer_list<GFPDB_ACTION*> actions)
     {
-        return executor.run(*operation_of(kind, actions), purpose);
+        FLOW flow;
+        for (int kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind)
+            flow.push_back(operation_of(kind, {}));
+        GFPE_ORDER order;
+        order.range = range;
+        const GFPE_PHASE_RULE& rule = GFPE_PHASE_RULES[static_cast<std::size_t>(phase)];
+        for (GFPDB_ACTION* action : actions)
+            flow[static_cast<std::size_t>(rule.operation)]->add_action(action);
+        if (rule.asked)
+            order.*rule.asked = true;
+        result = run_flow(device, flow, bus, order, &image, this);
+        return has_passed(result);
     }
 
+    // True when the last operation was refused for what its action is or has, and nothing was sent.
+    bool is_refused(const char* text, int action = 1) const
+    {
+        return result.verdict == GFPE_VERDICT::REFUSED && bus.m_commands.empty() && result.problems.size() == 1 &&
+               result.problems[0].action == action && result.problems[0].text.find(text) != std::string::npos;
+    }
+
+    bool examined(std::int64_t position, const std::uint8_t* bytes, std::size_t length) override
+    {
+        kept.add(position, BYTES(bytes, bytes + length));
+        return true;
+    }
+
+    GFPE_DEVICE device;
     RECORDING_BUS bus;
-    FLOW_IMAGE image;
-    FLOW_EXECUTOR executor;
+    SPARSE_IMAGE image;
+    std::optional<GFPE_RANGE> range;
+    GFPE_RESULT result;
+    SPARSE_IMAGE kept;
 };
 
 GFPDB_ACTION* write_enable()
@@ -93,9 +109,9 @@ private slots:
     {
         const auto [first, length, commands] = row<qint64, qint64, QByteArray>();
         RUN run(256 * K);
-        run.executor.set_range({first, length});
+        run.range = GFPE_RANGE{first, length};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0xD8", "65536"), end("sector")}));
+        QVERIFY(run.execute(GFPE_PHASE::ERASE, {start("sector"), erase("0xD8", "65536"), end("sector")}));
 
         QCOMPARE(run.bus.commands(), words(commands));
     }
@@ -128,13 +144,13 @@ private slots:
         QFETCH(QByteArray, commands);
         RUN one(256 * K);
         RUN other(256 * K);
-        one.executor.set_range({first, length});
-        other.executor.set_range({first, length});
+        one.range = GFPE_RANGE{first, length};
+        other.range = GFPE_RANGE{first, length};
 
-        QVERIFY(one.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase_all(), erase("0xD8", "65536"),
-                                                    erase("0x52", "32768"), erase("0x20", "4096"), end("sector")}));
-        QVERIFY(other.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0x20", "4096"), erase("0xD8", "65536"),
-                                                      erase_all(), erase("0x52", "32768"), end("sector")}));
+        QVERIFY(one.execute(GFPE_PHASE::ERASE, {start("sector"), erase_all(), erase("0xD8", "65536"),
+                                                erase("0x52", "32768"), erase("0x20", "4096"), end("sector")}));
+        QVERIFY(other.execute(GFPE_PHASE::ERASE, {start("sector"), erase("0x20", "4096"), erase("0xD8", "65536"),
+                                                  erase_all(), erase("0x52", "32768"), end("sector")}));
 
         QCOMPARE(one.bus.commands(), words(commands));
         QCOMPARE(other.bus.commands(), words(commands));
@@ -143,11 +159,11 @@ private slots:
     void what_stands_beside_several_erases_is_sent_in_each_step()
     {
         RUN run(256 * K);
-        run.executor.set_range({64 * K, 68 * K});
+        run.range = GFPE_RANGE{64 * K, 68 * K};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), write_enable(), erase("0xD8", "65536"), poll(),
-                                                    make(GFPDB_ACT_WRITE_REGISTER, {{GFPDB_WR_COMMAND, "0x04"}}),
-                                                    erase("0x20", "4096"), end("sector")}));
+        QVERIFY(run.execute(GFPE_PHASE::ERASE, {start("sector"), write_enable(), erase("0xD8", "65536"), poll(),
+                                                make(GFPDB_ACT_WRITE_REGISTER, {{GFPDB_WR_COMMAND, "0x04"}}),
+                                                erase("0x20", "4096"), end("sector")}));
 
         QCOMPARE(run.bus.commands(), words("06, D8@10000, 05?1, 04, 06, 05?1, 04, 20@20000"));
     }
@@ -156,32 +172,39 @@ private slots:
     {
         RUN run(64 * K);
 
-        QVERIFY(run.execute(GFPDB_OPERATION_ERASE,
+        QVERIFY(run.execute(GFPE_PHASE::ERASE,
                             {start("sector"), erase("0x52", "32768"), erase("0xD7", "32768"), end("sector")}));
 
         QCOMPARE(run.bus.commands(), words("52@0, 52@8000"));
     }
 
-    void sizes_that_do_not_divide_each_other_are_refused()
+    void sizes_that_do_not_divide_the_device_are_refused()
     {
         RUN run(240 * K);
-        QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0x52", "24576"),
-                                                                     erase("0xD7", "16384"), end("sector")}),
-                                 std::runtime_error);
-        QVERIFY_EXCEPTION_THROWN(
-            run.execute(GFPDB_OPERATION_ERASE, {start("sector"), erase("0xD8", "65536"), end("sector")}),
-            std::runtime_error);
-        QVERIFY(run.bus.m_commands.empty());
+        run.execute(GFPE_PHASE::ERASE, {start("sector"), erase("0xD8", "65536"), erase("0x20", "4096"), end("sector")});
+        QVERIFY(run.is_refused("does not divide the 245760 bytes", 2));
+        QCOMPARE(
+            run.result.problems[0].to_text(),
+            std::string("Erase, action 2 \"Erase\", Erase size(byte) \"65536\": The erase size does not divide the "
+                        "245760 bytes that the loop walks over."));
+        run.execute(GFPE_PHASE::PROGRAM,
+                    {start("page"), make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_PAGE_SIZE, "4096"}}), end("page")});
+        QVERIFY(has_passed(run.result));
+        run.device.dies = 16;
+        run.execute(GFPE_PHASE::PROGRAM,
+                    {start("die"), start("page"), make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_PAGE_SIZE, "2048"}}),
+                     end("page"), end("die")});
+        QVERIFY(run.is_refused("does not divide the 15360 bytes", 3));
     }
 
     void the_sectors_of_a_die_count_from_its_start()
     {
         RUN run(256 * K, 2);
-        run.executor.set_range({120 * K, 72 * K});
+        run.range = GFPE_RANGE{120 * K, 72 * K};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_ERASE,
-                            {start("die"), select_die(), start("sector"), erase("0xD8", "65536", "die"),
-                             erase("0x20", "4096", "die"), end("sector"), end("die")}));
+        QVERIFY(
+            run.execute(GFPE_PHASE::ERASE, {start("die"), select_die(), start("sector"), erase("0xD8", "65536", "die"),
+                                            erase("0x20", "4096", "die"), end("sector"), end("die")}));
 
         QCOMPARE(run.bus.commands(), words("C2=00, 20@1E000, 20@1F000, C2=01, D8@0"));
     }
@@ -197,10 +220,10 @@ private slots:
     {
         const auto [only, commands] = row<qint64, QByteArray>();
         RUN run(256 * K, 2);
-        run.executor.set_range({only, 1});
+        run.range = GFPE_RANGE{only, 1};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_ERASE, {start("die"), select_die(), erase_all(), poll(), end("die"),
-                                                    erase("0xD8", "65536", "0x00030000")}));
+        QVERIFY(run.execute(GFPE_PHASE::ERASE, {start("die"), select_die(), erase_all(), poll(), end("die"),
+                                                erase("0xD8", "65536", "0x00030000")}));
 
         QCOMPARE(run.bus.commands(), words(commands));
     }
@@ -208,14 +231,14 @@ private slots:
     void a_page_without_a_byte_to_program_is_left_out()
     {
         RUN run(4 * K);
-        run.image.add(0, FLOW_BYTES(256, 0xFF)); // nothing but FF
-        run.image.add(511, {0x00});              // the last byte of a page
-        run.image.add(1024, {0xFF, 0xFE});       // one bit
-        run.image.add(2048, FLOW_BYTES(300, 0x5A));
-        run.image.add(3072, FLOW_BYTES(64, 0x00)); // not asked for
-        run.executor.set_range({0, 3 * K});
+        run.image.add(0, BYTES(256, 0xFF)); // nothing but FF
+        run.image.add(511, {0x00});         // the last byte of a page
+        run.image.add(1024, {0xFF, 0xFE});  // one bit
+        run.image.add(2048, BYTES(300, 0x5A));
+        run.image.add(3072, BYTES(64, 0x00)); // not asked for
+        run.range = GFPE_RANGE{0, 3 * K};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+        QVERIFY(run.execute(GFPE_PHASE::PROGRAM,
                             {start("page"), write_enable(), make(GFPDB_ACT_WRITE_DATA), poll(), end("page")}));
 
         QCOMPARE(run.bus.commands(), words("06, 02@100=256, 05?1, 06, 02@400=256, 05?1, 06, 02@800=256, 05?1, 06, "
@@ -225,26 +248,26 @@ private slots:
     void a_page_that_is_asked_for_in_part_is_filled_up()
     {
         RUN run(1 * K);
-        run.image.add(0, FLOW_BYTES(1024, 0x11));
-        run.executor.set_range({250, 10});
+        run.image.add(0, BYTES(1024, 0x11));
+        run.range = GFPE_RANGE{250, 10};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM, {start("page"), make(GFPDB_ACT_WRITE_DATA), end("page")}));
+        QVERIFY(run.execute(GFPE_PHASE::PROGRAM, {start("page"), make(GFPDB_ACT_WRITE_DATA), end("page")}));
 
         QCOMPARE(run.bus.commands(), words("02@0=256, 02@100=256"));
-        FLOW_BYTES first(256, 0xFF);
+        BYTES first(256, 0xFF);
         std::fill(first.begin() + 250, first.end(), 0x11);
-        FLOW_BYTES second(256, 0xFF);
+        BYTES second(256, 0xFF);
         std::fill(second.begin(), second.begin() + 4, 0x11);
-        QCOMPARE(run.bus.m_commands[0].out, first);
-        QCOMPARE(run.bus.m_commands[1].out, second);
+        QCOMPARE(run.bus.m_commands[0].bytes, first);
+        QCOMPARE(run.bus.m_commands[1].bytes, second);
     }
 
     void a_page_with_bytes_of_the_flow_is_sent_whatever_the_image_has()
     {
         RUN run(1 * K);
-        run.executor.set_range({256, 512});
+        run.range = GFPE_RANGE{256, 512};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+        QVERIFY(run.execute(GFPE_PHASE::PROGRAM,
                             {start("page"), make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_DATA, "0xFF 0x01"}}), end("page")}));
 
         QCOMPARE(run.bus.commands(), words("02@100=FF 01, 02@200=FF 01"));
@@ -254,21 +277,10 @@ private slots:
     {
         RUN run(512);
 
-        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+        QVERIFY(run.execute(GFPE_PHASE::PROGRAM,
                             {start("page"), erase("0x81", "256"), make(GFPDB_ACT_WRITE_DATA), end("page")}));
 
         QCOMPARE(run.bus.commands(), words("81@0, 81@100"));
-    }
-
-    void two_page_sizes_in_a_loop_are_refused()
-    {
-        RUN run(1 * K);
-        run.image.add(0, {0x00});
-        QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_PROGRAM,
-                                             {start("page"), make(GFPDB_ACT_WRITE_DATA),
-                                              make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_PAGE_SIZE, "512"}}), end("page")}),
-                                 std::runtime_error);
-        QVERIFY(run.bus.m_commands.empty());
     }
 
     void a_write_of_the_image_outside_of_a_loop_follows_the_same_rules()
@@ -279,9 +291,9 @@ private slots:
             return make(GFPDB_ACT_WRITE_DATA,
                         {{GFPDB_WD_ADDRESS, address}, {GFPDB_WD_DATA, data}, {GFPDB_WD_PAGE_SIZE, "4"}});
         };
-        run.executor.set_range({257, 100});
+        run.range = GFPE_RANGE{257, 100};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_PROGRAM,
+        QVERIFY(run.execute(GFPE_PHASE::PROGRAM,
                             {write("0x00000000", "image"), write("0x00000000", "0xAB"), write("0x00000100", "image")}));
 
         QCOMPARE(run.bus.commands(), words("02@0=AB, 02@100=FF 34 FF FF"));
@@ -299,21 +311,21 @@ private slots:
     void only_what_is_asked_for_is_read()
     {
         const auto [first, length, whole, by_die] = row<qint64, qint64, QByteArray, QByteArray>();
-        for (const FLOW_PURPOSE purpose : {FLOW_PURPOSE::VERIFY, FLOW_PURPOSE::BLANK_CHECK, FLOW_PURPOSE::EXAMINE}) {
+        for (const GFPE_PHASE phase : {GFPE_PHASE::VERIFY, GFPE_PHASE::BLANK_CHECK, GFPE_PHASE::EXAMINE}) {
             RUN run(8192, 2);
             run.bus.answer(0x0B, {0xFF});
-            run.executor.set_range({first, length});
-            run.image.add(first + length, {0x00}); // what follows is not compared
+            run.range = GFPE_RANGE{first, length};
+            if (first + length < 8192)
+                run.image.add(first + length, {0x00}); // what follows is not compared
 
-            QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)}, purpose));
+            QVERIFY(run.execute(phase, {make(GFPDB_ACT_READ_DATA)}));
             QCOMPARE(run.bus.commands(), words(whole));
 
             run.bus.m_commands.clear();
-            QVERIFY(run.execute(GFPDB_OPERATION_VERIFY,
+            QVERIFY(run.execute(phase,
                                 {start("die"),
                                  make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESS, "die"}, {GFPDB_RD_DATA_LENGTH, "die"}}),
-                                 end("die")},
-                                purpose));
+                                 end("die")}));
             QCOMPARE(run.bus.commands(), words(by_die));
         }
     }
@@ -321,14 +333,14 @@ private slots:
     void a_read_that_is_not_of_the_image_is_executed_as_it_stands()
     {
         RUN run(8192);
-        run.executor.set_range({0, 1});
+        run.range = GFPE_RANGE{0, 1};
         const auto read = [](const char* expected) {
             return make(
                 GFPDB_ACT_READ_DATA,
                 {{GFPDB_RD_ADDRESS, "0x00000100"}, {GFPDB_RD_DATA_LENGTH, "16"}, {GFPDB_RD_EXPECTED_DATA, expected}});
         };
 
-        QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {read("image"), read("none"), read("0x00")}));
+        QVERIFY(run.execute(GFPE_PHASE::PROGRAM, {read("image"), read("none"), read("0x00")}));
 
         QCOMPARE(run.bus.commands(), words("0B@100?16, 0B@100?16"));
     }
@@ -360,7 +372,7 @@ private slots:
         QFETCH(QByteArray, data);
         QFETCH(bool, allowed);
         RUN run(512, 2);
-        run.image.add(0, FLOW_BYTES(512, 0x00));
+        run.image.add(0, BYTES(512, 0x00));
         const auto execute = [&] {
             GFPDB_ACTION* action = type == GFPDB_ACT_READ_DATA
                                        ? make(type, {{GFPDB_RD_ADDRESS, address.constData()},
@@ -369,14 +381,12 @@ private slots:
                                        : make(type, {{GFPDB_WD_ADDRESS, address.constData()},
                                                      {GFPDB_WD_PAGE_SIZE, "16"},
                                                      {GFPDB_WD_DATA, data.constData()}});
-            run.execute(GFPDB_OPERATION_PROGRAM, {start("die"), action, end("die")});
+            run.execute(GFPE_PHASE::PROGRAM, {start("die"), action, end("die")});
         };
 
-        if (allowed)
-            execute();
-        else
-            QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
+        execute();
 
+        QCOMPARE(run.is_refused("Reaches beyond the end of the device", 2), !allowed);
         QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 2 : 0));
     }
 
@@ -405,14 +415,14 @@ private slots:
         QFETCH(int, answer);
         QFETCH(qint64, waited);
         RUN run(256);
-        run.image.add(0, FLOW_BYTES(256, 0x00));
+        run.image.add(0, BYTES(256, 0x00));
         run.bus.answer(0x05, {static_cast<std::uint8_t>(answer)});
         GFPDB_ACTION* action = make(type, {{property, "70"},
                                            {GFPDB_RR_ATTEMPT_COUNT, "3"},
                                            {GFPDB_WD_ADDRESS, "0x00000000"},
                                            {GFPDB_ER_ADDRESS, "0x00000000"}});
 
-        QCOMPARE(run.execute(GFPDB_OPERATION_PROGRAM, {action}), answer == 0);
+        QCOMPARE(run.execute(GFPE_PHASE::PROGRAM, {action}), answer == 0);
 
         QCOMPARE(qint64(run.bus.m_waited_us), waited);
     }
@@ -441,56 +451,84 @@ private slots:
         RUN run(bytes);
         run.bus.answer(0x0B, {0xFF});
         run.image.add(bytes - 1, {0x00});
-        run.executor.set_range({bytes - K, K - 1});
-        const auto execute = [&] {
-            if (kind == GFPDB_OPERATION_VERIFY)
-                return run.execute(kind, {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_ADDRESSING_MODE, mode.constData()}})});
-            run.executor.set_range({bytes - K, K});
-            if (kind == GFPDB_OPERATION_PROGRAM)
-                return run.execute(kind, {start("page"),
-                                          make(GFPDB_ACT_WRITE_DATA, {{GFPDB_WD_ADDRESSING_MODE, mode.constData()}}),
-                                          end("page")});
-            return run.execute(kind,
-                               {start("sector"), make(GFPDB_ACT_ERASE, {{GFPDB_ER_ADDRESSING_MODE, mode.constData()}}),
-                                end("sector")});
-        };
+        run.range = GFPE_RANGE{bytes - K, K - 1};
+        const auto action = [&mode](int type, int property) { return make(type, {{property, mode.constData()}}); };
 
-        if (allowed)
-            QVERIFY(execute());
-        else
-            QVERIFY_EXCEPTION_THROWN(execute(), std::runtime_error);
+        if (kind == GFPDB_OPERATION_VERIFY) {
+            run.execute(GFPE_PHASE::VERIFY, {action(GFPDB_ACT_READ_DATA, GFPDB_RD_ADDRESSING_MODE)});
+        } else {
+            run.range = GFPE_RANGE{bytes - K, K};
+            const bool is_program = kind == GFPDB_OPERATION_PROGRAM;
+            run.execute(is_program ? GFPE_PHASE::PROGRAM : GFPE_PHASE::ERASE,
+                        {start(is_program ? "page" : "sector"),
+                         is_program ? action(GFPDB_ACT_WRITE_DATA, GFPDB_WD_ADDRESSING_MODE)
+                                    : action(GFPDB_ACT_ERASE, GFPDB_ER_ADDRESSING_MODE),
+                         end(is_program ? "page" : "sector")});
+        }
 
+        QCOMPARE(has_passed(run.result), allowed);
+        QCOMPARE(run.is_refused("does not fit 3 address bytes", kind == GFPDB_OPERATION_VERIFY ? 1 : 2), !allowed);
         QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 1 : 0));
     }
 
     void an_id_needs_a_record_with_an_id()
     {
-        RECORDING_BUS bus;
-        const FLOW_IMAGE image;
-        FLOW_EXECUTOR executor(bus, FLOW_DEVICE{256, 1, {}}, image);
-        const OPERATION operation = operation_of(GFPDB_OPERATION_INITIALIZATION,
-                                                 {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_EXPECTED_DATA, "id"}})});
-
-        QVERIFY_EXCEPTION_THROWN(executor.run(*operation), std::runtime_error);
-        QVERIFY(bus.m_commands.empty());
+        RUN run(256);
+        run.device.id.clear();
+        run.execute(GFPE_PHASE::INITIALIZATION, {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_EXPECTED_DATA, "id"}})});
+        QVERIFY(run.is_refused("has no ID"));
     }
 
     void dies_of_different_sizes_are_refused()
     {
         RUN run(256 * K, 3);
-        QVERIFY_EXCEPTION_THROWN(run.execute(GFPDB_OPERATION_PROGRAM, {write_enable()}), std::runtime_error);
-        QVERIFY(run.bus.m_commands.empty());
+        run.execute(GFPE_PHASE::PROGRAM, {write_enable()});
+        QVERIFY(run.is_refused("The 3 dies of the device do not divide", 0));
     }
 
     void an_examine_hands_over_what_was_asked_for()
     {
         RUN run(8192);
         run.bus.answer(0x0B, {0xA1, 0xA2, 0xA3});
-        run.executor.set_range({100, 3});
+        run.range = GFPE_RANGE{100, 3};
 
-        QVERIFY(run.execute(GFPDB_OPERATION_VERIFY, {make(GFPDB_ACT_READ_DATA)}, FLOW_PURPOSE::EXAMINE));
+        QVERIFY(run.execute(GFPE_PHASE::EXAMINE, {make(GFPDB_ACT_READ_DATA)}));
 
-        QCOMPARE(run.executor.examined().bytes(99, 5), (FLOW_BYTES{0xFF, 0xA1, 0xA2, 0xA3, 0xFF}));
+        BYTES bytes(5);
+        std::string problem;
+        run.kept.read(99, bytes.data(), bytes.size(), problem);
+        QCOMPARE(bytes, (BYTES{0xFF, 0xA1, 0xA2, 0xA3, 0xFF}));
+    }
+
+    void dummy_clocks_are_driven_until_the_chip_may_answer_data()
+    {
+        rows<QByteArray, int, int>({{"one line", "1-1-1", 8, 8},
+                                    {"many clocks on one line", "1-1-1", 16, 16},
+                                    {"two lines of data", "1-1-2", 4, 3},
+                                    {"four lines of data", "1-1-4", 8, 7},
+                                    {"two lines", "1-2-2", 4, 3},
+                                    {"four lines", "1-4-4", 6, 5},
+                                    {"one clock", "1-4-4", 1, 0},
+                                    {"none", "1-4-4", 0, 0},
+                                    {"none on one line", "1-1-1", 0, 0}});
+    }
+
+    void dummy_clocks_are_driven_until_the_chip_may_answer()
+    {
+        const auto [width, clocks, driven] = row<QByteArray, int, int>();
+        RUN run(256);
+        run.bus.answer(0x0B, {0xFF});
+
+        QVERIFY(run.execute(GFPE_PHASE::VERIFY,
+                            {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_DUMMY_CLOCK, QByteArray::number(clocks).constData()},
+                                                        {GFPDB_RD_BUS_WIDTH, width.constData()}})}));
+
+        const GFPE_COMMAND& command = run.bus.m_commands.at(0);
+        QCOMPARE(command.dummy_clocks, clocks);
+        QCOMPARE(command.driven_dummy_clocks, driven);
+        const QString lines =
+            QString("%1-%2-%3").arg(command.opcode_lines).arg(command.address_lines).arg(command.data_lines);
+        QCOMPARE(lines, QString(width));
     }
 
     void the_mask_applies_to_what_is_read_data()
@@ -509,10 +547,10 @@ private slots:
     {
         const auto [read, mask, expected, passes] = row<int, QByteArray, QByteArray, bool>();
         RUN run(256);
-        run.image.add(0, FLOW_BYTES(256, 0x3F));
+        run.image.add(0, BYTES(256, 0x3F));
         run.bus.answer(0x0B, {static_cast<std::uint8_t>(read)});
 
-        QCOMPARE(run.execute(GFPDB_OPERATION_VERIFY,
+        QCOMPARE(run.execute(GFPE_PHASE::PROGRAM,
                              {make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_EXPECTED_DATA, expected.constData()},
                                                          {GFPDB_RD_EXPECTED_DATA_MASK, mask.constData()}})}),
                  passes);
@@ -543,7 +581,7 @@ private slots:
         RUN run(256);
         run.bus.answer(0x9F, {0xC2, 0x20, 0x18});
 
-        QCOMPARE(run.execute(GFPDB_OPERATION_INITIALIZATION,
+        QCOMPARE(run.execute(GFPE_PHASE::INITIALIZATION,
                              {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_COMMAND, "0x9F"},
                                                              {GFPDB_RR_DATA_LENGTH, "3"},
                                                              {GFPDB_RR_EXPECTED_DATA, expected.constData()},
