@@ -54,7 +54,7 @@ OPERATIONS pointers(const std::optional<std::vector<std::unique_ptr<GFPDB_OPERAT
 GFPE_DEVICE device_of(const GFPDB_RECORD& record)
 {
     return {record.name(), gfpdb_density_bytes(record.row.density), record.row.total_die.value_or(1),
-            gfpe_id_bytes(record.row.device_id)};
+            gfpdb_device_id_bytes(record.row.device_id)};
 }
 
 } // namespace

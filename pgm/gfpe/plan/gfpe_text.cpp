@@ -4,9 +4,6 @@
 #include "gfpdb/gfpdb_enums.h"
 #include "gfpdb/gfpdb_text.h"
 
-#include <QRegularExpression>
-#include <QString>
-
 #include <array>
 #include <cstdio>
 
@@ -44,18 +41,4 @@ std::string gfpe_bytes_text(const std::vector<std::uint8_t>& bytes)
     for (const std::uint8_t byte : bytes)
         text += (text.empty() ? "" : " ") + formatted("%02llX", byte);
     return text;
-}
-
-std::vector<std::uint8_t> gfpe_id_bytes(const std::string& text)
-{
-    static const QRegularExpression BYTE(QStringLiteral("\\A(?:0[xX])?([0-9A-Fa-f]{1,2})\\z"));
-    static const QRegularExpression SEPARATORS(QStringLiteral("[ \\t,]+"));
-    std::vector<std::uint8_t> id;
-    for (const QString& word : gfpdb_from_utf8(text).split(SEPARATORS, Qt::SkipEmptyParts)) {
-        const QRegularExpressionMatch byte = BYTE.match(word);
-        if (!byte.hasMatch())
-            return {};
-        id.push_back(static_cast<std::uint8_t>(byte.captured(1).toInt(nullptr, 16)));
-    }
-    return id;
 }

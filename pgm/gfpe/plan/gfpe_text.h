@@ -15,6 +15,3 @@ std::string gfpe_action_title(const std::string& operation, int action, const st
 std::string gfpe_position_text(std::int64_t position);
 // "C2 20 19"
 std::string gfpe_bytes_text(const std::vector<std::uint8_t>& bytes);
-// The bytes of a record's ID: one or two hexadecimal digits each, "0x" before them or not, with blanks or commas
-// between two of them. Empty when there is none, or when the text is something else.
-std::vector<std::uint8_t> gfpe_id_bytes(const std::string& text);
