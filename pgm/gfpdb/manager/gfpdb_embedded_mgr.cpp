@@ -21,8 +21,6 @@ namespace {
 
 const std::string DEVICE_NAME = "device name";
 const std::string TEMPLATE_NAME = "template name";
-// Far more than a caller works with at a time.
-constexpr std::size_t FORMER_RECORDS_MAX = 256;
 
 bool refuse(std::string& error, const std::string& text)
 {
@@ -170,11 +168,8 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
 // user's to change as it was.
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_read(const std::string& place, const std::string& revision) const
 {
-    const auto found = m_read_records.find(m_store->get_directory() + place);
-    if (found == m_read_records.end())
-        return nullptr;
-    GFPDB_EMBEDDED_FLASH* record = found->second.get();
-    const bool is_same = record->get_revision() == revision && record->is_unchanged();
+    GFPDB_EMBEDDED_FLASH* record = m_records.find_read(m_store->get_directory() + place);
+    const bool is_same = record != nullptr && record->get_revision() == revision && record->is_unchanged();
     return is_same && record->is_user_defined() != m_store->is_read_only() ? record : nullptr;
 }
 
@@ -189,40 +184,7 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::keep_read(const std::string& place, co
     // A form that would save it with every OK could not be accepted.
     record->set_user_defined(!m_store->is_read_only());
     record->set_unchanged();
-    retire_read(directory + place);
-    return (m_read_records[directory + place] = std::move(record)).get();
-}
-
-void GFPDB_EMBEDDED_MGR::retire(std::unique_ptr<GFPDB_EMBEDDED_FLASH> record)
-{
-    if (record)
-        m_former_records.push_back(std::move(record));
-    if (m_former_records.size() > FORMER_RECORDS_MAX)
-        m_former_records.pop_front();
-}
-
-// A former record that is stored once more becomes the latest again. One that was read stays where it is until what is
-// stored now is read.
-void GFPDB_EMBEDDED_MGR::retire_stored(const GFPDB_EMBEDDED_FLASH* record)
-{
-    const auto take_from = [this, record](auto& records) {
-        const auto found =
-            std::find_if(records.begin(), records.end(), [record](const auto& kept) { return kept.get() == record; });
-        if (found == records.end())
-            return;
-        std::unique_ptr<GFPDB_EMBEDDED_FLASH> taken = std::move(*found);
-        records.erase(found);
-        retire(std::move(taken));
-    };
-    take_from(m_former_records);
-    take_from(m_made_records);
-}
-
-void GFPDB_EMBEDDED_MGR::retire_read(const std::string& place_in_directory)
-{
-    auto read = m_read_records.extract(place_in_directory);
-    if (!read.empty())
-        retire(std::move(read.mapped()));
+    return m_records.add_read(directory + place, std::move(record));
 }
 
 // Remembers why, if the database could not be read.
@@ -448,9 +410,9 @@ bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE&
     row->revision = *revision;
     record->set_db_dir(store.get_directory());
     record->set_stored(*row);
-    retire_stored(record);
+    m_records.retire_stored(record);
     if (is_new_name)
-        retire_read(store.get_directory() + device_place(deletion->name));
+        m_records.retire_read(store.get_directory() + device_place(deletion->name));
     return true;
 }
 
@@ -578,7 +540,7 @@ GFPDB_FLASH* GFPDB_EMBEDDED_MGR::create_flash(const std::string& name)
 {
     if (name.empty())
         return nullptr;
-    return m_made_records.emplace_back(std::make_unique<GFPDB_EMBEDDED_FLASH>(name)).get();
+    return m_records.add_made(std::make_unique<GFPDB_EMBEDDED_FLASH>(name));
 }
 
 GFPDB_ACTION* GFPDB_EMBEDDED_MGR::create_action(GFPDB_ACT_TYPE type)

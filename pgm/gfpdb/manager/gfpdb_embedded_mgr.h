@@ -4,11 +4,10 @@
 #pragma once
 
 #include "gfpdb/gfpdb_mgr.h"
-#include "model/gfpdb_embedded_flash.h"
+#include "manager/gfpdb_kept_records.h"
 #include "rules/gfpdb_scheme_kind.h"
 #include "store/gfpdb_store.h"
 
-#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -105,10 +104,6 @@ private:
     GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::string& revision) const;
     GFPDB_EMBEDDED_FLASH* keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template);
     GFPDB_EMBEDDED_FLASH* nothing_read();
-    // Makes `record` (may be null) the latest of the former ones; the earliest goes when there are too many.
-    void retire(std::unique_ptr<GFPDB_EMBEDDED_FLASH> record);
-    void retire_stored(const GFPDB_EMBEDDED_FLASH* record);
-    void retire_read(const std::string& place_in_directory);
     std::vector<std::string> densities() const;
     bool was_read(std::string& error) const;
     bool check_seen(GFPDB_STORE& store, const std::string& name);
@@ -136,9 +131,5 @@ private:
     mutable GFPDB_ASKED_DEVICE m_asked;
     // The places of devices that could not be read when they were last looked for, and why.
     std::unordered_map<std::string, std::string> m_unread;
-    // The records that were made and not stored yet; the last one that was read from each place of a database; and the
-    // last ones of those that were stored, or that another one has replaced in its place.
-    std::vector<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_made_records;
-    std::unordered_map<std::string, std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_read_records;
-    std::deque<std::unique_ptr<GFPDB_EMBEDDED_FLASH>> m_former_records;
+    GFPDB_KEPT_RECORDS m_records;
 };

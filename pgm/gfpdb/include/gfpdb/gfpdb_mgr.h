@@ -14,10 +14,10 @@
 
 // All records, templates, option lists and checks of one flash database, for a current family and scheme. Owned by the
 // library: a caller gets the active manager from GFPDB_HELPER and never deletes it. What it hands out stays valid also
-// after the active manager was replaced: a record that was stored, replaced or deleted, with its operations and
-// actions, while no more than 256 later ones were; every other one until the process ends. Out vectors are cleared
-// first and returned where a reference is returned. Throws nothing. Texts are in the library's encoding. GUI thread
-// only.
+// after the active manager was replaced. A record, with its operations and actions, does so while no more than 256 later
+// ones were made, if it was only made, or were stored, replaced or deleted, if it was; every other one until the
+// process ends. Out vectors are cleared first and returned where a reference is returned. Throws nothing. Texts are in
+// the library's encoding. GUI thread only.
 //
 // The declaration order of the virtual operations is the slot order of the interface.
 class GFPDB_EXPORT GFPDB_MGR
