@@ -11,12 +11,12 @@ namespace {
 constexpr int LINE_BITS = 10;
 constexpr int PAGE_BYTES = 256;
 
-std::unique_ptr<GFPE_BUS> start(std::unique_ptr<GFPE_LINK> link, const GFPE_SERPROG_LIMITS& limits, std::int64_t clock,
+std::unique_ptr<GFPE_BUS> start(std::unique_ptr<GFPE_LINE> line, const GFPE_SERPROG_LIMITS& limits, std::int64_t clock,
                                 std::string& problem)
 {
-    if (!link)
+    if (!line)
         return nullptr;
-    auto client = std::make_unique<GFPE_SERPROG_CLIENT>(std::move(link), limits);
+    auto client = std::make_unique<GFPE_SERPROG_CLIENT>(std::move(line), limits);
     if (client->start(clock))
         return client;
     problem = client->get_last_error();
@@ -38,11 +38,11 @@ std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string& host, int por
                                                 std::string& problem)
 {
     const GFPE_SERPROG_LIMITS limits;
-    return start(gfpe_tcp_link(host, port, limits.connect_ms, problem), limits, clock, problem);
+    return start(gfpe_tcp_line(host, port, limits.connect_ms, problem), limits, clock, problem);
 }
 
 std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& device, int baud, std::int64_t clock,
                                                  std::string& problem)
 {
-    return start(gfpe_line_link(device, baud, problem), gfpe_line_limits(baud), clock, problem);
+    return start(gfpe_serial_line(device, baud, problem), gfpe_line_limits(baud), clock, problem);
 }

@@ -71,8 +71,8 @@ int milliseconds_until(CLOCK::time_point end)
 
 } // namespace
 
-GFPE_SERPROG_CLIENT::GFPE_SERPROG_CLIENT(std::unique_ptr<GFPE_LINK> link, const GFPE_SERPROG_LIMITS& limits)
-    : m_link(std::move(link)), m_limits(limits), m_in(IN_BYTES), m_room(MOST_KEPT)
+GFPE_SERPROG_CLIENT::GFPE_SERPROG_CLIENT(std::unique_ptr<GFPE_LINE> line, const GFPE_SERPROG_LIMITS& limits)
+    : m_line(std::move(line)), m_limits(limits), m_in(IN_BYTES), m_room(MOST_KEPT)
 {}
 
 GFPE_SERPROG_CLIENT::~GFPE_SERPROG_CLIENT()
@@ -111,11 +111,11 @@ bool GFPE_SERPROG_CLIENT::find_mark()
 {
     m_out.push_back(serprog::SYNCHRONISE);
     const CLOCK::time_point end = CLOCK::now() + std::chrono::milliseconds(m_limits.synchronise_ms);
-    GFPE_LINK_STATE state = send(m_limits.synchronise_ms);
+    GFPE_LINE_STATE state = send(m_limits.synchronise_ms);
     std::uint8_t last[2] = {};
-    while (state == GFPE_LINK_STATE::DONE && CLOCK::now() < end) {
+    while (state == GFPE_LINE_STATE::DONE && CLOCK::now() < end) {
         std::size_t length = 0;
-        state = m_link->read(m_in.data(), m_in.size(), length, milliseconds_until(end));
+        state = m_line->read(m_in.data(), m_in.size(), length, milliseconds_until(end));
         for (std::size_t i = 0; i < length; ++i) {
             last[0] = last[1];
             last[1] = m_in[i];
@@ -123,25 +123,25 @@ bool GFPE_SERPROG_CLIENT::find_mark()
         if (last[0] == serprog::NAK && last[1] == serprog::ACK)
             return true;
     }
-    return state == GFPE_LINK_STATE::LOST && fail(state);
+    return state == GFPE_LINE_STATE::LOST && fail(state);
 }
 
 bool GFPE_SERPROG_CLIENT::confirm_mark()
 {
     const CLOCK::time_point end = CLOCK::now() + std::chrono::milliseconds(m_limits.synchronise_ms);
     std::size_t length = 0;
-    GFPE_LINK_STATE state = GFPE_LINK_STATE::DONE;
-    while (state == GFPE_LINK_STATE::DONE && CLOCK::now() < end)
-        state = m_link->read(m_in.data(), m_in.size(), length, 0);
+    GFPE_LINE_STATE state = GFPE_LINE_STATE::DONE;
+    while (state == GFPE_LINE_STATE::DONE && CLOCK::now() < end)
+        state = m_line->read(m_in.data(), m_in.size(), length, 0);
     m_out = {serprog::SYNCHRONISE};
-    if (state == GFPE_LINK_STATE::TIMED_OUT)
+    if (state == GFPE_LINE_STATE::TIMED_OUT)
         state = send(m_limits.synchronise_ms);
     std::size_t received = 0;
-    while (state == GFPE_LINK_STATE::DONE && received < 2) {
-        state = m_link->read(m_in.data() + received, m_in.size() - received, length, milliseconds_until(end));
+    while (state == GFPE_LINE_STATE::DONE && received < 2) {
+        state = m_line->read(m_in.data() + received, m_in.size() - received, length, milliseconds_until(end));
         received += length;
     }
-    if (state == GFPE_LINK_STATE::LOST)
+    if (state == GFPE_LINE_STATE::LOST)
         return fail(state);
     return received == 2 && m_in[0] == serprog::NAK && m_in[1] == serprog::ACK;
 }
@@ -332,13 +332,13 @@ bool GFPE_SERPROG_CLIENT::make_room(std::size_t bytes, std::size_t commands)
 }
 
 // Sends m_out.
-GFPE_LINK_STATE GFPE_SERPROG_CLIENT::send(int milliseconds)
+GFPE_LINE_STATE GFPE_SERPROG_CLIENT::send(int milliseconds)
 {
     const CLOCK::time_point end = CLOCK::now() + std::chrono::milliseconds(milliseconds);
-    GFPE_LINK_STATE state = GFPE_LINK_STATE::DONE;
-    for (std::size_t at = 0; at < m_out.size() && state == GFPE_LINK_STATE::DONE;) {
+    GFPE_LINE_STATE state = GFPE_LINE_STATE::DONE;
+    for (std::size_t at = 0; at < m_out.size() && state == GFPE_LINE_STATE::DONE;) {
         std::size_t sent = 0;
-        state = m_link->write(m_out.data() + at, m_out.size() - at, sent, milliseconds_until(end));
+        state = m_line->write(m_out.data() + at, m_out.size() - at, sent, milliseconds_until(end));
         at += sent;
     }
     return state;
@@ -349,8 +349,8 @@ bool GFPE_SERPROG_CLIENT::exchange(std::int64_t length, GFPE_READER* reader)
 {
     if (!is_line_quiet())
         return false;
-    const GFPE_LINK_STATE state = send(limit_of(static_cast<std::int64_t>(m_out.size())));
-    if (state != GFPE_LINK_STATE::DONE)
+    const GFPE_LINE_STATE state = send(limit_of(static_cast<std::int64_t>(m_out.size())));
+    if (state != GFPE_LINE_STATE::DONE)
         return fail(state);
     return receive(length, reader);
 }
@@ -365,10 +365,10 @@ int GFPE_SERPROG_CLIENT::limit_of(std::int64_t bytes) const
 bool GFPE_SERPROG_CLIENT::is_line_quiet()
 {
     std::size_t length = 0;
-    const GFPE_LINK_STATE state = m_link->read(m_in.data(), 1, length, 0);
-    if (state == GFPE_LINK_STATE::LOST)
+    const GFPE_LINE_STATE state = m_line->read(m_in.data(), 1, length, 0);
+    if (state == GFPE_LINE_STATE::LOST)
         return fail(state);
-    return state == GFPE_LINK_STATE::TIMED_OUT || fail("The programmer sends more than it was asked for.");
+    return state == GFPE_LINE_STATE::TIMED_OUT || fail("The programmer sends more than it was asked for.");
 }
 
 bool GFPE_SERPROG_CLIENT::receive(std::int64_t length, GFPE_READER* reader)
@@ -379,9 +379,9 @@ bool GFPE_SERPROG_CLIENT::receive(std::int64_t length, GFPE_READER* reader)
     std::size_t answered = 0;
     while (answered < m_sent.size() || length > 0) {
         std::size_t received = 0;
-        const GFPE_LINK_STATE state =
-            m_link->read(m_in.data(), m_in.size(), received, std::min(silence_ms, milliseconds_until(end)));
-        if (state != GFPE_LINK_STATE::DONE)
+        const GFPE_LINE_STATE state =
+            m_line->read(m_in.data(), m_in.size(), received, std::min(silence_ms, milliseconds_until(end)));
+        if (state != GFPE_LINE_STATE::DONE)
             return fail(state);
         const std::size_t answers = std::min(received, m_sent.size() - answered);
         if (!check_answers(m_in.data(), answered, answers))
@@ -421,9 +421,9 @@ bool GFPE_SERPROG_CLIENT::fail(const std::string& text)
     return false;
 }
 
-bool GFPE_SERPROG_CLIENT::fail(GFPE_LINK_STATE state)
+bool GFPE_SERPROG_CLIENT::fail(GFPE_LINE_STATE state)
 {
-    return fail(state == GFPE_LINK_STATE::LOST
-                    ? "The connection to the programmer is lost: " + m_link->get_problem() + "."
+    return fail(state == GFPE_LINE_STATE::LOST
+                    ? "The connection to the programmer is lost: " + m_line->get_problem() + "."
                     : "The programmer does not answer in time.");
 }

@@ -3,7 +3,7 @@
 // The client of serprog: a connection to the chip behind a programmer.
 #pragma once
 
-#include "serprog/gfpe_link.h"
+#include "serprog/gfpe_line.h"
 
 #include "gfpe/gfpe_bus.h"
 
@@ -33,7 +33,7 @@ GFPE_SERPROG_LIMITS gfpe_line_limits(int baud);
 class GFPE_SERPROG_CLIENT : public GFPE_BUS
 {
 public:
-    GFPE_SERPROG_CLIENT(std::unique_ptr<GFPE_LINK> link, const GFPE_SERPROG_LIMITS& limits);
+    GFPE_SERPROG_CLIENT(std::unique_ptr<GFPE_LINE> line, const GFPE_SERPROG_LIMITS& limits);
     // Lets the programmer go of the chip's pins.
     ~GFPE_SERPROG_CLIENT() override;
 
@@ -60,16 +60,16 @@ private:
     bool ask(std::uint8_t command, const BYTES& parameters, std::size_t length, BYTES& answer);
     bool ask_number(std::uint8_t command, std::size_t length, std::int64_t missing, std::int64_t& number);
     bool make_room(std::size_t bytes, std::size_t commands);
-    GFPE_LINK_STATE send(int milliseconds);
+    GFPE_LINE_STATE send(int milliseconds);
     bool exchange(std::int64_t length, GFPE_READER* reader);
     bool is_line_quiet();
     bool receive(std::int64_t length, GFPE_READER* reader);
     bool check_answers(const std::uint8_t* bytes, std::size_t first, std::size_t count);
     int limit_of(std::int64_t bytes) const;
     bool fail(const std::string& text);
-    bool fail(GFPE_LINK_STATE state);
+    bool fail(GFPE_LINE_STATE state);
 
-    const std::unique_ptr<GFPE_LINK> m_link;
+    const std::unique_ptr<GFPE_LINE> m_line;
     const GFPE_SERPROG_LIMITS m_limits;
     GFPE_ABILITIES m_abilities;
     // The bit map of the programmer's commands; empty before it is known.

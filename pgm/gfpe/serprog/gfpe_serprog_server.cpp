@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gfpe/gfpe_serprog.h"
 
-#include "serprog/gfpe_link.h"
+#include "serprog/gfpe_line.h"
 #include "serprog/gfpe_serprog_talk.h"
 
 #include "gfpdb/gfpdb_text.h"
@@ -55,7 +55,7 @@ public:
     int get_port() const { return m_server.serverPort(); }
 
     // The next client; null when none came for a while.
-    std::unique_ptr<GFPE_LINK> accept()
+    std::unique_ptr<GFPE_LINE> accept()
     {
         if (!is_client_waiting(SLICE_MS))
             return nullptr;
@@ -64,19 +64,19 @@ public:
             return nullptr;
         set_option(socket, IPPROTO_TCP, TCP_NODELAY);
         set_option(socket, SOL_SOCKET, SO_KEEPALIVE);
-        return gfpe_socket_link(socket);
+        return gfpe_socket_line(socket);
     }
 
-    void serve(GFPE_LINK& client, GFPE_BUS& bus, const std::function<bool()>& ends)
+    void serve(GFPE_LINE& client, GFPE_BUS& bus, const std::function<bool()>& ends)
     {
         GFPE_SERPROG_TALK talk(bus);
         CLOCK::time_point last = CLOCK::now();
         while (!ends()) {
             std::size_t length = 0;
-            const GFPE_LINK_STATE state = client.read(m_in.data(), m_in.size(), length, SLICE_MS);
-            if (state == GFPE_LINK_STATE::LOST)
+            const GFPE_LINE_STATE state = client.read(m_in.data(), m_in.size(), length, SLICE_MS);
+            if (state == GFPE_LINE_STATE::LOST)
                 return;
-            if (state == GFPE_LINK_STATE::DONE)
+            if (state == GFPE_LINE_STATE::DONE)
                 last = CLOCK::now();
             else if (CLOCK::now() - last > SILENCE && is_client_waiting(0))
                 return;
@@ -95,7 +95,7 @@ private:
     }
 
     // What is in m_in. False: the client is to be dropped.
-    bool answer(GFPE_LINK& client, GFPE_SERPROG_TALK& talk, std::size_t length, const std::function<bool()>& ends)
+    bool answer(GFPE_LINE& client, GFPE_SERPROG_TALK& talk, std::size_t length, const std::function<bool()>& ends)
     {
         m_out.clear();
         for (std::size_t at = 0; at < length;) {
@@ -107,15 +107,15 @@ private:
         return send(client, ends);
     }
 
-    bool send(GFPE_LINK& client, const std::function<bool()>& ends)
+    bool send(GFPE_LINE& client, const std::function<bool()>& ends)
     {
         const CLOCK::time_point end = CLOCK::now() + SILENCE;
         std::size_t at = 0;
         while (at < m_out.size()) {
             std::size_t sent = 0;
-            const GFPE_LINK_STATE state = client.write(m_out.data() + at, m_out.size() - at, sent, SLICE_MS);
+            const GFPE_LINE_STATE state = client.write(m_out.data() + at, m_out.size() - at, sent, SLICE_MS);
             at += sent;
-            if (state == GFPE_LINK_STATE::LOST || ends() || CLOCK::now() > end)
+            if (state == GFPE_LINE_STATE::LOST || ends() || CLOCK::now() > end)
                 return false;
         }
         m_out.clear();
@@ -143,7 +143,7 @@ int GFPE_SERPROG_SERVER::get_port() const
 void GFPE_SERPROG_SERVER::run(const std::function<bool()>& ends)
 {
     while (!ends()) {
-        const std::unique_ptr<GFPE_LINK> client = m_socket->accept();
+        const std::unique_ptr<GFPE_LINE> client = m_socket->accept();
         if (client)
             m_socket->serve(*client, m_bus, ends);
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "serprog/gfpe_link.h"
+#include "serprog/gfpe_line.h"
 
 #include "gfpdb/gfpdb_text.h"
 
@@ -21,30 +21,30 @@ using CLOCK = std::chrono::steady_clock;
 
 // Qt finds the host and sets the line up. From then on its descriptor alone is used: Qt's sockets and lines listen to
 // the events of the thread that made them, which may be gone when the next call comes from another one.
-class DESCRIPTOR_LINK : public GFPE_LINK
+class DESCRIPTOR_LINE : public GFPE_LINE
 {
 public:
-    DESCRIPTOR_LINK(int descriptor, bool is_socket, std::unique_ptr<QObject> owner)
+    DESCRIPTOR_LINE(int descriptor, bool is_socket, std::unique_ptr<QObject> owner)
         : m_descriptor(descriptor), m_is_socket(is_socket), m_owner(std::move(owner))
     {
         if (m_owner)
             m_owner->moveToThread(nullptr);
     }
 
-    ~DESCRIPTOR_LINK() override
+    ~DESCRIPTOR_LINE() override
     {
         if (!m_owner)
             ::close(m_descriptor);
     }
 
-    GFPE_LINK_STATE write(const std::uint8_t* bytes, std::size_t most, std::size_t& sent, int milliseconds) override
+    GFPE_LINE_STATE write(const std::uint8_t* bytes, std::size_t most, std::size_t& sent, int milliseconds) override
     {
         return repeat(POLLOUT, sent, milliseconds, [&] {
             return m_is_socket ? ::send(m_descriptor, bytes, most, MSG_NOSIGNAL) : ::write(m_descriptor, bytes, most);
         });
     }
 
-    GFPE_LINK_STATE read(std::uint8_t* bytes, std::size_t most, std::size_t& length, int milliseconds) override
+    GFPE_LINE_STATE read(std::uint8_t* bytes, std::size_t most, std::size_t& length, int milliseconds) override
     {
         return repeat(POLLIN, length, milliseconds, [&] { return ::read(m_descriptor, bytes, most); });
     }
@@ -54,7 +54,7 @@ public:
 private:
     // Waits for the event and calls, until the call has done something.
     template <typename CALL>
-    GFPE_LINK_STATE repeat(short event, std::size_t& done, int milliseconds, const CALL& call)
+    GFPE_LINE_STATE repeat(short event, std::size_t& done, int milliseconds, const CALL& call)
     {
         done = 0;
         const CLOCK::time_point end = CLOCK::now() + std::chrono::milliseconds(milliseconds);
@@ -63,11 +63,11 @@ private:
             pollfd entry = {m_descriptor, event, 0};
             const int ready = ::poll(&entry, 1, std::max(0, static_cast<int>(left)));
             if (ready == 0)
-                return GFPE_LINK_STATE::TIMED_OUT;
+                return GFPE_LINE_STATE::TIMED_OUT;
             const ssize_t result = ready < 0 ? ready : call();
             if (result > 0) {
                 done = static_cast<std::size_t>(result);
-                return GFPE_LINK_STATE::DONE;
+                return GFPE_LINE_STATE::DONE;
             }
             if (result == 0)
                 return lose(0);
@@ -77,10 +77,10 @@ private:
     }
 
     // 0 for an end that the other side made.
-    GFPE_LINK_STATE lose(int error)
+    GFPE_LINE_STATE lose(int error)
     {
         m_problem = error == 0 ? "it was closed by the other side" : std::strerror(error);
-        return GFPE_LINK_STATE::LOST;
+        return GFPE_LINE_STATE::LOST;
     }
 
     const int m_descriptor;
@@ -97,7 +97,7 @@ std::string utf8(const std::string& local)
 
 } // namespace
 
-std::unique_ptr<GFPE_LINK> gfpe_tcp_link(const std::string& host, int port, int milliseconds, std::string& problem)
+std::unique_ptr<GFPE_LINE> gfpe_tcp_line(const std::string& host, int port, int milliseconds, std::string& problem)
 {
     auto socket = std::make_unique<QTcpSocket>();
     socket->connectToHost(gfpdb_from_utf8(utf8(host)), static_cast<quint16>(port));
@@ -109,10 +109,10 @@ std::unique_ptr<GFPE_LINK> gfpe_tcp_link(const std::string& host, int port, int 
     // Commands are short, and each waits for its answer.
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     const int descriptor = static_cast<int>(socket->socketDescriptor());
-    return std::make_unique<DESCRIPTOR_LINK>(descriptor, true, std::move(socket));
+    return std::make_unique<DESCRIPTOR_LINE>(descriptor, true, std::move(socket));
 }
 
-std::unique_ptr<GFPE_LINK> gfpe_line_link(const std::string& device, int baud, std::string& problem)
+std::unique_ptr<GFPE_LINE> gfpe_serial_line(const std::string& device, int baud, std::string& problem)
 {
     auto line = std::make_unique<QSerialPort>(QFile::decodeName(QByteArray::fromStdString(device)));
     if (!line->setBaudRate(baud) || !line->open(QIODevice::ReadWrite)) {
@@ -121,10 +121,10 @@ std::unique_ptr<GFPE_LINK> gfpe_line_link(const std::string& device, int baud, s
         return nullptr;
     }
     const int descriptor = line->handle();
-    return std::make_unique<DESCRIPTOR_LINK>(descriptor, false, std::move(line));
+    return std::make_unique<DESCRIPTOR_LINE>(descriptor, false, std::move(line));
 }
 
-std::unique_ptr<GFPE_LINK> gfpe_socket_link(int socket)
+std::unique_ptr<GFPE_LINE> gfpe_socket_line(int socket)
 {
-    return std::make_unique<DESCRIPTOR_LINK>(socket, true, nullptr);
+    return std::make_unique<DESCRIPTOR_LINE>(socket, true, nullptr);
 }
