@@ -10,20 +10,22 @@
 // GUI thread only.
 #pragma once
 
+#include "dstr/dstr_export.h"
+
 #include "dstr/dev_family.h"
 
 #include <string>
 #include <vector>
 
 // The user-visible name of `family`; "Unknown family (N)" for a value that the table does not have.
-std::string dstr_get_user_string(int family);
+DSTR_EXPORT std::string dstr_get_user_string(int family);
 
 // The families of the table, in the order of the file.
-std::vector<int> dstr_get_families();
+DSTR_EXPORT std::vector<int> dstr_get_families();
 
 // The configuration schemes (values 0 to 25) that `family` supports, in the order of the file; empty when unknown.
-std::vector<int> dstr_get_config_schemes(int family);
+DSTR_EXPORT std::vector<int> dstr_get_config_schemes(int family);
 
 // Why the file that GFPQ_FAMILIES names is not the one that counts, as a sentence for the user; empty when it is, or
 // when the variable is not set.
-std::string dstr_get_problem();
+DSTR_EXPORT std::string dstr_get_problem();

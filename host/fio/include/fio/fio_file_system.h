@@ -3,9 +3,11 @@
 // Operations on the file system that concern the whole process.
 #pragma once
 
+#include "fio/fio_export.h"
+
 #include <string>
 
-class FIO_FILE_SYSTEM
+class FIO_EXPORT FIO_FILE_SYSTEM
 {
 public:
     FIO_FILE_SYSTEM() = delete;

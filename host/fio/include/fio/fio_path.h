@@ -8,9 +8,11 @@
 // root is used instead of a current directory that no longer exists.
 #pragma once
 
+#include "fio/fio_export.h"
+
 #include <string>
 
-class FIO_PATH
+class FIO_EXPORT FIO_PATH
 {
 public:
     FIO_PATH() = default;

@@ -3,9 +3,11 @@
 // Path rules that all parts of the programmer share.
 #pragma once
 
+#include "fio/fio_export.h"
+
 #include <string>
 
-class PGM_COMMON
+class FIO_EXPORT PGM_COMMON
 {
 public:
     PGM_COMMON() = delete;

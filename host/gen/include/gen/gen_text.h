@@ -6,18 +6,20 @@
 // from every thread.
 #pragma once
 
+#include "gen/gen_export.h"
+
 #include <string>
 
 // The number at the start of `text`: blanks, one optional sign, then decimal digits; what follows is ignored. A text
 // without a leading number gives 0. A number outside the range of int gives the nearest int.
-int gen_atoi(const std::string& text);
+GEN_EXPORT int gen_atoi(const std::string& text);
 
 // `value` in decimal, with a leading "-" when negative.
-std::string gen_itoa(int value);
+GEN_EXPORT std::string gen_itoa(int value);
 
 // Byte by byte comparison: below 0, 0 or above 0 as `left` is before, equal to or after `right`.
-int gen_strcmp(const std::string& left, const std::string& right);
+GEN_EXPORT int gen_strcmp(const std::string& left, const std::string& right);
 
 // As gen_strcmp, but "A" to "Z" count as "a" to "z". Bytes outside ASCII are compared as they are, so the result does
 // not depend on the locale.
-int gen_stricmp(const std::string& left, const std::string& right);
+GEN_EXPORT int gen_stricmp(const std::string& left, const std::string& right);

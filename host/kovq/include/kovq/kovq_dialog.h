@@ -3,6 +3,8 @@
 // Base class of the host's dialogs.
 #pragma once
 
+#include "kovq/kovq_export.h"
+
 #include <QDialog>
 
 class QSettings;
@@ -16,7 +18,7 @@ class QSettings;
 // What the user made of its size is kept in the settings under its object name, and not at all when it has none or the
 // user left the size alone: then it opens again as its form says. A larger size is kept for the day when the screen is
 // larger again. Settings that hold something else than a size are ignored.
-class KOVQ_DIALOG : public QDialog
+class KOVQ_EXPORT KOVQ_DIALOG : public QDialog
 {
     Q_OBJECT
 

@@ -3,6 +3,8 @@
 // The platform's file dialog.
 #pragma once
 
+#include "kovq/kovq_export.h"
+
 #include <QFileDialog>
 #include <QString>
 #include <QStringList>
@@ -11,7 +13,7 @@
 
 // A modal file or folder dialog: the platform's own where the platform theme has one, else Qt's. Set it up, run exec(),
 // read selected_files().
-class KOVQ_NATIVE_FILE_DLG
+class KOVQ_EXPORT KOVQ_NATIVE_FILE_DLG
 {
 public:
     // `parent` is the window that the dialog is modal to; not owned.

@@ -3,12 +3,14 @@
 // The host application object.
 #pragma once
 
+#include "kovq/kovq_export.h"
+
 #include <QApplication>
 
 #include <string>
 
 // What the host tells its modules about the place it works in.
-class ZUI_UI_MGR
+class KOVQ_EXPORT ZUI_UI_MGR
 {
 public:
     // The directory (local 8-bit) that the host shows paths relative to; empty when paths are shown absolute.
@@ -20,7 +22,7 @@ private:
 };
 
 // The application of a host program. Owns its UI manager.
-class ZUI_APP : public QApplication
+class KOVQ_EXPORT ZUI_APP : public QApplication
 {
     Q_OBJECT
 
@@ -37,4 +39,4 @@ private:
 };
 
 // The application object of the process, or null when there is none.
-QCoreApplication* kovq_get_app();
+KOVQ_EXPORT QCoreApplication* kovq_get_app();

@@ -5,6 +5,8 @@
 // GUI thread only. Texts are in the local 8-bit encoding.
 #pragma once
 
+#include "msg/msg_export.h"
+
 #include <functional>
 #include <string>
 
@@ -18,7 +20,7 @@ enum MSG_VALUE : int
 class MSG_REPORT;
 
 // What every message has: a number and the text of its arguments.
-class MSG_BASE
+class MSG_EXPORT MSG_BASE
 {
 public:
     virtual ~MSG_BASE();
@@ -41,7 +43,7 @@ private:
 };
 
 // A message that is shown to the user as a modal box and waits for the answer.
-class MSG_O : public MSG_BASE
+class MSG_EXPORT MSG_O : public MSG_BASE
 {
 public:
     // Says why the message with the number `id` is being raised (local 8-bit); empty when it does not know.
@@ -61,7 +63,7 @@ public:
 };
 
 // The end of the line: an assumption of the program's own does not hold.
-class MSG_INTERNAL_ERROR
+class MSG_EXPORT MSG_INTERNAL_ERROR
 {
 public:
     MSG_INTERNAL_ERROR() = delete;
