@@ -3,7 +3,7 @@
 # What is installed, and where. Everything finds everything else by the way from its own place, so that an installed tree
 # can be moved.
 #
-#   bin/                        gfpq_host, gfpdb
+#   bin/                        gfpq_host, gfpdb, gfprog
 #   lib/gfpq/                   the module and the libraries: ours alone, so not in the system's own directory
 #   lib/cmake/gfpq/             find_package(gfpq)
 #   include/gfpq/               headers for hosts
@@ -46,8 +46,8 @@ set_target_properties(pgm_gfpq PROPERTIES INSTALL_RPATH "\$ORIGIN")
 install(TARGETS pgm_gfpq LIBRARY DESTINATION ${GFPQ_PRIVATE_LIBDIR} COMPONENT runtime)
 
 # The first entry is for the build tree, which is run from as it is.
-set_target_properties(gfpq_host gfpdb_cli PROPERTIES INSTALL_RPATH "\$ORIGIN/../lib;\$ORIGIN/../${GFPQ_PRIVATE_LIBDIR}")
-install(TARGETS gfpq_host gfpdb_cli RUNTIME DESTINATION bin COMPONENT runtime)
+set_target_properties(gfpq_host gfpdb_cli gfprog PROPERTIES INSTALL_RPATH "\$ORIGIN/../lib;\$ORIGIN/../${GFPQ_PRIVATE_LIBDIR}")
+install(TARGETS gfpq_host gfpdb_cli gfprog RUNTIME DESTINATION bin COMPONENT runtime)
 
 # Data and texts.
 get_property(host_texts GLOBAL PROPERTY GFPQ_HOST_TEXTS)
@@ -73,8 +73,11 @@ install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.svg
     DESTINATION share/icons/hicolor/scalable/apps COMPONENT runtime)
 gfpq_install_compressed(${PROJECT_SOURCE_DIR}/packaging/gfpq_host.1 share/man/man1 runtime)
 gfpq_install_compressed(${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.1 share/man/man1 runtime)
+gfpq_install_compressed(${PROJECT_SOURCE_DIR}/app/gfprog/gfprog.1 share/man/man1 runtime)
 install(FILES ${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.bash
     DESTINATION share/bash-completion/completions RENAME gfpdb COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/app/gfprog/gfprog.bash
+    DESTINATION share/bash-completion/completions RENAME gfprog COMPONENT runtime)
 
 # Documentation.
 install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md

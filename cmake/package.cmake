@@ -27,7 +27,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qttranslations5-l10n)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "A catalogue of serial configuration flash devices with their programming
 flows, a database for devices of one's own, the dialog in which both are
-browsed and edited, and gfpdb, a command line tool for the database.")
+browsed and edited, and two command line tools: gfpdb for the database, and
+gfprog, which programs devices, also on emulated chips.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME gfpq-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)

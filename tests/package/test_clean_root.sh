@@ -72,10 +72,12 @@ in_root env QT_QPA_PLATFORM=offscreen gfpq_host --render /root/pages >render.out
 in_root env QT_QPA_PLATFORM=offscreen gfpq_host --render /root/german --lang de >/dev/null 2>&1
 [ -f "$ROOT/root/german/1-konfigurationsbaustein.png" ] || fail "the German dialog"
 
-step "the command line tool works on the database"
+step "the command line tools work"
 in_root gfpdb list --builtin >list.out
 grep -q MX25L25645G list.out || fail "gfpdb list"
 in_root gfpdb check >check.out || { cat check.out >&2; fail "gfpdb check"; }
+in_root gfprog program /usr/share/gfpq/families.csv --on emulated --device MX25L25645G >program.out ||
+    { cat program.out >&2; fail "gfprog program"; }
 
 step "and the package goes again"
 in_root apt-get purge -y -qq gfpq >>apt.log 2>&1 || { tail -n 5 apt.log >&2; fail "the package cannot be removed"; }

@@ -34,8 +34,8 @@ done
 step "what is in them"
 dpkg-deb --contents "$RUNTIME" >runtime.txt
 dpkg-deb --contents "$DEVELOPMENT" >development.txt
-for file in usr/bin/gfpq_host usr/bin/gfpdb usr/lib/gfpq/libpgm_gfpq.so usr/lib/gfpq/libgfpdb.so \
-    usr/share/gfpq/families.csv usr/share/gfpq/translations/gfpq_host_ja.qm usr/share/man/man1/gfpdb.1.gz \
+for file in usr/bin/gfpq_host usr/bin/gfpdb usr/bin/gfprog usr/lib/gfpq/libpgm_gfpq.so usr/lib/gfpq/libgfpdb.so \
+    usr/share/gfpq/families.csv usr/share/gfpq/translations/gfpq_host_ja.qm usr/share/man/man1/gfpdb.1.gz usr/share/man/man1/gfprog.1.gz \
     usr/share/applications/gfpq_host.desktop usr/share/icons/hicolor/scalable/apps/gfpq_host.svg \
     usr/share/doc/gfpq/copyright usr/share/doc/gfpq/changelog.gz; do
     grep -q " ./$file$" runtime.txt || fail "gfpq has no $file"

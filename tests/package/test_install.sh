@@ -23,7 +23,7 @@ diff -u "$HERE/installed_files.txt" files.txt || fail "other files were installe
 
 step "libraries are found by the way from where they are asked for"
 runpath() { readelf -d "$1" | sed -n 's/.*\(RUNPATH\|RPATH\).*\[\(.*\)\]/\2/p'; }
-for program in gfpq_host gfpdb; do
+for program in gfpq_host gfpdb gfprog; do
     # The first entry is for the build tree; none is empty, which would stand for the current directory.
     [ "$(runpath "$PREFIX/bin/$program")" = '$ORIGIN/../lib:$ORIGIN/../lib/gfpq' ] || fail "the run path of $program"
 done
@@ -31,7 +31,7 @@ for library in "$PREFIX"/lib/gfpq/*.so; do
     found=$(runpath "$library")
     [ -z "$found" ] || [ "$found" = '$ORIGIN' ] || fail "the run path of $library is $found"
 done
-for file in "$PREFIX/bin/gfpq_host" "$PREFIX/bin/gfpdb" "$PREFIX"/lib/gfpq/*.so; do
+for file in "$PREFIX/bin/gfpq_host" "$PREFIX/bin/gfpdb" "$PREFIX/bin/gfprog" "$PREFIX"/lib/gfpq/*.so; do
     ldd "$file" >ldd.txt
     ! grep -q 'not found' ldd.txt || { cat ldd.txt >&2; fail "a library of $file is not found"; }
     ! grep -qF "=> $BUILD/lib/" ldd.txt || { cat ldd.txt >&2; fail "$file takes a library of the build tree"; }
@@ -58,6 +58,9 @@ RUN_ENVIRONMENT=()
 run list "$PREFIX/bin/gfpdb" list
 grep -q 'Stored part' list.out || fail "gfpdb list"
 run check "$PREFIX/bin/gfpdb" check
+
+step "gfprog programs an emulated chip of it"
+run program "$PREFIX/bin/gfprog" program list.out --on emulated --device 'Stored part'
 
 step "another language"
 use_driver "$PLUGINS"

@@ -7,17 +7,10 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QProcess>
 
 TOOL_RUN run_tool(const QStringList& arguments, const QByteArray& input)
 {
-    QProcess process;
-    process.start(QStringLiteral(GFPDB_PROGRAM), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, "the program did not end in order", process.readAllStandardError()};
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    return run_program(GFPDB_PROGRAM, arguments, input);
 }
 
 void save_part(const std::string& name, int family, int scheme, const std::string& template_name, int total_die)

@@ -4,18 +4,11 @@
 #pragma once
 
 #include "gfpdb_test.h"
+#include "tool_runs.h"
 
 #include <QByteArray>
 #include <QJsonDocument>
 #include <QStringList>
-
-// A run of the real program.
-struct TOOL_RUN
-{
-    int exit_code = -1;
-    QByteArray out;
-    QByteArray err;
-};
 
 // Runs gfpdb with `arguments`, in the environment of the test, with `input` as its standard input.
 TOOL_RUN run_tool(const QStringList& arguments, const QByteArray& input = QByteArray());
