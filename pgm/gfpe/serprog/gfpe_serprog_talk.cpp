@@ -66,8 +66,8 @@ std::int64_t limited(std::int64_t longest_of_bus)
 
 GFPE_SERPROG_TALK::GFPE_SERPROG_TALK(GFPE_BUS& bus)
     : m_bus(bus), m_longest_write(limited(bus.get_abilities().longest_write)),
-      m_longest_read(limited(bus.get_abilities().longest_read)), m_now(std::chrono::steady_clock::now()),
-      m_bus_now(bus.get_time())
+      m_longest_read(limited(bus.get_abilities().longest_read)), m_bus_now(bus.get_time()),
+      m_now(std::chrono::steady_clock::now())
 {}
 
 std::size_t GFPE_SERPROG_TALK::take(const std::uint8_t* bytes, std::size_t length)
@@ -241,11 +241,11 @@ void GFPE_SERPROG_TALK::transfer()
 // time of this machine must pass as well.
 void GFPE_SERPROG_TALK::catch_up()
 {
-    const auto now = std::chrono::steady_clock::now();
-    const std::int64_t passed = std::chrono::duration_cast<std::chrono::microseconds>(now - m_now).count();
+    const auto real = std::chrono::steady_clock::now() - m_now;
+    const std::int64_t passed = std::chrono::duration_cast<std::chrono::microseconds>(real).count();
     const std::int64_t missing = passed - (m_bus.get_time() - m_bus_now);
     if (missing > 0)
         m_bus.wait(missing);
-    m_now = now;
     m_bus_now = m_bus.get_time();
+    m_now = std::chrono::steady_clock::now();
 }

@@ -46,7 +46,7 @@ private:
     // The operation buffer: it has nothing but delays.
     std::int64_t m_delay_us = 0;
     std::int64_t m_operation_bytes = 0;
-    // When the bus last had the user's time, and which time it had then.
-    std::chrono::steady_clock::time_point m_now;
+    // The time of the bus when it last had caught up, and that of this machine.
     std::int64_t m_bus_now;
+    std::chrono::steady_clock::time_point m_now;
 };
