@@ -19,6 +19,11 @@ namespace {
 
 using CLOCK = std::chrono::steady_clock;
 
+std::string utf8(const std::string& local)
+{
+    return gfpdb_to_utf8(QString::fromLocal8Bit(local.data(), static_cast<int>(local.size())));
+}
+
 // Qt finds the host and sets the line up. From then on its descriptor alone is used: Qt's sockets and lines listen to
 // the events of the thread that made them, which may be gone when the next call comes from another one.
 class DESCRIPTOR_LINE : public GFPE_LINE
@@ -52,16 +57,17 @@ public:
     std::string get_problem() const override { return m_problem; }
 
 private:
-    // Waits for the event and calls, until the call has done something.
+    // Calls until the call has done something, and waits for the event before. There mostly is room to send, so that
+    // is tried first.
     template <typename CALL>
     GFPE_LINE_STATE repeat(short event, std::size_t& done, int milliseconds, const CALL& call)
     {
         done = 0;
         const CLOCK::time_point end = CLOCK::now() + std::chrono::milliseconds(milliseconds);
+        bool is_tried = event == POLLOUT;
         for (;;) {
-            const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - CLOCK::now()).count();
-            pollfd entry = {m_descriptor, event, 0};
-            const int ready = ::poll(&entry, 1, std::max(0, static_cast<int>(left)));
+            const int ready = is_tried ? 1 : wait_for(event, end);
+            is_tried = false;
             if (ready == 0)
                 return GFPE_LINE_STATE::TIMED_OUT;
             const ssize_t result = ready < 0 ? ready : call();
@@ -76,10 +82,18 @@ private:
         }
     }
 
+    // As poll().
+    int wait_for(short event, CLOCK::time_point end) const
+    {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - CLOCK::now()).count();
+        pollfd entry = {m_descriptor, event, 0};
+        return ::poll(&entry, 1, std::max(0, static_cast<int>(left)));
+    }
+
     // 0 for an end that the other side made.
     GFPE_LINE_STATE lose(int error)
     {
-        m_problem = error == 0 ? "it was closed by the other side" : std::strerror(error);
+        m_problem = error == 0 ? "it was closed by the other side" : utf8(std::strerror(error));
         return GFPE_LINE_STATE::LOST;
     }
 
@@ -89,11 +103,6 @@ private:
     const std::unique_ptr<QObject> m_owner;
     std::string m_problem;
 };
-
-std::string utf8(const std::string& local)
-{
-    return gfpdb_to_utf8(QString::fromLocal8Bit(local.data(), static_cast<int>(local.size())));
-}
 
 } // namespace
 

@@ -10,7 +10,7 @@ namespace {
 constexpr char NAME[] = "gfprog";
 static_assert(sizeof NAME <= serprog::NAME_BYTES);
 // The most bytes that a command sends to the chip, or receives from it.
-constexpr std::int64_t LONGEST = 65536;
+constexpr std::int64_t LONGEST = 131072;
 constexpr std::int64_t OPERATION_BYTES_MAX = 4096;
 // What a line shows that no chip drives.
 constexpr std::uint8_t NOTHING = 0xFF;

@@ -224,15 +224,15 @@ private slots:
     void the_programmer_says_what_it_can_do_data()
     {
         rows<FAULTS, int, int>({
-            {"nothing special", {}, 65536 - 5, 65536 - 1},
-            {"shorter", answering(0x08, {0x06, 0x00, 0x01, 0x00}), 256 - 5, 65536 - 1},
-            {"shorter reads", answering(0x11, {0x06, 0x40, 0x00, 0x00}), 65536 - 5, 63},
-            {"the longest", answering(0x08, {0x06, 0, 0, 0}), (1 << 24) - 6, 65536 - 1},
-            {"longer reads than can be interrupted", answering(0x11, {0x06, 0, 0, 0}), 65536 - 5, 65536},
+            {"nothing special", {}, 131072 - 5, 65536},
+            {"shorter", answering(0x08, {0x06, 0x00, 0x01, 0x00}), 256 - 5, 65536},
+            {"shorter reads", answering(0x11, {0x06, 0x40, 0x00, 0x00}), 131072 - 5, 63},
+            {"the longest", answering(0x08, {0x06, 0, 0, 0}), (1 << 24) - 6, 65536},
+            {"longer reads than can be interrupted", answering(0x11, {0x06, 0, 0, 0}), 131072 - 5, 65536},
             {"no limits", answering(0x02, commands_without({0x04, 0x05, 0x08, 0x0B, 0x11, 0x12, 0x15})), (1 << 24) - 6,
              65536},
-            {"the least", answering(0x08, {0x06, 9, 0, 0}), 4, 65536 - 1},
-            {"the least read", answering(0x11, {0x06, 2, 0, 0}), 65536 - 5, 1},
+            {"the least", answering(0x08, {0x06, 9, 0, 0}), 4, 65536},
+            {"the least read", answering(0x11, {0x06, 2, 0, 0}), 131072 - 5, 1},
         });
     }
     void the_programmer_says_what_it_can_do()

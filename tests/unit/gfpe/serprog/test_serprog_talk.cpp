@@ -42,8 +42,8 @@ private slots:
             {"serial buffer", "04", "06 FF FF", ""},
             {"buses", "05", "06 08", ""},
             {"operation buffer", "07", "06 00 10", ""},
-            {"longest write", "08", "06 00 00 01", ""},
-            {"longest read", "11", "06 00 00 01", ""},
+            {"longest write", "08", "06 00 00 02", ""},
+            {"longest read", "11", "06 00 00 02", ""},
             {"synchronise", "10", "15 06", ""},
             {"bus", "12 08", "06", ""},
             {"bus among others", "12 0F", "06", ""},
@@ -60,8 +60,8 @@ private slots:
             {"read", "13 01 00 00 03 00 00 9F", "06 10 11 12", "9F +3"},
             {"no opcode", "13 00 00 00 02 00 00", "06 FF FF", ""},
             {"neither", "13 00 00 00 00 00 00", "06", ""},
-            {"reads that are too long", "13 01 00 00 01 00 01 9F 00", "15 06", ""},
-            {"a read that is too long, of nothing", "13 00 00 00 01 00 01 00", "15 06", ""},
+            {"reads that are too long", "13 01 00 00 01 00 02 9F 00", "15 06", ""},
+            {"a read that is too long, of nothing", "13 00 00 00 01 00 02 00", "15 06", ""},
             {"parallel bus", "06", "15", ""},
             {"old commands", "09 0A 0C 0D 16 FF 00", "15 15 15 15 15 15 06", ""},
         });
@@ -96,14 +96,14 @@ private slots:
     {
         NOTING_BUS bus;
         GFPE_SERPROG_TALK talk(bus);
-        BYTES sent = bytes_of("13 00 00 01 00 00 01");
-        sent.insert(sent.end(), 0x10000, 0x02);
+        BYTES sent = bytes_of("13 00 00 02 00 00 02");
+        sent.insert(sent.end(), 0x20000, 0x02);
 
         const BYTES answer = answers_to(talk, sent, 4096);
 
-        QCOMPARE(answer.size(), std::size_t(1 + 0x10000));
+        QCOMPARE(answer.size(), std::size_t(1 + 0x20000));
         QCOMPARE(int(answer.front()), 0x06);
-        QCOMPARE(bus.log.front().size(), 3 * 0x10000 - 1 + int(qstrlen(" +65536")));
+        QCOMPARE(bus.log.front().size(), 3 * 0x20000 - 1 + int(qstrlen(" +131072")));
     }
 
     void a_bus_with_shorter_commands_says_so()
