@@ -281,6 +281,21 @@ private slots:
         QVERIFY(report.object().value("directory").toString().contains("odd\uFFFDü"));
     }
 
+    void a_name_of_a_user_need_not_be_utf8()
+    {
+        save_part("Mine");
+        const QString file = exported_file("Mine");
+        replace_in_file(file, "\"total_die\": 1", "\"total_die\": 2");
+        const QByteArray user = qgetenv("USER");
+        qputenv("USER", "m\xFFx");
+        const TOOL_RUN run = tool({"import", "--replace", file});
+        qputenv("USER", user);
+
+        QCOMPARE(run.exit_code, 0);
+        const QString who = run_sql(m_place->db_file(), "SELECT changed_by FROM history").toString();
+        QVERIFY2(who.startsWith("m\uFFFDx@"), qPrintable(who));
+    }
+
     void a_catalogue_that_cannot_be_read_is_an_error()
     {
         const QString pipe = at("pipe");

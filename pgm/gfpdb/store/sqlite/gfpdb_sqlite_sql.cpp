@@ -112,18 +112,18 @@ QString now()
 }
 
 // Services and containers often start programs without USER.
-static QString user_name()
+static QByteArray user_name()
 {
     const QByteArray user = qgetenv("USER");
     if (!user.isEmpty())
-        return QString::fromLocal8Bit(user);
+        return user;
     const passwd* const entry = ::getpwuid(::geteuid());
-    return entry != nullptr ? QString::fromLocal8Bit(entry->pw_name) : QString::number(::geteuid());
+    return entry != nullptr ? QByteArray(entry->pw_name) : QByteArray::number(::geteuid());
 }
 
 QString here()
 {
-    return user_name() + QLatin1Char('@') + QSysInfo::machineHostName();
+    return gfpdb_from_utf8(user_name().toStdString()) + QLatin1Char('@') + QSysInfo::machineHostName();
 }
 
 std::string text_at(const QSqlQuery& query, int column)
