@@ -174,6 +174,11 @@ int run_command(const CLI_PROGRAM& program, const CLI_COMMAND& command, const QS
         output.error(catalogue_problem);
         return CLI_EXIT_BAD_FILE;
     }
+    GFPDB_DATABASE::set_upgrade_progress([&output](int done, int total) {
+        output.progress("Upgrading the database:", done, total);
+        if (done == total)
+            output.finish_progress();
+    });
     GFPDB_DATABASE database(QFile::encodeName(parser.value(QLatin1String(CLI_OPTION_DIR))).toStdString());
     return command.run({parser, database, output});
 }
@@ -215,6 +220,7 @@ int cli_run(const CLI_PROGRAM& program, const QStringList& arguments)
 {
     CLI_OUTPUT output(program.name);
     const int exit_code = dispatch(program, arguments, output);
+    GFPDB_DATABASE::set_upgrade_progress({});
     if (output.flush())
         return exit_code;
     output.error("The output cannot be written.");

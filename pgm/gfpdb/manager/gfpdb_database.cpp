@@ -64,6 +64,11 @@ std::string GFPDB_DATABASE::get_catalogue_problem()
     return gfpdb_catalogue_problem();
 }
 
+void GFPDB_DATABASE::set_upgrade_progress(std::function<void(int, int)> progress)
+{
+    gfpdb_upgrade_progress() = std::move(progress);
+}
+
 const std::string& GFPDB_DATABASE::get_directory() const
 {
     return m_store.get_directory();

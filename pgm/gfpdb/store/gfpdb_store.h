@@ -138,3 +138,7 @@ protected:
 
 // The store of the devices in `directory`, which ends in "/".
 std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory);
+
+// Hears how many records of how many are done while a store upgrades its database, which any call of it may do; none at
+// first. Of all stores of the process.
+std::function<void(int done, int total)>& gfpdb_upgrade_progress();

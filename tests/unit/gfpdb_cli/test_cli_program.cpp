@@ -281,6 +281,19 @@ private slots:
         QVERIFY(report.object().value("directory").toString().contains("odd\uFFFDü"));
     }
 
+    void an_upgrade_shows_how_far_it_is()
+    {
+        write_file(m_place->db_file(), read_file(GFPDB_TEST_DATA "schema_2.sqlite"));
+        const int records = run_sql(m_place->db_file(), "SELECT (SELECT count(*) FROM device) + (SELECT count(*) FROM "
+                                                        "template) + (SELECT count(*) FROM history)")
+                                .toInt();
+        const QByteArray last =
+            "\rUpgrading the database: " + QByteArray::number(records) + " of " + QByteArray::number(records) + "\r\n";
+
+        QVERIFY(run_on_terminal({"list", "-d", at("db")}).contains(last + "NAME "));
+        QVERIFY(!run_on_terminal({"list", "-d", at("db")}).contains("Upgrading"));
+    }
+
     void a_name_of_a_user_need_not_be_utf8()
     {
         save_part("Mine");

@@ -34,6 +34,9 @@ public:
 
     // What keeps the catalogue of built-in devices from being used, as a sentence; empty when nothing does.
     static std::string get_catalogue_problem();
+    // Who hears how many records of how many are done while a database of an older version is upgraded, which its first
+    // use does; an empty function for nobody.
+    static void set_upgrade_progress(std::function<void(int done, int total)> progress);
 
     const std::string& get_directory() const;
     // Checks values and restores states in the directory.

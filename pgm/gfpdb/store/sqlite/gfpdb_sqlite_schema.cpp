@@ -3,6 +3,7 @@
 #include "store/sqlite/gfpdb_sqlite_schema.h"
 
 #include "base/gfpdb_text.h"
+#include "store/gfpdb_store.h"
 #include "store/sqlite/gfpdb_old_flows.h"
 #include "store/sqlite/gfpdb_sqlite_connection.h"
 #include "store/sqlite/gfpdb_sqlite_sql.h"
@@ -258,11 +259,13 @@ bool GFPDB_SQLITE_SCHEMA::run_all(const std::vector<const char*>& statements)
 // What cannot be read stays, byte for byte.
 bool GFPDB_SQLITE_SCHEMA::convert_rows()
 {
+    const std::optional<int> total = count_rows();
+    int done = 0;
     for (const CONVERSION& conversion : CONVERSIONS) {
         QSqlQuery ids;
         QSqlQuery row;
         QSqlQuery update;
-        if (!m_connection.prepare(ids, conversion.ids) || !m_connection.run(ids) ||
+        if (!total || !m_connection.prepare(ids, conversion.ids) || !m_connection.run(ids) ||
             !m_connection.prepare(row, conversion.row) || !m_connection.prepare(update, conversion.update))
             return false;
         QVector<qlonglong> numbers;
@@ -273,9 +276,21 @@ bool GFPDB_SQLITE_SCHEMA::convert_rows()
         for (const qlonglong number : numbers) {
             if (!convert_row(row, update, number, conversion.has_key))
                 return false;
+            if (gfpdb_upgrade_progress())
+                gfpdb_upgrade_progress()(++done, *total);
         }
     }
     return true;
+}
+
+std::optional<int> GFPDB_SQLITE_SCHEMA::count_rows()
+{
+    QSqlQuery query;
+    if (m_connection.prepare(query, "SELECT (SELECT count(*) FROM device) + (SELECT count(*) FROM template) + "
+                                    "(SELECT count(*) FROM history)") &&
+        m_connection.run(query) && query.next())
+        return query.value(0).toInt();
+    return std::nullopt;
 }
 
 bool GFPDB_SQLITE_SCHEMA::convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number, bool has_key)

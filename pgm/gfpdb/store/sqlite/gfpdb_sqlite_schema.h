@@ -50,6 +50,7 @@ private:
     bool run_step(int from);
     bool run_all(const std::vector<const char*>& statements);
     bool convert_rows();
+    std::optional<int> count_rows();
     bool convert_row(QSqlQuery& row, QSqlQuery& update, qlonglong number, bool has_key);
 
     GFPDB_SQLITE_CONNECTION& m_connection;

@@ -78,6 +78,12 @@ std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory)
     return std::make_unique<GFPDB_SQLITE_STORE>(directory);
 }
 
+std::function<void(int, int)>& gfpdb_upgrade_progress()
+{
+    static std::function<void(int, int)> progress;
+    return progress;
+}
+
 bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values)
 {
     return m_file.prepare_read() && (prepare(query, statement, values) || m_file.note_read_problem());
