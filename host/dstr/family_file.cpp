@@ -3,25 +3,21 @@
 
 #include "csv/csv.h"
 #include "dstr/dev_family.h"
+#include "whole_file/whole_file.h"
 
 #include <QFile>
 #include <QLoggingCategory>
 #include <QTextCodec>
 
 #include <algorithm>
-#include <cerrno>
 #include <set>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
 Q_LOGGING_CATEGORY(DSTR_LOG, "host.dstr")
 
 constexpr int LAST_SCHEME = 25;
-constexpr int LARGEST_FILE = 1024 * 1024;
+constexpr std::size_t LARGEST_FILE = std::size_t(1) << 20;
 const std::vector<std::string> HEADING = {"value", "name", "schemes"};
 const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
 
@@ -130,42 +126,25 @@ std::optional<FAMILY_ROW> LINE_READER::read(const QByteArray& line)
     return row;
 }
 
-struct FILE_CONTENT
-{
-    QByteArray content;
-    // Empty when the content is all of the file.
-    QString problem;
-};
-
-FILE_CONTENT read_resource(const QString& file_name)
+// None: `problem` says why.
+std::optional<QByteArray> read_resource(const QString& file_name, QString& problem)
 {
     QFile file(file_name);
-    if (!file.open(QIODevice::ReadOnly))
-        return {QByteArray(), file.errorString()};
-    return {file.readAll(), QString()};
+    if (file.open(QIODevice::ReadOnly))
+        return file.readAll();
+    problem = file.errorString();
+    return std::nullopt;
 }
 
-// What is open is looked at, not what the name led to before; opening waits for nobody.
-FILE_CONTENT read_regular_file(const QString& file_name)
+std::optional<QByteArray> read_regular_file(const QString& file_name, QString& problem)
 {
-    const int descriptor =
-        ::open(QFile::encodeName(file_name).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (descriptor < 0)
-        return {QByteArray(), qt_error_string(errno)};
-    QFile file;
-    struct stat status = {};
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) ||
-        !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        ::close(descriptor);
-        return {QByteArray(), QStringLiteral("it is not a regular file")};
-    }
-    // One byte more than may be there: the file's own word on its size is not asked.
-    const QByteArray content = file.read(LARGEST_FILE + 1);
-    if (file.error() != QFileDevice::NoError)
-        return {QByteArray(), file.errorString()};
-    if (content.size() > LARGEST_FILE)
-        return {QByteArray(), QStringLiteral("it is larger than 1 MiB")};
-    return {content, QString()};
+    std::string why;
+    const std::optional<std::string> content =
+        read_whole_file(QFile::encodeName(file_name).toStdString(), LARGEST_FILE, why);
+    if (content)
+        return QByteArray::fromStdString(*content);
+    problem = QString::fromLocal8Bit(why.c_str());
+    return std::nullopt;
 }
 
 } // namespace
@@ -191,11 +170,13 @@ std::vector<FAMILY_ROW> parse_families(const QByteArray& content, const QString&
 
 FAMILY_FILE read_family_file(const QString& file_name)
 {
-    const FILE_CONTENT file =
-        file_name.startsWith(QLatin1String(":/")) ? read_resource(file_name) : read_regular_file(file_name);
-    if (!file.problem.isEmpty())
-        return {{}, QStringLiteral("%1 cannot be read: %2").arg(file_name, file.problem)};
-    std::vector<FAMILY_ROW> rows = parse_families(file.content, file_name);
+    QString problem;
+    const std::optional<QByteArray> content = file_name.startsWith(QLatin1String(":/"))
+                                                  ? read_resource(file_name, problem)
+                                                  : read_regular_file(file_name, problem);
+    if (!content)
+        return {{}, QStringLiteral("%1 cannot be read: %2").arg(file_name, problem)};
+    std::vector<FAMILY_ROW> rows = parse_families(*content, file_name);
     if (rows.empty())
         return {{}, QStringLiteral("%1 names no device family").arg(file_name)};
     return {std::move(rows), QString()};

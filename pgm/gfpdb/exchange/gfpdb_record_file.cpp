@@ -2,10 +2,10 @@
 #include "exchange/gfpdb_record_csv.h"
 #include "exchange/gfpdb_record_json.h"
 
-#include "base/gfpdb_read_file.h"
 #include "base/gfpdb_text.h"
 
 #include "gfpdb/gfpdb_exchange.h"
+#include "whole_file/whole_file.h"
 
 #include <unistd.h>
 
@@ -20,8 +20,8 @@ constexpr std::size_t LARGEST = std::size_t(1) << 30;
 bool read_text(const std::string& path, std::string& text, std::string& problem)
 {
     std::string reason;
-    std::optional<std::string> bytes = path == STANDARD_INPUT ? gfpdb_read_descriptor(STDIN_FILENO, LARGEST, reason)
-                                                              : gfpdb_read_file(path, LARGEST, reason);
+    std::optional<std::string> bytes = path == STANDARD_INPUT ? read_descriptor(STDIN_FILENO, LARGEST, reason)
+                                                              : read_whole_file(path, LARGEST, reason);
     if (!bytes) {
         problem = "The file cannot be read: " + reason + ".";
         return false;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 
 // Reading whole files: which ones, how much of them, and what is said about the others.
-#include "base/gfpdb_read_file.h"
 #include "gfpdb_test.h"
 #include "test_rows.h"
+
+#include "whole_file/whole_file.h"
 
 #include <array>
 
@@ -86,7 +87,7 @@ private slots:
         write_file(place.path("file"), content);
         std::string problem;
 
-        QVERIFY(gfpdb_read_file(place.path("file"), content.size(), problem) == content);
+        QVERIFY(read_whole_file(place.path("file"), content.size(), problem) == content);
         QCOMPARE(problem, std::string());
     }
 
@@ -116,7 +117,7 @@ private slots:
             path = socket;
         std::string told;
 
-        QVERIFY(!gfpdb_read_file(path, LIMIT, told));
+        QVERIFY(!read_whole_file(path, LIMIT, told));
         QCOMPARE(told, problem.toStdString());
     }
 
@@ -125,9 +126,9 @@ private slots:
         const std::string content(LIMIT, 'x');
         const FULL_PIPE pipe(content);
         std::string problem;
-        QVERIFY(gfpdb_read_descriptor(pipe.reading_end(), LIMIT, problem) == content);
+        QVERIFY(read_descriptor(pipe.reading_end(), LIMIT, problem) == content);
         QCOMPARE(problem, std::string());
-        QVERIFY(!gfpdb_read_descriptor(-1, LIMIT, problem));
+        QVERIFY(!read_descriptor(-1, LIMIT, problem));
         QCOMPARE(problem, std::string("Bad file descriptor"));
     }
 
@@ -144,7 +145,7 @@ private slots:
         }
         ::close(ends[1]);
         std::string problem;
-        QVERIFY(gfpdb_read_descriptor(ends[0], LIMIT, problem) == std::string("late"));
+        QVERIFY(read_descriptor(ends[0], LIMIT, problem) == std::string("late"));
         ::close(ends[0]);
         int status = -1;
         QCOMPARE(::waitpid(writer, &status, 0), writer);
@@ -166,13 +167,13 @@ private slots:
         const auto [limit, problem] = row<qulonglong, QString>();
         write_file(place.path("file"), std::string(limit + 1, 'x'));
         std::string told;
-        QVERIFY(!gfpdb_read_file(place.path("file"), limit, told));
+        QVERIFY(!read_whole_file(place.path("file"), limit, told));
         QCOMPARE(told, problem.toStdString());
 
         // Without an end, and without a size that could be asked.
         const int endless = ::open("/dev/zero", O_RDONLY | O_CLOEXEC);
         told.clear();
-        QVERIFY(!gfpdb_read_descriptor(endless, limit, told));
+        QVERIFY(!read_descriptor(endless, limit, told));
         QCOMPARE(told, problem.toStdString());
         ::close(endless);
     }

@@ -11,8 +11,8 @@
 
 // The bytes of the file `path` (local 8-bit), which must be a regular one of at most `largest` bytes. None: `problem`
 // says why, as what follows "the file cannot be read: ".
-std::optional<std::string> gfpdb_read_file(const std::string& path, std::size_t largest, std::string& problem);
+std::optional<std::string> read_whole_file(const std::string& path, std::size_t largest, std::string& problem);
 
 // What comes out of the open `descriptor`, which may be a pipe, up to its end; then as above. The descriptor stays
 // open.
-std::optional<std::string> gfpdb_read_descriptor(int descriptor, std::size_t largest, std::string& problem);
+std::optional<std::string> read_descriptor(int descriptor, std::size_t largest, std::string& problem);

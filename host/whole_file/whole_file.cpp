@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "base/gfpdb_read_file.h"
+#include "whole_file/whole_file.h"
 
 #include <array>
 #include <cerrno>
@@ -40,7 +40,7 @@ bool wait_for_input(int descriptor)
 
 } // namespace
 
-std::optional<std::string> gfpdb_read_file(const std::string& path, std::size_t largest, std::string& problem)
+std::optional<std::string> read_whole_file(const std::string& path, std::size_t largest, std::string& problem)
 {
     // A pipe is opened at once and never read; a terminal does not become the program's own.
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
@@ -56,12 +56,12 @@ std::optional<std::string> gfpdb_read_file(const std::string& path, std::size_t 
     else if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) > largest)
         problem = too_large(largest);
     else
-        bytes = gfpdb_read_descriptor(descriptor, largest, problem);
+        bytes = read_descriptor(descriptor, largest, problem);
     ::close(descriptor);
     return bytes;
 }
 
-std::optional<std::string> gfpdb_read_descriptor(int descriptor, std::size_t largest, std::string& problem)
+std::optional<std::string> read_descriptor(int descriptor, std::size_t largest, std::string& problem)
 {
     std::string bytes;
     std::array<char, BLOCK> block;
