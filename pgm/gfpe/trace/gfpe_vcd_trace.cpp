@@ -13,12 +13,26 @@ constexpr std::int64_t MICROSECOND = 1000;
 // Before the first command, and the shortest time between two.
 constexpr std::int64_t LEAD = 1000;
 constexpr std::int64_t PAUSE = 100;
+// The units of time that a dump can have, in nanoseconds.
+struct UNIT
+{
+    std::int64_t nanoseconds;
+    const char* name;
+};
+constexpr UNIT UNITS[] = {{1000, "1 us"}, {100, "100 ns"}, {10, "10 ns"}, {1, "1 ns"}};
 constexpr char LOW = '0';
 constexpr char HIGH = '1';
 constexpr char FREE = 'z';
 constexpr int BYTE_BITS = 8;
 // While IO0 to IO3 carry nothing, IO3 and IO2 are high, IO1 is the chip's, and IO0 is low.
 constexpr std::array<char, 4> AT_REST = {LOW, FREE, HIGH, HIGH};
+
+// The largest unit in which all times are whole: programs that open a dump need memory for each.
+const UNIT& unit_for(std::int64_t half_clock)
+{
+    return *std::find_if(std::begin(UNITS), std::end(UNITS),
+                         [half_clock](const UNIT& unit) { return half_clock % unit.nanoseconds == 0; });
+}
 
 char level_of(std::uint64_t bit)
 {
@@ -35,7 +49,9 @@ GFPE_VCD_TRACE::~GFPE_VCD_TRACE() = default;
 
 void GFPE_VCD_TRACE::begin()
 {
-    write("$timescale 1 ns $end\n$scope module spi $end\n");
+    const UNIT& unit = unit_for(m_half_clock);
+    m_unit = unit.nanoseconds;
+    write(std::string("$timescale ") + unit.name + " $end\n$scope module spi $end\n");
     for (int signal = 0; signal < SIGNALS; ++signal)
         write(std::string("$var wire 1 ") + static_cast<char>(FIRST_ID + signal) + ' ' + NAMES[signal] + " $end\n");
     write("$upscope $end\n$enddefinitions $end\n");
@@ -48,7 +64,7 @@ void GFPE_VCD_TRACE::begin()
 void GFPE_VCD_TRACE::end()
 {
     m_now += LEAD;
-    write('#' + std::to_string(m_now) + '\n');
+    write('#' + std::to_string(m_now / m_unit) + '\n');
 }
 
 void GFPE_VCD_TRACE::set(int signal, char level)
@@ -56,7 +72,7 @@ void GFPE_VCD_TRACE::set(int signal, char level)
     if (m_levels[signal] == level)
         return;
     if (m_written != m_now)
-        write('#' + std::to_string(m_now) + '\n');
+        write('#' + std::to_string(m_now / m_unit) + '\n');
     m_written = m_now;
     m_levels[signal] = level;
     const char change[] = {level, static_cast<char>(FIRST_ID + signal), '\n'};

@@ -103,6 +103,8 @@ private:
     void send_dummies(const GFPE_COMMAND& command);
 
     const std::int64_t m_half_clock;
+    // Of the times in the dump, in nanoseconds.
+    std::int64_t m_unit = 1;
     std::int64_t m_first_time = -1;
     // In nanoseconds; and the one that was written last.
     std::int64_t m_now = 0;

@@ -119,15 +119,15 @@ private slots:
         trace(vcd, {twice, {}, {}, 9, 10});
 
         QCOMPARE(text(vcd, "t.vcd"),
-                 QByteArray("$timescale 1 ns $end\n$scope module spi $end\n"
+                 QByteArray("$timescale 10 ns $end\n$scope module spi $end\n"
                             "$var wire 1 ! CS $end\n$var wire 1 \" CLK $end\n$var wire 1 # IO0 $end\n"
                             "$var wire 1 $ IO1 $end\n$var wire 1 % IO2 $end\n$var wire 1 & IO3 $end\n"
                             "$upscope $end\n$enddefinitions $end\n"
                             "#0\n1!\n0\"\n0#\nz$\n1%\n1&\n"
-                            "#1000\n0!\n0$\n#1010\n1\"\n#1020\n0\"\n0%\n0&\n#1030\n1\"\n#1040\n0\"\n"
-                            "#1050\n1!\nz$\n1%\n1&\n"
-                            "#3000\n0!\n0$\n#3010\n1\"\n#3020\n0\"\n0%\n0&\n#3030\n1\"\n#3040\n0\"\n"
-                            "#3050\n1!\nz$\n1%\n1&\n#4150\n"));
+                            "#100\n0!\n0$\n#101\n1\"\n#102\n0\"\n0%\n0&\n#103\n1\"\n#104\n0\"\n"
+                            "#105\n1!\nz$\n1%\n1&\n"
+                            "#300\n0!\n0$\n#301\n1\"\n#302\n0\"\n0%\n0&\n#303\n1\"\n#304\n0\"\n"
+                            "#305\n1!\nz$\n1%\n1&\n#415\n"));
     }
 
     void commands_of_a_fast_run_are_apart()
@@ -162,6 +162,25 @@ private slots:
 
         const QList<VCD_COMMAND> commands = vcd_commands(text(vcd, "t.vcd"));
         QCOMPARE(commands[1].start - commands[0].end, qint64(500));
+    }
+
+    // In a coarse unit a dump needs less memory where it is opened.
+    void a_dump_has_the_largest_unit_that_does_data()
+    {
+        rows<qint64, QByteArray>({{"0.5 MHz", 500'000, "1 us"},
+                                  {"1 MHz", 1'000'000, "100 ns"},
+                                  {"unknown", 0, "10 ns"},
+                                  {"33 MHz", 33'000'000, "1 ns"},
+                                  {"1 GHz", 1'000'000'000, "1 ns"}});
+    }
+
+    void a_dump_has_the_largest_unit_that_does()
+    {
+        const auto [clock, unit] = row<qint64, QByteArray>();
+        GFPE_VCD_TRACE vcd(clock);
+        QVERIFY(vcd.open(path("t.vcd")));
+        trace(vcd, {command(0x06), {}, {}, 0, 1});
+        QVERIFY(text(vcd, "t.vcd").startsWith("$timescale " + unit + " $end\n"));
     }
 
     void the_name_of_the_file_says_what_it_is_data()

@@ -11,6 +11,7 @@
 // One command: from the fall of the select line to its rise.
 struct VCD_COMMAND
 {
+    // In nanoseconds.
     qint64 start = 0;
     qint64 end = 0;
     // One text for each rise of the clock, with the levels of IO3, IO2, IO1 and IO0.
@@ -24,12 +25,15 @@ inline QList<VCD_COMMAND> vcd_commands(const QByteArray& dump)
     QMap<QByteArray, char> levels;
     QList<VCD_COMMAND> commands;
     qint64 time = 0;
+    qint64 unit = 1;
     for (const QByteArray& line : dump.split('\n')) {
         const QList<QByteArray> words = line.split(' ');
+        if (words[0] == "$timescale")
+            unit = words[1].toLongLong() * (words[2] == "us" ? 1000 : 1);
         if (words[0] == "$var")
             names[words[3].at(0)] = words[4];
         if (line.startsWith('#'))
-            time = line.mid(1).toLongLong();
+            time = unit * line.mid(1).toLongLong();
         if (line.size() != 2 || line.startsWith('#'))
             continue;
         const QByteArray name = names.value(line.at(1));
