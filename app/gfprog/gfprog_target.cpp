@@ -7,6 +7,7 @@
 #include "gfpe/gfpe_detect.h"
 
 #include "gfpdb/gfpdb_enums.h"
+#include "gfpdb/gfpdb_exchange.h"
 #include "gfpdb/gfpdb_text.h"
 
 namespace {
@@ -62,7 +63,8 @@ bool choose(const CLI_CALL& call, GFPROG_TARGET& target, int& exit_code)
     if (detected->devices.size() > 1) {
         std::vector<std::string> names;
         for (const GFPDB_RECORD& device : detected->devices)
-            names.push_back(gfpdb_title(device));
+            names.push_back(gfprog_is_builtin(device) ? "built-in " + gfpdb_quoted(device.name())
+                                                      : gfpdb_title(device));
         call.output.error("Several devices have the ID " + gfprog_hex(detected->id) + ": " + gfpdb_joined(names) +
                           ". Choose one with --device.");
     }

@@ -149,7 +149,7 @@ bool SESSION::check()
         return refuse(problems);
     m_outcome.erased = m_plan->get_erased(m_order);
     for (const GFPE_RANGE& beside : ranges_beside(m_outcome.erased, *m_order.range))
-        m_call.output.error("Also erased, as whole sectors are: " + range_text(beside) + '.');
+        m_call.output.error("Also erased, as only whole sectors can be: " + range_text(beside) + '.');
     return true;
 }
 
