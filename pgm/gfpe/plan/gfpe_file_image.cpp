@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -41,11 +42,10 @@ public:
             return fail("is not a regular file", problem);
         if (m_opened.st_size == 0)
             return fail("is empty", problem);
-        const std::int64_t room = device_bytes - m_position;
-        if (m_opened.st_size > room)
-            return fail("has " + std::to_string(m_opened.st_size) + " bytes; the device has " +
-                            std::to_string(room < 0 ? 0 : room) + " from position " + std::to_string(m_position) +
-                            " on",
+        const std::int64_t room = std::max<std::int64_t>(0, device_bytes - m_position);
+        if (m_position < 0 || m_opened.st_size > room)
+            return fail("has " + std::to_string(m_opened.st_size) + " bytes; the device has " + std::to_string(room) +
+                            " from position " + std::to_string(m_position) + " on",
                         problem);
         return true;
     }
@@ -55,18 +55,34 @@ public:
     bool read(std::int64_t position, std::uint8_t* bytes, std::size_t length, std::string& problem) override
     {
         for (std::size_t done = 0; done < length;) {
-            const ssize_t count =
-                ::pread(m_file, bytes + done, length - done, position - m_position + static_cast<std::int64_t>(done));
-            if (count < 0 && errno != EINTR)
-                return fail(std::string("cannot be read: ") + std::strerror(errno), problem);
-            if (count == 0)
-                break; // the file has become shorter
-            done += count < 0 ? 0 : static_cast<std::size_t>(count);
+            const std::int64_t offset = position - m_position + static_cast<std::int64_t>(done);
+            if ((offset < m_held.start || offset >= m_held.end()) && !hold(offset, problem))
+                return false;
+            const std::size_t part = std::min(length - done, static_cast<std::size_t>(m_held.end() - offset));
+            std::memcpy(bytes + done, m_buffer.data() + (offset - m_held.start), part);
+            done += part;
         }
-        return is_unchanged() || fail("was changed while it was used", problem);
+        // Looked at after every read, also of what was held: nobody is given what the file no longer has.
+        return is_unchanged() || fail(CHANGED, problem);
     }
 
 private:
+    static constexpr const char* CHANGED = "was changed while it was used";
+    static constexpr std::size_t BUFFER = 65536;
+
+    // Reads the piece of the file that begins there.
+    bool hold(std::int64_t offset, std::string& problem)
+    {
+        ssize_t count = -1;
+        do
+            count = ::pread(m_file, m_buffer.data(), m_buffer.size(), offset);
+        while (count < 0 && errno == EINTR);
+        if (count <= 0)
+            return fail(count == 0 ? CHANGED : std::string("cannot be read: ") + std::strerror(errno), problem);
+        m_held = {offset, count};
+        return true;
+    }
+
     bool is_unchanged() const
     {
         struct stat now = {};
@@ -84,6 +100,9 @@ private:
     const std::int64_t m_position;
     int m_file = -1;
     struct stat m_opened = {};
+    std::vector<std::uint8_t> m_buffer = std::vector<std::uint8_t>(BUFFER);
+    // Where the file has what is in the buffer.
+    GFPE_RANGE m_held;
 };
 
 } // namespace

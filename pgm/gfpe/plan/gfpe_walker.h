@@ -67,6 +67,7 @@ protected:
     const GFPE_RANGE m_range;
 
 private:
+    bool walk_step(const GFPE_STEP& each, const GFPE_SCOPE& scope);
     bool walk_loop(const GFPE_LOOP& loop, const GFPE_SCOPE& scope);
     bool walk_sectors(const GFPE_LOOP& loop, const GFPE_SCOPE& scope);
     bool walk_dies(const GFPE_LOOP& loop);

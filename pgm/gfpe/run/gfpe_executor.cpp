@@ -156,10 +156,11 @@ bool GFPE_EXECUTOR::visit(const GFPE_WRITE_REGISTER& step, const GFPE_SCOPE& sco
 {
     if (is_cancelled())
         return false;
+    if (step.command.out_length == 0)
+        return send(step, step.command) && wait(step);
     GFPE_COMMAND command = step.command;
     const auto die = static_cast<std::uint8_t>(scope.die);
-    if (command.out_length > 0)
-        command.out = step.is_of_die ? &die : step.data.data();
+    command.out = step.is_of_die ? &die : step.data.data();
     return send(step, command) && wait(step);
 }
 
@@ -193,8 +194,8 @@ bool GFPE_EXECUTOR::visit(const GFPE_WRITE_DATA& step, const GFPE_SCOPE& scope, 
     command.address = address_of(step.address, where.start, scope);
     if (!is_blank && !(send(step, command) && wait(step)))
         return false;
-    m_meter.add(GFPDB_ACT_WRITE_DATA, step.is_of_image() ? where.common_with(m_image.get_range()).length
-                                                         : static_cast<std::int64_t>(step.data.size()));
+    const auto sent = static_cast<std::int64_t>(step.data.size());
+    m_meter.add(GFPDB_ACT_WRITE_DATA, step.is_of_image() ? where.common_with(m_image.get_range()).length : sent);
     return true;
 }
 

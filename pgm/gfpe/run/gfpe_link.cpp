@@ -13,7 +13,7 @@ constexpr const char* STOPPED = "The run was stopped; the state of the chip is n
 class ANSWER : public GFPE_READER
 {
 public:
-    ANSWER(std::int64_t wanted, GFPE_READER* reader, GFPE_TRACE* trace, const std::atomic<bool>& stopped)
+    ANSWER(std::int64_t wanted, GFPE_READER& reader, GFPE_TRACE* trace, const std::atomic<bool>& stopped)
         : m_wanted(wanted), m_reader(reader), m_trace(trace), m_stopped(stopped)
     {}
 
@@ -24,7 +24,7 @@ public:
         m_taken += static_cast<std::int64_t>(used);
         if (m_trace && used > 0)
             m_trace->received(bytes, used);
-        m_is_enough = m_stopped || m_is_enough || (used > 0 && !m_reader->take(bytes, used));
+        m_is_enough = m_stopped || m_is_enough || (used > 0 && !m_reader.take(bytes, used));
         return !m_is_enough;
     }
 
@@ -33,7 +33,7 @@ public:
 
 private:
     const std::int64_t m_wanted;
-    GFPE_READER* const m_reader;
+    GFPE_READER& m_reader;
     GFPE_TRACE* const m_trace;
     const std::atomic<bool>& m_stopped;
     std::int64_t m_taken = 0;
@@ -49,13 +49,23 @@ bool GFPE_LINK::send(const GFPE_ACTION& step, const GFPE_COMMAND& command, GFPE_
     ++m_commands;
     if (m_trace)
         m_trace->command_started({m_phase, step.number, &step.name}, command, m_bus.get_time());
-    ANSWER answer(command.in_length, reader, m_trace, m_stopped);
-    const bool is_sent = m_bus.transfer(command, reader ? &answer : nullptr);
+    const bool is_done = reader ? ask(command, *reader) : tell(command);
     if (m_trace)
         m_trace->command_ended(m_bus.get_time());
-    if (!is_sent)
+    return is_done;
+}
+
+bool GFPE_LINK::tell(const GFPE_COMMAND& command)
+{
+    return m_bus.transfer(command, nullptr) || lose(m_bus.get_last_error());
+}
+
+bool GFPE_LINK::ask(const GFPE_COMMAND& command, GFPE_READER& reader)
+{
+    ANSWER answer(command.in_length, reader, m_trace, m_stopped);
+    if (!m_bus.transfer(command, &answer))
         return lose(m_bus.get_last_error());
-    if (m_stopped && reader)
+    if (m_stopped)
         return lose(STOPPED);
     if (!answer.is_complete())
         return lose("The connection gave " + std::to_string(answer.taken()) + " bytes instead of " +

@@ -39,6 +39,8 @@ public:
     const std::string& get_problem() const { return m_problem; }
 
 private:
+    bool tell(const GFPE_COMMAND& command);
+    bool ask(const GFPE_COMMAND& command, GFPE_READER& reader);
     bool lose(const std::string& problem);
 
     GFPE_BUS& m_bus;
