@@ -12,11 +12,12 @@
 #include <string>
 #include <vector>
 
-// How far a run is. Bytes are those that an operation erases, programs or reads; steps are its commands.
+// How far a run is.
 struct GFPE_PROGRESS
 {
     GFPE_PHASE phase = GFPE_PHASE::INITIALIZATION;
-    // Of this phase, and of the whole run.
+    // Bytes of this phase, and of the whole run: those of its Erase, Write Data and Read Data actions in the operations
+    // of the same name. Of pages, those that the image has; Initialization and Termination have none.
     std::int64_t done = 0;
     std::int64_t total = 0;
     std::int64_t all_done = 0;
@@ -32,7 +33,8 @@ class GFPE_EXPORT GFPE_LISTENER
 public:
     virtual ~GFPE_LISTENER();
     virtual void phase_started(GFPE_PHASE) {}
-    // After every command that brings the run forward.
+    // At the start and the end of a phase, after every command that brings the run forward, and while data are read.
+    // Often: the listener takes no longer than a command.
     virtual void progressed(const GFPE_PROGRESS&) {}
     // Bytes that an examine read, in chunks. False: they cannot be kept, and the run fails with get_problem().
     virtual bool examined(std::int64_t position, const std::uint8_t* bytes, std::size_t length);
@@ -47,21 +49,22 @@ protected:
 enum class GFPE_VERDICT
 {
     PASSED,
-    FAILED,    // an action failed, or the image could not be read
-    CANCELLED, // by the user, with Termination
+    FAILED,    // an action failed, or the image could not be read, or what was read not be kept
+    CANCELLED, // by the user, with Termination unless the chip is unknown
     LOST,      // the connection was lost, or the user stopped at once: the state of the chip is unknown
     REFUSED,   // nothing was sent
 };
 
-// The action that failed first.
+// What failed first; after a cancellation, what failed in Termination.
 struct GFPE_FAILURE
 {
     GFPE_PHASE phase = GFPE_PHASE::INITIALIZATION;
-    // The number of the action in its operation, from 1, and its name; 0 and empty when no action failed.
+    // The number of the action in its operation, from 1, and its name; 0 and empty when it was the image or the
+    // listener.
     int action = 0;
     std::string action_name;
-    // What was expected and what came, as many bytes each; the mask is as long, and empty for FF. Empty when nothing
-    // was compared.
+    // What was expected and what came, as many bytes each: of a Read Data up to 16 from the first wrong one on. The
+    // mask is as long, and empty for FF. Empty when nothing was compared.
     std::vector<std::uint8_t> expected;
     std::vector<std::uint8_t> mask;
     std::vector<std::uint8_t> received;
@@ -103,7 +106,8 @@ public:
     // Ends the run before its next action that is not a Read Register, or within a Read Data, and then with
     // Termination.
     void cancel() { m_cancelled = true; }
-    // Ends the run before its next command, or within a wait, without Termination: the state of the chip is unknown.
+    // Ends the run before its next command, within a read or within 50 ms of a wait, without Termination: the state of
+    // the chip is unknown.
     void stop() { m_stopped = true; }
 
 private:
