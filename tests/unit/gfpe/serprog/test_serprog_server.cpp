@@ -200,6 +200,22 @@ private slots:
         QCOMPARE(answer_of(*connected(server.port()), 0x05, 1), QByteArray("10"));
     }
 
+    // Which is 127.0.0.2 as well, for who listens on every address.
+    void the_port_is_on_this_machine_alone_data() { rows<bool>({{"alone", false}, {"every address", true}}); }
+    void the_port_is_on_this_machine_alone()
+    {
+        const auto on_every_address = row<bool>();
+        NOTING_BUS bus;
+        GFPE_SERPROG_SERVER server(bus);
+        std::string problem;
+        QVERIFY2(server.listen(on_every_address, 0, problem), problem.c_str());
+        QTcpSocket client;
+
+        client.connectToHost(QStringLiteral("127.0.0.2"), static_cast<quint16>(server.get_port()));
+
+        QCOMPARE(client.waitForConnected(), on_every_address);
+    }
+
     void a_port_in_use_is_named()
     {
         NOTING_BUS bus;
