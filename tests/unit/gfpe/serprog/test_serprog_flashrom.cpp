@@ -119,6 +119,8 @@ private slots:
             QVERIFY2(!erased.startsWith("failed"), erased.constData());
         }
         QVERIFY(contents_of(*chip) == QByteArray(image.size(), '\xFF'));
+        const std::vector<std::string> notes = chip->get_notes();
+        QVERIFY2(notes.empty(), notes.empty() ? "" : notes.front().c_str());
     }
 };
 
