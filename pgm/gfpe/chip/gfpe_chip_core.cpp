@@ -108,12 +108,15 @@ void GFPE_CHIP_CORE::transfer(const GFPE_COMMAND& command, GFPE_READER* reader)
     const bool was_busy = is_busy();
     m_now += clocks_before_answer(command) * CLOCK_NS;
     const GFPE_CHIP_COMMAND& spec = m_facts.command(command.opcode);
+    m_has_answered = false;
     if (is_heard(command, spec, was_busy)) {
         REQUEST request{command, spec, reader};
-        dispatch(request);
-    } else {
-        answer_nothing(command, reader);
+        if (decode(request))
+            dispatch(request);
     }
+    // What the chip does not drive reads high.
+    if (!m_has_answered)
+        answer_nothing(command, reader);
     m_reset_enabled = spec.job == JOB::RESET_ENABLE;
     if (loses_power())
         m_has_power = false;
@@ -153,10 +156,6 @@ bool GFPE_CHIP_CORE::is_heard(const GFPE_COMMAND& command, const GFPE_CHIP_COMMA
 
 void GFPE_CHIP_CORE::dispatch(REQUEST& request)
 {
-    if (!decode(request)) {
-        answer_nothing(request.command, request.reader);
-        return;
-    }
     switch (request.spec.job) {
     case JOB::READ:
         return answer_memory(request);

@@ -90,6 +90,7 @@ private:
     bool has_lines(const REQUEST& request);
     bool decode_misfit(REQUEST& request, int address_bytes);
     void check_dummies(const REQUEST& request);
+    std::string mode_of(const GFPE_CHIP_COMMAND& spec) const;
     int address_bytes_of(const GFPE_CHIP_COMMAND& spec) const;
     // Answers
     void answer(const REQUEST& request, const SOURCE& source);
@@ -133,6 +134,7 @@ private:
     bool m_reset_enabled = false;
     bool m_is_down = false;
     bool m_has_power = true;
+    bool m_has_answered = false;
     // The die that is no longer write enabled once it is ready again; none is below 0.
     int m_finishing_die = -1;
     // Nanoseconds.

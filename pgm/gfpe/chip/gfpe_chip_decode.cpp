@@ -40,6 +40,14 @@ int GFPE_CHIP_CORE::address_bytes_of(const GFPE_CHIP_COMMAND& spec) const
     return 0;
 }
 
+// Why a command has so many address bytes.
+std::string GFPE_CHIP_CORE::mode_of(const GFPE_CHIP_COMMAND& spec) const
+{
+    if (spec.address != GFPE_CHIP_ADDRESS::BY_MODE || m_facts.address_bytes != 4)
+        return {};
+    return die().four_byte ? ", as the chip is in 4-byte mode" : ", as the chip is in 3-byte mode";
+}
+
 bool GFPE_CHIP_CORE::has_lines(const REQUEST& request)
 {
     const GFPE_COMMAND& command = request.command;
@@ -95,7 +103,8 @@ bool GFPE_CHIP_CORE::decode_misfit(REQUEST& request, int address_bytes)
 
     const bool is_raw = command.address_bytes == 0 && command.dummy_clocks == 0;
     if (!is_raw && command.address_bytes != address_bytes)
-        note(request, count_of(command.address_bytes, "address byte") + " instead of " + std::to_string(address_bytes));
+        note(request, count_of(command.address_bytes, "address byte") + " instead of " + std::to_string(address_bytes) +
+                          mode_of(spec));
     if (!is_raw && command.dummy_clocks != needed)
         note(request, count_of(command.dummy_clocks, "dummy clock") + " instead of " + std::to_string(needed));
 
@@ -112,7 +121,8 @@ bool GFPE_CHIP_CORE::decode_misfit(REQUEST& request, int address_bytes)
                               static_cast<std::int64_t>(command.out_length) * BITS / spec.data_lines;
     const std::int64_t clocks = address_bytes * BITS / spec.address_lines + needed;
     request.skipped_bits = answers ? (came - clocks) * spec.data_lines : 0;
-    if (is_raw && request.skipped_bits)
+    // A host that sends plain bytes may read while the dummy clocks go by.
+    if (is_raw && (request.skipped_bits > 0 || m_stream.size() < wanted))
         note(request, count_of(came, "clock") + " between opcode and answer instead of " + std::to_string(clocks));
     if (m_stream.size() < wanted)
         m_stream.resize(wanted, NOTHING);
@@ -137,6 +147,7 @@ void GFPE_CHIP_CORE::check_dummies(const REQUEST& request)
 
 bool GFPE_CHIP_CORE::hand_over(GFPE_READER* reader, const std::uint8_t* bytes, std::int64_t length, int lines)
 {
+    m_has_answered = true;
     m_now += length * BITS / lines * CLOCK_NS;
     return reader && reader->take(bytes, static_cast<std::size_t>(length));
 }

@@ -169,8 +169,8 @@ void add_issi(GFPE_CHIP_FACTS& facts)
     facts.protection = GFPE_CHIP_PROTECTION::FOUR_BITS;
     add_data(facts, {0x32, 0x38, 0x3B, 0x6B, 0xEB});
     add(facts, JOB::ENTER_QPI, {0x35});
-    add_bank_register(facts);
     if (facts.address_bytes == 4) {
+        add_bank_register(facts);
         add(facts, JOB::ENTER_4_BYTE, {0xB7});
         add_data(facts, {0x0C, 0x12, 0x13, 0x34, 0x6C, 0xEC});
     }
@@ -221,8 +221,17 @@ void add_micron(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
     }
 }
 
+// Parts whose row has an erase command that always takes four address bytes have such reads and programs, too.
+void add_four_byte_data(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
+{
+    const bool has_erase = std::any_of(part.sector_erase.begin(), part.sector_erase.end(),
+                                       [](const GFPDB_ERASE_COMMAND& erase) { return erase.opcode == 0xDC; });
+    if (facts.address_bytes == 4 && has_erase)
+        add_data(facts, {0x0C, 0x12, 0x13, 0x34, 0x6C, 0xEC});
+}
+
 // The second status register with the quad-enable bit, read by 35.
-void add_common(GFPE_CHIP_FACTS& facts)
+void add_common(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 {
     facts.quad_enable = GFPDB_QUAD_ENABLE::SR2_BIT1;
     facts.protection = facts.address_bytes == 4 ? GFPE_CHIP_PROTECTION::FOUR_BITS_TB : GFPE_CHIP_PROTECTION::THREE_BITS;
@@ -233,6 +242,7 @@ void add_common(GFPE_CHIP_FACTS& facts)
     add_register_write(facts, 0x01, REG::STATUS_1, REG::STATUS_2, true);
     add(facts, JOB::VOLATILE_WRITE_ENABLE, {0x50});
     add_mode_commands(facts);
+    add_four_byte_data(facts, part);
     add_signatures(facts);
 }
 
@@ -244,17 +254,15 @@ void add_third_status(GFPE_CHIP_FACTS& facts)
 
 void add_winbond(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 {
-    add_common(facts);
+    add_common(facts, part);
     add_extended_address(facts);
-    show_mode_in(facts, 0x15, REG::STATUS_3, 0x01);
     if (part.name != "W25Q80DV") {
+        show_mode_in(facts, 0x15, REG::STATUS_3, 0x01);
         add_register_write(facts, 0x31, REG::STATUS_2);
         add_third_status(facts);
         add_reset(facts);
     }
     facts.leaving_sets_extended_address = part.name == "W25Q256FV";
-    if (facts.address_bytes == 4 && part.name != "W25Q256FV" && part.name != "W25M512JV")
-        add_data(facts, {0x0C, 0x12, 0x13, 0x34, 0x6C, 0xEC});
     if (is_any(part.name, {"W25Q01", "W25Q02"})) {
         add(facts, JOB::SELECT_DIE, {0xC2});
         facts.status_dies = begins(part.name, "W25Q01") ? 2 : 4;
@@ -263,7 +271,7 @@ void add_winbond(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 
 void add_gigadevice(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 {
-    add_common(facts);
+    add_common(facts, part);
     add_extended_address(facts);
     add_third_status(facts);
     add_reset(facts);
@@ -279,7 +287,7 @@ void add_gigadevice(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 
 void add_xmc(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 {
-    add_common(facts);
+    add_common(facts, part);
     add_register_write(facts, 0x31, REG::STATUS_2);
     add_third_status(facts);
     add_reset(facts);
@@ -337,9 +345,9 @@ void add_infineon(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
     }
 }
 
-void add_sst(GFPE_CHIP_FACTS& facts)
+void add_sst(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
 {
-    add_common(facts);
+    add_common(facts, part);
     facts.protection = GFPE_CHIP_PROTECTION::NONE;
     facts.has_block_locks = facts.mirrors_busy = true;
     add(facts, JOB::UNLOCK_BLOCKS, {0x98});
@@ -376,9 +384,9 @@ void add_maker(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
     } else if (part.manufacturer == "XMC") {
         add_xmc(facts, part);
     } else if (begins(part.name, "SST26")) {
-        add_sst(facts);
+        add_sst(facts, part);
     } else {
-        add_common(facts);
+        add_common(facts, part);
         add_register_write(facts, 0x31, REG::STATUS_2);
     }
 }

@@ -7,6 +7,8 @@
 
 #include "gfpdb/gfpdb_catalogue.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
@@ -35,6 +37,14 @@ public:
     BYTES received;
 };
 
+inline std::string hex(const BYTES& bytes)
+{
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), static_cast<int>(bytes.size()))
+        .toHex()
+        .toUpper()
+        .toStdString();
+}
+
 // The chip of a part, and what a host does with it. All on one line unless a test says otherwise.
 struct CHIP_HOST
 {
@@ -44,6 +54,11 @@ struct CHIP_HOST
         chip = GFPE_CHIP::make(part, problem);
         if (!chip)
             throw std::runtime_error(problem);
+    }
+    explicit CHIP_HOST(std::unique_ptr<GFPE_CHIP> made) : chip(std::move(made))
+    {
+        if (!chip)
+            throw std::runtime_error("no chip");
     }
     explicit CHIP_HOST(const std::string& name) : CHIP_HOST(part_called(name)) {}
 
@@ -71,7 +86,22 @@ struct CHIP_HOST
         raw(opcode, out);
         wait_until_ready();
     }
-    int status() { return raw(0x05, {}, 1).front(); }
+    // Commands as a logic analyser shows them, with ";" between two: the opcode and the bytes behind it in hexadecimal
+    // ("02 000100 12*256": 256 times 12), "?" and the number of bytes to read, "ready" for a wait until the chip is
+    // ready, "off" for the power off and on. Gives the bytes that were read, blanks between those of two commands.
+    std::string play(const std::string& script)
+    {
+        std::string answers;
+        for (const QString& step : QString::fromStdString(script).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+            if (step.trimmed() == QLatin1String("ready"))
+                wait_until_ready();
+            else if (step.trimmed() == QLatin1String("off"))
+                chip->cycle_power();
+            else
+                play_command(step.simplified(), answers);
+        }
+        return answers;
+    }
     BYTES memory(std::int64_t position, std::size_t length) const
     {
         BYTES bytes(length);
@@ -88,4 +118,23 @@ struct CHIP_HOST
     }
 
     std::unique_ptr<GFPE_CHIP> chip;
+
+private:
+    void play_command(const QString& step, std::string& answers)
+    {
+        BYTES bytes;
+        std::int64_t asked = 0;
+        for (const QString& word : step.split(QLatin1Char(' '))) {
+            const QStringList times = word.split(QLatin1Char('*'));
+            if (word.startsWith(QLatin1Char('?')))
+                asked = word.mid(1).toInt();
+            for (int count = times.size() > 1 ? times[1].toInt() : 1; count > 0 && asked == 0; --count) {
+                const QByteArray more = QByteArray::fromHex(times[0].toLatin1());
+                bytes.insert(bytes.end(), more.begin(), more.end());
+            }
+        }
+        const BYTES answer = raw(bytes.at(0), BYTES(bytes.begin() + 1, bytes.end()), asked);
+        if (asked)
+            answers += (answers.empty() ? "" : " ") + hex(answer);
+    }
 };

@@ -6,6 +6,32 @@
 
 #include <QTest>
 
+// A command to address 0.
+struct PHASES
+{
+    int opcode = 0;
+    int address_lines = 1;
+    int data_lines = 1;
+    int address_bytes = 0;
+    int dummy_clocks = 0;
+    int driven = 0;
+    int opcode_lines = 1;
+
+    GFPE_COMMAND command() const
+    {
+        GFPE_COMMAND made;
+        made.opcode = static_cast<std::uint8_t>(opcode);
+        made.opcode_lines = opcode_lines;
+        made.address_lines = address_lines;
+        made.data_lines = data_lines;
+        made.address_bytes = address_bytes;
+        made.dummy_clocks = dummy_clocks;
+        made.driven_dummy_clocks = driven;
+        return made;
+    }
+};
+Q_DECLARE_METATYPE(PHASES)
+
 class TEST_CHIP_COMMANDS : public QObject
 {
     Q_OBJECT
@@ -70,6 +96,158 @@ private slots:
         command.in_length = 3;
 
         QCOMPARE(host.send(command), BYTES(answer.begin(), answer.end()));
+        QCOMPARE(QString::fromStdString(host.notes()), note);
+    }
+
+    void a_command_on_several_lines_data()
+    {
+        rows<QString, PHASES, QString, QString>({
+            {"quad data", "W25Q128JV-Q", {0x6B, 1, 4, 3, 8, 7}, "1234", ""},
+            {"quad address", "W25Q128JV-Q", {0xEB, 4, 4, 3, 6, 5}, "1234", ""},
+            {"two lines", "W25Q128JV-Q", {0x3B, 1, 2, 3, 8, 7}, "1234", ""},
+            {"address on too few",
+             "W25Q128JV-Q",
+             {0xEB, 1, 4, 3, 6, 5},
+             "FFFF",
+             "EB: the address came on one line, but the chip takes it on 4 lines: ignored"},
+            {"address on too many",
+             "W25Q128JV-Q",
+             {0x6B, 4, 4, 3, 8, 7},
+             "FFFF",
+             "6B: the address came on 4 lines, but the chip takes it on one line: ignored"},
+            {"data on too few",
+             "W25Q128JV-Q",
+             {0x6B, 1, 1, 3, 8, 7},
+             "FFFF",
+             "6B: the data are on one line, but the chip has them on 4 lines: ignored"},
+            {"a clock too many shifts by four bits",
+             "W25Q128JV-Q",
+             {0x6B, 1, 4, 3, 9, 8},
+             "2345",
+             "6B: 9 dummy clocks instead of 8"},
+            {"a clock missing", "W25Q128JV-Q", {0xEB, 4, 4, 3, 5, 4}, "F123", "EB: 5 dummy clocks instead of 6"},
+            {"a fourth address byte",
+             "W25Q256JV-Q",
+             {0xEB, 4, 4, 4, 6, 5},
+             "3456",
+             "EB: 4 address bytes instead of 3, as the chip is in 3-byte mode"},
+            {"mode clocks that float",
+             "W25Q128JV-Q",
+             {0xEB, 4, 4, 3, 6, 1},
+             "1234",
+             "EB: the mode clocks are not driven high, which the chip could take for continuous reading"},
+            {"as many mode clocks as Micron has", "MT25QL128ABA", {0xEB, 4, 4, 3, 10, 1}, "1234", ""},
+            {"one more than it has",
+             "MT25QL128ABA",
+             {0xEB, 4, 4, 3, 10, 0},
+             "1234",
+             "EB: the mode clocks are not driven high, which the chip could take for continuous reading"},
+            {"the host does not let go",
+             "W25Q128JV-Q",
+             {0xEB, 4, 4, 3, 6, 6},
+             "1234",
+             "EB: host and chip drive a line at the same time"},
+            {"on one line it need not", "W25Q128JV-Q", {0x0B, 1, 1, 3, 8, 8}, "1234", ""},
+            {"eight mode clocks on one line", "S25HL512T", {0x0C, 1, 1, 4, 16, 16}, "1234", ""},
+            {"of which seven are driven",
+             "S25HL512T",
+             {0x0C, 1, 1, 4, 16, 7},
+             "1234",
+             "0C: the mode clocks are not driven high, which the chip could take for continuous reading"},
+            {"ten clocks", "S25FL128L", {0xEB, 4, 4, 3, 10, 9}, "1234", ""},
+            {"an opcode on four lines",
+             "W25Q128JV-Q",
+             {0xEB, 4, 4, 3, 6, 5, 4},
+             "FFFF",
+             "EB: sent on 4 lines, but the chip takes commands on one: ignored"},
+            {"not a number of lines",
+             "W25Q128JV-Q",
+             {0xEB, 3, 4, 3, 6, 5},
+             "FFFF",
+             "EB: not a command: wrong numbers of lines, bytes or clocks"},
+            {"not a number of address bytes",
+             "W25Q128JV-Q",
+             {0xEB, 4, 4, 5, 6, 5},
+             "FFFF",
+             "EB: not a command: wrong numbers of lines, bytes or clocks"},
+        });
+    }
+    void a_command_on_several_lines()
+    {
+        const auto [part, phases, answer, note] = row<QString, PHASES, QString, QString>();
+        CHIP_HOST host(part.toStdString());
+        host.play("06; 01 0002; ready; 06; 31 02; ready");
+        host.chip->clear_notes();
+        const BYTES old = {0x12, 0x34, 0x56};
+        host.chip->write_memory(0, old.data(), old.size());
+        GFPE_COMMAND command = phases.command();
+        command.in_length = 2;
+
+        QCOMPARE(QString::fromStdString(hex(host.send(command))), answer);
+        QCOMPARE(QString::fromStdString(host.notes()), note);
+    }
+
+    void a_program_on_several_lines_data()
+    {
+        rows<QString, QString, PHASES, QString, QString>({
+            {"quad data", "W25Q128JV-Q", "06; 31 02", {0x32, 1, 4, 3, 0, 0}, "12", ""},
+            {"quad address", "MX25L12833F", "06; 01 40", {0x38, 4, 4, 3, 0, 0}, "12", ""},
+            {"of SST26", "SST26VF032B", "06; 98; ready; 06; 01 0002", {0x32, 4, 4, 3, 0, 0}, "12", ""},
+            {"without quad enable",
+             "W25Q128JV-Q",
+             "",
+             {0x32, 1, 4, 3, 0, 0},
+             "FF",
+             "32: four lines, but quad enable is not set: ignored"},
+            {"without it on Macronix",
+             "MX25L12833F",
+             "",
+             {0x38, 4, 4, 3, 0, 0},
+             "FF",
+             "38: four lines, but quad enable is not set: ignored"},
+            {"Micron needs none", "MT25QL128ABA", "", {0x32, 1, 4, 3, 0, 0}, "12", ""},
+            {"four address bytes always", "W25Q256JV-Q", "06; 31 02", {0x34, 1, 4, 4, 0, 0}, "12", ""},
+            {"a fourth address byte",
+             "W25Q256JV-Q",
+             "06; 31 02",
+             {0x32, 1, 4, 4, 0, 0},
+             "FF",
+             "32: 4 address bytes instead of 3, as the chip is in 3-byte mode; "
+             "32: data on other lines than the address, in the wrong place: ignored"},
+            {"a fourth one is data on one line",
+             "W25Q256JV-Q",
+             "",
+             {0x02, 1, 1, 4, 0, 0},
+             "00",
+             "02: 4 address bytes instead of 3, as the chip is in 3-byte mode"},
+            {"a missing one is taken from the data",
+             "W25Q256JV-Q",
+             "B7",
+             {0x02, 1, 1, 3, 0, 0},
+             "FF",
+             "02: 3 address bytes instead of 4, as the chip is in 4-byte mode; "
+             "02: a program command without data: ignored"},
+            {"dummy clocks are data",
+             "W25Q128JV-Q",
+             "",
+             {0x02, 1, 1, 3, 8, 8},
+             "FF",
+             "02: 8 dummy clocks instead of 0"},
+        });
+    }
+    void a_program_on_several_lines()
+    {
+        const auto [part, before, phases, wanted, note] = row<QString, QString, PHASES, QString, QString>();
+        CHIP_HOST host(part.toStdString());
+        host.play(before.toStdString() + "; ready; 06");
+        GFPE_COMMAND command = phases.command();
+        const BYTES data = {0x12};
+        command.out = data.data();
+        command.out_length = data.size();
+
+        host.send(command);
+
+        QCOMPARE(QString::fromStdString(hex(host.memory(0, 1))), wanted);
         QCOMPARE(QString::fromStdString(host.notes()), note);
     }
 };
