@@ -355,9 +355,11 @@ private slots:
     void a_record_is_a_chip_as_its_maker_has_them_data()
     {
         rows<QString, QString, QString, QString>({
-            {"Macronix", "0xC2 0x20 0x17", "64Mb", "9F ?3; 06; 01 40; ready; 05 ?1; 35", "C22017 40"},
-            {"Winbond", "EF 40 17", "64Mb", "9F ?3; 06; 01 0002; ready; 35 ?1", "EF4017 02"},
-            {"Micron", "20 BA 19", "256Mb", "9F ?3; 70 ?1; 06; B7; 70 ?1", "20BA19 80 81"},
+            {"Macronix", "0xC2 0x29 0x17", "64Mb", "9F ?3; 06; 01 40; ready; 05 ?1; 35", "C22917 40"},
+            {"Winbond", "EF 41 17", "64Mb", "9F ?3; 06; 01 0002; ready; 35 ?1", "EF4117 02"},
+            {"Micron", "20 BA 20", "256Mb", "9F ?3; 70 ?1; 06; B7; 70 ?1", "20BA20 80 81"},
+            {"XMC shares its first byte", "20 40 55", "64Mb", "9F ?3; 31; 11", "204055"},
+            {"four address bytes", "77 66 55", "256Mb", "06; 21 00000000; ready; 06; DC 00000000; 5C", ""},
             {"nobody knows", "77 66 55", "64Mb", "9F ?3; 06; 20 000000; ready; 06; 52 000000; ready; 06; D8 000000",
              "776655"},
         });
@@ -370,6 +372,36 @@ private slots:
 
         QCOMPARE(QString::fromStdString(host.play(script.toStdString())), answers);
         QVERIFY2(host.notes().find("unknown") == std::string::npos, host.notes().c_str());
+    }
+
+    void an_unknown_maker_is_as_the_template_has_it_data()
+    {
+        rows<QString, QString, QString>({
+            {"SR1", "QE in SR1 bit 6, 3-byte address", "06; 01 40; ready; 05 ?1; 15 ?1; 35", "40 00"},
+            {"SR2", "QE in SR2 bit 1, 3-byte address", "06; 01 0002; ready; 35 ?1", "02"},
+            {"none", "No QE bit", "70 ?1; 50", "80"},
+            {"another template", "Mine", "06; 01 0002; ready; 35 ?1", "02"},
+        });
+    }
+    void an_unknown_maker_is_as_the_template_has_it()
+    {
+        const auto [flow_template, script, answers] = row<QString, QString, QString>();
+        GFPDB_RECORD mine = record(MINE, QStringLiteral("77 66 55"), QStringLiteral("64Mb"));
+        mine.row.flow_template = flow_template.toStdString();
+        std::string problem;
+        CHIP_HOST host(GFPE_CHIP::make(mine, problem));
+
+        QCOMPARE(QString::fromStdString(host.play(script.toStdString())), answers);
+        QVERIFY2(host.notes().find("unknown") == std::string::npos, host.notes().c_str());
+    }
+
+    // Its sectors, its locks, its SFDP.
+    void a_record_with_the_id_of_a_part_is_like_it()
+    {
+        std::string problem;
+        CHIP_HOST host(GFPE_CHIP::make(record(MINE, QStringLiteral("BF 26 42"), QStringLiteral("32Mb")), problem));
+
+        QCOMPARE(host.play("72 ?1; 5A 000012 00 ?2"), "55 " + CHIP_HOST("SST26VF032B").play("5A 000012 00 ?2"));
     }
 
     void the_clocks_of_a_record_count()
@@ -407,7 +439,7 @@ private slots:
 
     void dies_that_do_not_divide_the_chip_are_refused()
     {
-        GFPDB_RECORD mine = record(MINE, QStringLiteral("EF 40 17"), QStringLiteral("64Mb"));
+        GFPDB_RECORD mine = record(MINE, QStringLiteral("EF 41 17"), QStringLiteral("64Mb"));
         mine.row.total_die = 3;
         std::string problem;
 
