@@ -11,6 +11,11 @@
 
 #include "gfpdb/gfpdb_text.h"
 
+#include <QFile>
+#include <QFileInfo>
+
+#include <iterator>
+
 namespace {
 
 constexpr const char* STANDARD_OUTPUT = "-";
@@ -51,6 +56,7 @@ public:
 
     bool read_options();
     bool make_plan();
+    bool keeps_files_apart();
     bool choose_range();
     bool check();
     bool open_files();
@@ -63,6 +69,7 @@ private:
     bool refuse(std::vector<GFPE_PROBLEM> problems);
     void run_order();
     bool finish_files();
+    void take_notes();
     int report();
     int exit_code_of_result() const;
     bool prints_trace() const { return m_job.trace_file == STANDARD_OUTPUT; }
@@ -161,6 +168,21 @@ bool SESSION::refuse(std::vector<GFPE_PROBLEM> problems)
     return false;
 }
 
+// A file that is read must not be lost to what is written.
+bool SESSION::keeps_files_apart()
+{
+    const auto is_one = [](const std::string& one, const std::string& other) {
+        const QFileInfo file(QFile::decodeName(one.c_str()));
+        return !one.empty() && (one == other || (file.exists() && file == QFileInfo(QFile::decodeName(other.c_str()))));
+    };
+    const std::string files[] = {m_job.image_file, m_job.output_file, m_job.trace_file};
+    for (std::size_t at = 0; at < std::size(files); ++at) {
+        if (is_one(files[at], files[(at + 1) % std::size(files)]))
+            return fail(CLI_EXIT_USAGE, gfpdb_quoted(files[at]) + " cannot be read and written, or written twice.");
+    }
+    return true;
+}
+
 bool SESSION::open_files()
 {
     if (!m_job.output_file.empty()) {
@@ -212,10 +234,19 @@ int SESSION::run()
 {
     run_order();
     const bool good = finish_files();
-    if (m_target->chip != nullptr)
-        m_outcome.notes = m_target->chip->get_notes();
+    take_notes();
     const int exit_code = report();
     return good || exit_code != CLI_EXIT_OK ? exit_code : m_exit_code;
+}
+
+void SESSION::take_notes()
+{
+    if (m_target->chip == nullptr)
+        return;
+    m_outcome.notes = m_target->chip->get_notes();
+    if (m_outcome.result.verdict == GFPE_VERDICT::PASSED && !m_target->chip->is_at_rest())
+        m_outcome.notes.emplace_back(
+            "Termination leaves it busy, write enabled or in another mode than after power-up");
 }
 
 int SESSION::exit_code_of_result() const
@@ -255,8 +286,8 @@ int SESSION::report()
 int gfprog_run(const CLI_CALL& call, const GFPROG_JOB& job)
 {
     SESSION session(call, job);
-    if (session.read_options() && session.make_plan() && session.choose_range() && session.check() &&
-        session.open_files())
+    if (session.read_options() && session.keeps_files_apart() && session.make_plan() && session.choose_range() &&
+        session.check() && session.open_files())
         return session.run();
     return session.m_exit_code;
 }

@@ -32,11 +32,11 @@ QString PROG_TEST::image(const char* name, int length) const
     return at(name);
 }
 
-void PROG_TEST::store_changed_part(const char* name,
-                                   std::initializer_list<std::pair<const char*, const char*>> changes) const
+void PROG_TEST::store_changed_part(const char* name, std::initializer_list<std::pair<const char*, const char*>> changes,
+                                   const char* part) const
 {
-    QByteArray record = run_tool({"export", PART}).out;
-    record.replace(QByteArray("\"") + PART + "\"", QByteArray("\"") + name + "\"");
+    QByteArray record = run_tool({"export", part}).out;
+    record.replace(QByteArray("\"") + part + "\"", QByteArray("\"") + name + "\"");
     for (const auto& [what, with] : changes) {
         if (!record.contains(what))
             qFatal("there is no %s", what);

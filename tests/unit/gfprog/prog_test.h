@@ -29,8 +29,9 @@ protected:
     TOOL_RUN prog_on_file(const QStringList& arguments) const;
     // Writes a file of `length` bytes of which none is FF, and none the one before; its path.
     QString image(const char* name, int length) const;
-    // Stores a copy of PART under `name`, with `what` in its exported record replaced.
-    void store_changed_part(const char* name, std::initializer_list<std::pair<const char*, const char*>> changes) const;
+    // Stores a copy of `part` under `name`, with `what` in its exported record replaced.
+    void store_changed_part(const char* name, std::initializer_list<std::pair<const char*, const char*>> changes,
+                            const char* part = PART) const;
     // The JSON that a run with --json printed.
     static QJsonObject object(const TOOL_RUN& run) { return json(run).object(); }
     // The operations that were run.

@@ -174,8 +174,8 @@ private slots:
         QCOMPARE(QFile::permissions(file) & QFile::WriteOther, QFile::Permissions());
 
         store_changed_part("A", {{"\"0x0B\"", "\"0x0C\""}});
-        const TOOL_RUN run = prog({"run", "examine", "verify", "--file", file, "-o", file, "--force", "--offset", "3",
-                                   "--on", "emulated:" + image("chip", int(PART_BYTES))});
+        const TOOL_RUN run = prog({"run", "examine", "verify", "--file", image("file", 9), "-o", file, "--force",
+                                   "--offset", "3", "--on", "emulated:" + image("chip", int(PART_BYTES))});
         QCOMPARE(run.exit_code, 1);
         QCOMPARE(text_of_file(file), QByteArray(7, '\xFF'));
     }
@@ -230,15 +230,44 @@ private slots:
         QVERIFY(run.err.contains("does not exist"));
     }
 
-    // The command is one that the chip does not have; nothing depends on it.
+    void notes_of_the_chip_are_shown_and_change_the_exit_code_data()
+    {
+        rows<QByteArray, QByteArray, QByteArray>(
+            {{"a command that it does not have", "\"0x04\"", "\"0x77\"", "77: "},
+             {"not at rest", "\"0xE9\"", "\"0x04\"",
+              "Termination leaves it busy, write enabled or in another mode than after power-up\n"}});
+    }
+
     void notes_of_the_chip_are_shown_and_change_the_exit_code()
     {
-        store_changed_part("A", {{"\"0x04\"", "\"0x77\""}});
+        const auto [command, other, note] = row<QByteArray, QByteArray, QByteArray>();
+        store_changed_part("A", {{command.constData(), other.constData()}}, "XM25QH256C");
         const TOOL_RUN run = prog({"erase", "--device", "a", "--json"});
         QCOMPARE(run.exit_code, 9);
-        QVERIFY2(run.err.startsWith("gfprog: The emulated chip notes: 77: "), run.err.constData());
+        QVERIFY2(run.err.startsWith("gfprog: The emulated chip notes: " + note), run.err.constData());
         QCOMPARE(object(run).value("notes").toArray().size(), 1);
         QCOMPARE(object(run).value("verdict").toString(), QString("passed"));
+    }
+
+    void a_file_is_not_read_and_written_data()
+    {
+        rows<QStringList>(
+            {{"image and trace", QStringList{"program", "f.csv", "--trace", "f.csv"}},
+             {"other name", QStringList{"verify", "f.csv", "--trace", "./db/../f.csv"}},
+             {"image and output", QStringList{"run", "examine", "verify", "--file", "f.csv", "-o", "f.csv"}},
+             {"written twice", QStringList{"read", "new.csv", "--trace", "new.csv"}}});
+    }
+
+    void a_file_is_not_read_and_written()
+    {
+        QStringList arguments = row<QStringList>();
+        const QByteArray before = text_of_file(image("f.csv", 10));
+        arguments.replaceInStrings(QRegularExpression("^(.*\\.csv)$"), at("\\1"));
+        const TOOL_RUN run = prog(arguments);
+        QCOMPARE(run.exit_code, 2);
+        QVERIFY2(run.err.endsWith(" cannot be read and written, or written twice.\n"), run.err.constData());
+        QCOMPARE(text_of_file(at("f.csv")), before);
+        QCOMPARE(prog({"read", at("new"), "--trace", at("new.csv")}).exit_code, 0);
     }
 
     void a_flow_with_an_error_is_refused()
