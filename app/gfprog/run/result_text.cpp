@@ -11,7 +11,13 @@
 
 namespace {
 
+constexpr const char* UNKNOWN_STATE = "The state of the chip is unknown.";
 constexpr const char* VERDICTS[] = {"passed", "failed", "cancelled", "lost", "refused"};
+
+bool ends_with(const std::string& text, const std::string& end)
+{
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
 
 // What the user asked for among the phases that were executed.
 std::vector<std::string> asked_phases(const GFPE_RESULT& result)
@@ -106,7 +112,6 @@ std::string passed_text(const GFPROG_OUTCOME& outcome)
 
 std::vector<std::string> problem_texts(const GFPROG_OUTCOME& outcome)
 {
-    constexpr const char* UNKNOWN_STATE = "The state of the chip is unknown.";
     const GFPE_RESULT& result = outcome.result;
     std::vector<std::string> texts;
     for (const GFPE_PROBLEM& problem : result.problems)
@@ -117,10 +122,15 @@ std::vector<std::string> problem_texts(const GFPROG_OUTCOME& outcome)
         texts.push_back(result.failure->text);
     if (result.verdict == GFPE_VERDICT::CANCELLED)
         texts.emplace_back("Cancelled.");
-    if (result.verdict == GFPE_VERDICT::LOST && !outcome.was_stopped && !result.failure)
-        texts.push_back(outcome.connection_error);
-    if (result.verdict == GFPE_VERDICT::LOST)
-        texts.push_back((outcome.was_stopped ? "Stopped. " : "The connection is lost. ") + std::string(UNKNOWN_STATE));
+    if (result.verdict == GFPE_VERDICT::LOST) {
+        if (!outcome.was_stopped && !result.failure)
+            texts.push_back(outcome.connection_error);
+        const bool is_said = !texts.empty() && ends_with(texts.back(), UNKNOWN_STATE);
+        if (outcome.was_stopped)
+            texts.push_back("Stopped. " + std::string(UNKNOWN_STATE));
+        else if (!is_said)
+            texts.emplace_back(UNKNOWN_STATE);
+    }
     if (result.chip_is_unknown)
         texts.emplace_back("The ID of the chip was not confirmed: no command of Termination was sent.");
     return texts;

@@ -142,8 +142,7 @@ private slots:
 
         QCOMPARE(run.process().exitCode(), 7);
         const QByteArray said = run.process().readAllStandardError();
-        QVERIFY2(said.endsWith("gfprog: The connection is lost. The state of the chip is unknown.\n"),
-                 said.constData());
+        QVERIFY2(said.count("The state of the chip is unknown.\n") == 1, said.constData());
     }
 
     void an_emulated_programmer_says_what_it_cannot_do_data()

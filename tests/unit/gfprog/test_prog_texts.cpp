@@ -11,8 +11,6 @@
 
 namespace {
 
-using TEXTS_LIST = std::vector<std::string>;
-
 GFPROG_OUTCOME outcome_of(GFPE_VERDICT verdict)
 {
     GFPROG_OUTCOME outcome;
@@ -94,8 +92,7 @@ private slots:
         rows<int, bool, QString>(
             {{"passed", int(GFPE_VERDICT::PASSED), false, ""},
              {"cancelled", int(GFPE_VERDICT::CANCELLED), false, "Cancelled."},
-             {"lost", int(GFPE_VERDICT::LOST), false,
-              "No answer.|The connection is lost. The state of the chip is unknown."},
+             {"lost", int(GFPE_VERDICT::LOST), false, "No answer.|The state of the chip is unknown."},
              {"stopped", int(GFPE_VERDICT::LOST), true, "Stopped. The state of the chip is unknown."},
              {"refused", int(GFPE_VERDICT::REFUSED), false, "Nothing was sent to the chip."}});
     }
@@ -111,13 +108,22 @@ private slots:
         QCOMPARE(texts.join("|"), text);
     }
 
+    void what_was_lost_in_an_action_is_said_once_data()
+    {
+        rows<QString, int>({{"without the state", "Erase, action 1: No answer.", 2},
+                            {"with it", "Erase, action 1: Cut. The state of the chip is unknown.", 1}});
+    }
+
     void what_was_lost_in_an_action_is_said_once()
     {
+        const auto [text, count] = row<QString, int>();
         GFPROG_OUTCOME outcome = outcome_of(GFPE_VERDICT::LOST);
         outcome.result.failure.emplace();
-        outcome.result.failure->text = "Erase, action 1: No answer.";
-        QCOMPARE(problem_texts(outcome), (TEXTS_LIST{"Erase, action 1: No answer.",
-                                                     "The connection is lost. The state of the chip is unknown."}));
+        outcome.result.failure->text = text.toStdString();
+        const std::vector<std::string> texts = problem_texts(outcome);
+        QCOMPARE(int(texts.size()), count);
+        QCOMPARE(texts.front(), text.toStdString());
+        QVERIFY(QString::fromStdString(texts.back()).endsWith("The state of the chip is unknown."));
     }
 };
 
