@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 // The programmer host: a program that loads the dialog module and opens it.
-#include "host_arguments.h"
-#include "host_program.h"
+#include "program/host_arguments.h"
+#include "program/host_program.h"
 
 #include "kovq/zui_app.h"
 

@@ -4,12 +4,12 @@
 #include "people_test.h"
 
 #include "cut_labels.h"
+#include "dialog/device_panel.h"
+#include "dialog/dialog_call.h"
 #include "dialog/gfpq_edit_template_dlg.h"
 #include "dialog/gfpq_pane_fitter.h"
-#include "dialog_call.h"
-#include "host_choice.h"
-#include "host_window.h"
-#include "module_loader.h"
+#include "dialog/module_loader.h"
+#include "program/host_choice.h"
 #include "text_catalogue.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The command line of the host program.
-#include "host_arguments.h"
+#include "program/host_arguments.h"
 #include "test_rows.h"
 
 #include <QTest>

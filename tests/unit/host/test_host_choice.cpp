@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The choice of device: printed and remembered.
-#include "host_choice.h"
+#include "program/host_choice.h"
 #include "test_rows.h"
 
 #include <QJsonDocument>

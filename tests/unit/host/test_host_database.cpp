@@ -3,7 +3,7 @@
 // What the host shows of the database's state while the file of families that the user named cannot be used. A program
 // of its own: a process reads the families once.
 #include "gfpdb_double.h"
-#include "host_database.h"
+#include "program/host_database.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 // What can be chosen in the host, and which modes go together.
+#include "dialog/host_offer.h"
 #include "gfpdb_double.h"
-#include "host_offer.h"
 #include "test_rows.h"
 
 #include <QTest>

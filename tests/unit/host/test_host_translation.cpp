@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 // The language of the host's texts.
-#include "host_translation.h"
 #include "message_recorder.h"
+#include "program/host_translation.h"
 #include "test_rows.h"
 
 #include <QCoreApplication>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 
 // Loading the dialog module.
-#include "dialog_call.h"
+#include "dialog/dialog_call.h"
+#include "dialog/module_loader.h"
+#include "dialog/path_trust.h"
 #include "fake_module.h"
-#include "module_loader.h"
-#include "path_trust.h"
 #include "test_rows.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // Pictures of the dialog's pages.
-#include "page_renderer.h"
+#include "dialog/page_renderer.h"
 #include "test_rows.h"
 
 #include <QDialog>

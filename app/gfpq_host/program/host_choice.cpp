@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host_choice.h"
+#include "program/host_choice.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -3,7 +3,7 @@
 // The command line of the host program.
 #pragma once
 
-#include "restriction.h"
+#include "program/restriction.h"
 
 #include <QString>
 #include <QStringList>

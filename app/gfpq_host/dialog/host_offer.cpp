@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host_offer.h"
+#include "dialog/host_offer.h"
 
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "page_renderer.h"
+#include "dialog/page_renderer.h"
 
 #include <QAbstractButton>
 #include <QApplication>

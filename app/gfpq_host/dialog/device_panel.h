@@ -3,9 +3,9 @@
 // The main window: what is chosen, which database it comes from, and the way to the dialog.
 #pragma once
 
-#include "host_arguments.h"
-#include "host_choice.h"
-#include "host_offer.h"
+#include "dialog/host_offer.h"
+#include "program/host_arguments.h"
+#include "program/host_choice.h"
 
 #include <QMainWindow>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host_database.h"
+#include "program/host_database.h"
 
 #include "dstr/dstr.h"
 #include "gfpdb/gfpdb_helper.h"

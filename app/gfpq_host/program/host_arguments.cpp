@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host_arguments.h"
+#include "program/host_arguments.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host_window.h"
+#include "dialog/device_panel.h"
 
-#include "dialog_call.h"
-#include "host_database.h"
-#include "module_loader.h"
+#include "dialog/dialog_call.h"
+#include "dialog/module_loader.h"
+#include "program/host_database.h"
 
 #include "dstr/dstr.h"
 #include "words/gfpq_vocabulary.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "restriction.h"
+#include "program/restriction.h"
 
 #include "gfpdb/gfpdb_enums.h"
 

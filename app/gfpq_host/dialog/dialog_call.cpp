@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dialog_call.h"
+#include "dialog/dialog_call.h"
 
 HOST_CHOICE open_dialog(GFPQ_DYN_DLG entry_point, QWidget* parent, const HOST_CHOICE& choice,
                         const DIALOG_OPTIONS& options)

@@ -3,7 +3,7 @@
 // The program: what it does with its arguments.
 #pragma once
 
-#include "host_arguments.h"
+#include "program/host_arguments.h"
 
 class ZUI_APP;
 

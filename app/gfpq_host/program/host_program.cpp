@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host_program.h"
+#include "program/host_program.h"
 
-#include "dialog_call.h"
-#include "host_choice.h"
-#include "host_database.h"
-#include "host_offer.h"
-#include "host_translation.h"
-#include "host_window.h"
-#include "module_loader.h"
-#include "page_renderer.h"
+#include "dialog/device_panel.h"
+#include "dialog/dialog_call.h"
+#include "dialog/host_offer.h"
+#include "dialog/module_loader.h"
+#include "dialog/page_renderer.h"
+#include "program/host_choice.h"
+#include "program/host_database.h"
+#include "program/host_translation.h"
 
 #include "dstr/dstr.h"
 #include "kovq/kovq_dialog.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "path_trust.h"
+#include "dialog/path_trust.h"
 
 #include <QFile>
 #include <QStringList>

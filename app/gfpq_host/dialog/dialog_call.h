@@ -4,8 +4,8 @@
 #pragma once
 
 #include "gfpq_dyn_dlg.h"
-#include "host_arguments.h"
-#include "host_choice.h"
+#include "program/host_arguments.h"
+#include "program/host_choice.h"
 
 class QWidget;
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 
 // The main window of the host.
+#include "dialog/device_panel.h"
+#include "dialog/module_loader.h"
 #include "fake_module.h"
 #include "gfpdb_double.h"
-#include "host_database.h"
-#include "host_window.h"
 #include "modal_driver.h"
-#include "module_loader.h"
+#include "program/host_database.h"
 #include "test_rows.h"
 
 #include "dstr/dstr.h"
@@ -428,4 +428,4 @@ private:
 
 QTEST_MAIN(TEST_HOST_WINDOW)
 
-#include "test_host_window.moc"
+#include "test_device_panel.moc"

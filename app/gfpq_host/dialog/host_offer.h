@@ -3,8 +3,8 @@
 // What can be chosen in the host, and which modes go together.
 #pragma once
 
-#include "host_choice.h"
-#include "restriction.h"
+#include "program/host_choice.h"
+#include "program/restriction.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "module_loader.h"
+#include "dialog/module_loader.h"
 
-#include "path_trust.h"
+#include "dialog/path_trust.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host_translation.h"
+#include "program/host_translation.h"
 
 #include <QDir>
 #include <QLibraryInfo>
