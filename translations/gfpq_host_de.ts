@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>Emulierter Baustein</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>Netzwerk (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>Serielle Leitung (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>E&amp;rkennen</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>V&amp;erbindung:</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>keine: im Speicher</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>I&amp;nhalt aufbewahren in:</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>Rec&amp;hner:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>&amp;Serielle Leitung:</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>Baudrate:</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>Inhalt des emulierten Bausteins</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>Die Verbindung ist nicht vollständig.</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>Gehe zu:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>Voriger Unterschied</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>Nächster Unterschied</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Speichern unter...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>Es wurde nichts gelesen. Zum Lesen des Bausteins „Examine“ ankreuzen.</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>%1 wurde gelesen.</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>%1 wurde gelesen und stimmt mit der Datei überein.</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>%1 wurde gelesen. Von der Datei abweichende Bytes: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>Gelesenes speichern</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2, erwartet %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>Gelesene Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>Erkennen</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>Der Baustein hat die ID %1. Bausteine mit dieser ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>keiner</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>&amp;Programmiergerät</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>&amp;Konfigurationsbaustein...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -29,11 +138,413 @@
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>Konfigurationsbau&amp;stein:</translation>
+        <translation>K&amp;onfigurationsbaustein:</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>Datenbank&amp;verzeichnis:</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Konfigurationsbaustein...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>Keine Datei. Eine Datei kann auf das Fenster gezogen werden.</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>&amp;Datei:</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>Datei &amp;beginnt bei:</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>Die Datei wird gelesen.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 Bytes, CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>Datei zum Programmieren</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Es ist keine Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>Was die Datei abdeckt</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>Der ganze Baustein</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>Adresse und Länge</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>Bere&amp;ich:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Länge:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Konfigurationsbaustein...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>E&amp;rkennen</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>&amp;Datei öffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>&amp;Ablauf ausprobieren</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>B&amp;eenden</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>Baustein</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Vorgänge</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>&amp;Programmiergerät</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>Nicht gestartet: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>Die Stelle, an der die Datei beginnt, ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>Adresse oder Länge ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>Nichts erkannt: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>Der Baustein hat die ID %1.</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>Kein Baustein hat die ID %1.</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>Der Lauf wird abgebrochen. Wird er sofort angehalten, ist der Zustand des Bausteins unbekannt.</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>Ein Lauf ist im Gange. Abbrechen und das Fenster schließen?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>Sofort anhalten</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>Lauf abbrechen</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Warten</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>Weiterlaufen lassen</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Fortschritt des Laufs</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>Ab&amp;lauf ausprobieren</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>Löscht, programmiert und prüft einen emulierten Baustein. Hardware wird weder gebraucht noch benutzt.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>S&amp;tarten</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>Der Lauf wird abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 von %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>Kein Vorgang ist angekreuzt.</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>Keine Datei ist gewählt.</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>Kein Baustein ist gewählt.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Den Baustein „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>Die Datei %1 ist leer.</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>Die Datei braucht %1 Bytes ab %2, und der Baustein hat %3 Bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>Fehlgeschlagen bei %1</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>Fehlgeschlagen bei %1, Aktion %2 „%3“</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>Angehalten. Der Zustand des Bausteins ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>Die Verbindung ist verloren. Der Zustand des Bausteins ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>Bestanden, aber nicht alles konnte gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>Bestanden, aber ein echter Baustein hätte Befehle abgelehnt oder falsch verstanden: siehe Protokoll</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>Nicht gestartet: siehe Protokoll</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>ein Testmuster</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>Der Ablauf von %1 wird auf einem emulierten Baustein ausprobiert, der voll anderer Daten ist</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>Inhalt: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>Es wurde nichts mehr gesendet, weil dies ein anderer Baustein sein kann als der gewählte.</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>Hinweis des Bausteins: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (%2 Befehle, %3 s)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>Es werden ganze Sektoren gelöscht. Auch diese Bytes neben dem Bereich werden gelöscht:
+
+%1
+
+Löschen?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1 über die Verbindung %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 Bytes)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1, %2 Takte</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Zeit (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Vorgang</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Leitungen</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Empfangen</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Erwartet</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>Alle Vorgänge</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>Befehle von:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>Befehle des letzten Laufs</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>%1 Befehle</translation>
     </message>
 </context>
 </TS>

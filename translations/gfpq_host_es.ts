@@ -2,30 +2,139 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>Chip emulado</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>Red (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>Línea serie (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>D&amp;etectar</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>C&amp;onexión:</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>ninguno: en memoria</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>G&amp;uardar contenido en:</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>&amp;Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Puerto:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>Línea &amp;serie:</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>Velocidad (baudios):</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>Contenido del chip emulado</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>La conexión no está completa.</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>Ir a:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>Diferencia anterior</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>Diferencia siguiente</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Guardar como...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>No se leyó nada. Marque Examine para leer el chip.</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>Se leyó %1.</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>Se leyó %1. Coincide con el archivo.</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>Se leyó %1. Bytes que difieren del archivo: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>Guardar lo leído</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>No se puede escribir el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2, se esperaba %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>Bytes leídos</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>Detectar</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>El chip tiene el ID %1. Dispositivos con este ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>ninguno</translation>
     </message>
     <message>
-        <source>&amp;Programmer</source>
-        <translation>&amp;Programador</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>&amp;Dispositivo de configuración...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
-    </message>
-    <message>
         <source>Device &amp;family:</source>
-        <translation>&amp;Familia de dispositivos:</translation>
+        <translation>Fa&amp;milia de dispositivos:</translation>
     </message>
     <message>
         <source>Configuration &amp;mode:</source>
-        <translation>&amp;Modo de configuración:</translation>
+        <translation>Modo de confi&amp;guración:</translation>
     </message>
     <message>
         <source>Configuration &amp;device:</source>
@@ -34,6 +143,408 @@
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>Directorio de la &amp;base de datos:</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Dispositivo de configuración...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>E&amp;xaminar...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>Ningún archivo. Se puede soltar uno en la ventana.</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>A&amp;rchivo:</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>El &amp;archivo empieza en:</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>Se está leyendo el archivo.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 bytes, CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>Archivo que programar</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>No es un archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>Lo que cubre el archivo</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>Todo el dispositivo</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>Dirección y longitud</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>Ra&amp;ngo:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>Dire&amp;cción:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Longitud:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Dispositivo de configuración...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>D&amp;etectar</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>&amp;Abrir archivo...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>&amp;Probar el flujo</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Operaciones</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Traza</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Datos</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>&amp;Programador</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>No iniciado: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>El lugar donde empieza el archivo no es un número.</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>La dirección o la longitud no es un número.</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>No se detectó nada: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>El chip tiene el ID %1.</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>Ningún dispositivo tiene el ID %1.</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>La ejecución se está cancelando. Si se detiene de inmediato, el estado del chip es desconocido.</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>Hay una ejecución en curso. ¿Cancelarla y cerrar la ventana?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>Detener de inmediato</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>Cancelar la ejecución</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Esperar</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>Seguir ejecutando</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progreso de la ejecución</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>Probar el &amp;flujo</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>Borra, programa y verifica un chip emulado. No se necesita ni se usa hardware.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Cance&amp;lar</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>La ejecución se está cancelando.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>quedan %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>No hay ninguna operación marcada.</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>No se ha elegido ningún archivo.</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>No se ha elegido ningún dispositivo.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>El dispositivo «%1» no existe.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>No se puede leer el archivo %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>El archivo %1 está vacío.</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>El archivo necesita %1 bytes desde %2, y el dispositivo tiene %3 bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>Fallido</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>Fallido en %1</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>Fallido en %1, acción %2 «%3»</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>Detenido. El estado del chip es desconocido.</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>Se perdió la conexión. El estado del chip es desconocido.</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>Correcto, pero no se pudo guardar todo</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>Correcto, pero un chip real habría rechazado o malinterpretado órdenes: vea el registro</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>No iniciado: vea el registro</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>un patrón de prueba</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>Prueba del flujo de %1 en un chip emulado lleno de otros datos</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>Contenido: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>No se envió nada más, porque este chip puede no ser el del dispositivo.</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>Nota del chip: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (%2 órdenes, %3 s)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>Se borran sectores enteros. También se borran estos bytes fuera del rango:
+
+%1
+
+¿Borrarlos?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1 en la conexión %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 bytes)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1, %2 ciclos</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Tiempo (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operación</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Acción</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Esperado</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>Todas las operaciones</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>Órdenes de:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>Órdenes de la última ejecución</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>%1 órdenes</translation>
     </message>
 </context>
 </TS>

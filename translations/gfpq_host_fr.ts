@@ -2,26 +2,135 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>Puce émulée</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>Réseau (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>Liaison série (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>Dé&amp;tecter</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>Co&amp;nnexion :</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>aucun : en mémoire</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>Ga&amp;rder le contenu dans :</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>&amp;Hôte :</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port :</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>&amp;Liaison série :</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>Débit (bauds) :</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>Contenu de la puce émulée</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>La connexion est incomplète.</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>Aller à :</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>Différence précédente</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>Différence suivante</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Enregistrer sous...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>Rien n&apos;a été lu. Cochez Examine pour lire la puce.</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>%1 a été lu.</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>%1 a été lu. C&apos;est ce que contient le fichier.</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>%1 a été lu. Octets différents du fichier : %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>Enregistrer ce qui a été lu</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Le fichier %1 ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1 : %2, attendu %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>Octets lus</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>Détecter</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>La puce a l&apos;ID %1. Composants ayant cet ID :</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>aucun</translation>
     </message>
     <message>
-        <source>&amp;Programmer</source>
-        <translation>&amp;Programmateur</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>&amp;Composant de configuration...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
         <source>Device &amp;family:</source>
-        <translation>&amp;Famille de composants&#xa0;:</translation>
+        <translation>F&amp;amille de composants&#xa0;:</translation>
     </message>
     <message>
         <source>Configuration &amp;mode:</source>
@@ -29,11 +138,413 @@
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>Composan&amp;t de configuration&#xa0;:</translation>
+        <translation>C&amp;omposant de configuration&#xa0;:</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
-        <translation>&amp;Répertoire de la base de données&#xa0;:</translation>
+        <translation>Répertoire de la &amp;base de données&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Composant de configuration...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>Aucun fichier. On peut en déposer un sur la fenêtre.</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>F&amp;ichier :</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>Le &amp;fichier commence à :</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>Lecture du fichier en cours.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Le fichier ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 octets, CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>Fichier à programmer</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Ce n&apos;est pas un fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>Ce que couvre le fichier</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>Tout le composant</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>Adresse et longueur</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>Pla&amp;ge :</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>Adre&amp;sse :</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Longueur :</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Composant de configuration...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>Dé&amp;tecter</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>&amp;Ouvrir un fichier...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>&amp;Essayer le flux</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>Composant</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Opérations</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Trace</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Données</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>Programmat&amp;eur</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>Non démarré : %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>L&apos;endroit où commence le fichier n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>L&apos;adresse ou la longueur n&apos;est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>Rien n&apos;a été détecté : %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>La puce a l&apos;ID %1.</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>Aucun composant n&apos;a l&apos;ID %1.</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>L&apos;exécution est en cours d&apos;annulation. Si elle est arrêtée tout de suite, l&apos;état de la puce est inconnu.</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>Une exécution est en cours. L&apos;annuler et fermer la fenêtre ?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>Arrêter tout de suite</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>Annuler l&apos;exécution</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Attendre</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progression de l&apos;exécution</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>Essa&amp;yer le flux</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>Efface, programme et vérifie une puce émulée. Aucun matériel n&apos;est nécessaire ni utilisé.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>L&apos;exécution est en cours d&apos;annulation.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1 : %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>reste %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>Aucune opération n&apos;est cochée.</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>Aucun fichier n&apos;est choisi.</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>Aucun composant n&apos;est choisi.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Le composant « %1 » n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Le fichier %1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>Le fichier %1 est vide.</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>Le fichier demande %1 octets à partir de %2, et le composant a %3 octets.</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>Échec à %1</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>Échec à %1, action %2 « %3 »</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>Arrêté. L&apos;état de la puce est inconnu.</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>La connexion est perdue. L&apos;état de la puce est inconnu.</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>Réussi, mais tout n&apos;a pas pu être enregistré</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>Réussi, mais une puce réelle aurait refusé ou mal lu des commandes : voir le journal</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>Non démarré : voir le journal</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>un motif de test</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>Essai du flux de %1 sur une puce émulée pleine d&apos;autres données</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>Contenu : %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>Rien d&apos;autre n&apos;a été envoyé, car cette puce peut être une autre que celle du composant.</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>Note de la puce : %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (%2 commandes, %3 s)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>Des secteurs entiers sont effacés. Ces octets hors de la plage sont effacés aussi :
+
+%1
+
+Les effacer ?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1 sur la connexion %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 octets)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1, %2 cycles</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Temps (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Opération</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Attendu</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>Toutes les opérations</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>Commandes de :</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>Commandes de la dernière exécution</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>%1 commandes</translation>
     </message>
 </context>
 </TS>

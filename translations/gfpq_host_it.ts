@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>Chip emulato</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>Rete (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>Linea seriale (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>R&amp;ileva</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>&amp;Connessione:</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>nessuno: in memoria</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>C&amp;onserva contenuto in:</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>&amp;Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Porta:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>&amp;Linea seriale:</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>Velocità (baud):</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>Contenuto del chip emulato</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>La connessione non è completa.</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>Vai a:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>Differenza precedente</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>Differenza successiva</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Salva con nome...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>Non è stato letto nulla. Selezionare Examine per leggere il chip.</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>%1 è stato letto.</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>%1 è stato letto. Coincide con il file.</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>%1 è stato letto. Byte diversi dal file: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>Salva quanto letto</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Impossibile scrivere il file %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2, atteso %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>Byte letti</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>Rileva</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>Il chip ha l&apos;ID %1. Dispositivi con questo ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>nessuno</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>&amp;Programmatore</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>&amp;Dispositivo di configurazione...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Esci</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -29,11 +138,413 @@
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>Disposi&amp;tivo di configurazione:</translation>
+        <translation>Dispositivo di confi&amp;gurazione:</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
-        <translation>&amp;Cartella del database:</translation>
+        <translation>Car&amp;tella del database:</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Dispositivo di configurazione...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>&amp;Sfoglia...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>Nessun file. Se ne può trascinare uno sulla finestra.</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>Fil&amp;e:</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>Il file inizi&amp;a da:</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>Lettura del file in corso.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Impossibile leggere il file: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 byte, CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>File da programmare</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Non è un file.</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>Quanto coperto dal file</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>Tutto il dispositivo</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>Indirizzo e lunghezza</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>I&amp;ntervallo:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>Indiri&amp;zzo:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Lunghezza:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Dispositivo di configurazione...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>&amp;Rileva</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>&amp;Apri file...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>&amp;Prova il flusso</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>A&amp;vvia</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connessione</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Operazioni</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Traccia</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Dati</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>P&amp;rogrammatore</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>Non avviato: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>Il punto in cui inizia il file non è un numero.</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>L&apos;indirizzo o la lunghezza non è un numero.</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>Nessun rilevamento: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>Il chip ha l&apos;ID %1.</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>Nessun dispositivo ha l&apos;ID %1.</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>L&apos;esecuzione è in fase di annullamento. Se viene fermata subito, lo stato del chip è sconosciuto.</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>Un&apos;esecuzione è in corso. Annullarla e chiudere la finestra?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>Ferma subito</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>Annulla l&apos;esecuzione</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Attendi</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>Continua</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Avanzamento dell&apos;esecuzione</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>&amp;Prova il flusso</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>Cancella, programma e verifica un chip emulato. Non serve e non viene usato alcun hardware.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>A&amp;vvia</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Ann&amp;ulla</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>L&apos;esecuzione è in fase di annullamento.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 di %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>restano %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>Nessuna operazione è selezionata.</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>Nessun file è scelto.</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>Nessun dispositivo è scelto.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Il dispositivo &quot;%1&quot; non esiste.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Impossibile leggere il file %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>Il file %1 è vuoto.</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>Il file richiede %1 byte da %2 in poi e il dispositivo ha %3 byte.</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>Non riuscito</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>Non riuscito in %1</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>Non riuscito in %1, azione %2 &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>Fermato. Lo stato del chip è sconosciuto.</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>La connessione è persa. Lo stato del chip è sconosciuto.</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>Riuscito, ma non tutto è stato salvato</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>Riuscito, ma un chip reale avrebbe rifiutato o frainteso dei comandi: vedere il registro</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Riuscito</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annullato</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>Non avviato: vedere il registro</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>un motivo di prova</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>Prova del flusso di %1 su un chip emulato pieno di altri dati</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>Contenuto: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>Non è stato inviato altro, perché questo chip potrebbe non essere quello del dispositivo.</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>Nota del chip: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (%2 comandi, %3 s)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>Vengono cancellati settori interi. Sono cancellati anche questi byte fuori dall&apos;intervallo:
+
+%1
+
+Cancellarli?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1 sulla connessione %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 byte)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1, %2 cicli</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Tempo (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operazione</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Azione</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linee</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Inviato</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Ricevuto</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Atteso</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>Tutte le operazioni</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>Comandi di:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>Comandi dell&apos;ultima esecuzione</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>%1 comandi</translation>
     </message>
 </context>
 </TS>

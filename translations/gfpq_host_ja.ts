@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>エミュレートされたチップ</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>ネットワーク (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>シリアル回線 (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>検出(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>接続(&amp;N):</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>なし: メモリー内</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>参照...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>内容の保存先(&amp;K):</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>ホスト(&amp;H):</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>ポート:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>シリアル回線(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>ボー レート:</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>エミュレートされたチップの内容</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>接続の指定が完全ではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>移動先:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>前の相違</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>次の相違</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>名前を付けて保存...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>何も読み出されていません。チップを読み出すには Examine をオンにします。</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>%1 を読み出しました。</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>%1 を読み出しました。ファイルと一致しています。</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>%1 を読み出しました。ファイルと異なるバイト数: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>読み出した内容の保存</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>ファイル %1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2 (期待値 %3)</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>読み出したバイト</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>検出</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>チップの ID は %1 です。この ID を持つデバイス:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>なし</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>プログラマー(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>コンフィギュレーションデバイス(&amp;C)...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -34,6 +143,408 @@
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>データベースのフォルダー(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>コンフィギュレーションデバイス(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>参照(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>ファイルがありません。ウィンドウにドロップできます。</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>ファイル(&amp;I):</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>ファイルの開始位置(&amp;B):</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>ファイルを読み込んでいます。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>ファイルを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 バイト、CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>書き込むファイル</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>ファイルではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>ファイルの範囲</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>デバイス全体</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>アドレスと長さ</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>範囲(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>アドレス(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>長さ:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>コンフィギュレーションデバイス(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>検出(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>ファイルを開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>フローを試す(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>キャンセル(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>トレース</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>データ</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>プログラマー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>開始できません: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>ファイルの開始位置が数値ではありません。</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>アドレスまたは長さが数値ではありません。</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>検出できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>チップの ID は %1 です。</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>ID %1 のデバイスはありません。</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>実行をキャンセルしています。すぐに停止すると、チップの状態は不明になります。</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>実行中です。キャンセルしてウィンドウを閉じますか?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>すぐに停止</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>実行をキャンセル</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>待つ</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>続行</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>実行の進行状況</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>フローを試す(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>エミュレートされたチップを消去、書き込み、ベリファイします。ハードウェアは不要で、使用もしません。</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>キャンセル(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>実行をキャンセルしています。</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 / %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>操作が選択されていません。</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>ファイルが選択されていません。</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>デバイスが選択されていません。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>デバイス「%1」は存在しません。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>ファイル %1 を読み込めません。</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>ファイル %1 は空です。</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>ファイルには %2 から %1 バイトが必要ですが、デバイスは %3 バイトです。</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>%1 で失敗</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>%1、アクション %2「%3」で失敗</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>停止しました。チップの状態は不明です。</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>接続が失われました。チップの状態は不明です。</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>合格。ただし、一部を保存できませんでした</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>合格。ただし、実際のチップでは拒否または誤認されるコマンドがあります。ログを参照してください</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>キャンセルしました</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>開始できません: ログを参照してください</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>テスト パターン</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>別のデータで満たされたエミュレートされたチップで %1 のフローを試します</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>内容: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>選択したデバイスとは別のチップの可能性があるため、以後は何も送信していません。</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>チップからの注意: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (コマンド %2 個、%3 秒)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>セクター全体が消去されます。範囲外の次のバイトも消去されます:
+
+%1
+
+消去しますか?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1 (接続 %2)</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 バイト)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1、%2 クロック</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>時間 (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>アクション</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>ライン</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>受信</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>期待値</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>すべての操作</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>コマンドの対象:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>前回の実行のコマンド</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>コマンド %1 個</translation>
     </message>
 </context>
 </TS>

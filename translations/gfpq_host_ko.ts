@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>에뮬레이션 칩</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>네트워크(serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>직렬 회선(serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>감지(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>연결(&amp;N):</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>없음: 메모리에 보관</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>찾아보기...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>내용 보관 위치(&amp;K):</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>호스트(&amp;H):</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>포트:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>직렬 회선(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>전송 속도:</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>에뮬레이션 칩의 내용</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>연결 정보가 완전하지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>이동:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>이전 차이</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>다음 차이</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>다른 이름으로 저장...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>읽은 것이 없습니다. 칩을 읽으려면 Examine을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>%1을(를) 읽었습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>%1을(를) 읽었습니다. 파일과 같습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>%1을(를) 읽었습니다. 파일과 다른 바이트: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>읽은 내용 저장</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>파일 %1에 쓸 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2, 예상 값 %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>읽은 바이트</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>감지</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>칩의 ID는 %1입니다. 이 ID의 장치:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>없음</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>프로그래머(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>구성 디바이스(&amp;C)...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>종료(&amp;Q)</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -34,6 +143,408 @@
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>데이터베이스 폴더(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>구성 디바이스(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>찾아보기(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>파일이 없습니다. 창에 끌어다 놓을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>파일(&amp;I):</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>파일 시작 위치(&amp;B):</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>파일을 읽는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>파일을 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1바이트, CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>프로그램할 파일</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>파일이 아닙니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>파일이 차지하는 범위</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>장치 전체</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>주소와 길이</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>범위(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>주소(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>길이:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>구성 디바이스(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>감지(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>파일 열기(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>흐름 시험(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>시작(&amp;S)</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>취소(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>종료(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>장치</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>로그</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>추적</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>데이터</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>프로그래머(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>시작하지 않음: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>파일 시작 위치가 숫자가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>주소나 길이가 숫자가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>감지되지 않음: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>칩의 ID는 %1입니다.</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>ID가 %1인 장치가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>실행을 취소하는 중입니다. 바로 멈추면 칩의 상태를 알 수 없게 됩니다.</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>실행 중입니다. 취소하고 창을 닫으시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>바로 멈춤</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>기다림</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>계속 실행</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>실행 진행률</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>흐름 시험(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>에뮬레이션 칩을 지우고 프로그램하고 검증합니다. 하드웨어가 필요하지 않으며 사용하지도 않습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>시작(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>취소(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>실행을 취소하는 중입니다.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 / %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 남음</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>선택된 작업이 없습니다.</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>선택된 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>선택된 장치가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>장치 &quot;%1&quot;이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>파일 %1을(를) 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>파일 %1이(가) 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>파일에는 %2부터 %1바이트가 필요하지만 장치는 %3바이트입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>%1에서 실패</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>%1, 동작 %2 &quot;%3&quot;에서 실패</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>멈췄습니다. 칩의 상태를 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>연결이 끊겼습니다. 칩의 상태를 알 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>통과. 그러나 일부를 저장하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>통과. 그러나 실제 칩이라면 거부하거나 잘못 읽었을 명령이 있습니다. 로그를 보십시오</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>통과</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>시작하지 않음: 로그를 보십시오</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>시험 패턴</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>다른 데이터로 가득 찬 에뮬레이션 칩에서 %1의 흐름을 시험합니다</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>내용: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>선택한 장치와 다른 칩일 수 있으므로 더 이상 아무것도 보내지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>칩의 참고 사항: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1(명령 %2개, %3초)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>섹터 전체가 지워집니다. 범위 밖의 다음 바이트도 지워집니다:
+
+%1
+
+지우시겠습니까?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1, 연결 %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2바이트)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1, %2클록</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>시간(ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>동작</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>명령</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>회선</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>보냄</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>받음</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>예상 값</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>모든 작업</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>명령 범위:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>마지막 실행의 명령</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>명령 %1개</translation>
     </message>
 </context>
 </TS>

@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>Chip emulado</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>Rede (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>Linha serial (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>Detecta&amp;r</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>&amp;Conexão:</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>nenhum: na memória</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Procurar...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>G&amp;uardar conteúdo em:</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>&amp;Host:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Porta:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>&amp;Linha serial:</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>Taxa de transmissão:</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>Conteúdo do chip emulado</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>A conexão não está completa.</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>Ir para:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>Diferença anterior</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>Próxima diferença</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Salvar como...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>Nada foi lido. Marque Examine para ler o chip.</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>%1 foi lido.</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>%1 foi lido. É igual ao arquivo.</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>%1 foi lido. Bytes diferentes do arquivo: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>Salvar o que foi lido</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>O arquivo %1 não pode ser gravado: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2, esperado %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>Bytes lidos</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>Detectar</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>O chip tem o ID %1. Dispositivos com este ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>nenhum</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>&amp;Programador</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>&amp;Dispositivo de configuração...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Sair</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -29,11 +138,413 @@
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>Disposi&amp;tivo de configuração:</translation>
+        <translation>Di&amp;spositivo de configuração:</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>Diretório do &amp;banco de dados:</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Dispositivo de configuração...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>&amp;Procurar...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>Nenhum arquivo. É possível soltar um na janela.</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>Ar&amp;quivo:</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>&amp;O arquivo começa em:</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>O arquivo está sendo lido.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>O arquivo não pode ser lido: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 bytes, CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>Arquivo a programar</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Não é um arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>O que o arquivo cobre</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>Todo o dispositivo</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>Endereço e comprimento</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>&amp;Intervalo:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Endereço:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Comprimento:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Dispositivo de configuração...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>D&amp;etectar</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>&amp;Abrir arquivo...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>&amp;Testar o fluxo</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexão</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Operações</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Rastreio</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Dados</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>Pro&amp;gramador</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>Não iniciado: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>O lugar onde o arquivo começa não é um número.</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>O endereço ou o comprimento não é um número.</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>Nada foi detectado: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>O chip tem o ID %1.</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>Nenhum dispositivo tem o ID %1.</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>A execução está sendo cancelada. Se for parada imediatamente, o estado do chip será desconhecido.</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>Uma execução está em andamento. Cancelá-la e fechar a janela?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>Parar imediatamente</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>Cancelar a execução</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Esperar</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progresso da execução</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>&amp;Testar o fluxo</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>Apaga, programa e verifica um chip emulado. Nenhum hardware é necessário ou usado.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>I&amp;niciar</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>C&amp;ancelar</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>A execução está sendo cancelada.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>restam %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>Nenhuma operação está marcada.</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>Nenhum arquivo foi escolhido.</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>Nenhum dispositivo foi escolhido.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>O dispositivo &quot;%1&quot; não existe.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>O arquivo %1 não pode ser lido.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>O arquivo %1 está vazio.</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>O arquivo precisa de %1 bytes a partir de %2, e o dispositivo tem %3 bytes.</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>Falhou</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>Falhou em %1</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>Falhou em %1, ação %2 &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>Parado. O estado do chip é desconhecido.</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>A conexão foi perdida. O estado do chip é desconhecido.</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>Aprovado, mas nem tudo pôde ser salvo</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>Aprovado, mas um chip real teria recusado ou interpretado mal comandos: veja o registro</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Aprovado</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>Não iniciado: veja o registro</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>um padrão de teste</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>Teste do fluxo de %1 em um chip emulado cheio de outros dados</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>Conteúdo: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>Nada mais foi enviado, porque este chip pode não ser o do dispositivo.</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>Nota do chip: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (%2 comandos, %3 s)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>Setores inteiros são apagados. Estes bytes fora do intervalo também são apagados:
+
+%1
+
+Apagá-los?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1 na conexão %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 bytes)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1, %2 ciclos</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Tempo (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operação</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Ação</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linhas</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recebido</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Esperado</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>Todas as operações</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>Comandos de:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>Comandos da última execução</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>%1 comandos</translation>
     </message>
 </context>
 </TS>

@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>Эмулируемая микросхема</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>Сеть (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>Последовательный порт (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>&amp;Определить</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>&amp;Подключение:</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>нет: в памяти</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Обзор...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>&amp;Хранить содержимое в:</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>Уз&amp;ел:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Порт:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>Пос&amp;ледовательный порт:</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>Скорость (бод):</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>Содержимое эмулируемой микросхемы</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>Подключение указано не полностью.</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>Перейти к:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>Предыдущее отличие</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>Следующее отличие</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Сохранить как...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>Ничего не прочитано. Чтобы прочитать микросхему, отметьте Examine.</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>Прочитано: %1.</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>Прочитано: %1. Совпадает с файлом.</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>Прочитано: %1. Байтов, отличающихся от файла: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>Сохранение прочитанного</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Не удаётся записать файл %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2, ожидалось %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>Прочитанные байты</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>Определение</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>ID микросхемы: %1. Устройства с этим ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>нет</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>&amp;Программатор</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>&amp;Конфигурационное устройство...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Выход</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -29,11 +138,413 @@
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>Конфигурационное &amp;устройство:</translation>
+        <translation>Ко&amp;нфигурационное устройство:</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>Каталог &amp;базы данных:</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Конфигурационное устройство...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>Об&amp;зор...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>Нет файла. Его можно перетащить в окно.</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>Ф&amp;айл:</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>Начало &amp;файла:</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>Файл читается.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Не удаётся прочитать файл: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 байт, CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>Файл для программирования</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Это не файл.</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>То, что занимает файл</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>Всё устройство</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>Адрес и длина</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>Д&amp;иапазон:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>А&amp;дрес:</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>Длина:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>&amp;Конфигурационное устройство...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>О&amp;пределить</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>&amp;Открыть файл...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>&amp;Испытать алгоритм</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>П&amp;уск</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>О&amp;тмена</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Выход</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Подключение</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Операции</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Журнал</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Трассировка</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Данные</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>Про&amp;грамматор</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>Не запущено: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>Место начала файла — не число.</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>Адрес или длина — не число.</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>Ничего не определено: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>ID микросхемы: %1.</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>Нет устройства с ID %1.</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>Выполнение отменяется. Если остановить его сразу, состояние микросхемы будет неизвестно.</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>Идёт выполнение. Отменить его и закрыть окно?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>Остановить сразу</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>Отменить выполнение</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Подождать</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>Продолжить</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>И&amp;спытать алгоритм</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>Стирает, программирует и проверяет эмулируемую микросхему. Оборудование не нужно и не используется.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>П&amp;уск</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>О&amp;тмена</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>Выполнение отменяется.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>осталось %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>Не отмечена ни одна операция.</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>Файл не выбран.</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>Устройство не выбрано.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Устройство «%1» не существует.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>Не удаётся прочитать файл %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>Файл %1 пуст.</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>Файлу нужно %1 байт начиная с %2, а в устройстве %3 байт.</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>Ошибка в %1</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>Ошибка в %1, действие %2 «%3»</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>Остановлено. Состояние микросхемы неизвестно.</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>Соединение потеряно. Состояние микросхемы неизвестно.</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>Успешно, но не всё удалось сохранить</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>Успешно, но настоящая микросхема отвергла бы или неверно поняла бы команды: см. журнал</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>Успешно</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Отменено</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>Не запущено: см. журнал</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>тестовый образец</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>Испытание алгоритма %1 на эмулируемой микросхеме, заполненной другими данными</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>Содержимое: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>Больше ничего не отправлялось: возможно, это другая микросхема.</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>Замечание микросхемы: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (команд: %2, %3 с)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>Стираются целые секторы. Вне диапазона также стираются эти байты:
+
+%1
+
+Стереть их?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1, подключение %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 байт)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1, тактов: %2</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Время (мс)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Операция</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Действие</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Команда</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Линии</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Отправлено</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Принято</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Ожидалось</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>Все операции</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>Команды:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>Команды последнего выполнения</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>Команд: %1</translation>
     </message>
 </context>
 </TS>

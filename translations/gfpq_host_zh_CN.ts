@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>模拟芯片</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>网络 (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>串口 (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>检测(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>连接(&amp;N):</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>无: 在内存中</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>浏览...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>内容保存于(&amp;K):</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>主机(&amp;H):</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>端口:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>串口(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>波特率:</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>模拟芯片的内容</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>连接信息不完整。</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>转到:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>上一处差异</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>下一处差异</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>另存为...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>未读取任何内容。要读取芯片，请选中 Examine。</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>已读取 %1。</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>已读取 %1，与文件一致。</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>已读取 %1。与文件不同的字节数: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>保存读取的内容</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>无法写入文件 %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2，预期 %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>读取的字节</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>检测</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>芯片的 ID 是 %1。具有此 ID 的器件:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>无</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>编程器(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>配置器件(&amp;C)...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>退出(&amp;Q)</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -34,6 +143,408 @@
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>数据库目录(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>配置器件(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>浏览(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>没有文件。可将文件拖放到窗口上。</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>文件(&amp;I):</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>文件起始于(&amp;B):</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>正在读取文件。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>无法读取文件: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 字节，CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>要编程的文件</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>它不是文件。</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>文件覆盖的部分</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>整个器件</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>地址和长度</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>范围(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>地址(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>长度:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>配置器件(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>检测(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>打开文件(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>试运行流程(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>开始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>取消(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>器件</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>日志</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>跟踪</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>编程器(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>未开始: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>文件起始位置不是数字。</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>地址或长度不是数字。</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>未检测到任何器件: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>芯片的 ID 是 %1。</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>没有 ID 为 %1 的器件。</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>正在取消运行。如果立即停止，芯片的状态将未知。</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>正在运行。要取消并关闭窗口吗?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>立即停止</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>取消运行</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>等待</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>继续运行</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>运行进度</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>试运行流程(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>擦除、编程并校验一个模拟芯片。不需要也不使用任何硬件。</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>开始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>取消(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>正在取消运行。</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 / %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩余 %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>未选中任何操作。</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>未选择文件。</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>未选择器件。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>器件“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>无法读取文件 %1。</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>文件 %1 为空。</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>文件从 %2 起需要 %1 字节，而器件有 %3 字节。</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>在 %1 失败</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>在 %1 的动作 %2“%3”失败</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>已停止。芯片的状态未知。</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>连接已断开。芯片的状态未知。</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>通过，但未能保存全部内容</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>通过，但真实芯片会拒绝或误读某些命令: 请查看日志</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>通过</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>未开始: 请查看日志</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>测试图案</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>在写满其他数据的模拟芯片上试运行 %1 的流程</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>内容: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>未再发送任何内容，因为此芯片可能不是所选器件。</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>芯片的提示: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (%2 条命令，%3 秒)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>将擦除整个扇区。范围之外的以下字节也会被擦除:
+
+%1
+
+要擦除吗?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1，连接 %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 字节)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1，%2 个时钟</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>时间 (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>动作</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>预期</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>所有操作</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>命令范围:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>上次运行的命令</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>%1 条命令</translation>
     </message>
 </context>
 </TS>

@@ -2,22 +2,131 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
-    <name>HOST_WINDOW</name>
+    <name>CONNECTION_PANEL</name>
+    <message>
+        <source>Emulated chip</source>
+        <translation>模擬晶片</translation>
+    </message>
+    <message>
+        <source>Network (serprog)</source>
+        <translation>網路 (serprog)</translation>
+    </message>
+    <message>
+        <source>Serial line (serprog)</source>
+        <translation>序列埠 (serprog)</translation>
+    </message>
+    <message>
+        <source>De&amp;tect</source>
+        <translation>偵測(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Co&amp;nnection:</source>
+        <translation>連線(&amp;N):</translation>
+    </message>
+    <message>
+        <source>none: in memory</source>
+        <translation>無: 在記憶體中</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>瀏覽...</translation>
+    </message>
+    <message>
+        <source>&amp;Keep contents in:</source>
+        <translation>內容保存於(&amp;K):</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>主機(&amp;H):</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>連接埠:</translation>
+    </message>
+    <message>
+        <source>S&amp;erial line:</source>
+        <translation>序列埠(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Baud rate:</source>
+        <translation>鮑率:</translation>
+    </message>
+    <message>
+        <source>Contents of the Emulated Chip</source>
+        <translation>模擬晶片的內容</translation>
+    </message>
+    <message>
+        <source>The connection is not complete.</source>
+        <translation>連線資訊不完整。</translation>
+    </message>
+</context>
+<context>
+    <name>DATA_PAGE</name>
+    <message>
+        <source>Go to:</source>
+        <translation>移至:</translation>
+    </message>
+    <message>
+        <source>Previous Difference</source>
+        <translation>上一個差異</translation>
+    </message>
+    <message>
+        <source>Next Difference</source>
+        <translation>下一個差異</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>另存新檔...</translation>
+    </message>
+    <message>
+        <source>Nothing was read. Check Examine to read the chip.</source>
+        <translation>未讀取任何內容。要讀取晶片，請勾選 Examine。</translation>
+    </message>
+    <message>
+        <source>%1 was read.</source>
+        <translation>已讀取 %1。</translation>
+    </message>
+    <message>
+        <source>%1 was read. It is what the file has.</source>
+        <translation>已讀取 %1，與檔案一致。</translation>
+    </message>
+    <message>
+        <source>%1 was read. Bytes that differ from the file: %2</source>
+        <translation>已讀取 %1。與檔案不同的位元組數: %2</translation>
+    </message>
+    <message>
+        <source>Save What Was Read</source>
+        <translation>儲存讀取的內容</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>無法寫入檔案 %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2, expected %3</source>
+        <translation>%1: %2，預期 %3</translation>
+    </message>
+    <message>
+        <source>Bytes that were read</source>
+        <translation>讀取的位元組</translation>
+    </message>
+</context>
+<context>
+    <name>DETECTED_DIALOG</name>
+    <message>
+        <source>Detect</source>
+        <translation>偵測</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1. Devices with this ID:</source>
+        <translation>晶片的 ID 是 %1。具有此 ID 的裝置:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
         <translation>無</translation>
-    </message>
-    <message>
-        <source>&amp;Programmer</source>
-        <translation>燒錄器(&amp;P)</translation>
-    </message>
-    <message>
-        <source>&amp;Configuration Device...</source>
-        <translation>組態元件(&amp;C)...</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>結束(&amp;Q)</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
@@ -34,6 +143,408 @@
     <message>
         <source>Database di&amp;rectory:</source>
         <translation>資料庫目錄(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>組態元件(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_PANEL</name>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>瀏覽(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>No file. A file can be dropped on the window.</source>
+        <translation>沒有檔案。可將檔案拖放到視窗上。</translation>
+    </message>
+    <message>
+        <source>F&amp;ile:</source>
+        <translation>檔案(&amp;I):</translation>
+    </message>
+    <message>
+        <source>File &amp;begins at:</source>
+        <translation>檔案起始於(&amp;B):</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>正在讀取檔案。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>無法讀取檔案: %1</translation>
+    </message>
+    <message>
+        <source>%1 bytes, CRC-32 %2</source>
+        <translation>%1 位元組，CRC-32 %2</translation>
+    </message>
+    <message>
+        <source>File to Program</source>
+        <translation>要燒錄的檔案</translation>
+    </message>
+</context>
+<context>
+    <name>FILE_SUMMARY</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>它不是檔案。</translation>
+    </message>
+</context>
+<context>
+    <name>ORDER_PANEL</name>
+    <message>
+        <source>What the file covers</source>
+        <translation>檔案涵蓋的部分</translation>
+    </message>
+    <message>
+        <source>The whole device</source>
+        <translation>整個裝置</translation>
+    </message>
+    <message>
+        <source>Address and length</source>
+        <translation>位址和長度</translation>
+    </message>
+    <message>
+        <source>Ran&amp;ge:</source>
+        <translation>範圍(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>位址(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Length:</source>
+        <translation>長度:</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_MENU</name>
+    <message>
+        <source>&amp;Configuration Device...</source>
+        <translation>組態元件(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>&amp;Detect</source>
+        <translation>偵測(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Open File...</source>
+        <translation>開啟檔案(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Try the Flow</source>
+        <translation>試跑流程(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>取消(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>結束(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>PROGRAMMER_WINDOW</name>
+    <message>
+        <source>Device</source>
+        <translation>裝置</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>記錄</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>追蹤</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>資料</translation>
+    </message>
+    <message>
+        <source>&amp;Programmer</source>
+        <translation>燒錄器(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Not started: %1</source>
+        <translation>未開始: %1</translation>
+    </message>
+    <message>
+        <source>The place where the file begins is not a number.</source>
+        <translation>檔案起始位置不是數字。</translation>
+    </message>
+    <message>
+        <source>Address or length is not a number.</source>
+        <translation>位址或長度不是數字。</translation>
+    </message>
+    <message>
+        <source>Nothing was detected: %1</source>
+        <translation>未偵測到任何裝置: %1</translation>
+    </message>
+    <message>
+        <source>The chip has the ID %1.</source>
+        <translation>晶片的 ID 是 %1。</translation>
+    </message>
+    <message>
+        <source>No device has the ID %1.</source>
+        <translation>沒有 ID 為 %1 的裝置。</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
+        <translation>正在取消執行。如果立即停止，晶片的狀態將不明。</translation>
+    </message>
+    <message>
+        <source>A run is under way. Cancel it and close the window?</source>
+        <translation>正在執行。要取消並關閉視窗嗎?</translation>
+    </message>
+    <message>
+        <source>Stop at once</source>
+        <translation>立即停止</translation>
+    </message>
+    <message>
+        <source>Cancel the run</source>
+        <translation>取消執行</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>等待</translation>
+    </message>
+    <message>
+        <source>Keep running</source>
+        <translation>繼續執行</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_BAR</name>
+    <message>
+        <source>Progress of the run</source>
+        <translation>執行進度</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the Flow</source>
+        <translation>試跑流程(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
+        <translation>抹除、燒錄並驗證一個模擬晶片。不需要也不使用任何硬體。</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>取消(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The run is being cancelled.</source>
+        <translation>正在取消執行。</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 / %3</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩餘 %1</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_PREPARATION</name>
+    <message>
+        <source>No operation is checked.</source>
+        <translation>未勾選任何操作。</translation>
+    </message>
+    <message>
+        <source>No file is chosen.</source>
+        <translation>未選擇檔案。</translation>
+    </message>
+    <message>
+        <source>No device is chosen.</source>
+        <translation>未選擇裝置。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>裝置「%1」不存在。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read.</source>
+        <translation>無法讀取檔案 %1。</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>檔案 %1 是空的。</translation>
+    </message>
+    <message>
+        <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
+        <translation>檔案從 %2 起需要 %1 位元組，而裝置有 %3 位元組。</translation>
+    </message>
+</context>
+<context>
+    <name>RUN_WORDS</name>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Failed at %1</source>
+        <translation>在 %1 失敗</translation>
+    </message>
+    <message>
+        <source>Failed at %1, action %2 &quot;%3&quot;</source>
+        <translation>在 %1 的動作 %2「%3」失敗</translation>
+    </message>
+    <message>
+        <source>Stopped. The state of the chip is unknown.</source>
+        <translation>已停止。晶片的狀態不明。</translation>
+    </message>
+    <message>
+        <source>The connection is lost. The state of the chip is unknown.</source>
+        <translation>連線已中斷。晶片的狀態不明。</translation>
+    </message>
+    <message>
+        <source>Passed, but not everything could be stored</source>
+        <translation>通過，但未能儲存全部內容</translation>
+    </message>
+    <message>
+        <source>Passed, but a real chip would have refused or misread commands: see the log</source>
+        <translation>通過，但真實晶片會拒絕或誤讀某些命令: 請查看記錄</translation>
+    </message>
+    <message>
+        <source>Passed</source>
+        <translation>通過</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Not started: see the log</source>
+        <translation>未開始: 請查看記錄</translation>
+    </message>
+    <message>
+        <source>a test pattern</source>
+        <translation>測試圖樣</translation>
+    </message>
+    <message>
+        <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
+        <translation>在寫滿其他資料的模擬晶片上試跑 %1 的流程</translation>
+    </message>
+    <message>
+        <source>Content: %1</source>
+        <translation>內容: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more was sent, because this may be another chip than the device says.</source>
+        <translation>未再傳送任何內容，因為此晶片可能不是所選裝置。</translation>
+    </message>
+    <message>
+        <source>Note of the chip: %1</source>
+        <translation>晶片的提示: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 commands, %3 s)</source>
+        <translation>%1 (%2 個命令，%3 秒)</translation>
+    </message>
+    <message>
+        <source>Whole sectors are erased. These bytes beside the range are erased, too:
+
+%1
+
+Erase them?</source>
+        <translation>將抹除整個磁區。範圍之外的下列位元組也會被抹除:
+
+%1
+
+要抹除嗎?</translation>
+    </message>
+    <message>
+        <source>%1 on the connection %2</source>
+        <translation>%1，連線 %2</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_MODEL</name>
+    <message>
+        <source>%1 ... (%2 bytes)</source>
+        <translation>%1 ... (%2 位元組)</translation>
+    </message>
+    <message>
+        <source>%1, %2 clocks</source>
+        <translation>%1，%2 個時脈</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>編號</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>時間 (ms)</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>線路</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已傳送</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>預期</translation>
+    </message>
+</context>
+<context>
+    <name>TRACE_PAGE</name>
+    <message>
+        <source>All operations</source>
+        <translation>所有操作</translation>
+    </message>
+    <message>
+        <source>Commands of:</source>
+        <translation>命令範圍:</translation>
+    </message>
+    <message>
+        <source>Commands of the last run</source>
+        <translation>上次執行的命令</translation>
+    </message>
+    <message>
+        <source>%1 commands</source>
+        <translation>%1 個命令</translation>
     </message>
 </context>
 </TS>

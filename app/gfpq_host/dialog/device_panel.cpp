@@ -8,14 +8,12 @@
 #include "dstr/dstr.h"
 #include "words/gfpq_vocabulary.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -28,7 +26,7 @@
 namespace {
 
 // Room for what most names and paths need.
-constexpr int FIELD_CHARACTERS = 40;
+constexpr int FIELD_CHARACTERS = 28;
 
 QString scheme_text(int scheme)
 {
@@ -38,7 +36,7 @@ QString scheme_text(int scheme)
 
 QString device_text(const std::string& device_name)
 {
-    return device_name.empty() ? HOST_WINDOW::tr("none") : QString::fromLocal8Bit(device_name.c_str());
+    return device_name.empty() ? DEVICE_PANEL::tr("none") : QString::fromLocal8Bit(device_name.c_str());
 }
 
 QString family_text(int family)
@@ -75,20 +73,18 @@ void show_problem(QWidget* parent, const QString& text)
 
 } // namespace
 
-HOST_WINDOW::HOST_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice)
+DEVICE_PANEL::DEVICE_PANEL(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice)
     : m_module(module), m_options(options), m_offer(options.family_schemes), m_wanted(choice),
       m_choice(m_offer.nearest(choice))
 {
-    setWindowTitle(QGuiApplication::applicationDisplayName());
     create_contents();
-    create_menus();
     show_state();
 }
 
-HOST_WINDOW::~HOST_WINDOW() = default;
+DEVICE_PANEL::~DEVICE_PANEL() = default;
 
 // The names of families come from a file, so they do not change the size of the window.
-QComboBox* HOST_WINDOW::add_combo(QFormLayout* rows, const QString& title, const QString& object_name)
+QComboBox* DEVICE_PANEL::add_combo(QFormLayout* rows, const QString& title, const QString& object_name)
 {
     auto* combo = new QComboBox;
     combo->setObjectName(object_name);
@@ -100,7 +96,7 @@ QComboBox* HOST_WINDOW::add_combo(QFormLayout* rows, const QString& title, const
 
 // Names and paths are the user's own texts, of any length: shown from their beginning, can be copied, and do not change
 // the size of the window.
-QLineEdit* HOST_WINDOW::add_field(QFormLayout* rows, const QString& title, const QString& object_name)
+QLineEdit* DEVICE_PANEL::add_field(QFormLayout* rows, const QString& title, const QString& object_name)
 {
     auto* field = new QLineEdit;
     field->setObjectName(object_name);
@@ -114,7 +110,7 @@ QLineEdit* HOST_WINDOW::add_field(QFormLayout* rows, const QString& title, const
     return field;
 }
 
-QWidget* HOST_WINDOW::create_problem_row()
+QWidget* DEVICE_PANEL::create_problem_row()
 {
     m_problem_row = new QWidget;
     auto* icon = new QLabel;
@@ -135,52 +131,39 @@ QWidget* HOST_WINDOW::create_problem_row()
     return m_problem_row;
 }
 
-void HOST_WINDOW::create_contents()
+void DEVICE_PANEL::create_contents()
 {
     auto* rows = new QFormLayout;
     m_family_combo = add_combo(rows, tr("Device &family:"), QStringLiteral("m_family_combo"));
     m_family_combo->setEnabled(m_options.enable_family);
-    connect(m_family_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &HOST_WINDOW::choose_family);
+    connect(m_family_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &DEVICE_PANEL::choose_family);
     m_mode_combo = add_combo(rows, tr("Configuration &mode:"), QStringLiteral("m_mode_combo"));
     m_mode_combo->setEnabled(m_options.enable_config_mode);
-    connect(m_mode_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &HOST_WINDOW::choose_mode);
+    connect(m_mode_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &DEVICE_PANEL::choose_mode);
     m_device_field = add_field(rows, tr("Configuration &device:"), QStringLiteral("m_device_field"));
     m_directory_field = add_field(rows, tr("Database di&rectory:"), QStringLiteral("m_directory_field"));
 
     auto* button = new QPushButton(tr("&Configuration Device..."));
     button->setObjectName(QStringLiteral("m_dialog_button"));
-    connect(button, &QPushButton::clicked, this, &HOST_WINDOW::open_dialog);
+    connect(button, &QPushButton::clicked, this, &DEVICE_PANEL::open_dialog);
 
-    auto* contents = new QWidget;
-    auto* column = new QVBoxLayout(contents);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
     column->addLayout(rows);
     column->addWidget(create_problem_row());
-    column->addStretch();
     column->addWidget(button, 0, Qt::AlignRight);
-    setCentralWidget(contents);
-    button->setFocus();
-}
-
-void HOST_WINDOW::create_menus()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Programmer"));
-    QAction* dialog = menu->addAction(tr("&Configuration Device..."), this, &HOST_WINDOW::open_dialog);
-    dialog->setObjectName(QStringLiteral("m_dialog_action"));
-    menu->addSeparator();
-    QAction* quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
-    quit->setObjectName(QStringLiteral("m_quit_action"));
-    quit->setShortcut(QKeySequence::Quit);
+    setFocusProxy(button);
 }
 
 // What the combos cannot show is taken as it is: the dialog decides.
-void HOST_WINDOW::show_choice()
+void DEVICE_PANEL::show_choice()
 {
     show_values(m_family_combo, m_offer.families(), m_choice.family, family_text);
     show_values(m_mode_combo, m_offer.schemes(m_choice.family), m_choice.config_scheme, scheme_text);
     show_text(m_device_field, device_text(m_choice.device_name));
 }
 
-void HOST_WINDOW::show_state()
+void DEVICE_PANEL::show_state()
 {
     show_choice();
     const DATABASE_STATE database = database_state();
@@ -189,7 +172,7 @@ void HOST_WINDOW::show_state()
     m_problem_row->setVisible(!database.problem.isEmpty());
 }
 
-void HOST_WINDOW::choose(const HOST_CHOICE& wanted)
+void DEVICE_PANEL::choose(const HOST_CHOICE& wanted)
 {
     m_wanted = wanted;
     m_choice = m_offer.nearest(wanted);
@@ -199,14 +182,14 @@ void HOST_WINDOW::choose(const HOST_CHOICE& wanted)
     emit choice_changed();
 }
 
-void HOST_WINDOW::choose_family()
+void DEVICE_PANEL::choose_family()
 {
     HOST_CHOICE wanted = m_wanted;
     wanted.family = m_family_combo->currentData().toInt();
     choose(wanted);
 }
 
-void HOST_WINDOW::choose_mode()
+void DEVICE_PANEL::choose_mode()
 {
     HOST_CHOICE wanted = m_wanted;
     wanted.family = m_choice.family;
@@ -214,16 +197,16 @@ void HOST_WINDOW::choose_mode()
     choose(wanted);
 }
 
-void HOST_WINDOW::open_dialog()
+void DEVICE_PANEL::open_dialog()
 {
     const GFPQ_DYN_DLG entry_point = m_module.entry_point();
     if (!entry_point) {
-        show_problem(this, m_module.problem());
+        show_problem(window(), m_module.problem());
         return;
     }
     DIALOG_OPTIONS options = m_options;
     options.family_schemes = m_offer.for_opening(m_choice.config_scheme);
-    m_choice = ::open_dialog(entry_point, this, m_choice, options);
+    m_choice = ::open_dialog(entry_point, window(), m_choice, options);
     m_wanted = m_choice;
     show_state();
     emit choice_changed();

@@ -1,32 +1,35 @@
 // SPDX-License-Identifier: MIT
 
-// The main window: what is chosen, which database it comes from, and the way to the dialog.
+// What is chosen, which database it comes from, and the way to the dialog.
 #pragma once
 
 #include "dialog/host_offer.h"
 #include "program/host_arguments.h"
 #include "program/host_choice.h"
 
-#include <QMainWindow>
+#include <QWidget>
 
 class MODULE_LOADER;
 class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 
 // The family and the mode are chosen here, because one opening of the dialog offers modes of one kind only.
-class HOST_WINDOW : public QMainWindow
+class DEVICE_PANEL : public QWidget
 {
     Q_OBJECT
 
 public:
-    // Opens the dialog of `module` (not owned, must outlive the window) with `options`, first with what comes nearest
+    // Opens the dialog of `module` (not owned, must outlive the panel) with `options`, first with what comes nearest
     // to `choice`.
-    HOST_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice);
-    ~HOST_WINDOW() override;
+    DEVICE_PANEL(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice);
+    ~DEVICE_PANEL() override;
 
     const HOST_CHOICE& choice() const { return m_choice; }
+    // Makes what comes nearest to `wanted` the choice, as if the user had chosen it.
+    void choose(const HOST_CHOICE& wanted);
 
 public slots:
     // Opens the dialog and returns when it was closed. A module that cannot be used is reported in a box.
@@ -45,8 +48,6 @@ private:
     QLineEdit* add_field(QFormLayout* rows, const QString& title, const QString& object_name);
     QWidget* create_problem_row();
     void create_contents();
-    void create_menus();
-    void choose(const HOST_CHOICE& wanted);
     void show_state();
     void show_choice();
 

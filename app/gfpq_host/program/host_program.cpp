@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "program/host_program.h"
 
-#include "dialog/device_panel.h"
 #include "dialog/dialog_call.h"
 #include "dialog/host_offer.h"
 #include "dialog/module_loader.h"
@@ -9,6 +8,7 @@
 #include "program/host_choice.h"
 #include "program/host_database.h"
 #include "program/host_translation.h"
+#include "programmer/programmer_window.h"
 
 #include "dstr/dstr.h"
 #include "kovq/kovq_dialog.h"
@@ -77,8 +77,9 @@ DIALOG_OPTIONS options_for(const HOST_CHOICE& choice, const HOST_ARGUMENTS& argu
 
 int run_window(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, QSettings& settings)
 {
-    HOST_WINDOW window(module, arguments.dialog, first_choice(arguments, settings));
-    QObject::connect(&window, &HOST_WINDOW::choice_changed, &window, [&] { store_choice(window.choice(), settings); });
+    PROGRAMMER_WINDOW window(module, arguments.dialog, first_choice(arguments, settings), settings);
+    QObject::connect(&window, &PROGRAMMER_WINDOW::choice_changed, &window,
+                     [&] { store_choice(window.choice(), settings); });
     window.show();
     return QCoreApplication::exec();
 }

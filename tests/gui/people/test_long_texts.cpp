@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 
-// The dialogs and the host's window in a language whose texts are half as long again: nothing is cut.
+// The dialogs in a language whose texts are half as long again: nothing is cut.
 #include "people_test.h"
 
 #include "cut_labels.h"
-#include "dialog/device_panel.h"
-#include "dialog/dialog_call.h"
 #include "dialog/gfpq_edit_template_dlg.h"
 #include "dialog/gfpq_pane_fitter.h"
-#include "dialog/module_loader.h"
-#include "program/host_choice.h"
 #include "text_catalogue.h"
 
 #include <QCheckBox>
@@ -36,9 +32,7 @@ private:
         qputenv("GFPQ_TRANSLATIONS", GFPQ_PSEUDO_CATALOGUES);
         QLocale::setDefault(QLocale(QLocale::English));
         m_texts.emplace(qs("gfpq"), QStringList());
-        m_host_texts.emplace(qs("gfpq_host"), QStringList());
         QVERIFY(m_texts->is_installed());
-        QVERIFY(m_host_texts->is_installed());
     }
 
     // The dialog, its rows of the flow template included.
@@ -292,23 +286,11 @@ private slots:
         QVERIFY(splitter().sizes().last() < splitter().width() * 6 / 10);
     }
 
-    void the_host_window_cuts_nothing()
-    {
-        use_long_texts();
-        MODULE_LOADER module({qs("/no/module")});
-        HOST_WINDOW window(module, DIALOG_OPTIONS(), HOST_CHOICE());
-        window.show();
-
-        QCOMPARE(cut_labels(window).join(QLatin1Char('\n')), QString());
-        QCOMPARE(label_count(window), 5);
-    }
-
 private:
     void take_down() override
     {
         PEOPLE_TEST::take_down();
         m_texts.reset();
-        m_host_texts.reset();
         qunsetenv("GFPQ_TRANSLATIONS");
         QLocale::setDefault(QLocale::c());
     }
@@ -317,7 +299,6 @@ private:
     QSplitter& splitter() const { return child<QSplitter>("m_config_device_splitter"); }
 
     std::optional<TEXT_CATALOGUE> m_texts;
-    std::optional<TEXT_CATALOGUE> m_host_texts;
 };
 
 GFPQ_TEST_MAIN(TEST_LONG_TEXTS)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The main window of the host.
+// What is chosen in the host, and the way to the dialog.
 #include "dialog/device_panel.h"
 #include "dialog/module_loader.h"
 #include "fake_module.h"
@@ -12,7 +12,6 @@
 #include "dstr/dstr.h"
 
 #include <QAccessible>
-#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -42,16 +41,18 @@ struct FAKE_LOADER
 };
 
 // A window with the fake module.
-struct TEST_WINDOW : FAKE_LOADER, HOST_WINDOW
+struct TEST_WINDOW : FAKE_LOADER, DEVICE_PANEL
 {
     explicit TEST_WINDOW(const HOST_CHOICE& choice = {}, const DIALOG_OPTIONS& options = {})
-        : HOST_WINDOW(module, options, choice)
-    {}
+        : DEVICE_PANEL(module, options, choice)
+    {
+        setWindowTitle(TITLE);
+    }
 };
 
 } // namespace
 
-class TEST_HOST_WINDOW : public QObject
+class TEST_DEVICE_PANEL : public QObject
 {
     Q_OBJECT
 
@@ -79,7 +80,6 @@ private slots:
     {
         const TEST_WINDOW window(choice_of(1, 13, "MX25L25645G"));
 
-        QCOMPARE(window.windowTitle(), TITLE);
         QCOMPARE(shown(window, "m_family_combo"), QStringLiteral("Poplar"));
         QCOMPARE(shown(window, "m_mode_combo"), QStringLiteral("Active Serial x4"));
         QCOMPARE(shown(window, "m_device_field"), QStringLiteral("MX25L25645G"));
@@ -126,7 +126,7 @@ private slots:
     {
         gfpdb_mgr().schemes_of = {{3, {8, 7}}};
         TEST_WINDOW window(choice_of(3, 13, "MX25"));
-        QSignalSpy changed(&window, &HOST_WINDOW::choice_changed);
+        QSignalSpy changed(&window, &DEVICE_PANEL::choice_changed);
 
         QCOMPARE(window.choice().config_scheme, 8);
         QCOMPARE(shown(window, "m_mode_combo"), QStringLiteral("Active Parallel"));
@@ -154,7 +154,7 @@ private slots:
     {
         gfpdb_mgr().schemes_of = {{3, {7, 13}}, {9, {8, 13}}, {5, {8}}};
         TEST_WINDOW window(choice_of(3, 13, ""));
-        QSignalSpy changed(&window, &HOST_WINDOW::choice_changed);
+        QSignalSpy changed(&window, &DEVICE_PANEL::choice_changed);
         const auto choose = [&](const char* name, const char* text) {
             changed.clear();
             combo(window, name).setCurrentText(QLatin1String(text));
@@ -296,23 +296,16 @@ private slots:
         }
     }
 
-    void dialog_opens_with_choice_and_options_data() { rows<bool>({{"button", false}, {"menu", true}}); }
-
     void dialog_opens_with_choice_and_options()
     {
-        const bool by_menu = row<bool>();
         DIALOG_OPTIONS options;
         options.enable_edit = false;
         options.family_schemes = {{3, {7}}};
         TEST_WINDOW window(choice_of(3, 7, "MX25"), options);
-        QSignalSpy changed(&window, &HOST_WINDOW::choice_changed);
+        QSignalSpy changed(&window, &DEVICE_PANEL::choice_changed);
 
         auto* button = window.findChild<QPushButton*>(QStringLiteral("m_dialog_button"));
-        auto* action = window.findChild<QAction*>(QStringLiteral("m_dialog_action"));
-        if (by_menu)
-            action->trigger();
-        else
-            button->click();
+        button->click();
 
         QCOMPARE(changed.count(), 1);
         QCOMPARE(window.choice().family, FAKE_FAMILY);
@@ -326,8 +319,8 @@ private slots:
     void missing_module_is_told_in_a_box()
     {
         MODULE_LOADER module({QStringLiteral("/no/such/<b>module.so")});
-        HOST_WINDOW window(module, DIALOG_OPTIONS(), choice_of(1, 7, "MX25"));
-        QSignalSpy changed(&window, &HOST_WINDOW::choice_changed);
+        DEVICE_PANEL window(module, DIALOG_OPTIONS(), choice_of(1, 7, "MX25"));
+        QSignalSpy changed(&window, &DEVICE_PANEL::choice_changed);
 
         m_modals.expect(MODAL_DRIVER::accept());
         window.open_dialog();
@@ -341,18 +334,6 @@ private slots:
         QVERIFY(m_modals.last().has_parent);
         QCOMPARE(changed.count(), 0);
         QCOMPARE(window.choice().device_name, std::string("MX25"));
-    }
-
-    void quit_closes_the_window()
-    {
-        TEST_WINDOW window;
-        window.show();
-        auto* quit = window.findChild<QAction*>(QStringLiteral("m_quit_action"));
-
-        quit->trigger();
-
-        QVERIFY(!window.isVisible());
-        QCOMPARE(quit->shortcut(), QKeySequence(QKeySequence::Quit));
     }
 
     void database_directory_is_made_absolute_data()
@@ -397,7 +378,7 @@ private slots:
     }
 
 private:
-    static QString shown(const HOST_WINDOW& window, const char* name)
+    static QString shown(const DEVICE_PANEL& window, const char* name)
     {
         const auto* widget = window.findChild<QWidget*>(QLatin1String(name));
         if (!widget)
@@ -406,7 +387,7 @@ private:
         return widget->property(property).toString();
     }
 
-    static QComboBox& combo(const HOST_WINDOW& window, const char* name)
+    static QComboBox& combo(const DEVICE_PANEL& window, const char* name)
     {
         auto* found = window.findChild<QComboBox*>(QLatin1String(name));
         if (!found)
@@ -414,7 +395,7 @@ private:
         return *found;
     }
 
-    static QStringList entries(const HOST_WINDOW& window, const char* name)
+    static QStringList entries(const DEVICE_PANEL& window, const char* name)
     {
         const QComboBox& list = combo(window, name);
         QStringList texts;
@@ -426,6 +407,6 @@ private:
     MODAL_DRIVER m_modals;
 };
 
-QTEST_MAIN(TEST_HOST_WINDOW)
+QTEST_MAIN(TEST_DEVICE_PANEL)
 
 #include "test_device_panel.moc"

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "programmer/panel_form.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace {
+
+constexpr int FIELD_CHARACTERS = 10;
+
+} // namespace
+
+QFormLayout* make_form(QWidget* page)
+{
+    auto* form = new QFormLayout(page);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    return form;
+}
+
+void add_row(QFormLayout* form, const QString& label, QWidget* widget, const char* object_name, QWidget* row)
+{
+    widget->setObjectName(QLatin1String(object_name));
+    auto* title = new QLabel(label);
+    title->setBuddy(widget);
+    form->addRow(title, row ? row : widget);
+}
+
+QWidget* side_by_side(QWidget* first, QWidget* second)
+{
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(first, 1);
+    layout->addWidget(second);
+    return row;
+}
+
+QComboBox* make_editable_combo()
+{
+    auto* combo = new QComboBox;
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(FIELD_CHARACTERS);
+    combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return combo;
+}

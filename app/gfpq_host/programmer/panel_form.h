@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+
+// What the panels of the window have in common.
+#pragma once
+
+#include <QString>
+
+class QComboBox;
+class QFormLayout;
+class QWidget;
+
+// A form without margins on `page`; a field that has no room beside its label goes below it.
+QFormLayout* make_form(QWidget* page);
+
+// Adds a row: `widget`, or `row` with the widget in it, gets the label with its access key, and the object name.
+void add_row(QFormLayout* form, const QString& label, QWidget* widget, const char* object_name, QWidget* row = nullptr);
+
+// `first` and `second` side by side; the first one takes the room.
+QWidget* side_by_side(QWidget* first, QWidget* second);
+
+// A combo box in which the user also types; its texts do not widen the window.
+QComboBox* make_editable_combo();

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "programmer/programmer_menu.h"
+
+QAction* PROGRAMMER_MENU::add(const QString& text, const char* object_name, const QKeySequence& keys,
+                              void (PROGRAMMER_MENU::*asked)())
+{
+    QAction* action = addAction(text, this, asked);
+    action->setObjectName(QLatin1String(object_name));
+    action->setShortcut(keys);
+    return action;
+}
+
+PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent)
+    : QMenu(parent),
+      m_dialog(add(tr("&Configuration Device..."), "m_dialog_action", {}, &PROGRAMMER_MENU::dialog_asked)),
+      m_detect(add(tr("&Detect"), "m_detect_action", Qt::Key_F4, &PROGRAMMER_MENU::detect_asked))
+{
+    add(tr("&Open File..."), "m_open_action", QKeySequence::Open, &PROGRAMMER_MENU::file_asked);
+    addSeparator();
+    m_trial = add(tr("&Try the Flow"), "m_trial_action", Qt::Key_F6, &PROGRAMMER_MENU::trial_asked);
+    m_start = add(tr("&Start"), "m_start_action", Qt::Key_F5, &PROGRAMMER_MENU::start_asked);
+    m_cancel = add(tr("C&ancel"), "m_cancel_action", Qt::Key_Escape, &PROGRAMMER_MENU::cancel_asked);
+    addSeparator();
+    add(tr("&Quit"), "m_quit_action", QKeySequence::Quit, &PROGRAMMER_MENU::quit_asked);
+    show_busy(false);
+}
+
+void PROGRAMMER_MENU::show_busy(bool is_busy)
+{
+    for (QAction* action : {m_dialog, m_detect, m_trial, m_start})
+        action->setEnabled(!is_busy);
+    m_cancel->setEnabled(is_busy);
+}

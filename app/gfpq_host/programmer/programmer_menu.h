@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+
+// The window's menu.
+#pragma once
+
+#include <QMenu>
+
+class QAction;
+
+class PROGRAMMER_MENU : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit PROGRAMMER_MENU(QWidget* parent);
+
+    // What is possible while something is under way, and while nothing is.
+    void show_busy(bool is_busy);
+
+signals:
+    void dialog_asked();
+    void detect_asked();
+    void file_asked();
+    void trial_asked();
+    void start_asked();
+    void cancel_asked();
+    void quit_asked();
+
+private:
+    QAction* add(const QString& text, const char* object_name, const QKeySequence& keys,
+                 void (PROGRAMMER_MENU::*asked)());
+
+    QAction* m_dialog;
+    QAction* m_detect;
+    QAction* m_trial;
+    QAction* m_start;
+    QAction* m_cancel;
+};

@@ -1,0 +1,429 @@
+// SPDX-License-Identifier: MIT
+#include "programmer/programmer_window.h"
+
+#include "programmer/connection_panel.h"
+#include "programmer/detected_dialog.h"
+#include "programmer/file_panel.h"
+#include "programmer/order_panel.h"
+#include "programmer/programmer_menu.h"
+#include "programmer/run_bar.h"
+#include "programmer/run_words.h"
+#include "results/data_page.h"
+#include "results/run_log.h"
+#include "results/trace_page.h"
+#include "run/chosen_device.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int FIRST_WIDTH = 1180;
+constexpr int FIRST_HEIGHT = 700;
+// Tight, so that a screen of 768 lines shows all entries.
+constexpr int GROUP_SIDE = 8;
+constexpr int GROUP_TOP = 4;
+// What a window manager adds around a window, and panels of the desktop.
+constexpr int SCREEN_SHARE_PERCENT = 92;
+
+const QString GEOMETRY_KEY = QStringLiteral("programmer/geometry");
+const QString SPLITTER_KEY = QStringLiteral("programmer/splitter");
+
+QWidget* in_group(const QString& title, QWidget* panel)
+{
+    auto* group = new QGroupBox(title);
+    auto* column = new QVBoxLayout(group);
+    column->setContentsMargins(GROUP_SIDE, GROUP_TOP, GROUP_SIDE, GROUP_TOP);
+    column->addWidget(panel);
+    return group;
+}
+
+// The local file of a drag, if it is one.
+QString file_of(const QMimeData* data)
+{
+    const QList<QUrl> urls = data->urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+} // namespace
+
+PROGRAMMER_WINDOW::PROGRAMMER_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice,
+                                     QSettings& settings)
+    : m_settings(settings), m_device_panel(new DEVICE_PANEL(module, options, choice))
+{
+    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setAcceptDrops(true);
+    create_panels();
+    create_results();
+    create_menu();
+    connect_run();
+    m_connection_panel->load(settings);
+    m_file_panel->load(settings);
+    m_order_panel->load(settings);
+    set_first_size();
+    m_device_panel->setFocus();
+}
+
+PROGRAMMER_WINDOW::~PROGRAMMER_WINDOW() = default;
+
+// The entries can be scrolled: a small screen shows them one after the other, and the buttons always.
+QWidget* PROGRAMMER_WINDOW::create_entries()
+{
+    auto* entries = new QWidget;
+    auto* column = new QVBoxLayout(entries);
+    column->setContentsMargins(0, 0, GROUP_TOP, 0);
+    column->setSpacing(GROUP_TOP);
+    column->addWidget(in_group(tr("Device"), m_device_panel));
+    column->addWidget(in_group(tr("Connection"), m_connection_panel));
+    column->addWidget(in_group(tr("File"), m_file_panel));
+    column->addWidget(in_group(tr("Operations"), m_order_panel));
+    column->addStretch();
+    auto* area = new QScrollArea;
+    area->setObjectName(QStringLiteral("m_entries_area"));
+    area->setWidget(entries);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setMinimumWidth(entries->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    return area;
+}
+
+void PROGRAMMER_WINDOW::create_panels()
+{
+    m_connection_panel = new CONNECTION_PANEL;
+    m_file_panel = new FILE_PANEL;
+    m_order_panel = new ORDER_PANEL;
+    m_run_bar = new RUN_BAR;
+    m_splitter = new QSplitter;
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(create_entries());
+    connect(m_device_panel, &DEVICE_PANEL::choice_changed, this, &PROGRAMMER_WINDOW::choice_changed);
+    connect(m_connection_panel, &CONNECTION_PANEL::detect_asked, this, &PROGRAMMER_WINDOW::detect);
+    connect(m_run_bar, &RUN_BAR::start_asked, this, &PROGRAMMER_WINDOW::start);
+    connect(m_run_bar, &RUN_BAR::trial_asked, this, &PROGRAMMER_WINDOW::try_flow);
+    connect(m_run_bar, &RUN_BAR::cancel_asked, this, &PROGRAMMER_WINDOW::cancel);
+}
+
+void PROGRAMMER_WINDOW::create_results()
+{
+    m_log = new RUN_LOG;
+    m_log->setObjectName(QStringLiteral("m_log"));
+    m_log->setAccessibleName(tr("Log"));
+    m_trace_page = new TRACE_PAGE;
+    m_data_page = new DATA_PAGE;
+    m_results = new QTabWidget;
+    m_results->setObjectName(QStringLiteral("m_results"));
+    m_results->addTab(m_log, tr("Log"));
+    m_results->addTab(m_trace_page, tr("Trace"));
+    m_results->addTab(m_data_page, tr("Data"));
+    for (int page = 0; page < m_results->count(); ++page) {
+        const QKeySequence keys(Qt::ALT + Qt::Key_1 + page);
+        auto* shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this, [this, page] { show_page(page); });
+        m_results->setTabToolTip(page, keys.toString(QKeySequence::NativeText));
+    }
+    connect(m_data_page, &DATA_PAGE::failed, m_log, &RUN_LOG::add);
+
+    m_splitter->addWidget(m_results);
+    m_splitter->setStretchFactor(1, 1);
+    auto* contents = new QWidget;
+    auto* column = new QVBoxLayout(contents);
+    column->addWidget(m_splitter, 1);
+    column->addWidget(m_run_bar);
+    setCentralWidget(contents);
+}
+
+void PROGRAMMER_WINDOW::show_page(int page)
+{
+    m_results->setCurrentIndex(page);
+    m_results->tabBar()->setFocus();
+}
+
+void PROGRAMMER_WINDOW::create_menu()
+{
+    m_menu = new PROGRAMMER_MENU(this);
+    m_menu->setTitle(tr("&Programmer"));
+    menuBar()->addMenu(m_menu);
+    connect(m_menu, &PROGRAMMER_MENU::dialog_asked, m_device_panel, &DEVICE_PANEL::open_dialog);
+    connect(m_menu, &PROGRAMMER_MENU::detect_asked, this, &PROGRAMMER_WINDOW::detect);
+    connect(m_menu, &PROGRAMMER_MENU::file_asked, m_file_panel, &FILE_PANEL::browse);
+    connect(m_menu, &PROGRAMMER_MENU::trial_asked, this, &PROGRAMMER_WINDOW::try_flow);
+    connect(m_menu, &PROGRAMMER_MENU::start_asked, this, &PROGRAMMER_WINDOW::start);
+    connect(m_menu, &PROGRAMMER_MENU::cancel_asked, this, &PROGRAMMER_WINDOW::cancel);
+    connect(m_menu, &PROGRAMMER_MENU::quit_asked, this, &QWidget::close);
+}
+
+void PROGRAMMER_WINDOW::connect_run()
+{
+    connect(&m_controller, &RUN_CONTROLLER::busy_changed, this, &PROGRAMMER_WINDOW::show_busy);
+    connect(&m_controller, &RUN_CONTROLLER::phase_started, this, [this](GFPE_PHASE phase) {
+        m_run_bar->show_phase(phase);
+        m_log->add(QString::fromUtf8(gfpe_phase_name(phase)));
+    });
+    connect(&m_controller, &RUN_CONTROLLER::progressed, this,
+            [this](const GFPE_PROGRESS& progress, double rate, int seconds_left) {
+                if (!m_controller.is_ending())
+                    m_run_bar->show_progress(progress, rate, seconds_left);
+            });
+    connect(&m_controller, &RUN_CONTROLLER::finished, this, &PROGRAMMER_WINDOW::finish);
+    connect(&m_controller, &RUN_CONTROLLER::detected, this, &PROGRAMMER_WINDOW::show_detected);
+}
+
+// As it was left, else as large as is useful and the screen allows.
+void PROGRAMMER_WINDOW::set_first_size()
+{
+    const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
+    resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    restoreGeometry(m_settings.value(GEOMETRY_KEY).toByteArray());
+    m_splitter->restoreState(m_settings.value(SPLITTER_KEY).toByteArray());
+}
+
+QWidget* PROGRAMMER_WINDOW::place_of(RUN_LACK lack) const
+{
+    switch (lack) {
+    case RUN_LACK::NO_DEVICE:
+        return m_device_panel;
+    case RUN_LACK::NO_FILE:
+        return m_file_panel;
+    case RUN_LACK::NO_OPERATION:
+        return m_order_panel;
+    case RUN_LACK::NOTHING:
+        break;
+    }
+    return nullptr;
+}
+
+// The focus goes to what has to be corrected.
+void PROGRAMMER_WINDOW::refuse(const QString& problem, QWidget* place)
+{
+    m_run_bar->show_verdict(tr("Not started: %1").arg(problem), RUN_BAR::BAD);
+    m_log->add(tr("Not started: %1").arg(problem));
+    if (place)
+        place->setFocus();
+}
+
+std::optional<RUN_WISH> PROGRAMMER_WINDOW::wish()
+{
+    RUN_WISH wish;
+    QString problem;
+    const std::optional<GFPE_CONNECTION> connection = m_connection_panel->connection(problem);
+    const std::optional<std::int64_t> file_position = m_file_panel->position();
+    if (!connection) {
+        refuse(problem, m_connection_panel);
+        return std::nullopt;
+    }
+    if (!file_position) {
+        refuse(tr("The place where the file begins is not a number."), m_file_panel);
+        return std::nullopt;
+    }
+    if (!m_order_panel->read(wish)) {
+        refuse(tr("Address or length is not a number."), m_order_panel);
+        return std::nullopt;
+    }
+    wish.choice = choice();
+    wish.connection = *connection;
+    wish.file = m_file_panel->file();
+    wish.file_position = *file_position;
+    return wish;
+}
+
+bool PROGRAMMER_WINDOW::confirm_erase(const std::vector<GFPE_RANGE>& erased_beside)
+{
+    QMessageBox box(QMessageBox::Warning, windowTitle(), RUN_WORDS::erase_question(erased_beside), QMessageBox::Cancel,
+                    this);
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* erase =
+        box.addButton(QString::fromUtf8(gfpe_phase_name(GFPE_PHASE::ERASE)), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == erase;
+}
+
+void PROGRAMMER_WINDOW::begin(PREPARED_RUN prepared, bool is_trial)
+{
+    if (!prepared.request) {
+        refuse(prepared.problem, place_of(prepared.lack));
+        return;
+    }
+    // Nobody minds what a trial erases.
+    if (!is_trial && !prepared.erased_beside.empty() && !confirm_erase(prepared.erased_beside))
+        return;
+    m_run_bar->clear_verdict();
+    m_trace_page->show_trace(nullptr);
+    for (const QString& line : RUN_WORDS::start_lines(*prepared.request, is_trial))
+        m_log->add(line);
+    m_controller.start(std::move(*prepared.request));
+}
+
+void PROGRAMMER_WINDOW::start()
+{
+    if (m_controller.is_busy())
+        return;
+    if (const std::optional<RUN_WISH> entered = wish())
+        begin(m_preparation.prepare(*entered), false);
+}
+
+void PROGRAMMER_WINDOW::try_flow()
+{
+    if (m_controller.is_busy())
+        return;
+    if (const std::optional<RUN_WISH> entered = wish())
+        begin(m_preparation.prepare_trial(*entered), true);
+}
+
+void PROGRAMMER_WINDOW::cancel()
+{
+    m_controller.cancel();
+    if (m_controller.is_busy())
+        m_run_bar->show_ending();
+}
+
+void PROGRAMMER_WINDOW::show_busy()
+{
+    const bool is_busy = m_controller.is_busy();
+    m_menu->show_busy(is_busy);
+    for (QWidget* panel : {static_cast<QWidget*>(m_device_panel), static_cast<QWidget*>(m_connection_panel),
+                           static_cast<QWidget*>(m_file_panel), static_cast<QWidget*>(m_order_panel)})
+        panel->setEnabled(!is_busy);
+    if (is_busy)
+        m_run_bar->show_busy();
+    else
+        m_run_bar->show_idle();
+}
+
+void PROGRAMMER_WINDOW::finish(const RUN_OUTCOME& outcome)
+{
+    for (const QString& line : RUN_WORDS::end_lines(outcome))
+        m_log->add(line);
+    m_trace_page->show_trace(outcome.trace);
+    if (outcome.read_out)
+        m_data_page->show_read_out(outcome.read_out);
+    const RUN_WORDS::VERDICT verdict = RUN_WORDS::verdict(outcome);
+    m_run_bar->show_verdict(verdict.text, verdict.mood);
+    if (m_closes_at_the_end)
+        close();
+}
+
+void PROGRAMMER_WINDOW::detect()
+{
+    QString problem;
+    const std::optional<GFPE_CONNECTION> connection = m_connection_panel->connection(problem);
+    std::optional<RUN_TARGET> target;
+    if (connection && !m_controller.is_busy())
+        target = m_preparation.prepare_detection(choice(), *connection, problem);
+    if (!target) {
+        refuse(problem, m_connection_panel);
+        return;
+    }
+    m_run_bar->clear_verdict();
+    m_controller.detect(*target);
+}
+
+void PROGRAMMER_WINDOW::choose_detected(const GFPDB_RECORD& device)
+{
+    HOST_CHOICE wanted = choice();
+    wanted.device_name = device.row.name;
+    const bool is_stored = device.row.scheme >= 0;
+    if (is_stored) {
+        wanted.family = device.row.family;
+        wanted.config_scheme = device.row.scheme;
+    }
+    m_device_panel->choose(wanted);
+}
+
+void PROGRAMMER_WINDOW::show_detected(const DETECTION& detection)
+{
+    if (m_closes_at_the_end) {
+        close();
+        return;
+    }
+    if (!detection.problem.isEmpty()) {
+        m_run_bar->show_verdict(tr("Nothing was detected: %1").arg(detection.problem), RUN_BAR::BAD);
+        m_log->add(tr("Nothing was detected: %1").arg(detection.problem));
+        return;
+    }
+    const QString id = id_text(detection.id);
+    const std::vector<GFPDB_RECORD> devices = find_devices_with_id(detection.id);
+    m_log->add(tr("The chip has the ID %1.").arg(id));
+    if (devices.empty()) {
+        m_run_bar->show_verdict(tr("No device has the ID %1.").arg(id), RUN_BAR::DOUBTFUL);
+        return;
+    }
+    DETECTED_DIALOG dialog(this, id, devices, choice().device_name);
+    if (dialog.exec() == QDialog::Accepted)
+        choose_detected(devices[static_cast<std::size_t>(dialog.selected())]);
+}
+
+// First the run is cancelled; who closes again stops it at once.
+bool PROGRAMMER_WINDOW::confirm_close()
+{
+    const bool is_ending = m_controller.is_ending();
+    QMessageBox box(QMessageBox::Question, windowTitle(),
+                    is_ending
+                        ? tr("The run is being cancelled. If it is stopped at once, the state of the chip is unknown.")
+                        : tr("A run is under way. Cancel it and close the window?"),
+                    QMessageBox::NoButton, this);
+    const QPushButton* end =
+        box.addButton(is_ending ? tr("Stop at once") : tr("Cancel the run"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(box.addButton(is_ending ? tr("Wait") : tr("Keep running"), QMessageBox::RejectRole));
+    box.exec();
+    if (box.clickedButton() != end)
+        return false;
+    m_closes_at_the_end = true;
+    if (is_ending)
+        m_controller.stop();
+    else
+        cancel();
+    return true;
+}
+
+void PROGRAMMER_WINDOW::closeEvent(QCloseEvent* event)
+{
+    if (m_controller.is_busy())
+        confirm_close();
+    // The run may have ended while the question was there.
+    if (m_controller.is_busy()) {
+        event->ignore();
+        return;
+    }
+    store();
+    event->accept();
+}
+
+void PROGRAMMER_WINDOW::store()
+{
+    m_connection_panel->store(m_settings);
+    m_file_panel->store(m_settings);
+    m_order_panel->store(m_settings);
+    m_settings.setValue(GEOMETRY_KEY, saveGeometry());
+    m_settings.setValue(SPLITTER_KEY, m_splitter->saveState());
+}
+
+void PROGRAMMER_WINDOW::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!m_controller.is_busy() && !file_of(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void PROGRAMMER_WINDOW::dropEvent(QDropEvent* event)
+{
+    if (m_controller.is_busy())
+        return;
+    m_file_panel->choose(file_of(event->mimeData()));
+    event->acceptProposedAction();
+}

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "run/run_worker.h"
+
+#include "run/test_pattern.h"
+
+#include "gfpe/gfpe_detect.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <utility>
+
+namespace {
+
+constexpr double MS_A_SECOND = 1000;
+
+QString text_of(const std::string& utf8)
+{
+    return QString::fromStdString(utf8);
+}
+
+// The chip as a board has it after it was switched on.
+bool prepare_chip(const RUN_TARGET& target, std::string& problem)
+{
+    CHIP_IN_USE& used = *target.chip;
+    if (!used.has_read_file && !target.connection.file.empty() && !used.chip->use_file(target.connection.file, problem))
+        return false;
+    used.has_read_file = true;
+    if (target.is_used_chip)
+        used.chip->fill_memory(0x00);
+    used.chip->cycle_power();
+    used.chip->clear_notes();
+    return true;
+}
+
+// The connection to work on: an emulated chip, or one that is opened here and held by `opened`. Null: `problem` says
+// why.
+GFPE_BUS* open_bus(const RUN_TARGET& target, std::unique_ptr<GFPE_BUS>& opened, QString& problem)
+{
+    std::string text;
+    GFPE_BUS* bus = nullptr;
+    if (target.chip) {
+        bus = prepare_chip(target, text) ? target.chip->chip.get() : nullptr;
+    } else {
+        opened = gfpe_open_connection(target.connection, nullptr, text);
+        bus = opened.get();
+    }
+    if (bus == nullptr)
+        problem = text_of(text);
+    return bus;
+}
+
+void finish_chip(GFPE_CHIP& chip, RUN_OUTCOME& outcome)
+{
+    for (const std::string& note : chip.get_notes())
+        outcome.notes.append(text_of(note));
+    std::string problem;
+    if (!chip.save(problem) && outcome.problem.isEmpty())
+        outcome.problem = text_of(problem);
+}
+
+// Null for none, and when it cannot be used: `problem` says why.
+std::unique_ptr<GFPE_IMAGE> open_image(const RUN_REQUEST& request, QString& problem)
+{
+    const std::int64_t device_bytes = request.plan->get_device().bytes;
+    if (request.has_pattern)
+        return make_test_pattern(request.order.range.value_or(GFPE_RANGE{0, device_bytes}));
+    if (request.file.isEmpty())
+        return nullptr;
+    std::string text;
+    std::unique_ptr<GFPE_IMAGE> image =
+        gfpe_file_image(QFile::encodeName(request.file).toStdString(), request.file_position, device_bytes, text);
+    problem = text_of(text);
+    return image;
+}
+
+} // namespace
+
+// Keeps what is new for the other thread, and what was read.
+class RUN_WORKER::LISTENER : public GFPE_LISTENER
+{
+public:
+    LISTENER(RUN_WORKER& worker, READ_OUT& read_out) : m_worker(worker), m_read_out(read_out) {}
+
+    void phase_started(GFPE_PHASE phase) override
+    {
+        const std::lock_guard<std::mutex> lock(m_worker.m_mutex);
+        m_worker.m_news.started.push_back(phase);
+    }
+
+    void progressed(const GFPE_PROGRESS& progress) override
+    {
+        const std::lock_guard<std::mutex> lock(m_worker.m_mutex);
+        m_worker.m_news.progress = progress;
+    }
+
+    bool examined(std::int64_t position, const std::uint8_t* bytes, std::size_t length) override
+    {
+        return m_read_out.add(position, bytes, length);
+    }
+
+    std::string get_problem() const override { return m_read_out.problem().toStdString(); }
+
+private:
+    RUN_WORKER& m_worker;
+    READ_OUT& m_read_out;
+};
+
+class RUN_WORKER::ANNOUNCED_RUN
+{
+public:
+    ANNOUNCED_RUN(RUN_WORKER& worker, GFPE_RUN& run) : m_worker(worker)
+    {
+        const std::lock_guard<std::mutex> lock(worker.m_mutex);
+        worker.m_run = &run;
+        if (worker.m_cancelled)
+            run.cancel();
+        if (worker.m_stopped)
+            run.stop();
+    }
+    ~ANNOUNCED_RUN()
+    {
+        const std::lock_guard<std::mutex> lock(m_worker.m_mutex);
+        m_worker.m_run = nullptr;
+    }
+    ANNOUNCED_RUN(const ANNOUNCED_RUN&) = delete;
+    ANNOUNCED_RUN& operator=(const ANNOUNCED_RUN&) = delete;
+
+private:
+    RUN_WORKER& m_worker;
+};
+
+void RUN_WORKER::run_on(GFPE_BUS& bus, const RUN_REQUEST& request, RUN_OUTCOME& outcome)
+{
+    const std::unique_ptr<GFPE_IMAGE> image = open_image(request, outcome.problem);
+    if (!outcome.problem.isEmpty())
+        return;
+    auto trace = std::make_shared<RUN_TRACE>();
+    auto read_out = std::make_shared<READ_OUT>();
+    read_out->compare_with(image.get());
+    LISTENER listener(*this, *read_out);
+
+    GFPE_RUN run(request.plan, bus);
+    run.set_image(image.get());
+    run.set_listener(&listener);
+    run.set_trace(trace.get());
+    {
+        const ANNOUNCED_RUN announced(*this, run);
+        outcome.result = run.run(request.order);
+    }
+    read_out->finish(request.file, request.file_position);
+    outcome.trace = std::move(trace);
+    if (read_out->range().length > 0)
+        outcome.read_out = std::move(read_out);
+}
+
+RUN_OUTCOME RUN_WORKER::work(const RUN_REQUEST& request)
+{
+    QElapsedTimer clock;
+    clock.start();
+    RUN_OUTCOME outcome;
+    std::unique_ptr<GFPE_BUS> opened;
+    if (GFPE_BUS* bus = open_bus(request.target, opened, outcome.problem))
+        run_on(*bus, request, outcome);
+    if (request.target.chip)
+        finish_chip(*request.target.chip->chip, outcome);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    outcome.was_stopped = m_stopped;
+    outcome.seconds = static_cast<double>(clock.elapsed()) / MS_A_SECOND;
+    return outcome;
+}
+
+DETECTION RUN_WORKER::detect(const RUN_TARGET& target)
+{
+    DETECTION detection;
+    std::unique_ptr<GFPE_BUS> opened;
+    std::string problem;
+    if (GFPE_BUS* bus = open_bus(target, opened, detection.problem)) {
+        if (!gfpe_read_id(*bus, detection.id, problem))
+            detection.problem = text_of(problem);
+    }
+    return detection;
+}
+
+void RUN_WORKER::cancel()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_cancelled = true;
+    if (m_run)
+        m_run->cancel();
+}
+
+void RUN_WORKER::stop()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_stopped = true;
+    if (m_run)
+        m_run->stop();
+}
+
+RUN_NEWS RUN_WORKER::take_news()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return std::exchange(m_news, RUN_NEWS());
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+
+// What a run does on its thread.
+#pragma once
+
+#include "run/run_request.h"
+
+#include <mutex>
+
+// work() or detect() is called on the thread of the run, everything else on another one, at any time.
+class RUN_WORKER
+{
+public:
+    // Runs the request to its end.
+    RUN_OUTCOME work(const RUN_REQUEST& request);
+    // Reads the ID of the chip.
+    DETECTION detect(const RUN_TARGET& target);
+
+    // GFPE_RUN::cancel() and stop(); before the run has begun it does not begin.
+    void cancel();
+    void stop();
+    // What is new since the last call.
+    RUN_NEWS take_news();
+
+private:
+    class LISTENER;
+    // Announces the run that cancel() and stop() are for, while it lives.
+    class ANNOUNCED_RUN;
+
+    void run_on(GFPE_BUS& bus, const RUN_REQUEST& request, RUN_OUTCOME& outcome);
+
+    std::mutex m_mutex;
+    RUN_NEWS m_news;
+    GFPE_RUN* m_run = nullptr;
+    bool m_cancelled = false;
+    bool m_stopped = false;
+};
