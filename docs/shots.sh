@@ -202,6 +202,48 @@ shot_host-window() {
     picture host-window
 }
 
+# programmer_settings ERASE PROGRAM VERIFY EXAMINE: what was entered the last time: a file, and a chip that has it but for
+# some bytes.
+programmer_settings() {
+    mkdir -p "$XDG_CONFIG_HOME/gfpq"
+    seq 20000 >"$WORK/firmware.bin"
+    truncate -s 65536 "$WORK/firmware.bin"
+    cp "$WORK/firmware.bin" "$WORK/chip.bin"
+    printf 'changed' | dd of="$WORK/chip.bin" bs=1 seek=300 conv=notrunc status=none
+    truncate -s 2097152 "$WORK/chip.bin"
+    cat >"$XDG_CONFIG_HOME/gfpq/gfpq_host.conf" <<TXT
+[programmer]
+connection=emulated:$WORK/chip.bin
+file=$WORK/firmware.bin
+m_erase_check=$1
+m_program_check=$2
+m_verify_check=$3
+m_examine_check=$4
+TXT
+}
+
+# shot_programmer NAME KEYS...: the window after these keys, without and with what was entered.
+shot_programmer() {
+    local name=$1
+    shift
+    open_program --family 1 --scheme 7 --device MX25L1606E
+    press "$@"
+    picture "$name"
+    rm -f "$XDG_CONFIG_HOME/gfpq/gfpq_host.conf"
+}
+
+shot_programmer-trial() { shot_programmer programmer-trial F6; }
+
+shot_programmer-trace() {
+    programmer_settings false false true false
+    shot_programmer programmer-trace F5 alt+2
+}
+
+shot_programmer-data() {
+    programmer_settings false false false true
+    shot_programmer programmer-data F5 alt+3
+}
+
 # The database is gone when the device is applied.
 shot_message() {
     open_program "${DEVICE[@]}"
@@ -252,7 +294,7 @@ shot_language-ja() {
 }
 
 readonly PICTURES=(device-page page-initialization page-program page-erase page-verify page-termination template-editor
-    host-window message dark-device-page dark-erase scale-150 scale-200 language-ja)
+    host-window programmer-trial programmer-trace programmer-data message dark-device-page dark-erase scale-150 scale-200 language-ja)
 
 main() {
     rm -rf "$WORK"
