@@ -91,12 +91,23 @@ std::vector<CSV_ROW> csv_rows(const std::string& text)
     return CSV_SPLITTER().split(text);
 }
 
-// Some spreadsheets take it for a formula behind blanks and line breaks as well.
+// Some spreadsheets take it for a formula behind blanks as well, and some begin a cell at other characters than a
+// comma, quotes or not.
 std::string csv_spreadsheet_text(const std::string& text)
 {
-    const std::size_t start = text.find_first_not_of(" \t\r\n");
-    const bool is_formula = start != std::string::npos && std::string("=+-@").find(text[start]) != std::string::npos;
-    return is_formula ? '\'' + text : text;
+    static const std::string FORMULA = "=+-@";
+    static const std::string CELL_BEGIN = ";|\t\r\n";
+    static const std::string BLANK = " \"";
+    std::string shown;
+    bool is_begin = true;
+    for (const char character : text) {
+        if (is_begin && FORMULA.find(character) != std::string::npos)
+            shown += '\'';
+        shown += character;
+        is_begin =
+            CELL_BEGIN.find(character) != std::string::npos || (is_begin && BLANK.find(character) != std::string::npos);
+    }
+    return shown;
 }
 
 std::string csv_cell(const std::string& text)

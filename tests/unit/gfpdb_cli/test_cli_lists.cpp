@@ -5,6 +5,7 @@
 
 #include "exchange/gfpdb_record_csv.h"
 #include "record_reading.h"
+#include "test_rows.h"
 
 #include <limits>
 
@@ -35,28 +36,38 @@ private slots:
     // For a spreadsheet formulas become texts; for an import every text stays as it is.
     void a_list_for_a_spreadsheet_has_no_formula_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("is_formula");
-        for (const char* text : {"=1+1", "+1", "-1", "@SUM(A1)", " =1", "\t=1", "\r\n@x", "="})
-            QTest::newRow(text) << QString(text) << true;
-        for (const char* text : {"", " ", "1", "A=1", "'=1", "3.3V", "0xC2 -1", "\xC3\xA4"})
-            QTest::newRow(text) << QString(text) << false;
+        rows<QString, QString>({{"sum", "=1+1", "'=1+1"},
+                                {"plus", "+1", "'+1"},
+                                {"minus", "-1", "'-1"},
+                                {"at", "@SUM(A1)", "'@SUM(A1)"},
+                                {"sign", "=", "'="},
+                                {"blank", " =1", " '=1"},
+                                {"tab", "\t=1", "\t'=1"},
+                                {"line break", "A\r\n@x", "A\r\n'@x"},
+                                {"cell of other lists", "A;=1;\" +1|@x\t-1", "A;'=1;\" '+1|'@x\t'-1"},
+                                {"none", "", ""},
+                                {"blanks", " ;\t", " ;\t"},
+                                {"number", "1", "1"},
+                                {"equation", "A=1; B =2", "A=1; B =2"},
+                                {"quoted", "'=1", "'=1"},
+                                {"voltage", "3.3V", "3.3V"},
+                                {"bytes", "0xC2 -1", "0xC2 -1"},
+                                {"letter", "\xC3\xA4", "\xC3\xA4"}});
     }
 
     void a_list_for_a_spreadsheet_has_no_formula()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, is_formula);
+        const auto [text, shown] = row<QString, QString>();
         GFPDB_RECORD record;
-        GFPDB_ROW& row = record.row;
-        for (std::string* value :
-             {&row.name, &row.device_id, &row.voltage, &row.density, &row.template_name, &row.flow_template})
+        GFPDB_ROW& stored = record.row;
+        for (std::string* value : {&stored.name, &stored.device_id, &stored.voltage, &stored.density,
+                                   &stored.template_name, &stored.flow_template})
             *value = text.toStdString();
         GFPDB_RECORD quoted = record;
         GFPDB_ROW& quoted_row = quoted.row;
         for (std::string* value : {&quoted_row.name, &quoted_row.device_id, &quoted_row.voltage, &quoted_row.density,
                                    &quoted_row.template_name, &quoted_row.flow_template})
-            *value = is_formula ? "'" + *value : *value;
+            *value = shown.toStdString();
 
         QCOMPARE(gfpdb_write_list({record}, GFPDB_LIST_FOR::SPREADSHEET), gfpdb_write_list({quoted}));
     }

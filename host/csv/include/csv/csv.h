@@ -22,7 +22,8 @@ struct CSV_ROW
 // The rows of `text`, empty lines left out. A quote that is never closed ends with the text.
 std::vector<CSV_ROW> csv_rows(const std::string& text);
 
-// `text` with a quote before it when a spreadsheet would run it as a formula.
+// `text` with a quote before everything that a spreadsheet would run as a formula, whatever it takes for the beginning
+// of a cell.
 std::string csv_spreadsheet_text(const std::string& text);
 
 // A cell as it stands in a line, in quotes where it must be.
