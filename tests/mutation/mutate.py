@@ -33,7 +33,8 @@ WORK = ROOT / "build" / "mutation"
 REPORT = WORK / "report.json"
 UNNOTICEABLE = ROOT / "tests" / "mutation" / "unnoticeable.txt"
 
-SOURCES = ["pgm/gfpq/**/*.cpp", "pgm/gfpq/**/*.h", "pgm/gfpq/**/*.ui", "pgm/gfpdb/**/*.cpp", "pgm/gfpdb/**/*.h"]
+SOURCES = ["pgm/gfpq/**/*.cpp", "pgm/gfpq/**/*.h", "pgm/gfpq/**/*.ui", "pgm/gfpdb/**/*.cpp", "pgm/gfpdb/**/*.h",
+           "pgm/gfpe/**/*.cpp", "pgm/gfpe/**/*.h"]
 
 # Which tests to run first for a file: (pattern of the path, regular expression of ctest names). The first match counts.
 AFFECTED = [
@@ -42,6 +43,9 @@ AFFECTED = [
     (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_"),
     (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)"),
     (r"pgm/gfpdb/", r"^unit_gfpdb"),
+    (r"pgm/gfpe/(plan|run|include/gfpe/gfpe_(plan|run|image|rate))", r"^test_(plan|image|run_|flow_(rules|session))"),
+    (r"pgm/gfpe/(chip|include/gfpe/gfpe_chip)", r"^test_chip"),
+    (r"pgm/gfpe/", r"^test_(trace|serprog|connection)"),
 ]
 QUICK_LABELS = "unit|gui|lost_work"
 # Kills processes for half a minute: run only for the files it belongs to.
