@@ -30,7 +30,7 @@ GFPE_SERPROG_LIMITS gfpe_line_limits(int baud);
 
 // Commands without an answer and short delays are kept until a command with one comes, and sent with it: a page that is
 // programmed takes one round trip. What is kept fits into the programmer's buffer.
-class GFPE_SERPROG_CLIENT : public GFPE_BUS
+class GFPE_SERPROG_CLIENT final : public GFPE_BUS
 {
 public:
     GFPE_SERPROG_CLIENT(std::unique_ptr<GFPE_LINE> line, const GFPE_SERPROG_LIMITS& limits);
