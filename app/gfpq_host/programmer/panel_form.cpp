@@ -5,10 +5,18 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QRegularExpression>
 
 namespace {
 
 constexpr int FIELD_CHARACTERS = 10;
+
+// What a screen reader says for a label: without its access key and its colon.
+QString name_of(QString label)
+{
+    label.remove(QRegularExpression(QStringLiteral("\\(&.\\)|&|\\s*:\\s*$")));
+    return label;
+}
 
 } // namespace
 
@@ -26,6 +34,7 @@ void add_row(QFormLayout* form, const QString& label, QWidget* widget, const cha
     widget->setObjectName(QLatin1String(object_name));
     auto* title = new QLabel(label);
     title->setBuddy(widget);
+    widget->setAccessibleName(name_of(label));
     form->addRow(title, row ? row : widget);
 }
 

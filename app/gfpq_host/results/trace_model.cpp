@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t SHOWN_BYTES = 16;
+constexpr std::size_t SHOWN_BYTES = 8;
 constexpr double US_A_MS = 1000;
 constexpr int HEXADECIMAL = 16;
 constexpr int BYTE_DIGITS = 2;

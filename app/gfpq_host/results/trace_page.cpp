@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -12,11 +13,12 @@ namespace {
 
 constexpr int ALL_PHASES = -1;
 // The widths of the columns, in characters; the last one takes the rest.
-constexpr int WIDTHS[TRACE_MODEL::COLUMNS] = {9, 12, 14, 24, 14, 18, 34, 34, 20};
+constexpr int WIDTHS[TRACE_MODEL::COLUMNS] = {9, 12, 14, 22, 14, 18, 28, 28, 20};
 
 } // namespace
 
-TRACE_PAGE::TRACE_PAGE() : m_phase_combo(new QComboBox), m_count_label(new QLabel), m_table(new QTableView)
+TRACE_PAGE::TRACE_PAGE()
+    : m_phase_combo(new QComboBox), m_count_label(new QLabel), m_table(new QTableView), m_command_label(new QLabel)
 {
     m_phase_combo->setObjectName(QStringLiteral("m_phase_combo"));
     m_phase_combo->addItem(tr("All operations"), ALL_PHASES);
@@ -46,6 +48,12 @@ TRACE_PAGE::TRACE_PAGE() : m_phase_combo(new QComboBox), m_count_label(new QLabe
     auto* column = new QVBoxLayout(this);
     column->addLayout(top);
     column->addWidget(m_table);
+    column->addWidget(m_command_label);
+    m_command_label->setObjectName(QStringLiteral("m_command_label"));
+    m_command_label->setTextFormat(Qt::PlainText);
+    m_command_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_command_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, &TRACE_PAGE::show_command);
     connect(m_phase_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TRACE_PAGE::choose_phase);
     show_place();
 }
@@ -63,11 +71,26 @@ void TRACE_PAGE::choose_phase()
     show_place();
 }
 
-// The failed command, else the first one.
+// The bytes of the current command, of which the table may show a part.
+void TRACE_PAGE::show_command()
+{
+    const QModelIndex current = m_table->currentIndex();
+    QStringList lines;
+    for (const int column : {TRACE_MODEL::SENT, TRACE_MODEL::RECEIVED, TRACE_MODEL::EXPECTED}) {
+        const QString text = current.sibling(current.row(), column).data().toString();
+        if (!text.isEmpty())
+            lines.append(QStringLiteral("%1: %2").arg(
+                m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), text));
+    }
+    m_command_label->setText(lines.isEmpty() ? QStringLiteral(" ") : lines.join(QStringLiteral("   ")));
+}
+
+// The failed command, if there is one.
 void TRACE_PAGE::show_place()
 {
     m_count_label->setText(tr("%1 commands").arg(m_model.rowCount()));
     const int failed = m_model.failed_row();
+    show_command();
     if (failed < 0)
         return;
     m_table->setCurrentIndex(m_model.index(failed, TRACE_MODEL::NUMBER));

@@ -24,9 +24,11 @@ public:
 private:
     void choose_phase();
     void show_place();
+    void show_command();
 
     TRACE_MODEL m_model;
     QComboBox* m_phase_combo;
     QLabel* m_count_label;
     QTableView* m_table;
+    QLabel* m_command_label;
 };
