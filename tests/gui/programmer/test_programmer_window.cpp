@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+
+// The programmer's window beside its runs: entries, settings, keys, names, languages.
+#include "cut_labels.h"
+#include "programmer_test.h"
+#include "text_catalogue.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTabWidget>
+
+class TEST_PROGRAMMER_WINDOW : public PROGRAMMER_TEST
+{
+    Q_OBJECT
+
+private slots:
+    void entries_are_remembered()
+    {
+        const QString file = make_file("image.bin", content(100));
+        open();
+        enter_file(file);
+        check(qs("bx"));
+        enter("m_position_edit", qs("0x100"));
+        child<QComboBox>("m_extent_combo").setCurrentIndex(2);
+        enter("m_start_edit", qs("5"));
+        enter("m_length_edit", qs("6"));
+        child<QComboBox>("m_connection_combo").setCurrentIndex(1);
+        enter("m_host_edit", qs("::1"));
+        window().close();
+        open();
+
+        QCOMPARE(child<QComboBox>("m_file_combo").currentText(), file);
+        QVERIFY(child<QAbstractButton>("m_examine_check").isChecked());
+        QVERIFY(child<QAbstractButton>("m_blank_check").isChecked());
+        QVERIFY(!child<QAbstractButton>("m_erase_check").isChecked());
+        QCOMPARE(child<QComboBox>("m_extent_combo").currentIndex(), 2);
+        QCOMPARE(child<QComboBox>("m_connection_combo").currentIndex(), 1);
+        for (const auto& [field, text] : {std::pair("m_position_edit", "0x100"), std::pair("m_start_edit", "5"),
+                                          std::pair("m_length_edit", "6"), std::pair("m_host_edit", "::1")})
+            QCOMPARE(child<QLineEdit>(field).text(), qs(text));
+    }
+
+    void a_file_is_shown_with_its_size_and_check_sum()
+    {
+        open();
+        enter_file(make_file("image.bin", "123456789"));
+        QCOMPARE(child<QLabel>("m_facts_label").text(), qs("9 bytes, CRC-32 CBF43926"));
+        QCOMPARE(child<QComboBox>("m_file_combo").count(), 1);
+        enter_file(scratch("no such file"));
+        QCOMPARE(child<QLabel>("m_facts_label").text(), qs("The file cannot be read: It is not a file."));
+        QCOMPARE(child<QComboBox>("m_file_combo").count(), 1);
+    }
+
+    void a_file_can_be_dropped()
+    {
+        const QString file = make_file("image.bin", "123456789");
+        open();
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window(), &drop);
+        QCOMPARE(child<QComboBox>("m_file_combo").currentText(), file);
+    }
+
+    void a_connection_that_is_not_complete_is_not_opened_data()
+    {
+        rows<int, QString>({{"no host", 1, "m_host_edit"}, {"no line", 2, "m_line_combo"}});
+    }
+
+    void a_connection_that_is_not_complete_is_not_opened()
+    {
+        const auto [kind, field] = row<int, QString>();
+        open();
+        child<QComboBox>("m_connection_combo").setCurrentIndex(kind);
+        QVERIFY(child<QWidget>(qPrintable(field)).isVisible());
+        if (kind == 1)
+            enter("m_host_edit", QString());
+        else
+            child<QComboBox>("m_line_combo").setCurrentText(QString());
+        click("m_start_button");
+        QCOMPARE(verdict(), qs("Not started: The connection is not complete."));
+    }
+
+    void keys_reach_everything_data()
+    {
+        rows<QString, QKeySequence>({{"detect", "m_detect_action", Qt::Key_F4},
+                                     {"trial", "m_trial_action", Qt::Key_F6},
+                                     {"start", "m_start_action", Qt::Key_F5},
+                                     {"cancel", "m_cancel_action", Qt::Key_Escape},
+                                     {"quit", "m_quit_action", QKeySequence::Quit}});
+    }
+
+    void keys_reach_everything()
+    {
+        const auto [action, keys] = row<QString, QKeySequence>();
+        open();
+        QCOMPARE(child<QAction>(qPrintable(action)).shortcut(), keys);
+    }
+
+    void quit_closes_the_window()
+    {
+        open();
+        child<QAction>("m_quit_action").trigger();
+        QVERIFY(!window().isVisible());
+    }
+
+    void the_dialog_is_opened_by_the_menu()
+    {
+        open();
+        m_modals.expect(MODAL_DRIVER::accept());
+        child<QAction>("m_dialog_action").trigger();
+        QVERIFY(m_modals.last().text.startsWith(qs("The dialog module is missing")));
+    }
+
+    // Whatever takes the focus says what it is.
+    void every_control_has_a_name()
+    {
+        open();
+        int named = 0;
+        for (QWidget* widget : window().findChildren<QWidget*>()) {
+            const bool is_own = !widget->objectName().isEmpty() && !widget->objectName().startsWith(qs("qt_"));
+            if (!is_own || !(widget->focusPolicy() & Qt::TabFocus))
+                continue;
+            QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
+            const bool has_label = !interface->relations(QAccessible::Label).isEmpty();
+            const bool is_page = qobject_cast<QTabWidget*>(widget) || widget->objectName() == qs("m_entries_area");
+            QVERIFY2(is_page || has_label || !interface->text(QAccessible::Name).isEmpty(),
+                     qPrintable(widget->objectName()));
+            ++named;
+        }
+        QVERIFY(named > 25);
+    }
+
+    void long_texts_are_not_cut()
+    {
+        qputenv("GFPQ_TRANSLATIONS", GFPQ_PSEUDO_CATALOGUES);
+        QLocale::setDefault(QLocale(QLocale::English));
+        {
+            const TEXT_CATALOGUE texts(qs("gfpq_host"), QStringList());
+            QVERIFY(texts.is_installed());
+            open();
+            QCOMPARE(cut_labels(window()).join(QLatin1Char('\n')), QString());
+            close_window();
+        }
+        qunsetenv("GFPQ_TRANSLATIONS");
+        QLocale::setDefault(QLocale::c());
+    }
+};
+
+QTEST_MAIN(TEST_PROGRAMMER_WINDOW)
+
+#include "test_programmer_window.moc"
