@@ -57,7 +57,7 @@ struct STAND
         client = std::make_unique<GFPE_SERPROG_CLIENT>(std::move(own), limits);
         has_started = client->start(clock);
         started_at = line->position;
-        line->writes.clear();
+        opening.swap(line->writes);
     }
 
     NOTING_BUS bus;
@@ -65,7 +65,8 @@ struct STAND
     FAULTY_LINE* line = nullptr;
     std::unique_ptr<GFPE_SERPROG_CLIENT> client;
     bool has_started = false;
-    // The bytes that came until then.
+    // What was sent to start, and the number of the bytes that came.
+    QList<QByteArray> opening;
     int started_at = 0;
 };
 
@@ -105,6 +106,25 @@ class TEST_SERPROG_CLIENT : public QObject
     Q_OBJECT
 
 private slots:
+    void a_programmer_is_asked_what_it_is_before_its_pins_are_used()
+    {
+        const STAND stand({}, 1000000);
+
+        const QByteArray synchronising = QByteArray("00 ").repeated(16) + "10";
+        QCOMPARE(stand.opening, (QList<QByteArray>{synchronising, "10", "01", "02", "05", "04", "07", "08", "11", "0B",
+                                                   "12 08", "14 40 42 0F 00", "15 01"}));
+    }
+
+    // More each time than a page that somebody left half sent.
+    void a_programmer_that_says_nothing_is_asked_eight_times()
+    {
+        const STAND stand(answering(0x10, {}));
+
+        QCOMPARE(stand.opening.size(), 8);
+        QCOMPARE(stand.opening.first(), QByteArray("00 ").repeated(16) + "10");
+        QCOMPARE(stand.opening.last(), QByteArray("00 ").repeated(1024) + "10");
+    }
+
     void a_command_is_sent_byte_by_byte_data()
     {
         rows<GFPE_COMMAND, QString>({
@@ -193,6 +213,27 @@ private slots:
 
         QCOMPARE(stand.line->writes.size(), writes);
         QCOMPARE(stand.bus.log.size(), 5);
+    }
+
+    void no_more_is_kept_back_than_memory_is_spent_on_data()
+    {
+        rows<int, int>({{"short commands", 0, 1024}, {"256 bytes each", 248, 64}});
+    }
+    void no_more_is_kept_back_than_memory_is_spent_on()
+    {
+        const auto [length, most] = row<int, int>();
+        const BYTES data(static_cast<std::size_t>(length), 0xA5);
+        GFPE_COMMAND write = command(0x02);
+        write.out = data.data();
+        write.out_length = data.size();
+        STAND stand;
+
+        for (int i = 0; i < most; ++i)
+            QVERIFY(stand.client->transfer(write, nullptr));
+        QVERIFY(stand.line->writes.isEmpty());
+        QVERIFY(stand.client->transfer(write, nullptr));
+
+        QCOMPARE(stand.bus.log.size(), most);
     }
 
     void a_long_wait_is_sent_in_parts()
@@ -459,6 +500,17 @@ private slots:
         }
 
         QCOMPARE(last == "15 00", lets_go);
+    }
+
+    void a_programmer_is_waited_for_as_long_as_documented()
+    {
+        const GFPE_SERPROG_LIMITS limits;
+
+        QCOMPARE(limits.connect_ms, 10000);
+        QCOMPARE(limits.synchronise_ms, 1000);
+        QCOMPARE(limits.attempts, 8);
+        QCOMPARE(limits.silence_ms, 10000);
+        QCOMPARE(limits.bytes_per_second, 1000);
     }
 
     void a_slow_line_has_shorter_reads_and_more_time_data()
