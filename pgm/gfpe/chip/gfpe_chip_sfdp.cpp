@@ -126,7 +126,7 @@ DWORD time_field(std::int64_t microseconds, std::initializer_list<std::int64_t> 
 
 // The typical time that is stated is a 32nd of the slowest, which is the largest factor that there is.
 constexpr DWORD MOST_FACTOR = 15;
-constexpr std::int64_t FACTOR = 2 * (MOST_FACTOR + 1);
+constexpr std::int64_t FACTOR = std::int64_t(2) * (MOST_FACTOR + 1);
 
 DWORD erase_times(const GFPE_CHIP_FACTS& facts, const std::array<ERASE_TYPE, ERASE_TYPES>& types)
 {
