@@ -106,6 +106,19 @@ private slots:
         QCOMPARE(problem, std::string("The file \"long.bin\" was changed while it was used."));
     }
 
+    void an_image_in_memory_has_its_bytes()
+    {
+        const auto image = gfpe_memory_image({1, 2, 3, 4}, 1000);
+        BYTES bytes(2);
+        std::string problem;
+
+        QVERIFY(image->read(1001, bytes.data(), bytes.size(), problem));
+
+        QCOMPARE(bytes, (BYTES{2, 3}));
+        QCOMPARE(image->get_range().start, std::int64_t(1000));
+        QCOMPARE(image->get_range().end(), std::int64_t(1004));
+    }
+
     void a_rate_is_that_of_the_last_seconds()
     {
         GFPE_RATE rate;
@@ -122,6 +135,9 @@ private slots:
             rate.add(second * 1000, 1000 + second * 100);
         QCOMPARE(*rate.get_rate(), 100.0);
         QCOMPARE(*rate.get_seconds_left(2100), 1);
+        // A break counts: the last sample before the window is its start.
+        rate.add(14000, 2100);
+        QCOMPARE(*rate.get_rate(), 40.0);
     }
 
     void a_run_that_stands_still_has_no_time_left()

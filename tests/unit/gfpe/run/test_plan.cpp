@@ -274,15 +274,16 @@ private slots:
             text);
     }
 
-    // Two dies, the first of which is erased as a whole; a sector that somebody wants in any case; and one that is not
-    // of the device.
+    // Other actions, which erase nothing; two dies, each of which is erased as a whole; a sector that somebody wants in
+    // any case; and one that is not of the device.
     void erases_outside_of_loops_count()
     {
         FLOW flow = usual_flow();
         flow[GFPDB_OPERATION_ERASE] = operation_of(
             GFPDB_OPERATION_ERASE,
-            {start("die"), erase({{GFPDB_ER_ADDRESSING_MODE, "0"}, {GFPDB_ER_ADDRESS, "none"}}), end("die"),
-             erase({{GFPDB_ER_ADDRESS, "0x00030000"}}), erase({{GFPDB_ER_ADDRESS, "0x0003F000"}})});
+            {write_register(), make(GFPDB_ACT_READ_REGISTER), write_data({{GFPDB_WD_ADDRESS, "0x00000000"}}),
+             read_data(), start("die"), erase({{GFPDB_ER_ADDRESSING_MODE, "0"}, {GFPDB_ER_ADDRESS, "none"}}),
+             end("die"), erase({{GFPDB_ER_ADDRESS, "0x00030000"}}), erase({{GFPDB_ER_ADDRESS, "0x0003F000"}})});
         const auto plan = plan_of(device(256 * K, 2), flow);
 
         QCOMPARE(text_of(plan->get_erased(order_of("E", GFPE_RANGE{0, 1}))), QString("0+20000"));
@@ -323,7 +324,7 @@ private slots:
 
         const GFPE_PLAN plan(record, false);
 
-        QVERIFY(!plan.check(order_of("E"), ANY).empty());
+        QCOMPARE(texts_of(plan.check(order_of("E"), ANY)), QStringList("Erase: The operation has no actions."));
     }
 
     void an_order_without_its_image_is_refused_data()
