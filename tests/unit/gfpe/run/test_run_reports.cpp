@@ -207,6 +207,33 @@ private slots:
         QCOMPARE(before.commands, std::int64_t(1));
     }
 
+    // Two of each, with an image of 100 bytes from 200 on, of which a range of 1000 bytes is asked for.
+    void actions_outside_of_loops_count_as_well()
+    {
+        RECORDING_BUS bus;
+        bus.answer(0x0B, {0x00});
+        SPARSE_IMAGE image;
+        image.add(200, BYTES(100, 0x00));
+        FLOW flow = empty_flow();
+        flow[1] = operation_of(1, {write_data({{GFPDB_WD_ADDRESS, "0x00000000"}}),
+                                   write_data({{GFPDB_WD_ADDRESS, "0x00000000"}, {GFPDB_WD_DATA, "0x01 0x02"}}),
+                                   write_data({{GFPDB_WD_ADDRESS, "0x00000100"}})});
+        flow[2] = operation_of(2, {erase({{GFPDB_ER_ADDRESS, "0x00000000"}, {GFPDB_ER_ERASE_SIZE, "4096"}}),
+                                   erase({{GFPDB_ER_ADDRESS, "0x00001000"}, {GFPDB_ER_ERASE_SIZE, "4096"}}),
+                                   erase({{GFPDB_ER_ADDRESS, "0x00000000"}, {GFPDB_ER_ERASE_SIZE, "512"}})});
+        flow[3] =
+            operation_of(3, {read_data({{GFPDB_RD_EXPECTED_DATA, "0x00"}, {GFPDB_RD_DATA_LENGTH, "50"}}), read_data()});
+        LISTENER listener;
+
+        const GFPE_RESULT result =
+            run_flow(device(), flow, bus, order_of("EPX", GFPE_RANGE{0, 1000}), &image, &listener);
+
+        QVERIFY2(has_passed(result), report_of(result).c_str());
+        const GFPE_PROGRESS& last = listener.m_progress.back();
+        QCOMPARE(last.all_total, std::int64_t(4096 + 512 + 56 + 2 + 44 + 50 + 1000));
+        QCOMPARE(last.all_done, last.all_total);
+    }
+
     void a_long_read_says_how_far_it_is()
     {
         RECORDING_BUS bus;
