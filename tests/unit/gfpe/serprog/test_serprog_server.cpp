@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -331,6 +332,25 @@ private slots:
         QVERIFY(client->transfer(command, nullptr) && client->settle());
         QCOMPARE(bus.log.last(), "00 " + hex_of(all) + " +0");
         QCOMPARE(answer_of(*client, 0x03, 256).right(5), QByteArray("0E 0F"));
+    }
+
+    // Root may open everything: the line is opened as somebody else.
+    void a_line_of_somebody_else_is_refused()
+    {
+        constexpr uid_t NOBODY = 65534;
+        NOTING_BUS bus;
+        const SERIAL_PROGRAMMER programmer(bus);
+        std::string problem;
+        QCOMPARE(::chmod(programmer.device().c_str(), 0), 0);
+        const uid_t user = ::geteuid();
+        const bool is_nobody = user != 0 || ::seteuid(NOBODY) == 0;
+
+        const std::unique_ptr<GFPE_BUS> client = gfpe_serprog_over_line(programmer.device(), 115200, 0, problem);
+
+        QCOMPARE(::seteuid(user), 0);
+        QVERIFY(is_nobody && !client);
+        QCOMPARE(problem,
+                 "The serial line \"" + programmer.device() + "\" cannot be opened at 115200 baud: Permission denied.");
     }
 
     void a_slow_line_is_waited_for()
