@@ -93,25 +93,44 @@ private slots:
         QCOMPARE(host.play("05 ?1; 06; 20 000000; ready; ready; 05 ?1; off; 05 ?1"), std::string("00 03 00"));
     }
 
+    void a_bit_that_does_not_program_stays_1_data()
+    {
+        rows<int, QString>({{"before", 0xFF, "000000"},
+                            {"first", 0x100, "080000"},
+                            {"last", 0x102, "000008"},
+                            {"behind", 0x103, "000000"}});
+    }
     void a_bit_that_does_not_program_stays_1()
     {
+        const auto [position, answer] = row<int, QString>();
         CHIP_HOST host("W25Q80DV");
+        host.chip->fill_memory(0xF0);
         GFPE_CHIP_FAULTS faults;
-        faults.does_not_program = {0x101, 3};
+        faults.does_not_program = {position, 3};
         host.chip->set_faults(faults);
 
-        QCOMPARE(host.play("06; 02 000100 000000; ready; 03 000100 ?3"), std::string("000800"));
+        QCOMPARE(QString::fromStdString(host.play("06; 02 000100 000000; ready; 03 000100 ?3")), answer);
+        QCOMPARE(host.memory(0xFF, 1), BYTES{0xF0});
+        QCOMPARE(host.memory(0x103, 1), BYTES{0xF0});
     }
 
+    void a_bit_that_does_not_erase_stays_0_data()
+    {
+        rows<int, QString>({{"before", 0x0FFF, "8FFF FF8F"},
+                            {"first", 0x1000, "8F7F FF8F"},
+                            {"last", 0x1FFF, "8FFF 7F8F"},
+                            {"behind", 0x2000, "8FFF FF8F"}});
+    }
     void a_bit_that_does_not_erase_stays_0()
     {
+        const auto [position, answers] = row<int, QString>();
         CHIP_HOST host("W25Q80DV");
+        host.chip->fill_memory(0x8F);
         GFPE_CHIP_FAULTS faults;
-        faults.does_not_erase = {0x1001, 7};
+        faults.does_not_erase = {position, 7};
         host.chip->set_faults(faults);
 
-        QCOMPARE(host.play("06; 20 002000; ready; 03 001001 ?1; 06; 20 001FFF; ready; 03 001000 ?3"),
-                 std::string("FF FF7FFF"));
+        QCOMPARE(QString::fromStdString(host.play("06; 20 001234; ready; 03 000FFF ?2; 03 001FFF ?2")), answers);
     }
 
     void the_power_is_lost_in_the_middle_data()

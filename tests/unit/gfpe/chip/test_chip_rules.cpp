@@ -275,6 +275,8 @@ private slots:
              "D8: protected: nothing was erased"},
             {"others keep the write enable", "W25Q80DV", "06; 01 1C; ready; 06; 02 000000 00; 05 ?1", "1E",
              "02: protected: nothing was programmed"},
+            {"quad enable is not the bottom", "GD25Q256C", "06; 01 44; ready; 06; 02 000000 00; ready; 03 000000 ?1",
+             "00", ""},
             {"locked at power-up", "SST26VF032B", "06; 02 000000 00; 03 000000 ?1", "FF",
              "02: protected: nothing was programmed"},
             {"unlocked", "SST26VF032B", "06; 98; ready; 06; 02 000000 00; ready; 03 000000 ?1", "00", ""},

@@ -178,6 +178,49 @@ private slots:
         }
     }
 
+    // Word by word: erases, clocks, times, the ways into modes and out.
+    void a_made_table_is_as_the_standard_has_it_data()
+    {
+        rows<int, QByteArray>({
+            {"W25Q128JV-M", 80,
+             "50444653 FF000106 10010600 FF000010 FFC120E5 07FFFFFF 6B080000 00003B08 FFFFFFEE 0000FFFF "
+             "0000FFFF 520F200C FF00D810 00AD59CF C304E48F FFFFFFFF FFFFFFFF 5CD5FFF7 FF100000 FFFFD088"},
+            {"MX25L25645G", 96,
+             "50444653 FF010106 10010600 FF000018 02010684 FF000058 FFE320E5 0FFFFFFF 6B08EB44 00003B08 "
+             "FFFFFFEE 0000FFFF 0000FFFF 520F200C FF00D810 00AD59CF C604E48F FFFFFFFF FFFFFFFF 5CD5FFF7 "
+             "FF200000 25215081 FFF00F73 FFDC5C21"},
+            {"N25Q512A13", 96,
+             "50444653 FF010106 10010600 FF000018 02010684 FF000058 FFE320E5 1FFFFFFF 6B08EB29 00003B08 "
+             "FFFFFFEE 0000FFFF 0000FFFF D810200C FF00FF00 000159CF CC04E48F FFFFFFFF FFFFFFFF FFFFFFFF "
+             "FF000000 26219081 FFF00633 FFFFDC21"},
+            {"IS25LP512M", 96,
+             "50444653 FF010106 10010600 FF000018 02010684 FF000058 FFE320E5 1FFFFFFF 6B08EB44 00003B08 "
+             "FFFFFFEE 0000FFFF 0000FFFF D810200C FF00FF00 000159CF CC04E48F FFFFFFFF FFFFFFFF 5CD5FFF7 "
+             "FF200000 29221081 FFF000F3 FFFFFFFF"},
+            {"GD25Q64E", 80,
+             "50444653 FF000106 10010600 FF000010 FFE120E5 03FFFFFF 6B08EB44 00003B08 FFFFFFEE 0000FFFF "
+             "0000FFFF 520F200C FF00D810 00AD59CF B804E48F FFFFFFFF FFFFFFFF 5CD5FFF7 FF600000 FFFFD088"},
+            {"S25FL512S", 96,
+             "50444653 FF010106 10010600 FF000018 02010684 FF000058 FFE3FFE7 1FFFFFFF 6B08EB44 00003B08 "
+             "FFFFFFEE 0000FFFF 0000FFFF FF00D812 FF00FF00 000002BF CC04E49F FFFFFFFF FFFFFFFF FFFFFFF7 "
+             "FF100000 28220081 FFF002F3 FFFFFFDC"},
+            {"SST26VF064B", 80,
+             "50444653 FF000106 10010600 FF000010 FFE120E5 03FFFFFF 6B08EB44 00003B08 FFFFFFEE 0000FFFF "
+             "0000FFFF D80D200C FF00FF00 000159CF B804E48F FFFFFFFF FFFFFFFF FFFFFFF7 FF100000 FFFFD081"},
+        });
+    }
+    void a_made_table_is_as_the_standard_has_it()
+    {
+        const auto [length, words] = row<int, QByteArray>();
+        CHIP_HOST host(QTest::currentDataTag());
+        const BYTES bytes = host.raw(0x5A, {0, 0, 0, 0}, 256);
+        QByteArray text;
+        for (std::size_t at = 0; at < static_cast<std::size_t>(length); at += 4)
+            text += " " + QByteArray::fromStdString(hex({bytes[at + 3], bytes[at + 2], bytes[at + 1], bytes[at]}));
+
+        QCOMPARE(text.trimmed(), words);
+    }
+
     // What parts of a maker have besides, and what no table says.
     void the_tables_of_real_parts_are_theirs_data()
     {
