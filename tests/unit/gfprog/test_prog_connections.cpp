@@ -46,7 +46,10 @@ private slots:
             {{"one", "W25Q128JV-M", QStringList{"W25Q128JV-M"}, QStringList{}},
              {"several parts", "MX25L25645G", QStringList{"MX25L25635F", "MX25L25645G", "mine"}, QStringList{}},
              {"of this scheme", "MX25L25645G", QStringList{"MX25L25635F", "MX25L25645G"},
-              QStringList{"--scheme", "13"}}});
+              QStringList{"--scheme", "13"}},
+             {"of this family", "MX25L25645G", QStringList{"MX25L25635F", "MX25L25645G"}, QStringList{"--family", "9"}},
+             {"of both", "MX25L25645G", QStringList{"MX25L25635F", "MX25L25645G", "mine"},
+              QStringList{"--family", "3", "--scheme", "7"}}});
     }
 
     void the_connected_chip_is_detected()
@@ -63,6 +66,9 @@ private slots:
         const TOOL_RUN table = prog(QStringList{"detect", "--on", programmer.connection()} + options);
         QVERIFY2(table.out.startsWith("ID: 0x"), table.out.constData());
         QCOMPARE(table.out.count('\n'), devices.size() + 2);
+        const QList<QByteArray> lines = table.out.split('\n');
+        QCOMPARE(lines[1].indexOf("KIND"), lines[2].indexOf("builtin"));
+        QCOMPARE(lines[1].indexOf("DENSITY"), lines[2].indexOf("Mb ") - 3);
 
         const TOOL_RUN used =
             prog(QStringList{"erase", "--length", "1", "--json", "--on", programmer.connection()} + options);
@@ -105,6 +111,13 @@ private slots:
         QVERIFY(
             run.err.contains("gfprog: The ID of the chip was not confirmed: no command of Termination was sent.\n"));
         QCOMPARE(object(run).value("chip_is_unknown").toBool(), true);
+        const QJsonObject failure = QJsonDocument::fromJson(R"({
+            "operation": "Initialization", "action": 1, "action_name": "Check Device ID", "expected": "0xC2 0x20 0x15",
+            "mask": "", "received": "0xEF 0x40 0x18", "position": null})")
+                                        .object();
+        QJsonObject said = object(run).value("failure").toObject();
+        QVERIFY(said.take("text").toString().startsWith("Initialization, action 1 \"Check Device ID\": "));
+        QCOMPARE(said, failure);
         QCOMPARE(commands(text_of_file(at("t.csv"))), QStringList{"9F"});
     }
 
@@ -149,6 +162,7 @@ private slots:
     {
         rows<QStringList, int>({{"no such part", QStringList{"nobody"}, 3},
                                 {"no such file", QStringList{PART, "--file", "/none/x"}, 4},
+                                {"no size", QStringList{"A", "-d", "DIRECTORY"}, 6},
                                 {"another size", QStringList{PART, "--file", "SMALL"}, 4},
                                 {"port in use", QStringList{PART, "--listen", "PORT"}, 7}});
     }
@@ -158,6 +172,8 @@ private slots:
         auto [arguments, exit_code] = row<QStringList, int>();
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
+        store_changed_part("A", {{"\"16Mb\"", "\"\""}});
+        arguments.replaceInStrings("DIRECTORY", q(m_place->db_dir()));
         arguments.replaceInStrings("SMALL", image("small", 5));
         arguments.replaceInStrings("PORT", QString::number(server.serverPort()));
         const TOOL_RUN run = run_program(GFPROG_PROGRAM, QStringList{"emulate", "--listen", "0"} + arguments);

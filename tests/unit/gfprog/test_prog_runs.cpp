@@ -169,7 +169,10 @@ private slots:
     void a_read_replaces_a_file_when_asked_and_only_as_a_whole()
     {
         const QString file = image("out", 5);
-        QCOMPARE(prog({"read", file, "--force", "--length", "7"}).exit_code, 0);
+        const mode_t former_mask = ::umask(0);
+        const TOOL_RUN careless = prog({"read", file, "--force", "--length", "7"});
+        ::umask(former_mask);
+        QCOMPARE(careless.exit_code, 0);
         QCOMPARE(text_of_file(file), QByteArray(7, '\xFF'));
         QCOMPARE(QFile::permissions(file) & QFile::WriteOther, QFile::Permissions());
 
@@ -281,11 +284,23 @@ private slots:
         QCOMPARE(object(run).value("commands").toInt(), 0);
     }
 
+    void a_device_that_cannot_be_emulated_is_refused()
+    {
+        store_changed_part("A", {{"\"16Mb\"", "\"\""}});
+        const TOOL_RUN run = prog({"erase", "--device", "A"});
+        QCOMPARE(run.exit_code, 6);
+        QCOMPARE(run.out, QByteArray());
+    }
+
     void a_poll_that_never_passes_fails()
     {
         store_changed_part("A", {{"\"0x00\",\n              \"expected_data_mask\": \"0x01\"",
-                                  "\"0x01\",\n              \"expected_data_mask\": \"0x81\""}});
-        QCOMPARE(prog({"erase", "--device", "A"}).exit_code, 1);
+                                  "\"0x80\",\n              \"expected_data_mask\": \"0x81\""}});
+        const TOOL_RUN run = prog({"erase", "--device", "A", "--json"});
+        QCOMPARE(run.exit_code, 1);
+        const QJsonObject failure = object(run).value("failure").toObject();
+        QCOMPARE(failure.value("mask").toString(), QString("0x81"));
+        QCOMPARE(failure.value("position"), QJsonValue());
     }
 
     void a_trace_has_what_was_sent_data()
