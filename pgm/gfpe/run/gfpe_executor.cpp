@@ -143,7 +143,9 @@ GFPE_OUTCOME GFPE_EXECUTOR::run(int operation, GFPE_PHASE phase)
     m_link.set_phase(phase);
     if (phase == GFPE_PHASE::INITIALIZATION)
         m_is_chip_unknown = m_flow.operation(operation).has_id_check;
-    walk(m_flow.operation(operation).steps);
+    // With an Initialization that has passed, the chip counts as known, also when its ID check had no step to be in.
+    if (walk(m_flow.operation(operation).steps) && phase == GFPE_PHASE::INITIALIZATION)
+        m_is_chip_unknown = false;
     if (m_outcome != GFPE_OUTCOME::LOST && !m_link.settle()) {
         fail({}, m_link.get_problem());
         m_outcome = GFPE_OUTCOME::LOST;

@@ -167,6 +167,17 @@ private slots:
         QCOMPARE(phases({0x9E}, true), std::string("I?"));
     }
 
+    // Nothing is programmed, so that the loop has no step.
+    void an_id_check_that_is_left_out_does_not_keep_the_termination_away()
+    {
+        RECORDING_BUS bus;
+        FLOW flow = marked_flow({start("page"), check_id("0x9F", "id"), make(GFPDB_ACT_WRITE_DATA), end("page")});
+        bus.answer(0xC2, {0x01});
+
+        QCOMPARE(executed(run_marks(bus, flow, "E")), std::string("IET"));
+        QVERIFY(!run_marks(bus, flow, "").chip_is_unknown);
+    }
+
     void an_operation_without_actions_is_refused_before_anything_is_sent()
     {
         for (const int empty : {GFPDB_OPERATION_PROGRAM, GFPDB_OPERATION_ERASE, GFPDB_OPERATION_VERIFY}) {
