@@ -17,8 +17,7 @@ private slots:
     void a_flow_is_tried_without_hardware_data()
     {
         rows<QString, int>({{"single", SMALL_DEVICE, PGMIO_ACTIVE_SERIAL},
-                            {"quad", SMALL_DEVICE, PGMIO_ACTIVE_SERIAL_X4},
-                            {"two dies", "W25M512JV", PGMIO_ACTIVE_SERIAL}});
+                            {"quad", SMALL_DEVICE, PGMIO_ACTIVE_SERIAL_X4}});
     }
 
     void a_flow_is_tried_without_hardware()
