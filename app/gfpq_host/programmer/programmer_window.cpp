@@ -31,6 +31,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int FIRST_WIDTH = 1180;
@@ -38,6 +40,8 @@ constexpr int FIRST_HEIGHT = 700;
 // Tight, so that a screen of 768 lines shows all entries.
 constexpr int GROUP_SIDE = 8;
 constexpr int GROUP_TOP = 4;
+// Of either side of the window, on the smallest screens.
+constexpr int LEAST_WIDTH = 220;
 // What a window manager adds around a window, and panels of the desktop.
 constexpr int SCREEN_SHARE_PERCENT = 92;
 
@@ -51,6 +55,16 @@ QWidget* in_group(const QString& title, QWidget* panel)
     column->setContentsMargins(GROUP_SIDE, GROUP_TOP, GROUP_SIDE, GROUP_TOP);
     column->addWidget(panel);
     return group;
+}
+
+// Where there is too little room the page is scrolled.
+QScrollArea* in_scroll_area(QWidget* page)
+{
+    auto* area = new QScrollArea;
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    return area;
 }
 
 // The local file of a drag, if it is one.
@@ -93,13 +107,10 @@ QWidget* PROGRAMMER_WINDOW::create_entries()
     column->addWidget(in_group(tr("File"), m_file_panel));
     column->addWidget(in_group(tr("Operations"), m_order_panel));
     column->addStretch();
-    auto* area = new QScrollArea;
+    QScrollArea* area = in_scroll_area(entries);
     area->setObjectName(QStringLiteral("m_entries_area"));
-    area->setWidget(entries);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setMinimumWidth(entries->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    area->setMinimumWidth(LEAST_WIDTH);
+    m_entries_width = entries->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width();
     return area;
 }
 
@@ -130,7 +141,8 @@ void PROGRAMMER_WINDOW::create_results()
     m_results->setObjectName(QStringLiteral("m_results"));
     m_results->addTab(m_log, tr("Log"));
     m_results->addTab(m_trace_page, tr("Trace"));
-    m_results->addTab(m_data_page, tr("Data"));
+    m_results->addTab(in_scroll_area(m_data_page), tr("Data"));
+    m_results->setMinimumWidth(LEAST_WIDTH);
     for (int page = 0; page < m_results->count(); ++page) {
         const QKeySequence keys(Qt::ALT + Qt::Key_1 + page);
         auto* shortcut = new QShortcut(keys, this);
@@ -189,6 +201,7 @@ void PROGRAMMER_WINDOW::set_first_size()
 {
     const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
     resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    m_splitter->setSizes({m_entries_width, std::max(width() - m_entries_width, LEAST_WIDTH)});
     restoreGeometry(m_settings.value(GEOMETRY_KEY).toByteArray());
     m_splitter->restoreState(m_settings.value(SPLITTER_KEY).toByteArray());
 }

@@ -75,6 +75,8 @@ private:
     RUN_CONTROLLER m_controller;
     RUN_PREPARATION m_preparation;
     bool m_closes_at_the_end = false;
+    // With nothing cut.
+    int m_entries_width = 0;
 
     DEVICE_PANEL* m_device_panel;
     CONNECTION_PANEL* m_connection_panel = nullptr;

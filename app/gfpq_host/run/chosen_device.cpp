@@ -9,6 +9,8 @@
 
 #include <QByteArray>
 
+#include <algorithm>
+
 namespace {
 
 GFPDB_DATABASE users_database()
@@ -64,6 +66,9 @@ std::vector<GFPDB_RECORD> find_devices_with_id(const std::vector<std::uint8_t>& 
 
 QString id_text(const std::vector<std::uint8_t>& id)
 {
-    const QByteArray bytes(reinterpret_cast<const char*>(id.data()), static_cast<int>(id.size()));
+    std::size_t length = 1;
+    while (length < id.size() && !std::equal(id.begin() + static_cast<std::ptrdiff_t>(length), id.end(), id.begin()))
+        ++length;
+    const QByteArray bytes(reinterpret_cast<const char*>(id.data()), static_cast<int>(std::min(length, id.size())));
     return QString::fromLatin1(bytes.toHex(' ').toUpper());
 }

@@ -23,5 +23,5 @@ bool flow_variant_of(int config_scheme);
 // The devices with this ID, as gfpe_find_devices() finds them in the user's database directory.
 std::vector<GFPDB_RECORD> find_devices_with_id(const std::vector<std::uint8_t>& id);
 
-// "C2 20 19".
+// "C2 20 19". A chip that begins its ID again when more bytes are read is shown once.
 QString id_text(const std::vector<std::uint8_t>& id);

@@ -90,8 +90,17 @@ public:
 
     void progressed(const GFPE_PROGRESS& progress) override
     {
+        m_last = progress;
+        if (m_worker.m_is_progress_wanted)
+            publish();
+    }
+
+    // The last word on the progress.
+    void publish()
+    {
         const std::lock_guard<std::mutex> lock(m_worker.m_mutex);
-        m_worker.m_news.progress = progress;
+        m_worker.m_news.progress = m_last;
+        m_worker.m_is_progress_wanted = false;
     }
 
     bool examined(std::int64_t position, const std::uint8_t* bytes, std::size_t length) override
@@ -104,6 +113,7 @@ public:
 private:
     RUN_WORKER& m_worker;
     READ_OUT& m_read_out;
+    GFPE_PROGRESS m_last;
 };
 
 class RUN_WORKER::ANNOUNCED_RUN
@@ -148,6 +158,7 @@ void RUN_WORKER::run_on(GFPE_BUS& bus, const RUN_REQUEST& request, RUN_OUTCOME& 
         const ANNOUNCED_RUN announced(*this, run);
         outcome.result = run.run(request.order);
     }
+    listener.publish();
     read_out->finish(request.file, request.file_position);
     outcome.trace = std::move(trace);
     if (read_out->range().length > 0)
@@ -201,5 +212,6 @@ void RUN_WORKER::stop()
 RUN_NEWS RUN_WORKER::take_news()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_is_progress_wanted = true;
     return std::exchange(m_news, RUN_NEWS());
 }

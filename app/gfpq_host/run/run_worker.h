@@ -5,6 +5,7 @@
 
 #include "run/run_request.h"
 
+#include <atomic>
 #include <mutex>
 
 // work() or detect() is called on the thread of the run, everything else on another one, at any time.
@@ -31,6 +32,8 @@ private:
 
     std::mutex m_mutex;
     RUN_NEWS m_news;
+    // Set by who reads the news, so that the run does not stop for each of its commands.
+    std::atomic<bool> m_is_progress_wanted{true};
     GFPE_RUN* m_run = nullptr;
     bool m_cancelled = false;
     bool m_stopped = false;

@@ -210,7 +210,7 @@ private slots:
         });
         click("m_detect_button");
         QTRY_COMPARE(m_modals.met().size(), 1);
-        QTRY_VERIFY(log().contains(qs("The chip has the ID C2 20 19")));
+        QTRY_VERIFY(log().contains(qs("The chip has the ID C2 20 19.")));
         QVERIFY(!window().choice().device_name.empty());
     }
 };

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QSplitter>
 #include <QTabWidget>
 
 class TEST_PROGRAMMER_WINDOW : public PROGRAMMER_TEST
@@ -136,6 +137,19 @@ private slots:
         QVERIFY(named > 25);
     }
 
+    // 1366 by 768 at 200 %.
+    void the_window_fits_a_small_screen()
+    {
+        open();
+        window().resize(660, 350);
+        QCoreApplication::processEvents();
+        QCOMPARE(window().size(), QSize(660, 350));
+        for (const char* button : {"m_trial_button", "m_start_button", "m_cancel_button"}) {
+            const QWidget& widget = child<QWidget>(button);
+            QVERIFY(window().rect().contains(QRect(widget.mapTo(&window(), QPoint()), widget.size())));
+        }
+    }
+
     void long_texts_are_not_cut()
     {
         qputenv("GFPQ_TRANSLATIONS", GFPQ_PSEUDO_CATALOGUES);
@@ -144,6 +158,9 @@ private slots:
             const TEXT_CATALOGUE texts(qs("gfpq_host"), QStringList());
             QVERIFY(texts.is_installed());
             open();
+            window().resize(1600, 1000);
+            window().findChild<QSplitter*>()->setSizes({800, 800});
+            QCoreApplication::processEvents();
             QCOMPARE(cut_labels(window()).join(QLatin1Char('\n')), QString());
             close_window();
         }
