@@ -4,6 +4,7 @@
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb_test.h"
 #include "manager/gfpdb_embedded_mgr.h"
+#include "store/sqlite/gfpdb_sqlite_file.h"
 #include "test_rows.h"
 
 #include <QDirIterator>
@@ -150,6 +151,20 @@ private slots:
         verify_refused("was altered by another program");
     }
 
+    void a_view_made_while_the_file_is_open_is_not_asked()
+    {
+        make_database();
+        QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+        run_sql(m_place->db_file(), "ALTER TABLE device RENAME TO former");
+        run_sql(m_place->db_file(), ENDLESS_VIEW);
+
+        expect_warning("was altered by another program");
+        QCOMPARE(custom_names(*m_mgr), NAMES());
+        run_sql(m_place->db_file(), "DROP VIEW device");
+        run_sql(m_place->db_file(), "ALTER TABLE former RENAME TO device");
+        QCOMPARE(custom_names(*m_mgr), NAMES());
+    }
+
     void a_trigger_made_while_the_file_is_open_does_not_run()
     {
         make_database();
@@ -169,13 +184,15 @@ private slots:
     void a_trigger_that_was_read_and_hidden_does_not_run()
     {
         make_database();
-        run_sql(m_place->db_file(), "CREATE TRIGGER t AFTER INSERT ON device BEGIN DELETE FROM template; END");
+        GFPDB_SQLITE_FILE file(m_place->db_dir());
+        QVERIFY(file.prepare_write());
+        run_sql(m_place->db_file(), "CREATE TRIGGER t AFTER UPDATE ON device BEGIN DELETE FROM template; END");
         const int count = run_sql(m_place->db_file(), "PRAGMA schema_version").toInt();
-        QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
+        QVERIFY(file.connection().run("SELECT 1 FROM device"));
         run_sql(m_place->db_file(), "DROP TRIGGER t");
         run_sql(m_place->db_file(), "PRAGMA schema_version = " + std::to_string(count));
 
-        QVERIFY(m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
+        QVERIFY(file.change([&file] { return file.connection().run("UPDATE device SET family = family"); }));
 
         QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM template").toInt(), 1);
     }

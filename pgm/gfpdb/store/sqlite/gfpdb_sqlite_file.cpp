@@ -318,6 +318,9 @@ bool GFPDB_SQLITE_FILE::prepare_read()
 {
     m_connection.clear_error();
     refresh();
+    // A view in the place of a table could run for ever.
+    if (is_open() && m_schema.is_changed())
+        open();
     if (m_state == STATE::UNUSABLE)
         m_connection.fail(m_problem);
     return is_open();

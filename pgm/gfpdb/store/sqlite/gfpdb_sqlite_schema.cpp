@@ -182,9 +182,9 @@ bool GFPDB_SQLITE_SCHEMA::check_tables()
 {
     static const QString META_ROW = schema_row(
         {QStringLiteral("table"), QStringLiteral("meta"), QStringLiteral("meta"), QStringLiteral(GFPDB_META_TABLE)});
+    m_count = read_count();
     const std::optional<QStringList> rows =
-        m_connection.run("PRAGMA schema_version") && m_connection.run("PRAGMA writable_schema = RESET") ? read_rows()
-                                                                                                        : std::nullopt;
+        m_count && m_connection.run("PRAGMA writable_schema = RESET") ? read_rows() : std::nullopt;
     const std::optional<std::string> version =
         rows && rows->contains(META_ROW) ? read_meta("schema_version") : std::string();
     return rows && version && is_known(*rows, QByteArray::fromStdString(*version).toInt());
@@ -209,6 +209,23 @@ bool GFPDB_SQLITE_SCHEMA::is_known(const QStringList& rows, int version)
     return database_id.has_value();
 }
 
+std::optional<int> GFPDB_SQLITE_SCHEMA::read_count()
+{
+    QSqlQuery query;
+    if (!m_connection.prepare(query, "PRAGMA schema_version") || !m_connection.run(query) || !query.next())
+        return std::nullopt;
+    return query.value(0).toInt();
+}
+
+// What cannot be read is reported by the statement that follows.
+bool GFPDB_SQLITE_SCHEMA::is_changed()
+{
+    const std::optional<int> count = read_count();
+    if (!count)
+        m_connection.clear_error();
+    return count && count != m_count;
+}
+
 // Reads the version again: another program may have upgraded the file meanwhile. Every record may be written: that is
 // more than memory need hold.
 bool GFPDB_SQLITE_SCHEMA::migrate()
@@ -217,6 +234,7 @@ bool GFPDB_SQLITE_SCHEMA::migrate()
     if (!text || !m_connection.run("PRAGMA cache_spill = ON") || !run_steps(QByteArray::fromStdString(*text).toInt()))
         return false;
     m_version = VERSION;
+    m_count = read_count();
     return m_connection.run("PRAGMA cache_spill = OFF");
 }
 

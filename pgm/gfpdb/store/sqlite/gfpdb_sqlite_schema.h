@@ -35,6 +35,9 @@ public:
     // Brings the file to the present version.
     bool migrate();
 
+    // True when something has changed the schema since then; also by SQLite's count alone.
+    bool is_changed();
+
     // As read() found them, and migrate() left them.
     int version() const { return m_version; }
     // A text that no other database has.
@@ -46,6 +49,7 @@ private:
     bool check_tables();
     bool check_encoding();
     bool is_known(const QStringList& rows, int version);
+    std::optional<int> read_count();
     bool run_steps(int from);
     bool run_step(int from);
     bool run_all(const std::vector<const char*>& statements);
@@ -56,4 +60,6 @@ private:
     GFPDB_SQLITE_CONNECTION& m_connection;
     std::string m_database_id;
     int m_version = 0;
+    // SQLite's count of changes of the schema. As long as it stays, SQLite goes on with what it has read.
+    std::optional<int> m_count;
 };
