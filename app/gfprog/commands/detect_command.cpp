@@ -10,6 +10,7 @@ namespace {
 std::vector<CLI_LISTED> listed(const std::vector<GFPDB_RECORD>& devices)
 {
     std::vector<CLI_LISTED> all;
+    all.reserve(devices.size());
     for (const GFPDB_RECORD& device : devices)
         all.push_back({device, gfprog_is_builtin(device)});
     return all;
