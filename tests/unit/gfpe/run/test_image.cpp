@@ -147,6 +147,9 @@ private slots:
         rate.add(1000, 10);
         QCOMPARE(*rate.get_rate(), 0.0);
         QVERIFY(!rate.get_seconds_left(100));
+        // What was before the last five seconds counts no more.
+        rate.add(11000, 1010);
+        QCOMPARE(*rate.get_rate(), 100.0);
     }
 
     void initTestCase() { QVERIFY(QDir::setCurrent(m_directory.path())); }
