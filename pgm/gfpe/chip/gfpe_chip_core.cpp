@@ -188,6 +188,8 @@ void GFPE_CHIP_CORE::dispatch(REQUEST& request)
 
 void GFPE_CHIP_CORE::execute_simple(REQUEST& request)
 {
+    if (request.spec.job == JOB::ENTER_QPI)
+        return note(request, "starts commands on four lines (QPI), which this emulation does not have: ignored");
     if (request.length || request.command.in_length || request.command.address_bytes)
         return note(request, "has no address and no data, but more than the opcode came: ignored");
     switch (request.spec.job) {
@@ -200,9 +202,6 @@ void GFPE_CHIP_CORE::execute_simple(REQUEST& request)
         break;
     case JOB::CLEAR_FLAGS:
         clear_errors();
-        break;
-    case JOB::ENTER_QPI:
-        note(request, "commands on four lines from now on, which this emulation does not have: ignored");
         break;
     case JOB::POWER_DOWN:
         m_is_down = true;

@@ -156,6 +156,7 @@ private slots:
              "0C: the mode clocks are not driven high, which the chip could take for continuous reading"},
             {"quad data, four address bytes always", "MT25QL256ABA", {0x6C, 1, 4, 4, 8, 7}, "1234", ""},
             {"quad address, four always", "MT25QL256ABA", {0xEC, 4, 4, 4, 10, 9}, "1234", ""},
+            {"lines of an address that is not there", "W25Q128JV-Q", {0x9F, 4, 1, 0, 0, 0}, "EF40", ""},
             {"ten clocks", "S25FL128L", {0xEB, 4, 4, 3, 10, 9}, "1234", ""},
             {"an opcode on four lines",
              "W25Q128JV-Q",

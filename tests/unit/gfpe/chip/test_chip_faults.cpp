@@ -414,6 +414,36 @@ private slots:
         QVERIFY2(host.notes().find("unknown") == std::string::npos, host.notes().c_str());
     }
 
+    void a_known_maker_counts_more_than_the_template_data()
+    {
+        rows<QString, QString, QString>({
+            {"Puya", "85 99 17", "02", ""},
+            {"Renesas", "1F 99 17", "02", ""},
+            {"XTX", "0B 99 17", "02", ""},
+            {"Boya", "68 99 17", "02", ""},
+            {"Fudan", "A1 99 17", "02", ""},
+            {"EON has no second register", "1C 99 17", "FF",
+             "01: 2 data bytes, but the chip takes 1: ignored; 35: unknown to this chip: ignored"},
+            {"Infineon", "34 99 17", "02", ""},
+            {"ISSI has none", "9D 99 17", "FF",
+             "01: 2 data bytes, but the chip takes 1: ignored; "
+             "35: starts commands on four lines (QPI), which this emulation does not have: ignored"},
+            {"GigaDevice writes it by 31", "C8 99 17", "00", "01: 2 data bytes, but the chip takes 1: ignored"},
+            {"Infineon, the other ID", "01 99 17", "02", ""},
+        });
+    }
+    void a_known_maker_counts_more_than_the_template()
+    {
+        const auto [id, answer, notes] = row<QString, QString, QString>();
+        GFPDB_RECORD mine = record(MINE, id, QStringLiteral("64Mb"));
+        mine.row.flow_template = "No QE bit";
+        std::string problem;
+        CHIP_HOST host(GFPE_CHIP::make(mine, problem));
+
+        QCOMPARE(QString::fromStdString(host.play("06; 01 0002; ready; 35 ?1")), answer);
+        QCOMPARE(QString::fromStdString(host.notes()), notes);
+    }
+
     // Its sectors, its locks, its SFDP.
     void a_record_with_the_id_of_a_part_is_like_it()
     {

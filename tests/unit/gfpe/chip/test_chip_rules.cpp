@@ -287,6 +287,7 @@ private slots:
              "5555FFFFFFFFFFFFFFFF 00000000000000000000 5555FFFFFFFFFFFFFFFF", ""},
             {"as many as the chip has", "SST26VF016B", "06; 42 5555 FF*8; 72 ?6", "5555FFFFFFFF",
              "42: takes 6 data bytes: ignored"},
+            {"42 without write enable", "SST26VF016B", "42 00*6; 72 ?1", "55", "42: not write enabled: ignored"},
             {"the lock of one block", "SST26VF032B",
              "06; 42 0000 00*7 01; ready; 06; 02 010000 00; 02 020000 00; ready; 03 010000 ?1; 03 020000 ?1", "FF 00",
              "02: protected: nothing was programmed"},
@@ -383,7 +384,7 @@ private slots:
             {"SFDP from anywhere", "W25Q128JV-Q", "5A 000001 00 ?3; 5A 000000 ?2; 5A 00F000 00 ?1", "464450 FF53 FF",
              ""},
             {"QPI is not emulated", "SST26VF032B", "38; 9F ?1", "BF",
-             "38: commands on four lines from now on, which this emulation does not have: ignored"},
+             "38: starts commands on four lines (QPI), which this emulation does not have: ignored"},
         });
     }
     void identification() { play_row(); }
