@@ -16,6 +16,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -332,6 +333,25 @@ private slots:
         QVERIFY(client->transfer(command, nullptr) && client->settle());
         QCOMPARE(bus.log.last(), "00 " + hex_of(all) + " +0");
         QCOMPARE(answer_of(*client, 0x03, 256).right(5), QByteArray("0E 0F"));
+    }
+
+    void a_line_whose_other_end_takes_nothing_is_not_waited_for_without_end()
+    {
+        int ends[2] = {};
+        QCOMPARE(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0, ends), 0);
+        const std::unique_ptr<GFPE_LINE> line = gfpe_socket_line(ends[0]);
+        const BYTES bytes(65536, 0xA5);
+        std::size_t sent = 0;
+
+        GFPE_LINE_STATE state = GFPE_LINE_STATE::DONE;
+        while (state == GFPE_LINE_STATE::DONE)
+            state = line->write(bytes.data(), bytes.size(), sent, 1);
+
+        QCOMPARE(state, GFPE_LINE_STATE::TIMED_OUT);
+        QCOMPARE(sent, std::size_t(0));
+        ::close(ends[1]);
+        QCOMPARE(line->write(bytes.data(), bytes.size(), sent, 1), GFPE_LINE_STATE::LOST);
+        QCOMPARE(line->get_problem(), std::string("Broken pipe"));
     }
 
     // Root may open everything: the line is opened as somebody else.
