@@ -32,7 +32,7 @@ LINE line_of(const CLI_LISTED& listed)
             row.device_id.empty() ? "-" : row.device_id};
 }
 
-// Two blanks at least stand behind a cell, also behind one that is too long for its column.
+// At least two blanks follow a cell, also behind one that is too long for its column.
 QString padded(const QString& cell, int width)
 {
     return cell.leftJustified(std::max(width, cell.size()) + 2);

@@ -59,7 +59,7 @@ private:
         m_quoted_size = 0;
     }
 
-    // A carriage return at the end belongs to the line break, unless it stands in quotes.
+    // A carriage return at the end belongs to the line break, unless it is in quotes.
     void end_row()
     {
         if (!m_quoted && m_cell.size() > m_quoted_size && m_cell.back() == '\r')

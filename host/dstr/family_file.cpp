@@ -38,7 +38,7 @@ QByteArray trimmed(const std::string& cell)
     return QByteArray::fromStdString(cell).trimmed();
 }
 
-// A name with commas need not be quoted: it is what stands between the value and the schemes.
+// A name with commas need not be quoted: it is what is between the value and the schemes.
 QByteArray name_of(const std::vector<std::string>& cells)
 {
     std::string name = cells[1];

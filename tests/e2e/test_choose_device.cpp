@@ -167,7 +167,7 @@ private slots:
                                   QString(session().database_directory() + QLatin1String("/inner/"))));
     }
 
-    void unusable_directory_is_told_and_nothing_changes()
+    void unusable_directory_is_reported_and_nothing_changes()
     {
         QVERIFY(open({}));
         const QStringList devices = column_of("m_device_table_view");

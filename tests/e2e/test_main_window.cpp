@@ -110,13 +110,13 @@ private slots:
         QVERIFY(wait_for_window(DIALOG_TITLE));
     }
 
-    void unusable_database_is_told_data()
+    void unusable_database_is_reported_data()
     {
         rows<bool, QByteArray>({{"directory is missing", false, QByteArray()},
                                 {"file is no database", true, "this is no database, whatever its name says"}});
     }
 
-    void unusable_database_is_told()
+    void unusable_database_is_reported()
     {
         const auto [is_directory_there, content] = row<bool, QByteArray>();
         const QString directory = scratch() + QStringLiteral("/unusable");

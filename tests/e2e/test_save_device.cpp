@@ -178,7 +178,7 @@ private slots:
         QVERIFY(read_database(FAMILY, SCHEME, {}).value(QStringLiteral("devices")).toArray().isEmpty());
     }
 
-    void lost_directory_is_told_and_the_form_keeps_its_values()
+    void lost_directory_is_reported_and_the_form_keeps_its_values()
     {
         QVERIFY(open(NEW_DEVICE));
         QVERIFY(apply_new_device(QStringLiteral("Kept")));

@@ -99,7 +99,7 @@ private slots:
             QVERIFY2(FAULT_INJECTOR::count(FAULT_CALL(call)) > 0, name_of(FAULT_CALL(call)));
     }
 
-    void another_program_is_told_by_its_environment()
+    void another_program_is_directed_by_its_environment()
     {
         const GFPDB_PLACE place;
         save_part("A");

@@ -93,7 +93,7 @@ private slots:
         QCOMPARE(growth_of_opening({1000, 1000 + LOST, 500, 500 + LOST, 500 + 2 * LOST}), 200.0);
     }
 
-    void a_cache_that_is_emptied_and_filled_again_is_no_growth()
+    void a_cache_that_is_emptied_and_filled_again_is_not_growth()
     {
         QCOMPARE(growth_of_opening({90000, 90000, 10000, 90000, 90000, 90000}), 0.0);
         QCOMPARE(growth_of_opening({90000, 90240, 10000, 10240, 90000, 90240}), 10.0);

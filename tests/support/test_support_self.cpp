@@ -77,7 +77,7 @@ private slots:
         QCOMPARE(m_modals.last().menu_entries, entries);
     }
 
-    void calls_of_all_doubles_stand_in_one_order()
+    void calls_of_all_doubles_are_in_one_order()
     {
         mgr().can_add_flash();
         {

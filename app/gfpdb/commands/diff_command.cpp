@@ -123,7 +123,7 @@ void CLI_DIFF_COMMAND::add_options(QCommandLineParser& parser) const
 int CLI_DIFF_COMMAND::run(const CLI_CALL& call) const
 {
     int exit_code = CLI_EXIT_OK;
-    // The side that is no file says which record of a file is meant.
+    // The side that is not a file says which record of a file is meant.
     const bool right_first = is_file(call.argument(0)) && !is_file(call.argument(1));
     const int first = right_first ? 1 : 0;
     const std::optional<GFPDB_RECORD> one = find(call, call.argument(first), nullptr, exit_code);

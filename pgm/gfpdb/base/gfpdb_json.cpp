@@ -20,7 +20,7 @@ constexpr std::size_t FEW_MEMBERS = 16;
 constexpr unsigned BLANKS_PER_LEVEL = 2;
 constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::size_t BYTE_ORDER_MARK_LENGTH = 3;
-constexpr const char* HALF_PAIR = "half a surrogate pair is no character";
+constexpr const char* HALF_PAIR = "half a surrogate pair is not a character";
 
 using rapidjson::SizeType;
 

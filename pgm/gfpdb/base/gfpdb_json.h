@@ -53,12 +53,12 @@ using JSON_REPORT = std::function<void(const JSON_VALUE& value, const std::strin
 std::string json_item_field(const std::string& field, std::size_t index);
 // False, and reported, when `value`, which is at `field`, is of another kind.
 bool json_is(const JSON_VALUE& value, JSON_VALUE::KIND kind, const std::string& field, const JSON_REPORT& report);
-// Reports members that are not among `known`. False when `object` is no object or lacks one of the first `required` of
-// the known ones, which is reported too.
+// Reports members that are not among `known`. False when `object` is not an object or lacks one of the first `required`
+// of the known ones, which is reported too.
 bool json_has_members(const JSON_VALUE& object, const std::vector<std::string>& known, std::size_t required,
                       const std::string& field, const JSON_REPORT& report);
 
-// Why a text is no JSON.
+// Why a text is not JSON.
 struct JSON_ERROR
 {
     int line = 0;

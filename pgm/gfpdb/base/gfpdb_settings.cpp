@@ -27,7 +27,7 @@ QString settings_path()
                             QLatin1String("/gfpdb/gfpdb.ini"));
 }
 
-// Another directory than the user's may be used then: that is told where warnings are not.
+// Another directory than the user's may be used then: that is reported where warnings are not.
 bool refuse(const QString& path, const QString& why)
 {
     qCCritical(GFPDB_LOG, "The settings file %s %s", qUtf8Printable(path), qUtf8Printable(why));
@@ -47,12 +47,12 @@ bool read_lines(const QString& path, QList<QByteArray>& lines)
     if (!file.open(QIODevice::ReadOnly))
         return refuse(path, QStringLiteral("cannot be read: ") + file.errorString());
     if (file.size() > LARGEST_FILE)
-        return refuse(path, QStringLiteral("is no settings file: it is too large"));
+        return refuse(path, QStringLiteral("is not a settings file: it is too large"));
     QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return refuse(path, QStringLiteral("cannot be read: ") + file.errorString());
     if (content.contains('\0'))
-        return refuse(path, QStringLiteral("is no settings file: it is not a text"));
+        return refuse(path, QStringLiteral("is not a settings file: it is not a text"));
     while (content.startsWith(BYTE_ORDER_MARK))
         content.remove(0, BYTE_ORDER_MARK.size());
     lines = content.split('\n');

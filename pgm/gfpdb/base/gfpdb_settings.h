@@ -6,7 +6,7 @@
 //
 // An INI file: lines "key=value" under "[database]". It is the file named by the environment variable GFPDB_SETTINGS if
 // that is set, else gfpdb/gfpdb.ini in the user's configuration directory. A relative name is relative to where the
-// program was started: the current directory may become one that others can write. Values are bytes as they stand,
+// program was started: the current directory may become one that others can write. Values are bytes as they are,
 // without blanks at their ends. A file that cannot be read is logged and counts as empty. GUI thread only.
 #pragma once
 

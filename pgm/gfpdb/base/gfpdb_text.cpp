@@ -32,7 +32,7 @@ bool gfpdb_is_utf8(const std::string& text)
     return gfpdb_to_utf8(gfpdb_from_utf8(text)) == text;
 }
 
-// A name that is no UTF-8 is its own key, so that it equals no name of the database.
+// A name that is not UTF-8 is its own key, so that it equals no name of the database.
 std::string gfpdb_name_key(const std::string& name)
 {
     if (!gfpdb_is_utf8(name))

@@ -51,7 +51,7 @@ bool read_count(const std::string& cell, int highest, int& value, std::string& e
 {
     const std::optional<std::int64_t> number = gfpdb_parse_decimal(cell);
     if (!number || *number < 1 || *number > highest) {
-        error = gfpdb_quoted(cell) + " is no whole number from 1 to " + std::to_string(highest);
+        error = gfpdb_quoted(cell) + " is not a whole number from 1 to " + std::to_string(highest);
         return false;
     }
     value = static_cast<int>(*number);
@@ -63,7 +63,7 @@ bool read_id(const std::string& cell, GFPDB_PART& part, std::string& error)
     for (const std::string& word : words(cell)) {
         const std::optional<int> byte = gfpdb_parse_byte("0x" + word);
         if (!byte) {
-            error = gfpdb_quoted(word) + " is no byte of two hexadecimal digits such as C2";
+            error = gfpdb_quoted(word) + " is not a byte of two hexadecimal digits such as C2";
             return false;
         }
         part.jedec_id.push_back(*byte);
@@ -80,7 +80,7 @@ bool read_density(const std::string& cell, GFPDB_PART& part, std::string& error)
     const std::int64_t bytes = gfpdb_density_bytes(cell);
     if (bytes > 0 && bytes <= GFPDB_DEVICE_BYTES_MAX)
         return true;
-    error = gfpdb_quoted(cell) + (bytes > 0 ? " is more than 32Gb" : " is no density such as 128Mb");
+    error = gfpdb_quoted(cell) + (bytes > 0 ? " is more than 32Gb" : " is not a density such as 128Mb");
     return false;
 }
 
@@ -90,7 +90,7 @@ bool read_page_size(const std::string& cell, GFPDB_PART& part, std::string& erro
         return false;
     if ((part.page_size & (part.page_size - 1)) == 0)
         return true;
-    error = gfpdb_quoted(cell) + " is no power of two";
+    error = gfpdb_quoted(cell) + " is not a power of two";
     return false;
 }
 
@@ -101,7 +101,7 @@ bool read_sector_erase(const std::string& cell, GFPDB_PART& part, std::string& e
         const std::optional<int> opcode = gfpdb_parse_byte("0x" + word.substr(0, colon));
         const int size = colon == std::string::npos ? 0 : erase_size(word.substr(colon + 1));
         if (!opcode || size == 0) {
-            error = gfpdb_quoted(word) + " is no erase command such as 20:4K";
+            error = gfpdb_quoted(word) + " is not an erase command such as 20:4K";
             return false;
         }
         part.sector_erase.push_back({*opcode, size});

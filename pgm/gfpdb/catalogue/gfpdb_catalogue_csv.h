@@ -2,7 +2,7 @@
 
 // Reads catalogues of parts: comma-separated values with a line of column names.
 //
-// Pure functions. Texts are UTF-8. Columns may stand in any order; docs/flows.md lists them. Throws nothing.
+// Pure functions. Texts are UTF-8. Columns may be in any order; docs/flows.md lists them. Throws nothing.
 #pragma once
 
 #include "gfpdb/gfpdb_part.h"

@@ -30,7 +30,7 @@ constexpr int QUAD_ADDRESS_READ = 0xEB;
 constexpr int DEFAULT_PAGE_SIZE = 256;
 constexpr int DEFAULT_SECTOR_SIZE = 65536;
 constexpr int DEFAULT_SECTOR_ERASE = 0xD8;
-// Dummy clocks of fast read and of quad data read, which no part counts otherwise before it is told to.
+// Dummy clocks of fast read and of quad data read, which no part counts otherwise before it is set to.
 constexpr int DEFAULT_DUMMY_SINGLE = 8;
 constexpr int QUAD_DATA_DUMMY = 8;
 constexpr int DEFAULT_DUMMY_QUAD = 6;

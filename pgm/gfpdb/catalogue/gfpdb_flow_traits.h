@@ -3,7 +3,7 @@
 // What the flows of a part are made from: the commands, sizes, clocks and registers that its row and its maker's habits
 // come to.
 //
-// docs/flows.md says for each trait where it comes from and what stands in for a value that has no source. Pure
+// docs/flows.md says for each trait where it comes from and what is used for a value that has no source. Pure
 // functions.
 #pragma once
 

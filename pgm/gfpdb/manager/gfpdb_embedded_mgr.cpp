@@ -28,7 +28,7 @@ bool refuse(std::string& error, const std::string& text)
     return false;
 }
 
-// A form that shows a stored value leaves it as it is when it is saved. A missing value is no choice.
+// A form that shows a stored value leaves it as it is when it is saved. A missing value is not a choice.
 void add_missing(std::vector<std::string>& options, const std::set<std::string>& used)
 {
     for (const std::string& value : used) {
@@ -98,7 +98,7 @@ void GFPDB_EMBEDDED_MGR::set_config_scheme(int scheme)
     m_scheme = scheme;
 }
 
-// The flows come along in any case: a record without them could not be told from one that has none.
+// The flows come along in any case: a record without them would look like one that has none.
 GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_flows)
 {
     Q_UNUSED(load_flows)

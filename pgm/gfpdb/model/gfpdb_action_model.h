@@ -37,5 +37,5 @@ private:
     std::unique_ptr<std::string[]> m_values;
 };
 
-// A new action with the default values of its type, owned by the caller; null for a number that is no type.
+// A new action with the default values of its type, owned by the caller; null for a number that is not a type.
 GFPDB_ACTION* gfpdb_make_action(GFPDB_ACT_TYPE type);

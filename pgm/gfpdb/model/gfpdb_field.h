@@ -76,7 +76,7 @@ const std::vector<GFPDB_FIELD>& gfpdb_fields();
 // Without so many of the first fields a file has no record.
 constexpr std::size_t GFPDB_REQUIRED_FIELDS = 3;
 
-// The keys of all fields, or of those that are no flows.
+// The keys of all fields, or of those that are not flows.
 std::vector<std::string> gfpdb_field_keys(bool with_flows);
 
 // The field of a property, or of a key; null when there is none.

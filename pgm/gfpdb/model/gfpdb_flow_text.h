@@ -34,10 +34,10 @@ std::optional<std::string> gfpdb_flows_to_text(const std::vector<GFPDB_OPERATION
 // True when `text`, one of gfpdb_flows_to_text(), has an action. Cheaper than reading the operations.
 bool gfpdb_flows_have_actions(const std::string& text);
 
-// The operations of `text`; none when it is no text of flows.
+// The operations of `text`; none when it is not a text of flows.
 std::optional<GFPDB_OPERATION_LIST> gfpdb_flows_from_text(const std::string& text);
 
-// `text` as a value of a file; none when it is no text of flows.
+// `text` as a value of a file; none when it is not a text of flows.
 std::optional<JSON_VALUE> gfpdb_flows_to_json(const std::string& text);
 
 // The operations of a value of a file, which is at `field`. What is wrong is reported and left out.

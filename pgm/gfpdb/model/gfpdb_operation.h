@@ -21,5 +21,5 @@ private:
     std::vector<GFPDB_ACTION*> m_actions;
 };
 
-// A new empty operation, owned by the caller; null for a number that is no kind.
+// A new empty operation, owned by the caller; null for a number that is not a kind.
 GFPDB_OPERATION* gfpdb_make_operation(int kind);

@@ -18,7 +18,7 @@ constexpr int GFPDB_DELAY_US_MAX = 600000000;
 constexpr int GFPDB_DUMMY_CLOCK_MAX = 31;
 constexpr long long GFPDB_DEVICE_BYTES_MAX = 1LL << 32;
 
-// The properties of an action type, in the order in which they are shown; null for a number that is no type.
+// The properties of an action type, in the order in which they are shown; null for a number that is not a type.
 const std::vector<GFPDB_ACT_PROPERTY>* gfpdb_properties_of_type(int type);
 
 // The label of a property in a flow chart, for the loop unit that of a loop's start; empty for a number that is no
@@ -26,7 +26,7 @@ const std::vector<GFPDB_ACT_PROPERTY>* gfpdb_properties_of_type(int type);
 std::string gfpdb_property_label(int property);
 // What stands for the loop unit at the end of a loop.
 extern const char* const GFPDB_LOOP_END_LABEL;
-// The value of a new action; empty for a number that is no property.
+// The value of a new action; empty for a number that is not a property.
 std::string gfpdb_property_default(int property);
 // The allowed values of a property with a closed choice, in display order; empty for any other.
 const std::vector<std::string>& gfpdb_property_choices(int property);

@@ -68,7 +68,7 @@ bool gfpdb_check_device_id(const std::string& id, std::string& error)
         return refuse(error, "The device ID is empty. " + allowed);
     for (const QString& byte : bytes) {
         if (!BYTE.match(byte).hasMatch())
-            return refuse(error, gfpdb_quoted(gfpdb_to_utf8(byte)) + " is no byte of a device ID. " + allowed);
+            return refuse(error, gfpdb_quoted(gfpdb_to_utf8(byte)) + " is not a byte of a device ID. " + allowed);
     }
     if (bytes.size() > GFPDB_ID_BYTES_MAX)
         return refuse(error, "The device ID has " + std::to_string(bytes.size()) + " bytes. " + allowed);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The rules for the values of a device that can be told from the value alone.
+// The rules for the values of a device that follow from the value alone.
 //
 // Each check returns false and puts a text for the user into `error` that says what is wrong and what is allowed; it
 // leaves `error` alone when it returns true. Texts are UTF-8. Pure functions.

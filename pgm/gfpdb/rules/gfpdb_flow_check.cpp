@@ -115,7 +115,7 @@ private:
     void open_loop(const std::string& unit)
     {
         if (!m_loops.empty() && (m_loops.back().unit != GFPDB_LOOP_DIE || unit == GFPDB_LOOP_DIE))
-            add(GFPDB_CUSTOM_LOOP_UNIT, "A loop over each " + unit + " cannot stand in a loop over each " +
+            add(GFPDB_CUSTOM_LOOP_UNIT, "A loop over each " + unit + " cannot be in a loop over each " +
                                             m_loops.back().unit +
                                             ". Allowed: a loop over each page or sector in a "
                                             "loop over each die.");
@@ -205,9 +205,9 @@ private:
             const auto id = static_cast<GFPDB_ACT_PROPERTY>(property);
             const std::string value = action.is_property_enabled(id) ? action.get_property_value(id) : std::string();
             if (value == GFPDB_VALUE_LOOP && m_loops.empty())
-                add(property, "The value \"loop\" stands outside of any loop.");
+                add(property, "The value \"loop\" is outside any loop.");
             if (value == GFPDB_VALUE_DIE && !in_die_loop)
-                add(property, "The value \"die\" stands outside of a loop over each die.");
+                add(property, "The value \"die\" is outside a loop over each die.");
         }
     }
 

@@ -20,7 +20,8 @@ bool gfpdb_is_voltage(const std::string& text);
 
 // True when a flash with the I/O voltage `voltage` can be connected to a device of `family`
 // that is configured by `scheme`. Families from GFPDB_FIRST_LOW_VOLTAGE_FAMILY on drive the pins of their serial flash
-// with 1.8 V: for them a serial flash must work at 1.8 V. Everything else fits. A text that is no voltage does not fit.
+// with 1.8 V: for them a serial flash must work at 1.8 V. Everything else fits. A text that is not a voltage does not
+// fit.
 bool gfpdb_voltage_fits(const std::string& voltage, int family, int scheme);
 
 constexpr int GFPDB_FIRST_LOW_VOLTAGE_FAMILY = 49;

@@ -17,7 +17,7 @@ enum class GFPDB_SCHEME_KIND
     CARD,     // memory card
 };
 
-// The kind of `scheme`; NONE for a value that is no scheme.
+// The kind of `scheme`; NONE for a value that is not a scheme.
 GFPDB_SCHEME_KIND gfpdb_scheme_kind(int scheme);
 
 // The schemes of `kind`, ascending; NONE has those of SERIAL, as it has its properties and lists.
@@ -26,6 +26,6 @@ std::vector<int> gfpdb_schemes_of(GFPDB_SCHEME_KIND kind);
 // True when the devices of `scheme` are read and written over four data lines.
 bool gfpdb_is_quad_scheme(int scheme);
 
-// True when a device of `kind` has `property`. NONE has the properties of SERIAL, so that a form stands whole although
+// True when a device of `kind` has `property`. NONE has the properties of SERIAL, so that a form is whole although
 // there is no device to show.
 bool gfpdb_kind_has_property(GFPDB_SCHEME_KIND kind, int property);

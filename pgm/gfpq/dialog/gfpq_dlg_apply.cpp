@@ -48,7 +48,7 @@ bool GFPQ_DLG::save(const GFPQ_DEVICE_DRAFT& draft)
 {
     const std::string entered = gfpq_to_local(draft.name());
     m_current_flash = m_gfpdb_mgr->create_flash(entered);
-    // A record that the database cannot make is no failure: there is nothing to save.
+    // A record that the database cannot make is not a failure: there is nothing to save.
     if (m_current_flash == nullptr)
         return true;
     draft.store_fields(*m_current_flash);

@@ -223,7 +223,7 @@ private slots:
         QCOMPARE(calls(), list_of({R"(mgr.is_hidden_flash("B", false))"}));
     }
 
-    void a_record_that_cannot_be_made_is_no_failure()
+    void a_record_that_cannot_be_made_is_not_a_failure()
     {
         mgr().creates_flash = false;
         open_with("A");

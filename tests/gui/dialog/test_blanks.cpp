@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Texts with blanks at both ends and inside: every check, every store and every comparison takes them as they stand.
+// Texts with blanks at both ends and inside: every check, every store and every comparison takes them as they are.
 #include "dialog_test.h"
 
 namespace {
@@ -18,9 +18,9 @@ class TEST_BLANKS : public DIALOG_TEST
     Q_OBJECT
 
 private slots:
-    void a_committed_text_is_checked_as_it_stands_data() { blanks_data(); }
+    void a_committed_text_is_checked_as_it_is_data() { blanks_data(); }
 
-    void a_committed_text_is_checked_as_it_stands()
+    void a_committed_text_is_checked_as_it_is()
     {
         const QString text = row<QString>();
         mgr().voltages = {"1.8 V", text.toStdString()};
@@ -64,9 +64,9 @@ private slots:
         QCOMPARE(edit(QTest::currentDataTag()).text(), text);
     }
 
-    void a_new_device_is_checked_and_stored_as_it_stands_data() { blanks_data(); }
+    void a_new_device_is_checked_and_stored_as_it_is_data() { blanks_data(); }
 
-    void a_new_device_is_checked_and_stored_as_it_stands()
+    void a_new_device_is_checked_and_stored_as_it_is()
     {
         const QString text = row<QString>();
         const std::string bytes = text.toStdString();
@@ -104,9 +104,9 @@ private slots:
         QCOMPARE(current_row(), name);
     }
 
-    void a_stored_device_is_shown_and_deleted_as_it_stands_data() { blanks_data(); }
+    void a_stored_device_is_shown_and_deleted_as_it_is_data() { blanks_data(); }
 
-    void a_stored_device_is_shown_and_deleted_as_it_stands()
+    void a_stored_device_is_shown_and_deleted_as_it_is()
     {
         const QString text = row<QString>();
         const std::string bytes = text.toStdString();
@@ -244,7 +244,7 @@ private slots:
         QVERIFY(button("m_delete_button").isEnabled());
     }
 
-    void the_filter_takes_blanks_as_they_stand_data()
+    void the_filter_takes_blanks_as_they_are_data()
     {
         rows<QString, QStringList>({{"a blank", " ", {"<<new device>>", "A B", " AB", "AB "}},
                                     {"in front", " A", {" AB"}},
@@ -253,7 +253,7 @@ private slots:
                                     {"beside a star", "A* ", {"A B", "AB "}}});
     }
 
-    void the_filter_takes_blanks_as_they_stand()
+    void the_filter_takes_blanks_as_they_are()
     {
         const auto [filter, shown] = row<QString, QStringList>();
         for (const char* name : {"AB", "A B", " AB", "AB "})
@@ -266,9 +266,9 @@ private slots:
         QCOMPARE(text("m_filter_line_edit"), filter);
     }
 
-    void a_directory_is_taken_over_as_it_stands_data() { blanks_data(); }
+    void a_directory_is_taken_over_as_it_is_data() { blanks_data(); }
 
-    void a_directory_is_taken_over_as_it_stands()
+    void a_directory_is_taken_over_as_it_is()
     {
         const QString text = row<QString>();
         open();
@@ -286,7 +286,7 @@ private slots:
     }
 
     // Saved without leaving the edit first.
-    void a_directory_of_blanks_is_no_empty_one()
+    void a_directory_of_blanks_is_not_an_empty_one()
     {
         open();
         type_in("m_directory_edit", "  ");

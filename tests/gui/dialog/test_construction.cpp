@@ -121,7 +121,7 @@ private slots:
         }
     }
 
-    void operation_pages_stand_behind_the_device_page()
+    void operation_pages_are_behind_the_device_page()
     {
         open();
 

@@ -155,7 +155,7 @@ private slots:
         QCOMPARE(text("m_directory_edit"), QString::fromLatin1(directory.toUtf8()));
     }
 
-    void a_refused_directory_is_put_back_and_told()
+    void a_refused_directory_is_put_back_and_reported()
     {
         const MARKING_TRANSLATOR translator("gfpq_dlg");
         mgr().add_custom("A");
@@ -310,7 +310,7 @@ private slots:
         QCOMPARE(calls(), QStringList());
     }
 
-    void a_refused_directory_is_told_once()
+    void a_refused_directory_is_reported_once()
     {
         world().save_dir_succeeds = false;
         open();

@@ -258,7 +258,7 @@ private slots:
         QCOMPARE(m_args.family_schemes, (std::map<int, std::vector<int>>{{9, {10}}}));
     }
 
-    void each_call_starts_anew()
+    void each_call_starts_from_the_beginning()
     {
         run_dialog([](GFPQ_DLG& dialog) {
             of<QLineEdit>(dialog, "m_filter_line_edit").setText(qs("a"));

@@ -183,7 +183,7 @@ private slots:
         QCOMPARE(page_flow(1), list_of({"0:own 1"}));
     }
 
-    void the_warning_box_shows_the_librarys_text_as_it_stands_data()
+    void the_warning_box_shows_the_librarys_text_as_it_is_data()
     {
         rows<QString>({{"markup", "<b>bold</b> & <br>"},
                        {"lines", "one\ntwo\n\n"},
@@ -192,7 +192,7 @@ private slots:
                        {"percent", "100 %1 %n"}});
     }
 
-    void the_warning_box_shows_the_librarys_text_as_it_stands()
+    void the_warning_box_shows_the_librarys_text_as_it_is()
     {
         const QString text = row<QString>();
         mgr().refuse(GFPDB_FLASH_NAME, text.toStdString());

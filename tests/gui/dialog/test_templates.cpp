@@ -89,7 +89,7 @@ private slots:
         world().active = &own;
     }
 
-    void the_editor_is_made_anew_each_time()
+    void the_editor_is_made_again_each_time()
     {
         open();
         QList<QPointer<QWidget>> editors;

@@ -248,7 +248,7 @@ private slots:
         QCOMPARE(scene.sceneRect().topLeft(), QPointF(0, 0));
     }
 
-    void two_blocks_stand_a_block_and_an_arrow_apart_and_arrows_touch_them()
+    void two_blocks_are_a_block_and_an_arrow_apart_and_arrows_touch_them()
     {
         LOADED_SCENE scene({"one", "two"});
 

@@ -244,7 +244,7 @@ private slots:
             QCOMPARE(shape->pen(), QPen(Qt::black));
     }
 
-    void a_block_is_outlined_before_its_action_is_told()
+    void a_block_is_outlined_before_its_action_is_reported()
     {
         LOADED_SCENE scene({"one", "two"});
         QList<QPen> pens_then;

@@ -283,7 +283,7 @@ private slots:
         QCOMPARE(index_at(bottom + 66), 0);
     }
 
-    void refresh_draws_the_chart_anew()
+    void refresh_draws_the_chart_again()
     {
         auto [scene, view] = CHART({"one"});
         scene.get_actions().first()->set_property_value(GFPDB_WR_NAME, "changed");

@@ -102,7 +102,7 @@ private slots:
             QCOMPARE(arrow->pen(), QPen(Qt::black, 2));
     }
 
-    void of_several_selected_blocks_the_last_reported_one_is_told()
+    void of_several_selected_blocks_the_last_reported_one_is_reported()
     {
         LOADED_SCENE scene({"one", "two", "three"});
         const TOLD_ACTIONS told(scene);
@@ -128,7 +128,7 @@ private slots:
         QCOMPARE(told.actions, QList<GFPDB_ACTION*>{scene.get_actions().at(1)});
     }
 
-    void nothing_is_told_when_the_selection_goes()
+    void nothing_is_reported_when_the_selection_goes()
     {
         LOADED_SCENE scene({"one", "two"});
         blocks_of(scene).first()->setSelected(true);
@@ -142,7 +142,7 @@ private slots:
         QCOMPARE(blocks_of(scene).first()->pen(), QPen(Qt::black));
     }
 
-    void nothing_is_told_while_the_chart_is_torn_down()
+    void nothing_is_reported_while_the_chart_is_torn_down()
     {
         LOADED_SCENE scene({"one", "two", "three"});
         for (QGraphicsRectItem* const block : blocks_of(scene))

@@ -139,7 +139,7 @@ private slots:
         QCOMPARE(interface->text(is_combo ? QAccessible::Description : QAccessible::Name), name);
     }
 
-    void the_colon_of_other_scripts_is_no_part_of_a_name()
+    void the_colon_of_other_scripts_is_not_a_part_of_a_name()
     {
         class WIDE_COLONS : public QTranslator
         {

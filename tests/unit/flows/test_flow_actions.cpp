@@ -211,7 +211,7 @@ private slots:
         QCOMPARE(error_of(*make(GFPDB_ACT_CUSTOM), GFPDB_WR_COMMAND, "0x06"), std::string());
     }
 
-    void a_value_is_stored_as_it_stands()
+    void a_value_is_stored_as_it_is()
     {
         const ACTION action = make(GFPDB_ACT_WRITE_REGISTER);
         const std::string odd = std::string("no\0 byte\n<b>", 12) + std::string(100000, 'x');
@@ -374,7 +374,7 @@ private slots:
                  std::string("\"stop\" is not allowed for \"Loop marker\". Allowed: start, end."));
     }
 
-    void a_number_that_is_no_property_is_refused()
+    void a_number_that_is_not_a_property_is_refused()
     {
         for (const int property : {-1, 40}) {
             QCOMPARE(error_of(*make(GFPDB_ACT_CUSTOM), property, "x"),

@@ -184,32 +184,36 @@ private slots:
         const auto add = [](const char* row, const char* error) {
             QTest::newRow(row) << QByteArray(row) << QByteArray(error);
         };
-        add("A,,C,,1Mb,,,,,,,,,", "column \"jedec_id\": \"C\" is no byte of two hexadecimal digits such as C2");
+        add("A,,C,,1Mb,,,,,,,,,", "column \"jedec_id\": \"C\" is not a byte of two hexadecimal digits such as C2");
         add("A,,,,1Mb,,,,,,,,,", "column \"jedec_id\": an ID has 1 to 16 bytes such as C2 20 19");
         add("A,,00 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 10,,1Mb,,,,,,,,,",
             "column \"jedec_id\": an ID has 1 to 16 bytes such as C2 20 19");
         add("A\tB,,C2,,1Mb,,,,,,,,,",
             "column \"name\": The part name has a line break or another control character: use letters, digits, "
             "marks and blanks.");
-        add("A,,C2,,,,,,,,,,,", "column \"density\": \"\" is no density such as 128Mb");
+        add("A,,C2,,,,,,,,,,,", "column \"density\": \"\" is not a density such as 128Mb");
         add("A,,C2,,33Gb,,,,,,,,,", "column \"density\": \"33Gb\" is more than 32Gb");
-        add("A,,C2,,16,,,,,,,,,", "column \"density\": \"16\" is no density such as 128Mb");
-        add("A,,C2,,1Mb,0,,,,,,,,", "column \"total_die\": \"0\" is no whole number from 1 to 16");
-        add("A,,C2,,1Mb,17,,,,,,,,", "column \"total_die\": \"17\" is no whole number from 1 to 16");
-        add("A,,C2,,1Mb,,many,,,,,,,", "column \"page_size\": \"many\" is no whole number from 1 to 4096");
-        add("A,,C2,,1Mb,,4097,,,,,,,", "column \"page_size\": \"4097\" is no whole number from 1 to 4096");
-        add("A,,C2,,1Mb,,300,,,,,,,", "column \"page_size\": \"300\" is no power of two");
-        add("A,,C2,,1Mb,,,20:4K D8,,,,,,", "column \"sector_erase_opcodes\": \"D8\" is no erase command such as 20:4K");
-        add("A,,C2,,1Mb,,,2:4K,,,,,,", "column \"sector_erase_opcodes\": \"2:4K\" is no erase command such as 20:4K");
-        add("A,,C2,,1Mb,,,20:4,,,,,,", "column \"sector_erase_opcodes\": \"20:4\" is no erase command such as 20:4K");
+        add("A,,C2,,16,,,,,,,,,", "column \"density\": \"16\" is not a density such as 128Mb");
+        add("A,,C2,,1Mb,0,,,,,,,,", "column \"total_die\": \"0\" is not a whole number from 1 to 16");
+        add("A,,C2,,1Mb,17,,,,,,,,", "column \"total_die\": \"17\" is not a whole number from 1 to 16");
+        add("A,,C2,,1Mb,,many,,,,,,,", "column \"page_size\": \"many\" is not a whole number from 1 to 4096");
+        add("A,,C2,,1Mb,,4097,,,,,,,", "column \"page_size\": \"4097\" is not a whole number from 1 to 4096");
+        add("A,,C2,,1Mb,,300,,,,,,,", "column \"page_size\": \"300\" is not a power of two");
+        add("A,,C2,,1Mb,,,20:4K D8,,,,,,",
+            "column \"sector_erase_opcodes\": \"D8\" is not an erase command such as 20:4K");
+        add("A,,C2,,1Mb,,,2:4K,,,,,,",
+            "column \"sector_erase_opcodes\": \"2:4K\" is not an erase command such as 20:4K");
+        add("A,,C2,,1Mb,,,20:4,,,,,,",
+            "column \"sector_erase_opcodes\": \"20:4\" is not an erase command such as 20:4K");
         add("A,,C2,,1Mb,,,20:1025K,,,,,,",
-            "column \"sector_erase_opcodes\": \"20:1025K\" is no erase command such as 20:4K");
-        add("A,,C2,,1Mb,,,20:0K,,,,,,", "column \"sector_erase_opcodes\": \"20:0K\" is no erase command such as 20:4K");
+            "column \"sector_erase_opcodes\": \"20:1025K\" is not an erase command such as 20:4K");
+        add("A,,C2,,1Mb,,,20:0K,,,,,,",
+            "column \"sector_erase_opcodes\": \"20:0K\" is not an erase command such as 20:4K");
         add("A,,C2,,1Mb,,,20:2000M,,,,,,",
-            "column \"sector_erase_opcodes\": \"20:2000M\" is no erase command such as 20:4K");
+            "column \"sector_erase_opcodes\": \"20:2000M\" is not an erase command such as 20:4K");
         add("A,,C2,,1Mb,,,,5,,,,,", "column \"addressing_bytes\": \"5\" is neither 3 nor 4");
-        add("A,,C2,,1Mb,,,,,32,,,,", "column \"dummy_single\": \"32\" is no whole number from 1 to 31");
-        add("A,,C2,,1Mb,,,,,,six (6),,,", "column \"dummy_quad\": \"six\" is no whole number from 1 to 31");
+        add("A,,C2,,1Mb,,,,,32,,,,", "column \"dummy_single\": \"32\" is not a whole number from 1 to 31");
+        add("A,,C2,,1Mb,,,,,,six (6),,,", "column \"dummy_quad\": \"six\" is not a whole number from 1 to 31");
         add("A,,C2,,1Mb,,,,,,,SR3,,", "column \"quad_enable\": \"SR3\" is none of none, SR1.6, SR2.1");
         add("A,,C2,,1Mb,,,,,,,,,no", "column \"visibility\": \"no\" is none of open, no-properties, no-flows, hidden");
         add("A,\xFF,C2,,1Mb,,,,,,,,,", "column \"manufacturer\": \"\xEF\xBF\xBD\" is not UTF-8");

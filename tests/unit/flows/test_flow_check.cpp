@@ -96,7 +96,7 @@ private slots:
             for (const QString inner : {"page", "sector", "die"}) {
                 const QByteArray out = outer.toLatin1();
                 const QByteArray in = inner.toLatin1();
-                const QString text = QString("1/3/38 A loop over each %1 cannot stand in a loop over each %2. Allowed: "
+                const QString text = QString("1/3/38 A loop over each %1 cannot be in a loop over each %2. Allowed: "
                                              "a loop over each page or sector in a loop over each die.")
                                          .arg(inner, outer);
                 QCOMPARE(
@@ -183,11 +183,11 @@ private slots:
 
     void loop_and_die_stand_in_their_loops()
     {
-        QCOMPARE(problems({write_data()}), QStringList{"1/0/15 The value \"loop\" stands outside of any loop."});
-        QCOMPARE(problems({erase()}), QStringList{"1/0/33 The value \"loop\" stands outside of any loop."});
+        QCOMPARE(problems({write_data()}), QStringList{"1/0/15 The value \"loop\" is outside any loop."});
+        QCOMPARE(problems({erase()}), QStringList{"1/0/33 The value \"loop\" is outside any loop."});
         QCOMPARE(problems({read_data({{GFPDB_RD_ADDRESS, "loop"}})}),
-                 QStringList{"1/0/23 The value \"loop\" stands outside of any loop."});
-        const QString die = " The value \"die\" stands outside of a loop over each die.";
+                 QStringList{"1/0/23 The value \"loop\" is outside any loop."});
+        const QString die = " The value \"die\" is outside a loop over each die.";
         QCOMPARE(problems({write_register({{GFPDB_WR_DATA, "die"}})}), QStringList{"1/0/2" + die});
         QCOMPARE(problems({read_data({{GFPDB_RD_ADDRESS, "die"}, {GFPDB_RD_DATA_LENGTH, "die"}})}),
                  (QStringList{"1/0/23" + die, "1/0/24" + die}));
@@ -214,7 +214,7 @@ private slots:
         QCOMPARE(problems({program.get(), chip_erase.get()}), QStringList());
     }
 
-    void an_operation_that_is_missing_is_no_problem()
+    void an_operation_that_is_missing_is_not_a_problem()
     {
         QVERIFY(gfpdb_check_flow({}).empty());
         QVERIFY(gfpdb_check_flow({nullptr}).empty());

@@ -330,7 +330,7 @@ private slots:
         }
     }
 
-    void a_read_that_is_not_of_the_image_is_executed_as_it_stands()
+    void a_read_that_is_not_of_the_image_is_executed_as_it_is()
     {
         RUN run(8192);
         run.range = GFPE_RANGE{0, 1};

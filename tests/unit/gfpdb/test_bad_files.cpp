@@ -63,7 +63,7 @@ class TEST_BAD_FILES : public DATABASE_TEST
     Q_OBJECT
 
 private slots:
-    void a_file_that_is_no_usable_database_is_left_alone_data()
+    void a_file_that_is_not_a_usable_database_is_left_alone_data()
     {
         const QByteArray nothing;
         const QByteArray foreign =
@@ -86,7 +86,7 @@ private slots:
               foreign}});
     }
 
-    void a_file_that_is_no_usable_database_is_left_alone()
+    void a_file_that_is_not_a_usable_database_is_left_alone()
     {
         auto [content, statement, problem] = row<QByteArray, QByteArray, QByteArray>();
         write_file(m_place->db_file(), content.toStdString());
@@ -99,7 +99,7 @@ private slots:
         QCOMPARE(entries(m_place->db_dir()), QStringList(QStringLiteral("gfpdb.sqlite")));
     }
 
-    void a_link_that_leads_nowhere_is_no_empty_database_data()
+    void a_link_that_leads_nowhere_is_not_an_empty_database_data()
     {
         rows<QByteArray, QByteArray>({{"missing", "../share/flash.sqlite", "No such file or directory"},
                                       {"itself", "gfpdb.sqlite", "Too many levels of symbolic links"},
@@ -107,7 +107,7 @@ private slots:
     }
 
     // As when the share that it is on is not mounted.
-    void a_link_that_leads_nowhere_is_no_empty_database()
+    void a_link_that_leads_nowhere_is_not_an_empty_database()
     {
         const auto [target, why] = row<QByteArray, QByteArray>();
         QCOMPARE(::symlink(target.constData(), m_place->db_file().c_str()), 0);

@@ -349,7 +349,7 @@ private slots:
     }
 
     // A small file system of its own; where that may not be mounted, a limit on file sizes stands for it.
-    void a_full_medium_is_told_as_such()
+    void a_full_medium_is_reported_as_such()
     {
         constexpr rlim_t ROOM = 128 * 1024;
         const std::string directory = m_place->path("small/");

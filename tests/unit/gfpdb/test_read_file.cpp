@@ -91,7 +91,7 @@ private slots:
         QCOMPARE(problem, std::string());
     }
 
-    void what_is_no_regular_file_is_not_read_data()
+    void what_is_not_a_regular_file_is_not_read_data()
     {
         const QString not_regular = QStringLiteral("it is not a regular file");
         rows<QString, QString>({{"nothing", "nothing", "No such file or directory"},
@@ -103,7 +103,7 @@ private slots:
                                 {"terminal", "/dev/ptmx", not_regular}});
     }
 
-    void what_is_no_regular_file_is_not_read()
+    void what_is_not_a_regular_file_is_not_read()
     {
         const GFPDB_PLACE place;
         const auto [name, problem] = row<QString, QString>();

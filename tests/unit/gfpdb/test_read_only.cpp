@@ -174,7 +174,7 @@ private slots:
         QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "B"}));
     }
 
-    void a_database_that_is_sealed_while_it_is_open_is_told_as_such()
+    void a_database_that_becomes_read_only_while_it_is_open_is_reported_as_such()
     {
         make_database();
         m_mgr = fresh_manager();

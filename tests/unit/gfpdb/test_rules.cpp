@@ -113,7 +113,7 @@ private slots:
                  "The device name " + gfpdb_quoted(name) + " begins or ends with a blank: remove it.");
     }
 
-    void the_text_of_the_new_device_row_is_no_name()
+    void the_text_of_the_new_device_row_is_not_a_name()
     {
         for (const char* name : {"<<new device>>", "<<New Device>>"})
             QCOMPARE(name_error(name),
@@ -164,17 +164,17 @@ private slots:
         rows<std::string, std::string>({{"empty", std::string(), "The device ID is empty. "},
                                         {"blanks", " \t ", "The device ID is empty. "},
                                         {"17 bytes", repeated("00 ", 17), "The device ID has 17 bytes. "},
-                                        {"run together", "C22019", "\"C22019\" is no byte of a device ID. "},
-                                        {"three digits", "C2 0x100", "\"0x100\" is no byte of a device ID. "},
-                                        {"prefix alone", "0x", "\"0x\" is no byte of a device ID. "},
-                                        {"no digit", "0xG1", "\"0xG1\" is no byte of a device ID. "},
-                                        {"sign", "-1", "\"-1\" is no byte of a device ID. "},
-                                        {"two commas", "C2,,20", "\"\" is no byte of a device ID. "},
-                                        {"comma at the end", "C2,", "\"\" is no byte of a device ID. "},
-                                        {"semicolon", "C2;20", "\"C2;20\" is no byte of a device ID. "},
-                                        {"line break", "C2\n20", "\"C2?20\" is no byte of a device ID. "},
-                                        {"line break at the end", "C2\n", "\"C2?\" is no byte of a device ID. "},
-                                        {"other digits", "\xD9\xA1", "\"\xD9\xA1\" is no byte of a device ID. "}});
+                                        {"run together", "C22019", "\"C22019\" is not a byte of a device ID. "},
+                                        {"three digits", "C2 0x100", "\"0x100\" is not a byte of a device ID. "},
+                                        {"prefix alone", "0x", "\"0x\" is not a byte of a device ID. "},
+                                        {"no digit", "0xG1", "\"0xG1\" is not a byte of a device ID. "},
+                                        {"sign", "-1", "\"-1\" is not a byte of a device ID. "},
+                                        {"two commas", "C2,,20", "\"\" is not a byte of a device ID. "},
+                                        {"comma at the end", "C2,", "\"\" is not a byte of a device ID. "},
+                                        {"semicolon", "C2;20", "\"C2;20\" is not a byte of a device ID. "},
+                                        {"line break", "C2\n20", "\"C2?20\" is not a byte of a device ID. "},
+                                        {"line break at the end", "C2\n", "\"C2?\" is not a byte of a device ID. "},
+                                        {"other digits", "\xD9\xA1", "\"\xD9\xA1\" is not a byte of a device ID. "}});
     }
 
     void a_device_id_that_is_none_says_why()

@@ -65,7 +65,7 @@ private slots:
         QCOMPARE(gfpdb_read_setting("busy_timeout"), std::string("7"));
     }
 
-    void what_is_no_value_of_the_section_is_empty()
+    void what_is_not_a_value_of_the_section_is_empty()
     {
         QCOMPARE(gfpdb_read_setting("custom_dir"), std::string());
         for (const char* content : {"[other]\ncustom_dir=/other/\n", "",
@@ -152,9 +152,9 @@ private slots:
     {
         const QByteArray setting = QByteArrayLiteral("[database]\ncustom_dir=/a/\n");
         rows<QByteArray, QByteArray>(
-            {{"not a text", setting + '\0', QByteArrayLiteral("is no settings file: it is not a text")},
+            {{"not a text", setting + '\0', QByteArrayLiteral("is not a settings file: it is not a text")},
              {"too large", setting + QByteArray(1 << 20, ';'),
-              QByteArrayLiteral("is no settings file: it is too large")}});
+              QByteArrayLiteral("is not a settings file: it is too large")}});
     }
 
     void unreadable_settings_are_logged_and_left_alone()

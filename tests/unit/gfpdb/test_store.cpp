@@ -480,7 +480,7 @@ private slots:
         QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), (NAMES{"B", "C"}));
     }
 
-    void a_removed_file_is_noticed_and_made_anew()
+    void a_removed_file_is_noticed_and_made_again()
     {
         QVERIFY(m_store->save_device(make_row("A")));
         QVERIFY(QFile::remove(QString::fromStdString(file())));

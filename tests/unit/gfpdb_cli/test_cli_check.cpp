@@ -38,7 +38,7 @@ private slots:
         QCOMPARE(lines[0],
                  QByteArray("device \"Odd\" (family 3, scheme 7): quad_flows[0].actions[0].command: \"6\" is not "
                             "allowed for \"Command\". Allowed: one byte in hexadecimal, such as 0x9F."));
-        QVERIFY(lines[1].startsWith("device \"Odd\" (family 3, scheme 7): device_id: \"none\" is no byte"));
+        QVERIFY(lines[1].startsWith("device \"Odd\" (family 3, scheme 7): device_id: \"none\" is not a byte"));
         QVERIFY(lines[2].startsWith("device \"Odd\" (family 3, scheme 7): voltage: The I/O voltage \"\" is not known"));
         QVERIFY(lines[3].startsWith("device \"Odd\" (family 3, scheme 7): total_die: The total die count 0 is out of"));
         QCOMPARE(lines[4],
@@ -62,7 +62,7 @@ private slots:
         QCOMPARE(warnings.at(0).toObject().value("field").toString(), QString("single_flows"));
     }
 
-    void a_warning_alone_is_no_problem()
+    void a_warning_alone_is_not_a_problem()
     {
         save_part("Mine");
         run_sql(m_place->db_file(), "UPDATE device SET single_flows = '', quad_flows = ''");

@@ -234,12 +234,12 @@ private slots:
         QCOMPARE(exported(), before);
     }
 
-    void what_is_no_number_of_the_history_is_refused_data()
+    void what_is_not_a_number_of_the_history_is_refused_data()
     {
         rows_named<QString>({"x", "1x", " 1", "1 ", "+1", "1.0", "0x1", "9223372036854775808"});
     }
 
-    void what_is_no_number_of_the_history_is_refused()
+    void what_is_not_a_number_of_the_history_is_refused()
     {
         const QString id = row<QString>();
         save_part("Mine", FAMILY, ACTIVE_SERIAL, std::string(), 2);
@@ -252,7 +252,7 @@ private slots:
         QCOMPARE(tool({"diff", "history:" + id, "Mine"}).exit_code, 3);
     }
 
-    void prune_keeps_what_it_is_told_data()
+    void prune_keeps_what_it_is_asked_to_data()
     {
         QTest::addColumn<QStringList>("options");
         QTest::addColumn<QString>("left");
@@ -277,7 +277,7 @@ private slots:
 
     // 1 to 3 are states of a device that is there, 4 is one of the same name elsewhere, 5 and 6 are all that is left of
     // a device and of a template.
-    void prune_keeps_what_it_is_told()
+    void prune_keeps_what_it_is_asked_to()
     {
         const QString directory = q(m_place->db_dir());
         QFETCH(QStringList, options);

@@ -107,7 +107,7 @@ private slots:
             QCOMPARE(parsed(number).text, number);
     }
 
-    void what_is_no_json_is_refused_with_its_line_data()
+    void what_is_not_json_is_refused_with_its_line_data()
     {
         QTest::addColumn<QByteArray>("json");
         QTest::addColumn<QByteArray>("error");
@@ -135,9 +135,9 @@ private slots:
         add("\"\\x\"", "1: there is no such escape");
         add("\"\\", "1: there is no such escape");
         add("\"\\u12g4\"", "1: \\u needs four hexadecimal digits");
-        add("\"\\uD83D\"", "1: half a surrogate pair is no character");
-        add("\"\\uD83D\\u0041\"", "1: half a surrogate pair is no character");
-        add("\"\\uDE00\"", "1: half a surrogate pair is no character");
+        add("\"\\uD83D\"", "1: half a surrogate pair is not a character");
+        add("\"\\uD83D\\u0041\"", "1: half a surrogate pair is not a character");
+        add("\"\\uDE00\"", "1: half a surrogate pair is not a character");
         add("\"\xFF\"", "1: a text is not UTF-8");
         add("\"\xC3\"", "1: a text is not UTF-8");
         add("\"\xC0\x80\"", "1: a text is not UTF-8");
@@ -147,7 +147,7 @@ private slots:
         add("\"\xF4\x90\x80\x80\"", "1: a text is not UTF-8");
     }
 
-    void what_is_no_json_is_refused_with_its_line()
+    void what_is_not_json_is_refused_with_its_line()
     {
         QFETCH(QByteArray, json);
         QFETCH(QByteArray, error);

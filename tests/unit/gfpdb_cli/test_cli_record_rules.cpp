@@ -141,10 +141,10 @@ private slots:
               "each sector closes a loop over each page."},
              {"no end", "\"marker\": \"end\"", "\"marker\": \"start\"",
               "41: devices[0].single_flows[0].actions[2].loop_over: A loop over each page cannot "
-              "stand in a loop over each page. Allowed: a loop over each page or sector in a loop "
+              "be in a loop over each page. Allowed: a loop over each page or sector in a loop "
               "over each die."},
              {"die", "\"loop\"", "\"die\"",
-              "32: devices[0].single_flows[0].actions[1].address: The value \"die\" stands outside of a "
+              "32: devices[0].single_flows[0].actions[1].address: The value \"die\" is outside a "
               "loop over each die."},
              {"no step", "\"page\"", "\"sector\"",
               "40: devices[0].single_flows[0].actions[2].loop_over: The end of a loop over each page "

@@ -189,7 +189,7 @@ private slots:
         QVERIFY(gfpdb_fill_missing(manager, record).empty());
     }
 
-    void a_text_that_is_no_voltage_or_size_is_refused_data()
+    void a_text_that_is_not_a_voltage_or_size_is_refused_data()
     {
         QTest::addColumn<int>("scheme");
         QTest::addColumn<QString>("member");
@@ -208,7 +208,7 @@ private slots:
     }
 
     // Also when a stored device has it, which puts it into the dialog's list.
-    void a_text_that_is_no_voltage_or_size_is_refused()
+    void a_text_that_is_not_a_voltage_or_size_is_refused()
     {
         const GFPDB_PLACE place;
         QFETCH(int, scheme);

@@ -127,7 +127,7 @@ private slots:
         QCOMPARE(tool({"history", "--json"}).out, QByteArray("[]\n"));
     }
 
-    void import_replaces_only_when_told()
+    void import_replaces_only_when_asked()
     {
         save_part("Mine");
         const QString directory = q(m_place->db_dir());

@@ -316,7 +316,7 @@ private slots:
         QCOMPARE(button->text(), QStringLiteral("&Configuration Device..."));
     }
 
-    void missing_module_is_told_in_a_box()
+    void missing_module_is_reported_in_a_box()
     {
         MODULE_LOADER module({QStringLiteral("/no/such/<b>module.so")});
         DEVICE_PANEL window(module, DIALOG_OPTIONS(), choice_of(1, 7, "MX25"));

@@ -197,7 +197,7 @@ private slots:
             QVERIFY2(parsed.information.contains(QLatin1String(option)), option);
     }
 
-    void version_is_told()
+    void version_is_reported()
     {
         for (const char* option : {"--version", "-v"})
             QCOMPARE(parse({QLatin1String(option)}).information, QStringLiteral("Host under test 9.8.7\n"));

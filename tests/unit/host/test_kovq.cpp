@@ -400,7 +400,7 @@ private slots:
         QCOMPARE(m_settings->allKeys(), QStringList());
     }
 
-    void file_dialog_is_set_up_as_told()
+    void file_dialog_is_set_up_as_asked()
     {
         QTemporaryDir directory;
         QVERIFY(QDir(directory.path()).mkdir(QStringLiteral("flash")));

@@ -78,7 +78,7 @@ private slots:
         QVERIFY2(loader.entry_point(), qPrintable(loader.problem()));
     }
 
-    void missing_module_is_told_with_its_places()
+    void missing_module_is_reported_with_its_places()
     {
         MODULE_LOADER loader({QStringLiteral("/no/such/one.so"), QStringLiteral("/no/such/other.so")});
 
@@ -88,7 +88,7 @@ private slots:
                                                   "/no/such/one.so\n/no/such/other.so"));
     }
 
-    void file_that_is_no_module_is_told()
+    void file_that_is_not_a_module_is_reported()
     {
         const QString text_file = place(QStringLiteral("text.so"));
         QFile file(text_file);

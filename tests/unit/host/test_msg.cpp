@@ -97,7 +97,7 @@ private slots:
         QVERIFY(m_modals.last().is_modal);
     }
 
-    void prompt_shows_any_text_as_it_stands_data()
+    void prompt_shows_any_text_as_it_is_data()
     {
         rows<QString>({{"markup", "<b>bold</b> &amp; more"},
                        {"place markers", "%1 %2 %3 %s %n"},
@@ -106,7 +106,7 @@ private slots:
                        {"long", QString(10000, QLatin1Char('x'))}});
     }
 
-    void prompt_shows_any_text_as_it_stands()
+    void prompt_shows_any_text_as_it_is()
     {
         const QString text = row<QString>();
 
@@ -145,7 +145,7 @@ private slots:
         QCOMPARE(result.output, QByteArray("0\n"));
     }
 
-    void reason_stands_beside_the_message()
+    void reason_is_beside_the_message()
     {
         QList<int> asked_for;
         MSG_O::set_reason_source([&asked_for](int id) {
@@ -174,7 +174,7 @@ private slots:
         }
     }
 
-    void reason_is_shown_as_it_stands_data()
+    void reason_is_shown_as_it_is_data()
     {
         rows<QString, QString>({{"markup", "<b>bold</b> &amp; more", "<b>bold</b> &amp; more"},
                                 {"conversions", "100 %s %1 %n", "100 %s %1 %n"},
@@ -182,7 +182,7 @@ private slots:
                                 {"escape sequence", "\x1b[31mred\x9b", "\ufffd[31mred\ufffd"}});
     }
 
-    void reason_is_shown_as_it_stands()
+    void reason_is_shown_as_it_is()
     {
         const auto [reason, shown] = row<QString, QString>();
         const std::string told = reason.toStdString();

@@ -157,7 +157,7 @@ private slots:
         QCOMPARE(renderer.problem(), QString());
     }
 
-    void foreign_window_is_closed_and_told()
+    void foreign_window_is_closed_and_reported()
     {
         QTemporaryDir scratch;
         PAGE_RENDERER renderer(scratch.path());
@@ -170,7 +170,7 @@ private slots:
         QCOMPARE(renderer.problem(), QStringLiteral("A window opened that does not belong here: Foreign"));
     }
 
-    void directory_that_cannot_be_made_is_told()
+    void directory_that_cannot_be_made_is_reported()
     {
         FORM form;
         PAGE_RENDERER renderer(QStringLiteral("/proc/self/exe/pictures"));

@@ -146,7 +146,7 @@ private slots:
         QCOMPARE(mode_of(m_place->db_file()), 0664);
     }
 
-    void settings_that_everyone_could_write_are_mended()
+    void settings_that_everyone_could_write_are_corrected()
     {
         write_file(m_place->settings(), "[database]\ncustom_dir=/a/\n");
         QCOMPARE(::chmod(m_place->settings().c_str(), 0666), 0);

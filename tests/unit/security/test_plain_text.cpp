@@ -94,7 +94,7 @@ private slots:
     }
 
     // Views draw the texts of their items as they stand, so it is enough that the items have them.
-    void lists_and_fields_show_markup_as_it_stands()
+    void lists_and_fields_show_markup_as_it_is()
     {
         QCOMPARE(find<QTableView>("m_device_table_view")->currentIndex().data().toString(), MARKUP);
         QCOMPARE(find<QLineEdit>("m_device_name_edit")->text(), MARKUP);
@@ -116,7 +116,7 @@ private slots:
         }
     }
 
-    void the_chart_shows_markup_as_it_stands()
+    void the_chart_shows_markup_as_it_is()
     {
         int shown = 0;
         const QList<QGraphicsView*> views = show_page()->findChildren<QGraphicsView*>();
@@ -133,7 +133,7 @@ private slots:
         QCOMPARE(shown, 1);
     }
 
-    void a_tool_tip_shows_markup_as_it_stands()
+    void a_tool_tip_shows_markup_as_it_is()
     {
         GPFQ_OPERATION_TAB_WIDGET* const page = show_page();
         page->update_property_table(page->get_flow().first());
@@ -148,7 +148,7 @@ private slots:
         QCOMPARE(as_read(QToolTip::text()), MARKUP);
     }
 
-    void a_warning_shows_markup_as_it_stands()
+    void a_warning_shows_markup_as_it_is()
     {
         find<QLineEdit>("m_device_id_edit")->setText(MARKUP);
         m_modals.expect(MODAL_DRIVER::accept());
@@ -162,7 +162,7 @@ private slots:
         QCOMPARE(m_modals.last().text_format, Qt::PlainText);
     }
 
-    void a_message_of_the_host_shows_markup_as_it_stands()
+    void a_message_of_the_host_shows_markup_as_it_is()
     {
         MSG_O message;
         message.fill_args(MARKUP.toStdString() + "/O20439");

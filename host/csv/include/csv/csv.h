@@ -26,7 +26,7 @@ std::vector<CSV_ROW> csv_rows(const std::string& text);
 // of a cell.
 std::string csv_spreadsheet_text(const std::string& text);
 
-// A cell as it stands in a line, in quotes where it must be.
+// A cell as it is in a line, in quotes where it must be.
 std::string csv_cell(const std::string& text);
 
 // A row as a line with its line break. Cells are quoted where they must be.

@@ -32,7 +32,7 @@ public:
     // The allowed value texts of a property with a closed choice, in display order; empty for any other. A custom
     // action answers for the properties of every type.
     virtual std::vector<std::string> get_property_choices(GFPDB_ACT_PROPERTY property) const = 0;
-    // Stores `value` as it stands, valid or not. A property that this action does not have is ignored.
+    // Stores `value` as it is, valid or not. A property that this action does not have is ignored.
     virtual void set_property_value(GFPDB_ACT_PROPERTY property, const std::string& value) = 0;
     // True when `value` is valid for `property`; else `error` says what is wrong and what is allowed. A custom action
     // answers for the properties of every type.

@@ -48,7 +48,7 @@ public:
     virtual void clear_operations() = 0;
     // Text of a text property; integers in decimal; empty for an unknown id.
     virtual std::string get_string_property(GFPDB_FLASH_PROPERTY property) const = 0;
-    // Value of an integer property; `default_value` when it was never set or is no integer property.
+    // Value of an integer property; `default_value` when it was never set or is not an integer property.
     virtual int get_int_property(GFPDB_FLASH_PROPERTY property, int default_value) const = 0;
     virtual void set_int_property(GFPDB_FLASH_PROPERTY property, int value) = 0;
     virtual void set_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value) = 0;

@@ -16,7 +16,8 @@ class GFPDB_EXPORT GFPDB_HELPER
 public:
     GFPDB_HELPER() = delete;
 
-    // Chooses the flash that goes with `scheme` for the next fetch of the manager. False for a value that is no scheme.
+    // Chooses the flash that goes with `scheme` for the next fetch of the manager. False for a value that is not a
+    // scheme.
     static bool set_active_flash_family(PGMIO_CONFIG_SCHEME scheme);
     // The manager of the active flash; `reload` true opens the database of the custom directory again. Not owned by the
     // caller. Never null in this library; a caller must not rely on that.

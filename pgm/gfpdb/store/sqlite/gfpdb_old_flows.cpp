@@ -25,7 +25,7 @@ int number_of(const JSON_VALUE& object, const char* name)
                : NO_NUMBER;
 }
 
-// False when `object` is no action.
+// False when `object` is not an action.
 bool read_action(const JSON_VALUE& object, GFPDB_OPERATION& operation)
 {
     const int type = number_of(object, "type");
@@ -43,7 +43,7 @@ bool read_action(const JSON_VALUE& object, GFPDB_OPERATION& operation)
     return true;
 }
 
-// False when `object` is no operation. Of two operations of a kind, the last counts.
+// False when `object` is not an operation. Of two operations of a kind, the last counts.
 bool read_operation(const JSON_VALUE& object, GFPDB_OPERATION_LIST& operations)
 {
     std::unique_ptr<GFPDB_OPERATION> operation(gfpdb_make_operation(number_of(object, "kind")));

@@ -189,7 +189,7 @@ std::string gfpdb_companion_problem(const std::string& file)
     for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX, WAL_INDEX_SUFFIX}) {
         struct stat status = {};
         if (::lstat((path + suffix).c_str(), &status) == 0 && (!S_ISREG(status.st_mode) || status.st_nlink != 1))
-            return problem + path + suffix + " is a link or no file. Remove it if you did not put it there.";
+            return problem + path + suffix + " is a link or not a file. Remove it if you did not put it there.";
     }
     // First the WAL: SQLite uses it whatever the journal is.
     const std::string wal = path + WAL_SUFFIX;

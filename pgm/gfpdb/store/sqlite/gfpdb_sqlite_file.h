@@ -41,7 +41,7 @@ public:
     bool is_read_only();
     std::string problem();
 
-    // False when there is nothing to read; that is no failure where there is no file yet.
+    // False when there is nothing to read; that is not a failure where there is no file yet.
     bool prepare_read();
     // False when nothing can be changed.
     bool prepare_write();

@@ -85,12 +85,11 @@ private slots:
              {"a marker", int(GFPDB_OPERATION_PROGRAM), 0, int(GFPDB_CUSTOM_LOOP_MARKER), "end",
               "Program, action 1, Loop marker \"end\": The end of a loop has no start before it."},
              {"a loop without an end", int(GFPDB_OPERATION_PROGRAM), 2, int(GFPDB_CUSTOM_LOOP_MARKER), "start",
-              "Program, action 3, Loop over each \"page\": A loop over each page cannot stand in a loop over each "
+              "Program, action 3, Loop over each \"page\": A loop over each page cannot be in a loop over each "
               "page. "
               "Allowed: a loop over each page or sector in a loop over each die."},
              {"an address", int(GFPDB_OPERATION_VERIFY), 0, int(GFPDB_RD_ADDRESS), "loop",
-              "Verify/Blank-Check/Examine, action 1 \"Read Data\", Address \"loop\": The value \"loop\" stands outside "
-              "of "
+              "Verify/Blank-Check/Examine, action 1 \"Read Data\", Address \"loop\": The value \"loop\" is outside "
               "any loop."}});
     }
 
