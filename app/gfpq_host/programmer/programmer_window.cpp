@@ -323,11 +323,12 @@ void PROGRAMMER_WINDOW::finish(const RUN_OUTCOME& outcome)
 {
     for (const QString& line : RUN_WORDS::end_lines(outcome))
         m_log->add(line);
-    m_trace_page->show_trace(outcome.trace);
     if (outcome.read_out)
         m_data_page->show_read_out(outcome.read_out);
     const RUN_WORDS::VERDICT verdict = RUN_WORDS::verdict(outcome);
-    m_run_bar->show_verdict(verdict.text, verdict.mood);
+    const QString failure = outcome.result.failure ? QString::fromStdString(outcome.result.failure->text) : QString();
+    m_trace_page->show_trace(outcome.trace, failure);
+    m_run_bar->show_verdict(verdict.text, verdict.mood, failure);
     if (m_closes_at_the_end)
         close();
 }

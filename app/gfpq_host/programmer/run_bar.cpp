@@ -110,7 +110,7 @@ void RUN_BAR::show_idle()
     m_trial_button->setEnabled(true);
     m_start_button->setEnabled(true);
     m_cancel_button->setEnabled(false);
-    m_progress_label->clear();
+    show_state(QString());
     if (had_focus)
         m_start_button->setFocus();
 }
@@ -127,14 +127,21 @@ void RUN_BAR::show_busy()
         m_cancel_button->setFocus();
 }
 
+// Without a text the bar has the whole width.
+void RUN_BAR::show_state(const QString& text)
+{
+    m_progress_label->setText(text);
+    m_progress_label->setVisible(!text.isEmpty());
+}
+
 void RUN_BAR::show_ending()
 {
-    m_progress_label->setText(tr("The run is being cancelled."));
+    show_state(tr("The run is being cancelled."));
 }
 
 void RUN_BAR::show_phase(GFPE_PHASE phase)
 {
-    m_progress_label->setText(QString::fromUtf8(gfpe_phase_name(phase)));
+    show_state(QString::fromUtf8(gfpe_phase_name(phase)));
 }
 
 void RUN_BAR::show_progress(const GFPE_PROGRESS& progress, double rate, int seconds_left)
@@ -142,7 +149,7 @@ void RUN_BAR::show_progress(const GFPE_PROGRESS& progress, double rate, int seco
     m_progress_bar->setValue(step_of(progress.all_done, progress.all_total));
     const QString phase = QString::fromUtf8(gfpe_phase_name(progress.phase));
     if (progress.total <= 0) {
-        m_progress_label->setText(phase);
+        show_state(phase);
         return;
     }
     QString text = tr("%1: %2 of %3").arg(phase, size_text(progress.done), size_text(progress.total));
@@ -150,16 +157,19 @@ void RUN_BAR::show_progress(const GFPE_PROGRESS& progress, double rate, int seco
         text += QLatin1String(", ") + QStringLiteral("%1/s").arg(size_text(static_cast<std::int64_t>(rate)));
     if (seconds_left >= 0)
         text += QLatin1String(", ") + tr("%1 left").arg(time_text(seconds_left));
-    m_progress_label->setText(text);
+    show_state(text);
 }
 
 // A screen reader says the verdict although the focus is elsewhere.
-void RUN_BAR::show_verdict(const QString& text, MOOD mood)
+void RUN_BAR::show_verdict(const QString& text, MOOD mood, const QString& detail)
 {
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_verdict_icon->setPixmap(style()->standardIcon(icon_of(mood)).pixmap(size));
     m_verdict_icon->show();
     m_verdict_label->setText(text);
+    // Its letters as they stand, and lines that are wrapped.
+    const QString tool_tip = QStringLiteral("<span>%1</span>").arg(detail.toHtmlEscaped());
+    m_verdict_label->setToolTip(detail.isEmpty() ? QString() : tool_tip);
     QAccessibleEvent alert(m_verdict_label, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -33,8 +33,8 @@ public:
         DOUBTFUL,
         BAD,
     };
-    // The last word on a run; it stays until the next one.
-    void show_verdict(const QString& text, MOOD mood);
+    // The last word on a run; it stays until the next one. `detail`, if there is one, is its tool tip.
+    void show_verdict(const QString& text, MOOD mood, const QString& detail = QString());
     void clear_verdict();
 
 signals:
@@ -46,6 +46,7 @@ private:
     QPushButton* make_button(const QString& text, const char* object_name);
     QWidget* create_buttons();
     QWidget* create_verdict();
+    void show_state(const QString& text);
 
     QProgressBar* m_progress_bar;
     QLabel* m_progress_label;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int ALL_PHASES = -1;
 // The widths of the columns, in characters; the last one takes the rest.
-constexpr int WIDTHS[TRACE_MODEL::COLUMNS] = {9, 12, 14, 22, 14, 18, 28, 28, 20};
+constexpr int WIDTHS[TRACE_MODEL::COLUMNS] = {9, 12, 14, 22, 14, 18, 12, 28, 20};
 
 } // namespace
 
@@ -58,8 +58,9 @@ TRACE_PAGE::TRACE_PAGE()
     show_place();
 }
 
-void TRACE_PAGE::show_trace(const std::shared_ptr<const RUN_TRACE>& trace)
+void TRACE_PAGE::show_trace(const std::shared_ptr<const RUN_TRACE>& trace, const QString& failure)
 {
+    m_failure = failure;
     m_model.show_trace(trace);
     show_place();
 }
@@ -71,10 +72,14 @@ void TRACE_PAGE::choose_phase()
     show_place();
 }
 
-// The bytes of the current command, of which the table may show a part.
+// The bytes of the current command, of which the table may show a part; of the failed one what was wrong with them.
 void TRACE_PAGE::show_command()
 {
     const QModelIndex current = m_table->currentIndex();
+    if (current.isValid() && current.row() == m_model.failed_row() && !m_failure.isEmpty()) {
+        m_command_label->setText(m_failure);
+        return;
+    }
     QStringList lines;
     for (const int column : {TRACE_MODEL::SENT, TRACE_MODEL::RECEIVED, TRACE_MODEL::EXPECTED}) {
         const QString text = current.sibling(current.row(), column).data().toString();

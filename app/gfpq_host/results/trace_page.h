@@ -18,8 +18,8 @@ class TRACE_PAGE : public QWidget
 public:
     TRACE_PAGE();
 
-    // Shows the trace of a run, and where it failed; null for none.
-    void show_trace(const std::shared_ptr<const RUN_TRACE>& trace);
+    // Shows the trace of a run, and where it failed; null for none. `failure` says what was expected there.
+    void show_trace(const std::shared_ptr<const RUN_TRACE>& trace, const QString& failure = QString());
 
 private:
     void choose_phase();
@@ -27,6 +27,7 @@ private:
     void show_command();
 
     TRACE_MODEL m_model;
+    QString m_failure;
     QComboBox* m_phase_combo;
     QLabel* m_count_label;
     QTableView* m_table;

@@ -16,8 +16,8 @@ class TEST_PROGRAMMER_RUNS : public PROGRAMMER_TEST
 private slots:
     void a_flow_is_tried_without_hardware_data()
     {
-        rows<QString, int>({{"single", SMALL_DEVICE, PGMIO_ACTIVE_SERIAL},
-                            {"quad", SMALL_DEVICE, PGMIO_ACTIVE_SERIAL_X4}});
+        rows<QString, int>(
+            {{"single", SMALL_DEVICE, PGMIO_ACTIVE_SERIAL}, {"quad", SMALL_DEVICE, PGMIO_ACTIVE_SERIAL_X4}});
     }
 
     void a_flow_is_tried_without_hardware()
@@ -138,6 +138,10 @@ private slots:
         QCOMPARE(failed.sibling(failed.row(), TRACE_MODEL::OPERATION).data().toString(), qs("Verify"));
         QCOMPARE(failed.sibling(failed.row(), TRACE_MODEL::EXPECTED).data().toString().left(2), qs("12"));
         QVERIFY(failed.data(Qt::BackgroundRole).isValid());
+        const QString bytes = child<QLabel>("m_command_label").text();
+        QVERIFY2(bytes.contains(qs("xpected 12")) && bytes.contains(qs("received FF")), qPrintable(bytes));
+        const QString detail = child<QLabel>("m_verdict_label").toolTip();
+        QVERIFY2(detail.contains(qs("12")) && detail.contains(qs("FF")), qPrintable(detail));
         QVERIFY(!model.index(0, 0).data(Qt::BackgroundRole).isValid());
 
         child<QComboBox>("m_phase_combo").setCurrentText(qs("Initialization"));
