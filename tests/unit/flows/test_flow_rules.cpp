@@ -477,6 +477,7 @@ private slots:
         run.device.id.clear();
         run.execute(GFPE_PHASE::INITIALIZATION, {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_EXPECTED_DATA, "id"}})});
         QVERIFY(run.is_refused("has no ID"));
+        QCOMPARE(run.result.problems[0].text, std::string("The device has no ID to compare with."));
     }
 
     void dies_of_different_sizes_are_refused()

@@ -106,6 +106,16 @@ private slots:
         QCOMPARE(problem, std::string("The file \"long.bin\" was changed while it was used."));
     }
 
+    void a_file_of_one_byte_is_an_image()
+    {
+        std::string problem;
+        const auto image = gfpe_file_image(make("one.bin", "x"), 0, 1, problem);
+        std::uint8_t byte = 0;
+
+        QVERIFY(image && image->read(0, &byte, 1, problem));
+        QCOMPARE(int(byte), int('x'));
+    }
+
     void an_image_in_memory_has_its_bytes()
     {
         const auto image = gfpe_memory_image({1, 2, 3, 4}, 1000);

@@ -350,6 +350,7 @@ private slots:
         QCOMPARE(texts_of(result.problems).join('|'), text);
         QCOMPARE(result.verdict == GFPE_VERDICT::REFUSED, !text.isEmpty());
         QCOMPARE(bus.m_commands.empty(), !text.isEmpty());
+        QVERIFY(!result.chip_is_unknown);
     }
 };
 
