@@ -299,9 +299,11 @@ private slots:
         constexpr int MORE = 100;
         const bool is_saved = row<bool>();
         const GFPDB_FLASH* read = nullptr;
-        // Flows that take more than the bytes that are allowed for each record.
-        const auto next = [this, is_saved, &read] {
+        int count = 0;
+        // Flows that take more than the bytes that are allowed for each record; no two records are the same.
+        const auto next = [this, is_saved, &read, &count] {
             GFPDB_FLASH* record = make_device(*m_mgr, "A");
+            record->set_string_property(GFPDB_FLASH_FLOW_TEMPLATE, std::to_string(++count));
             GFPDB_OPERATION* program = m_mgr->create_operation(GFPDB_OPERATION_PROGRAM);
             for (int i = 0; i < 40; ++i)
                 program->add_action(m_mgr->create_action(GFPDB_ACT_WRITE_REGISTER));
