@@ -17,6 +17,23 @@ std::string places_of(const std::vector<GFPDB_RECORD>& records)
     return gfpdb_joined(places);
 }
 
+constexpr std::size_t MOST_SIMILAR = 5;
+
+// A sentence with names that `name` is a part of, however it is cased; empty when there are none.
+std::string similar_names(const CLI_CALL& call, const std::string& name)
+{
+    const std::string part = gfpdb_name_key(name);
+    const GFPDB_SELECTION all = cli_selection(call, {});
+    std::vector<std::string> similar;
+    for (const auto& records : {call.database.find_stored(all), call.database.find_builtin(all)}) {
+        for (const GFPDB_RECORD& record : records) {
+            if (similar.size() < MOST_SIMILAR && gfpdb_name_key(record.name()).find(part) != std::string::npos)
+                similar.push_back(gfpdb_quoted(record.name()));
+        }
+    }
+    return similar.empty() ? std::string() : " Similar names: " + gfpdb_joined(similar) + ".";
+}
+
 // The devices alone when there are some: they come before templates of that name.
 std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& selection)
 {
@@ -63,7 +80,7 @@ std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string
         exit_code = call.database_failed(problem);
     else
         call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.get_directory() +
-                          ".");
+                          "." + similar_names(call, name));
     return std::nullopt;
 }
 

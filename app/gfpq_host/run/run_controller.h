@@ -44,7 +44,7 @@ signals:
     // A run or detection was started, or ended.
     void busy_changed();
     void phase_started(GFPE_PHASE phase);
-    // `rate` in bytes a second and `seconds_left`, both -1 when they cannot be told.
+    // `rate` in bytes a second and `seconds_left`, both -1 while they are unknown.
     void progressed(const GFPE_PROGRESS& progress, double rate, int seconds_left);
     void finished(const RUN_OUTCOME& outcome);
     void detected(const DETECTION& detection);

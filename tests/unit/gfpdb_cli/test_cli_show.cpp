@@ -2,6 +2,7 @@
 
 // The real program: list and show, and which record a name means.
 #include "cli_test.h"
+#include "test_rows.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -194,6 +195,22 @@ private slots:
         QCOMPARE(tool({"export", "nobody"}).exit_code, 3);
         QCOMPARE(run_tool({"show", "nobody", "-d", "/no/such"}).exit_code, 5);
         QCOMPARE(run_tool({"export", "-d", "/no/such"}).exit_code, 5);
+    }
+
+    void names_with_the_unknown_one_in_them_are_suggested_data()
+    {
+        rows<QString, QByteArray>(
+            {{"two", "w25q64jv", "Similar names: \"W25Q64JV-Q\", \"W25Q64JV-M\".\n"},
+             {"the first five", "MX25L",
+              "Similar names: \"MX25L1606E\", \"MX25L3233F\", \"MX25L6433F\", \"MX25L12833F\", \"MX25L12835F\".\n"}});
+    }
+
+    void names_with_the_unknown_one_in_them_are_suggested()
+    {
+        const auto [name, suggestion] = row<QString, QByteArray>();
+        const TOOL_RUN run = tool({"show", name});
+        QCOMPARE(run.exit_code, 3);
+        QVERIFY2(run.err.endsWith(suggestion), run.err.constData());
     }
 };
 
