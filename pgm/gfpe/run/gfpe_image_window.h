@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The image as the run sees it: a byte for every position, FF where there is none. Holds one piece at a time, so that
-// the size of an image is no matter of memory.
+// an image of any size takes the same memory.
 #pragma once
 
 #include "gfpe/gfpe_image.h"

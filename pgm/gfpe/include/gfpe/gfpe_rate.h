@@ -15,9 +15,9 @@ class GFPE_EXPORT GFPE_RATE
 public:
     // `milliseconds` and `done` never go back.
     void add(std::int64_t milliseconds, std::int64_t done);
-    // Bytes a second; none before it can be told.
+    // Bytes a second; none while it is unknown.
     std::optional<double> get_rate() const;
-    // Seconds until `total` is done; none before it can be told.
+    // Seconds until `total` is done; none while that is unknown.
     std::optional<int> get_seconds_left(std::int64_t total) const;
 
 private:

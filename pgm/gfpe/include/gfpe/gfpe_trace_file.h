@@ -30,7 +30,7 @@ protected:
     GFPE_TRACE_FILE() = default;
     void write(const char* text, std::size_t length);
     void write(const std::string& text) { write(text.data(), text.size()); }
-    // What stands before the first command, and after the last one.
+    // What comes before the first command, and after the last one.
     virtual void begin() = 0;
     virtual void end() = 0;
 
