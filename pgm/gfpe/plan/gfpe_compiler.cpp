@@ -165,7 +165,8 @@ void GFPE_COMPILER::compile_pages(GFPE_LOOP& loop, std::size_t first)
     loop.is_only_of_image = true;
     for (std::size_t place = 0; place < loop.body.size(); ++place) {
         const auto* page = std::get_if<GFPE_WRITE_DATA>(&loop.body[place].is);
-        if (std::holds_alternative<GFPE_ERASE>(loop.body[place].is) || (page && !page->is_of_image()))
+        if (std::holds_alternative<GFPE_ERASE>(loop.body[place].is) ||
+            std::holds_alternative<GFPE_READ_DATA>(loop.body[place].is) || (page && !page->is_of_image()))
             loop.is_only_of_image = false;
         if (page && m_walked_bytes % page->page_bytes != 0)
             add_problem(static_cast<int>(first + place) + 1, GFPDB_WD_PAGE_SIZE,

@@ -283,6 +283,29 @@ private slots:
         QCOMPARE(run.bus.commands(), words("81@0, 81@100"));
     }
 
+    // Nothing to write is no reason not to look: what is not read is not verified.
+    void a_page_that_is_also_read_is_not_left_out()
+    {
+        for (const char* expected : {"image", "0xFF"}) {
+            RUN run(512);
+            run.bus.answer(0x0B, {0xFF});
+            run.bus.answer(0x03, {0xFF});
+            const auto read = [](const char* opcode, const char* length, const char* data) {
+                return make(GFPDB_ACT_READ_DATA, {{GFPDB_RD_COMMAND, opcode},
+                                                  {GFPDB_RD_ADDRESS, "loop"},
+                                                  {GFPDB_RD_DATA_LENGTH, length},
+                                                  {GFPDB_RD_EXPECTED_DATA, data}});
+            };
+
+            for (const GFPE_PHASE phase : {GFPE_PHASE::BLANK_CHECK, GFPE_PHASE::VERIFY, GFPE_PHASE::EXAMINE}) {
+                run.bus.m_commands.clear();
+                QVERIFY(run.execute(phase, {start("page"), make(GFPDB_ACT_WRITE_DATA), read("0x0B", "256", "image"),
+                                            read("0x03", "4", expected), end("page")}));
+                QCOMPARE(run.bus.commands(), words("0B@0?256, 03@0?4, 0B@100?256, 03@100?4"));
+            }
+        }
+    }
+
     void a_write_of_the_image_outside_of_a_loop_follows_the_same_rules()
     {
         RUN run(1 * K);
