@@ -13,6 +13,8 @@ constexpr std::int64_t RESET_US = 500;
 constexpr std::int64_t UNLOCK_US = 25;
 constexpr int MOST_DUMMY_CLOCKS = 1024;
 constexpr std::int64_t LONGEST_WAIT_US = std::int64_t(1) << 50;
+// Waits bring the clock no further: a hundred years and more, and as long again before the number overflows.
+constexpr std::int64_t LATEST_NS = std::int64_t(1) << 62;
 
 std::int64_t clocks_before_answer(const GFPE_COMMAND& command)
 {
@@ -64,7 +66,8 @@ bool GFPE_CHIP_CORE::is_at_rest() const
 
 void GFPE_CHIP_CORE::wait(std::int64_t microseconds)
 {
-    m_now += std::clamp<std::int64_t>(microseconds, 0, LONGEST_WAIT_US) * 1000;
+    const std::int64_t waited = std::clamp<std::int64_t>(microseconds, 0, LONGEST_WAIT_US) * 1000;
+    m_now = std::max(m_now, std::min(m_now + waited, LATEST_NS));
     settle();
 }
 
