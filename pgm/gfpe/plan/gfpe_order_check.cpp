@@ -210,8 +210,7 @@ std::vector<GFPE_PROBLEM> gfpe_check_order(const GFPE_FLOW& flow, const GFPE_ORD
 {
     const GFPE_RANGE range = gfpe_range_of(order, flow);
     std::vector<GFPE_PROBLEM> problems;
-    if (range.start < 0 || range.length < 0 || range.length > flow.device_bytes ||
-        range.start > flow.device_bytes - range.length) {
+    if (!range.is_within(flow.device_bytes)) {
         problems.push_back({-1,
                             0,
                             {},

@@ -55,10 +55,10 @@ protected:
     {
         return step.is_of_image() ? where.common_with(m_range) : where;
     }
-    // The address that is sent for a position.
-    static std::uint32_t address_of(const GFPE_ADDRESS& address, std::int64_t position, const GFPE_SCOPE& scope)
+    // The address that is sent for a position; check() has seen that it fits the address bytes.
+    static std::int64_t address_of(const GFPE_ADDRESS& address, std::int64_t position, const GFPE_SCOPE& scope)
     {
-        return static_cast<std::uint32_t>(address.kind == GFPE_ADDRESS::DIE ? position - scope.walked.start : position);
+        return address.kind == GFPE_ADDRESS::DIE ? position - scope.walked.start : position;
     }
 
     bool walk(const GFPE_STEPS& steps, const GFPE_SCOPE& scope);

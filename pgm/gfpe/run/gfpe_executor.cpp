@@ -193,7 +193,7 @@ bool GFPE_EXECUTOR::visit(const GFPE_WRITE_DATA& step, const GFPE_SCOPE& scope, 
     if (!command.out)
         return fail({}, m_image.get_problem());
     const bool is_blank = step.is_of_image() && gfpe_is_all(command.out, command.out_length, 0xFF);
-    command.address = address_of(step.address, where.start, scope);
+    command.address = static_cast<std::uint32_t>(address_of(step.address, where.start, scope));
     if (!is_blank && !(send(step, command) && wait(step)))
         return false;
     const auto sent = static_cast<std::int64_t>(step.data.size());
@@ -219,7 +219,7 @@ bool GFPE_EXECUTOR::read_piece(const GFPE_READ_DATA& step, const GFPE_SCOPE& sco
     if (is_cancelled())
         return false;
     GFPE_COMMAND command = step.command;
-    command.address = address_of(step.address, part.start, scope);
+    command.address = static_cast<std::uint32_t>(address_of(step.address, part.start, scope));
     command.in_length = part.length;
     DATA_ANSWER answer(*this, step, part);
     if (!send(step, command, &answer) || !wait(step))
@@ -241,7 +241,7 @@ bool GFPE_EXECUTOR::visit(const GFPE_ERASE& step, const GFPE_SCOPE& scope, const
         return false;
     GFPE_COMMAND command = step.command;
     if (command.address_bytes > 0)
-        command.address = address_of(step.address, where.start, scope);
+        command.address = static_cast<std::uint32_t>(address_of(step.address, where.start, scope));
     if (!send(step, command) || !wait(step))
         return false;
     m_meter.add(GFPDB_ACT_ERASE, where.length);

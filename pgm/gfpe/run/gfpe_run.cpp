@@ -20,7 +20,7 @@ std::vector<GFPE_PROBLEM> check_image(const GFPE_ORDER& order, const GFPE_IMAGE*
 {
     if (!image && (order.program || order.verify))
         return {problem("There is no image to program or to compare with.")};
-    if (image && (image->get_range().start < 0 || image->get_range().end() > device_bytes))
+    if (image && !image->get_range().is_within(device_bytes))
         return {problem("The image reaches beyond the end of the device.")};
     return {};
 }

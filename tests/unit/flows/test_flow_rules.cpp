@@ -460,6 +460,8 @@ private slots:
             QTest::addRow("%d in 16 MiB", kind) << kind << QByteArray("3") << 16 << true;
             QTest::addRow("%d behind 16 MiB", kind) << kind << QByteArray("3") << 32 << false;
             QTest::addRow("%d with four bytes", kind) << kind << QByteArray("4") << 32 << true;
+            QTest::addRow("%d at the end of 4 GiB", kind) << kind << QByteArray("4") << 4096 << true;
+            QTest::addRow("%d behind 4 GiB", kind) << kind << QByteArray("4") << 8192 << false;
         }
     }
 
@@ -490,7 +492,9 @@ private slots:
         }
 
         QCOMPARE(has_passed(run.result), allowed);
-        QCOMPARE(run.is_refused("does not fit 3 address bytes", kind == GFPDB_OPERATION_VERIFY ? 1 : 2), !allowed);
+        QCOMPARE(run.is_refused(("does not fit " + mode + " address bytes").constData(),
+                                kind == GFPDB_OPERATION_VERIFY ? 1 : 2),
+                 !allowed);
         QCOMPARE(run.bus.m_commands.size(), std::size_t(allowed ? 1 : 0));
     }
 

@@ -19,6 +19,11 @@ struct GFPE_RANGE
     std::int64_t length = 0;
 
     std::int64_t end() const { return start + length; }
+    // Whatever the numbers are: true when no position is before 0, or behind a device of `bytes`.
+    bool is_within(std::int64_t bytes) const
+    {
+        return start >= 0 && length >= 0 && length <= bytes && start <= bytes - length;
+    }
     // The part of both; of length 0 when there is none.
     GFPE_RANGE common_with(const GFPE_RANGE& other) const
     {

@@ -333,6 +333,8 @@ private slots:
              {"verify", "V", qint64(-1), qint64(0), "There is no image to program or to compare with."},
              {"nothing that needs it", "EB", qint64(-1), qint64(0), ""},
              {"to the end", "P", qint64(0), 256 * K, ""},
+             {"far past the end", "P", std::numeric_limits<qint64>::max(), qint64(1),
+              "The image reaches beyond the end of the device."},
              {"past the end", "P", qint64(1), 256 * K, "The image reaches beyond the end of the device."},
              {"before the start", "P", qint64(-2), qint64(1), "The image reaches beyond the end of the device."}});
     }
