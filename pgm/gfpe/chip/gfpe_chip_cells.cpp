@@ -203,6 +203,9 @@ void GFPE_CHIP_CORE::execute_erase(const REQUEST& request)
     const std::int64_t start = address / size * size;
     if (!may_change(request, start, size))
         return;
+    if (request.spec.job != JOB::ERASE_CHIP && address != start)
+        note(request,
+             "an address within its sector of " + std::to_string(size) + " bytes, which is erased from its start on");
     // Sectors of 4K are in the place of the first large ones, and only their own command erases them.
     const std::int64_t split = m_facts.split_sectors * SECTOR_BYTES;
     const bool is_sector = request.spec.job == JOB::ERASE && size > SECTOR_BYTES;

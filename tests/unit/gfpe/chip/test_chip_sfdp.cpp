@@ -109,7 +109,7 @@ private slots:
                 const BYTES old(3 * size, 0x00);
                 host.chip->write_memory(0, old.data(), old.size());
 
-                const auto place = static_cast<std::uint32_t>(size + size / 2);
+                const auto place = static_cast<std::uint32_t>(size);
                 host.change(static_cast<int>(table.bits(dword, shift + 15, shift + 8)),
                             {std::uint8_t(place >> 16), std::uint8_t(place >> 8), std::uint8_t(place)});
 
