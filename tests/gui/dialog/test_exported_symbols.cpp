@@ -122,7 +122,8 @@ private slots:
                       {QStringLiteral("--dynamic"), QStringLiteral("--defined-only"), QStringLiteral("--demangle")},
                       library)) {
             const QString name = CODE.match(line).captured(1);
-            if (!name.isEmpty() && !linker_symbols.contains(name))
+            const bool is_of_checker = name.startsWith(QLatin1String("__odr_asan."));
+            if (!name.isEmpty() && !linker_symbols.contains(name) && !is_of_checker)
                 names.append(name);
         }
         names.removeDuplicates();
