@@ -14,8 +14,8 @@
 
 // All records, templates, option lists and checks of one flash database, for a current family and scheme. Owned by the
 // library: a caller gets the active manager from GFPDB_HELPER and never deletes it. What it hands out stays valid also
-// after the active manager was replaced. A record, with its operations and actions, does so while no more than 256 later
-// ones were made, if it was only made, or were stored, replaced or deleted, if it was; every other one until the
+// after the active manager was replaced. A record, with its operations and actions, does so while no more than 256
+// later ones were made, if it was only made, or were stored, replaced or deleted, if it was; every other one until the
 // process ends. Out vectors are cleared first and returned where a reference is returned. Throws nothing. Texts are in
 // the library's encoding. GUI thread only.
 //
