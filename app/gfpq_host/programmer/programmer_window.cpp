@@ -230,13 +230,14 @@ void PROGRAMMER_WINDOW::refuse(const QString& problem, QWidget* place)
         place->setFocus();
 }
 
-std::optional<RUN_WISH> PROGRAMMER_WINDOW::wish()
+std::optional<RUN_WISH> PROGRAMMER_WINDOW::wish(bool is_trial)
 {
     RUN_WISH wish;
     QString problem;
     const std::optional<GFPE_CONNECTION> connection = m_connection_panel->connection(problem);
     const std::optional<std::int64_t> file_position = m_file_panel->position();
-    if (!connection) {
+    // A trial uses none.
+    if (!connection && !is_trial) {
         refuse(problem, m_connection_panel);
         return std::nullopt;
     }
@@ -249,7 +250,7 @@ std::optional<RUN_WISH> PROGRAMMER_WINDOW::wish()
         return std::nullopt;
     }
     wish.choice = choice();
-    wish.connection = *connection;
+    wish.connection = connection.value_or(GFPE_CONNECTION());
     wish.file = m_file_panel->file();
     wish.file_position = *file_position;
     return wish;
@@ -287,7 +288,7 @@ void PROGRAMMER_WINDOW::start()
 {
     if (m_controller.is_busy())
         return;
-    if (const std::optional<RUN_WISH> entered = wish())
+    if (const std::optional<RUN_WISH> entered = wish(false))
         begin(m_preparation.prepare(*entered), false);
 }
 
@@ -295,7 +296,7 @@ void PROGRAMMER_WINDOW::try_flow()
 {
     if (m_controller.is_busy())
         return;
-    if (const std::optional<RUN_WISH> entered = wish())
+    if (const std::optional<RUN_WISH> entered = wish(true))
         begin(m_preparation.prepare_trial(*entered), true);
 }
 
@@ -408,10 +409,8 @@ bool PROGRAMMER_WINDOW::confirm_close()
 
 void PROGRAMMER_WINDOW::closeEvent(QCloseEvent* event)
 {
-    if (m_controller.is_busy())
-        confirm_close();
     // The run may have ended while the question was there.
-    if (m_controller.is_busy()) {
+    if (m_controller.is_busy() && (!confirm_close() || m_controller.is_busy())) {
         event->ignore();
         return;
     }

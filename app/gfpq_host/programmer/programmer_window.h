@@ -62,7 +62,7 @@ private:
     void show_detected(const DETECTION& detection);
 
     // What is entered; none when it is not complete: that was said.
-    std::optional<RUN_WISH> wish();
+    std::optional<RUN_WISH> wish(bool is_trial);
     void begin(PREPARED_RUN prepared, bool is_trial);
     bool confirm_erase(const std::vector<GFPE_RANGE>& erased_beside);
     void refuse(const QString& problem, QWidget* place);

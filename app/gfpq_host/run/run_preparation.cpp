@@ -80,7 +80,7 @@ QString RUN_PREPARATION::fill_range(const RUN_WISH& wish, RUN_REQUEST& request)
         const std::int64_t device_bytes = request.plan->get_device().bytes;
         if (file.size() == 0)
             return tr("The file %1 is empty.").arg(wish.file);
-        if (file.size() + wish.file_position > device_bytes)
+        if (wish.file_position > device_bytes - file.size())
             return tr("The file needs %1 bytes from %2 on, and the device has %3 bytes.")
                 .arg(QString::number(file.size()), position_text(wish.file_position), QString::number(device_bytes));
         request.order.range = GFPE_RANGE{wish.file_position, file.size()};

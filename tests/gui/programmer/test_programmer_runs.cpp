@@ -49,6 +49,8 @@ private slots:
              {"no file", "p", 0, "0", 0, "Not started: No file is chosen."},
              {"file too large", "v", 0x10000, "0xF0001", 0,
               "Not started: The file needs 65536 bytes from 0x000F0001 on, and the device has 1048576 bytes."},
+             {"place past all numbers", "v", 10, "0x7FFFFFFFFFFFFFFF", 0,
+              "Not started: The file needs 10 bytes from 0x7FFFFFFFFFFFFFFF on, and the device has 1048576 bytes."},
              {"no place", "v", 10, "here", 0, "Not started: The place where the file begins is not a number."},
              {"no range", "v", 10, "0", 2, "Not started: Address or length is not a number."}});
     }
@@ -70,6 +72,15 @@ private slots:
         QCOMPARE(verdict.left(expected.indexOf(QLatin1String(", action"))),
                  expected.left(expected.indexOf(QLatin1String(", action"))));
         QVERIFY(log().contains(verdict));
+    }
+
+    void a_trial_needs_no_connection()
+    {
+        open();
+        child<QComboBox>("m_connection_combo").setCurrentIndex(1);
+        enter("m_host_edit", QString());
+        click("m_trial_button");
+        QCOMPARE(wait_for_verdict(), qs("Passed"));
     }
 
     void a_device_is_needed()
@@ -203,6 +214,18 @@ private slots:
         m_modals.expect(MODAL_DRIVER::click(qs("Cancel the run")));
         window().close();
         QTRY_VERIFY(!window().isVisible());
+    }
+
+    void a_window_that_was_kept_stays_after_the_end_of_the_run()
+    {
+        open();
+        click("m_trial_button");
+        m_modals.expect([this](QWidget* box) {
+            QCOMPARE(wait_for_verdict(), qs("Passed"));
+            MODAL_DRIVER::click(qs("Keep running"))(box);
+        });
+        window().close();
+        QVERIFY(window().isVisible());
     }
 
     void detection_lists_the_devices_with_the_id()
