@@ -71,6 +71,12 @@ void FILE_PANEL::take_entered()
     m_summary.read(entered);
 }
 
+void FILE_PANEL::read_again()
+{
+    if (!m_file.isEmpty())
+        m_summary.read(m_file);
+}
+
 void FILE_PANEL::show_facts(const FILE_FACTS& facts)
 {
     if (facts.file != m_file)
@@ -99,7 +105,10 @@ void FILE_PANEL::show_recent()
 void FILE_PANEL::choose(const QString& file)
 {
     m_file_combo->setCurrentText(file);
-    take_entered();
+    if (this->file() == m_file)
+        read_again();
+    else
+        take_entered();
 }
 
 void FILE_PANEL::browse()

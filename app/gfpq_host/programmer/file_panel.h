@@ -31,6 +31,8 @@ public:
     // Takes a file as if the user had entered it; asks the user for one.
     void choose(const QString& file);
     void browse();
+    // Shows size and check sum of the file as it is now: it may have been made again.
+    void read_again();
 
     void load(const QSettings& settings);
     void store(QSettings& settings) const;

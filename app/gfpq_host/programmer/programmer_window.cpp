@@ -252,6 +252,7 @@ std::optional<RUN_WISH> PROGRAMMER_WINDOW::wish(bool is_trial)
     wish.choice = choice();
     wish.connection = connection.value_or(GFPE_CONNECTION());
     wish.file = m_file_panel->file();
+    m_file_panel->read_again();
     wish.file_position = *file_position;
     return wish;
 }

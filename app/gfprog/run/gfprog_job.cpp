@@ -175,10 +175,15 @@ bool SESSION::keeps_files_apart()
         const QFileInfo file(QFile::decodeName(one.c_str()));
         return !one.empty() && (one == other || (file.exists() && file == QFileInfo(QFile::decodeName(other.c_str()))));
     };
-    const std::string files[] = {m_job.image_file, m_job.output_file, m_job.trace_file};
+    std::string problem;
+    const auto connection = gfpe_parse_connection(m_call.value(GFPROG_OPTION_ON), problem);
+    const std::string files[] = {m_job.image_file, m_job.output_file, m_job.trace_file,
+                                 connection ? connection->file : std::string()};
     for (std::size_t at = 0; at < std::size(files); ++at) {
-        if (is_one(files[at], files[(at + 1) % std::size(files)]))
-            return fail(CLI_EXIT_USAGE, gfpdb_quoted(files[at]) + " cannot be read and written, or written twice.");
+        for (std::size_t other = at + 1; other < std::size(files); ++other) {
+            if (is_one(files[at], files[other]))
+                return fail(CLI_EXIT_USAGE, gfpdb_quoted(files[at]) + " cannot be read and written, or written twice.");
+        }
     }
     return true;
 }

@@ -54,6 +54,16 @@ private slots:
         QCOMPARE(child<QComboBox>("m_file_combo").count(), 1);
     }
 
+    void a_file_that_was_made_again_is_shown_as_it_is()
+    {
+        open();
+        enter_file(make_file("image.bin", "123456789"));
+        make_file("image.bin", "12345678");
+        check(qs("v"));
+        run();
+        QTRY_COMPARE(child<QLabel>("m_facts_label").text(), qs("8 bytes, CRC-32 9AE0DAAF"));
+    }
+
     void a_file_can_be_dropped()
     {
         const QString file = make_file("image.bin", "123456789");

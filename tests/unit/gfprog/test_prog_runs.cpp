@@ -258,6 +258,8 @@ private slots:
             {{"image and trace", QStringList{"program", "f.csv", "--trace", "f.csv"}},
              {"other name", QStringList{"verify", "f.csv", "--trace", "./db/../f.csv"}},
              {"image and output", QStringList{"run", "examine", "verify", "--file", "f.csv", "-o", "f.csv"}},
+             {"image and chip", QStringList{"program", "f.csv", "--on", "emulated:f.csv"}},
+             {"output and chip", QStringList{"read", "f.csv", "--force", "--on", "emulated:f.csv"}},
              {"written twice", QStringList{"read", "new.csv", "--trace", "new.csv"}}});
     }
 
@@ -265,7 +267,7 @@ private slots:
     {
         QStringList arguments = row<QStringList>();
         const QByteArray before = text_of_file(image("f.csv", 10));
-        arguments.replaceInStrings(QRegularExpression("^(.*\\.csv)$"), at("\\1"));
+        arguments.replaceInStrings(QRegularExpression("^(emulated:)?(.*\\.csv)$"), "\\1" + at("\\2"));
         const TOOL_RUN run = prog(arguments);
         QCOMPARE(run.exit_code, 2);
         QVERIFY2(run.err.endsWith(" cannot be read and written, or written twice.\n"), run.err.constData());
