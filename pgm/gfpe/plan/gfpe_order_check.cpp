@@ -93,7 +93,8 @@ private:
                      const GFPE_RANGE& where)
     {
         const bool is_of_die = address.kind == GFPE_ADDRESS::DIE;
-        if (where.end() > (is_of_die ? scope.walked.end() : m_flow.device_bytes))
+        const std::int64_t limit = is_of_die ? scope.walked.end() : m_flow.device_bytes;
+        if (limit < where.end())
             add(step, address.label, address.text,
                 std::string("Reaches beyond the end of the ") + (is_of_die ? "die" : "device") + ": " +
                     std::to_string(where.length) + " bytes from position " + gfpe_position_text(where.start) + " on.");
