@@ -114,7 +114,7 @@ QString now()
 // Services and containers often start programs without USER.
 static QByteArray user_name()
 {
-    const QByteArray user = qgetenv("USER");
+    QByteArray user = qgetenv("USER");
     if (!user.isEmpty())
         return user;
     const passwd* const entry = ::getpwuid(::geteuid());
