@@ -110,7 +110,8 @@ bool ORDER_PANEL::read(RUN_WISH& wish) const
 
 void ORDER_PANEL::load(const QSettings& settings)
 {
-    for (QCheckBox* check : findChildren<QCheckBox*>())
+    const QList<QCheckBox*> checks = findChildren<QCheckBox*>();
+    for (QCheckBox* check : checks)
         check->setChecked(settings.value(KEYS + check->objectName(), check->isChecked()).toBool());
     const int stored = m_extent_combo->findData(settings.value(EXTENT_KEY).toInt());
     m_extent_combo->setCurrentIndex(std::max(stored, 0));
@@ -120,7 +121,8 @@ void ORDER_PANEL::load(const QSettings& settings)
 
 void ORDER_PANEL::store(QSettings& settings) const
 {
-    for (const QCheckBox* check : findChildren<QCheckBox*>())
+    const QList<QCheckBox*> checks = findChildren<QCheckBox*>();
+    for (const QCheckBox* check : checks)
         settings.setValue(KEYS + check->objectName(), check->isChecked());
     settings.setValue(EXTENT_KEY, int(extent()));
     settings.setValue(START_KEY, m_start_edit->text());

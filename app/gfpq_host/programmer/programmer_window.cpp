@@ -280,7 +280,8 @@ void PROGRAMMER_WINDOW::begin(PREPARED_RUN prepared, bool is_trial)
         return;
     m_run_bar->clear_verdict();
     m_trace_page->show_trace(nullptr);
-    for (const QString& line : RUN_WORDS::start_lines(*prepared.request, is_trial))
+    const QStringList lines = RUN_WORDS::start_lines(*prepared.request, is_trial);
+    for (const QString& line : lines)
         m_log->add(line);
     m_controller.start(std::move(*prepared.request));
 }
@@ -323,7 +324,8 @@ void PROGRAMMER_WINDOW::show_busy()
 
 void PROGRAMMER_WINDOW::finish(const RUN_OUTCOME& outcome)
 {
-    for (const QString& line : RUN_WORDS::end_lines(outcome))
+    const QStringList lines = RUN_WORDS::end_lines(outcome);
+    for (const QString& line : lines)
         m_log->add(line);
     if (outcome.read_out)
         m_data_page->show_read_out(outcome.read_out);

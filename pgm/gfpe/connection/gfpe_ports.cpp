@@ -7,7 +7,8 @@
 std::vector<GFPE_PORT> gfpe_serial_ports()
 {
     std::vector<GFPE_PORT> ports;
-    for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts())
+    const QList<QSerialPortInfo> found = QSerialPortInfo::availablePorts();
+    for (const QSerialPortInfo& info : found)
         ports.push_back({QFile::encodeName(info.systemLocation()).toStdString(), info.description().toStdString()});
     return ports;
 }
