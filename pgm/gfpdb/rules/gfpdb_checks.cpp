@@ -81,7 +81,8 @@ std::vector<std::uint8_t> gfpdb_device_id_bytes(const std::string& id)
     std::vector<std::uint8_t> bytes;
     if (!gfpdb_check_device_id(id, error))
         return bytes;
-    for (const QString& byte : id_texts(id))
+    const QStringList texts = id_texts(id);
+    for (const QString& byte : texts)
         bytes.push_back(static_cast<std::uint8_t>(byte.toUInt(nullptr, 16)));
     return bytes;
 }
