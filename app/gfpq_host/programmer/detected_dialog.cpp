@@ -15,7 +15,7 @@ namespace {
 // A built-in device is of no family, a stored one of one.
 QString text_of(const GFPDB_RECORD& device)
 {
-    const QString name = QString::fromStdString(device.row.name);
+    QString name = QString::fromStdString(device.row.name);
     if (device.row.scheme < 0 || device.row.scheme >= PGMIO_CONFIG_SCHEME_COUNT)
         return name;
     return QStringLiteral("%1 (%2, %3)")
