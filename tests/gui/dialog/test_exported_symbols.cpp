@@ -99,12 +99,17 @@ private slots:
               "GFPDB_HELPER::get_active_flash_manager "
               "GFPDB_HELPER::get_database_problem GFPDB_HELPER::set_active_flash_family "
               "GFPDB_HELPER::set_base_dir GFPDB_IMPORT_PLAN::add GFPDB_MGR::get_db_custom_dir "
-              "GFPDB_MGR::save_custom_dir_to_ini GFPDB_MGR::set_db_custom_dir gfpdb_address_text gfpdb_byte_text "
+              "GFPDB_MGR::save_custom_dir_to_ini GFPDB_MGR::set_db_custom_dir GFPDB_NEW_DEVICE::GFPDB_NEW_DEVICE "
+              "GFPDB_NEW_DEVICE::get_values GFPDB_NEW_DEVICE::get_warnings GFPDB_NEW_DEVICE::make_record "
+              "GFPDB_NEW_DEVICE::operator= GFPDB_NEW_DEVICE::set_value GFPDB_NEW_DEVICE::~GFPDB_NEW_DEVICE "
+              "gfpdb_address_text gfpdb_byte_text "
               "gfpdb_bytes_text gfpdb_catalogue_parts gfpdb_catalogue_problem gfpdb_check_flow gfpdb_check_record "
+              "gfpdb_compare_with_catalogue gfpdb_copy_of "
               "gfpdb_decimal_text gfpdb_density_bytes gfpdb_device_id_bytes gfpdb_from_utf8 gfpdb_name_key "
               "gfpdb_operations "
               "gfpdb_parse_address gfpdb_parse_bus_width gfpdb_parse_byte gfpdb_parse_bytes gfpdb_parse_decimal "
-              "gfpdb_quoted gfpdb_read_catalogue gfpdb_read_records gfpdb_title gfpdb_to_utf8 gfpdb_values "
+              "gfpdb_quoted gfpdb_read_catalogue gfpdb_read_records gfpdb_read_sfdp gfpdb_title gfpdb_to_utf8 "
+              "gfpdb_values "
               "gfpdb_write_list gfpdb_write_record gfpdb_write_records"}});
     }
 
