@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 set(GFPQ_TEST_TIMEOUT 300 CACHE STRING "Seconds after which a test counts as hanging")
 
-# gfpq_add_test(NAME name LABEL unit|gui|e2e|fuzz|soak|faults SOURCES file... LIBRARIES target... [TIMEOUT seconds] [SERIAL])
+# gfpq_add_test(NAME name LABEL unit|gui|e2e|fuzz|soak|faults|server SOURCES file... LIBRARIES target... [TIMEOUT seconds] [SERIAL])
 #
 # One test program, run without a display, with settings, home and locale of its own, so that no test sees the user's
 # files and two tests never share a directory.
