@@ -1,0 +1,294 @@
+// SPDX-License-Identifier: MIT
+
+// The file gfpdb-server.ini. Others may write the directory, so the file is believed no further than it must be: it
+// has these settings and no others, of these forms, and none that would have libpq read another file than certificates.
+#include "gfpdb/gfpdb_server.h"
+
+#include "base/gfpdb_text.h"
+#include "store/sqlite/gfpdb_sqlite_file.h"
+#include "whole_file/whole_file.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QStringList>
+
+#include <algorithm>
+
+#include <sys/stat.h>
+
+namespace {
+
+constexpr std::size_t LARGEST_FILE = 64 * 1024;
+constexpr std::size_t LONGEST_VALUE = 1024;
+constexpr std::size_t MOST_HOSTS = 16;
+// PostgreSQL cuts off longer names; a schema's name is followed by "_reader" or the like.
+constexpr std::size_t LONGEST_NAME = 63;
+constexpr std::size_t LONGEST_SCHEMA = 50;
+constexpr int HIGHEST_PORT = 65535;
+
+const QByteArray SECTION = QByteArrayLiteral("[server]");
+const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
+constexpr char TEXT_END[] = ".";
+
+constexpr const char* SSL_MODES[] = {"disable", "allow", "prefer", "require", "verify-ca", "verify-full"};
+
+bool refuse(std::string& error, const std::string& why)
+{
+    error = why;
+    return false;
+}
+
+bool is_printable(const std::string& text)
+{
+    return gfpdb_is_utf8(text) && std::none_of(text.begin(), text.end(), [](char character) {
+               const auto byte = static_cast<unsigned char>(character);
+               return byte < 0x20 || byte == 0x7F;
+           });
+}
+
+bool has_only(const std::string& text, const char* allowed)
+{
+    return text.find_first_not_of(allowed) == std::string::npos;
+}
+
+#define GFPDB_DIGITS "0123456789"
+#define GFPDB_SMALL_LETTERS "abcdefghijklmnopqrstuvwxyz"
+
+bool is_host(const std::string& host)
+{
+    constexpr char CHARACTERS[] = GFPDB_SMALL_LETTERS "ABCDEFGHIJKLMNOPQRSTUVWXYZ" GFPDB_DIGITS ".-_:%";
+    const bool is_socket = !host.empty() && host.front() == '/';
+    return is_socket ? host.find(',') == std::string::npos : !host.empty() && has_only(host, CHARACTERS);
+}
+
+bool is_schema(const std::string& schema)
+{
+    return !schema.empty() && schema.size() <= LONGEST_SCHEMA &&
+           has_only(schema.substr(0, 1), GFPDB_SMALL_LETTERS "_") &&
+           has_only(schema, GFPDB_SMALL_LETTERS GFPDB_DIGITS "_") && schema.compare(0, 3, "pg_") != 0;
+}
+
+bool is_ssl_mode(const std::string& mode)
+{
+    return std::find(std::begin(SSL_MODES), std::end(SSL_MODES), mode) != std::end(SSL_MODES);
+}
+
+std::string trimmed(const QByteArray& text)
+{
+    return text.trimmed().toStdString();
+}
+
+std::vector<std::string> list_of(const std::string& value)
+{
+    std::vector<std::string> items;
+    for (const QByteArray& item : QByteArray::fromStdString(value).split(','))
+        items.push_back(trimmed(item));
+    return items;
+}
+
+// A key of the file: how its value gets into the settings (false: it cannot be that), and comes out of them.
+struct SETTING
+{
+    const char* key;
+    bool (*set)(GFPDB_SERVER& server, const std::string& value);
+    std::string (*get)(const GFPDB_SERVER& server);
+};
+
+template <std::string GFPDB_SERVER::*MEMBER>
+bool set_text(GFPDB_SERVER& server, const std::string& value)
+{
+    server.*MEMBER = value;
+    return true;
+}
+
+template <std::string GFPDB_SERVER::*MEMBER>
+std::string get_text(const GFPDB_SERVER& server)
+{
+    return server.*MEMBER;
+}
+
+bool set_hosts(GFPDB_SERVER& server, const std::string& value)
+{
+    server.hosts = list_of(value);
+    return true;
+}
+
+std::string get_hosts(const GFPDB_SERVER& server)
+{
+    return gfpdb_joined(server.hosts);
+}
+
+bool set_ports(GFPDB_SERVER& server, const std::string& value)
+{
+    for (const std::string& item : list_of(value)) {
+        if (item.empty() || item.size() > 5 || !has_only(item, GFPDB_DIGITS))
+            return false;
+        server.ports.push_back(std::stoi(item));
+    }
+    return true;
+}
+
+std::string get_ports(const GFPDB_SERVER& server)
+{
+    std::vector<std::string> ports;
+    for (const int port : server.ports)
+        ports.push_back(std::to_string(port));
+    return gfpdb_joined(ports);
+}
+
+constexpr SETTING SETTINGS[] = {
+    {"hosts", set_hosts, get_hosts},
+    {"port", set_ports, get_ports},
+    {"database", set_text<&GFPDB_SERVER::database>, get_text<&GFPDB_SERVER::database>},
+    {"schema", set_text<&GFPDB_SERVER::schema>, get_text<&GFPDB_SERVER::schema>},
+    {"user", set_text<&GFPDB_SERVER::user>, get_text<&GFPDB_SERVER::user>},
+    {"sslmode", set_text<&GFPDB_SERVER::sslmode>, get_text<&GFPDB_SERVER::sslmode>},
+    {"sslrootcert", set_text<&GFPDB_SERVER::sslrootcert>, get_text<&GFPDB_SERVER::sslrootcert>},
+};
+
+const SETTING* setting_of(const std::string& key)
+{
+    const auto* found = std::find_if(std::begin(SETTINGS), std::end(SETTINGS),
+                                     [&key](const SETTING& setting) { return key == setting.key; });
+    return found == std::end(SETTINGS) ? nullptr : found;
+}
+
+std::string keys()
+{
+    std::vector<std::string> keys;
+    for (const SETTING& setting : SETTINGS)
+        keys.emplace_back(setting.key);
+    return gfpdb_joined(keys);
+}
+
+// One line "key=value". `seen` has the keys of the lines before.
+bool read_setting(const QByteArray& line, GFPDB_SERVER& server, std::vector<std::string>& seen, std::string& why)
+{
+    const int equals = line.indexOf('=');
+    const std::string key = trimmed(line.left(equals));
+    const std::string value = trimmed(line.mid(equals + 1));
+    if (equals < 0)
+        return refuse(why, gfpdb_quoted(line.toStdString()) + " is not a setting");
+    if (key == "password" || key == "passfile")
+        return refuse(why, "passwords do not belong into it: put them into the file .pgpass in your home directory");
+    const SETTING* const setting = setting_of(key);
+    if (setting == nullptr)
+        return refuse(why, gfpdb_quoted(key) + " is not a setting. There are: " + keys());
+    if (std::find(seen.begin(), seen.end(), key) != seen.end())
+        return refuse(why, gfpdb_quoted(key) + " is there twice");
+    seen.push_back(key);
+    if (value.size() > LONGEST_VALUE || !setting->set(server, value))
+        return refuse(why, gfpdb_quoted(key) + " cannot be " + gfpdb_quoted(value));
+    return true;
+}
+
+bool parse(QByteArray content, GFPDB_SERVER& server, std::string& why)
+{
+    if (content.startsWith(BYTE_ORDER_MARK))
+        content.remove(0, BYTE_ORDER_MARK.size());
+    std::vector<std::string> seen;
+    bool in_section = false;
+    for (const QByteArray& raw : content.split('\n')) {
+        const QByteArray line = raw.trimmed();
+        if (line.isEmpty() || line.startsWith('#') || line.startsWith(';'))
+            continue;
+        if (line == SECTION && !in_section)
+            in_section = true;
+        else if (!in_section)
+            return refuse(why, "it does not begin with " + SECTION.toStdString());
+        else if (!read_setting(line, server, seen, why))
+            return false;
+    }
+    return in_section || refuse(why, "it has no settings");
+}
+
+bool find_fault(const GFPDB_SERVER& server, std::string& why)
+{
+    const auto not_allowed = [&why](const char* key, const std::string& value) {
+        return refuse(why, gfpdb_quoted(key) + " cannot be " + gfpdb_quoted(value));
+    };
+    for (const SETTING& setting : SETTINGS) {
+        if (!is_printable(setting.get(server)) || setting.get(server).size() > LONGEST_VALUE)
+            return not_allowed(setting.key, setting.get(server));
+    }
+    for (const std::string& host : server.hosts) {
+        if (!is_host(host))
+            return not_allowed("hosts", host);
+    }
+    for (const int port : server.ports) {
+        if (port < 1 || port > HIGHEST_PORT)
+            return not_allowed("port", std::to_string(port));
+    }
+    if (server.hosts.size() > MOST_HOSTS)
+        return refuse(why, "it names too many hosts");
+    if (server.ports.size() > 1 && server.ports.size() != server.hosts.size())
+        return refuse(why, "\"port\" must be one for all hosts, or one for each");
+    if (server.database.empty())
+        return refuse(why, "it does not say which \"database\" is meant");
+    if (server.database.size() > LONGEST_NAME)
+        return not_allowed("database", server.database);
+    if (server.user.size() > LONGEST_NAME)
+        return not_allowed("user", server.user);
+    if (!is_schema(server.schema))
+        return not_allowed("schema", server.schema);
+    return server.sslmode.empty() || is_ssl_mode(server.sslmode) || not_allowed("sslmode", server.sslmode);
+}
+
+std::string content_of(const GFPDB_SERVER& server)
+{
+    std::string content = "# The flash database of this directory is on a server. Passwords do not belong here: see "
+                          ".pgpass.\n" +
+                          SECTION.toStdString() + '\n';
+    for (const SETTING& setting : SETTINGS) {
+        if (!setting.get(server).empty())
+            content += std::string(setting.key) + '=' + setting.get(server) + '\n';
+    }
+    return content;
+}
+
+bool is_there(const std::string& path)
+{
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0;
+}
+
+} // namespace
+
+bool gfpdb_check_server(const GFPDB_SERVER& server, std::string& error)
+{
+    std::string why;
+    return find_fault(server, why) || refuse(error, "The settings of the server cannot be used: " + why + TEXT_END);
+}
+
+bool gfpdb_names_server(const std::string& directory)
+{
+    return is_there(directory + GFPDB_SERVER_FILE);
+}
+
+std::optional<GFPDB_SERVER> gfpdb_read_server(const std::string& directory, std::string& error)
+{
+    const std::string path = directory + GFPDB_SERVER_FILE;
+    std::string why;
+    const std::optional<std::string> content = read_whole_file(path, LARGEST_FILE, why);
+    GFPDB_SERVER server;
+    if (content && parse(QByteArray::fromStdString(*content), server, why) && find_fault(server, why))
+        return server;
+    error = "The file " + path + " cannot be used: " + why + TEXT_END;
+    return std::nullopt;
+}
+
+bool gfpdb_write_server(const std::string& directory, const GFPDB_SERVER& server, std::string& error)
+{
+    const std::string path = directory + GFPDB_SERVER_FILE;
+    const std::string database = directory + GFPDB_SQLITE_FILE::NAME;
+    if (!gfpdb_check_server(server, error))
+        return false;
+    if (is_there(database))
+        return refuse(error, "The directory has the database " + database + ": name the server in another directory, " +
+                                 "and copy the records there with \"gfpdb copy\".");
+    QSaveFile file(QFile::decodeName(path.c_str()));
+    const QByteArray content = QByteArray::fromStdString(content_of(server));
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return true;
+    return refuse(error, "The file " + path + " cannot be written: " + gfpdb_to_utf8(file.errorString()) + TEXT_END);
+}
