@@ -57,6 +57,18 @@ enum class GFPDB_SFDP_ADDRESS
     RESERVED,
 };
 
+// How a part tells which of its sector maps it uses: the bits of `mask` in the answer to a read of a register.
+struct GFPDB_SFDP_MAP_COMMAND
+{
+    int opcode = 0;
+    int mask = 0;
+    std::uint32_t address = 0;
+    // 0 without an address, 3, 4, or -1 for as many as the part's mode asks for.
+    int address_bytes = 0;
+    // Clocks between address and answer; -1 for as many as the part is set to.
+    int wait_clocks = 0;
+};
+
 // One region of a sector map: erase types (bit 0 is type 1) that serve it.
 struct GFPDB_SFDP_REGION
 {
@@ -76,6 +88,9 @@ struct GFPDB_SFDP
 {
     int major = 0;
     int minor = 0;
+    // FF for command 5A with three address bytes and eight clocks; others are octal.
+    int access_protocol = 0;
+    // In the order of their headers. Blank headers are left out.
     std::vector<GFPDB_SFDP_TABLE> tables;
     // The revision and length of the basic table that was taken: of several the latest.
     int basic_major = 0;
@@ -85,6 +100,9 @@ struct GFPDB_SFDP
     std::int64_t density_bits = 0;
     GFPDB_SFDP_ADDRESS address = GFPDB_SFDP_ADDRESS::RESERVED;
     int page_size = 0;
+    // The command that erases 4 KiB, by DW1.
+    int erase_4k_opcode = 0;
+    // The types that are there, by their numbers.
     std::vector<GFPDB_SFDP_ERASE> erase;
     int erase_max_factor = 0;
     std::optional<GFPDB_SFDP_READ> read_1_1_2;
@@ -93,6 +111,8 @@ struct GFPDB_SFDP
     std::optional<GFPDB_SFDP_READ> read_1_1_4;
     std::optional<GFPDB_SFDP_READ> read_1_4_4;
     std::optional<GFPDB_SFDP_READ> read_4_4_4;
+    std::optional<GFPDB_SFDP_READ> read_1_1_8;
+    std::optional<GFPDB_SFDP_READ> read_1_8_8;
     bool has_double_rate = false;
 
     // Times: typical, in the unit of the name; a maximum is the typical time by the factor.
@@ -108,9 +128,12 @@ struct GFPDB_SFDP
     std::optional<int> soft_reset;
     std::optional<int> leave_4_byte;
     std::optional<int> enter_4_byte;
+    // The octal-enable requirement, bits 22:20 of DW19.
+    std::optional<int> octal_enable;
 
     // DW1 of the table of 4-byte instructions; none without that table.
     std::optional<std::uint32_t> instructions_4_byte;
+    std::vector<GFPDB_SFDP_MAP_COMMAND> map_commands;
     std::vector<GFPDB_SFDP_MAP> sector_maps;
 
     // Sentences for the user: what is missing, cut, reserved or contradicts itself.

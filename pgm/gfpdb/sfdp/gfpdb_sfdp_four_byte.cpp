@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "sfdp/gfpdb_sfdp_tables.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int ERASE_TYPES = 4;
+// The bit of the first erase type in DW1.
+constexpr int FIRST_ERASE_BIT = 9;
+constexpr int NO_OPCODE = 0xFF;
+
+GFPDB_SFDP_ERASE* find_type(GFPDB_SFDP& sfdp, int type)
+{
+    const auto place = std::find_if(sfdp.erase.begin(), sfdp.erase.end(),
+                                    [type](const GFPDB_SFDP_ERASE& erase) { return erase.type == type; });
+    return place == sfdp.erase.end() ? nullptr : &*place;
+}
+
+} // namespace
+
+void gfpdb_read_sfdp_four_byte(const GFPDB_SFDP_VIEW& table, GFPDB_SFDP& sfdp)
+{
+    sfdp.instructions_4_byte = table.dword(1);
+    for (int type = 1; type <= ERASE_TYPES; ++type) {
+        if (!table.bit(1, FIRST_ERASE_BIT + type - 1) || !table.has(2))
+            continue;
+        const int lowest = 8 * (type - 1);
+        const int opcode = table.bits(2, lowest + 7, lowest);
+        GFPDB_SFDP_ERASE* const erase = find_type(sfdp, type);
+        const std::string what = "The table of 4-byte instructions lists erase type " + std::to_string(type);
+        if (erase == nullptr)
+            sfdp.warnings.push_back(what + ", which the basic table does not have.");
+        else if (opcode == 0 || opcode == NO_OPCODE)
+            sfdp.warnings.push_back(what + " and has no command for it.");
+        else
+            erase->opcode_4_byte = opcode;
+    }
+}
