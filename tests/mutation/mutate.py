@@ -3,14 +3,15 @@
 """Alters the sources one place at a time and lists what no test notices.
 
 Each worker has a copy of the tree with a build of its own (compiler cache shared). For every alteration it rebuilds and
-runs first the tests that belong to the altered file, then the other quick tests; the first red test ends it. An
-alteration that does not compile is replaced by another one of the same file. The choice of places is random but
-repeatable: the seed is printed.
+runs first the tests that belong to the altered file, then the other quick tests that can know of it; the first red test
+ends it. An alteration that does not compile is replaced by another one of the same file. The choice of places is random
+but repeatable: the seed is printed.
 
 tests/mutation/unnoticeable.txt lists alterations that nobody can notice, one a line; path and text may hold * and ?:
     path | kind | the line's text, stripped | why
 They are left out and others of the same file taken. `--again` judges only what survived the last run, `--since REV` alters
-only lines that were added or changed since that commit.
+only lines that were added or changed since that commit, `--near` runs only the tests that belong to the altered file: a
+first, quick judgement, whose survivors `--again` shows to the others.
 """
 
 import argparse
@@ -33,26 +34,47 @@ WORK = ROOT / "build" / "mutation"
 REPORT = WORK / "report.json"
 UNNOTICEABLE = ROOT / "tests" / "mutation" / "unnoticeable.txt"
 
-SOURCES = ["pgm/gfpq/**/*.cpp", "pgm/gfpq/**/*.h", "pgm/gfpq/**/*.ui", "pgm/gfpdb/**/*.cpp", "pgm/gfpdb/**/*.h",
-           "pgm/gfpe/**/*.cpp", "pgm/gfpe/**/*.h"]
+SOURCES = [f"{folder}/**/*.{end}" for folder in ("pgm/gfpq", "pgm/gfpdb", "pgm/gfpe", "app", "host")
+           for end in ("cpp", "h", "ui")]
 
-# Which tests to run first for a file: (pattern of the path, regular expression of ctest names). The first match counts.
+# Which tests to run for a file: (pattern of the path, those that belong to it, all that can know of it), the tests as
+# regular expressions of ctest names. The first match counts.
+ENGINE = r"^(test_(flow_|run_|plan|image|chip|trace|connection|serprog_[^f]|prog_)|unit_programmer|gui_programmer)"
+MODULE = r"^(gui_dialog|gui_flow|test_(accessibility|flow_keyboard|long_texts|language)|lost_work|security_plain)"
+HOST = r"^(unit_host|unit_device|unit_programmer|gui_programmer|test_language|security_programs)"
+EVERY = r""
 AFFECTED = [
-    (r"pgm/gfpq/flow/", r"^gui_flow"),
-    (r"pgm/gfpq/", r"^gui_dialog"),
-    (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_"),
-    (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)"),
-    (r"pgm/gfpdb/", r"^unit_gfpdb"),
-    (r"pgm/gfpe/(plan|run|include/gfpe/gfpe_(plan|run|image|rate))", r"^test_(plan|image|run_|flow_(rules|session))"),
-    (r"pgm/gfpe/(chip|include/gfpe/gfpe_chip)", r"^test_chip"),
-    (r"pgm/gfpe/", r"^test_(trace|serprog|connection)"),
+    (r"pgm/gfpq/flow/", r"^gui_flow", MODULE),
+    (r"pgm/gfpq/", r"^gui_dialog", MODULE),
+    (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_[^e]", EVERY),
+    (r"pgm/gfpdb/sfdp/", r"sfdp", EVERY),
+    (r"pgm/gfpdb/store/(pg|server)", r"^unit_(gfpdb_(store|pg|server)|pg|server)", EVERY),
+    (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)", EVERY),
+    (r"pgm/gfpdb/exchange/", r"^(unit_gfpdb|test_cli_(record|transfer))", EVERY),
+    (r"pgm/gfpdb/", r"^unit_gfpdb", EVERY),
+    (r"pgm/gfpe/plan", r"^test_(plan|image|run_reports|flow_(rules|session))", ENGINE),
+    (r"pgm/gfpe/(run|include/gfpe/gfpe_(plan|run|image|rate))", r"^test_(plan|image|run_|flow_(rules|session))", ENGINE),
+    (r"pgm/gfpe/(chip|include/gfpe/gfpe_chip)", r"^test_chip", ENGINE),
+    (r"pgm/gfpe/serprog", r"^test_serprog_[^f]", ENGINE),
+    (r"pgm/gfpe/", r"^test_(trace|connection)", ENGINE),
+    (r"app/gfprog/", r"^test_prog_[^s]", r"^test_prog_"),
+    (r"app/gfpdb/", r"^test_cli_", r"^(test_cli_|security_programs)"),
+    (r"app/cli/", r"^test_cli_(json|lists|show|program)", r"^(test_cli_|test_prog_|security_programs)"),
+    (r"app/gfpq_host/", r"^(unit_host_[acdopt]|unit_device|unit_programmer|gui_programmer)", HOST),
+    (r"host/", r"^unit_(host|gfpdb_read_file)", EVERY),
 ]
 QUICK_LABELS = "unit|gui|lost_work"
 # Kills processes for half a minute: run only for the files it belongs to.
 SLOW_TESTS = {"unit_durability"}
 # Nobody debugs these builds: what counts is how soon a test runs.
 QUICK_BUILD = ["-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g0", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold",
-               "-DCMAKE_SHARED_LINKER_FLAGS=-fuse-ld=gold", "-DGFPQ_TEST_TIMEOUT=60"]
+               "-DCMAKE_SHARED_LINKER_FLAGS=-fuse-ld=gold", "-DCMAKE_MODULE_LINKER_FLAGS=-fuse-ld=gold",
+               "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DGFPQ_TEST_TIMEOUT=60"]
+
+
+def tests_of(path):
+    """The expressions of the tests that belong to a file, and of all that can know of it."""
+    return next((near, far) for pattern, near, far in AFFECTED if re.match(pattern, path))
 
 
 @dataclasses.dataclass(frozen=True)
@@ -216,7 +238,8 @@ def without_line(description):
 class Worker:
     """A copy of the tree with its own build."""
 
-    def __init__(self, number):
+    def __init__(self, number, near):
+        self.near = near
         self.tree = WORK / f"worker-{number}"
         self.build = self.tree / "build" / "dev"
         self.log = WORK / f"worker-{number}.log"
@@ -232,7 +255,8 @@ class Worker:
                 return 124
         return done.returncode
 
-    def prepare(self):
+    def prepare(self, files):
+        """Makes the copy the same as the tree, and sees the tests of `files` pass."""
         self.tree.mkdir(parents=True, exist_ok=True)
         listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT,
                                 stdout=subprocess.PIPE, check=True).stdout
@@ -245,10 +269,12 @@ class Worker:
                 # With the time of now: what an interrupted run altered must be built again.
                 shutil.copyfile(source, target)
                 shutil.copymode(source, target)
-        if self.run("cmake", "--preset", "dev", *QUICK_BUILD) != 0 or not self.builds(self.tests()):
-            sys.exit(f"The unaltered tree does not build: see {self.log}")
-        if self.is_red(self.tests()) != "green":
-            sys.exit(f"The unaltered tree's tests fail: see {self.log}")
+        if self.run("cmake", "--preset", "dev", *QUICK_BUILD) != 0:
+            sys.exit(f"The unaltered tree cannot be configured: see {self.log}")
+        expressions = {tests_of(path)[0 if self.near else 1] for path in files}
+        verdict = self.is_red(sorted({name for expression in expressions for name in self.tests(expression)}))
+        if verdict != "green":
+            sys.exit(f"The unaltered tree is {verdict}: see {self.log}")
 
     def tests(self, expression=None):
         """Names of the quick tests, those of `expression` only if given."""
@@ -267,6 +293,8 @@ class Worker:
 
     def is_red(self, names):
         """Builds and runs the named tests until one fails: 'red', 'green' or 'broken' (does not compile)."""
+        if not names:
+            return "green"
         if not self.builds(names):
             return "broken"
         expression = "^(" + "|".join(re.escape(name) for name in names) + ")$"
@@ -275,16 +303,17 @@ class Worker:
 
     def judge(self, alteration):
         target = self.tree / alteration.path
-        original = (ROOT / alteration.path).read_bytes()
+        # Of the copy: who runs this goes on working in the tree.
+        original = target.read_bytes()
         lines = original.decode("utf-8").split("\n")
         lines[alteration.first: alteration.last + 1] = alteration.text.split("\n")
         target.write_text("\n".join(lines), encoding="utf-8")
         try:
-            expression = next(tests for pattern, tests in AFFECTED if re.match(pattern, alteration.path))
-            first = self.tests(expression)
+            near, far = tests_of(alteration.path)
+            first = self.tests(near)
             verdict = self.is_red(first)
-            if verdict == "green":
-                verdict = self.is_red([name for name in self.tests() if name not in first and
+            if verdict == "green" and not self.near:
+                verdict = self.is_red([name for name in self.tests(far) if name not in first and
                                        name not in SLOW_TESTS])
             return verdict
         finally:
@@ -331,6 +360,7 @@ def main():
     parser.add_argument("--only", default="", help="regular expression: only files whose path matches")
     parser.add_argument("--since", default="", help="only lines that were added or changed since this commit")
     parser.add_argument("--again", action="store_true", help="judge only what survived the last run")
+    parser.add_argument("--near", action="store_true", help="run only the tests that belong to the altered file")
     parser.add_argument("--list", action="store_true", help="list the places that could be altered and stop")
     arguments = parser.parse_args()
 
@@ -350,9 +380,9 @@ def main():
 
     print(f"seed {seed}: {sum(shares.values())} places in {len(pools)} files", flush=True)
     WORK.mkdir(parents=True, exist_ok=True)
-    workers = [Worker(number) for number in range(arguments.jobs)]
+    workers = [Worker(number, arguments.near) for number in range(arguments.jobs)]
     for worker in workers:
-        worker.prepare()
+        worker.prepare(pools)
     results = run_all(pools, shares, workers)
 
     survivors = [alteration for alteration, verdict in results if verdict == "green"]
