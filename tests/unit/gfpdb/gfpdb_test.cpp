@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_text.h"
 #include "gfpdb/gfpdb_helper.h"
+#include "gfpdb/gfpdb_server.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,11 +23,18 @@ QString base_of(GFPDB_PLACE::ON medium)
     return is_usable ? memory.filePath() : QDir::currentPath();
 }
 
+SERVER_DATABASE* server_of(const std::string& file)
+{
+    return SERVER_DATABASE::find(file.substr(0, file.rfind('/') + 1));
+}
+
 } // namespace
 
 GFPDB_PLACE::GFPDB_PLACE(ON medium) : m_dir(base_of(medium) + QLatin1String("/gfpdb-XXXXXX"))
 {
     make_dir(db_dir());
+    if (tests_are_on_server())
+        m_server = std::make_unique<SERVER_DATABASE>(db_dir(), &gfpdb_server_sql);
     qputenv("GFPDB_SETTINGS", QByteArray::fromStdString(settings()));
     qputenv("XDG_DATA_HOME", QByteArray::fromStdString(path("data")));
     GFPDB_MGR::set_db_custom_dir(db_dir());
@@ -170,6 +178,10 @@ QStringList open_files(const std::string& directory)
 
 QVariant run_sql(const std::string& path, const std::string& statement)
 {
+    if (const SERVER_DATABASE* server = server_of(path)) {
+        const QVariant value = server->run(gfpdb_from_utf8(statement));
+        return value.isValid() ? value : QVariant(true);
+    }
     const QString connection = QStringLiteral("the test's own");
     QVariant value;
     {
@@ -184,8 +196,12 @@ QVariant run_sql(const std::string& path, const std::string& statement)
     return value;
 }
 
-FOREIGN_LOCK::FOREIGN_LOCK(const std::string& file)
+FOREIGN_LOCK::FOREIGN_LOCK(const std::string& file) : m_server(server_of(file))
 {
+    if (m_server != nullptr) {
+        m_server->lock(QStringLiteral("EXCLUSIVE"));
+        return;
+    }
     QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), OTHER_PROGRAM);
     database.setDatabaseName(gfpdb_from_utf8(file));
     if (!database.open() || !QSqlQuery(database).exec(QStringLiteral("BEGIN EXCLUSIVE")))
@@ -194,6 +210,10 @@ FOREIGN_LOCK::FOREIGN_LOCK(const std::string& file)
 
 FOREIGN_LOCK::~FOREIGN_LOCK()
 {
+    if (m_server != nullptr) {
+        m_server->unlock();
+        return;
+    }
     QSqlDatabase::database(OTHER_PROGRAM).close();
     QSqlDatabase::removeDatabase(OTHER_PROGRAM);
 }

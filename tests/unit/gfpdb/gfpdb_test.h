@@ -5,6 +5,7 @@
 
 #include "gfpdb/gfpdb_mgr.h"
 #include "model/gfpdb_row.h"
+#include "server_database.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -23,7 +24,8 @@ constexpr bool SINGLE_IO = false;
 constexpr bool QUAD_IO = true;
 
 // A scratch directory, ending in "/", and the environment that makes the library use it and nothing of the user's: the
-// settings file is settings.ini in it, the data directory data/, the custom database directory db/.
+// settings file is settings.ini in it, the data directory data/, the custom database directory db/. Where the tests run
+// on a server, that directory names a schema of its own there.
 class GFPDB_PLACE
 {
 public:
@@ -43,6 +45,7 @@ public:
 
 private:
     QTemporaryDir m_dir;
+    std::unique_ptr<SERVER_DATABASE> m_server;
 };
 
 // A manager for (FAMILY, ACTIVE_SERIAL) that has just opened the place's custom directory.
@@ -68,10 +71,11 @@ void write_file(const std::string& path, const std::string& content);
 void make_dir(const std::string& path);
 // What this process has open in the directory, or had before it was removed.
 QStringList open_files(const std::string& directory);
-// The first value of `statement`, run on the database in `path` past the library; invalid when it fails.
+// The first value of `statement`, run on the database in `path` past the library; invalid when it fails. Where the
+// directory of `path` names a server, it runs there.
 QVariant run_sql(const std::string& path, const std::string& statement);
 
-// Another program that has the database in `file` locked, until the object goes.
+// Another program that has the database in `file` locked, until the object goes; likewise.
 class FOREIGN_LOCK
 {
 public:
@@ -79,6 +83,9 @@ public:
     ~FOREIGN_LOCK();
     FOREIGN_LOCK(const FOREIGN_LOCK&) = delete;
     FOREIGN_LOCK& operator=(const FOREIGN_LOCK&) = delete;
+
+private:
+    SERVER_DATABASE* m_server = nullptr;
 };
 
 // The library will print a warning that has `part` in it, or a message of just that text.

@@ -165,6 +165,6 @@ private:
     std::unique_ptr<GFPDB_STORE> m_store;
 };
 
-QTEST_GUILESS_MAIN(TEST_HISTORY_NUMBERS)
+EITHER_STORE_TEST_MAIN(TEST_HISTORY_NUMBERS)
 
 #include "test_history_numbers.moc"

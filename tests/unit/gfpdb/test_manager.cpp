@@ -188,6 +188,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_MANAGER)
+EITHER_STORE_TEST_MAIN(TEST_MANAGER)
 
 #include "test_manager.moc"

@@ -411,6 +411,6 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_MANAGER_APPLY)
+EITHER_STORE_TEST_MAIN(TEST_MANAGER_APPLY)
 
 #include "test_manager_apply.moc"

@@ -167,6 +167,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_MANAGER_CHECKS)
+EITHER_STORE_TEST_MAIN(TEST_MANAGER_CHECKS)
 
 #include "test_manager_checks.moc"

@@ -187,6 +187,6 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_MANAGER_CHOICES)
+EITHER_STORE_TEST_MAIN(TEST_MANAGER_CHOICES)
 
 #include "test_manager_choices.moc"

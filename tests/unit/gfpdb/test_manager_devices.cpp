@@ -379,6 +379,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_MANAGER_DEVICES)
+EITHER_STORE_TEST_MAIN(TEST_MANAGER_DEVICES)
 
 #include "test_manager_devices.moc"

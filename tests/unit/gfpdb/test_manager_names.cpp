@@ -340,6 +340,6 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_MANAGER_NAMES)
+EITHER_STORE_TEST_MAIN(TEST_MANAGER_NAMES)
 
 #include "test_manager_names.moc"

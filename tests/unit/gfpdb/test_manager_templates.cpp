@@ -202,6 +202,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_MANAGER_TEMPLATES)
+EITHER_STORE_TEST_MAIN(TEST_MANAGER_TEMPLATES)
 
 #include "test_manager_templates.moc"

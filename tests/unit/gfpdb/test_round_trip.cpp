@@ -246,6 +246,6 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_ROUND_TRIP)
+EITHER_STORE_TEST_MAIN(TEST_ROUND_TRIP)
 
 #include "test_round_trip.moc"

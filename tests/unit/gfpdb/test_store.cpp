@@ -550,6 +550,6 @@ private:
     std::unique_ptr<GFPDB_STORE> m_store;
 };
 
-QTEST_GUILESS_MAIN(TEST_STORE)
+EITHER_STORE_TEST_MAIN(TEST_STORE)
 
 #include "test_store.moc"

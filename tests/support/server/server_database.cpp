@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "server_database.h"
+
+#include <QFile>
+#include <QMetaMethod>
+#include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <map>
+
+namespace {
+
+const QString LOCKER = "the lock on the server";
+
+std::map<std::string, SERVER_DATABASE*>& databases()
+{
+    static std::map<std::string, SERVER_DATABASE*> all;
+    return all;
+}
+
+// Once for the server: the user, and what the tests' statements call by SQLite's name.
+void prepare_server(const POSTGRES_SERVER& server)
+{
+    static bool is_prepared = false;
+    if (is_prepared)
+        return;
+    is_prepared = true;
+    server.run("CREATE ROLE " + QLatin1String(SERVER_DATABASE::USER) + " LOGIN");
+    server.run("CREATE FUNCTION public.concat_next(text, text) RETURNS text LANGUAGE sql AS "
+               "$$ SELECT CASE WHEN $1 IS NULL THEN $2 WHEN $2 IS NULL THEN $1 ELSE $1 || ',' || $2 END $$");
+    server.run("CREATE AGGREGATE public.group_concat(text) (sfunc = public.concat_next, stype = text)");
+}
+
+// The functions of the test class that need a file.
+QStringList embedded_only(const QString& test_class)
+{
+    QFile file(EMBEDDED_ONLY_LIST);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no list of the tests of files");
+    const QRegularExpression line("^(\\w+) (\\w+): ", QRegularExpression::MultilineOption);
+    QStringList functions;
+    QRegularExpressionMatchIterator matches = line.globalMatch(QString::fromUtf8(file.readAll()));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        if (match.captured(1) == test_class)
+            functions.append(match.captured(2));
+    }
+    return functions;
+}
+
+QStringList functions_of(const QObject& test)
+{
+    static const QStringList own = {"initTestCase", "cleanupTestCase", "init", "cleanup"};
+    QStringList functions;
+    const QMetaObject& type = *test.metaObject();
+    for (int index = QObject::staticMetaObject.methodCount(); index < type.methodCount(); ++index) {
+        const QMetaMethod method = type.method(index);
+        const QString name = QString::fromLatin1(method.name());
+        if (method.access() == QMetaMethod::Private && method.methodType() == QMetaMethod::Slot &&
+            !name.endsWith("_data") && !own.contains(name))
+            functions.append(name);
+    }
+    return functions;
+}
+
+} // namespace
+
+bool tests_are_on_server()
+{
+    return qgetenv("GFPDB_TEST_STORE") == "server";
+}
+
+SERVER_DATABASE::SERVER_DATABASE(const std::string& directory, std::string (*make_sql)(const std::string& schema))
+    : m_directory(directory)
+{
+    static int number = 0;
+    m_schema = "s" + QString::number(++number);
+    const POSTGRES_SERVER& server = POSTGRES_SERVER::of_program();
+    prepare_server(server);
+    server.run(QString::fromStdString(make_sql(m_schema.toStdString())));
+    server.run("GRANT " + m_schema + "_editor TO " + QLatin1String(USER));
+    databases()[directory] = this;
+    go_through(0);
+}
+
+SERVER_DATABASE::~SERVER_DATABASE()
+{
+    unlock();
+    databases().erase(m_directory);
+}
+
+SERVER_DATABASE* SERVER_DATABASE::find(const std::string& directory)
+{
+    const auto found = databases().find(directory);
+    return found == databases().end() ? nullptr : found->second;
+}
+
+void SERVER_DATABASE::go_through(int port) const
+{
+    const POSTGRES_SERVER& server = POSTGRES_SERVER::of_program();
+    QFile file(QFile::decodeName(m_directory.c_str()) + "gfpdb-server.ini");
+    const QString content = QString("[server]\nhosts=%1\nport=%2\ndatabase=%3\nschema=%4\nuser=%5\n")
+                                .arg(port == 0 ? server.socket_directory() : "127.0.0.1")
+                                .arg(port == 0 ? server.port() : port)
+                                .arg(QLatin1String(POSTGRES_SERVER::DATABASE), m_schema, QLatin1String(USER));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content.toUtf8()) < 0)
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+}
+
+QString SERVER_DATABASE::in_schema(const QString& statement) const
+{
+    return "SET search_path TO " + m_schema + ", public; " + statement;
+}
+
+QVariant SERVER_DATABASE::run(const QString& statement) const
+{
+    return POSTGRES_SERVER::of_program().run(in_schema(statement));
+}
+
+QStringList SERVER_DATABASE::list(const QString& query) const
+{
+    return POSTGRES_SERVER::of_program().list(in_schema(query));
+}
+
+void SERVER_DATABASE::lock(const QString& how)
+{
+    const POSTGRES_SERVER& server = POSTGRES_SERVER::of_program();
+    QSqlDatabase connection = QSqlDatabase::addDatabase("QPSQL", LOCKER);
+    connection.setHostName(server.socket_directory());
+    connection.setPort(server.port());
+    connection.setUserName(QLatin1String(POSTGRES_SERVER::ADMIN));
+    connection.setDatabaseName(QLatin1String(POSTGRES_SERVER::DATABASE));
+    const QString mode = how == "EXCLUSIVE" ? "ACCESS EXCLUSIVE" : "EXCLUSIVE";
+    QSqlQuery query;
+    if (connection.open())
+        query = QSqlQuery(connection);
+    if (!query.exec(in_schema("BEGIN; LOCK TABLE meta, device, template, history IN " + mode + " MODE")))
+        qFatal("no lock: %s", qPrintable(query.lastError().text()));
+}
+
+void SERVER_DATABASE::unlock()
+{
+    QSqlDatabase::removeDatabase(LOCKER);
+}
+
+QStringList arguments_for_store(const QObject& test, const QStringList& arguments)
+{
+    const QString test_class = QLatin1String(test.metaObject()->className());
+    QStringList functions = functions_of(test);
+    for (const QString& function : embedded_only(test_class)) {
+        if (functions.removeAll(function) != 1)
+            qFatal("%s has no function %s", qPrintable(test_class), qPrintable(function));
+    }
+    const bool are_chosen = arguments.size() > 1;
+    return !tests_are_on_server() || are_chosen ? arguments : arguments + functions;
+}
