@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Device I/O voltage: </source>
-        <translation>E/A-Spannung: </translation>
+        <translation>I/O-Spannung: </translation>
     </message>
     <message>
         <source>Device density: </source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Total device die:</source>
-        <translation>Anzahl der Dies:</translation>
+        <translation>Anzahl Dies gesamt:</translation>
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Programming flow template: </source>
-        <translation>Vorlage des Programmierablaufs: </translation>
+        <translation>Ablaufvorlage: </translation>
     </message>
     <message>
         <source>Edit...</source>
@@ -103,13 +103,13 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>Der Flash-Baustein wurde nicht gespeichert, weil die Seite „%1“ einen ungültigen Wert enthält: 
+        <translation>Der Flash-Baustein wurde nicht gespeichert, weil die Registerkarte „%1“ einen ungültigen Eigenschaftswert enthält: 
 
 %2</translation>
     </message>
     <message>
         <source>Tempate name &apos;%1&apos; is conflicts with the device name %2.</source>
-        <translation>Der Vorlagenname „%1“ steht im Konflikt mit dem Bausteinnamen %2.</translation>
+        <translation>Der Vorlagenname „%1“ stimmt mit dem Bausteinnamen %2 überein.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>Das eigene Datenbankverzeichnis konnte nicht gesetzt werden auf </translation>
+        <translation>Folgendes Verzeichnis konnte nicht als eigenes Datenbankverzeichnis gesetzt werden: </translation>
     </message>
     <message>
         <source>Browse</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Insert</source>
-        <translation>Einfügen</translation>
+        <translation>Aktion einfügen</translation>
     </message>
 </context>
 <context>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>Directorio de la base de datos propia:</translation>
+        <translation>Directorio de base de datos personalizado:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>Filtro de nombre:</translation>
+        <translation>Filtro por nombre:</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -41,23 +41,23 @@
     </message>
     <message>
         <source>Device I/O voltage: </source>
-        <translation>Tensión de E/S: </translation>
+        <translation>Tensión de I/O: </translation>
     </message>
     <message>
         <source>Device density: </source>
-        <translation>Densidad del dispositivo: </translation>
+        <translation>Capacidad del dispositivo: </translation>
     </message>
     <message>
         <source>Total device die:</source>
-        <translation>Número total de dados (dies):</translation>
+        <translation>Número total de dies:</translation>
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>Ciclos de reloj ficticios en modo Single I/O: </translation>
+        <translation>Ciclos dummy en modo Single I/O: </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>Ciclos de reloj ficticios en modo Quad I/O:</translation>
+        <translation>Ciclos dummy en modo Quad I/O:</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>No se pudo guardar la memoria flash porque la pestaña «%1» tiene un valor de propiedad no válido: 
+        <translation>No se pudo guardar el dispositivo flash porque la pestaña «%1» contiene un valor de propiedad no válido: 
 
 %2</translation>
     </message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>No se pudo establecer el directorio de la base de datos propia en </translation>
+        <translation>No se pudo cambiar el directorio de base de datos personalizado a </translation>
     </message>
     <message>
         <source>Browse</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>i.e. 0xC2 0x20 0x19</source>
-        <translation>p.&#xa0;ej., 0xC2 0x20 0x19</translation>
+        <translation>p.&#xa0;ej.: 0xC2 0x20 0x19</translation>
     </message>
     <message>
         <source>Insert</source>

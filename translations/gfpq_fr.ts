@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>Répertoire de la base personnelle&#xa0;:</translation>
+        <translation>Répertoire de base de données personnalisé&#xa0;:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>Filtre de nom&#xa0;:</translation>
+        <translation>Filtrer par nom&#xa0;:</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -41,27 +41,27 @@
     </message>
     <message>
         <source>Device I/O voltage: </source>
-        <translation>Tension d’E/S&#xa0;: </translation>
+        <translation>Tension d’I/O&#xa0;: </translation>
     </message>
     <message>
         <source>Device density: </source>
-        <translation>Densité du composant&#xa0;: </translation>
+        <translation>Capacité du composant&#xa0;: </translation>
     </message>
     <message>
         <source>Total device die:</source>
-        <translation>Nombre total de puces&#xa0;:</translation>
+        <translation>Nombre total de dies&#xa0;:</translation>
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>Cycles factices en mode Single I/O&#xa0;: </translation>
+        <translation>Cycles dummy en mode Single I/O&#xa0;: </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>Cycles factices en mode Quad I/O&#xa0;:</translation>
+        <translation>Cycles dummy en mode Quad I/O&#xa0;:</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
-        <translation>Modèle de flux de programmation&#xa0;: </translation>
+        <translation>Modèle de flot de programmation&#xa0;: </translation>
     </message>
     <message>
         <source>Edit...</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>%1: flow chart</source>
-        <translation>%1&#xa0;: diagramme de flux</translation>
+        <translation>%1&#xa0;: organigramme</translation>
     </message>
     <message>
         <source>%1: actions</source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>La mémoire flash n’a pas été enregistrée, car l’onglet «&#xa0;%1&#xa0;» contient une valeur non valide&#xa0;: 
+        <translation>Le composant flash n’a pas été enregistré, car l’onglet «&#xa0;%1&#xa0;» contient une valeur de propriété non valide&#xa0;: 
 
 %2</translation>
     </message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>Impossible de définir le répertoire de la base personnelle sur </translation>
+        <translation>Impossible de définir le répertoire de base de données personnalisé sur </translation>
     </message>
     <message>
         <source>Browse</source>

@@ -21,11 +21,11 @@
     </message>
     <message>
         <source>Co&amp;nnection:</source>
-        <translation>Co&amp;nnexion :</translation>
+        <translation>Co&amp;nnexion&#xa0;:</translation>
     </message>
     <message>
         <source>none: in memory</source>
-        <translation>aucun : en mémoire</translation>
+        <translation>aucun&#xa0;: en mémoire</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -33,23 +33,23 @@
     </message>
     <message>
         <source>&amp;Keep contents in:</source>
-        <translation>Ga&amp;rder le contenu dans :</translation>
+        <translation>Ga&amp;rder le contenu dans&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Host:</source>
-        <translation>&amp;Hôte :</translation>
+        <translation>&amp;Hôte&#xa0;:</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation>Port :</translation>
+        <translation>Port&#xa0;:</translation>
     </message>
     <message>
         <source>S&amp;erial line:</source>
-        <translation>&amp;Liaison série :</translation>
+        <translation>&amp;Liaison série&#xa0;:</translation>
     </message>
     <message>
         <source>Baud rate:</source>
-        <translation>Débit (bauds) :</translation>
+        <translation>Débit (bauds)&#xa0;:</translation>
     </message>
     <message>
         <source>Contents of the Emulated Chip</source>
@@ -64,7 +64,7 @@
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
-        <translation>Aller à :</translation>
+        <translation>Aller à&#xa0;:</translation>
     </message>
     <message>
         <source>Previous Difference</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Nothing was read. Check Examine to read the chip.</source>
-        <translation>Rien n&apos;a été lu. Cochez Examine pour lire la puce.</translation>
+        <translation>Rien n’a été lu. Cochez Examine pour lire la puce.</translation>
     </message>
     <message>
         <source>%1 was read.</source>
@@ -88,11 +88,11 @@
     </message>
     <message>
         <source>%1 was read. It is what the file has.</source>
-        <translation>%1 a été lu. C&apos;est ce que contient le fichier.</translation>
+        <translation>%1 a été lu. C’est ce que contient le fichier.</translation>
     </message>
     <message>
         <source>%1 was read. Bytes that differ from the file: %2</source>
-        <translation>%1 a été lu. Octets différents du fichier : %2</translation>
+        <translation>%1 a été lu. Octets différents du fichier&#xa0;: %2</translation>
     </message>
     <message>
         <source>Save What Was Read</source>
@@ -100,11 +100,11 @@
     </message>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation>Le fichier %1 ne peut pas être écrit : %2</translation>
+        <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: %2, expected %3</source>
-        <translation>%1 : %2, attendu %3</translation>
+        <translation>%1&#xa0;: %2, attendu %3</translation>
     </message>
     <message>
         <source>Bytes that were read</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
-        <translation>La puce a l&apos;ID %1. Composants ayant cet ID :</translation>
+        <translation>La puce a l’ID %1. Composants ayant cet ID&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>F&amp;ile:</source>
-        <translation>F&amp;ichier :</translation>
+        <translation>F&amp;ichier&#xa0;:</translation>
     </message>
     <message>
         <source>File &amp;begins at:</source>
-        <translation>Le &amp;fichier commence à :</translation>
+        <translation>Le &amp;fichier commence à&#xa0;:</translation>
     </message>
     <message>
         <source>The file is being read.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>The file cannot be read: %1</source>
-        <translation>Le fichier ne peut pas être lu : %1</translation>
+        <translation>Le fichier ne peut pas être lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 bytes, CRC-32 %2</source>
@@ -188,7 +188,7 @@
     <name>FILE_SUMMARY</name>
     <message>
         <source>It is not a file.</source>
-        <translation>Ce n&apos;est pas un fichier.</translation>
+        <translation>Ce n’est pas un fichier.</translation>
     </message>
 </context>
 <context>
@@ -207,15 +207,15 @@
     </message>
     <message>
         <source>Ran&amp;ge:</source>
-        <translation>Pla&amp;ge :</translation>
+        <translation>Pla&amp;ge&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
-        <translation>Adre&amp;sse :</translation>
+        <translation>Adre&amp;sse&#xa0;:</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation>Longueur :</translation>
+        <translation>Longueur&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -234,7 +234,7 @@
     </message>
     <message>
         <source>&amp;Try the Flow</source>
-        <translation>&amp;Essayer le flux</translation>
+        <translation>&amp;Essayer le flot</translation>
     </message>
     <message>
         <source>&amp;Start</source>
@@ -285,35 +285,35 @@
     </message>
     <message>
         <source>Not started: %1</source>
-        <translation>Non démarré : %1</translation>
+        <translation>Non démarré&#xa0;: %1</translation>
     </message>
     <message>
         <source>The place where the file begins is not a number.</source>
-        <translation>L&apos;endroit où commence le fichier n&apos;est pas un nombre.</translation>
+        <translation>L’endroit où commence le fichier n’est pas un nombre.</translation>
     </message>
     <message>
         <source>Address or length is not a number.</source>
-        <translation>L&apos;adresse ou la longueur n&apos;est pas un nombre.</translation>
+        <translation>L’adresse ou la longueur n’est pas un nombre.</translation>
     </message>
     <message>
         <source>Nothing was detected: %1</source>
-        <translation>Rien n&apos;a été détecté : %1</translation>
+        <translation>Rien n’a été détecté&#xa0;: %1</translation>
     </message>
     <message>
         <source>The chip has the ID %1.</source>
-        <translation>La puce a l&apos;ID %1.</translation>
+        <translation>La puce a l’ID %1.</translation>
     </message>
     <message>
         <source>No device has the ID %1.</source>
-        <translation>Aucun composant n&apos;a l&apos;ID %1.</translation>
+        <translation>Aucun composant n’a l’ID %1.</translation>
     </message>
     <message>
         <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
-        <translation>L&apos;exécution est en cours d&apos;annulation. Si elle est arrêtée tout de suite, l&apos;état de la puce est inconnu.</translation>
+        <translation>L’exécution est en cours d’annulation. Si elle est arrêtée tout de suite, l’état de la puce est inconnu.</translation>
     </message>
     <message>
         <source>A run is under way. Cancel it and close the window?</source>
-        <translation>Une exécution est en cours. L&apos;annuler et fermer la fenêtre ?</translation>
+        <translation>Une exécution est en cours. L’annuler et fermer la fenêtre&#xa0;?</translation>
     </message>
     <message>
         <source>Stop at once</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Cancel the run</source>
-        <translation>Annuler l&apos;exécution</translation>
+        <translation>Annuler l’exécution</translation>
     </message>
     <message>
         <source>Wait</source>
@@ -336,15 +336,15 @@
     <name>RUN_BAR</name>
     <message>
         <source>Progress of the run</source>
-        <translation>Progression de l&apos;exécution</translation>
+        <translation>Progression de l’exécution</translation>
     </message>
     <message>
         <source>Tr&amp;y the Flow</source>
-        <translation>Essa&amp;yer le flux</translation>
+        <translation>Essa&amp;yer le flot</translation>
     </message>
     <message>
         <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>
-        <translation>Efface, programme et vérifie une puce émulée. Aucun matériel n&apos;est nécessaire ni utilisé.</translation>
+        <translation>Efface, programme et vérifie une puce émulée. Aucun matériel n’est nécessaire ni utilisé.</translation>
     </message>
     <message>
         <source>&amp;Start</source>
@@ -356,11 +356,11 @@
     </message>
     <message>
         <source>The run is being cancelled.</source>
-        <translation>L&apos;exécution est en cours d&apos;annulation.</translation>
+        <translation>L’exécution est en cours d’annulation.</translation>
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation>%1 : %2 sur %3</translation>
+        <translation>%1&#xa0;: %2 sur %3</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -371,19 +371,19 @@
     <name>RUN_PREPARATION</name>
     <message>
         <source>No operation is checked.</source>
-        <translation>Aucune opération n&apos;est cochée.</translation>
+        <translation>Aucune opération n’est cochée.</translation>
     </message>
     <message>
         <source>No file is chosen.</source>
-        <translation>Aucun fichier n&apos;est choisi.</translation>
+        <translation>Aucun fichier n’est choisi.</translation>
     </message>
     <message>
         <source>No device is chosen.</source>
-        <translation>Aucun composant n&apos;est choisi.</translation>
+        <translation>Aucun composant n’est choisi.</translation>
     </message>
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
-        <translation>Le composant « %1 » n&apos;existe pas.</translation>
+        <translation>Le composant «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read.</source>
@@ -410,23 +410,23 @@
     </message>
     <message>
         <source>Failed at %1, action %2 &quot;%3&quot;</source>
-        <translation>Échec à %1, action %2 « %3 »</translation>
+        <translation>Échec à %1, action %2 «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>Stopped. The state of the chip is unknown.</source>
-        <translation>Arrêté. L&apos;état de la puce est inconnu.</translation>
+        <translation>Arrêté. L’état de la puce est inconnu.</translation>
     </message>
     <message>
         <source>The connection is lost. The state of the chip is unknown.</source>
-        <translation>La connexion est perdue. L&apos;état de la puce est inconnu.</translation>
+        <translation>La connexion est perdue. L’état de la puce est inconnu.</translation>
     </message>
     <message>
         <source>Passed, but not everything could be stored</source>
-        <translation>Réussi, mais tout n&apos;a pas pu être enregistré</translation>
+        <translation>Réussi, mais tout n’a pas pu être enregistré</translation>
     </message>
     <message>
         <source>Passed, but a real chip would have refused or misread commands: see the log</source>
-        <translation>Réussi, mais une puce réelle aurait refusé ou mal lu des commandes : voir le journal</translation>
+        <translation>Réussi, mais une puce réelle aurait refusé ou mal lu des commandes&#xa0;: voir le journal</translation>
     </message>
     <message>
         <source>Passed</source>
@@ -438,7 +438,7 @@
     </message>
     <message>
         <source>Not started: see the log</source>
-        <translation>Non démarré : voir le journal</translation>
+        <translation>Non démarré&#xa0;: voir le journal</translation>
     </message>
     <message>
         <source>a test pattern</source>
@@ -446,19 +446,19 @@
     </message>
     <message>
         <source>Trying the flow of %1 on an emulated chip that is full of other data</source>
-        <translation>Essai du flux de %1 sur une puce émulée pleine d&apos;autres données</translation>
+        <translation>Essai du flot de %1 sur une puce émulée pleine d’autres données</translation>
     </message>
     <message>
         <source>Content: %1</source>
-        <translation>Contenu : %1</translation>
+        <translation>Contenu&#xa0;: %1</translation>
     </message>
     <message>
         <source>Nothing more was sent, because this may be another chip than the device says.</source>
-        <translation>Rien d&apos;autre n&apos;a été envoyé, car cette puce peut être une autre que celle du composant.</translation>
+        <translation>Rien d’autre n’a été envoyé, car cette puce peut être une autre que celle du composant.</translation>
     </message>
     <message>
         <source>Note of the chip: %1</source>
-        <translation>Note de la puce : %1</translation>
+        <translation>Note de la puce&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 (%2 commands, %3 s)</source>
@@ -470,11 +470,11 @@
 %1
 
 Erase them?</source>
-        <translation>Des secteurs entiers sont effacés. Ces octets hors de la plage sont effacés aussi :
+        <translation>Des secteurs entiers sont effacés. Ces octets hors de la plage sont effacés aussi&#xa0;:
 
 %1
 
-Les effacer ?</translation>
+Les effacer&#xa0;?</translation>
     </message>
     <message>
         <source>%1 on the connection %2</source>
@@ -536,7 +536,7 @@ Les effacer ?</translation>
     </message>
     <message>
         <source>Commands of:</source>
-        <translation>Commandes de :</translation>
+        <translation>Commandes de&#xa0;:</translation>
     </message>
     <message>
         <source>Commands of the last run</source>

@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
-        <translation>Il chip ha l&apos;ID %1. Dispositivi con questo ID:</translation>
+        <translation>Il chip ha l’ID %1. Dispositivi con questo ID:</translation>
     </message>
 </context>
 <context>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>Address or length is not a number.</source>
-        <translation>L&apos;indirizzo o la lunghezza non è un numero.</translation>
+        <translation>L’indirizzo o la lunghezza non è un numero.</translation>
     </message>
     <message>
         <source>Nothing was detected: %1</source>
@@ -301,19 +301,19 @@
     </message>
     <message>
         <source>The chip has the ID %1.</source>
-        <translation>Il chip ha l&apos;ID %1.</translation>
+        <translation>Il chip ha l’ID %1.</translation>
     </message>
     <message>
         <source>No device has the ID %1.</source>
-        <translation>Nessun dispositivo ha l&apos;ID %1.</translation>
+        <translation>Nessun dispositivo ha l’ID %1.</translation>
     </message>
     <message>
         <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
-        <translation>L&apos;esecuzione è in fase di annullamento. Se viene fermata subito, lo stato del chip è sconosciuto.</translation>
+        <translation>L’esecuzione è in fase di annullamento. Se viene fermata subito, lo stato del chip è sconosciuto.</translation>
     </message>
     <message>
         <source>A run is under way. Cancel it and close the window?</source>
-        <translation>Un&apos;esecuzione è in corso. Annullarla e chiudere la finestra?</translation>
+        <translation>Un’esecuzione è in corso. Annullarla e chiudere la finestra?</translation>
     </message>
     <message>
         <source>Stop at once</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Cancel the run</source>
-        <translation>Annulla l&apos;esecuzione</translation>
+        <translation>Annulla l’esecuzione</translation>
     </message>
     <message>
         <source>Wait</source>
@@ -336,7 +336,7 @@
     <name>RUN_BAR</name>
     <message>
         <source>Progress of the run</source>
-        <translation>Avanzamento dell&apos;esecuzione</translation>
+        <translation>Avanzamento dell’esecuzione</translation>
     </message>
     <message>
         <source>Tr&amp;y the Flow</source>
@@ -356,7 +356,7 @@
     </message>
     <message>
         <source>The run is being cancelled.</source>
-        <translation>L&apos;esecuzione è in fase di annullamento.</translation>
+        <translation>L’esecuzione è in fase di annullamento.</translation>
     </message>
     <message>
         <source>%1: %2 of %3</source>
@@ -383,7 +383,7 @@
     </message>
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
-        <translation>Il dispositivo &quot;%1&quot; non esiste.</translation>
+        <translation>Il dispositivo «%1» non esiste.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read.</source>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Failed at %1, action %2 &quot;%3&quot;</source>
-        <translation>Non riuscito in %1, azione %2 &quot;%3&quot;</translation>
+        <translation>Non riuscito in %1, azione %2 «%3»</translation>
     </message>
     <message>
         <source>Stopped. The state of the chip is unknown.</source>
@@ -470,7 +470,7 @@
 %1
 
 Erase them?</source>
-        <translation>Vengono cancellati settori interi. Sono cancellati anche questi byte fuori dall&apos;intervallo:
+        <translation>Vengono cancellati settori interi. Sono cancellati anche questi byte fuori dall’intervallo:
 
 %1
 
@@ -540,7 +540,7 @@ Cancellarli?</translation>
     </message>
     <message>
         <source>Commands of the last run</source>
-        <translation>Comandi dell&apos;ultima esecuzione</translation>
+        <translation>Comandi dell’ultima esecuzione</translation>
     </message>
     <message>
         <source>%1 commands</source>

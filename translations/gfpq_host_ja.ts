@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Baud rate:</source>
-        <translation>ボー レート:</translation>
+        <translation>ボーレート:</translation>
     </message>
     <message>
         <source>Contents of the Emulated Chip</source>
@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
-        <translation>データベースのフォルダー(&amp;R):</translation>
+        <translation>データベースのディレクトリ(&amp;R):</translation>
     </message>
     <message>
         <source>&amp;Configuration Device...</source>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>&amp;Programmer</source>
-        <translation>プログラマー(&amp;P)</translation>
+        <translation>プログラマ(&amp;P)</translation>
     </message>
     <message>
         <source>Not started: %1</source>
@@ -442,7 +442,7 @@
     </message>
     <message>
         <source>a test pattern</source>
-        <translation>テスト パターン</translation>
+        <translation>テストパターン</translation>
     </message>
     <message>
         <source>Trying the flow of %1 on an emulated chip that is full of other data</source>

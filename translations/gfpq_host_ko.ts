@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
-        <translation>칩의 ID는 %1입니다. 이 ID의 장치:</translation>
+        <translation>칩의 ID는 %1입니다. 이 ID의 디바이스:</translation>
     </message>
 </context>
 <context>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>The whole device</source>
-        <translation>장치 전체</translation>
+        <translation>디바이스 전체</translation>
     </message>
     <message>
         <source>Address and length</source>
@@ -253,7 +253,7 @@
     <name>PROGRAMMER_WINDOW</name>
     <message>
         <source>Device</source>
-        <translation>장치</translation>
+        <translation>디바이스</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>&amp;Programmer</source>
-        <translation>프로그래머(&amp;P)</translation>
+        <translation>디바이스 프로그래머(&amp;P)</translation>
     </message>
     <message>
         <source>Not started: %1</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>No device has the ID %1.</source>
-        <translation>ID가 %1인 장치가 없습니다.</translation>
+        <translation>ID가 %1인 디바이스가 없습니다.</translation>
     </message>
     <message>
         <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
@@ -379,11 +379,11 @@
     </message>
     <message>
         <source>No device is chosen.</source>
-        <translation>선택된 장치가 없습니다.</translation>
+        <translation>선택된 디바이스가 없습니다.</translation>
     </message>
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
-        <translation>장치 &quot;%1&quot;이(가) 없습니다.</translation>
+        <translation>디바이스 ‘%1’이(가) 없습니다.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read.</source>
@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
-        <translation>파일에는 %2부터 %1바이트가 필요하지만 장치는 %3바이트입니다.</translation>
+        <translation>파일에는 %2부터 %1바이트가 필요하지만 디바이스는 %3바이트입니다.</translation>
     </message>
 </context>
 <context>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Failed at %1, action %2 &quot;%3&quot;</source>
-        <translation>%1, 동작 %2 &quot;%3&quot;에서 실패</translation>
+        <translation>%1, 동작 %2 ‘%3’에서 실패</translation>
     </message>
     <message>
         <source>Stopped. The state of the chip is unknown.</source>
@@ -454,7 +454,7 @@
     </message>
     <message>
         <source>Nothing more was sent, because this may be another chip than the device says.</source>
-        <translation>선택한 장치와 다른 칩일 수 있으므로 더 이상 아무것도 보내지 않았습니다.</translation>
+        <translation>선택한 디바이스와 다른 칩일 수 있으므로 더 이상 아무것도 보내지 않았습니다.</translation>
     </message>
     <message>
         <source>Note of the chip: %1</source>
@@ -489,7 +489,7 @@ Erase them?</source>
     </message>
     <message>
         <source>%1, %2 clocks</source>
-        <translation>%1, %2클록</translation>
+        <translation>%1, %2클럭</translation>
     </message>
     <message>
         <source>No.</source>

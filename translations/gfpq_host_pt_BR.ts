@@ -281,7 +281,7 @@
     </message>
     <message>
         <source>&amp;Programmer</source>
-        <translation>Pro&amp;gramador</translation>
+        <translation>&amp;Gravador</translation>
     </message>
     <message>
         <source>Not started: %1</source>
@@ -383,7 +383,7 @@
     </message>
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
-        <translation>O dispositivo &quot;%1&quot; não existe.</translation>
+        <translation>O dispositivo “%1” não existe.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read.</source>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Failed at %1, action %2 &quot;%3&quot;</source>
-        <translation>Falhou em %1, ação %2 &quot;%3&quot;</translation>
+        <translation>Falhou em %1, ação %2 “%3”</translation>
     </message>
     <message>
         <source>Stopped. The state of the chip is unknown.</source>

@@ -119,18 +119,18 @@
     </message>
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
-        <translation>ID микросхемы: %1. Устройства с этим ID:</translation>
+        <translation>ID микросхемы: %1. Микросхемы с этим ID:</translation>
     </message>
 </context>
 <context>
     <name>DEVICE_PANEL</name>
     <message>
         <source>none</source>
-        <translation>нет</translation>
+        <translation>не выбрано</translation>
     </message>
     <message>
         <source>Device &amp;family:</source>
-        <translation>Се&amp;мейство устройств:</translation>
+        <translation>Се&amp;мейство микросхем:</translation>
     </message>
     <message>
         <source>Configuration &amp;mode:</source>
@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>Ко&amp;нфигурационное устройство:</translation>
+        <translation>Ко&amp;нфигурационное ПЗУ:</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>&amp;Configuration Device...</source>
-        <translation>&amp;Конфигурационное устройство...</translation>
+        <translation>&amp;Конфигурационное ПЗУ...</translation>
     </message>
 </context>
 <context>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>The whole device</source>
-        <translation>Всё устройство</translation>
+        <translation>Вся микросхема</translation>
     </message>
     <message>
         <source>Address and length</source>
@@ -222,7 +222,7 @@
     <name>PROGRAMMER_MENU</name>
     <message>
         <source>&amp;Configuration Device...</source>
-        <translation>&amp;Конфигурационное устройство...</translation>
+        <translation>&amp;Конфигурационное ПЗУ...</translation>
     </message>
     <message>
         <source>&amp;Detect</source>
@@ -253,7 +253,7 @@
     <name>PROGRAMMER_WINDOW</name>
     <message>
         <source>Device</source>
-        <translation>Устройство</translation>
+        <translation>Микросхема</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>No device has the ID %1.</source>
-        <translation>Нет устройства с ID %1.</translation>
+        <translation>Нет микросхемы с ID %1.</translation>
     </message>
     <message>
         <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
@@ -379,11 +379,11 @@
     </message>
     <message>
         <source>No device is chosen.</source>
-        <translation>Устройство не выбрано.</translation>
+        <translation>Микросхема не выбрана.</translation>
     </message>
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
-        <translation>Устройство «%1» не существует.</translation>
+        <translation>Микросхема «%1» не существует.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read.</source>
@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
-        <translation>Файлу нужно %1 байт начиная с %2, а в устройстве %3 байт.</translation>
+        <translation>Файлу нужно %1 байт начиная с %2, а в микросхеме %3 байт.</translation>
     </message>
 </context>
 <context>

@@ -21,11 +21,11 @@
     </message>
     <message>
         <source>Co&amp;nnection:</source>
-        <translation>连接(&amp;N):</translation>
+        <translation>连接(&amp;N)：</translation>
     </message>
     <message>
         <source>none: in memory</source>
-        <translation>无: 在内存中</translation>
+        <translation>无：在内存中</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -33,23 +33,23 @@
     </message>
     <message>
         <source>&amp;Keep contents in:</source>
-        <translation>内容保存于(&amp;K):</translation>
+        <translation>内容保存于(&amp;K)：</translation>
     </message>
     <message>
         <source>&amp;Host:</source>
-        <translation>主机(&amp;H):</translation>
+        <translation>主机(&amp;H)：</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation>端口:</translation>
+        <translation>端口：</translation>
     </message>
     <message>
         <source>S&amp;erial line:</source>
-        <translation>串口(&amp;E):</translation>
+        <translation>串口(&amp;E)：</translation>
     </message>
     <message>
         <source>Baud rate:</source>
-        <translation>波特率:</translation>
+        <translation>波特率：</translation>
     </message>
     <message>
         <source>Contents of the Emulated Chip</source>
@@ -64,7 +64,7 @@
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
-        <translation>转到:</translation>
+        <translation>转到：</translation>
     </message>
     <message>
         <source>Previous Difference</source>
@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>%1 was read. Bytes that differ from the file: %2</source>
-        <translation>已读取 %1。与文件不同的字节数: %2</translation>
+        <translation>已读取 %1。与文件不同的字节数：%2</translation>
     </message>
     <message>
         <source>Save What Was Read</source>
@@ -100,11 +100,11 @@
     </message>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation>无法写入文件 %1: %2</translation>
+        <translation>无法写入文件 %1：%2</translation>
     </message>
     <message>
         <source>%1: %2, expected %3</source>
-        <translation>%1: %2，预期 %3</translation>
+        <translation>%1：%2，预期 %3</translation>
     </message>
     <message>
         <source>Bytes that were read</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
-        <translation>芯片的 ID 是 %1。具有此 ID 的器件:</translation>
+        <translation>芯片的 ID 是 %1。具有此 ID 的器件：</translation>
     </message>
 </context>
 <context>
@@ -130,19 +130,19 @@
     </message>
     <message>
         <source>Device &amp;family:</source>
-        <translation>器件系列(&amp;F):</translation>
+        <translation>器件系列(&amp;F)：</translation>
     </message>
     <message>
         <source>Configuration &amp;mode:</source>
-        <translation>配置模式(&amp;M):</translation>
+        <translation>配置模式(&amp;M)：</translation>
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>配置器件(&amp;D):</translation>
+        <translation>配置器件(&amp;D)：</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
-        <translation>数据库目录(&amp;R):</translation>
+        <translation>数据库目录(&amp;R)：</translation>
     </message>
     <message>
         <source>&amp;Configuration Device...</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>F&amp;ile:</source>
-        <translation>文件(&amp;I):</translation>
+        <translation>文件(&amp;I)：</translation>
     </message>
     <message>
         <source>File &amp;begins at:</source>
-        <translation>文件起始于(&amp;B):</translation>
+        <translation>文件起始于(&amp;B)：</translation>
     </message>
     <message>
         <source>The file is being read.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>The file cannot be read: %1</source>
-        <translation>无法读取文件: %1</translation>
+        <translation>无法读取文件：%1</translation>
     </message>
     <message>
         <source>%1 bytes, CRC-32 %2</source>
@@ -207,15 +207,15 @@
     </message>
     <message>
         <source>Ran&amp;ge:</source>
-        <translation>范围(&amp;G):</translation>
+        <translation>范围(&amp;G)：</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
-        <translation>地址(&amp;A):</translation>
+        <translation>地址(&amp;A)：</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation>长度:</translation>
+        <translation>长度：</translation>
     </message>
 </context>
 <context>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Not started: %1</source>
-        <translation>未开始: %1</translation>
+        <translation>未开始：%1</translation>
     </message>
     <message>
         <source>The place where the file begins is not a number.</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Nothing was detected: %1</source>
-        <translation>未检测到任何器件: %1</translation>
+        <translation>未检测到任何器件：%1</translation>
     </message>
     <message>
         <source>The chip has the ID %1.</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>A run is under way. Cancel it and close the window?</source>
-        <translation>正在运行。要取消并关闭窗口吗?</translation>
+        <translation>正在运行。要取消并关闭窗口吗？</translation>
     </message>
     <message>
         <source>Stop at once</source>
@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation>%1: %2 / %3</translation>
+        <translation>%1：%2 / %3</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -426,7 +426,7 @@
     </message>
     <message>
         <source>Passed, but a real chip would have refused or misread commands: see the log</source>
-        <translation>通过，但真实芯片会拒绝或误读某些命令: 请查看日志</translation>
+        <translation>通过，但真实芯片会拒绝或误读某些命令：请查看日志</translation>
     </message>
     <message>
         <source>Passed</source>
@@ -438,7 +438,7 @@
     </message>
     <message>
         <source>Not started: see the log</source>
-        <translation>未开始: 请查看日志</translation>
+        <translation>未开始：请查看日志</translation>
     </message>
     <message>
         <source>a test pattern</source>
@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>Content: %1</source>
-        <translation>内容: %1</translation>
+        <translation>内容：%1</translation>
     </message>
     <message>
         <source>Nothing more was sent, because this may be another chip than the device says.</source>
@@ -458,7 +458,7 @@
     </message>
     <message>
         <source>Note of the chip: %1</source>
-        <translation>芯片的提示: %1</translation>
+        <translation>芯片的提示：%1</translation>
     </message>
     <message>
         <source>%1 (%2 commands, %3 s)</source>
@@ -470,11 +470,11 @@
 %1
 
 Erase them?</source>
-        <translation>将擦除整个扇区。范围之外的以下字节也会被擦除:
+        <translation>将擦除整个扇区。范围之外的以下字节也会被擦除：
 
 %1
 
-要擦除吗?</translation>
+要擦除吗？</translation>
     </message>
     <message>
         <source>%1 on the connection %2</source>
@@ -536,7 +536,7 @@ Erase them?</source>
     </message>
     <message>
         <source>Commands of:</source>
-        <translation>命令范围:</translation>
+        <translation>命令范围：</translation>
     </message>
     <message>
         <source>Commands of the last run</source>

@@ -21,11 +21,11 @@
     </message>
     <message>
         <source>Co&amp;nnection:</source>
-        <translation>連線(&amp;N):</translation>
+        <translation>連線(&amp;N)：</translation>
     </message>
     <message>
         <source>none: in memory</source>
-        <translation>無: 在記憶體中</translation>
+        <translation>無：在記憶體中</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -33,23 +33,23 @@
     </message>
     <message>
         <source>&amp;Keep contents in:</source>
-        <translation>內容保存於(&amp;K):</translation>
+        <translation>內容保存於(&amp;K)：</translation>
     </message>
     <message>
         <source>&amp;Host:</source>
-        <translation>主機(&amp;H):</translation>
+        <translation>主機(&amp;H)：</translation>
     </message>
     <message>
         <source>Port:</source>
-        <translation>連接埠:</translation>
+        <translation>連接埠：</translation>
     </message>
     <message>
         <source>S&amp;erial line:</source>
-        <translation>序列埠(&amp;E):</translation>
+        <translation>序列埠(&amp;E)：</translation>
     </message>
     <message>
         <source>Baud rate:</source>
-        <translation>鮑率:</translation>
+        <translation>鮑率：</translation>
     </message>
     <message>
         <source>Contents of the Emulated Chip</source>
@@ -64,7 +64,7 @@
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
-        <translation>移至:</translation>
+        <translation>移至：</translation>
     </message>
     <message>
         <source>Previous Difference</source>
@@ -92,7 +92,7 @@
     </message>
     <message>
         <source>%1 was read. Bytes that differ from the file: %2</source>
-        <translation>已讀取 %1。與檔案不同的位元組數: %2</translation>
+        <translation>已讀取 %1。與檔案不同的位元組數：%2</translation>
     </message>
     <message>
         <source>Save What Was Read</source>
@@ -100,11 +100,11 @@
     </message>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation>無法寫入檔案 %1: %2</translation>
+        <translation>無法寫入檔案 %1：%2</translation>
     </message>
     <message>
         <source>%1: %2, expected %3</source>
-        <translation>%1: %2，預期 %3</translation>
+        <translation>%1：%2，預期 %3</translation>
     </message>
     <message>
         <source>Bytes that were read</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
-        <translation>晶片的 ID 是 %1。具有此 ID 的裝置:</translation>
+        <translation>晶片的 ID 是 %1。具有此 ID 的元件：</translation>
     </message>
 </context>
 <context>
@@ -130,19 +130,19 @@
     </message>
     <message>
         <source>Device &amp;family:</source>
-        <translation>元件系列(&amp;F):</translation>
+        <translation>元件系列(&amp;F)：</translation>
     </message>
     <message>
         <source>Configuration &amp;mode:</source>
-        <translation>組態模式(&amp;M):</translation>
+        <translation>組態模式(&amp;M)：</translation>
     </message>
     <message>
         <source>Configuration &amp;device:</source>
-        <translation>組態元件(&amp;D):</translation>
+        <translation>組態元件(&amp;D)：</translation>
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
-        <translation>資料庫目錄(&amp;R):</translation>
+        <translation>資料庫目錄(&amp;R)：</translation>
     </message>
     <message>
         <source>&amp;Configuration Device...</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>F&amp;ile:</source>
-        <translation>檔案(&amp;I):</translation>
+        <translation>檔案(&amp;I)：</translation>
     </message>
     <message>
         <source>File &amp;begins at:</source>
-        <translation>檔案起始於(&amp;B):</translation>
+        <translation>檔案起始於(&amp;B)：</translation>
     </message>
     <message>
         <source>The file is being read.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>The file cannot be read: %1</source>
-        <translation>無法讀取檔案: %1</translation>
+        <translation>無法讀取檔案：%1</translation>
     </message>
     <message>
         <source>%1 bytes, CRC-32 %2</source>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>The whole device</source>
-        <translation>整個裝置</translation>
+        <translation>整個元件</translation>
     </message>
     <message>
         <source>Address and length</source>
@@ -207,15 +207,15 @@
     </message>
     <message>
         <source>Ran&amp;ge:</source>
-        <translation>範圍(&amp;G):</translation>
+        <translation>範圍(&amp;G)：</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
-        <translation>位址(&amp;A):</translation>
+        <translation>位址(&amp;A)：</translation>
     </message>
     <message>
         <source>Length:</source>
-        <translation>長度:</translation>
+        <translation>長度：</translation>
     </message>
 </context>
 <context>
@@ -253,7 +253,7 @@
     <name>PROGRAMMER_WINDOW</name>
     <message>
         <source>Device</source>
-        <translation>裝置</translation>
+        <translation>元件</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Not started: %1</source>
-        <translation>未開始: %1</translation>
+        <translation>未開始：%1</translation>
     </message>
     <message>
         <source>The place where the file begins is not a number.</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Nothing was detected: %1</source>
-        <translation>未偵測到任何裝置: %1</translation>
+        <translation>未偵測到任何元件：%1</translation>
     </message>
     <message>
         <source>The chip has the ID %1.</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>No device has the ID %1.</source>
-        <translation>沒有 ID 為 %1 的裝置。</translation>
+        <translation>沒有 ID 為 %1 的元件。</translation>
     </message>
     <message>
         <source>The run is being cancelled. If it is stopped at once, the state of the chip is unknown.</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>A run is under way. Cancel it and close the window?</source>
-        <translation>正在執行。要取消並關閉視窗嗎?</translation>
+        <translation>正在執行。要取消並關閉視窗嗎？</translation>
     </message>
     <message>
         <source>Stop at once</source>
@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation>%1: %2 / %3</translation>
+        <translation>%1：%2 / %3</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -379,11 +379,11 @@
     </message>
     <message>
         <source>No device is chosen.</source>
-        <translation>未選擇裝置。</translation>
+        <translation>未選擇元件。</translation>
     </message>
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
-        <translation>裝置「%1」不存在。</translation>
+        <translation>元件「%1」不存在。</translation>
     </message>
     <message>
         <source>The file %1 cannot be read.</source>
@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>The file needs %1 bytes from %2 on, and the device has %3 bytes.</source>
-        <translation>檔案從 %2 起需要 %1 位元組，而裝置有 %3 位元組。</translation>
+        <translation>檔案從 %2 起需要 %1 位元組，而元件有 %3 位元組。</translation>
     </message>
 </context>
 <context>
@@ -426,7 +426,7 @@
     </message>
     <message>
         <source>Passed, but a real chip would have refused or misread commands: see the log</source>
-        <translation>通過，但真實晶片會拒絕或誤讀某些命令: 請查看記錄</translation>
+        <translation>通過，但真實晶片會拒絕或誤讀某些命令：請查看記錄</translation>
     </message>
     <message>
         <source>Passed</source>
@@ -438,7 +438,7 @@
     </message>
     <message>
         <source>Not started: see the log</source>
-        <translation>未開始: 請查看記錄</translation>
+        <translation>未開始：請查看記錄</translation>
     </message>
     <message>
         <source>a test pattern</source>
@@ -450,15 +450,15 @@
     </message>
     <message>
         <source>Content: %1</source>
-        <translation>內容: %1</translation>
+        <translation>內容：%1</translation>
     </message>
     <message>
         <source>Nothing more was sent, because this may be another chip than the device says.</source>
-        <translation>未再傳送任何內容，因為此晶片可能不是所選裝置。</translation>
+        <translation>未再傳送任何內容，因為此晶片可能不是所選元件。</translation>
     </message>
     <message>
         <source>Note of the chip: %1</source>
-        <translation>晶片的提示: %1</translation>
+        <translation>晶片的提示：%1</translation>
     </message>
     <message>
         <source>%1 (%2 commands, %3 s)</source>
@@ -470,11 +470,11 @@
 %1
 
 Erase them?</source>
-        <translation>將抹除整個磁區。範圍之外的下列位元組也會被抹除:
+        <translation>將抹除整個磁區。範圍之外的下列位元組也會被抹除：
 
 %1
 
-要抹除嗎?</translation>
+要抹除嗎？</translation>
     </message>
     <message>
         <source>%1 on the connection %2</source>
@@ -536,7 +536,7 @@ Erase them?</source>
     </message>
     <message>
         <source>Commands of:</source>
-        <translation>命令範圍:</translation>
+        <translation>命令範圍：</translation>
     </message>
     <message>
         <source>Commands of the last run</source>

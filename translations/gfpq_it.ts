@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>Cartella del database personale:</translation>
+        <translation>Cartella del database personalizzato:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>Filtro nome:</translation>
+        <translation>Filtro per nome:</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Device density: </source>
-        <translation>Densità del dispositivo: </translation>
+        <translation>Capacità del dispositivo: </translation>
     </message>
     <message>
         <source>Total device die:</source>
@@ -53,15 +53,15 @@
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>Cicli di clock fittizi in modo Single I/O: </translation>
+        <translation>Cicli dummy in modalità Single I/O: </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>Cicli di clock fittizi in modo Quad I/O:</translation>
+        <translation>Cicli dummy in modalità Quad I/O:</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
-        <translation>Modello del flusso di programmazione: </translation>
+        <translation>Modello flusso di programmazione: </translation>
     </message>
     <message>
         <source>Edit...</source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>Impossibile salvare la memoria flash: la scheda «%1» contiene un valore non valido: 
+        <translation>Impossibile salvare il dispositivo flash perché la scheda «%1» contiene un valore di proprietà non valido: 
 
 %2</translation>
     </message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>Impossibile impostare la cartella del database personale su </translation>
+        <translation>Impossibile impostare la cartella del database personalizzato su </translation>
     </message>
     <message>
         <source>Browse</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>カスタムデータベースのフォルダー:</translation>
+        <translation>カスタムデータベースのディレクトリ:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>名前フィルター:</translation>
+        <translation>名前で絞り込み:</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -53,11 +53,11 @@
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>シングル I/O モードのダミークロック: </translation>
+        <translation>シングル I/O モードのダミーサイクル数: </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>クアッド I/O モードのダミークロック:</translation>
+        <translation>クアッド I/O モードのダミーサイクル数:</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>タブ「%1」に無効なプロパティ値があるため、フラッシュを保存できませんでした: 
+        <translation>「%1」タブに無効なプロパティ値があるため、フラッシュデバイスを保存できませんでした: 
 
 %2</translation>
     </message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>カスタムデータベースのフォルダーを次に設定できませんでした: </translation>
+        <translation>カスタムデータベースのディレクトリを次の場所に設定できませんでした: </translation>
     </message>
     <message>
         <source>Browse</source>

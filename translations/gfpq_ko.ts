@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>사용자 데이터베이스 폴더:</translation>
+        <translation>사용자 지정 데이터베이스 폴더:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -53,11 +53,11 @@
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>싱글 I/O 모드 더미 클록: </translation>
+        <translation>싱글 I/O 모드 더미 클럭 수: </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>쿼드 I/O 모드 더미 클록:</translation>
+        <translation>쿼드 I/O 모드 더미 클럭 수:</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>탭 ‘%1’에 잘못된 속성 값이 있어 플래시를 저장하지 못했습니다: 
+        <translation>‘%1’ 탭에 잘못된 속성 값이 있어 플래시 디바이스를 저장하지 못했습니다: 
 
 %2</translation>
     </message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>사용자 데이터베이스 폴더를 다음으로 설정하지 못했습니다: </translation>
+        <translation>사용자 지정 데이터베이스 폴더를 다음으로 설정하지 못했습니다: </translation>
     </message>
     <message>
         <source>Browse</source>

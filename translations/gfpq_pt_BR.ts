@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>Diretório do banco de dados próprio:</translation>
+        <translation>Diretório do banco de dados personalizado:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>Filtro de nome:</translation>
+        <translation>Filtrar por nome:</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>Device I/O voltage: </source>
-        <translation>Tensão de E/S: </translation>
+        <translation>Tensão de I/O: </translation>
     </message>
     <message>
         <source>Device density: </source>
-        <translation>Densidade do dispositivo: </translation>
+        <translation>Capacidade do dispositivo: </translation>
     </message>
     <message>
         <source>Total device die:</source>
@@ -53,11 +53,11 @@
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>Ciclos de clock fictícios no modo Single I/O: </translation>
+        <translation>Ciclos dummy no modo Single I/O: </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>Ciclos de clock fictícios no modo Quad I/O:</translation>
+        <translation>Ciclos dummy no modo Quad I/O:</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>Não foi possível salvar a memória flash porque a guia “%1” tem um valor de propriedade inválido: 
+        <translation>Não foi possível salvar o dispositivo flash porque a guia “%1” contém um valor de propriedade inválido: 
 
 %2</translation>
     </message>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>Não foi possível definir o diretório do banco de dados próprio como </translation>
+        <translation>Não foi possível definir o diretório do banco de dados personalizado como </translation>
     </message>
     <message>
         <source>Browse</source>

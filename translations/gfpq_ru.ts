@@ -5,11 +5,11 @@
     <name>gfpq_dlg</name>
     <message>
         <source>Configuration Device</source>
-        <translation>Конфигурационное устройство</translation>
+        <translation>Конфигурационное ПЗУ</translation>
     </message>
     <message>
         <source>Device family: </source>
-        <translation>Семейство устройств: </translation>
+        <translation>Семейство микросхем: </translation>
     </message>
     <message>
         <source>Configuration mode: </source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>Каталог пользовательской базы:</translation>
+        <translation>Каталог пользовательской базы данных:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>Фильтр имени:</translation>
+        <translation>Фильтр по имени:</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -33,11 +33,11 @@
     </message>
     <message>
         <source>Device name: </source>
-        <translation>Имя устройства: </translation>
+        <translation>Имя микросхемы: </translation>
     </message>
     <message>
         <source>Device ID: </source>
-        <translation>ID устройства: </translation>
+        <translation>ID микросхемы: </translation>
     </message>
     <message>
         <source>Device I/O voltage: </source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Device density: </source>
-        <translation>Ёмкость устройства: </translation>
+        <translation>Ёмкость микросхемы: </translation>
     </message>
     <message>
         <source>Total device die:</source>
@@ -53,15 +53,15 @@
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>Холостые такты в режиме Single I/O: </translation>
+        <translation>Холостые такты (Single I/O): </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>Холостые такты в режиме Quad I/O:</translation>
+        <translation>Холостые такты (Quad I/O):</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
-        <translation>Шаблон процедуры программирования: </translation>
+        <translation>Шаблон программирования: </translation>
     </message>
     <message>
         <source>Edit...</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>OK</source>
-        <translation>ОК</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -97,19 +97,19 @@
     </message>
     <message>
         <source>Devices</source>
-        <translation>Устройства</translation>
+        <translation>Микросхемы</translation>
     </message>
     <message>
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>Не удалось сохранить флеш-память: на вкладке «%1» есть недопустимое значение: 
+        <translation>Не удалось сохранить микросхему флеш-памяти, так как на вкладке «%1» указано недопустимое значение свойства: 
 
 %2</translation>
     </message>
     <message>
         <source>Tempate name &apos;%1&apos; is conflicts with the device name %2.</source>
-        <translation>Имя шаблона «%1» совпадает с именем устройства %2.</translation>
+        <translation>Имя шаблона «%1» совпадает с именем микросхемы %2.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Failed to set the custom database directory to </source>
-        <translation>Не удалось назначить каталогом пользовательской базы </translation>
+        <translation>Не удалось назначить каталогом пользовательской базы данных </translation>
     </message>
     <message>
         <source>Browse</source>
@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>i.e. 0xC2 0x20 0x19</source>
-        <translation>напр. 0xC2 0x20 0x19</translation>
+        <translation>например, 0xC2 0x20 0x19</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation>Вставить</translation>
+        <translation>Добавить действие</translation>
     </message>
 </context>
 <context>

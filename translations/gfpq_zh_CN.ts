@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>Device family: </source>
-        <translation>器件系列: </translation>
+        <translation>器件系列： </translation>
     </message>
     <message>
         <source>Configuration mode: </source>
-        <translation>配置模式: </translation>
+        <translation>配置模式： </translation>
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>自定义数据库目录:</translation>
+        <translation>自定义数据库目录：</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>名称筛选:</translation>
+        <translation>名称筛选：</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -33,35 +33,35 @@
     </message>
     <message>
         <source>Device name: </source>
-        <translation>器件名称: </translation>
+        <translation>器件名称： </translation>
     </message>
     <message>
         <source>Device ID: </source>
-        <translation>器件 ID: </translation>
+        <translation>器件 ID： </translation>
     </message>
     <message>
         <source>Device I/O voltage: </source>
-        <translation>器件 I/O 电压: </translation>
+        <translation>器件 I/O 电压： </translation>
     </message>
     <message>
         <source>Device density: </source>
-        <translation>器件容量: </translation>
+        <translation>器件容量： </translation>
     </message>
     <message>
         <source>Total device die:</source>
-        <translation>裸片总数:</translation>
+        <translation>裸片总数：</translation>
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>单线 I/O 模式空周期: </translation>
+        <translation>单线 I/O 模式空时钟周期数： </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>四线 I/O 模式空周期:</translation>
+        <translation>四线 I/O 模式空时钟周期数：</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
-        <translation>编程流程模板: </translation>
+        <translation>编程流程模板： </translation>
     </message>
     <message>
         <source>Edit...</source>
@@ -85,15 +85,15 @@
     </message>
     <message>
         <source>%1: flow chart</source>
-        <translation>%1: 流程图</translation>
+        <translation>%1：流程图</translation>
     </message>
     <message>
         <source>%1: actions</source>
-        <translation>%1: 动作</translation>
+        <translation>%1：动作</translation>
     </message>
     <message>
         <source>%1: properties of the selected action</source>
-        <translation>%1: 所选动作的属性</translation>
+        <translation>%1：所选动作的属性</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>无法保存闪存，因为选项卡“%1”中有无效的属性值: 
+        <translation>无法保存闪存器件，因为“%1”选项卡中有无效的属性值： 
 
 %2</translation>
     </message>
@@ -140,7 +140,7 @@
     </message>
     <message>
         <source>Templates:</source>
-        <translation>模板:</translation>
+        <translation>模板：</translation>
     </message>
     <message>
         <source>Remove</source>

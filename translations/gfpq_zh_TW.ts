@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>Device family: </source>
-        <translation>元件系列: </translation>
+        <translation>元件系列： </translation>
     </message>
     <message>
         <source>Configuration mode: </source>
-        <translation>組態模式: </translation>
+        <translation>組態模式： </translation>
     </message>
     <message>
         <source>Custom database directory:</source>
-        <translation>自訂資料庫目錄:</translation>
+        <translation>自訂資料庫目錄：</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Name filter:</source>
-        <translation>名稱篩選:</translation>
+        <translation>名稱篩選：</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -33,35 +33,35 @@
     </message>
     <message>
         <source>Device name: </source>
-        <translation>元件名稱: </translation>
+        <translation>元件名稱： </translation>
     </message>
     <message>
         <source>Device ID: </source>
-        <translation>元件 ID: </translation>
+        <translation>元件 ID： </translation>
     </message>
     <message>
         <source>Device I/O voltage: </source>
-        <translation>元件 I/O 電壓: </translation>
+        <translation>元件 I/O 電壓： </translation>
     </message>
     <message>
         <source>Device density: </source>
-        <translation>元件容量: </translation>
+        <translation>元件容量： </translation>
     </message>
     <message>
         <source>Total device die:</source>
-        <translation>晶粒總數:</translation>
+        <translation>晶粒總數：</translation>
     </message>
     <message>
         <source>Single I/O mode dummy clock: </source>
-        <translation>單線 I/O 模式虛擬時脈: </translation>
+        <translation>單線 I/O 模式空時脈週期數： </translation>
     </message>
     <message>
         <source>Quad I/O mode dummy clock:</source>
-        <translation>四線 I/O 模式虛擬時脈:</translation>
+        <translation>四線 I/O 模式空時脈週期數：</translation>
     </message>
     <message>
         <source>Programming flow template: </source>
-        <translation>燒錄流程範本: </translation>
+        <translation>燒錄流程範本： </translation>
     </message>
     <message>
         <source>Edit...</source>
@@ -85,15 +85,15 @@
     </message>
     <message>
         <source>%1: flow chart</source>
-        <translation>%1: 流程圖</translation>
+        <translation>%1：流程圖</translation>
     </message>
     <message>
         <source>%1: actions</source>
-        <translation>%1: 動作</translation>
+        <translation>%1：動作</translation>
     </message>
     <message>
         <source>%1: properties of the selected action</source>
-        <translation>%1: 所選動作的屬性</translation>
+        <translation>%1：所選動作的屬性</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -103,7 +103,7 @@
         <source>Failed to save flash as %1 tab has invalid property value: 
 
 %2</source>
-        <translation>無法儲存快閃記憶體，因為分頁「%1」中有無效的屬性值: 
+        <translation>無法儲存快閃記憶體元件，因為「%1」分頁中有無效的屬性值： 
 
 %2</translation>
     </message>
@@ -140,7 +140,7 @@
     </message>
     <message>
         <source>Templates:</source>
-        <translation>範本:</translation>
+        <translation>範本：</translation>
     </message>
     <message>
         <source>Remove</source>

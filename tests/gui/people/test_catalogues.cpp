@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The catalogues as translators keep them: complete, and true to what surrounds the words of a text.
+#include "test_rows.h"
 #include "words/gfpq_vocabulary.h"
 
 #include <QDir>
@@ -63,7 +64,14 @@ QString language_of(const QString& catalogue)
 // What a text ends in: the blanks, and a colon or dots before them.
 QString ending(const QString& text)
 {
-    return QRegularExpression(QStringLiteral("(\\.\\.\\.|:)?\\s*$")).match(text).captured();
+    return QRegularExpression(QStringLiteral("(\\.\\.\\.|[:\uFF1A])?\\s*$")).match(text).captured();
+}
+
+// An English ending as the language of a catalogue has it: Chinese has a colon of its own, which is as wide as a
+// letter.
+QString ending_in(const QString& catalogue, QString english)
+{
+    return catalogue.contains(QLatin1String("_zh_")) ? english.replace(QLatin1Char(':'), QChar(0xFF1A)) : english;
 }
 
 QStringList placeholders(const QString& text)
@@ -139,8 +147,21 @@ private slots:
         for (const MESSAGE& message : read_catalogue(catalogue)) {
             // A sentence goes on after its end in some languages.
             if (message.source != QLatin1String("Failed to set the custom database directory to "))
-                QVERIFY2(ending(message.translation).endsWith(ending(message.source)), qPrintable(message.translation));
+                QVERIFY2(ending(message.translation).endsWith(ending_in(catalogue, ending(message.source))),
+                         qPrintable(message.translation));
             QCOMPARE(message.translation.endsWith(QLatin1Char(' ')), message.source.endsWith(QLatin1Char(' ')));
+        }
+    }
+
+    void chinese_has_its_own_marks_data() { rows<QString>({{"zh_CN", "zh_CN"}, {"zh_TW", "zh_TW"}}); }
+
+    void chinese_has_its_own_marks()
+    {
+        const auto language = row<QString>();
+        const QRegularExpression narrow(QStringLiteral("[:?]"));
+        for (const QString& catalogue : all_catalogues().filter(language)) {
+            for (const MESSAGE& message : read_catalogue(catalogue))
+                QVERIFY2(!message.translation.contains(narrow), qPrintable(message.translation));
         }
     }
 

@@ -114,6 +114,7 @@ private slots:
 
         QCOMPARE(english.size(), 24);
         QCOMPARE(russian.keys(), english.keys());
+        QCOMPARE(russian.take(qs("m_ok_button")), english.take(qs("m_ok_button")));
         for (auto text = english.cbegin(); text != english.cend(); ++text)
             QVERIFY2(russian.value(text.key()) != text.value(), qPrintable(text.key()));
     }
@@ -145,7 +146,7 @@ private slots:
         QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, QPoint());
         QApplication::sendEvent(&chart(), &menu_key);
 
-        QCOMPARE(m_modals.last().menu_entries, QStringList({qs("Einf\u00fcgen"), qs("-"), qs("Refresh")}));
+        QCOMPARE(m_modals.last().menu_entries, QStringList({qs("Aktion einf\u00fcgen"), qs("-"), qs("Refresh")}));
     }
 
     void the_template_editor_speaks_the_language()
