@@ -18,7 +18,7 @@ _gfpdb_names()
 _gfpdb()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
-    local commands="list show export import check history restore diff help"
+    local commands="list show export import check history restore diff sfdp help"
     local common="--dir --verbose --help" options=""
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
@@ -38,7 +38,7 @@ _gfpdb()
         mapfile -t COMPREPLY < <(compgen -W "single quad both" -- "$current")
         return
         ;;
-    --family | --scheme | --filter | --as | --older-than | --keep)
+    --family | --scheme | --filter | --as | --older-than | --keep | --id)
         return
         ;;
     esac
@@ -51,6 +51,7 @@ _gfpdb()
     history) options="--prune --older-than --keep --force --json --family --scheme" ;;
     restore) options="--replace --as" ;;
     diff) options="--json --family --scheme" ;;
+    sfdp) options="--id --json" ;;
     help)
         mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$current")
         return
@@ -62,7 +63,7 @@ _gfpdb()
     fi
     case $command in
     show | export | history) _gfpdb_names ;;
-    import) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+    import | sfdp) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     diff)
         _gfpdb_names
         mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(compgen -f -- "$current")

@@ -9,6 +9,7 @@
 #include "commands/import_command.h"
 #include "commands/list_command.h"
 #include "commands/restore_command.h"
+#include "commands/sfdp_command.h"
 #include "commands/show_command.h"
 
 namespace {
@@ -25,6 +26,7 @@ CLI_PROGRAM make_program()
     program.commands.push_back(std::make_unique<CLI_HISTORY_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_RESTORE_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_DIFF_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_SFDP_COMMAND>());
     return program;
 }
 

@@ -17,7 +17,7 @@
 
 namespace {
 
-const QStringList COMMANDS = {"list", "show", "export", "import", "check", "history", "restore", "diff"};
+const QStringList COMMANDS = {"list", "show", "export", "import", "check", "history", "restore", "diff", "sfdp"};
 
 QByteArray run_on_terminal(const QStringList& arguments)
 {
@@ -58,7 +58,8 @@ private slots:
                                 "  check     Check every record and the database\n"
                                 "  history   List former states of records\n"
                                 "  restore   Restore a former state\n"
-                                "  diff      Compare two records\n\n"
+                                "  diff      Compare two records\n"
+                                "  sfdp      Show what a chip says of itself (SFDP)\n\n"
                                 "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
                                 "version.\n"));
         }
@@ -81,7 +82,8 @@ private slots:
              {"history", "[options] [NAME]\nList former states of records.\n",
               QStringList{"--prune", "--older-than", "--keep", "--force", "--json", "--family", "--scheme"}},
              {"restore", "[options] ID\nRestore a former state.\n", QStringList{"--replace", "--as"}},
-             {"diff", "[options] LEFT RIGHT\nCompare two records.\n", QStringList{"--json", "--family", "--scheme"}}});
+             {"diff", "[options] LEFT RIGHT\nCompare two records.\n", QStringList{"--json", "--family", "--scheme"}},
+             {"sfdp", "[options] FILE\nShow what a chip says of itself (SFDP).\n", QStringList{"--id", "--json"}}});
     }
 
     void every_command_explains_itself()
@@ -380,7 +382,7 @@ private slots:
         const QString directory = q(m_place->db_dir());
 
         QCOMPARE(completed({"re"}), QStringList{"restore"});
-        QCOMPARE(completed({""}).size(), 11);
+        QCOMPARE(completed({""}).size(), COMMANDS.size() + 3);
         QCOMPARE(completed({"list", "--f"}), (QStringList{"--family", "--filter"}));
         QCOMPARE(completed({"import", "--dr"}), QStringList{"--dry-run"});
         QCOMPARE(completed({"show", "--variant", "q"}), QStringList{"quad"});

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "cli_values.h"
+
+#include "cli_output.h"
+
+#include "gfpdb/gfpdb_text.h"
+
+#include <algorithm>
+
+namespace {
+
+// A value that is longer shifts its own line, not all others.
+constexpr int WIDTH_MAX = 48;
+
+QString shown(const std::string& text)
+{
+    return text.empty() ? QStringLiteral("-") : gfpdb_from_utf8(cli_printable(text));
+}
+
+} // namespace
+
+std::string cli_values_table(const std::vector<GFPDB_PROPOSED_VALUE>& values)
+{
+    int title_width = 0;
+    int text_width = 0;
+    for (const GFPDB_PROPOSED_VALUE& value : values) {
+        title_width = std::max(title_width, shown(value.title).size());
+        text_width = std::min(std::max(text_width, shown(value.text).size()), WIDTH_MAX);
+    }
+    QString table;
+    for (const GFPDB_PROPOSED_VALUE& value : values) {
+        table += shown(value.title).leftJustified(title_width + 2);
+        if (value.source.empty())
+            table += shown(value.text);
+        else
+            table += shown(value.text).leftJustified(text_width) + QLatin1String("  ") + shown(value.source);
+        table += QLatin1Char('\n');
+    }
+    return gfpdb_to_utf8(table);
+}
+
+void cli_add_values(CLI_JSON& json, const char* key, const std::vector<GFPDB_PROPOSED_VALUE>& values)
+{
+    json.begin_list(key);
+    for (const GFPDB_PROPOSED_VALUE& value : values) {
+        json.begin_object();
+        json.add("key", value.key);
+        json.add("title", value.title);
+        json.add("text", value.text);
+        json.add("source", value.source);
+        json.end_object();
+    }
+    json.end_list();
+}
+
+void cli_add_texts(CLI_JSON& json, const char* key, const std::vector<std::string>& texts)
+{
+    json.begin_list(key);
+    for (const std::string& text : texts)
+        json.add(text);
+    json.end_list();
+}
+
+std::string cli_parts_text(const std::vector<GFPDB_PART_COMPARISON>& parts)
+{
+    if (parts.empty())
+        return "No listed part has this ID.\n";
+    std::string text = "Listed parts with this ID:\n";
+    for (const GFPDB_PART_COMPARISON& each : parts) {
+        text += "  " + cli_printable(each.part->name) + (each.differences.empty() ? ": no difference\n" : ":\n");
+        for (const std::string& difference : each.differences)
+            text += "    " + cli_printable(difference) + '\n';
+    }
+    return text;
+}
+
+void cli_add_parts(CLI_JSON& json, const char* key, const std::vector<GFPDB_PART_COMPARISON>& parts)
+{
+    json.begin_list(key);
+    for (const GFPDB_PART_COMPARISON& each : parts) {
+        json.begin_object();
+        json.add("name", each.part->name);
+        cli_add_texts(json, "differences", each.differences);
+        json.end_object();
+    }
+    json.end_list();
+}
+
+std::string cli_bytes(const std::vector<std::uint8_t>& bytes)
+{
+    const QByteArray raw(reinterpret_cast<const char*>(bytes.data()), static_cast<int>(bytes.size()));
+    return raw.toHex(' ').toUpper().toStdString();
+}
