@@ -70,6 +70,8 @@ void GFPDB_IMPORT_PLAN::add_record(GFPDB_RECORD_FILE& file, GFPDB_RECORD record)
     ++(former ? m_replaced : m_new);
     record.row.revision = gfpdb_new_revision();
     (record.is_template ? m_templates : m_devices).push_back(record.row);
+    (record.is_template ? m_replaced_templates : m_replaced_devices)
+        .push_back(former ? former->row.revision : std::string());
 }
 
 // No device has the name of a template, neither in the directory nor in the files.

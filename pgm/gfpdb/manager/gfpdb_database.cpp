@@ -153,7 +153,8 @@ bool GFPDB_DATABASE::check_integrity()
 
 bool GFPDB_DATABASE::import(const GFPDB_IMPORT_PLAN& plan, const std::function<void(int)>& progress)
 {
-    return m_store.save_all(plan.devices(), plan.templates(), progress);
+    const GFPDB_SEEN_STATES seen{plan.replaced_devices(), plan.replaced_templates()};
+    return m_store.save_all(plan.devices(), plan.templates(), progress, &seen);
 }
 
 std::vector<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::find_history(const GFPDB_SELECTION& selection)

@@ -22,6 +22,24 @@ namespace {
 const std::string DEVICE_NAME = "device name";
 const std::string TEMPLATE_NAME = "template name";
 
+// Where a record is in a database.
+std::string device_place(int family, int scheme, const std::string& name)
+{
+    return "device " + std::to_string(family) + ' ' + std::to_string(scheme) + ' ' + gfpdb_name_key(name);
+}
+
+std::string template_place(const std::string& name)
+{
+    return "template " + gfpdb_name_key(name);
+}
+
+// Where the state goes when it is restored under `new_name`, or its own.
+std::string place_of(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name)
+{
+    const std::string& name = new_name.empty() ? entry.name() : new_name;
+    return entry.is_template ? template_place(name) : device_place(entry.row.family, entry.row.scheme, name);
+}
+
 bool refuse(std::string& error, const std::string& text)
 {
     error = text;
@@ -62,6 +80,7 @@ void GFPDB_EMBEDDED_MGR::reload()
     if (!m_store || m_store->get_directory() != directory)
         m_store = gfpdb_make_store(directory);
     m_store->reload();
+    m_seen.clear();
 }
 
 bool GFPDB_EMBEDDED_MGR::fail(const std::string& error)
@@ -103,6 +122,7 @@ GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_f
 {
     Q_UNUSED(load_flows)
     m_deletion.reset();
+    m_asked.is_shown_already = false;
     m_last_error.clear();
     GFPDB_FLASH* found = find_device(name);
     if (found == nullptr && is_builtin_flash(name))
@@ -116,7 +136,14 @@ GFPDB_FLASH* GFPDB_EMBEDDED_MGR::find_flash(const std::string& name, bool load_f
 
 std::string GFPDB_EMBEDDED_MGR::device_place(const std::string& name) const
 {
-    return "device " + std::to_string(m_family) + ' ' + std::to_string(m_scheme) + ' ' + gfpdb_name_key(name);
+    return ::device_place(m_family, m_scheme, name);
+}
+
+// Null for a record that was never looked for here.
+std::string* GFPDB_EMBEDDED_MGR::seen_state(const GFPDB_STORE& store, const std::string& place) const
+{
+    const auto seen = m_seen.find(store.get_directory() + place);
+    return seen == m_seen.end() ? nullptr : &seen->second;
 }
 
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
@@ -131,10 +158,13 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
     if (record != nullptr)
         m_store->note_used_values(gfpdb_schemes_of(kind()), record->get_string_property(GFPDB_FLASH_VOLTAGE),
                                   record->get_density());
-    if (record != nullptr || m_last_error.empty())
+    if (record != nullptr || m_last_error.empty()) {
         m_unread.erase(m_store->get_directory() + place);
-    else
+        m_seen[m_store->get_directory() + place] = record != nullptr ? record->get_revision() : std::string();
+    } else {
         m_unread[m_store->get_directory() + place] = m_last_error;
+        m_seen.erase(m_store->get_directory() + place);
+    }
     return record;
 }
 
@@ -157,11 +187,15 @@ bool GFPDB_EMBEDDED_MGR::check_seen(GFPDB_STORE& store, const std::string& name)
 
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
 {
-    const std::string place = "template " + gfpdb_name_key(name);
-    if (GFPDB_EMBEDDED_FLASH* record = find_read(place, m_store->get_template_revision(name)))
-        return record;
-    const std::optional<GFPDB_ROW> row = m_store->find_template(name);
-    return row ? keep_read(place, *row, true) : nothing_read();
+    const std::string place = template_place(name);
+    GFPDB_EMBEDDED_FLASH* record = find_read(place, m_store->get_template_revision(name));
+    if (record == nullptr) {
+        const std::optional<GFPDB_ROW> row = m_store->find_template(name);
+        record = row ? keep_read(place, *row, true) : nothing_read();
+    }
+    if (record != nullptr)
+        m_seen[m_store->get_directory() + place] = record->get_revision();
+    return record;
 }
 
 // The record that was read from `place` of the current database, if it is still what is stored there, and as much the
@@ -215,7 +249,7 @@ std::string GFPDB_EMBEDDED_MGR::get_last_error() const
 bool GFPDB_EMBEDDED_MGR::is_hidden_flash(const std::string& name, bool flows) const
 {
     if (!flows)
-        m_asked = GFPDB_ASKED_DEVICE{name, std::string()};
+        m_asked = GFPDB_ASKED_DEVICE{name, std::string(), true};
     if (!flows && kind() == GFPDB_SCHEME_KIND::NONE)
         return true;
     const GFPDB_PART* part = is_builtin_flash(name) ? gfpdb_builtin_part(name) : nullptr;
@@ -253,9 +287,9 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
     std::vector<std::string> allowed;
     switch (property) {
     case GFPDB_FLASH_NAME:
-        return check_device_name(value, error);
+        return check_device_name(value, error) && check_shown_device(error);
     case GFPDB_FLASH_DEVICE_ID:
-        return gfpdb_check_device_id(value, error);
+        return gfpdb_check_device_id(value, error) && check_shown_device(error);
     case GFPDB_FLASH_VOLTAGE:
         return gfpdb_check_choice(value, get_voltage_list(allowed), field->noun, error);
     case GFPDB_FLASH_DENSITY:
@@ -267,6 +301,16 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
     default:
         return refuse(error, "Property " + std::to_string(property) + " of a device is not a text.");
     }
+}
+
+// An Apply of the dialog says no more than that it failed, where the device was changed by someone else: it is told
+// here, before anything is deleted. Once, as by the change itself.
+bool GFPDB_EMBEDDED_MGR::check_shown_device(std::string& error) const
+{
+    std::string* const seen = seen_state(*m_store, device_place(m_asked.shown));
+    return !m_asked.is_shown_already || seen == nullptr ||
+           m_store->check_seen_device(m_family, m_scheme, m_asked.shown, *seen) ||
+           refuse(error, m_store->get_last_error());
 }
 
 // What could not be read is not free.
@@ -377,7 +421,9 @@ bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& direc
 // The reason why the save failed stays the last error; that the device is not back is added to it.
 void GFPDB_EMBEDDED_MGR::put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken)
 {
-    if (!store.undo_removal(taken))
+    if (store.undo_removal(taken))
+        m_seen[store.get_directory() + device_place(taken.name)] = taken.revision;
+    else
         fail(m_last_error + " The device " + gfpdb_quoted(taken.name) +
              " that was deleted before was not put back: " + store.get_last_error());
 }
@@ -404,12 +450,15 @@ bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE&
     row->revision = gfpdb_new_revision();
     const bool is_new_name =
         deletion != nullptr && gfpdb_name_key(deletion->name) != gfpdb_name_key(record->get_name());
-    const std::optional<std::string> revision = store.save_device(*row, taken, is_new_name);
+    const std::string place = device_place(record->get_name());
+    const std::optional<std::string> revision =
+        store.save_device(*row, taken, is_new_name, is_new_name ? nullptr : seen_state(store, place));
     if (!revision)
         return fail(store.get_last_error());
     row->revision = *revision;
     record->set_db_dir(store.get_directory());
     record->set_stored(*row);
+    m_seen[store.get_directory() + place] = *revision;
     m_records.retire_stored(record);
     if (is_new_name)
         m_records.retire_read(store.get_directory() + device_place(deletion->name));
@@ -434,7 +483,7 @@ bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string
     if (!check_seen(store, name))
         return false;
     GFPDB_DELETION deletion{store.get_directory(), name, std::nullopt};
-    if (!store.remove_device(m_family, m_scheme, name, &deletion.taken))
+    if (!store.remove_device(m_family, m_scheme, name, &deletion.taken, seen_state(store, device_place(name))))
         return fail(store.get_last_error());
     m_deletion = deletion;
     return true;
@@ -450,7 +499,11 @@ bool GFPDB_EMBEDDED_MGR::restore_flash(std::int64_t history_id, const std::strin
     std::string error;
     if (entry && !check_restored_name(*entry, new_name, error))
         return fail(error);
-    return store.restore(history_id, how, new_name) || fail(store.get_last_error());
+    const std::string place = entry ? place_of(*entry, new_name) : std::string();
+    if (!store.restore(history_id, how, new_name, seen_state(store, place)))
+        return fail(store.get_last_error());
+    m_seen.erase(store.get_directory() + place);
+    return true;
 }
 
 // A record that had a built-in device's name before the catalogue did gets it back; a new name must be free of both.
@@ -580,5 +633,6 @@ bool GFPDB_EMBEDDED_MGR::remove_template(const std::string& name)
     m_deletion.reset();
     if (gfpdb_builtin_template(name) >= 0)
         return fail("The template " + gfpdb_quoted(name) + " is built in: it cannot be removed.");
-    return m_store->remove_template(name) || fail(m_store->get_last_error());
+    return m_store->remove_template(name, seen_state(*m_store, template_place(name))) ||
+           fail(m_store->get_last_error());
 }

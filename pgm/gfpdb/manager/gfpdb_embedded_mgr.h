@@ -23,6 +23,9 @@ struct GFPDB_ASKED_DEVICE
     std::string shown;
     // The device name that was checked last since then: the one that is about to be given. Empty when none was.
     std::string entered;
+    // True when it was shown before: is_hidden_flash() was asked, and no device was loaded since. The checks that
+    // follow are those of an Apply.
+    bool is_shown_already = false;
 
     const std::string& name() const { return entered.empty() ? shown : entered; }
 };
@@ -108,6 +111,8 @@ private:
     bool was_read(std::string& error) const;
     bool check_seen(GFPDB_STORE& store, const std::string& name);
     std::string device_place(const std::string& name) const;
+    std::string* seen_state(const GFPDB_STORE& store, const std::string& place) const;
+    bool check_shown_device(std::string& error) const;
     bool check_device_name(const std::string& name, std::string& error) const;
     bool check_template_name(const std::string& name, std::string& error) const;
     bool check_stored_device_name(const std::string& stored, const std::string& name, std::string& error) const;
@@ -129,6 +134,9 @@ private:
     // took, or puts it back; any other call that loads or changes something ends it.
     std::optional<GFPDB_DELETION> m_deletion;
     mutable GFPDB_ASKED_DEVICE m_asked;
+    // The revisions of records that were last read here or stored from here, by place; empty for none. What was never
+    // looked for is not in it.
+    mutable std::unordered_map<std::string, std::string> m_seen;
     // The places of devices that could not be read when they were last looked for, and why.
     std::unordered_map<std::string, std::string> m_unread;
     GFPDB_KEPT_RECORDS m_records;

@@ -9,6 +9,10 @@
 // locked waits (GFPDB_SETTING_BUSY_TIMEOUT, 5 seconds if not set), then gives up; the calls of the next two seconds do
 // not wait.
 //
+// A change can be told which state of the record was seen here: its revision, empty for no record. `seen`, where it is
+// not null, is that; a change that finds another state is refused, with who stored that and when, and `seen` becomes
+// what is stored now: the next attempt goes through. Null stands for no expectation.
+//
 // The store is opened lazily by the first call and made by the first change. What cannot be used stays as it is, and
 // get_problem() says why. Reads follow what another program puts in its place, but the first change afterwards is
 // refused, because the user has not seen yet what is there now.
@@ -32,6 +36,13 @@
 constexpr char GFPDB_REASON_REPLACED[] = "replaced";
 constexpr char GFPDB_REASON_DELETED[] = "deleted";
 constexpr char GFPDB_REASON_PUT_BACK[] = "put back";
+
+// The states that were seen of what GFPDB_STORE::save_all() stores, in the same order.
+struct GFPDB_SEEN_STATES
+{
+    std::vector<std::string> devices;
+    std::vector<std::string> templates;
+};
 
 class GFPDB_STORE
 {
@@ -81,6 +92,8 @@ public:
     // The revision of the record alone; empty when there is none.
     virtual std::string get_device_revision(int family, int scheme, const std::string& name) = 0;
     virtual std::string get_template_revision(const std::string& template_name) = 0;
+    // False when the state of the device is known to be another one than `seen`; as for a change, which it precedes.
+    virtual bool check_seen_device(int family, int scheme, const std::string& name, std::string& seen) = 0;
     // True when a device of any family and scheme has that name.
     virtual bool has_device(const std::string& name) = 0;
 
@@ -93,15 +106,18 @@ public:
     // `row` is the very state that was taken, all is as it was before the removal.
     //
     // With `is_new_name` a device of that name is not replaced: the save is refused.
+    //
+    // `seen` becomes the revision that is stored.
     virtual std::optional<std::string> save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken = nullptr,
-                                                   bool is_new_name = false) = 0;
-    // True also when there is no such record. `taken` (may be null) hears what was removed, if anything was.
+                                                   bool is_new_name = false, std::string* seen = nullptr) = 0;
+    // True also when there is no such record, whatever was seen: then `seen` stays. It is empty when one was removed.
+    // `taken` (may be null) hears what was removed, if anything was.
     virtual bool remove_device(int family, int scheme, const std::string& name,
-                               std::optional<GFPDB_TAKEN>* taken = nullptr) = 0;
+                               std::optional<GFPDB_TAKEN>* taken = nullptr, std::string* seen = nullptr) = 0;
     // Makes what was removed the current record again, as it was; the history says so. Refused when its name is in use,
     // or when the database is another one now. get_last_error() then says where the record is kept.
     virtual bool undo_removal(const GFPDB_TAKEN& taken) = 0;
-    virtual bool remove_template(const std::string& template_name) = 0;
+    virtual bool remove_template(const std::string& template_name, std::string* seen = nullptr) = 0;
 
     // The devices of all families and schemes, and all stored templates, without their flows: ordered by family, scheme
     // and name, and by template name.
@@ -109,17 +125,19 @@ public:
     virtual std::vector<GFPDB_ROW> get_templates() = 0;
     // Stores all `devices` and all `templates`, or none of them. What has the same name is replaced; a template name of
     // a device makes no template here. Refused when a device would have the name of a template. `progress` hears the
-    // number of records that are done; it must not use the database.
+    // number of records that are done; it must not use the database. `seen` (may be null) stays as it is.
     virtual bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                          const std::function<void(int)>& progress) = 0;
+                          const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen = nullptr) = 0;
 
     // The states in the history, oldest first, without their flows: of records called `name`, of all when it is empty.
     virtual std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name = std::string()) = 0;
     virtual std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) = 0;
     // Makes the state `id` the current record again, with a new revision, under `new_name` when that is not empty. The
     // history keeps it. When a record of its kind has the name, `how` decides; refused when one of the other kind has
-    // it, or when a device and the template that was made from it would have the same name.
-    virtual bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name) = 0;
+    // it, or when a device and the template that was made from it would have the same name. `seen` is of the record
+    // that is replaced.
+    virtual bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name,
+                         std::string* seen = nullptr) = 0;
 
     // Removes states from the history, all at once; their number, or none on failure.
     virtual std::optional<int> prune_history(const GFPDB_PRUNING& pruning) = 0;

@@ -165,9 +165,13 @@ private slots:
         const std::unique_ptr<GFPDB_STORE> other = gfpdb_make_store(m_place->db_dir());
         QVERIFY(other->save_device(make_row("A")));
 
+        expect_warning("\\AThe device \"A\" was stored by .* since it was looked for here\\.");
+        expect_warning("It is state 1 of the history.\\z");
+        QVERIFY(!save_record(make_changed("A")));
+        QVERIFY(remove("A"));
         QVERIFY(save_record(make_changed("A")));
 
-        QCOMPARE(reasons(), QStringLiteral("replaced,replaced"));
+        QCOMPARE(reasons(), QStringLiteral("deleted,replaced"));
         QCOMPARE(GFPDB_EMBEDDED_MGR::instance().store().find_history(2)->row.single_flows,
                  std::string("single flows of A"));
     }

@@ -78,16 +78,22 @@ private slots:
     {
         QVERIFY(m_store->save_device(make_row("A")));
 
-        const std::string expected = SCHEMA_1[3] + ";CREATE INDEX device_keys ON device (name_key)" +
+        const std::string saved_by = ", saved_by TEXT NOT NULL DEFAULT ''";
+        std::string device = SCHEMA_1[3];
+        device.insert(device.find(", PRIMARY KEY"), saved_by);
+        const auto with_saved_by = [&](const std::string& table) {
+            return table.substr(0, table.size() - 1) + saved_by + ')';
+        };
+        const std::string expected = device + ";CREATE INDEX device_keys ON device (name_key)" +
                                      ";CREATE INDEX device_names ON device (family, scheme, name_key, name)" + ';' +
                                      SCHEMA_1[5].substr(0, SCHEMA_1[5].size() - 1) +
-                                     ", changed_by TEXT NOT NULL DEFAULT '', name_key TEXT NOT NULL DEFAULT '');" +
-                                     "CREATE INDEX history_names ON history (name_key);" + SCHEMA_1[0] + ';' +
-                                     SCHEMA_1[4] +
+                                     ", changed_by TEXT NOT NULL DEFAULT '', name_key TEXT NOT NULL DEFAULT ''" +
+                                     saved_by + ");" + "CREATE INDEX history_names ON history (name_key);" +
+                                     SCHEMA_1[0] + ';' + with_saved_by(SCHEMA_1[4]) +
                                      ";CREATE INDEX template_names ON template (template_key, template_name)";
         QCOMPARE(schema_of(file()), expected);
         QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(),
-                 QStringLiteral("3"));
+                 QStringLiteral("4"));
         QCOMPARE(run_sql(file(), "SELECT length(value) FROM meta WHERE name = 'database_id'").toInt(), 36);
         QCOMPARE(run_sql(file(), "SELECT count(*) FROM meta").toInt(), 2);
     }
@@ -115,9 +121,10 @@ private slots:
         QCOMPARE(m_store->get_history().size(), std::size_t(1));
         QCOMPARE(text_of(m_store->find_history(5)->row), expected);
         QCOMPARE(m_store->find_history(5)->changed_by, std::string());
+        QCOMPARE(row->saved_by, std::string());
 
         QCOMPARE(run_sql(file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString(),
-                 QStringLiteral("3"));
+                 QStringLiteral("4"));
         const std::string upgraded = schema_of(file());
         make_file(m_place->path("new.sqlite"), "A");
         QCOMPARE(upgraded, schema_of(m_place->path("new.sqlite")));
@@ -130,11 +137,11 @@ private slots:
     void a_newer_schema_is_left_alone()
     {
         make_file(file(), "A");
-        QVERIFY(run_sql(file(), "UPDATE meta SET value = '4' WHERE name = 'schema_version'").isValid());
+        QVERIFY(run_sql(file(), "UPDATE meta SET value = '5' WHERE name = 'schema_version'").isValid());
         const std::string before = read_file(file());
         const std::string problem =
             "The database " + file() +
-            " was written by a newer program (its schema is 4, this program knows up to 3). It is "
+            " was written by a newer program (its schema is 5, this program knows up to 4). It is "
             "left as it is.";
 
         expect_warning("was written by a newer program");
@@ -146,7 +153,7 @@ private slots:
         QVERIFY(!m_store->remove_device(FAMILY, ACTIVE_SERIAL, "A"));
         QCOMPARE(read_file(file()), before);
 
-        QVERIFY(run_sql(file(), "UPDATE meta SET value = '3' WHERE name = 'schema_version'").isValid());
+        QVERIFY(run_sql(file(), "UPDATE meta SET value = '4' WHERE name = 'schema_version'").isValid());
         QCOMPARE(m_store->get_problem(), std::string());
         QCOMPARE(m_store->get_device_names(FAMILY, ACTIVE_SERIAL), NAMES{"A"});
     }

@@ -294,7 +294,9 @@ private slots:
             run_sql(m_place->db_file(),
                     copy + std::to_string(id) + ", " + (from[0] == 't' ? "1" : "0") +
                         ", 'replaced', strftime('%Y-%m-%dT%H:%M:%SZ', 'now', '-" + std::to_string(days) + " days')" +
-                        columns + (from[0] == 't' ? "lower(template_name) FROM " : "lower(name) FROM ") + from);
+                        columns +
+                        (from[0] == 't' ? "lower(template_name), saved_by FROM " : "lower(name), saved_by FROM ") +
+                        from);
         };
         add(1, 50, "device WHERE name = 'Mine' AND scheme = 7");
         add(2, 30, "device WHERE name = 'Mine' AND scheme = 7");

@@ -4,7 +4,8 @@
 //
 // data/schema_2.sqlite was made by the program of schema 2: devices of every kind of scheme, both flow variants, odd
 // texts, templates, a history, and flows that cannot be read. The files beside it are what that program exported of it,
-// and its history as records (null where flows cannot be read).
+// and its history as records (null where flows cannot be read). data/schema_3.sqlite is the same database after the
+// program of schema 3 has upgraded it.
 #include "exchange/gfpdb_record_json.h"
 #include "test_rows.h"
 
@@ -61,7 +62,7 @@ class TEST_CLI_OLD_DATABASES : public QObject
     Q_OBJECT
 
 private slots:
-    void nothing_of_an_old_database_is_lost_data() { rows<int>({{"schema 1", 1}, {"schema 2", 2}}); }
+    void nothing_of_an_old_database_is_lost_data() { rows<int>({{"schema 1", 1}, {"schema 2", 2}, {"schema 3", 3}}); }
 
     void nothing_of_an_old_database_is_lost()
     {
@@ -78,7 +79,7 @@ private slots:
         QCOMPARE(history_of_store(), text_of_file(data_file("schema_2_history.json")).toStdString());
         const QString version =
             run_sql(place.db_file(), "SELECT value FROM meta WHERE name = 'schema_version'").toString();
-        QCOMPARE(version, QStringLiteral("3"));
+        QCOMPARE(version, QStringLiteral("4"));
     }
 
     void flows_that_cannot_be_read_stay_as_they_are()
@@ -144,7 +145,7 @@ private slots:
 private:
     void make_database(const GFPDB_PLACE& place, int schema)
     {
-        QVERIFY(QFile::copy(data_file("schema_2.sqlite"), q(place.db_file())));
+        QVERIFY(QFile::copy(data_file(schema < 3 ? "schema_2.sqlite" : "schema_3.sqlite"), q(place.db_file())));
         QVERIFY(QFile::setPermissions(q(place.db_file()), QFile::ReadOwner | QFile::WriteOwner));
         if (schema == 1) {
             for (const std::string& statement : TO_SCHEMA_1)

@@ -63,7 +63,8 @@ public:
     // Reads the whole file and compares it with its indexes.
     bool check_integrity();
 
-    // Stores the records of the plan, all or none. `progress` hears the number of records that are done.
+    // Stores the records of the plan, all or none. `progress` hears the number of records that are done. Refused when
+    // someone else has changed one of them since the plan was made: make another plan then.
     bool import(const GFPDB_IMPORT_PLAN& plan, const std::function<void(int)>& progress);
 
     // The states in the history, oldest first, without their flows; and one of them, with its flows.

@@ -91,6 +91,9 @@ public:
 
     const std::vector<GFPDB_ROW>& devices() const { return m_devices; }
     const std::vector<GFPDB_ROW>& templates() const { return m_templates; }
+    // The revisions of what they replace, in the same order; empty for a new record.
+    const std::vector<std::string>& replaced_devices() const { return m_replaced_devices; }
+    const std::vector<std::string>& replaced_templates() const { return m_replaced_templates; }
     int new_count() const { return m_new; }
     int replaced_count() const { return m_replaced; }
     int unchanged_count() const { return m_unchanged; }
@@ -108,6 +111,8 @@ private:
     const GFPDB_RECORD_RULES m_rules;
     std::vector<GFPDB_ROW> m_devices;
     std::vector<GFPDB_ROW> m_templates;
+    std::vector<std::string> m_replaced_devices;
+    std::vector<std::string> m_replaced_templates;
     int m_new = 0;
     int m_replaced = 0;
     int m_unchanged = 0;

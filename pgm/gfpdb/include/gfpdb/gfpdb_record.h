@@ -27,6 +27,10 @@ struct GFPDB_ROW
     std::string quad_flows;
     // Another text with every save.
     std::string revision;
+    // When it was saved, UTC, as "2024-05-17T09:30:00Z"; and the user and machine that saved it, empty where a former
+    // version did. The store's own: not a part of record files, and what a save is given of them does not count.
+    std::string saved_at;
+    std::string saved_by;
 };
 
 // A device or a stored template.

@@ -58,6 +58,10 @@ const std::vector<MIGRATION> MIGRATIONS = {
     // Flows are kept as in files, see convert_rows().
     {{"ALTER TABLE history ADD COLUMN name_key TEXT NOT NULL DEFAULT ''"},
      {"CREATE INDEX history_names ON history (name_key)"}},
+    {{"ALTER TABLE device ADD COLUMN saved_by TEXT NOT NULL DEFAULT ''",
+      "ALTER TABLE template ADD COLUMN saved_by TEXT NOT NULL DEFAULT ''",
+      "ALTER TABLE history ADD COLUMN saved_by TEXT NOT NULL DEFAULT ''"},
+     {}},
 };
 
 // How the rows of a table get the flows of schema 3, and those of the history the key of their name.

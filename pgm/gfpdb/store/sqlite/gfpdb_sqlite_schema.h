@@ -22,7 +22,7 @@ class QSqlQuery;
 class GFPDB_SQLITE_SCHEMA
 {
 public:
-    static constexpr int VERSION = 3;
+    static constexpr int VERSION = 4;
 
     // `connection` outlives this object.
     explicit GFPDB_SQLITE_SCHEMA(GFPDB_SQLITE_CONNECTION& connection);

@@ -13,9 +13,10 @@
 
 namespace {
 
-// What is stored beside the fields; a reader has no use for the time.
-constexpr char REVISION[] = "revision";
-constexpr char SAVED_AT[] = "saved_at";
+// What is stored beside the fields.
+constexpr char STAMP[] = "revision, saved_at, saved_by";
+constexpr char STAMP_BEFORE_SAVED_BY[] = "revision, saved_at, ''";
+constexpr int STAMP_COLUMNS = 3;
 
 template <typename VALUE>
 void read(const QSqlQuery& query, int column, VALUE& value)
@@ -26,9 +27,9 @@ void read(const QSqlQuery& query, int column, VALUE& value)
         value = query.value(column).toInt();
 }
 
-std::string selection(bool with_flows)
+std::string selection(int schema, bool with_flows)
 {
-    std::string selected = REVISION;
+    std::string selected = schema < GFPDB_SAVED_BY_SCHEMA ? STAMP_BEFORE_SAVED_BY : STAMP;
     for (const std::string& key : gfpdb_field_keys(with_flows))
         selected += gfpdb_field(key)->is_text() ? ", CAST(" + key + " AS BLOB)" : ", " + key;
     return selected;
@@ -38,10 +39,12 @@ GFPDB_ROW record_at(const QSqlQuery& query, int first, bool with_flows)
 {
     GFPDB_ROW row;
     row.revision = GFPDB_SQL::text_at(query, first);
-    int column = first;
+    row.saved_at = GFPDB_SQL::text_at(query, first + 1);
+    row.saved_by = GFPDB_SQL::text_at(query, first + 2);
+    int column = first + STAMP_COLUMNS;
     for (const GFPDB_FIELD& field : gfpdb_fields()) {
         if (with_flows || field.kind != GFPDB_FIELD_KIND::FLOWS)
-            field.in(row, [&query, at = ++column](auto& value) { read(query, at, value); });
+            field.in(row, [&query, at = column++](auto& value) { read(query, at, value); });
     }
     return row;
 }
@@ -52,7 +55,7 @@ namespace GFPDB_SQL {
 
 const std::string& columns()
 {
-    static const std::string COLUMNS = gfpdb_joined(gfpdb_field_keys(true)) + ", " + REVISION + ", " + SAVED_AT;
+    static const std::string COLUMNS = gfpdb_joined(gfpdb_field_keys(true)) + ", " + STAMP;
     return COLUMNS;
 }
 
@@ -61,7 +64,7 @@ std::string insertion(const std::string& table, const std::string& key)
     std::string statement = "INSERT INTO " + table + " (" + key + ", " + columns() + ") VALUES (CAST(? AS TEXT)";
     for (const GFPDB_FIELD& field : gfpdb_fields())
         statement += field.is_text() ? ", CAST(? AS TEXT)" : ", ?";
-    return statement + ", ?, ?)";
+    return statement + ", ?, ?, ?)";
 }
 
 QVariantList values_of(const GFPDB_ROW& row)
@@ -71,19 +74,17 @@ QVariantList values_of(const GFPDB_ROW& row)
         const QByteArray bytes = bytes_of(field.text(row));
         values << (field.is_text() ? QVariant(bytes) : bytes.isEmpty() ? QVariant(QVariant::Int) : bytes.toInt());
     }
-    return values << gfpdb_from_utf8(row.revision) << now();
+    return values << gfpdb_from_utf8(row.revision) << now() << here();
 }
 
-const std::string& scalars_read()
+std::string scalars_read(int schema)
 {
-    static const std::string SCALARS = selection(false);
-    return SCALARS;
+    return selection(schema, false);
 }
 
-const std::string& all_read()
+std::string all_read(int schema)
 {
-    static const std::string ALL = selection(true);
-    return ALL;
+    return selection(schema, true);
 }
 
 GFPDB_ROW scalars_at(const QSqlQuery& query, int first)

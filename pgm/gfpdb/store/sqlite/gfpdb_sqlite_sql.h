@@ -3,9 +3,9 @@
 // What the parts of GFPDB_SQLITE_STORE that deal with records share: pieces of statements, and values for and from
 // them.
 //
-// The columns are the fields of a record (gfpdb_field.h), the revision and the time: texts go in as CAST(? AS TEXT) and
-// come out as CAST(... AS BLOB), bytes as they are, where a conversion to UTF-16 and back would drop byte order marks
-// and replace some characters. Included by those sources only.
+// The columns are the fields of a record (gfpdb_field.h), the revision, who saved it and when: texts go in as CAST(? AS
+// TEXT) and come out as CAST(... AS BLOB), bytes as they are, where a conversion to UTF-16 and back would drop byte
+// order marks and replace some characters. Included by those sources only.
 #pragma once
 
 #include "model/gfpdb_row.h"
@@ -25,6 +25,8 @@ class QSqlQuery;
 constexpr int GFPDB_CHANGED_BY_SCHEMA = 2;
 // The first schema whose flows are texts of gfpdb_flow_text.h, and whose history has keys.
 constexpr int GFPDB_FLOW_TEXT_SCHEMA = 3;
+// The first schema whose records have saved_by.
+constexpr int GFPDB_SAVED_BY_SCHEMA = 4;
 
 // The highest number that a state of the history was ever given; 0 before the first. Users name states by their
 // numbers: those of removed states are not given again, so meta has what was the highest when states were last removed.
@@ -48,9 +50,10 @@ const std::string& columns();
 std::string insertion(const std::string& table, const std::string& key);
 QVariantList values_of(const GFPDB_ROW& row);
 
-// What is selected of a record, without its flows or with them; and the record in such columns from `first` on.
-const std::string& scalars_read();
-const std::string& all_read();
+// What is selected of a record, without its flows or with them, from a file of that schema; and the record in such
+// columns from `first` on.
+std::string scalars_read(int schema);
+std::string all_read(int schema);
 GFPDB_ROW scalars_at(const QSqlQuery& query, int first);
 GFPDB_ROW row_at(const QSqlQuery& query, int first);
 

@@ -86,7 +86,13 @@ std::function<void(int, int)>& gfpdb_upgrade_progress()
 
 bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values)
 {
-    return m_file.prepare_read() && (prepare(query, statement, values) || m_file.note_read_problem());
+    return m_file.prepare_read() && go_on_reading(query, statement, values);
+}
+
+// After prepare_read(), which a statement that depends on the file's schema is made after.
+bool GFPDB_SQLITE_STORE::go_on_reading(QSqlQuery& query, const std::string& statement, const QVariantList& values)
+{
+    return prepare(query, statement, values) || m_file.note_read_problem();
 }
 
 // The next row of `query`, which is run when it has no row yet; false at the end and, with the problem kept, on
@@ -234,10 +240,10 @@ std::vector<std::string> GFPDB_SQLITE_STORE::find_device_keys(int family, int sc
 std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
-    if (!start_read(query,
-                    "SELECT " + all_read() +
-                        " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-                    {family, scheme, key_of(name)}))
+    if (!m_file.prepare_read() ||
+        !go_on_reading(
+            query, "SELECT " + all() + " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
+            {family, scheme, key_of(name)}))
         return std::nullopt;
     return next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
 }
@@ -245,8 +251,9 @@ std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme,
 std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_template(const std::string& template_name)
 {
     QSqlQuery query;
-    if (!start_read(query, "SELECT " + all_read() + " FROM template WHERE template_key = CAST(? AS TEXT)",
-                    {key_of(template_name)}))
+    if (!m_file.prepare_read() ||
+        !go_on_reading(query, "SELECT " + all() + " FROM template WHERE template_key = CAST(? AS TEXT)",
+                       {key_of(template_name)}))
         return std::nullopt;
     return next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
 }
@@ -278,18 +285,21 @@ bool GFPDB_SQLITE_STORE::has_device(const std::string& name)
            next_row(query);
 }
 
-bool GFPDB_SQLITE_STORE::remove_template(const std::string& template_name)
+bool GFPDB_SQLITE_STORE::remove_template(const std::string& template_name, std::string* seen)
 {
     if (!m_file.prepare_write())
         return false;
-    return m_file.is_missing() || m_file.change([&] { return drop_template(template_name, GFPDB_REASON_DELETED); });
+    return m_file.is_missing() || m_file.change([&] {
+        return check_seen_to_remove({true, 0, -1, template_name}, seen) &&
+               drop_template(template_name, GFPDB_REASON_DELETED);
+    });
 }
 
-std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const std::string& statement)
+std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const std::string& from)
 {
     std::vector<GFPDB_ROW> rows;
     QSqlQuery query;
-    if (!start_read(query, statement))
+    if (!m_file.prepare_read() || !go_on_reading(query, "SELECT " + scalars() + from))
         return rows;
     while (next_row(query))
         rows.push_back(scalars_at(query, 0));
@@ -298,28 +308,28 @@ std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const std::string& statemen
 
 std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::get_devices()
 {
-    return read_rows("SELECT " + scalars_read() + " FROM device ORDER BY family, scheme, name_key");
+    return read_rows(" FROM device ORDER BY family, scheme, name_key");
 }
 
 std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::get_templates()
 {
-    return read_rows("SELECT " + scalars_read() + " FROM template ORDER BY template_key");
+    return read_rows(" FROM template ORDER BY template_key");
 }
 
 // The devices first: then a name that is used twice within what is saved is found by the templates.
 bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                                  const std::function<void(int)>& progress)
+                                  const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen)
 {
     forget_used_values();
     return m_file.prepare_write() && m_file.change([&] {
         int done = 0;
-        for (const GFPDB_ROW& row : devices) {
-            if (!replace_device(row))
+        for (std::size_t i = 0; i < devices.size(); ++i) {
+            if (!replace_device(devices[i], seen != nullptr ? &seen->devices[i] : nullptr))
                 return false;
             progress(++done);
         }
-        for (const GFPDB_ROW& row : templates) {
-            if (!replace_template(row))
+        for (std::size_t i = 0; i < templates.size(); ++i) {
+            if (!replace_template(templates[i], seen != nullptr ? &seen->templates[i] : nullptr))
                 return false;
             progress(++done);
         }
@@ -327,16 +337,23 @@ bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const s
     });
 }
 
-bool GFPDB_SQLITE_STORE::replace_device(const GFPDB_ROW& row)
+// What was seen to be absent, and still is, needs no removal.
+bool GFPDB_SQLITE_STORE::replace_device(const GFPDB_ROW& row, const std::string* seen)
 {
-    return check_no_template(row.name) && drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED) &&
-           insert_device(row);
+    std::string state = seen != nullptr ? *seen : std::string();
+    const bool is_new = seen != nullptr && seen->empty();
+    return check_no_template(row.name) &&
+           check_seen({false, row.family, row.scheme, row.name}, seen != nullptr ? &state : nullptr) &&
+           (is_new || drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED)) && insert_device(row);
 }
 
-bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row)
+bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row, const std::string* seen)
 {
-    return check_no_device(row.template_name) && drop_template(row.template_name, GFPDB_REASON_REPLACED) &&
-           insert_template(row);
+    std::string state = seen != nullptr ? *seen : std::string();
+    const bool is_new = seen != nullptr && seen->empty();
+    return check_no_device(row.template_name) &&
+           check_seen({true, 0, -1, row.template_name}, seen != nullptr ? &state : nullptr) &&
+           (is_new || drop_template(row.template_name, GFPDB_REASON_REPLACED)) && insert_template(row);
 }
 
 // A read-only file of an older schema is read as it is.
@@ -355,8 +372,8 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history(const std::stri
         return entries;
     const bool is_keyed = !name.empty() && m_file.schema_version() >= GFPDB_FLOW_TEXT_SCHEMA;
     const std::string statement =
-        history_statement(scalars_read(), is_keyed ? "WHERE name_key = CAST(? AS TEXT) ORDER BY id" : "ORDER BY id");
-    if (!start_read(query, statement, is_keyed ? QVariantList{key_of(name)} : QVariantList()))
+        history_statement(scalars(), is_keyed ? "WHERE name_key = CAST(? AS TEXT) ORDER BY id" : "ORDER BY id");
+    if (!go_on_reading(query, statement, is_keyed ? QVariantList{key_of(name)} : QVariantList()))
         return entries;
     const std::string key = gfpdb_name_key(name);
     while (next_row(query)) {
@@ -372,7 +389,7 @@ std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t
 {
     QSqlQuery query;
     if (!m_file.prepare_read() ||
-        !start_read(query, history_statement(all_read(), "WHERE id = ?"), {static_cast<qlonglong>(id)}) ||
+        !go_on_reading(query, history_statement(all(), "WHERE id = ?"), {static_cast<qlonglong>(id)}) ||
         !next_row(query))
         return std::nullopt;
     GFPDB_HISTORY_ENTRY entry = history_at(query);
@@ -380,7 +397,7 @@ std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t
     return entry;
 }
 
-bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name)
+bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string* seen)
 {
     const std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
     if (!entry)
@@ -392,24 +409,26 @@ bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::
     forget_used_values();
     return m_file.prepare_write() && m_file.change([&] {
         return check_different_names(row) &&
-               (entry->is_template ? put_back_template(row, how) : put_back_device(row, how));
+               (entry->is_template ? put_back_template(row, how, seen) : put_back_device(row, how, seen));
     });
 }
 
-bool GFPDB_SQLITE_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how)
+bool GFPDB_SQLITE_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen)
 {
     if (!check_no_template(row.name))
         return false;
     if (how == GFPDB_RESTORE_REPLACE)
-        return drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED) && insert_device(row);
+        return check_seen({false, row.family, row.scheme, row.name}, seen) &&
+               drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED) && insert_device(row);
     return check_no_such_device(row.family, row.scheme, row.name) && insert_device(row);
 }
 
-bool GFPDB_SQLITE_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how)
+bool GFPDB_SQLITE_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen)
 {
     if (!check_no_device(row.template_name))
         return false;
-    const bool is_free = how == GFPDB_RESTORE_REPLACE ? drop_template(row.template_name, GFPDB_REASON_REPLACED)
+    const bool is_free = how == GFPDB_RESTORE_REPLACE ? check_seen({true, 0, -1, row.template_name}, seen) &&
+                                                            drop_template(row.template_name, GFPDB_REASON_REPLACED)
                                                       : check_no_template(row.template_name);
     return is_free && insert_template(row);
 }

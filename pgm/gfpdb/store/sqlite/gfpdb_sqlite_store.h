@@ -3,14 +3,25 @@
 // The store in a SQLite file of the database directory: the SQL of records, templates and the history.
 #pragma once
 
+#include "store/gfpdb_seen.h"
 #include "store/gfpdb_store.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
+#include "store/sqlite/gfpdb_sqlite_sql.h"
 
 #include <QVariant>
 
 #include <map>
 
 class QSqlQuery;
+
+// Where a record is: of a template, the name alone.
+struct GFPDB_RECORD_PLACE
+{
+    bool is_template = false;
+    int family = 0;
+    int scheme = -1;
+    std::string name;
+};
 
 class GFPDB_SQLITE_STORE final : public GFPDB_STORE
 {
@@ -40,18 +51,21 @@ public:
     std::vector<std::string> find_device_keys(int family, int scheme, const std::vector<std::string>& keys) override;
     std::string get_device_revision(int family, int scheme, const std::string& name) override;
     std::string get_template_revision(const std::string& template_name) override;
+    bool check_seen_device(int family, int scheme, const std::string& name, std::string& seen) override;
     bool has_device(const std::string& name) override;
-    std::optional<std::string> save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, bool is_new_name) override;
-    bool remove_device(int family, int scheme, const std::string& name, std::optional<GFPDB_TAKEN>* taken) override;
+    std::optional<std::string> save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, bool is_new_name,
+                                           std::string* seen) override;
+    bool remove_device(int family, int scheme, const std::string& name, std::optional<GFPDB_TAKEN>* taken,
+                       std::string* seen) override;
     bool undo_removal(const GFPDB_TAKEN& taken) override;
-    bool remove_template(const std::string& template_name) override;
+    bool remove_template(const std::string& template_name, std::string* seen) override;
     std::vector<GFPDB_ROW> get_devices() override;
     std::vector<GFPDB_ROW> get_templates() override;
     bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                  const std::function<void(int)>& progress) override;
+                  const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen) override;
     std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name) override;
     std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) override;
-    bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name) override;
+    bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string* seen) override;
     std::optional<int> prune_history(const GFPDB_PRUNING& pruning) override;
     std::vector<GFPDB_MISPLACED> get_misplaced() override;
     std::optional<int> rebuild_keys() override;
@@ -69,15 +83,19 @@ private:
     bool read_used_values(const std::vector<int>& schemes, GFPDB_USED_VALUES& values);
     void note_used_values(const GFPDB_ROW& row);
     void forget_used_values();
+    // What is selected of a record of the open file, see GFPDB_SQL.
+    std::string scalars() const { return GFPDB_SQL::scalars_read(m_file.schema_version()); }
+    std::string all() const { return GFPDB_SQL::all_read(m_file.schema_version()); }
     bool start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values = {});
+    bool go_on_reading(QSqlQuery& query, const std::string& statement, const QVariantList& values = {});
     bool next_row(QSqlQuery& query);
     std::vector<std::string> read_names(QSqlQuery& query);
     std::string read_text(const std::string& statement, const QVariantList& values);
-    std::vector<GFPDB_ROW> read_rows(const std::string& statement);
-    bool replace_device(const GFPDB_ROW& row);
-    bool replace_template(const GFPDB_ROW& row);
-    bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how);
-    bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how);
+    std::vector<GFPDB_ROW> read_rows(const std::string& from);
+    bool replace_device(const GFPDB_ROW& row, const std::string* seen);
+    bool replace_template(const GFPDB_ROW& row, const std::string* seen);
+    bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
+    bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
     bool finds_none(QSqlQuery& query, const char* what, const std::string& name);
     std::string history_statement(const std::string& columns, const char* which) const;
     GFPDB_ROW full_row(const QSqlQuery& query, int first) const;
@@ -92,6 +110,13 @@ private:
     bool drop_device(int family, int scheme, const std::string& name, const char* reason,
                      std::int64_t* history_id = nullptr);
     bool drop_template(const std::string& template_name, const char* reason);
+
+    // gfpdb_sqlite_store_seen.cpp: what was seen of a record against what is stored.
+    bool find_state(const GFPDB_RECORD_PLACE& place, GFPDB_FOUND& found);
+    bool find_last_change(const GFPDB_RECORD_PLACE& place, GFPDB_FOUND& found);
+    bool check_seen(const GFPDB_RECORD_PLACE& place, std::string& seen, const GFPDB_FOUND& found);
+    bool check_seen(const GFPDB_RECORD_PLACE& place, std::string* seen);
+    bool check_seen_to_remove(const GFPDB_RECORD_PLACE& place, std::string* seen);
 
     // gfpdb_sqlite_store_apply.cpp: saving and removing one device.
     bool read_revision(GFPDB_TAKEN& taken);

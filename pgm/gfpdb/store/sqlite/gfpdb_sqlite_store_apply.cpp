@@ -12,16 +12,19 @@
 using namespace GFPDB_SQL;
 
 std::optional<std::string> GFPDB_SQLITE_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken,
-                                                           bool is_new_name)
+                                                           bool is_new_name, std::string* seen)
 {
     std::string revision;
     const auto work = [&] {
-        return check_free_names(row) && (!is_new_name || check_no_such_device(row.family, row.scheme, row.name)) &&
+        return check_seen({false, row.family, row.scheme, row.name}, seen) && check_free_names(row) &&
+               (!is_new_name || check_no_such_device(row.family, row.scheme, row.name)) &&
                save_over(row, taken, revision) && save_template(row);
     };
     if (!m_file.prepare_write() || !m_file.change(work))
         return std::nullopt;
     note_used_values(row);
+    if (seen != nullptr)
+        *seen = revision;
     return revision;
 }
 
@@ -30,7 +33,7 @@ std::optional<std::string> GFPDB_SQLITE_STORE::save_device(const GFPDB_ROW& row,
 bool GFPDB_SQLITE_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision)
 {
     const std::string device =
-        "SELECT " + all_read() + " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+        "SELECT " + all() + " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
     std::optional<GFPDB_ROW> former;
     if (!look_up(device, {row.family, row.scheme, key_of(row.name)}, former))
         return false;
@@ -52,8 +55,8 @@ bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
     if (row.template_name.empty())
         return true;
     std::optional<GFPDB_ROW> former;
-    if (!look_up("SELECT " + all_read() + " FROM template WHERE template_key = CAST(? AS TEXT)",
-                 {key_of(row.template_name)}, former))
+    if (!look_up("SELECT " + all() + " FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(row.template_name)},
+                 former))
         return false;
     if (former && gfpdb_is_same_state(*former, row))
         return true;
@@ -62,7 +65,7 @@ bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
 
 // Nothing is made just to remove something from it.
 bool GFPDB_SQLITE_STORE::remove_device(int family, int scheme, const std::string& name,
-                                       std::optional<GFPDB_TAKEN>* taken)
+                                       std::optional<GFPDB_TAKEN>* taken, std::string* seen)
 {
     if (!m_file.prepare_write())
         return false;
@@ -70,13 +73,16 @@ bool GFPDB_SQLITE_STORE::remove_device(int family, int scheme, const std::string
         return true;
     GFPDB_TAKEN removed{std::string(), 0, family, scheme, name, std::string()};
     const auto work = [&] {
-        return drop_device(family, scheme, name, GFPDB_REASON_DELETED, &removed.history_id) && read_revision(removed);
+        return check_seen_to_remove({false, family, scheme, name}, seen) &&
+               drop_device(family, scheme, name, GFPDB_REASON_DELETED, &removed.history_id) && read_revision(removed);
     };
     if (!m_file.change(work))
         return false;
     removed.database_id = m_file.database_id();
     if (taken != nullptr && removed.history_id != 0)
         *taken = removed;
+    if (seen != nullptr && removed.history_id != 0)
+        seen->clear();
     return true;
 }
 
@@ -108,7 +114,7 @@ bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
 
 bool GFPDB_SQLITE_STORE::find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row)
 {
-    return look_up("SELECT " + all_read() + " FROM history " GFPDB_WHERE_TAKEN,
+    return look_up("SELECT " + all() + " FROM history " GFPDB_WHERE_TAKEN,
                    {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}, row);
 }
 
