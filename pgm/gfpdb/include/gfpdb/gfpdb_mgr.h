@@ -65,6 +65,10 @@ public:
     // the save fails it is put back, and get_last_error() says so if that fails too. After such a delete_flash() only
     // the device whose deletion was asked for is replaced: when another one has the name of `flash`, the save is
     // refused.
+    //
+    // This and each other change of a record that someone else has changed since it was read here is refused once, and
+    // get_last_error() says who changed it and when. The checks of the name and the device ID that precede a save say
+    // so as well.
     virtual bool save_flash(GFPDB_FLASH* flash, const std::string& directory) = 0;
     // Removes the device `name` from the database in `directory`; its state goes into the history, and is back if the
     // very next call is a save_flash() that fails. True also when there is no such device. False: the database is as it
