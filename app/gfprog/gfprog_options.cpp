@@ -24,7 +24,7 @@ void gfprog_add_target_options(QCommandLineParser& parser)
 {
     parser.addOption(option(GFPROG_OPTION_ON,
                             "The connection: emulated, emulated:FILE, tcp:HOST:PORT, serial:DEVICE or "
-                            "serial:DEVICE@BAUD.",
+                            "serial:DEVICE@BAUD; behind the last three, ,clock=HERTZ sets the programmer's clock.",
                             "connection"));
     parser.addOption(option(GFPROG_OPTION_DEVICE,
                             "The device: one of the directory, or a built-in one. By default the one that is detected.",

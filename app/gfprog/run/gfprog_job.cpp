@@ -241,7 +241,8 @@ int SESSION::run()
     const bool good = finish_files();
     take_notes();
     const int exit_code = report();
-    return good || exit_code != CLI_EXIT_OK ? exit_code : m_exit_code;
+    const bool has_passed = exit_code == CLI_EXIT_OK || exit_code == GFPROG_EXIT_NOTED;
+    return good || !has_passed ? exit_code : m_exit_code;
 }
 
 void SESSION::take_notes()

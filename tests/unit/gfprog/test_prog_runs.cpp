@@ -252,6 +252,15 @@ private slots:
         QCOMPARE(object(run).value("verdict").toString(), QString("passed"));
     }
 
+    void a_file_that_cannot_be_written_is_worse_than_a_note()
+    {
+        store_changed_part("A", {{"\"0x04\"", "\"0x77\""}}, "XM25QH256C");
+        QVERIFY(QFile::link("/dev/full", at("t.csv")));
+        const TOOL_RUN run = prog({"erase", "--device", "a", "--trace", at("t.csv")});
+        QCOMPARE(run.exit_code, 4);
+        QVERIFY2(run.err.contains("The emulated chip notes: 77: "), run.err.constData());
+    }
+
     void a_file_is_not_read_and_written_data()
     {
         rows<QStringList>(
