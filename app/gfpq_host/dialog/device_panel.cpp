@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "dialog/device_panel.h"
 
+#include "dialog/choice_combo.h"
 #include "dialog/dialog_call.h"
 #include "dialog/module_loader.h"
 #include "program/host_database.h"
-
-#include "dstr/dstr.h"
-#include "words/gfpq_vocabulary.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -16,46 +14,17 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <vector>
 
 namespace {
 
 // Room for what most names and paths need.
 constexpr int FIELD_CHARACTERS = 28;
 
-QString scheme_text(int scheme)
-{
-    const bool is_known = scheme >= 0 && scheme < PGMIO_CONFIG_SCHEME_COUNT;
-    return is_known ? QString::fromUtf8(PGMIO_CONFIG_SCHEME_NAMES[scheme]) : QString::number(scheme);
-}
-
 QString device_text(const std::string& device_name)
 {
     return device_name.empty() ? DEVICE_PANEL::tr("none") : QString::fromLocal8Bit(device_name.c_str());
-}
-
-QString family_text(int family)
-{
-    return QString::fromStdString(dstr_get_user_string(family));
-}
-
-// Fills `combo` with `values`, sorted by their texts, and makes `current` the current one, which comes in when it is
-// not among them. No change is reported.
-void show_values(QComboBox* combo, std::vector<int> values, int current, QString (*text_of)(int value))
-{
-    const QSignalBlocker silence(combo);
-    if (std::find(values.begin(), values.end(), current) == values.end())
-        values.push_back(current);
-    combo->clear();
-    for (const int value : values)
-        combo->addItem(text_of(value), value);
-    combo->model()->sort(0);
-    combo->setCurrentIndex(combo->findData(current));
 }
 
 void show_text(QLineEdit* field, const QString& text)
@@ -83,13 +52,10 @@ DEVICE_PANEL::DEVICE_PANEL(MODULE_LOADER& module, const DIALOG_OPTIONS& options,
 
 DEVICE_PANEL::~DEVICE_PANEL() = default;
 
-// The names of families come from a file, so they do not change the size of the window.
 QComboBox* DEVICE_PANEL::add_combo(QFormLayout* rows, const QString& title, const QString& object_name)
 {
-    auto* combo = new QComboBox;
+    QComboBox* combo = make_narrow_combo();
     combo->setObjectName(object_name);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     rows->addRow(title, combo);
     return combo;
 }

@@ -113,6 +113,22 @@ std::vector<int> HOST_OFFER::schemes(int family) const
     return schemes;
 }
 
+std::vector<int> HOST_OFFER::schemes_with_flows(int family) const
+{
+    std::vector<int> offered = schemes(family);
+    const auto has_none = [](int scheme) { return !form_of(scheme).has_flows; };
+    offered.erase(std::remove_if(offered.begin(), offered.end(), has_none), offered.end());
+    return offered;
+}
+
+std::vector<int> HOST_OFFER::families_with_flows() const
+{
+    std::vector<int> offered = families();
+    const auto has_none = [this](int family) { return schemes_with_flows(family).empty(); };
+    offered.erase(std::remove_if(offered.begin(), offered.end(), has_none), offered.end());
+    return offered;
+}
+
 HOST_CHOICE HOST_OFFER::nearest(const HOST_CHOICE& wanted) const
 {
     HOST_CHOICE choice = wanted;

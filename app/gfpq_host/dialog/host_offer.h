@@ -22,6 +22,10 @@ public:
     std::vector<int> families() const;
     std::vector<int> schemes(int family) const;
 
+    // Those of them whose devices have flows; families without such a mode are left out.
+    std::vector<int> families_with_flows() const;
+    std::vector<int> schemes_with_flows(int family) const;
+
     // The choice that is offered and comes nearest to `wanted`: its family if that is offered; of that family its mode,
     // else one of the same kind, else one that has devices. The device stays as it is, and so does the choice when
     // nothing is offered.

@@ -1,29 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "programmer/detected_dialog.h"
 
-#include "dstr/dstr.h"
-#include "words/gfpq_vocabulary.h"
+#include "dialog/choice_combo.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-namespace {
-
-// A built-in device is of no family, a stored one of one.
-QString text_of(const GFPDB_RECORD& device)
-{
-    QString name = QString::fromStdString(device.row.name);
-    if (device.row.scheme < 0 || device.row.scheme >= PGMIO_CONFIG_SCHEME_COUNT)
-        return name;
-    return QStringLiteral("%1 (%2, %3)")
-        .arg(name, QString::fromStdString(dstr_get_user_string(device.row.family)),
-             QString::fromUtf8(PGMIO_CONFIG_SCHEME_NAMES[device.row.scheme]));
-}
-
-} // namespace
 
 DETECTED_DIALOG::DETECTED_DIALOG(QWidget* parent, const QString& id, const std::vector<GFPDB_RECORD>& devices,
                                  const std::string& current)
@@ -36,7 +20,7 @@ DETECTED_DIALOG::DETECTED_DIALOG(QWidget* parent, const QString& id, const std::
     label->setWordWrap(true);
     m_list->setObjectName(QStringLiteral("m_detected_list"));
     for (const GFPDB_RECORD& device : devices) {
-        m_list->addItem(text_of(device));
+        m_list->addItem(device_title(device));
         if (device.row.name == current)
             m_list->setCurrentRow(m_list->count() - 1);
     }
