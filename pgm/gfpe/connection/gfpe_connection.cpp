@@ -151,7 +151,8 @@ std::optional<GFPE_CONNECTION> gfpe_parse_connection(const std::string& text, st
 }
 
 std::unique_ptr<GFPE_BUS> gfpe_open_connection(const GFPE_CONNECTION& connection, const GFPDB_RECORD* record,
-                                               std::string& problem, GFPE_CHIP** chip)
+                                               std::string& problem, GFPE_CHIP** chip,
+                                               const std::atomic<bool>* given_up)
 {
     if (chip)
         *chip = nullptr;
@@ -159,9 +160,9 @@ std::unique_ptr<GFPE_BUS> gfpe_open_connection(const GFPE_CONNECTION& connection
     case GFPE_CONNECTION::EMULATED:
         return open_emulated(connection, record, problem, chip);
     case GFPE_CONNECTION::TCP:
-        return gfpe_serprog_over_tcp(connection.host, connection.port, connection.clock, problem);
+        return gfpe_serprog_over_tcp(connection.host, connection.port, connection.clock, problem, given_up);
     case GFPE_CONNECTION::SERIAL:
         break;
     }
-    return gfpe_serprog_over_line(connection.device, connection.baud, connection.clock, problem);
+    return gfpe_serprog_over_line(connection.device, connection.baud, connection.clock, problem, given_up);
 }

@@ -3,13 +3,16 @@
 
 #include "gfpdb/gfpdb_text.h"
 
+#include <QEventLoop>
 #include <QFile>
 #include <QSerialPort>
 #include <QTcpSocket>
+#include <QTimer>
 
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <climits>
 #include <cstring>
 #include <poll.h>
 #include <sys/socket.h>
@@ -29,8 +32,8 @@ std::string utf8(const std::string& local)
 class DESCRIPTOR_LINE : public GFPE_LINE
 {
 public:
-    DESCRIPTOR_LINE(int descriptor, bool is_socket, std::unique_ptr<QObject> owner)
-        : m_descriptor(descriptor), m_is_socket(is_socket), m_owner(std::move(owner))
+    DESCRIPTOR_LINE(int descriptor, bool is_socket, const std::atomic<bool>* given_up, std::unique_ptr<QObject> owner)
+        : m_descriptor(descriptor), m_is_socket(is_socket), m_given_up(given_up), m_owner(std::move(owner))
     {
         if (m_owner)
             m_owner->moveToThread(nullptr);
@@ -82,12 +85,21 @@ private:
         }
     }
 
-    // As poll().
+    // As poll(); ECANCELED when it was given up.
     int wait_for(short event, CLOCK::time_point end) const
     {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - CLOCK::now()).count();
-        pollfd entry = {m_descriptor, event, 0};
-        return ::poll(&entry, 1, std::max(0, static_cast<int>(left)));
+        for (;;) {
+            if (m_given_up && *m_given_up) {
+                errno = ECANCELED;
+                return -1;
+            }
+            const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - CLOCK::now()).count();
+            const int most = m_given_up ? GFPE_LINE_CHECK_MS : INT_MAX;
+            pollfd entry = {m_descriptor, event, 0};
+            const int ready = ::poll(&entry, 1, static_cast<int>(std::clamp<std::int64_t>(left, 0, most)));
+            if (ready != 0 || left <= most)
+                return ready;
+        }
     }
 
     // 0 for an end that the other side made.
@@ -99,18 +111,42 @@ private:
 
     const int m_descriptor;
     const bool m_is_socket;
+    const std::atomic<bool>* const m_given_up;
     // Closes the descriptor; null when this does.
     const std::unique_ptr<QObject> m_owner;
     std::string m_problem;
 };
 
+// As QTcpSocket::waitForConnected(), which cannot be interrupted.
+bool wait_for_connection(QTcpSocket& socket, int milliseconds, const std::atomic<bool>* given_up)
+{
+    if (!given_up)
+        return socket.waitForConnected(milliseconds);
+    QEventLoop loop;
+    QTimer check;
+    QObject::connect(&socket, &QTcpSocket::stateChanged, &loop, &QEventLoop::quit);
+    QObject::connect(&check, &QTimer::timeout, &loop, &QEventLoop::quit);
+    check.start(GFPE_LINE_CHECK_MS);
+    const CLOCK::time_point end = CLOCK::now() + std::chrono::milliseconds(milliseconds);
+    const auto is_under_way = [&socket] {
+        return socket.state() == QAbstractSocket::HostLookupState || socket.state() == QAbstractSocket::ConnectingState;
+    };
+    while (is_under_way() && !*given_up && CLOCK::now() < end)
+        loop.exec();
+    // A failure has its own words.
+    if (is_under_way())
+        return socket.waitForConnected(0);
+    return socket.state() == QAbstractSocket::ConnectedState;
+}
+
 } // namespace
 
-std::unique_ptr<GFPE_LINE> gfpe_tcp_line(const std::string& host, int port, int milliseconds, std::string& problem)
+std::unique_ptr<GFPE_LINE> gfpe_tcp_line(const std::string& host, int port, int milliseconds,
+                                         const std::atomic<bool>* given_up, std::string& problem)
 {
     auto socket = std::make_unique<QTcpSocket>();
     socket->connectToHost(gfpdb_from_utf8(utf8(host)), static_cast<quint16>(port));
-    if (!socket->waitForConnected(milliseconds)) {
+    if (!wait_for_connection(*socket, milliseconds, given_up)) {
         problem = "The programmer at " + gfpdb_quoted(utf8(host)) + ", port " + std::to_string(port) +
                   " cannot be reached: " + gfpdb_to_utf8(socket->errorString()) + ".";
         return nullptr;
@@ -118,10 +154,11 @@ std::unique_ptr<GFPE_LINE> gfpe_tcp_line(const std::string& host, int port, int 
     // Commands are short, and each waits for its answer.
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     const int descriptor = static_cast<int>(socket->socketDescriptor());
-    return std::make_unique<DESCRIPTOR_LINE>(descriptor, true, std::move(socket));
+    return std::make_unique<DESCRIPTOR_LINE>(descriptor, true, given_up, std::move(socket));
 }
 
-std::unique_ptr<GFPE_LINE> gfpe_serial_line(const std::string& device, int baud, std::string& problem)
+std::unique_ptr<GFPE_LINE> gfpe_serial_line(const std::string& device, int baud, const std::atomic<bool>* given_up,
+                                            std::string& problem)
 {
     auto line = std::make_unique<QSerialPort>(QFile::decodeName(QByteArray::fromStdString(device)));
     if (!line->setBaudRate(baud) || !line->open(QIODevice::ReadWrite)) {
@@ -130,10 +167,10 @@ std::unique_ptr<GFPE_LINE> gfpe_serial_line(const std::string& device, int baud,
         return nullptr;
     }
     const int descriptor = line->handle();
-    return std::make_unique<DESCRIPTOR_LINE>(descriptor, false, std::move(line));
+    return std::make_unique<DESCRIPTOR_LINE>(descriptor, false, given_up, std::move(line));
 }
 
 std::unique_ptr<GFPE_LINE> gfpe_socket_line(int socket)
 {
-    return std::make_unique<DESCRIPTOR_LINE>(socket, true, nullptr);
+    return std::make_unique<DESCRIPTOR_LINE>(socket, true, nullptr, nullptr);
 }

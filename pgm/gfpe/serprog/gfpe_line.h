@@ -3,6 +3,7 @@
 // The two ends of a line: bytes there and back, within limits of time.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -38,8 +39,12 @@ protected:
 };
 
 // Connects, or opens a line, in local 8-bit texts. Null when it fails; `problem` says why, a sentence in UTF-8. Looking
-// a host up takes as long as the system has it.
-std::unique_ptr<GFPE_LINE> gfpe_tcp_line(const std::string& host, int port, int milliseconds, std::string& problem);
-std::unique_ptr<GFPE_LINE> gfpe_serial_line(const std::string& device, int baud, std::string& problem);
+// a host up takes as long as the system has it. Once `given_up`, which outlives the line, is true, the line counts as
+// lost within GFPE_LINE_CHECK_MS; null for a line that nobody gives up.
+constexpr int GFPE_LINE_CHECK_MS = 50;
+std::unique_ptr<GFPE_LINE> gfpe_tcp_line(const std::string& host, int port, int milliseconds,
+                                         const std::atomic<bool>* given_up, std::string& problem);
+std::unique_ptr<GFPE_LINE> gfpe_serial_line(const std::string& device, int baud, const std::atomic<bool>* given_up,
+                                            std::string& problem);
 // A connected socket that does not block; closed with the line.
 std::unique_ptr<GFPE_LINE> gfpe_socket_line(int socket);

@@ -35,14 +35,14 @@ GFPE_SERPROG_LIMITS gfpe_line_limits(int baud)
 }
 
 std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string& host, int port, std::int64_t clock,
-                                                std::string& problem)
+                                                std::string& problem, const std::atomic<bool>* given_up)
 {
     const GFPE_SERPROG_LIMITS limits;
-    return start(gfpe_tcp_line(host, port, limits.connect_ms, problem), limits, clock, problem);
+    return start(gfpe_tcp_line(host, port, limits.connect_ms, given_up, problem), limits, clock, problem);
 }
 
 std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& device, int baud, std::int64_t clock,
-                                                 std::string& problem)
+                                                 std::string& problem, const std::atomic<bool>* given_up)
 {
-    return start(gfpe_serial_line(device, baud, problem), gfpe_line_limits(baud), clock, problem);
+    return start(gfpe_serial_line(device, baud, given_up, problem), gfpe_line_limits(baud), clock, problem);
 }

@@ -8,6 +8,7 @@
 
 #include "gfpdb/gfpdb_record.h"
 
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,10 +42,12 @@ struct GFPE_CONNECTION
 GFPE_EXPORT std::optional<GFPE_CONNECTION> gfpe_parse_connection(const std::string& text, std::string& problem);
 
 // Opens a connection. An emulated chip is that of `record`, which may be null for all others. Null when it fails;
-// `problem` says why. `chip`, if given, is the emulated chip, or null: the same object as the result.
+// `problem` says why. `chip`, if given, is the emulated chip, or null: the same object as the result. `given_up` as for
+// gfpe_serprog_over_tcp().
 GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_open_connection(const GFPE_CONNECTION& connection,
                                                            const GFPDB_RECORD* record, std::string& problem,
-                                                           GFPE_CHIP** chip = nullptr);
+                                                           GFPE_CHIP** chip = nullptr,
+                                                           const std::atomic<bool>* given_up = nullptr);
 
 // The serial lines of this machine, as "/dev/ttyUSB0", with what is known of each, in UTF-8; empty for nothing.
 struct GFPE_PORT

@@ -6,6 +6,7 @@
 
 #include "gfpe/gfpe_bus.h"
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -14,11 +15,14 @@
 // A programmer behind a TCP connection or a serial line, in local 8-bit texts. Every call ends within the limits that
 // docs/programming.md gives. `clock` is in hertz; the programmer takes the next lower one that it has; 0 leaves its
 // own. Null when it cannot be reached or does not speak the protocol; `problem` says which, a sentence in UTF-8. The
-// connection is closed with the bus.
+// connection is closed with the bus. Once `given_up`, which outlives the bus, is true, the connection counts as lost: a
+// call ends within 50 ms. Null for a connection that nobody gives up.
 GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_tcp(const std::string& host, int port, std::int64_t clock,
-                                                            std::string& problem);
+                                                            std::string& problem,
+                                                            const std::atomic<bool>* given_up = nullptr);
 GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& device, int baud, std::int64_t clock,
-                                                             std::string& problem);
+                                                             std::string& problem,
+                                                             const std::atomic<bool>* given_up = nullptr);
 
 // Offers a bus, mostly an emulated chip, to one client after the other on a TCP port of this machine. Used from one
 // thread at a time, but not bound to a thread.

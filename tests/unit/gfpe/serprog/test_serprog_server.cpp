@@ -305,7 +305,7 @@ private slots:
         limits.synchronise_ms = 20;
         limits.attempts = 3;
         std::string problem;
-        GFPE_SERPROG_CLIENT client(gfpe_tcp_line(LOCAL, server.port(), limits.connect_ms, problem), limits);
+        GFPE_SERPROG_CLIENT client(gfpe_tcp_line(LOCAL, server.port(), limits.connect_ms, nullptr, problem), limits);
 
         QVERIFY(!client.start(0));
 
