@@ -36,7 +36,8 @@ std::string to_local(const QString& text)
 } // namespace
 
 CONNECTION_PANEL::CONNECTION_PANEL()
-    : m_kind_combo(new QComboBox), m_pages{create_emulated_page(), create_network_page(), create_serial_page()}
+    : m_kind_combo(new QComboBox), m_pages{create_emulated_page(), create_network_page(), create_serial_page()},
+      m_clock_page(create_clock_page())
 {
     m_kind_combo->addItem(tr("Emulated chip"), GFPE_CONNECTION::EMULATED);
     m_kind_combo->addItem(tr("Network (serprog)"), GFPE_CONNECTION::TCP);
@@ -52,6 +53,7 @@ CONNECTION_PANEL::CONNECTION_PANEL()
     column->addWidget(top);
     for (QWidget* page : m_pages)
         column->addWidget(page);
+    column->addWidget(m_clock_page);
     connect(m_kind_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &CONNECTION_PANEL::show_kind);
     connect(detect_button, &QPushButton::clicked, this, &CONNECTION_PANEL::detect_asked);
     show_kind();
@@ -97,11 +99,21 @@ QWidget* CONNECTION_PANEL::create_serial_page()
     return page;
 }
 
+QWidget* CONNECTION_PANEL::create_clock_page()
+{
+    auto* page = new QWidget;
+    m_clock_edit = new QLineEdit;
+    m_clock_edit->setPlaceholderText(tr("the programmer's own"));
+    add_row(make_form(page), tr("Clock (Hz):"), m_clock_edit, "m_clock_edit");
+    return page;
+}
+
 void CONNECTION_PANEL::show_kind()
 {
     const int kind = m_kind_combo->currentIndex();
     for (int page = 0; page < int(std::size(m_pages)); ++page)
         m_pages[page]->setVisible(page == kind);
+    m_clock_page->setVisible(kind != GFPE_CONNECTION::EMULATED);
     if (kind == GFPE_CONNECTION::SERIAL)
         list_ports();
 }
@@ -129,6 +141,21 @@ void CONNECTION_PANEL::browse()
         m_contents_edit->setText(file);
 }
 
+QString CONNECTION_PANEL::chip_file() const
+{
+    return m_kind_combo->currentIndex() == GFPE_CONNECTION::EMULATED ? m_contents_edit->text() : QString();
+}
+
+// 0 for the programmer's own; none for a text that is not a clock.
+std::optional<int> CONNECTION_PANEL::clock() const
+{
+    const QString entered = m_clock_edit->text().trimmed();
+    bool is_number = true;
+    const int clock = entered.isEmpty() ? 0 : entered.toInt(&is_number);
+    const bool is_right = is_number && (clock > 0 || entered.isEmpty());
+    return is_right ? std::optional(clock) : std::nullopt;
+}
+
 std::optional<GFPE_CONNECTION> CONNECTION_PANEL::connection(QString& problem) const
 {
     GFPE_CONNECTION entered;
@@ -153,6 +180,13 @@ std::optional<GFPE_CONNECTION> CONNECTION_PANEL::connection(QString& problem) co
         problem = tr("The connection is not complete.");
         return std::nullopt;
     }
+    if (entered.kind != GFPE_CONNECTION::EMULATED) {
+        if (!clock()) {
+            problem = tr("The clock is not a number of hertz.");
+            return std::nullopt;
+        }
+        entered.clock = *clock();
+    }
     std::string text;
     std::optional<GFPE_CONNECTION> result = gfpe_parse_connection(entered.to_text(), text);
     problem = QString::fromStdString(text);
@@ -175,6 +209,8 @@ void CONNECTION_PANEL::load(const QSettings& settings)
         m_line_combo->setCurrentText(from_local(stored->device));
         m_baud_combo->setCurrentText(QString::number(stored->baud));
     }
+    if (stored->clock > 0)
+        m_clock_edit->setText(QString::number(stored->clock));
     m_kind_combo->setCurrentIndex(m_kind_combo->findData(stored->kind));
 }
 

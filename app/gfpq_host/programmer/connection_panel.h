@@ -24,6 +24,9 @@ public:
     // What is entered; none when something is missing or wrong: `problem` says what.
     std::optional<GFPE_CONNECTION> connection(QString& problem) const;
 
+    // The file that keeps the contents of the emulated chip; empty when there is none.
+    QString chip_file() const;
+
     void load(const QSettings& settings);
     void store(QSettings& settings) const;
 
@@ -35,6 +38,8 @@ private:
     QWidget* create_emulated_page();
     QWidget* create_network_page();
     QWidget* create_serial_page();
+    QWidget* create_clock_page();
+    std::optional<int> clock() const;
     void show_kind();
     void list_ports();
     void browse();
@@ -45,6 +50,8 @@ private:
     QSpinBox* m_port_spin = nullptr;
     QComboBox* m_line_combo = nullptr;
     QComboBox* m_baud_combo = nullptr;
-    // By kind; made last.
+    QLineEdit* m_clock_edit = nullptr;
+    // By kind, and what all programmers have; made last.
     QWidget* m_pages[3];
+    QWidget* m_clock_page;
 };

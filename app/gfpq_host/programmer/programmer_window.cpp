@@ -150,6 +150,7 @@ void PROGRAMMER_WINDOW::create_results()
         m_results->setTabToolTip(page, keys.toString(QKeySequence::NativeText));
     }
     connect(m_data_page, &DATA_PAGE::failed, m_log, &RUN_LOG::add);
+    m_data_page->set_chip_file_source([this] { return m_connection_panel->chip_file(); });
 
     m_splitter->addWidget(m_results);
     m_splitter->setStretchFactor(1, 1);
@@ -193,7 +194,7 @@ void PROGRAMMER_WINDOW::connect_run()
                     m_run_bar->show_progress(progress, rate, seconds_left);
             });
     connect(&m_controller, &RUN_CONTROLLER::finished, this, &PROGRAMMER_WINDOW::finish);
-    connect(&m_controller, &RUN_CONTROLLER::detected, this, &PROGRAMMER_WINDOW::show_detected);
+    connect(&m_controller, &RUN_CONTROLLER::chip_read, this, &PROGRAMMER_WINDOW::finish_reading);
 }
 
 // As it was left, else as large as is useful and the screen allows.
@@ -275,8 +276,7 @@ void PROGRAMMER_WINDOW::begin(PREPARED_RUN prepared, bool is_trial)
         refuse(prepared.problem, place_of(prepared.lack));
         return;
     }
-    // Nobody minds what a trial erases.
-    if (!is_trial && !prepared.erased_beside.empty() && !confirm_erase(prepared.erased_beside))
+    if (!prepared.erased_beside.empty() && !confirm_erase(prepared.erased_beside))
         return;
     m_run_bar->clear_verdict();
     m_trace_page->show_trace(nullptr);
@@ -349,7 +349,7 @@ void PROGRAMMER_WINDOW::detect()
         return;
     }
     m_run_bar->clear_verdict();
-    m_controller.detect(*target);
+    m_controller.read_chip(*target, false);
 }
 
 void PROGRAMMER_WINDOW::choose_detected(const GFPDB_RECORD& device)
@@ -364,25 +364,33 @@ void PROGRAMMER_WINDOW::choose_detected(const GFPDB_RECORD& device)
     m_device_panel->choose(wanted);
 }
 
-void PROGRAMMER_WINDOW::show_detected(const DETECTION& detection)
+void PROGRAMMER_WINDOW::finish_reading(const CHIP_READING& reading)
 {
     if (m_closes_at_the_end) {
         close();
         return;
     }
-    if (!detection.problem.isEmpty()) {
-        m_run_bar->show_verdict(tr("Nothing was detected: %1").arg(detection.problem), RUN_BAR::BAD);
-        m_log->add(tr("Nothing was detected: %1").arg(detection.problem));
+    if (reading.was_cancelled) {
+        m_run_bar->show_verdict(tr("Cancelled"), RUN_BAR::DOUBTFUL);
         return;
     }
-    const QString id = id_text(detection.id);
-    const std::vector<GFPDB_RECORD> devices = find_devices_with_id(detection.id);
-    m_log->add(tr("The chip has the ID %1.").arg(id));
+    if (!reading.problem.isEmpty()) {
+        m_run_bar->show_verdict(tr("Nothing was detected: %1").arg(reading.problem), RUN_BAR::BAD);
+        m_log->add(tr("Nothing was detected: %1").arg(reading.problem));
+        return;
+    }
+    m_log->add(tr("The chip has the ID %1.").arg(id_text(reading.id)));
+    show_detected(reading.id);
+}
+
+void PROGRAMMER_WINDOW::show_detected(const std::vector<std::uint8_t>& id)
+{
+    const std::vector<GFPDB_RECORD> devices = find_devices_with_id(id);
     if (devices.empty()) {
-        m_run_bar->show_verdict(tr("No device has the ID %1.").arg(id), RUN_BAR::DOUBTFUL);
+        m_run_bar->show_verdict(tr("No device has the ID %1.").arg(id_text(id)), RUN_BAR::DOUBTFUL);
         return;
     }
-    DETECTED_DIALOG dialog(this, id, devices, choice().device_name);
+    DETECTED_DIALOG dialog(this, id_text(id), devices, choice().device_name);
     if (dialog.exec() == QDialog::Accepted)
         choose_detected(devices[static_cast<std::size_t>(dialog.selected())]);
 }

@@ -59,7 +59,8 @@ private:
     void cancel();
     void show_busy();
     void finish(const RUN_OUTCOME& outcome);
-    void show_detected(const DETECTION& detection);
+    void finish_reading(const CHIP_READING& reading);
+    void show_detected(const std::vector<std::uint8_t>& id);
 
     // What is entered; none when it is not complete: that was said.
     std::optional<RUN_WISH> wish(bool is_trial);

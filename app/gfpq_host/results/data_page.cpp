@@ -5,9 +5,11 @@
 #include "run/number_text.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -117,11 +119,27 @@ void DATA_PAGE::go_to_difference(bool is_forwards)
                                                                    : std::prev(begins_here_or_behind)->start);
 }
 
+// Empty, or why it was not saved.
+QString DATA_PAGE::save_into(const QString& file)
+{
+    const QFileInfo chip_file(m_chip_file ? m_chip_file() : QString());
+    if (chip_file.exists() && QFileInfo(file) == chip_file)
+        return tr("The file %1 keeps the contents of the emulated chip. Choose another one.").arg(file);
+    if (!m_read_out->save(file))
+        return tr("The file %1 cannot be written: %2").arg(file, m_read_out->problem());
+    return QString();
+}
+
 void DATA_PAGE::save()
 {
     const QString file = QFileDialog::getSaveFileName(window(), tr("Save What Was Read"));
-    if (!file.isEmpty() && !m_read_out->save(file))
-        emit failed(tr("The file %1 cannot be written: %2").arg(file, m_read_out->problem()));
+    const QString problem = file.isEmpty() ? QString() : save_into(file);
+    if (problem.isEmpty())
+        return;
+    emit failed(problem);
+    QMessageBox box(QMessageBox::Warning, window()->windowTitle(), problem, QMessageBox::Ok, window());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 // What a screen reader says of the place, too.

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class HEX_VIEW;
@@ -23,6 +24,8 @@ public:
 
     // Shows what was read; null for nothing.
     void show_read_out(const std::shared_ptr<READ_OUT>& read_out);
+    // Who says which file keeps the emulated chip, so that nothing else is saved into it; empty for none.
+    void set_chip_file_source(std::function<QString()> source) { m_chip_file = std::move(source); }
 
 signals:
     // Something went wrong, in a sentence.
@@ -34,9 +37,11 @@ private:
     // To the next place with differences, forwards or backwards.
     void go_to_difference(bool is_forwards);
     void save();
+    QString save_into(const QString& file);
     void show_place();
 
     std::shared_ptr<READ_OUT> m_read_out;
+    std::function<QString()> m_chip_file;
     HEX_VIEW* m_view;
     QLabel* m_summary_label;
     QLabel* m_place_label;

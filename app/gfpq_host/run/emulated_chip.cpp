@@ -4,23 +4,21 @@
 namespace {
 
 // Null: `problem` says why.
-std::shared_ptr<CHIP_IN_USE> make_chip(const GFPDB_RECORD& record, QString& problem)
+std::shared_ptr<GFPE_CHIP> make_chip(const GFPDB_RECORD& record, QString& problem)
 {
     std::string text;
     std::unique_ptr<GFPE_CHIP> chip = GFPE_CHIP::make(record, text);
-    if (!chip) {
+    if (!chip)
         problem = QString::fromStdString(text);
-        return nullptr;
-    }
-    return std::make_shared<CHIP_IN_USE>(CHIP_IN_USE{std::move(chip), false});
+    return chip;
 }
 
 // What the chip depends on.
-std::string key_of(const GFPDB_RECORD& record, const GFPE_CONNECTION& connection)
+std::string key_of(const GFPDB_RECORD& record)
 {
     const GFPDB_ROW& row = record.row;
     std::string key;
-    for (const std::string& text : {row.name, row.revision, row.device_id, row.density, connection.file})
+    for (const std::string& text : {row.name, row.revision, row.device_id, row.density})
         key += text + '\n';
     return key;
 }
@@ -31,7 +29,11 @@ RUN_TARGET EMULATED_CHIP::target(const GFPDB_RECORD& record, const GFPE_CONNECTI
 {
     RUN_TARGET target;
     target.connection = connection;
-    const std::string key = key_of(record, connection);
+    if (!connection.file.empty()) {
+        target.chip = make_chip(record, problem);
+        return target;
+    }
+    const std::string key = key_of(record);
     if (!m_chip || key != m_of) {
         m_chip = make_chip(record, problem);
         m_of = key;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The emulated chip of the window: it keeps its contents from run to run.
+// The emulated chip of the window: it keeps its contents from run to run, in memory or in its file.
 #pragma once
 
 #include "run/run_request.h"
@@ -16,14 +16,14 @@
 class EMULATED_CHIP
 {
 public:
-    // The chip of `record`; the same one as long as record and connection are the same. Without a chip: `problem` says
-    // why.
+    // The chip of `record`: the same one as long as the record is the same. One whose contents are in a file is new
+    // each time and ends with the run, so that the file is free in between. Without a chip: `problem` says why.
     RUN_TARGET target(const GFPDB_RECORD& record, const GFPE_CONNECTION& connection, QString& problem);
     // A new chip without a file, on which every byte is 00.
     static RUN_TARGET trial_target(const GFPDB_RECORD& record, QString& problem);
 
 private:
-    std::shared_ptr<CHIP_IN_USE> m_chip;
-    // Of which record it is, and its file.
+    std::shared_ptr<GFPE_CHIP> m_chip;
+    // Of which record it is.
     std::string m_of;
 };

@@ -12,6 +12,11 @@ namespace {
 constexpr std::size_t PIECE = std::size_t{1} << 20;
 constexpr std::uint8_t BLANK = 0xFF;
 
+QString temporary_name()
+{
+    return QDir::temp().filePath(QStringLiteral("gfpq_host-XXXXXX.bin"));
+}
+
 std::vector<std::uint8_t> read_from(QFile& file, std::int64_t place, std::size_t length)
 {
     std::vector<std::uint8_t> bytes(length);
@@ -24,7 +29,13 @@ std::vector<std::uint8_t> read_from(QFile& file, std::int64_t place, std::size_t
 
 } // namespace
 
-READ_OUT::READ_OUT() : m_file(QDir::temp().filePath(QStringLiteral("gfpq_host-XXXXXX.bin"))) {}
+READ_OUT::READ_OUT() : m_file(temporary_name()), m_expected(temporary_name()) {}
+
+void READ_OUT::compare_with(GFPE_IMAGE* image)
+{
+    m_image = image;
+    m_is_compared = image != nullptr;
+}
 
 bool READ_OUT::add(std::int64_t position, const std::uint8_t* bytes, std::size_t length)
 {
@@ -63,7 +74,22 @@ bool READ_OUT::compare(std::int64_t position, const std::uint8_t* bytes, std::si
         if (bytes[i] != m_compared[i])
             note_difference(position + static_cast<std::int64_t>(i));
     }
-    return true;
+    return keep_expected(position);
+}
+
+// What was compared last, at `position`.
+bool READ_OUT::keep_expected(std::int64_t position)
+{
+    const auto size = static_cast<qint64>(m_compared.size());
+    const bool is_kept = (m_expected.isOpen() || m_expected.open()) && m_expected.seek(position - m_range.start) &&
+                         m_expected.write(reinterpret_cast<const char*>(m_compared.data()), size) == size;
+    if (!is_kept)
+        m_problem = m_expected.errorString();
+    else if (!m_expected_ranges.empty() && m_expected_ranges.back().end() == position)
+        m_expected_ranges.back().length += size;
+    else
+        m_expected_ranges.push_back({position, size});
+    return is_kept;
 }
 
 void READ_OUT::note_difference(std::int64_t position)
@@ -75,15 +101,13 @@ void READ_OUT::note_difference(std::int64_t position)
         m_differences.push_back({position, 1});
 }
 
-void READ_OUT::finish(const QString& expected_file, std::int64_t expected_position)
+void READ_OUT::finish()
 {
     m_image = nullptr;
-    if (m_file.isOpen())
-        m_file.flush();
-    m_expected_position = expected_position;
-    m_expected.setFileName(expected_file);
-    if (!expected_file.isEmpty())
-        m_expected.open(QIODevice::ReadOnly);
+    for (QTemporaryFile* file : {&m_file, &m_expected}) {
+        if (file->isOpen())
+            file->flush();
+    }
 }
 
 std::vector<std::uint8_t> READ_OUT::read(std::int64_t position, std::size_t length)
@@ -91,20 +115,21 @@ std::vector<std::uint8_t> READ_OUT::read(std::int64_t position, std::size_t leng
     return read_from(m_file, position - m_range.start, length);
 }
 
+// What is not kept is as it was read.
 std::vector<std::uint8_t> READ_OUT::read_expected(std::int64_t position, std::size_t length)
 {
     if (!is_compared())
         return {};
-    // Before the file there is nothing, as behind it.
-    const auto before = static_cast<std::size_t>(
-        std::clamp<std::int64_t>(m_expected_position - position, 0, static_cast<std::int64_t>(length)));
-    std::vector<std::uint8_t> bytes(before, BLANK);
-    if (before < length) {
-        const std::vector<std::uint8_t> rest =
-            read_from(m_expected, position + static_cast<std::int64_t>(before) - m_expected_position, length - before);
-        bytes.insert(bytes.end(), rest.begin(), rest.end());
+    std::vector<std::uint8_t> bytes = read(position, length);
+    const GFPE_RANGE asked{position, static_cast<std::int64_t>(bytes.size())};
+    const auto ends_before = [](const GFPE_RANGE& kept, std::int64_t start) { return kept.end() <= start; };
+    auto kept = std::lower_bound(m_expected_ranges.begin(), m_expected_ranges.end(), position, ends_before);
+    for (; kept != m_expected_ranges.end() && kept->start < asked.end(); ++kept) {
+        const GFPE_RANGE part = kept->common_with(asked);
+        const std::vector<std::uint8_t> expected =
+            read_from(m_expected, part.start - m_range.start, static_cast<std::size_t>(part.length));
+        std::copy(expected.begin(), expected.end(), bytes.begin() + static_cast<std::ptrdiff_t>(part.start - position));
     }
-    bytes.resize(length, BLANK);
     return bytes;
 }
 

@@ -28,31 +28,38 @@ RUN_CONTROLLER::~RUN_CONTROLLER()
     m_thread->wait();
 }
 
-void RUN_CONTROLLER::begin(const std::function<void()>& work)
+void RUN_CONTROLLER::begin(std::function<void()> work)
 {
     Q_ASSERT(!is_busy());
     m_is_ending = false;
     m_outcome.reset();
-    m_detection.reset();
+    m_reading.reset();
     m_rate = GFPE_RATE();
     m_clock.start();
-    m_thread.reset(QThread::create(work));
+    m_thread.reset(QThread::create(std::move(work)));
     connect(m_thread.get(), &QThread::finished, this, &RUN_CONTROLLER::end);
     m_thread->start();
     m_news_timer.start();
     emit busy_changed();
 }
 
+// The chip ends with the thread's part of it, so that its file is free when the end is told.
 void RUN_CONTROLLER::start(RUN_REQUEST request)
 {
     m_worker = std::make_unique<RUN_WORKER>();
-    begin([this, request = std::move(request)] { m_outcome = m_worker->work(request); });
+    begin([this, request = std::move(request)]() mutable {
+        m_outcome = m_worker->work(request);
+        request = RUN_REQUEST();
+    });
 }
 
-void RUN_CONTROLLER::detect(RUN_TARGET target)
+void RUN_CONTROLLER::read_chip(RUN_TARGET target, bool with_sfdp)
 {
     m_worker = std::make_unique<RUN_WORKER>();
-    begin([this, target = std::move(target)] { m_detection = m_worker->detect(target); });
+    begin([this, target = std::move(target), with_sfdp]() mutable {
+        m_reading = m_worker->read_chip(target, with_sfdp);
+        target = RUN_TARGET();
+    });
 }
 
 void RUN_CONTROLLER::cancel()
@@ -92,10 +99,10 @@ void RUN_CONTROLLER::end()
     m_worker.reset();
     m_is_ending = false;
     const std::optional<RUN_OUTCOME> outcome = std::exchange(m_outcome, std::nullopt);
-    const std::optional<DETECTION> detection = std::exchange(m_detection, std::nullopt);
+    const std::optional<CHIP_READING> reading = std::exchange(m_reading, std::nullopt);
     emit busy_changed();
     if (outcome)
         emit finished(*outcome);
-    else if (detection)
-        emit detected(*detection);
+    else if (reading)
+        emit chip_read(*reading);
 }

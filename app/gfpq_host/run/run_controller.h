@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Runs and detections in the background, one at a time. Knows no widget.
+// Runs and readings of a chip in the background, one at a time. Knows no widget.
 #pragma once
 
 #include "run/run_request.h"
@@ -35,22 +35,22 @@ public:
 
     // Nothing may be under way.
     void start(RUN_REQUEST request);
-    void detect(RUN_TARGET target);
-    // Ends a run at its next good place, or at once; nothing when none is under way.
+    void read_chip(RUN_TARGET target, bool with_sfdp);
+    // Ends a run at its next good place, or at once; a reading at once; nothing when none is under way.
     void cancel();
     void stop();
 
 signals:
-    // A run or detection was started, or ended.
+    // A run or reading was started, or ended.
     void busy_changed();
     void phase_started(GFPE_PHASE phase);
     // `rate` in bytes a second and `seconds_left`, both -1 while they are unknown.
     void progressed(const GFPE_PROGRESS& progress, double rate, int seconds_left);
     void finished(const RUN_OUTCOME& outcome);
-    void detected(const DETECTION& detection);
+    void chip_read(const CHIP_READING& reading);
 
 private:
-    void begin(const std::function<void()>& work);
+    void begin(std::function<void()> work);
     void end();
     void tell_news();
 
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<QThread> m_thread;
     // What the thread leaves behind.
     std::optional<RUN_OUTCOME> m_outcome;
-    std::optional<DETECTION> m_detection;
+    std::optional<CHIP_READING> m_reading;
     QTimer m_news_timer;
     QElapsedTimer m_clock;
     GFPE_RATE m_rate;

@@ -35,6 +35,23 @@ std::vector<GFPE_RANGE> without(const std::vector<GFPE_RANGE>& ranges, const GFP
     return rest;
 }
 
+// What is erased beside the range of `order`: the sectors at both of its ends tell, however long it is.
+std::vector<GFPE_RANGE> erased_beside(const GFPE_PLAN& plan, GFPE_ORDER order)
+{
+    if (!order.range || order.range->length == 0)
+        return {};
+    const GFPE_RANGE range = *order.range;
+    std::vector<GFPE_RANGE> beside;
+    for (const std::int64_t end : {range.start, range.end() - 1}) {
+        order.range = GFPE_RANGE{end, 1};
+        for (const GFPE_RANGE& part : without(plan.get_erased(order), range)) {
+            if (beside.empty() || beside.back().end() < part.end())
+                beside.push_back(part);
+        }
+    }
+    return beside;
+}
+
 } // namespace
 
 QString RUN_PREPARATION::check_operations(const RUN_WISH& wish, RUN_LACK& lack)
@@ -116,8 +133,9 @@ PREPARED_RUN RUN_PREPARATION::prepare_on(const RUN_WISH& wish, bool is_trial)
         request.target.connection = wish.connection;
     if (!prepared.problem.isEmpty())
         return prepared;
-    const GFPE_RANGE whole{0, request.plan->get_device().bytes};
-    prepared.erased_beside = without(request.plan->get_erased(request.order), request.order.range.value_or(whole));
+    // Nobody minds what a trial erases.
+    if (!is_trial)
+        prepared.erased_beside = erased_beside(*request.plan, request.order);
     prepared.request = std::move(request);
     return prepared;
 }

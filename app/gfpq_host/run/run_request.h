@@ -19,20 +19,12 @@
 #include <optional>
 #include <vector>
 
-// An emulated chip; it goes from thread to thread with the runs.
-struct CHIP_IN_USE
-{
-    std::unique_ptr<GFPE_CHIP> chip;
-    // The chip has read the file of its connection, which keeps its contents.
-    bool has_read_file = false;
-};
-
 // Where the commands go.
 struct RUN_TARGET
 {
     GFPE_CONNECTION connection;
-    // Of an emulated connection.
-    std::shared_ptr<CHIP_IN_USE> chip;
+    // Of an emulated connection; it goes from thread to thread with the runs.
+    std::shared_ptr<GFPE_CHIP> chip;
     // Every byte of the chip is 00 at the start, as if it had been programmed before.
     bool is_used_chip = false;
 };
@@ -63,10 +55,15 @@ struct RUN_OUTCOME
     std::shared_ptr<READ_OUT> read_out;
 };
 
-struct DETECTION
+// What a chip says of itself.
+struct CHIP_READING
 {
     std::vector<std::uint8_t> id;
+    // Its SFDP tables as gfpe_read_sfdp() reads them; empty when it has none, or nobody asked for them.
+    std::vector<std::uint8_t> sfdp;
+    // Why it could not be read; empty when it could.
     QString problem;
+    bool was_cancelled = false;
 };
 
 // How far a run is, as its thread says it.

@@ -22,32 +22,14 @@ QString text_of(const std::string& utf8)
 // The chip as a board has it after it was switched on.
 bool prepare_chip(const RUN_TARGET& target, std::string& problem)
 {
-    CHIP_IN_USE& used = *target.chip;
-    if (!used.has_read_file && !target.connection.file.empty() && !used.chip->use_file(target.connection.file, problem))
+    GFPE_CHIP& chip = *target.chip;
+    if (!target.connection.file.empty() && !chip.use_file(target.connection.file, problem))
         return false;
-    used.has_read_file = true;
     if (target.is_used_chip)
-        used.chip->fill_memory(0x00);
-    used.chip->cycle_power();
-    used.chip->clear_notes();
+        chip.fill_memory(0x00);
+    chip.cycle_power();
+    chip.clear_notes();
     return true;
-}
-
-// The connection to work on: an emulated chip, or one that is opened here and held by `opened`. Null: `problem` says
-// why.
-GFPE_BUS* open_bus(const RUN_TARGET& target, std::unique_ptr<GFPE_BUS>& opened, QString& problem)
-{
-    std::string text;
-    GFPE_BUS* bus = nullptr;
-    if (target.chip) {
-        bus = prepare_chip(target, text) ? target.chip->chip.get() : nullptr;
-    } else {
-        opened = gfpe_open_connection(target.connection, nullptr, text);
-        bus = opened.get();
-    }
-    if (bus == nullptr)
-        problem = text_of(text);
-    return bus;
 }
 
 void finish_chip(GFPE_CHIP& chip, RUN_OUTCOME& outcome)
@@ -140,6 +122,23 @@ private:
     RUN_WORKER& m_worker;
 };
 
+// The connection to work on: an emulated chip, or one that is opened here and held by `opened`. Null: `problem` says
+// why.
+GFPE_BUS* RUN_WORKER::open_bus(const RUN_TARGET& target, std::unique_ptr<GFPE_BUS>& opened, QString& problem)
+{
+    std::string text;
+    GFPE_BUS* bus = nullptr;
+    if (target.chip) {
+        bus = prepare_chip(target, text) ? target.chip.get() : nullptr;
+    } else {
+        opened = gfpe_open_connection(target.connection, nullptr, text, nullptr, &m_is_given_up);
+        bus = opened.get();
+    }
+    if (bus == nullptr)
+        problem = text_of(text);
+    return bus;
+}
+
 void RUN_WORKER::run_on(GFPE_BUS& bus, const RUN_REQUEST& request, RUN_OUTCOME& outcome)
 {
     const std::unique_ptr<GFPE_IMAGE> image = open_image(request, outcome.problem);
@@ -159,7 +158,7 @@ void RUN_WORKER::run_on(GFPE_BUS& bus, const RUN_REQUEST& request, RUN_OUTCOME& 
         outcome.result = run.run(request.order);
     }
     listener.publish();
-    read_out->finish(request.file, request.file_position);
+    read_out->finish();
     outcome.trace = std::move(trace);
     if (read_out->range().length > 0)
         outcome.read_out = std::move(read_out);
@@ -171,26 +170,34 @@ RUN_OUTCOME RUN_WORKER::work(const RUN_REQUEST& request)
     clock.start();
     RUN_OUTCOME outcome;
     std::unique_ptr<GFPE_BUS> opened;
-    if (GFPE_BUS* bus = open_bus(request.target, opened, outcome.problem))
+    GFPE_BUS* bus = open_bus(request.target, opened, outcome.problem);
+    if (bus) {
         run_on(*bus, request, outcome);
+    } else if (m_is_given_up) {
+        outcome.result.verdict = GFPE_VERDICT::CANCELLED;
+        outcome.problem.clear();
+    }
     if (request.target.chip)
-        finish_chip(*request.target.chip->chip, outcome);
+        finish_chip(*request.target.chip, outcome);
     const std::lock_guard<std::mutex> lock(m_mutex);
     outcome.was_stopped = m_stopped;
     outcome.seconds = static_cast<double>(clock.elapsed()) / MS_A_SECOND;
     return outcome;
 }
 
-DETECTION RUN_WORKER::detect(const RUN_TARGET& target)
+CHIP_READING RUN_WORKER::read_chip(const RUN_TARGET& target, bool with_sfdp)
 {
-    DETECTION detection;
+    CHIP_READING reading;
     std::unique_ptr<GFPE_BUS> opened;
     std::string problem;
-    if (GFPE_BUS* bus = open_bus(target, opened, detection.problem)) {
-        if (!gfpe_read_id(*bus, detection.id, problem))
-            detection.problem = text_of(problem);
+    if (GFPE_BUS* bus = open_bus(target, opened, reading.problem)) {
+        const bool is_read =
+            gfpe_read_id(*bus, reading.id, problem) && (!with_sfdp || gfpe_read_sfdp(*bus, reading.sfdp, problem));
+        if (!is_read)
+            reading.problem = text_of(problem);
     }
-    return detection;
+    reading.was_cancelled = m_is_given_up;
+    return reading;
 }
 
 void RUN_WORKER::cancel()
@@ -199,12 +206,15 @@ void RUN_WORKER::cancel()
     m_cancelled = true;
     if (m_run)
         m_run->cancel();
+    else
+        m_is_given_up = true;
 }
 
 void RUN_WORKER::stop()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_stopped = true;
+    m_is_given_up = true;
     if (m_run)
         m_run->stop();
 }

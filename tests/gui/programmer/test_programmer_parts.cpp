@@ -105,7 +105,7 @@ private slots:
                                  .data(),
                              5));
         QVERIFY(read_out.add(5, bytes_of("Zef\xFF.").data(), 5));
-        read_out.finish(QString(), 0);
+        read_out.finish();
 
         QCOMPARE(read_out.range().length, std::int64_t{10});
         QCOMPARE(read_out.different_bytes(), std::int64_t{4});
@@ -115,6 +115,7 @@ private slots:
         QCOMPARE(read_out.differences()[1].start, std::int64_t{9});
         QVERIFY(read_out.read(2, 4) == bytes_of("aXYZ"));
         QVERIFY(read_out.read(8, 100) == bytes_of("\xFF."));
+        QVERIFY(read_out.read_expected(2, 100) == bytes_of("abcdef\xFF\xFF"));
     }
 
     void a_long_phase_keeps_its_first_and_last_commands()

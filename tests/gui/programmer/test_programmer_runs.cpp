@@ -8,10 +8,38 @@
 
 #include <QAction>
 #include <QFile>
+#include <QFileDialog>
+#include <QSpinBox>
+#include <QTcpServer>
 
 class TEST_PROGRAMMER_RUNS : public PROGRAMMER_TEST
 {
     Q_OBJECT
+
+private:
+    // What keeps another program from using the file of a chip.
+    std::string problem_of_using(const QString& file)
+    {
+        std::string problem;
+        GFPDB_RECORD device;
+        device.row.name = SMALL_DEVICE;
+        GFPE_CHIP::make(device, problem)->use_file(scratch(qPrintable(file)).toStdString(), problem);
+        return problem;
+    }
+
+    // Saves what was read into `file`; what a box says of it.
+    QString save_read_out(const QString& file)
+    {
+        m_modals.expect([file](QWidget* window) {
+            auto* dialog = qobject_cast<QFileDialog*>(window);
+            dialog->setOption(QFileDialog::DontConfirmOverwrite);
+            dialog->selectFile(file);
+            static_cast<QDialog*>(dialog)->accept();
+        });
+        m_modals.expect(MODAL_DRIVER::accept());
+        click("m_save_button");
+        return m_modals.last().text;
+    }
 
 private slots:
     void a_flow_is_tried_without_hardware_data()
@@ -106,6 +134,8 @@ private slots:
         QCOMPARE(run(), qs("Passed"));
         check(qs("v"));
         QCOMPARE(run(), qs("Passed"));
+        if (is_for_ever)
+            QCOMPARE(problem_of_using(file), std::string());
 
         window().close();
         open();
@@ -185,6 +215,11 @@ private slots:
         click("m_previous_button");
         QCOMPARE(view.position(), std::int64_t{0x8000});
         QCOMPARE(child<QLabel>("m_place_label").text(), qs("0x00008000: 80, expected 81"));
+        // What was expected does not depend on what becomes of the file.
+        make_file("image.bin", QByteArray(0x10000, 'x'));
+        view.go_to(0x100);
+        QCOMPARE(child<QLabel>("m_place_label").text(), qs("0x00000100: 01, expected 00"));
+        view.go_to(0x8000);
         QTest::keyClick(&view, Qt::Key_Down);
         QTest::keyClick(&view, Qt::Key_Right);
         QCOMPARE(view.position(), std::int64_t{0x8011});
@@ -192,6 +227,25 @@ private slots:
         QTest::keyClick(&child<QLineEdit>("m_address_edit"), Qt::Key_Return);
         QCOMPARE(view.position(), std::int64_t{0xFFFF});
         QVERIFY(!view.grab().isNull());
+    }
+
+    void what_was_read_is_not_saved_where_it_cannot_be_data()
+    {
+        rows<QString, QString>(
+            {{"over the chip", "chip.bin", " keeps the contents of the emulated chip. Choose another one."},
+             {"no directory", "nowhere/file.bin", " cannot be written: "}});
+    }
+
+    void what_was_read_is_not_saved_where_it_cannot_be()
+    {
+        const auto [name, problem] = row<QString, QString>();
+        open();
+        enter("m_contents_edit", scratch("chip.bin"));
+        check(qs("x"));
+        QCOMPARE(run(), qs("Passed"));
+        const QString text = save_read_out(scratch(qPrintable(name)));
+        QVERIFY2(text.contains(problem), qPrintable(text));
+        QVERIFY(log().contains(problem));
     }
 
     void a_run_is_cancelled()
@@ -226,6 +280,27 @@ private slots:
         });
         window().close();
         QVERIFY(window().isVisible());
+    }
+
+    void what_waits_for_a_silent_programmer_is_cancelled_data()
+    {
+        rows<QString>({{"detect", "m_detect_button"}, {"run", "m_start_button"}});
+    }
+
+    void what_waits_for_a_silent_programmer_is_cancelled()
+    {
+        const auto button = row<QString>();
+        QTcpServer silent;
+        QVERIFY(silent.listen(QHostAddress::LocalHost));
+        open();
+        child<QComboBox>("m_connection_combo").setCurrentIndex(1);
+        enter("m_host_edit", qs("127.0.0.1"));
+        child<QSpinBox>("m_port_spin").setValue(silent.serverPort());
+        check(qs("b"));
+        click(qPrintable(button));
+        QTRY_VERIFY(silent.hasPendingConnections());
+        click("m_cancel_button");
+        QCOMPARE(wait_for_verdict(), qs("Cancelled"));
     }
 
     void detection_lists_the_devices_with_the_id()

@@ -29,6 +29,7 @@ private slots:
         enter("m_length_edit", qs("6"));
         child<QComboBox>("m_connection_combo").setCurrentIndex(1);
         enter("m_host_edit", qs("::1"));
+        enter("m_clock_edit", qs("2000000"));
         window().close();
         open();
 
@@ -38,8 +39,9 @@ private slots:
         QVERIFY(!child<QAbstractButton>("m_erase_check").isChecked());
         QCOMPARE(child<QComboBox>("m_extent_combo").currentIndex(), 2);
         QCOMPARE(child<QComboBox>("m_connection_combo").currentIndex(), 1);
-        for (const auto& [field, text] : {std::pair("m_position_edit", "0x100"), std::pair("m_start_edit", "5"),
-                                          std::pair("m_length_edit", "6"), std::pair("m_host_edit", "::1")})
+        for (const auto& [field, text] :
+             {std::pair("m_position_edit", "0x100"), std::pair("m_start_edit", "5"), std::pair("m_length_edit", "6"),
+              std::pair("m_host_edit", "::1"), std::pair("m_clock_edit", "2000000")})
             QCOMPARE(child<QLineEdit>(field).text(), qs(text));
     }
 
@@ -80,21 +82,27 @@ private slots:
 
     void a_connection_that_is_not_complete_is_not_opened_data()
     {
-        rows<int, QString>({{"no host", 1, "m_host_edit"}, {"no line", 2, "m_line_combo"}});
+        const QString incomplete = qs("Not started: The connection is not complete.");
+        rows<int, QString, QString, QString>(
+            {{"no host", 1, "m_host_edit", "", incomplete},
+             {"no line", 2, "m_line_combo", "", incomplete},
+             {"no clock", 1, "m_clock_edit", "fast", "Not started: The clock is not a number of hertz."},
+             {"no frequency", 1, "m_clock_edit", "0", "Not started: The clock is not a number of hertz."}});
     }
 
     void a_connection_that_is_not_complete_is_not_opened()
     {
-        const auto [kind, field] = row<int, QString>();
+        const auto [kind, field, text, problem] = row<int, QString, QString, QString>();
         open();
         child<QComboBox>("m_connection_combo").setCurrentIndex(kind);
-        QVERIFY(child<QWidget>(qPrintable(field)).isVisible());
-        if (kind == 1)
-            enter("m_host_edit", QString());
+        auto& widget = child<QWidget>(qPrintable(field));
+        QVERIFY(widget.isVisible());
+        if (auto* combo = qobject_cast<QComboBox*>(&widget))
+            combo->setCurrentText(text);
         else
-            child<QComboBox>("m_line_combo").setCurrentText(QString());
+            enter(qPrintable(field), text);
         click("m_start_button");
-        QCOMPARE(verdict(), qs("Not started: The connection is not complete."));
+        QCOMPARE(verdict(), problem);
     }
 
     void keys_reach_everything_data()
