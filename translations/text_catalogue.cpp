@@ -2,6 +2,7 @@
 #include "text_catalogue.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QLocale>
 
 namespace {
@@ -16,14 +17,30 @@ bool is_source_language(const QString& tag)
     return tag.section(TAG_SEPARATOR, 0, 0) == SOURCE_LANGUAGE;
 }
 
-// Fills `translator` from the first of the directories that has a catalogue for the language tag or what it belongs to.
+// What a catalogue for the language tag may be called after it, the nearest first: "zh_Hant_HK", "zh_HK", "zh_TW"
+// (where the language in this script is at home) and "zh".
+QStringList languages_near(const QString& tag)
+{
+    QString own = tag;
+    own.replace(TAG_SEPARATOR, FILE_NAME_SEPARATOR);
+    QStringList names{own};
+    const QLocale locale(own);
+    if (locale.language() != QLocale::C)
+        names << locale.name() << QLocale(locale.language(), locale.script(), QLocale::AnyCountry).name();
+    names.append(own.section(FILE_NAME_SEPARATOR, 0, 0));
+    return names;
+}
+
+// Fills `translator` from the first of the directories that has a catalogue for the language tag or what is near it.
 bool load(QTranslator& translator, const QString& name, const QString& tag, const QStringList& directories)
 {
-    QString language = tag;
-    language.replace(TAG_SEPARATOR, FILE_NAME_SEPARATOR);
+    const QStringList languages = languages_near(tag);
     for (const QString& directory : directories) {
-        if (translator.load(name + FILE_NAME_SEPARATOR + language, directory, QString(FILE_NAME_SEPARATOR)))
-            return true;
+        for (const QString& language : languages) {
+            const QString file = directory + QStringLiteral("/%1_%2.qm").arg(name, language);
+            if (QFile::exists(file) && translator.load(file))
+                return true;
+        }
     }
     return false;
 }

@@ -6,8 +6,10 @@
 #include "test_rows.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -51,6 +53,27 @@ private slots:
         const HOST_TRANSLATION translation(QStringLiteral("de"), DIRECTORIES, QT_DIRECTORY);
 
         QCOMPARE(QCoreApplication::translate("qt_probe", "Cancel"), QStringLiteral("Abbrechen"));
+    }
+
+    // Where the language has a catalogue for another country only.
+    void texts_of_qt_are_found_as_ours_are_data()
+    {
+        rows<QString>({{"pt_BR", "pt_BR"}, {"pt_PT", "pt_BR"}, {"zh_SG", "zh_CN"}, {"zh_HK", "zh_TW"}});
+    }
+
+    void texts_of_qt_are_found_as_ours_are()
+    {
+        const QString installed = row<QString>();
+        QTemporaryDir directory;
+        for (const QString& name : {QStringLiteral("qtbase"), QStringLiteral("gfpq_host")})
+            QVERIFY(QFile::copy(QStringLiteral(TRANSLATIONS "/%1_de.qm").arg(name),
+                                directory.filePath(QStringLiteral("%1_%2.qm").arg(name, installed))));
+
+        const HOST_TRANSLATION translation(QLatin1String(QTest::currentDataTag()), {directory.path()},
+                                           directory.path());
+
+        QCOMPARE(QCoreApplication::translate("qt_probe", "Cancel"), QStringLiteral("Abbrechen"));
+        QCOMPARE(translated(), QStringLiteral("L\u00f6schen"));
     }
 
     void texts_of_qt_come_from_qt_s_place()
