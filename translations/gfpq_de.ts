@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>Aktion einfügen</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>Aktionen:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>Insertar</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>Acciones:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propiedad</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

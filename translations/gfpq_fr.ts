@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>Insérer</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>Actions&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

@@ -192,6 +192,29 @@
     </message>
 </context>
 <context>
+    <name>MODULE_LOADER</name>
+    <message>
+        <source>The dialog module was not found. Searched:
+%1</source>
+        <translation>Das Dialogmodul wurde nicht gefunden. Gesucht wurde hier:
+%1</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 is not loaded: everyone may change %2.</source>
+        <translation>Das Dialogmodul %1 wird nicht geladen: Jeder darf %2 ändern.</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 cannot be loaded:
+%2</source>
+        <translation>Das Dialogmodul %1 kann nicht geladen werden:
+%2</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 has no function &quot;%2&quot;.</source>
+        <translation>Das Dialogmodul %1 hat keine Funktion „%2“.</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>

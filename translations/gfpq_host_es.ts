@@ -192,6 +192,29 @@
     </message>
 </context>
 <context>
+    <name>MODULE_LOADER</name>
+    <message>
+        <source>The dialog module was not found. Searched:
+%1</source>
+        <translation>No se encontró el módulo del diálogo. Se buscó en:
+%1</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 is not loaded: everyone may change %2.</source>
+        <translation>El módulo del diálogo %1 no se carga: cualquiera puede modificar %2.</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 cannot be loaded:
+%2</source>
+        <translation>No se puede cargar el módulo del diálogo %1:
+%2</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 has no function &quot;%2&quot;.</source>
+        <translation>El módulo del diálogo %1 no tiene la función «%2».</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>

@@ -192,6 +192,29 @@
     </message>
 </context>
 <context>
+    <name>MODULE_LOADER</name>
+    <message>
+        <source>The dialog module was not found. Searched:
+%1</source>
+        <translation>Le module du dialogue est introuvable. Emplacements examinés&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 is not loaded: everyone may change %2.</source>
+        <translation>Le module du dialogue %1 n’est pas chargé&#xa0;: tout le monde peut modifier %2.</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 cannot be loaded:
+%2</source>
+        <translation>Le module du dialogue %1 ne peut pas être chargé&#xa0;:
+%2</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 has no function &quot;%2&quot;.</source>
+        <translation>Le module du dialogue %1 n’a pas de fonction «&#xa0;%2&#xa0;».</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>

@@ -192,6 +192,29 @@
     </message>
 </context>
 <context>
+    <name>MODULE_LOADER</name>
+    <message>
+        <source>The dialog module was not found. Searched:
+%1</source>
+        <translation>Il modulo della finestra non è stato trovato. Cercato in:
+%1</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 is not loaded: everyone may change %2.</source>
+        <translation>Il modulo della finestra %1 non viene caricato: chiunque può modificare %2.</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 cannot be loaded:
+%2</source>
+        <translation>Impossibile caricare il modulo della finestra %1:
+%2</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 has no function &quot;%2&quot;.</source>
+        <translation>Il modulo della finestra %1 non ha la funzione «%2».</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>

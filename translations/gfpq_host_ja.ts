@@ -192,6 +192,29 @@
     </message>
 </context>
 <context>
+    <name>MODULE_LOADER</name>
+    <message>
+        <source>The dialog module was not found. Searched:
+%1</source>
+        <translation>ダイアログモジュールが見つかりませんでした。検索した場所:
+%1</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 is not loaded: everyone may change %2.</source>
+        <translation>ダイアログモジュール %1 は読み込まれません: 誰でも %2 を変更できます。</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 cannot be loaded:
+%2</source>
+        <translation>ダイアログモジュール %1 を読み込めません:
+%2</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 has no function &quot;%2&quot;.</source>
+        <translation>ダイアログモジュール %1 に関数「%2」がありません。</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>

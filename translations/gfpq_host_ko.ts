@@ -192,6 +192,29 @@
     </message>
 </context>
 <context>
+    <name>MODULE_LOADER</name>
+    <message>
+        <source>The dialog module was not found. Searched:
+%1</source>
+        <translation>대화 상자 모듈을 찾지 못했습니다. 찾은 위치:
+%1</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 is not loaded: everyone may change %2.</source>
+        <translation>대화 상자 모듈 %1을(를) 불러오지 않습니다: 누구나 %2을(를) 바꿀 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 cannot be loaded:
+%2</source>
+        <translation>대화 상자 모듈 %1을(를) 불러올 수 없습니다:
+%2</translation>
+    </message>
+    <message>
+        <source>The dialog module %1 has no function &quot;%2&quot;.</source>
+        <translation>대화 상자 모듈 %1에 함수 ‘%2’이(가) 없습니다.</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>

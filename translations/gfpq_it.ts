@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>Inserisci</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>Azioni:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Proprietà</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

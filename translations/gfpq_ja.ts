@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>挿入</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>アクション:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

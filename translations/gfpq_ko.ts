@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>삽입</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>동작:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>속성</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

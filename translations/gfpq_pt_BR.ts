@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>Inserir</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>Ações:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propriedade</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

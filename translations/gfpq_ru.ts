@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>Добавить действие</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>Действия:</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Свойство</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

@@ -131,6 +131,18 @@
         <source>Insert</source>
         <translation>插入</translation>
     </message>
+    <message>
+        <source>Actions:</source>
+        <translation>动作：</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
 </context>
 <context>
     <name>gfpq_edit_template_dlg</name>

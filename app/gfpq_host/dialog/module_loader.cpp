@@ -45,23 +45,20 @@ GFPQ_DYN_DLG MODULE_LOADER::load()
     const auto file =
         std::find_if(m_files.cbegin(), m_files.cend(), [](const QString& name) { return QFileInfo(name).isFile(); });
     if (file == m_files.cend())
-        return fail(QStringLiteral("The dialog module is missing; it was looked for here:\n%1")
-                        .arg(m_files.join(QLatin1Char('\n'))));
+        return fail(tr("The dialog module was not found. Searched:\n%1").arg(m_files.join(QLatin1Char('\n'))));
     // Everyone who may write there decides what this process runs.
     const TRUSTED_PATH path = follow_path(*file);
     if (!path.open_place.isEmpty())
-        return fail(
-            QStringLiteral("The dialog module %1 is not loaded: everyone may change %2.").arg(*file, path.open_place));
+        return fail(tr("The dialog module %1 is not loaded: everyone may change %2.").arg(*file, path.open_place));
 
     QLibrary library(path.real_path);
     // A symbol that is missing is to be noticed here, not in the middle of the user's work.
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library.load())
-        return fail(QStringLiteral("The dialog module %1 cannot be loaded:\n%2").arg(*file, library.errorString()));
+        return fail(tr("The dialog module %1 cannot be loaded:\n%2").arg(*file, library.errorString()));
     const auto function = reinterpret_cast<GFPQ_DYN_DLG>(library.resolve(ENTRY_POINT));
     if (!function)
-        return fail(
-            QStringLiteral("The dialog module %1 has no function \"%2\".").arg(*file, QLatin1String(ENTRY_POINT)));
+        return fail(tr("The dialog module %1 has no function \"%2\".").arg(*file, QLatin1String(ENTRY_POINT)));
     m_problem.clear();
     return function;
 }

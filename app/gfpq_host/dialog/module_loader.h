@@ -5,6 +5,7 @@
 
 #include "gfpq_dyn_dlg.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -12,6 +13,8 @@
 // thread only.
 class MODULE_LOADER
 {
+    Q_DECLARE_TR_FUNCTIONS(MODULE_LOADER)
+
 public:
     // Looks for the first of `files` that exists. They must be absolute paths.
     explicit MODULE_LOADER(QStringList files);

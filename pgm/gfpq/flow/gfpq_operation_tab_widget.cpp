@@ -102,7 +102,7 @@ QGraphicsView* GPFQ_OPERATION_TAB_WIDGET::create_palette(int operation, const QS
 QGraphicsScene* GPFQ_OPERATION_TAB_WIDGET::create_palette_scene(int operation)
 {
     auto* const scene = new QGraphicsScene(this);
-    auto* const title = new QGraphicsTextItem(QStringLiteral("Actions:"));
+    auto* const title = new QGraphicsTextItem(QCoreApplication::translate("gfpq_dlg", "Actions:"));
     title->setDefaultTextColor(Qt::black);
     title->setPos(PALETTE_X, PALETTE_TITLE_Y);
     scene->addItem(title);

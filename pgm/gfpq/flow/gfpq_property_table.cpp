@@ -93,8 +93,8 @@ void GFPQ_PROPERTY_TABLE::set_up(QStandardItemModel& model, QAbstractItemDelegat
     setAlternatingRowColors(true);
 
     model.setColumnCount(1);
-    model.setHorizontalHeaderItem(LABEL_COLUMN, new QStandardItem(QStringLiteral("Property")));
-    model.setHorizontalHeaderItem(VALUE_COLUMN, new QStandardItem(QStringLiteral("Value")));
+    model.setHorizontalHeaderItem(LABEL_COLUMN, new QStandardItem(QCoreApplication::translate("gfpq_dlg", "Property")));
+    model.setHorizontalHeaderItem(VALUE_COLUMN, new QStandardItem(QCoreApplication::translate("gfpq_dlg", "Value")));
 
     resizeColumnToContents(LABEL_COLUMN);
     horizontalHeader()->setStretchLastSection(true);

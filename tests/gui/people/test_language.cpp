@@ -7,6 +7,7 @@
 #include "text_catalogue.h"
 
 #include <QComboBox>
+#include <QGraphicsTextItem>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -147,6 +148,26 @@ private slots:
         QApplication::sendEvent(&chart(), &menu_key);
 
         QCOMPARE(m_modals.last().menu_entries, QStringList({qs("Aktion einf\u00fcgen"), qs("-"), qs("Refresh")}));
+    }
+
+    void the_page_of_an_operation_speaks_the_language()
+    {
+        QLocale::setDefault(QLocale(qs("fr")));
+        const TEXT_CATALOGUE texts(qs("gfpq"), {qs(":/gfpq/translations")});
+        open_dialog();
+        show_operation_page(GFPDB_OPERATION_ERASE);
+
+        const QAbstractItemModel& rows = *property_table().model();
+        QCOMPARE(rows.headerData(0, Qt::Horizontal).toString(), QString::fromUtf8("Propriété"));
+        QCOMPARE(rows.headerData(1, Qt::Horizontal).toString(), qs("Valeur"));
+        QStringList palette;
+        for (const QGraphicsView* const view : tabs().currentWidget()->findChildren<QGraphicsView*>()) {
+            for (const QGraphicsItem* const item : view->items()) {
+                if (const auto* const text = qgraphicsitem_cast<const QGraphicsTextItem*>(item))
+                    palette.append(text->toPlainText());
+            }
+        }
+        QVERIFY2(palette.contains(qs("Actions :")), qPrintable(palette.join(QLatin1Char('/'))));
     }
 
     void the_template_editor_speaks_the_language()

@@ -133,7 +133,7 @@ private slots:
         open();
         m_modals.expect(MODAL_DRIVER::accept());
         child<QAction>("m_dialog_action").trigger();
-        QVERIFY(m_modals.last().text.startsWith(qs("The dialog module is missing")));
+        QVERIFY(m_modals.last().text.startsWith(qs("The dialog module was not found")));
     }
 
     // Whatever takes the focus says what it is.

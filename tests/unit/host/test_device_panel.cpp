@@ -329,7 +329,7 @@ private slots:
         QCOMPARE(m_modals.last().title, TITLE);
         QCOMPARE(m_modals.last().icon, QMessageBox::Critical);
         QCOMPARE(m_modals.last().text_format, Qt::PlainText);
-        QCOMPARE(m_modals.last().text, QStringLiteral("The dialog module is missing; it was looked for here:\n"
+        QCOMPARE(m_modals.last().text, QStringLiteral("The dialog module was not found. Searched:\n"
                                                       "/no/such/<b>module.so"));
         QVERIFY(m_modals.last().has_parent);
         QCOMPARE(changed.count(), 0);

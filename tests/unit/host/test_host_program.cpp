@@ -150,7 +150,7 @@ private slots:
     void unusable_module_ends_with_one_data()
     {
         rows<QString, QByteArray>({{"missing", "/no/such/module.so",
-                                    QByteArray("gfpq_host: The dialog module is missing; it was looked for here:\n"
+                                    QByteArray("gfpq_host: The dialog module was not found. Searched:\n"
                                                "/no/such/module.so\n")},
                                    {"no function", QStringLiteral(MODULE_WITHOUT_ENTRY_POINT),
                                     QByteArray("gfpq_host: The dialog module " MODULE_WITHOUT_ENTRY_POINT
@@ -200,7 +200,7 @@ private slots:
         QDir::setCurrent(before);
         QCOMPARE(result.exit_code, 1);
         const QByteArray root = QFile::encodeName(m_scratch->path());
-        QCOMPARE(result.log, "gfpq_host: The dialog module is missing; it was looked for here:\n" + root +
+        QCOMPARE(result.log, "gfpq_host: The dialog module was not found. Searched:\n" + root +
                                  "/lib/gfpq/libpgm_gfpq.so\n" + root + "/lib/libpgm_gfpq.so\n");
     }
 

@@ -5,6 +5,7 @@
 #include "dialog/module_loader.h"
 #include "dialog/path_trust.h"
 #include "fake_module.h"
+#include "marking_translator.h"
 #include "test_rows.h"
 
 #include <QTest>
@@ -84,8 +85,21 @@ private slots:
 
         QVERIFY(!loader.entry_point());
 
-        QCOMPARE(loader.problem(), QStringLiteral("The dialog module is missing; it was looked for here:\n"
+        QCOMPARE(loader.problem(), QStringLiteral("The dialog module was not found. Searched:\n"
                                                   "/no/such/one.so\n/no/such/other.so"));
+    }
+
+    void problems_are_in_the_language_of_the_program()
+    {
+        const MARKING_TRANSLATOR translator("MODULE_LOADER");
+        const QString text_file = place(QStringLiteral("text.so"));
+        QVERIFY(QFile(text_file).open(QIODevice::WriteOnly));
+        const QString open_to_all = copy_of_module(QStringLiteral("open.so"));
+        QVERIFY(QFile::setPermissions(open_to_all, QFile::permissions(open_to_all) | QFile::WriteOther));
+
+        for (const QString& path :
+             {QStringLiteral("/no/such.so"), text_file, open_to_all, QStringLiteral(MODULE_WITHOUT_ENTRY_POINT)})
+            QVERIFY2(problem_of(path).startsWith(QLatin1String("[The dialog module")), qPrintable(problem_of(path)));
     }
 
     void file_that_is_not_a_module_is_reported()
@@ -99,7 +113,7 @@ private slots:
             return problem_of(path).contains(problem) && problem_of(path).size() > problem.size();
         };
 
-        QVERIFY(tells(m_scratch->path(), QStringLiteral("The dialog module is missing")));
+        QVERIFY(tells(m_scratch->path(), QStringLiteral("The dialog module was not found.")));
         QVERIFY(tells(text_file, QStringLiteral("The dialog module %1 cannot be loaded:\n").arg(text_file)));
         QVERIFY(tells(QStringLiteral(MODULE_WITH_MISSING_SYMBOL), QStringLiteral("a_function_that_nobody_has")));
         QCOMPARE(problem_of(QStringLiteral(MODULE_WITHOUT_ENTRY_POINT)),
@@ -202,7 +216,7 @@ private slots:
         make_link(QStringLiteral("first.so"), QStringLiteral("second.so"));
         const QString path = place(QStringLiteral("first.so"));
 
-        QVERIFY2(problem_of(path).startsWith(QLatin1String("The dialog module is missing")),
+        QVERIFY2(problem_of(path).startsWith(QLatin1String("The dialog module was not found")),
                  qPrintable(problem_of(path)));
         QCOMPARE(follow_path(path).real_path, QString());
     }
