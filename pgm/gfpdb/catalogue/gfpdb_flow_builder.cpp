@@ -16,6 +16,8 @@ constexpr int WRITE_ENABLE = 0x06;
 constexpr int WRITE_BANK = 0x17;
 constexpr int WRITE_STATUS_2 = 0x31;
 constexpr int READ_STATUS_2 = 0x35;
+constexpr int WRITE_STATUS_2_BIT7 = 0x3E;
+constexpr int READ_STATUS_2_BIT7 = 0x3F;
 constexpr int CLEAR_FLAG_STATUS = 0x50;
 constexpr int RESET_ENABLE = 0x66;
 constexpr int READ_FLAG_STATUS = 0x70;
@@ -30,6 +32,7 @@ constexpr int LEAVE_FOUR_BYTE = 0xE9;
 
 constexpr int SR1_QUAD_ENABLE = 0x40;
 constexpr int SR2_QUAD_ENABLE = 0x02;
+constexpr int SR2_QUAD_ENABLE_BIT7 = 0x80;
 constexpr int BANK_FOUR_BYTE = 0x80;
 
 constexpr int SR1_BUSY = 0x01;
@@ -46,8 +49,15 @@ constexpr int SMALL_SECTOR_MAX = 4096;
 // How often and at what interval a busy source is asked.
 struct POLL
 {
-    int attempts;
+    std::int64_t attempts;
     int delay_us;
+
+    std::int64_t wait_us() const { return attempts * delay_us; }
+    // The same interval for `wait_us`; as it is for 0.
+    POLL for_wait(std::int64_t wait_us) const
+    {
+        return wait_us > 0 ? POLL{(wait_us + delay_us - 1) / delay_us, delay_us} : *this;
+    }
 };
 
 constexpr POLL REGISTER_POLL = {1000, MILLISECOND_US};
@@ -58,6 +68,13 @@ constexpr POLL CHIP_POLL = {4500, 1000 * MILLISECOND_US};
 constexpr POLL FLAG_STATUS_CHIP_POLL = {1600, 1000 * MILLISECOND_US};
 constexpr POLL IDLE_POLL = {10, MILLISECOND_US};
 constexpr POLL ONCE = {1, 0};
+
+POLL usual_erase_poll(const GFPDB_FLOW_TRAITS& traits)
+{
+    if (traits.sector_erase)
+        return traits.sector_erase->size_bytes <= SMALL_SECTOR_MAX ? SMALL_SECTOR_POLL : SECTOR_POLL;
+    return traits.flag_status ? FLAG_STATUS_CHIP_POLL : CHIP_POLL;
+}
 
 class FLOW_BUILDER
 {
@@ -86,7 +103,7 @@ public:
         custom(GFPDB_LOOP_PAGE, GFPDB_LOOP_START);
         write_enable();
         write_page();
-        poll_busy(PROGRAM_POLL);
+        poll_busy(PROGRAM_POLL.for_wait(m_traits.program_wait_us));
         custom(GFPDB_LOOP_PAGE, GFPDB_LOOP_END);
         close_die_loop();
     }
@@ -203,6 +220,8 @@ private:
         read_register("Check Errors", READ_FLAG_STATUS, {0x00}, {FLAG_ERRORS}, ONCE);
     }
 
+    void poll_erase() { poll_busy(usual_erase_poll(m_traits).for_wait(m_traits.erase_wait_us)); }
+
     void write_enabled_register(const char* name, int opcode, const std::vector<int>& data)
     {
         write_enable();
@@ -238,6 +257,10 @@ private:
             write_enabled_register("Clear Protection", WRITE_STATUS, {0x00});
             write_enabled_register(quad_enable_name(), WRITE_STATUS_2, {SR2_QUAD_ENABLE});
             break;
+        case GFPDB_STATUS_WRITE::SR2_BIT7:
+            write_enabled_register("Clear Protection", WRITE_STATUS, {0x00});
+            write_enabled_register(quad_enable_name(), WRITE_STATUS_2_BIT7, {SR2_QUAD_ENABLE_BIT7});
+            break;
         }
     }
 
@@ -262,6 +285,9 @@ private:
                           {bit_in_first ? SR1_PROTECTION : SR1_PROTECTION_AND_BIT6}, ONCE);
         if (bit_in_second && m_quad)
             read_register("Check Quad Enable", READ_STATUS_2, {SR2_QUAD_ENABLE}, {SR2_QUAD_ENABLE}, ONCE);
+        if (m_traits.status_write == GFPDB_STATUS_WRITE::SR2_BIT7 && m_quad)
+            read_register("Check Quad Enable", READ_STATUS_2_BIT7, {SR2_QUAD_ENABLE_BIT7}, {SR2_QUAD_ENABLE_BIT7},
+                          ONCE);
     }
 
     void check_mode(bool four_byte)
@@ -274,29 +300,39 @@ private:
 
     void enter_four_byte_mode()
     {
-        if (m_traits.four_byte == GFPDB_FOUR_BYTE::NONE || m_traits.four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS)
-            return;
-        if (m_traits.four_byte == GFPDB_FOUR_BYTE::MODE_WITH_WRITE_ENABLE)
+        switch (m_traits.enter_four_byte) {
+        case GFPDB_FOUR_BYTE_ENTRY::MODE:
+            break;
+        case GFPDB_FOUR_BYTE_ENTRY::MODE_WITH_WRITE_ENABLE:
             write_enable();
-        if (m_traits.four_byte == GFPDB_FOUR_BYTE::BANK_REGISTER)
+            break;
+        case GFPDB_FOUR_BYTE_ENTRY::BANK_REGISTER:
             write_register("Enter 4-Byte Addressing", WRITE_BANK, gfpdb_bytes_text({BANK_FOUR_BYTE}));
-        else
-            write_register("Enter 4-Byte Addressing", ENTER_FOUR_BYTE);
+            check_mode(true);
+            return;
+        default:
+            return;
+        }
+        write_register("Enter 4-Byte Addressing", ENTER_FOUR_BYTE);
         check_mode(true);
     }
 
     void leave_four_byte_mode()
     {
-        if (m_traits.four_byte == GFPDB_FOUR_BYTE::NONE || m_traits.four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS ||
-            m_traits.four_byte == GFPDB_FOUR_BYTE::MODE_AND_RESET)
-            return;
-        if (m_traits.four_byte == GFPDB_FOUR_BYTE::MODE_WITH_WRITE_ENABLE)
+        switch (m_traits.leave_four_byte) {
+        case GFPDB_FOUR_BYTE_EXIT::MODE:
+            break;
+        case GFPDB_FOUR_BYTE_EXIT::MODE_WITH_WRITE_ENABLE:
             write_enable();
-        if (m_traits.four_byte == GFPDB_FOUR_BYTE::BANK_REGISTER ||
-            m_traits.four_byte == GFPDB_FOUR_BYTE::MODE_AND_BANK_EXIT)
+            break;
+        case GFPDB_FOUR_BYTE_EXIT::BANK_REGISTER:
             write_register("Leave 4-Byte Addressing", WRITE_BANK, gfpdb_bytes_text({0x00}));
-        else
-            write_register("Leave 4-Byte Addressing", LEAVE_FOUR_BYTE);
+            check_mode(false);
+            return;
+        default:
+            return;
+        }
+        write_register("Leave 4-Byte Addressing", LEAVE_FOUR_BYTE);
         if (m_traits.clears_extended_address) {
             write_enable();
             write_register("Clear Extended Address", WRITE_EXTENDED_ADDRESS, gfpdb_bytes_text({0x00}));
@@ -345,7 +381,7 @@ private:
         action.set_property_value(GFPDB_ER_ADDRESS, loop_address());
         action.set_property_value(GFPDB_ER_ERASE_SIZE, gfpdb_decimal_text(sector.size_bytes));
         action.set_property_value(GFPDB_ER_ADDRESSING_MODE, addressing_mode());
-        poll_busy(sector.size_bytes <= SMALL_SECTOR_MAX ? SMALL_SECTOR_POLL : SECTOR_POLL);
+        poll_erase();
         custom(GFPDB_LOOP_SECTOR, GFPDB_LOOP_END);
     }
 
@@ -359,7 +395,7 @@ private:
         action.set_property_value(GFPDB_ER_ADDRESS, GFPDB_VALUE_NONE);
         action.set_property_value(GFPDB_ER_ERASE_SIZE, gfpdb_decimal_text(erasable_bytes()));
         action.set_property_value(GFPDB_ER_ADDRESSING_MODE, "0");
-        poll_busy(m_traits.flag_status ? FLAG_STATUS_CHIP_POLL : CHIP_POLL);
+        poll_erase();
     }
 
     void read_all()
@@ -409,4 +445,14 @@ GFPDB_OPERATION* gfpdb_build_operation(int kind, const GFPDB_FLOW_TRAITS& traits
         break;
     }
     return operation;
+}
+
+std::int64_t gfpdb_usual_program_wait_us()
+{
+    return PROGRAM_POLL.wait_us();
+}
+
+std::int64_t gfpdb_usual_erase_wait_us(const GFPDB_FLOW_TRAITS& traits)
+{
+    return usual_erase_poll(traits).wait_us();
 }

@@ -109,15 +109,6 @@ GFPDB_QUAD_ENABLE assumed_quad_enable(const GFPDB_PART& part)
     return in_first_register ? GFPDB_QUAD_ENABLE::SR1_BIT6 : GFPDB_QUAD_ENABLE::SR2_BIT1;
 }
 
-GFPDB_FLOW_TEMPLATE template_of(GFPDB_QUAD_ENABLE quad_enable, int address_bytes)
-{
-    if (quad_enable == GFPDB_QUAD_ENABLE::NONE)
-        return GFPDB_TEMPLATE_NO_QE;
-    if (quad_enable == GFPDB_QUAD_ENABLE::SR1_BIT6)
-        return address_bytes == 4 ? GFPDB_TEMPLATE_SR1_4_BYTE : GFPDB_TEMPLATE_SR1_3_BYTE;
-    return address_bytes == 4 ? GFPDB_TEMPLATE_SR2_4_BYTE : GFPDB_TEMPLATE_SR2_3_BYTE;
-}
-
 // GigaDevice's parts have a command of their own for the second register, apart from these.
 bool has_second_register_command(const GFPDB_PART& part)
 {
@@ -147,24 +138,37 @@ bool has_own_four_byte_commands(const GFPDB_PART& part)
     return listed && (line == INFINEON_LINE::FL_L || line == INFINEON_LINE::FS_T || line == INFINEON_LINE::HX_T);
 }
 
-GFPDB_FOUR_BYTE four_byte(const GFPDB_PART& part, int address_bytes)
+GFPDB_FOUR_BYTE_ENTRY four_byte_entry(const GFPDB_PART& part, int address_bytes)
 {
     if (address_bytes != 4)
-        return GFPDB_FOUR_BYTE::NONE;
+        return GFPDB_FOUR_BYTE_ENTRY::NONE;
     if (has_own_four_byte_commands(part))
-        return GFPDB_FOUR_BYTE::OWN_COMMANDS;
+        return GFPDB_FOUR_BYTE_ENTRY::OWN_COMMANDS;
     if (infineon_line(part) == INFINEON_LINE::FL_S)
-        return GFPDB_FOUR_BYTE::BANK_REGISTER;
-    if (infineon_line(part) == INFINEON_LINE::FS_S)
-        return GFPDB_FOUR_BYTE::MODE_AND_RESET;
-    if (part.manufacturer == MICRON || part.manufacturer == XMC)
-        return GFPDB_FOUR_BYTE::MODE_WITH_WRITE_ENABLE;
-    return part.manufacturer == ISSI ? GFPDB_FOUR_BYTE::MODE_AND_BANK_EXIT : GFPDB_FOUR_BYTE::MODE;
+        return GFPDB_FOUR_BYTE_ENTRY::BANK_REGISTER;
+    const bool needs_write_enable = part.manufacturer == MICRON || part.manufacturer == XMC;
+    return needs_write_enable ? GFPDB_FOUR_BYTE_ENTRY::MODE_WITH_WRITE_ENABLE : GFPDB_FOUR_BYTE_ENTRY::MODE;
 }
 
-std::optional<GFPDB_MODE_CHECK> mode_check(const GFPDB_PART& part, GFPDB_FOUR_BYTE four_byte_entry)
+GFPDB_FOUR_BYTE_EXIT four_byte_exit(const GFPDB_PART& part, GFPDB_FOUR_BYTE_ENTRY entry)
 {
-    if (four_byte_entry == GFPDB_FOUR_BYTE::NONE || four_byte_entry == GFPDB_FOUR_BYTE::OWN_COMMANDS)
+    switch (entry) {
+    case GFPDB_FOUR_BYTE_ENTRY::MODE:
+        if (infineon_line(part) == INFINEON_LINE::FS_S)
+            return GFPDB_FOUR_BYTE_EXIT::RESET;
+        return part.manufacturer == ISSI ? GFPDB_FOUR_BYTE_EXIT::BANK_REGISTER : GFPDB_FOUR_BYTE_EXIT::MODE;
+    case GFPDB_FOUR_BYTE_ENTRY::MODE_WITH_WRITE_ENABLE:
+        return GFPDB_FOUR_BYTE_EXIT::MODE_WITH_WRITE_ENABLE;
+    case GFPDB_FOUR_BYTE_ENTRY::BANK_REGISTER:
+        return GFPDB_FOUR_BYTE_EXIT::BANK_REGISTER;
+    default:
+        return GFPDB_FOUR_BYTE_EXIT::NONE;
+    }
+}
+
+std::optional<GFPDB_MODE_CHECK> mode_check(const GFPDB_PART& part, GFPDB_FOUR_BYTE_ENTRY entry)
+{
+    if (entry == GFPDB_FOUR_BYTE_ENTRY::NONE || entry == GFPDB_FOUR_BYTE_ENTRY::OWN_COMMANDS)
         return std::nullopt;
     if (part.manufacturer == MACRONIX)
         return GFPDB_MODE_CHECK{0x15, 0x20};
@@ -172,7 +176,7 @@ std::optional<GFPDB_MODE_CHECK> mode_check(const GFPDB_PART& part, GFPDB_FOUR_BY
         return GFPDB_MODE_CHECK{0x15, 0x01};
     if (part.manufacturer == MICRON)
         return GFPDB_MODE_CHECK{0x70, 0x01};
-    if (part.manufacturer == ISSI || four_byte_entry == GFPDB_FOUR_BYTE::BANK_REGISTER)
+    if (part.manufacturer == ISSI || entry == GFPDB_FOUR_BYTE_ENTRY::BANK_REGISTER)
         return GFPDB_MODE_CHECK{0x16, 0x80};
     return std::nullopt;
 }
@@ -181,7 +185,7 @@ std::optional<GFPDB_MODE_CHECK> mode_check(const GFPDB_PART& part, GFPDB_FOUR_BY
 int own_four_byte_opcode(int opcode)
 {
     static const std::map<int, int> OPCODES = {{0x03, 0x13}, {0x0B, 0x0C}, {0x6B, 0x6C}, {0xEB, 0xEC}, {0x02, 0x12},
-                                               {0x32, 0x34}, {0x20, 0x21}, {0x52, 0x5C}, {0xD8, 0xDC}};
+                                               {0x32, 0x34}, {0x38, 0x3E}, {0x20, 0x21}, {0x52, 0x5C}, {0xD8, 0xDC}};
     const auto place = OPCODES.find(opcode);
     return place == OPCODES.end() ? opcode : place->second;
 }
@@ -256,12 +260,6 @@ std::optional<GFPDB_ERASE_COMMAND> sector_erase(const GFPDB_PART& part, bool own
     return best;
 }
 
-void use_own_four_byte_commands(GFPDB_FLOW_TRAITS& traits)
-{
-    traits.program.opcode = own_four_byte_opcode(traits.program.opcode);
-    traits.read.opcode = own_four_byte_opcode(traits.read.opcode);
-}
-
 int address_bytes(const GFPDB_PART& part)
 {
     if (part.addressing_bytes != 0)
@@ -306,24 +304,44 @@ GFPDB_FLOW_TRAITS gfpdb_flow_traits(const GFPDB_PART& part, bool quad)
     traits.device_bytes = gfpdb_density_bytes(part.density);
     traits.address_bytes = address_bytes(part);
     traits.verified = part.quad_enable != GFPDB_QUAD_ENABLE::UNKNOWN;
-    traits.flow_template = template_of(assumed_quad_enable(part), traits.address_bytes);
     traits.page_size = part.page_size > 0 ? part.page_size : DEFAULT_PAGE_SIZE;
     traits.status_write = status_write(part);
+    traits.flow_template = gfpdb_template_of(traits.status_write, traits.address_bytes);
     traits.locked_at_power_up = part.manufacturer == SST;
     traits.flag_status = part.manufacturer == MICRON;
     traits.reset_at_start = part.manufacturer == MICRON;
-    traits.four_byte = four_byte(part, traits.address_bytes);
-    traits.mode_check = mode_check(part, traits.four_byte);
-    traits.reset_at_end = traits.reset_at_start || traits.four_byte == GFPDB_FOUR_BYTE::MODE_AND_RESET;
+    traits.enter_four_byte = four_byte_entry(part, traits.address_bytes);
+    traits.leave_four_byte = four_byte_exit(part, traits.enter_four_byte);
+    traits.mode_check = mode_check(part, traits.enter_four_byte);
+    traits.reset_at_end = traits.reset_at_start || traits.leave_four_byte == GFPDB_FOUR_BYTE_EXIT::RESET;
     traits.clears_extended_address = starts_with(part.name, "W25Q256FV");
     traits.selected_dies = has_selected_dies(part) ? part.total_die : 1;
     traits.status_dies = status_dies(part);
     traits.program = program_command(part, quad);
     traits.read = read_command(part, quad);
-    traits.sector_erase = sector_erase(part, traits.four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS);
-    if (traits.four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS)
-        use_own_four_byte_commands(traits);
+    const bool has_own_commands = traits.enter_four_byte == GFPDB_FOUR_BYTE_ENTRY::OWN_COMMANDS;
+    traits.sector_erase = sector_erase(part, has_own_commands);
+    if (has_own_commands)
+        gfpdb_use_own_four_byte_commands(traits);
     return traits;
+}
+
+GFPDB_FLOW_TEMPLATE gfpdb_template_of(GFPDB_STATUS_WRITE status_write, int address_bytes)
+{
+    switch (status_write) {
+    case GFPDB_STATUS_WRITE::CLEAR:
+        return GFPDB_TEMPLATE_NO_QE;
+    case GFPDB_STATUS_WRITE::SR1:
+        return address_bytes == 4 ? GFPDB_TEMPLATE_SR1_4_BYTE : GFPDB_TEMPLATE_SR1_3_BYTE;
+    default:
+        return address_bytes == 4 ? GFPDB_TEMPLATE_SR2_4_BYTE : GFPDB_TEMPLATE_SR2_3_BYTE;
+    }
+}
+
+void gfpdb_use_own_four_byte_commands(GFPDB_FLOW_TRAITS& traits)
+{
+    traits.program.opcode = own_four_byte_opcode(traits.program.opcode);
+    traits.read.opcode = own_four_byte_opcode(traits.read.opcode);
 }
 
 GFPDB_FLOW_TRAITS gfpdb_template_traits(int index, bool quad)

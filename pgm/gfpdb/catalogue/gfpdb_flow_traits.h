@@ -31,18 +31,26 @@ enum class GFPDB_STATUS_WRITE
     SR1,             // WR 01 [40]
     SR2_WITH_SR1,    // WR 01 [00 02]: one byte alone would clear the second register
     SR2_OWN_COMMAND, // WR 01 [00], then WR 31 [02]
+    SR2_BIT7,        // WR 01 [00], then WR 3E [80], which 3F reads
 };
 
-// How 4-byte addresses are reached.
-enum class GFPDB_FOUR_BYTE
+// How 4-byte addresses are reached, and how 4-byte addressing is left again.
+enum class GFPDB_FOUR_BYTE_ENTRY
 {
     NONE,                   // addresses have three bytes
-    MODE,                   // B7 enters, E9 leaves
-    MODE_WITH_WRITE_ENABLE, // the same, each after a write enable
-    MODE_AND_BANK_EXIT,     // B7 enters, 17 [00] leaves
-    MODE_AND_RESET,         // B7 enters, the reset at the end leaves
-    BANK_REGISTER,          // 17 [80] enters, 17 [00] leaves
+    MODE,                   // B7
+    MODE_WITH_WRITE_ENABLE, // 06, then B7
+    BANK_REGISTER,          // 17 [80]
     OWN_COMMANDS,           // commands that always take four bytes
+    ALWAYS,                 // the part knows no other addresses
+};
+enum class GFPDB_FOUR_BYTE_EXIT
+{
+    NONE,                   // there is nothing to leave
+    MODE,                   // E9
+    MODE_WITH_WRITE_ENABLE, // 06, then E9
+    BANK_REGISTER,          // 17 [00]
+    RESET,                  // the reset at the end
 };
 
 // A register that shows the addressing mode: (value AND mask) is `mask` in 4-byte mode and 0 out of it.
@@ -80,7 +88,8 @@ struct GFPDB_FLOW_TRAITS
     bool flag_status = false;
     bool reset_at_start = false;
     bool reset_at_end = false;
-    GFPDB_FOUR_BYTE four_byte = GFPDB_FOUR_BYTE::NONE;
+    GFPDB_FOUR_BYTE_ENTRY enter_four_byte = GFPDB_FOUR_BYTE_ENTRY::NONE;
+    GFPDB_FOUR_BYTE_EXIT leave_four_byte = GFPDB_FOUR_BYTE_EXIT::NONE;
     std::optional<GFPDB_MODE_CHECK> mode_check;
     // Leaving 4-byte mode sets the extended address register, which is cleared again.
     bool clears_extended_address = false;
@@ -92,9 +101,16 @@ struct GFPDB_FLOW_TRAITS
     GFPDB_DATA_COMMAND read = {0, "", 0};
     // The sector erase; none when only the whole device (or die) can be erased for sure.
     std::optional<GFPDB_ERASE_COMMAND> sector_erase;
+    // How long a page program and an erase are waited for; 0 for the usual times.
+    std::int64_t program_wait_us = 0;
+    std::int64_t erase_wait_us = 0;
 };
 
 // The traits of `part` in the quad-I/O (`quad` true) or single-I/O variant.
 GFPDB_FLOW_TRAITS gfpdb_flow_traits(const GFPDB_PART& part, bool quad);
+// The template for a part whose quad-enable bit is there, with so many address bytes.
+GFPDB_FLOW_TEMPLATE gfpdb_template_of(GFPDB_STATUS_WRITE status_write, int address_bytes);
+// Makes data commands that take as many address bytes as the mode says those that always take four.
+void gfpdb_use_own_four_byte_commands(GFPDB_FLOW_TRAITS& traits);
 // The traits of a built-in template (0 to 4).
 GFPDB_FLOW_TRAITS gfpdb_template_traits(int index, bool quad);

@@ -59,8 +59,9 @@ QString command_text(const GFPDB_DATA_COMMAND& command)
 // One line of expected_traits.txt.
 QString traits_line(const GFPDB_PART& part)
 {
-    static const char* const STATUS_WRITES[] = {"01[00]", "01[40]", "01[00 02]", "01[00] 31[02]"};
-    static const char* const FOUR_BYTES[] = {"3", "B7/E9", "06+B7/06+E9", "B7/17", "B7/99", "17/17", "own"};
+    static const char* const STATUS_WRITES[] = {"01[00]", "01[40]", "01[00 02]", "01[00] 31[02]", "01[00] 3E[80]"};
+    static const char* const ENTRIES[] = {"3", "B7/", "06+B7/", "17/", "own", "4"};
+    static const char* const EXITS[] = {"", "E9", "06+E9", "17", "99"};
     const GFPDB_FLOW_TRAITS single = gfpdb_flow_traits(part, false);
     const GFPDB_FLOW_TRAITS quad = gfpdb_flow_traits(part, true);
     QStringList extras;
@@ -87,7 +88,8 @@ QString traits_line(const GFPDB_PART& part)
     return QStringList{text(part.name),
                        QString("T%1").arg(quad.flow_template + 1),
                        STATUS_WRITES[static_cast<int>(quad.status_write)],
-                       FOUR_BYTES[static_cast<int>(quad.four_byte)],
+                       QString(ENTRIES[static_cast<int>(quad.enter_four_byte)]) +
+                           EXITS[static_cast<int>(quad.leave_four_byte)],
                        check,
                        QString::number(quad.page_size),
                        command_text(single.program),
@@ -304,7 +306,8 @@ private slots:
             const int entered = count_of(*flow[0], "0xB7") + count_of(*flow[0], "0x17", "0x80");
             const char* const leave = part.name == "S25FS512S" ? "0x99" : "0xE9";
             const int left = count_of(*flow[4], leave) + count_of(*flow[4], "0x17", "0x00");
-            const bool own_commands = gfpdb_flow_traits(part, quad).four_byte == GFPDB_FOUR_BYTE::OWN_COMMANDS;
+            const bool own_commands =
+                gfpdb_flow_traits(part, quad).enter_four_byte == GFPDB_FOUR_BYTE_ENTRY::OWN_COMMANDS;
             const int expected = part.addressing_bytes == 4 && !own_commands ? 1 : 0;
             QVERIFY2(entered == expected && left == expected, part.name.c_str());
             for (const std::size_t kind : {1, 2, 3}) {
