@@ -388,6 +388,8 @@ void add_maker(GFPE_CHIP_FACTS& facts, const GFPDB_PART& part)
     } else {
         add_common(facts, part);
         add_register_write(facts, 0x31, REG::STATUS_2);
+        if (part.name == "AT25QL128A")
+            add_reset(facts);
     }
 }
 

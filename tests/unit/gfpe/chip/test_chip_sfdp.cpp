@@ -90,6 +90,20 @@ private slots:
         }
     }
 
+    void a_chip_that_lists_the_reset_has_it()
+    {
+        for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
+            if (!has_table(part))
+                continue;
+            CHIP_HOST host(part);
+            if (TABLE(host).bits(16, 12, 12)) {
+                host.raw(0x66);
+                host.raw(0x99);
+            }
+            QVERIFY2(host.notes().empty(), (part.name + " " + host.notes()).c_str());
+        }
+    }
+
     void every_erase_that_a_chip_lists_erases_that_much()
     {
         for (const GFPDB_PART& part : gfpdb_catalogue_parts()) {
