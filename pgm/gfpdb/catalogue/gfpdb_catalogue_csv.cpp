@@ -96,17 +96,9 @@ bool read_page_size(const std::string& cell, GFPDB_PART& part, std::string& erro
 
 bool read_sector_erase(const std::string& cell, GFPDB_PART& part, std::string& error)
 {
-    for (const std::string& word : words(cell)) {
-        const std::size_t colon = word.find(':');
-        const std::optional<int> opcode = gfpdb_parse_byte("0x" + word.substr(0, colon));
-        const int size = colon == std::string::npos ? 0 : erase_size(word.substr(colon + 1));
-        if (!opcode || size == 0) {
-            error = gfpdb_quoted(word) + " is not an erase command such as 20:4K";
-            return false;
-        }
-        part.sector_erase.push_back({*opcode, size});
-    }
-    return true;
+    const std::optional<std::vector<GFPDB_ERASE_COMMAND>> commands = gfpdb_parse_erase_commands(cell, error);
+    part.sector_erase = commands.value_or(std::vector<GFPDB_ERASE_COMMAND>());
+    return commands.has_value();
 }
 
 bool read_addressing_bytes(const std::string& cell, GFPDB_PART& part, std::string& error)
@@ -242,6 +234,22 @@ bool read_row(const CSV_ROW& head, const CSV_ROW& row, GFPDB_PART& part, GFPDB_C
 }
 
 } // namespace
+
+std::optional<std::vector<GFPDB_ERASE_COMMAND>> gfpdb_parse_erase_commands(const std::string& cell, std::string& error)
+{
+    std::vector<GFPDB_ERASE_COMMAND> commands;
+    for (const std::string& word : words(cell)) {
+        const std::size_t colon = word.find(':');
+        const std::optional<int> opcode = gfpdb_parse_byte("0x" + word.substr(0, colon));
+        const int size = colon == std::string::npos ? 0 : erase_size(word.substr(colon + 1));
+        if (!opcode || size == 0) {
+            error = gfpdb_quoted(word) + " is not an erase command such as 20:4K";
+            return std::nullopt;
+        }
+        commands.push_back({*opcode, size});
+    }
+    return commands;
+}
 
 std::int64_t gfpdb_density_bytes(const std::string& density)
 {

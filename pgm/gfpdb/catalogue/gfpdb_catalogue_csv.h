@@ -7,6 +7,7 @@
 
 #include "gfpdb/gfpdb_part.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,9 @@ struct GFPDB_CATALOGUE_CONTENT
 // The parts of a catalogue. A row with an error is left out, all others are there; a name that occurs twice (regardless
 // of case) is an error of the later row. Without the columns name, jedec_id and density there are no parts.
 GFPDB_CATALOGUE_CONTENT gfpdb_parse_catalogue(const std::string& text);
+
+// The erase commands of a cell: "20:4K D8:64K". None, with what is wrong in `error`, when one of them is no such.
+std::optional<std::vector<GFPDB_ERASE_COMMAND>> gfpdb_parse_erase_commands(const std::string& cell, std::string& error);
 
 // An error as one line: "line 12, column "density": ...".
 std::string gfpdb_csv_error_text(const GFPDB_CSV_ERROR& error);

@@ -1,8 +1,135 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_new_device.h"
 
-std::vector<GFPDB_PART_COMPARISON> gfpdb_compare_with_catalogue(const std::vector<std::uint8_t>& /*id*/,
-                                                                const GFPDB_SFDP& /*sfdp*/)
+#include "sfdp/gfpdb_known_part.h"
+#include "sfdp/gfpdb_sfdp_table.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace {
+
+// What read-outs of parts have that share their ID with others: the double words of the basic table, and whether it
+// lists the 4-4-4 read.
+struct KNOWN_TABLE
 {
-    return {};
+    const char* name;
+    int dwords;
+    std::optional<bool> has_4_4_4;
+};
+constexpr KNOWN_TABLE KNOWN_TABLES[] = {
+    {"MX25L12833F", 16, true},         {"MX25L25635F", 9, true},       {"MX25L25645G", 16, std::nullopt},
+    {"MX25U25645G", 16, true},         {"W25Q128JV-Q", 16, true},      {"W25Q256FV", 9, std::nullopt},
+    {"W25Q256JV-Q", 16, std::nullopt}, {"GD25Q256C", 9, std::nullopt},
+};
+
+class COMPARISON
+{
+public:
+    COMPARISON(const GFPDB_PART& part, const GFPDB_SFDP& sfdp) : m_part(part), m_sfdp(sfdp) {}
+
+    std::vector<std::string> take()
+    {
+        const std::int64_t listed_bits = gfpdb_density_bytes(m_part.density) * 8;
+        if (m_sfdp.density_bits > 0 && m_sfdp.density_bits != listed_bits)
+            differ("density", m_part.density, gfpdb_density_text(m_sfdp.density_bits), "SFDP DW2");
+        compare_numbers("page size", m_part.page_size, m_sfdp.page_size, "SFDP DW11");
+        compare_address();
+        compare_erase();
+        if (m_sfdp.read_1_4_4)
+            compare_numbers("quad-I/O dummy clocks", m_part.dummy_quad, m_sfdp.read_1_4_4->dummy_clocks(), "SFDP DW3");
+        compare_quad_enable();
+        compare_table();
+        return std::move(m_differences);
+    }
+
+private:
+    void differ(const std::string& what, const std::string& listed, const std::string& said, const std::string& source)
+    {
+        m_differences.push_back(what + ": " + listed + " in the list, " + said + " by " + source);
+    }
+
+    // 0 stands for what is not known.
+    void compare_numbers(const char* what, int listed, int said, const char* source)
+    {
+        if (listed != 0 && said != 0 && listed != said)
+            differ(what, std::to_string(listed), std::to_string(said), source);
+    }
+
+    void compare_address()
+    {
+        const int said = m_sfdp.address == GFPDB_SFDP_ADDRESS::THREE  ? 3
+                         : m_sfdp.address == GFPDB_SFDP_ADDRESS::FOUR ? 4
+                                                                      : 0;
+        compare_numbers("address bytes", m_part.addressing_bytes, said, "SFDP DW1");
+    }
+
+    // Tables have room for four erase commands: one that the part has and they do not is no difference.
+    void compare_erase()
+    {
+        for (const GFPDB_SFDP_ERASE& erase : m_sfdp.erase) {
+            compare_erase(erase.opcode, erase.size_bytes, erase.type <= 2 ? "SFDP DW8" : "SFDP DW9");
+            if (erase.opcode_4_byte != 0)
+                compare_erase(erase.opcode_4_byte, erase.size_bytes, "SFDP 4-byte DW2");
+        }
+    }
+
+    void compare_erase(int opcode, std::int64_t size, const char* source)
+    {
+        std::string listed;
+        for (const GFPDB_ERASE_COMMAND& command : m_part.sector_erase) {
+            if (command.opcode != opcode)
+                continue;
+            if (command.size_bytes == size)
+                return;
+            listed += (listed.empty() ? "" : " or ") + std::to_string(command.size_bytes);
+        }
+        differ("erase by " + gfpdb_sfdp_hex(static_cast<std::uint32_t>(opcode), 2),
+               listed.empty() ? "not" : listed + " bytes", std::to_string(size) + " bytes", source);
+    }
+
+    void compare_quad_enable()
+    {
+        constexpr const char* TEXTS[] = {"unknown", "none", "SR1 bit 6", "SR2 bit 1"};
+        // By the requirement; the last one is reserved.
+        constexpr std::array<const char*, 8> SAID = {"none",      "SR2 bit 1", "SR1 bit 6", "SR2 bit 7",
+                                                     "SR2 bit 1", "SR2 bit 1", "SR2 bit 1", "reserved"};
+        if (!m_sfdp.quad_enable || m_part.quad_enable == GFPDB_QUAD_ENABLE::UNKNOWN)
+            return;
+        const std::string listed = TEXTS[static_cast<int>(m_part.quad_enable)];
+        const std::string said = SAID[static_cast<std::size_t>(*m_sfdp.quad_enable)];
+        if (listed != said)
+            differ("quad enable", listed, said, "SFDP DW15");
+    }
+
+    void compare_table()
+    {
+        const auto known = std::find_if(std::begin(KNOWN_TABLES), std::end(KNOWN_TABLES),
+                                        [this](const KNOWN_TABLE& each) { return m_part.name == each.name; });
+        if (known == std::end(KNOWN_TABLES) || m_sfdp.basic_dwords == 0)
+            return;
+        if (known->dwords != m_sfdp.basic_dwords)
+            m_differences.push_back("basic table: " + std::to_string(known->dwords) +
+                                    " double words in read-outs of this part, " + std::to_string(m_sfdp.basic_dwords) +
+                                    " here");
+        if (known->has_4_4_4.value_or(m_sfdp.read_4_4_4.has_value()) != m_sfdp.read_4_4_4.has_value())
+            m_differences.emplace_back(m_sfdp.read_4_4_4 ? "4-4-4 read: not in read-outs of this part, but here"
+                                                         : "4-4-4 read: in read-outs of this part, but not here");
+    }
+
+    const GFPDB_PART& m_part;
+    const GFPDB_SFDP& m_sfdp;
+    std::vector<std::string> m_differences;
+};
+
+} // namespace
+
+std::vector<GFPDB_PART_COMPARISON> gfpdb_compare_with_catalogue(const std::vector<std::uint8_t>& id,
+                                                                const GFPDB_SFDP& sfdp)
+{
+    std::vector<GFPDB_PART_COMPARISON> found;
+    for (const GFPDB_PART* part : gfpdb_parts_with_id(gfpdb_trimmed_id(id)))
+        found.push_back({part, COMPARISON(*part, sfdp).take()});
+    return found;
 }

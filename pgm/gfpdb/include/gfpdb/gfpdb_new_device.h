@@ -36,8 +36,8 @@ class GFPDB_PROPOSAL; // in pgm/gfpdb/sfdp
 class GFPDB_EXPORT GFPDB_NEW_DEVICE
 {
 public:
-    // `id` is what command 9F gave, or empty when it is not known; `sfdp` may be null. With neither, all values have
-    // to be filled in.
+    // `id` is what command 9F gave, with or without what a chip sends behind its ID, or empty when it is not known;
+    // `sfdp` may be null, and is copied.
     GFPDB_NEW_DEVICE(const std::vector<std::uint8_t>& id, const GFPDB_SFDP* sfdp);
     ~GFPDB_NEW_DEVICE();
     GFPDB_NEW_DEVICE(GFPDB_NEW_DEVICE&&) noexcept;
@@ -45,10 +45,12 @@ public:
 
     // Name, ID, voltage, density, ... in the order in which people read them.
     std::vector<GFPDB_PROPOSED_VALUE> get_values() const;
-    // Changes a value; its source becomes "entered". False, with a sentence in `problem`, for an unknown key or a text
-    // that is not allowed. What follows from the value changes with it, unless it was entered.
+    // Changes a value; its source becomes "entered". An empty text puts back what is proposed. False, with a sentence
+    // in `problem`, for an unknown key or a text that is not allowed. What follows from the value changes with it,
+    // unless it was entered.
     bool set_value(const std::string& key, const std::string& text, std::string& problem);
-    // What a user should know, of the values as they are now: sources that disagree, what was assumed.
+    // What a user should know, of the values as they are now: the warnings of the tables, sources that disagree, what
+    // nobody says.
     std::vector<std::string> get_warnings() const;
 
     // The device with its flows in both variants. None, with a sentence in `problem`, while a value is missing that a
@@ -66,11 +68,14 @@ struct GFPDB_PART_COMPARISON
     std::vector<std::string> differences;
 };
 
-// The built-in parts that have this ID (those with the longer ID first), each with where it differs from the tables.
+// The built-in parts that have this ID (those with the longer ID first), each with where it differs from the tables;
+// without tables (GFPDB_SFDP()) nowhere. `id` as GFPDB_NEW_DEVICE takes it.
 GFPDB_EXPORT std::vector<GFPDB_PART_COMPARISON> gfpdb_compare_with_catalogue(const std::vector<std::uint8_t>& id,
                                                                              const GFPDB_SFDP& sfdp);
 
 // A copy of `source`, a built-in or stored device with its flows in both variants, as the device `name` of (family,
-// scheme). None, with a sentence in `problem`, when its flows cannot be read or a device there cannot have them.
+// scheme). What the copy could not keep as it is, is added to `warnings`. None, with a sentence in `problem`, when its
+// name is not allowed, its flows cannot be read or a device there cannot have them.
 GFPDB_EXPORT std::optional<GFPDB_RECORD> gfpdb_copy_of(const GFPDB_RECORD& source, const std::string& name, int family,
-                                                       int scheme, std::string& problem);
+                                                       int scheme, std::vector<std::string>& warnings,
+                                                       std::string& problem);
