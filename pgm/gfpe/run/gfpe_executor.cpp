@@ -146,10 +146,8 @@ GFPE_OUTCOME GFPE_EXECUTOR::run(int operation, GFPE_PHASE phase)
     // With an Initialization that has passed, the chip counts as known, also when its ID check had no step to be in.
     if (walk(m_flow.operation(operation).steps) && phase == GFPE_PHASE::INITIALIZATION)
         m_is_chip_unknown = false;
-    if (m_outcome != GFPE_OUTCOME::LOST && !m_link.settle()) {
-        fail({}, m_link.get_problem());
-        m_outcome = GFPE_OUTCOME::LOST;
-    }
+    if (m_outcome != GFPE_OUTCOME::LOST && !m_link.settle())
+        lose_between_actions();
     m_meter.report();
     return m_outcome;
 }
@@ -250,6 +248,9 @@ bool GFPE_EXECUTOR::visit(const GFPE_ERASE& step, const GFPE_SCOPE& scope, const
 
 std::optional<bool> GFPE_EXECUTOR::is_blank_page(const GFPE_LOOP& loop, const GFPE_RANGE& page)
 {
+    // Nothing may be sent for many pages, and who cancels must not wait until all of them are read.
+    if (is_cancelled() || !(m_link.may_go_on() || lose_between_actions()))
+        return std::nullopt;
     const GFPE_RANGE there = page.common_with(m_image.get_range());
     if (there.length == 0)
         return true;
@@ -316,6 +317,17 @@ bool GFPE_EXECUTOR::fail_register(const GFPE_READ_REGISTER& step, const std::uin
     if (step.attempts > 1)
         what += " in the last of " + std::to_string(step.attempts) + " attempts";
     return fail_at(step, std::move(failure), what + '.');
+}
+
+bool GFPE_EXECUTOR::lose_between_actions()
+{
+    // The action that failed before is what has to be looked at.
+    if (m_failure)
+        m_failure->text += ' ' + m_link.get_problem();
+    else
+        fail({}, m_link.get_problem());
+    m_outcome = GFPE_OUTCOME::LOST;
+    return false;
 }
 
 bool GFPE_EXECUTOR::lose(const GFPE_ACTION& step)

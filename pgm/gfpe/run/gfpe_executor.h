@@ -65,6 +65,7 @@ private:
     bool fail_at(const GFPE_ACTION& step, GFPE_FAILURE failure, const std::string& what);
     bool fail_register(const GFPE_READ_REGISTER& step, const std::uint8_t* received);
     bool lose(const GFPE_ACTION& step);
+    bool lose_between_actions();
 
     GFPE_LINK& m_link;
     GFPE_IMAGE_WINDOW& m_image;

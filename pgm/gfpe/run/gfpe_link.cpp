@@ -44,8 +44,8 @@ private:
 
 bool GFPE_LINK::send(const GFPE_ACTION& step, const GFPE_COMMAND& command, GFPE_READER* reader)
 {
-    if (m_stopped)
-        return lose(STOPPED);
+    if (!may_go_on())
+        return false;
     ++m_commands;
     if (m_trace)
         m_trace->command_started({m_phase, step.number, &step.name}, command, m_bus.get_time());
@@ -53,6 +53,11 @@ bool GFPE_LINK::send(const GFPE_ACTION& step, const GFPE_COMMAND& command, GFPE_
     if (m_trace)
         m_trace->command_ended(m_bus.get_time());
     return is_done;
+}
+
+bool GFPE_LINK::may_go_on()
+{
+    return !m_stopped || lose(STOPPED);
 }
 
 bool GFPE_LINK::tell(const GFPE_COMMAND& command)
@@ -65,8 +70,8 @@ bool GFPE_LINK::ask(const GFPE_COMMAND& command, GFPE_READER& reader)
     ANSWER answer(command.in_length, reader, m_trace, m_stopped);
     if (!m_bus.transfer(command, &answer))
         return lose(m_bus.get_last_error());
-    if (m_stopped)
-        return lose(STOPPED);
+    if (!may_go_on())
+        return false;
     if (!answer.is_complete())
         return lose("The connection gave " + std::to_string(answer.taken()) + " bytes instead of " +
                     std::to_string(command.in_length) + '.');
@@ -76,8 +81,8 @@ bool GFPE_LINK::ask(const GFPE_COMMAND& command, GFPE_READER& reader)
 bool GFPE_LINK::wait(std::int64_t microseconds)
 {
     for (std::int64_t left = microseconds; left > 0; left -= LONGEST_WAIT_US) {
-        if (m_stopped)
-            return lose(STOPPED);
+        if (!may_go_on())
+            return false;
         if (!m_bus.wait(std::min(left, LONGEST_WAIT_US)))
             return lose(m_bus.get_last_error());
     }

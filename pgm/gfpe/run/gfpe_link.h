@@ -26,6 +26,8 @@ public:
     // Sends the command of an action; `reader` gets exactly as many bytes as it asks for, unless it has enough before.
     // False: the connection is lost, or the run was stopped; get_problem() says why.
     bool send(const GFPE_ACTION& step, const GFPE_COMMAND& command, GFPE_READER* reader = nullptr);
+    // What send() and wait() ask first. False: the run was stopped.
+    bool may_go_on();
     // Lets at least that time pass. False as above.
     bool wait(std::int64_t microseconds);
     // Waits until everything has reached the chip. False as above.

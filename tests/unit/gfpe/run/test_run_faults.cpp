@@ -272,6 +272,68 @@ private slots:
         QVERIFY(bus.m_waited_us <= 50000);
     }
 
+    void blank_pages_are_no_longer_read_after_a_cancellation_data()
+    {
+        rows<bool, int, QByteArray>({{"cancelled", false, int(GFPE_VERDICT::CANCELLED), ""},
+                                     {"stopped", true, int(GFPE_VERDICT::LOST),
+                                      "Program: The run was stopped; the state of the chip is not known."}});
+    }
+
+    // Of an image of FF nothing is sent, but all of it is read.
+    void blank_pages_are_no_longer_read_after_a_cancellation()
+    {
+        const auto [is_stopped, verdict, text] = row<bool, int, QByteArray>();
+        struct BLANK_IMAGE : GFPE_IMAGE
+        {
+            GFPE_RANGE get_range() const override { return {0, 1 << 20}; }
+            bool read(std::int64_t, std::uint8_t* bytes, std::size_t length, std::string&) override
+            {
+                ++reads;
+                std::fill(bytes, bytes + length, 0xFF);
+                end_run();
+                return true;
+            }
+            std::function<void()> end_run;
+            int reads = 0;
+        } image;
+        FLOW flow;
+        for (int kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind)
+            flow.push_back(operation_of(kind, {}));
+        flow[1] = operation_of(1, {start("page"), write_data(), end("page")});
+        RECORDING_BUS bus;
+        GFPE_RUN run(plan_of({"chip", 1 << 20, 1, {}}, flow), bus);
+        run.set_image(&image);
+        image.end_run = [&run, is_stopped = is_stopped] { is_stopped ? run.stop() : run.cancel(); };
+
+        const GFPE_RESULT result = run.run(order_of("P"));
+
+        QCOMPARE(int(result.verdict), verdict);
+        QCOMPARE(image.reads, 1);
+        QCOMPARE(result.failure ? result.failure->text : std::string(), text.toStdString());
+    }
+
+    // What failed first is what the user has to look at.
+    void a_connection_that_is_lost_after_a_failure_is_reported_behind_it()
+    {
+        struct LOSING_BUS : RECORDING_BUS
+        {
+            bool settle() override { return false; }
+            std::string get_last_error() const override { return CABLE_IS_OUT; }
+        } bus;
+        bus.answer(0x05, {0x01});
+        FLOW flow;
+        flow.push_back(operation_of(0, {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_NAME, "Poll"}})}));
+        GFPE_TRACE_LOG log(10);
+
+        const GFPE_RESULT result = run_flow({"chip", 1024, 1, {}}, flow, bus, {}, nullptr, nullptr, &log);
+
+        QCOMPARE(int(result.verdict), int(GFPE_VERDICT::LOST));
+        QCOMPARE(report_of(result), "Initialization, action 1 \"Poll\": expected 00 with mask 01, received 01. " +
+                                        std::string(CABLE_IS_OUT));
+        QCOMPARE(failed_at(result), std::string("I 1: Poll"));
+        QCOMPARE(result.failure->received, BYTES{0x01});
+    }
+
     void a_connection_that_does_not_do_its_work_is_lost_data()
     {
         rows<int, QByteArray>({{"too few bytes", 0, "The connection gave 2 bytes instead of 3."},
