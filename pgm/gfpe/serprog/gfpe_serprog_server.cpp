@@ -21,8 +21,6 @@ using CLOCK = std::chrono::steady_clock;
 
 // How long the end of the server goes unnoticed.
 constexpr int SLICE_MS = 50;
-// A client that takes no answers for this time is dropped; one that asks nothing, when another one waits.
-constexpr std::chrono::seconds SILENCE(30);
 constexpr std::size_t BUFFER_BYTES = 65536;
 
 void set_option(int socket, int level, int option)
@@ -37,7 +35,7 @@ void set_option(int socket, int level, int option)
 class GFPE_SERPROG_SERVER::SOCKET
 {
 public:
-    SOCKET() : m_in(BUFFER_BYTES) {}
+    explicit SOCKET(std::chrono::milliseconds silence) : m_silence(silence), m_in(BUFFER_BYTES) {}
 
     bool listen(bool on_every_address, int port, std::string& problem)
     {
@@ -78,7 +76,7 @@ public:
                 return;
             if (state == GFPE_LINE_STATE::DONE)
                 last = CLOCK::now();
-            else if (CLOCK::now() - last > SILENCE && is_client_waiting(0))
+            else if (CLOCK::now() - last > m_silence && is_client_waiting(0))
                 return;
             if (!answer(client, talk, length, ends))
                 return;
@@ -109,25 +107,33 @@ private:
 
     bool send(GFPE_LINE& client, const std::function<bool()>& ends)
     {
-        const CLOCK::time_point end = CLOCK::now() + SILENCE;
+        CLOCK::time_point last = CLOCK::now();
         std::size_t at = 0;
         while (at < m_out.size()) {
             std::size_t sent = 0;
             const GFPE_LINE_STATE state = client.write(m_out.data() + at, m_out.size() - at, sent, SLICE_MS);
             at += sent;
-            if (state == GFPE_LINE_STATE::LOST || ends() || CLOCK::now() > end)
+            if (state == GFPE_LINE_STATE::LOST || ends())
+                return false;
+            if (state == GFPE_LINE_STATE::DONE)
+                last = CLOCK::now();
+            else if (CLOCK::now() - last > m_silence)
                 return false;
         }
         m_out.clear();
         return true;
     }
 
+    const std::chrono::milliseconds m_silence;
     QTcpServer m_server;
     std::vector<std::uint8_t> m_in;
     std::vector<std::uint8_t> m_out;
 };
 
-GFPE_SERPROG_SERVER::GFPE_SERPROG_SERVER(GFPE_BUS& bus) : m_bus(bus), m_socket(std::make_unique<SOCKET>()) {}
+GFPE_SERPROG_SERVER::GFPE_SERPROG_SERVER(GFPE_BUS& bus, std::chrono::milliseconds silence)
+    : m_bus(bus), m_socket(std::make_unique<SOCKET>(silence))
+{}
+
 GFPE_SERPROG_SERVER::~GFPE_SERPROG_SERVER() = default;
 
 bool GFPE_SERPROG_SERVER::listen(bool on_every_address, int port, std::string& problem)

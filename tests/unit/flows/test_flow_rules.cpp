@@ -507,6 +507,17 @@ private slots:
         QCOMPARE(run.result.problems[0].text, std::string("The device has no ID to compare with."));
     }
 
+    void an_id_that_is_longer_than_the_answer_is_compared_as_far_as_that()
+    {
+        RUN run(256);
+        run.bus.answer(0x9F, {0xC2});
+
+        QVERIFY(run.execute(GFPE_PHASE::INITIALIZATION,
+                            {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_COMMAND, "0x9F"},
+                                                            {GFPDB_RR_EXPECTED_DATA, "id"},
+                                                            {GFPDB_RR_EXPECTED_DATA_MASK, "0xFF"}})}));
+    }
+
     void dies_of_different_sizes_are_refused()
     {
         RUN run(256 * K, 3);
@@ -557,6 +568,39 @@ private slots:
         const QString lines =
             QString("%1-%2-%3").arg(command.opcode_lines).arg(command.address_lines).arg(command.data_lines);
         QCOMPARE(lines, QString(width));
+    }
+
+    void a_command_has_the_lines_of_its_action_data()
+    {
+        rows<int, int, QByteArray, QString>(
+            {{"written register", int(GFPDB_ACT_WRITE_REGISTER), int(GFPDB_WR_BUS_WIDTH), "2-2", "2-1-2"},
+             {"read register", int(GFPDB_ACT_READ_REGISTER), int(GFPDB_RR_BUS_WIDTH), "1-4", "1-1-4"},
+             {"page", int(GFPDB_ACT_WRITE_DATA), int(GFPDB_WD_BUS_WIDTH), "1-2-2", "1-2-2"},
+             {"erase", int(GFPDB_ACT_ERASE), int(GFPDB_ER_BUS_WIDTH), "1-4", "1-4-1"},
+             {"erase with its command on two lines", int(GFPDB_ACT_ERASE), int(GFPDB_ER_BUS_WIDTH), "2-2", "2-2-1"}});
+    }
+
+    void a_command_has_the_lines_of_its_action()
+    {
+        const auto [type, property, width, lines] = row<int, int, QByteArray, QString>();
+        RUN run(256);
+        run.image.add(0, BYTES(256, 0x00));
+        const auto action = [&, type = type, property = property, width = width] {
+            return make(type, {{property, width.constData()},
+                               {GFPDB_WR_DATA, "0x01"},
+                               {GFPDB_WD_ADDRESS, "0x00000000"},
+                               {GFPDB_ER_ADDRESS, "0x00000000"}});
+        };
+
+        QVERIFY(run.execute(GFPE_PHASE::PROGRAM, {action()}));
+
+        const GFPE_COMMAND& command = run.bus.m_commands.at(0);
+        QCOMPARE(QString("%1-%2-%3").arg(command.opcode_lines).arg(command.address_lines).arg(command.data_lines),
+                 lines);
+        run.bus.m_commands.clear();
+        run.bus.m_abilities.lines = 1;
+        QVERIFY(!run.execute(GFPE_PHASE::PROGRAM, {action()}));
+        QVERIFY(run.is_refused("This connection has one data line; the flow needs ", 0));
     }
 
     void the_mask_applies_to_what_is_read_data()

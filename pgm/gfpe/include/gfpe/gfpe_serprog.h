@@ -7,6 +7,7 @@
 #include "gfpe/gfpe_bus.h"
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -29,8 +30,11 @@ GFPE_EXPORT std::unique_ptr<GFPE_BUS> gfpe_serprog_over_line(const std::string& 
 class GFPE_EXPORT GFPE_SERPROG_SERVER
 {
 public:
-    // `bus` outlives the server.
-    explicit GFPE_SERPROG_SERVER(GFPE_BUS& bus);
+    static constexpr std::chrono::seconds SILENCE{30};
+
+    // `bus` outlives the server. A client that takes no answers for the time of `silence` is dropped; one that asks
+    // nothing, when another one waits.
+    explicit GFPE_SERPROG_SERVER(GFPE_BUS& bus, std::chrono::milliseconds silence = SILENCE);
     ~GFPE_SERPROG_SERVER();
 
     // Listens on 127.0.0.1, or on every address of this machine; port 0 for any free one. False: `problem` says why.

@@ -15,6 +15,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using BYTES = std::vector<std::uint8_t>;
 
@@ -104,6 +105,21 @@ private slots:
 
         QVERIFY(!image->read(150000, &byte, 1, problem));
         QCOMPARE(problem, std::string("The file \"long.bin\" was changed while it was used."));
+    }
+
+    // As on a share whose server has gone.
+    void a_file_that_fails_while_it_is_read_is_an_error()
+    {
+        const int next = ::open(".", O_RDONLY);
+        ::close(next);
+        std::string problem;
+        const auto image = gfpe_file_image(make("failing.bin", "x"), 0, 1024, problem);
+        QVERIFY(image);
+        ::close(next);
+        std::uint8_t byte = 0;
+
+        QVERIFY(!image->read(0, &byte, 1, problem));
+        QCOMPARE(problem, std::string("The file \"failing.bin\" cannot be read: Bad file descriptor."));
     }
 
     void a_file_of_one_byte_is_an_image()

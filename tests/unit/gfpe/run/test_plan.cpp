@@ -14,8 +14,6 @@
 
 namespace {
 
-using ACTIONS = std::vector<GFPDB_ACTION*>;
-
 constexpr std::int64_t K = 1024;
 constexpr GFPE_ABILITIES ANY = {4, 0, 0, 0};
 
@@ -65,7 +63,17 @@ QString text_of(const std::vector<GFPE_RANGE>& ranges)
     return texts.join(' ');
 }
 
+// What a problem is about, as "operation action".
+QString place_of(const GFPE_PROBLEM& problem)
+{
+    return QString("%1 %2").arg(problem.operation).arg(problem.action);
+}
+
+using MAKER = std::function<FLOW::value_type()>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(MAKER)
 
 class TEST_PLAN : public QObject
 {
@@ -88,6 +96,9 @@ private slots:
               "Program, action 3, Loop over each \"page\": A loop over each page cannot be in a loop over each "
               "page. "
               "Allowed: a loop over each page or sector in a loop over each die."},
+             {"a name", int(GFPDB_OPERATION_TERMINATION), 0, int(GFPDB_WR_NAME), " ",
+              "Termination, action 1 \" \", Name \" \": \" \" is not allowed for \"Name\". Allowed: a text of 1 to "
+              "64 characters on one line."},
              {"an address", int(GFPDB_OPERATION_VERIFY), 0, int(GFPDB_RD_ADDRESS), "loop",
               "Verify/Blank-Check/Examine, action 1 \"Read Data\", Address \"loop\": The value \"loop\" is outside "
               "any loop."}});
@@ -142,6 +153,17 @@ private slots:
         QVERIFY(plan.check({}, ANY).empty());
         QCOMPARE(texts_of(plan.check(order_of("P"), ANY)), QStringList("Program: The operation has no actions."));
         QVERIFY(plan_of(device(), usual_flow())->has_actions(GFPDB_OPERATION_TERMINATION));
+    }
+
+    void an_operation_of_no_known_kind_is_left_out()
+    {
+        FLOW flow = usual_flow();
+        for (const int kind : {-1, int(GFPDB_OPERATION_COUNT)}) {
+            flow.push_back(operation_of(GFPDB_OPERATION_PROGRAM, {write_register()}));
+            flow.back()->m_kind = kind;
+        }
+
+        QCOMPARE(texts_of(plan_of(device(), flow)->check(order_of("EPV"), ANY)), QStringList());
     }
 
     void a_range_is_within_the_device_data()
@@ -200,6 +222,52 @@ private slots:
             plan_of(device(), flow)->check(order_of(order.toStdString()), {lines, longest_write, longest_read, 0});
 
         QCOMPARE(texts_of(problems).join('|'), text);
+        if (text.startsWith("This"))
+            QCOMPARE(place_of(problems[0]), QString("-1 0"));
+    }
+
+    void what_does_not_fit_the_device_is_said_data()
+    {
+        rows<qint64, MAKER, QString>(
+            {{"a page size", 1000, MAKER([] {
+                  return operation_of(GFPDB_OPERATION_PROGRAM, {start("page"), write_data(), end("page")});
+              }),
+              "Program, action 2 \"Write Data\", Page size(byte) \"256\": The page size does not divide the 1000 bytes "
+              "that the loop walks over."},
+             {"a page behind the end", 256, MAKER([] {
+                  return operation_of(GFPDB_OPERATION_PROGRAM, {write_data({{GFPDB_WD_ADDRESS, "0x00000001"}})});
+              }),
+              "Program, action 1 \"Write Data\", Address \"0x00000001\": Reaches beyond the end of the device: 256 "
+              "bytes from position 0x00000001 on."},
+             {"a page behind the end of a die", 256, MAKER([] {
+                  return operation_of(GFPDB_OPERATION_PROGRAM,
+                                      {start("die"), write_data({{GFPDB_WD_ADDRESS, "die"}}), end("die")});
+              }),
+              "Program, action 2 \"Write Data\", Address \"die\": Reaches beyond the end of the die: 256 bytes from "
+              "position 0x00000000 on."},
+             {"a read with three address bytes", 32 * K * K,
+              MAKER([] { return operation_of(GFPDB_OPERATION_VERIFY, {read_data()}); }),
+              "Verify/Blank-Check/Examine, action 1 \"Read Data\", Address \"0x00000000\": The address 0x01FFFFFF does "
+              "not fit 3 address bytes."},
+             {"bytes that nobody reads", 256, MAKER([] {
+                  return operation_of(GFPDB_OPERATION_VERIFY, {read_data({{GFPDB_RD_DATA_LENGTH, "100"}})});
+              }),
+              "Verify/Blank-Check/Examine: The operation does not compare all that was asked for: position 0x00000064 "
+              "is not read."}});
+    }
+
+    void what_does_not_fit_the_device_is_said()
+    {
+        const auto [bytes, make_operation, text] = row<qint64, MAKER, QString>();
+        FLOW flow;
+        flow.push_back(make_operation());
+        const int kind = flow[0]->m_kind;
+
+        const auto problems =
+            plan_of(device(bytes, 2), flow)->check(order_of(kind == GFPDB_OPERATION_PROGRAM ? "P" : "B"), ANY);
+
+        QCOMPARE(texts_of(problems), QStringList(text));
+        QCOMPARE(problems[0].operation, kind);
     }
 
     // What is not of the image is sent in one command, or not at all.
@@ -304,6 +372,8 @@ private slots:
         QCOMPARE(plan.get_device().name, std::string("W25M512JV"));
         QCOMPARE(plan.get_device().bytes, 64 * K * K);
         QCOMPARE(plan.get_device().dies, 2);
+        for (int kind = 0; kind < GFPDB_OPERATION_COUNT; ++kind)
+            QVERIFY(plan.has_actions(kind));
         QCOMPARE(plan.get_device().id, (BYTES{0xEF, 0x71, 0x19}));
         QVERIFY(!plan.check({}, {1, 0, 0, 0}).empty() || !plan.check(order_of("V"), {1, 0, 0, 0}).empty());
         QVERIFY(GFPE_PLAN(record, false).check(order_of("EPV"), {1, 0, 0, 0}).empty());
@@ -324,6 +394,7 @@ private slots:
         const GFPE_PLAN plan(record, false);
 
         QCOMPARE(texts_of(plan.check(order_of("E"), ANY)), QStringList("Erase: The operation has no actions."));
+        QCOMPARE(plan.get_device().dies, 1);
     }
 
     void an_order_without_its_image_is_refused_data()

@@ -122,7 +122,7 @@ public:
         return GFPE_LINE_STATE::DONE;
     }
 
-    GFPE_LINE_STATE read(std::uint8_t* bytes, std::size_t most, std::size_t& length, int) override
+    GFPE_LINE_STATE read(std::uint8_t* bytes, std::size_t most, std::size_t& length, int milliseconds) override
     {
         length = 0;
         if (is_lost())
@@ -134,6 +134,7 @@ public:
         }
         if (length == 0 && m_faults.endless)
             bytes[length++] = 0x55;
+        waited_in_vain += length == 0 && milliseconds > 0 ? 1 : 0;
         return length > 0 ? GFPE_LINE_STATE::DONE : GFPE_LINE_STATE::TIMED_OUT;
     }
 
@@ -144,6 +145,8 @@ public:
     // What was sent at a time, in their order; and the number of the next byte of the answers.
     QList<QByteArray> writes;
     int position = 0;
+    // How often nothing came until the end of the time.
+    int waited_in_vain = 0;
 
 private:
     bool is_lost() const { return m_faults.lost_at >= 0 && position >= m_faults.lost_at; }

@@ -202,6 +202,46 @@ private slots:
         QCOMPARE(answer_of(*connected(server.port()), 0x05, 1), QByteArray("10"));
     }
 
+    // As above, but the client stays.
+    void a_silent_client_is_dropped_when_another_one_waits_data()
+    {
+        rows<QString, int>({{"asks nothing", "", 1}, {"takes no answers", "13 01 00 00 00 00 01 03", 2000}});
+    }
+    void a_silent_client_is_dropped_when_another_one_waits()
+    {
+        const auto [sent, times] = row<QString, int>();
+        NOTING_BUS bus;
+        const SERVING_THREAD server(bus, std::chrono::milliseconds(0));
+        QTcpSocket client;
+        client.setReadBufferSize(1);
+        client.connectToHost(QLatin1String(LOCAL), static_cast<quint16>(server.port()));
+        QVERIFY(client.waitForConnected());
+        client.write(QByteArray::fromHex(sent.toLatin1()).repeated(times));
+        client.flush();
+
+        QTcpSocket next;
+        next.connectToHost(QLatin1String(LOCAL), static_cast<quint16>(server.port()));
+        QVERIFY(next.waitForConnected());
+        next.write(QByteArray(1, 0));
+
+        // No answer of the first one is among them.
+        QVERIFY(next.waitForReadyRead());
+        QCOMPARE(next.readAll(), QByteArray(1, 6));
+    }
+
+    void a_silent_client_stays_when_no_other_one_waits()
+    {
+        NOTING_BUS bus;
+        const SERVING_THREAD server(bus, std::chrono::milliseconds(0));
+        const std::unique_ptr<GFPE_BUS> client = connected(server.port());
+        const int before = server.rounds();
+
+        QTRY_VERIFY(server.rounds() > before + 3);
+
+        QCOMPARE(answer_of(*client, 0x05, 1), QByteArray("10"));
+        QCOMPARE(GFPE_SERPROG_SERVER::SILENCE.count(), 30);
+    }
+
     // Which is 127.0.0.2 as well, for who listens on every address.
     void the_port_is_on_this_machine_alone_data() { rows<bool>({{"alone", false}, {"every address", true}}); }
     void the_port_is_on_this_machine_alone()
