@@ -18,7 +18,7 @@ _gfpdb_names()
 _gfpdb()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
-    local commands="list show export import check history restore diff sfdp help"
+    local commands="list show export import check history restore diff sfdp copy server help"
     local common="--dir --verbose --help" options=""
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
@@ -26,11 +26,11 @@ _gfpdb()
         return
     fi
     case $previous in
-    -d | --dir)
+    -d | --dir | --from | --to)
         mapfile -t COMPREPLY < <(compgen -d -- "$current")
         return
         ;;
-    -o | --output)
+    -o | --output | --sslrootcert)
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return
         ;;
@@ -38,6 +38,11 @@ _gfpdb()
         mapfile -t COMPREPLY < <(compgen -W "single quad both" -- "$current")
         return
         ;;
+    --sslmode)
+        mapfile -t COMPREPLY < <(compgen -W "disable allow prefer require verify-ca verify-full" -- "$current")
+        return
+        ;;
+    --host | --port | --database | --schema | --user) return ;;
     --family | --scheme | --filter | --as | --older-than | --keep | --id)
         return
         ;;
@@ -52,6 +57,8 @@ _gfpdb()
     restore) options="--replace --as" ;;
     diff) options="--json --family --scheme" ;;
     sfdp) options="--id --json" ;;
+    copy) options="--from --to" ;;
+    server) options="--host --port --database --schema --user --sslmode --sslrootcert --json" ;;
     help)
         mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$current")
         return
@@ -63,6 +70,10 @@ _gfpdb()
     fi
     case $command in
     show | export | history) _gfpdb_names ;;
+    server)
+        ((COMP_CWORD == 2)) && mapfile -t COMPREPLY < <(compgen -W "sql init status" -- "$current")
+        ((COMP_CWORD > 2)) && mapfile -t COMPREPLY < <(compgen -d -- "$current")
+        ;;
     import | sfdp) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
     diff)
         _gfpdb_names

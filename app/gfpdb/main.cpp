@@ -3,12 +3,14 @@
 // gfpdb: the command line tool of the flash database.
 #include "cli_program.h"
 #include "commands/check_command.h"
+#include "commands/copy_command.h"
 #include "commands/diff_command.h"
 #include "commands/export_command.h"
 #include "commands/history_command.h"
 #include "commands/import_command.h"
 #include "commands/list_command.h"
 #include "commands/restore_command.h"
+#include "commands/server_command.h"
 #include "commands/sfdp_command.h"
 #include "commands/show_command.h"
 
@@ -27,6 +29,8 @@ CLI_PROGRAM make_program()
     program.commands.push_back(std::make_unique<CLI_RESTORE_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_DIFF_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_SFDP_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_COPY_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_SERVER_COMMAND>());
     return program;
 }
 

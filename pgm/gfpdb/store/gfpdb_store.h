@@ -44,6 +44,9 @@ struct GFPDB_SEEN_STATES
     std::vector<std::string> templates;
 };
 
+// Hears of one thing that a store keeps (GFPDB_STORE::read_all()); false when it can take no more.
+using GFPDB_HEAR_STORED = std::function<bool(const GFPDB_HISTORY_ENTRY&)>;
+
 class GFPDB_STORE
 {
 public:
@@ -138,6 +141,17 @@ public:
     // that is replaced.
     virtual bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name,
                          std::string* seen = nullptr) = 0;
+
+    // All that is stored, as it was at one time, with flows: the devices, the templates, then the states of the history
+    // in the order of their numbers; a device or template has the number 0. False when that fails, or when `hear`
+    // returns false, which ends it.
+    virtual bool read_all(const GFPDB_HEAR_STORED& hear) = 0;
+    // The highest number that a state of the history was ever given; 0 before the first.
+    virtual std::int64_t get_last_state() = 0;
+    // Stores what `source` tells the function that it is given, in the order of read_all(), as it is: with revisions,
+    // numbers, names and times. Later states get numbers above `last_state`. Refused when anything is stored here, in
+    // the history too; nothing is stored when `source` returns false.
+    virtual bool fill(const std::function<bool(const GFPDB_HEAR_STORED& put)>& source, std::int64_t last_state) = 0;
 
     // Removes states from the history, all at once; their number, or none on failure.
     virtual std::optional<int> prune_history(const GFPDB_PRUNING& pruning) = 0;

@@ -104,7 +104,7 @@ private slots:
               "GFPDB_NEW_DEVICE::operator= GFPDB_NEW_DEVICE::set_value GFPDB_NEW_DEVICE::~GFPDB_NEW_DEVICE "
               "gfpdb_address_text gfpdb_byte_text "
               "gfpdb_bytes_text gfpdb_catalogue_parts gfpdb_catalogue_problem gfpdb_check_flow gfpdb_check_record "
-              "gfpdb_check_server gfpdb_compare_with_catalogue gfpdb_copy_of "
+              "gfpdb_check_server gfpdb_compare_with_catalogue gfpdb_copy_database gfpdb_copy_of "
               "gfpdb_decimal_text gfpdb_density_bytes gfpdb_device_id_bytes gfpdb_from_utf8 gfpdb_name_key "
               "gfpdb_names_server gfpdb_operations "
               "gfpdb_parse_address gfpdb_parse_bus_width gfpdb_parse_byte gfpdb_parse_bytes gfpdb_parse_decimal "

@@ -17,7 +17,8 @@
 
 namespace {
 
-const QStringList COMMANDS = {"list", "show", "export", "import", "check", "history", "restore", "diff", "sfdp"};
+const QStringList COMMANDS = {"list",    "show", "export", "import", "check", "history",
+                              "restore", "diff", "sfdp",   "copy",   "server"};
 
 QByteArray run_on_terminal(const QStringList& arguments)
 {
@@ -59,7 +60,9 @@ private slots:
                                 "  history   List former states of records\n"
                                 "  restore   Restore a former state\n"
                                 "  diff      Compare two records\n"
-                                "  sfdp      Show what a chip says of itself (SFDP)\n\n"
+                                "  sfdp      Show what a chip says of itself (SFDP)\n"
+                                "  copy      Copy the whole database to another directory or server\n"
+                                "  server    Set up a directory whose database is on a PostgreSQL server\n\n"
                                 "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
                                 "version.\n"));
         }
@@ -83,7 +86,14 @@ private slots:
               QStringList{"--prune", "--older-than", "--keep", "--force", "--json", "--family", "--scheme"}},
              {"restore", "[options] ID\nRestore a former state.\n", QStringList{"--replace", "--as"}},
              {"diff", "[options] LEFT RIGHT\nCompare two records.\n", QStringList{"--json", "--family", "--scheme"}},
-             {"sfdp", "[options] FILE\nShow what a chip says of itself (SFDP).\n", QStringList{"--id", "--json"}}});
+             {"sfdp", "[options] FILE\nShow what a chip says of itself (SFDP).\n", QStringList{"--id", "--json"}},
+             {"copy",
+              "[options] --from DIRECTORY --to DIRECTORY\nCopy the whole database to another directory or server.\n",
+              QStringList{"--from", "--to"}},
+             {"server",
+              "[options] sql|init|status [DIRECTORY]\nSet up a directory whose database is on a PostgreSQL server.\n",
+              QStringList{"--host", "--port", "--database", "--schema", "--user", "--sslmode", "--sslrootcert",
+                          "--json"}}});
     }
 
     void every_command_explains_itself()

@@ -49,6 +49,25 @@ GFPDB_ROW record_at(const QSqlQuery& query, int first, bool with_flows)
     return row;
 }
 
+// What insertion() asks for behind the key.
+std::string placeholders()
+{
+    std::string marks;
+    for (const GFPDB_FIELD& field : gfpdb_fields())
+        marks += field.is_text() ? ", CAST(? AS TEXT)" : ", ?";
+    return marks + ", ?, ?, ?)";
+}
+
+QVariantList field_values(const GFPDB_ROW& row)
+{
+    QVariantList values;
+    for (const GFPDB_FIELD& field : gfpdb_fields()) {
+        const QByteArray bytes = GFPDB_SQL::bytes_of(field.text(row));
+        values << (field.is_text() ? QVariant(bytes) : bytes.isEmpty() ? QVariant(QVariant::Int) : bytes.toInt());
+    }
+    return values;
+}
+
 } // namespace
 
 namespace GFPDB_SQL {
@@ -61,20 +80,24 @@ const std::string& columns()
 
 std::string insertion(const std::string& table, const std::string& key)
 {
-    std::string statement = "INSERT INTO " + table + " (" + key + ", " + columns() + ") VALUES (CAST(? AS TEXT)";
-    for (const GFPDB_FIELD& field : gfpdb_fields())
-        statement += field.is_text() ? ", CAST(? AS TEXT)" : ", ?";
-    return statement + ", ?, ?, ?)";
+    return "INSERT INTO " + table + " (" + key + ", " + columns() + ") VALUES (CAST(? AS TEXT)" + placeholders();
+}
+
+std::string history_insertion()
+{
+    return "INSERT INTO history (id, is_template, reason, changed_at, changed_by, name_key, " + columns() +
+           ") VALUES (?, ?, ?, ?, ?, CAST(? AS TEXT)" + placeholders();
 }
 
 QVariantList values_of(const GFPDB_ROW& row)
 {
-    QVariantList values;
-    for (const GFPDB_FIELD& field : gfpdb_fields()) {
-        const QByteArray bytes = bytes_of(field.text(row));
-        values << (field.is_text() ? QVariant(bytes) : bytes.isEmpty() ? QVariant(QVariant::Int) : bytes.toInt());
-    }
-    return values << gfpdb_from_utf8(row.revision) << now() << here();
+    return field_values(row) << gfpdb_from_utf8(row.revision) << now() << here();
+}
+
+QVariantList values_as_they_are(const GFPDB_ROW& row)
+{
+    return field_values(row) << gfpdb_from_utf8(row.revision) << gfpdb_from_utf8(row.saved_at)
+                             << gfpdb_from_utf8(row.saved_by);
 }
 
 std::string scalars_read(int schema)

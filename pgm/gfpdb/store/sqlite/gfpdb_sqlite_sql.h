@@ -49,6 +49,9 @@ const std::string& columns();
 // values_of().
 std::string insertion(const std::string& table, const std::string& key);
 QVariantList values_of(const GFPDB_ROW& row);
+// The same for a state of the history, and for a record that is stored as it is, with who saved it and when.
+std::string history_insertion();
+QVariantList values_as_they_are(const GFPDB_ROW& row);
 
 // What is selected of a record, without its flows or with them, from a file of that schema; and the record in such
 // columns from `first` on.

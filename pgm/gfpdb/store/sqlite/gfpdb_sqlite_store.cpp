@@ -59,8 +59,8 @@ std::string line_at(const QSqlQuery& query, int column)
     return line;
 }
 
-// The columns of history_statement().
-GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
+// The columns of history_statement() before the record's.
+GFPDB_HISTORY_ENTRY change_at(const QSqlQuery& query)
 {
     GFPDB_HISTORY_ENTRY entry;
     entry.id = query.value(0).toLongLong();
@@ -72,6 +72,14 @@ GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query)
 }
 
 } // namespace
+
+// The columns of history_statement(all()).
+GFPDB_HISTORY_ENTRY GFPDB_SQLITE_STORE::history_at(const QSqlQuery& query) const
+{
+    GFPDB_HISTORY_ENTRY entry = change_at(query);
+    entry.row = full_row(query, HISTORY_COLUMNS);
+    return entry;
+}
 
 std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory)
 {
@@ -377,7 +385,7 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history(const std::stri
         return entries;
     const std::string key = gfpdb_name_key(name);
     while (next_row(query)) {
-        GFPDB_HISTORY_ENTRY entry = history_at(query);
+        GFPDB_HISTORY_ENTRY entry = change_at(query);
         entry.row = scalars_at(query, HISTORY_COLUMNS);
         if (name.empty() || gfpdb_name_key(entry.name()) == key)
             entries.push_back(std::move(entry));
@@ -392,9 +400,7 @@ std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t
         !go_on_reading(query, history_statement(all(), "WHERE id = ?"), {static_cast<qlonglong>(id)}) ||
         !next_row(query))
         return std::nullopt;
-    GFPDB_HISTORY_ENTRY entry = history_at(query);
-    entry.row = full_row(query, HISTORY_COLUMNS);
-    return entry;
+    return history_at(query);
 }
 
 bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string* seen)

@@ -66,6 +66,9 @@ public:
     std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name) override;
     std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) override;
     bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string* seen) override;
+    bool read_all(const GFPDB_HEAR_STORED& hear) override;
+    std::int64_t get_last_state() override;
+    bool fill(const std::function<bool(const GFPDB_HEAR_STORED& put)>& source, std::int64_t last_state) override;
     std::optional<int> prune_history(const GFPDB_PRUNING& pruning) override;
     std::vector<GFPDB_MISPLACED> get_misplaced() override;
     std::optional<int> rebuild_keys() override;
@@ -99,6 +102,7 @@ private:
     bool finds_none(QSqlQuery& query, const char* what, const std::string& name);
     std::string history_statement(const std::string& columns, const char* which) const;
     GFPDB_ROW full_row(const QSqlQuery& query, int first) const;
+    GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query) const;
     bool look_up(const std::string& statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
     bool check_no_such_device(int family, int scheme, const std::string& name);
     bool check_free_names(const GFPDB_ROW& row);
@@ -126,6 +130,13 @@ private:
     bool insert_taken(const GFPDB_TAKEN& taken);
     bool mark_taken(const GFPDB_TAKEN& taken, const char* reason);
     bool forget_taken(const GFPDB_TAKEN& taken);
+
+    // gfpdb_sqlite_store_copy.cpp: all that is stored, out and in.
+    bool read_table(const char* table, bool is_template, const GFPDB_HEAR_STORED& hear);
+    bool read_states(const GFPDB_HEAR_STORED& hear);
+    bool check_empty();
+    bool put(QSqlQuery& query, const QVariantList& values);
+    bool note_last_state(std::int64_t number);
 
     // gfpdb_sqlite_store_upkeep.cpp: keeping the history small and the keys right.
     bool is_stored(const GFPDB_HISTORY_ENTRY& entry);

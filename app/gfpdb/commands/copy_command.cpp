@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "commands/copy_command.h"
+
+#include "gfpdb/gfpdb_copy.h"
+
+namespace {
+
+constexpr const char* OPTION_FROM = "from";
+constexpr const char* OPTION_TO = "to";
+
+std::string counted(int number, const char* one, const char* several)
+{
+    return std::to_string(number) + ' ' + (number == 1 ? one : several);
+}
+
+std::string summary_of(const GFPDB_COPY& copy)
+{
+    return counted(copy.devices, "device", "devices") + ", " + counted(copy.templates, "template", "templates") +
+           " and " + counted(copy.states, "state", "states") + " of the history";
+}
+
+} // namespace
+
+void CLI_COPY_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    parser.addOption({QLatin1String(OPTION_FROM), QStringLiteral("The database directory that is copied."),
+                      QStringLiteral("directory")});
+    parser.addOption({QLatin1String(OPTION_TO),
+                      QStringLiteral("The directory of the copy, which must exist. Its database is empty or missing."),
+                      QStringLiteral("directory")});
+}
+
+int CLI_COPY_COMMAND::run(const CLI_CALL& call) const
+{
+    if (call.has(CLI_OPTION_DIR))
+        return call.wrong_usage("copy has --from and --to instead of --dir.");
+    const std::string from = call.value(OPTION_FROM);
+    const std::string to = call.value(OPTION_TO);
+    if (from.empty() || to.empty())
+        return call.wrong_usage("copy needs --from and --to.");
+    const auto progress = [&call](const std::string& line) { call.output.progress_line(line); };
+    const GFPDB_COPY copy =
+        gfpdb_copy_database(from, to, [&progress](int done) { progress("Copied " + std::to_string(done)); });
+    call.output.finish_progress();
+    if (!copy.problem.empty())
+        return call.database_failed(copy.problem);
+    call.output.print("Copied " + summary_of(copy) + " from " + from + " to " + to + ", and compared them.\n");
+    return CLI_EXIT_OK;
+}
