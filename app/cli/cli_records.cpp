@@ -81,6 +81,10 @@ void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records)
             if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_FLASH_TEMPLATE_NAME)
                 add_value(json, value);
         }
+        if (!listed.is_builtin) {
+            json.add("saved_at", listed.record.row.saved_at);
+            json.add("saved_by", listed.record.row.saved_by);
+        }
         json.end_object();
     }
 }

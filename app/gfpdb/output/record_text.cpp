@@ -73,6 +73,8 @@ std::string record_to_text(const GFPDB_RECORD& record, bool with_single, bool wi
         if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_NO_PROPERTY)
             text += line(value.title, value.text);
     }
+    if (!row.saved_at.empty())
+        text += line("Saved", row.saved_at + (row.saved_by.empty() ? std::string() : " by " + row.saved_by));
     if (with_single && !add_flows(text, "Single-I/O flow", record, false))
         return std::string();
     if (with_quad && !add_flows(text, "Quad-I/O flow", record, true))

@@ -7,6 +7,9 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+// What a colleague has saved.
+constexpr char STAMP[] = " SET saved_at = '2026-11-22T09:14:33Z', saved_by = 'anna@lab'";
+
 class TEST_CLI_SHOW : public CLI_TEST
 {
     Q_OBJECT
@@ -94,16 +97,20 @@ private slots:
     void list_prints_json_and_csv()
     {
         save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
+        for (const char* table : {"device", "template"})
+            run_sql(m_place->db_file(), "UPDATE " + std::string(table) + STAMP);
         const TOOL_RUN run = tool({"list", "--json"});
         QCOMPARE(run.exit_code, 0);
         const QByteArray rest = "    \"family\": 3,\n    \"scheme\": 7,\n    \"device_id\": \"0xC2 0x20 0x19\",\n"
                                 "    \"voltage\": \"3.3V\",\n    \"density\": \"256Mb\",\n    \"total_die\": 1,\n"
                                 "    \"single_io_dummy_clock\": 8,\n    \"quad_io_dummy_clock\": 6,\n"
-                                "    \"flow_template\": \"QE in SR1 bit 6, 4-byte address\"\n";
+                                "    \"flow_template\": \"QE in SR1 bit 6, 4-byte address\",\n"
+                                "    \"saved_at\": \"2026-11-22T09:14:33Z\",\n    \"saved_by\": \"anna@lab\"\n";
         QCOMPARE(run.out, "[\n  {\n    \"name\": \"Mine\",\n    \"kind\": \"device\",\n" + rest +
                               "  },\n  {\n    \"name\": \"T\",\n    \"kind\": \"template\",\n" + rest + "  }\n]\n");
         const QJsonObject builtin = json(run_tool({"list", "--builtin", "--json"})).array().at(0).toObject();
         QCOMPARE(builtin.value("kind").toString(), QString("builtin"));
+        QVERIFY(!builtin.contains("saved_at") && !builtin.contains("saved_by"));
         QVERIFY(builtin.value("family").isNull() && builtin.value("scheme").isNull());
 
         save_part("=A1", FAMILY, QUAD);
@@ -128,6 +135,10 @@ private slots:
         QVERIFY(run.out.contains("\nSingle-I/O flow\n  Initialization\n"));
         QVERIFY(run.out.contains("\nQuad-I/O flow\n  Initialization\n"));
 
+        run_sql(m_place->db_file(), std::string("UPDATE device") + STAMP);
+        QVERIFY(tool({"show", "mine"}).out.contains("\nSaved:                2026-11-22T09:14:33Z by anna@lab\n"));
+        run_sql(m_place->db_file(), "UPDATE device SET saved_by = ''");
+        QVERIFY(tool({"show", "mine"}).out.contains("\nSaved:                2026-11-22T09:14:33Z\n"));
         const TOOL_RUN as_json = tool({"show", "Mine", "--json"});
         const QJsonObject whole = json(tool({"export", "Mine"})).object();
         QCOMPARE(json(as_json).object(), whole.value("devices").toArray().at(0).toObject());
