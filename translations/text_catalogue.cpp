@@ -2,6 +2,7 @@
 #include "text_catalogue.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QLocale>
 
@@ -46,6 +47,11 @@ bool load(QTranslator& translator, const QString& name, const QString& tag, cons
 }
 
 } // namespace
+
+QStringList TEXT_CATALOGUE::installed_directories(const QString& program_directory)
+{
+    return {QDir::cleanPath(QDir(program_directory).absoluteFilePath(QStringLiteral("../share/gfpq/translations")))};
+}
 
 TEXT_CATALOGUE::TEXT_CATALOGUE(const QString& name, const QStringList& directories)
 {

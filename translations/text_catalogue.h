@@ -20,6 +20,9 @@
 class TEXT_CATALOGUE
 {
 public:
+    // Where the catalogues of the programs are, as seen from the directory of the programs.
+    static QStringList installed_directories(const QString& program_directory);
+
     TEXT_CATALOGUE(const QString& name, const QStringList& directories);
     ~TEXT_CATALOGUE();
     TEXT_CATALOGUE(const TEXT_CATALOGUE&) = delete;

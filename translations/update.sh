@@ -12,9 +12,10 @@ directory=${1:-translations}
 update() {
     local name=$1
     shift
-    QT_SELECT=qt5 lupdate -silent -no-obsolete -locations none -source-language en "$@" -ts "$directory/${name}"_[a-z][a-z].ts \
+    QT_SELECT=qt5 lupdate -silent -no-obsolete -locations none -source-language en -tr-function-alias tr+=say "$@" -ts "$directory/${name}"_[a-z][a-z].ts \
         "$directory/${name}"_[a-z][a-z]_[A-Z][A-Z].ts
 }
 
 update gfpq pgm/gfpq
 update gfpq_host app/gfpq_host
+update gfpdb pgm/gfpdb

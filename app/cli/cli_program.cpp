@@ -3,6 +3,7 @@
 
 #include "cli_file_names.h"
 #include "cli_place.h"
+#include "text_catalogue.h"
 
 #include "gfpdb/gfpdb_text.h"
 
@@ -14,6 +15,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstring>
+#include <optional>
 
 namespace {
 
@@ -233,5 +235,11 @@ int cli_main(int argc, char** argv, const CLI_PROGRAM& program)
     cli_use_file_names();
     qInstallMessageHandler(print_log);
     const QCoreApplication application(argc, argv);
-    return cli_run(program, application.arguments());
+    const QStringList arguments = QCoreApplication::arguments();
+    // What programs read is the same in every language.
+    std::optional<TEXT_CATALOGUE> database_texts;
+    if (!arguments.contains(QLatin1String("--") + QLatin1String(CLI_OPTION_JSON)))
+        database_texts.emplace(QStringLiteral("gfpdb"),
+                               TEXT_CATALOGUE::installed_directories(QCoreApplication::applicationDirPath()));
+    return cli_run(program, arguments);
 }

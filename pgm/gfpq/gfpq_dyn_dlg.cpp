@@ -45,7 +45,9 @@ private:
 
 void run_dialog(QWidget* parent, GFPQ_DYN_DLG_ARGS& args, bool enable_family, bool enable_config_mode, bool enable_edit)
 {
-    const TEXT_CATALOGUE texts(QStringLiteral("gfpq"), {QStringLiteral(":/gfpq/translations")});
+    const QStringList texts_inside(QStringLiteral(":/gfpq/translations"));
+    const TEXT_CATALOGUE database_texts(QStringLiteral("gfpdb"), texts_inside);
+    const TEXT_CATALOGUE texts(QStringLiteral("gfpq"), texts_inside);
     const std::map<int, std::vector<int>> family_schemes = args.family_schemes;
     const std::string device_name = args.device_name;
     GFPQ_DLG dialog(parent, args.family, args.config_scheme, device_name, enable_family, enable_config_mode,

@@ -115,7 +115,7 @@ int run_render(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSe
 int run_host(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
 {
     const HOST_TRANSLATION translation(arguments.language,
-                                       HOST_TRANSLATION::installed_directories(QCoreApplication::applicationDirPath()),
+                                       TEXT_CATALOGUE::installed_directories(QCoreApplication::applicationDirPath()),
                                        HOST_TRANSLATION::qt_directory());
     set_directories(app, arguments);
 

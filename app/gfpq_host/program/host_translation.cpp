@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "program/host_translation.h"
 
-#include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QLoggingCategory>
@@ -11,6 +10,7 @@ namespace {
 Q_LOGGING_CATEGORY(HOST_LOG, "host.app")
 
 const QString OWN_FILE = QStringLiteral("gfpq_host");
+const QString LIBRARY_FILE = QStringLiteral("gfpdb");
 const QString QT_FILE = QStringLiteral("qtbase");
 
 // English is what the sources are written in.
@@ -20,11 +20,6 @@ bool needs_translation(const QLocale& locale)
 }
 
 } // namespace
-
-QStringList HOST_TRANSLATION::installed_directories(const QString& program_directory)
-{
-    return {QDir::cleanPath(QDir(program_directory).absoluteFilePath(QStringLiteral("../share/gfpq/translations")))};
-}
 
 QString HOST_TRANSLATION::qt_directory()
 {
@@ -37,6 +32,7 @@ HOST_TRANSLATION::HOST_TRANSLATION(const QString& language, const QStringList& d
     const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
     QLocale::setDefault(locale);
     m_qt_texts.emplace(QT_FILE, QStringList(directory_of_qt));
+    m_library_texts.emplace(LIBRARY_FILE, directories);
     m_own_texts.emplace(OWN_FILE, directories);
     if (needs_translation(locale) && !m_own_texts->is_installed() && !language.isEmpty())
         qCWarning(HOST_LOG, "There are no texts in the language \"%s\"", qUtf8Printable(language));

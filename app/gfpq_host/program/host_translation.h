@@ -14,14 +14,11 @@
 class HOST_TRANSLATION
 {
 public:
-    // Where the project's own texts are, as seen from the directory of the programs.
-    static QStringList installed_directories(const QString& program_directory);
-
     // Where Qt's texts are.
     static QString qt_directory();
 
-    // Brings in the texts of `language`, of the system's language when it is empty: ours from the first of
-    // `directories` that has them, Qt's from `directory_of_qt`. A language that was asked for and has no texts of ours
+    // Brings in the texts of `language`, of the system's language when it is empty: the host's and the flash database's
+    // from the first of `directories` that has them, Qt's from `directory_of_qt`. A language that was asked for and has no texts of ours
     // is logged; the texts then stay English.
     HOST_TRANSLATION(const QString& language, const QStringList& directories, const QString& directory_of_qt);
     ~HOST_TRANSLATION();
@@ -30,5 +27,6 @@ public:
 
 private:
     std::optional<TEXT_CATALOGUE> m_qt_texts;
+    std::optional<TEXT_CATALOGUE> m_library_texts;
     std::optional<TEXT_CATALOGUE> m_own_texts;
 };

@@ -2,6 +2,7 @@
 #include "base/gfpdb_text.h"
 
 #include "base/gfpdb_log.h"
+#include "base/gfpdb_words.h"
 
 Q_LOGGING_CATEGORY(GFPDB_LOG, "pgm.gfpdb")
 
@@ -45,7 +46,8 @@ std::string gfpdb_case_note(const std::string& stored, const std::string& asked)
     const auto form = [](const std::string& name) {
         return gfpdb_from_utf8(name).normalized(QString::NormalizationForm_C);
     };
-    return form(stored) == form(asked) ? std::string() : " Upper and lower case count as the same.";
+    return form(stored) == form(asked) ? std::string()
+                                       : ' ' + GFPDB_WORDS::say("Upper and lower case count as the same.");
 }
 
 std::string gfpdb_quoted(const std::string& text)

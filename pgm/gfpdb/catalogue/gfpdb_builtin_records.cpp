@@ -2,6 +2,7 @@
 #include "catalogue/gfpdb_builtin_records.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_flow_templates.h"
 #include "gfpdb/gfpdb_catalogue.h"
 #include "model/gfpdb_field.h"
@@ -110,7 +111,7 @@ int gfpdb_builtin_template(const std::string& name)
     return place == names.end() ? -1 : static_cast<int>(place - names.begin());
 }
 
-bool gfpdb_check_record_name(const std::string& name, const std::string& what, std::string& error)
+bool gfpdb_check_record_name(const std::string& name, const char* what, std::string& error)
 {
     if (!gfpdb_check_name(name, what, error))
         return false;
@@ -120,7 +121,10 @@ bool gfpdb_check_record_name(const std::string& name, const std::string& what, s
         return true;
     const std::string& stored =
         part != nullptr ? part->name : gfpdb_builtin_template_names()[static_cast<std::size_t>(template_index)];
-    error = std::string("There is a built-in ") + (part != nullptr ? "device" : "template") + " called " +
-            gfpdb_quoted(stored) + ": choose another name." + gfpdb_case_note(stored, name);
+    const std::string in_the_way =
+        part != nullptr
+            ? GFPDB_WORDS::say("There is a built-in device called %1: choose another name.", {gfpdb_quoted(stored)})
+            : GFPDB_WORDS::say("There is a built-in template called %1: choose another name.", {gfpdb_quoted(stored)});
+    error = in_the_way + gfpdb_case_note(stored, name);
     return false;
 }

@@ -27,4 +27,4 @@ int gfpdb_builtin_template(const std::string& name);
 
 // True when a device or stored template can be called `name`, whatever the database holds: the name is well formed, and
 // nothing built in has it. Else `error` says why not; `what` says in it whose name it is.
-bool gfpdb_check_record_name(const std::string& name, const std::string& what, std::string& error);
+bool gfpdb_check_record_name(const std::string& name, const char* what, std::string& error);

@@ -164,7 +164,7 @@ const std::map<std::string, CELL_READER>& cell_readers()
         {NAME_COLUMN,
          [](CELL cell, GFPDB_PART& part, std::string& error) {
              part.name = cell;
-             return gfpdb_check_name(cell, "part name", error);
+             return gfpdb_check_name(cell, QT_TRANSLATE_NOOP("gfpdb", "part name"), error);
          }},
         {"manufacturer",
          [](CELL cell, GFPDB_PART& part, std::string& error) { return read_text(cell, part.manufacturer, error); }},

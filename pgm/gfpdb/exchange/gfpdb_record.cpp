@@ -3,6 +3,7 @@
 #include "exchange/gfpdb_record_rules.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "model/gfpdb_field.h"
 #include "model/gfpdb_flow_text.h"
 
@@ -35,7 +36,7 @@ std::vector<GFPDB_FINDING> gfpdb_check_record(GFPDB_MGR& manager, const GFPDB_RE
 {
     const std::optional<JSON_VALUE> json = gfpdb_record_to_json(record);
     if (!json)
-        return {{0, "", "The flows cannot be read."}};
+        return {{0, "", GFPDB_WORDS::say("The flows cannot be read.")}};
     GFPDB_RECORD_READER reader(manager, {false, GFPDB_RECORD_RULES::STORED, std::nullopt, std::nullopt});
     reader.read_record(*json, record.is_template, "");
     std::vector<GFPDB_FINDING> found = reader.problems();

@@ -2,6 +2,7 @@
 #include "exchange/gfpdb_record_rules.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_builtin_records.h"
 #include "gfpdb/gfpdb_part.h"
 #include "model/gfpdb_field.h"
@@ -68,7 +69,7 @@ void make_current(GFPDB_MGR& manager, const GFPDB_ROW& row)
 // What is there already keeps a name that a built-in device has got since.
 void check_name(const GFPDB_MGR& manager, bool of_template, const std::string& name, std::vector<GFPDB_FINDING>& found)
 {
-    const std::string what = of_template ? "template name" : "device name";
+    const char* const what = of_template ? "template name" : "device name";
     const bool keeps_name = gfpdb_builtin_part(name) != nullptr &&
                             (of_template ? manager.is_template(name) : manager.is_custom_flash(name));
     const char* member = of_template ? GFPDB_KEY_TEMPLATE_NAME : GFPDB_KEY_NAME;
@@ -89,19 +90,21 @@ void check_names(const GFPDB_MGR& manager, const GFPDB_RECORD& record, std::vect
         check_name(manager, true, row.template_name, found);
     if (found.empty() && gfpdb_name_key(row.name) == gfpdb_name_key(row.template_name))
         found.push_back({0, GFPDB_KEY_TEMPLATE_NAME,
-                         "The device and its template need different names: both are called " +
-                             gfpdb_quoted(row.template_name) + "."});
+                         GFPDB_WORDS::say("The device and its template need different names: both are called %1.",
+                                          {gfpdb_quoted(row.template_name)})});
 }
 
 void check_place(const GFPDB_MGR& manager, const GFPDB_ROW& row, std::vector<GFPDB_FINDING>& found)
 {
     if (row.family < DEV_FAMILY_FIRST || row.family > DEV_FAMILY_LAST)
         found.push_back({0, GFPDB_KEY_FAMILY,
-                         "There is no family " + std::to_string(row.family) + ". Allowed: " +
-                             std::to_string(DEV_FAMILY_FIRST) + " to " + std::to_string(DEV_FAMILY_LAST) + "."});
+                         GFPDB_WORDS::say("There is no family %1. Allowed: %2 to %3.",
+                                          {std::to_string(row.family), std::to_string(DEV_FAMILY_FIRST),
+                                           std::to_string(DEV_FAMILY_LAST)})});
     if (!manager.can_add_flash())
         found.push_back(
-            {0, GFPDB_KEY_SCHEME, "The configuration mode " + std::to_string(row.scheme) + " has no flash devices."});
+            {0, GFPDB_KEY_SCHEME,
+             GFPDB_WORDS::say("The configuration mode %1 has no flash devices.", {std::to_string(row.scheme)})});
 }
 
 // The first voltage that fits, as the dialog proposes it for a new device.
@@ -167,8 +170,9 @@ void warn_of_unusual_values(const GFPDB_MGR& manager, const GFPDB_ROW& row, std:
             is_usual(choice, field, row, error))
             continue;
         warn(found, field.key,
-             std::string("The ") + field.noun + ' ' + gfpdb_quoted(value) +
-                 " is not a usual one. Usual: " + gfpdb_joined(choice.options(gfpdb_scheme_kind(row.scheme))) + '.');
+             GFPDB_WORDS::say("The %1 %2 is not a usual one. Usual: %3.",
+                              {GFPDB_WORDS::say(field.noun), gfpdb_quoted(value),
+                               gfpdb_joined(choice.options(gfpdb_scheme_kind(row.scheme)))}));
     }
 }
 
@@ -180,12 +184,12 @@ void warn_of_flows(const GFPDB_MGR& manager, const GFPDB_RECORD& record, std::ve
     if (!manager.can_edit_flow()) {
         if (!record.is_template && (has_single || has_quad))
             warn(found, has_single ? GFPDB_KEY_SINGLE_FLOWS : GFPDB_KEY_QUAD_FLOWS,
-                 "Devices of this configuration mode have no flows: the dialog drops them.");
+                 GFPDB_WORDS::say("Devices of this configuration mode have no flows: the dialog drops them."));
     } else if (!has_single && !has_quad) {
-        warn(found, is_quad ? GFPDB_KEY_QUAD_FLOWS : GFPDB_KEY_SINGLE_FLOWS, "There are no flows.");
+        warn(found, is_quad ? GFPDB_KEY_QUAD_FLOWS : GFPDB_KEY_SINGLE_FLOWS, GFPDB_WORDS::say("There are no flows."));
     } else if (!record.is_template && !(is_quad ? has_quad : has_single)) {
         warn(found, is_quad ? GFPDB_KEY_QUAD_FLOWS : GFPDB_KEY_SINGLE_FLOWS,
-             "There are no flows for this configuration mode.");
+             GFPDB_WORDS::say("There are no flows for this configuration mode."));
     }
 }
 
@@ -215,7 +219,7 @@ std::vector<GFPDB_FINDING> gfpdb_fill_missing(GFPDB_MGR& manager, GFPDB_RECORD& 
             record.row.*std::get<GFPDB_NUMBER_MEMBER>(field.member) = field.initial;
         else
             record.row.voltage = default_voltage(manager);
-        warn(filled, field.key, "The value is missing: " + field.text(record.row) + " is stored.");
+        warn(filled, field.key, GFPDB_WORDS::say("The value is missing: %1 is stored.", {field.text(record.row)}));
     }
     return filled;
 }
@@ -228,7 +232,8 @@ std::vector<GFPDB_FINDING> gfpdb_record_warnings(GFPDB_MGR& manager, const GFPDB
         const bool is_kept = field.use == GFPDB_FIELD_USE::NO_ROW || manager.is_property_used(property_of(field));
         // A template serves every configuration mode.
         if (!record.is_template && !is_kept && !field.text(record.row).empty())
-            warn(found, field.key, "Devices of this configuration mode have no such value: the dialog drops it.");
+            warn(found, field.key,
+                 GFPDB_WORDS::say("Devices of this configuration mode have no such value: the dialog drops it."));
     }
     warn_of_unusual_values(manager, record.row, found);
     warn_of_flows(manager, record, found);

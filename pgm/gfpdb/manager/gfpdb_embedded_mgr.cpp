@@ -4,6 +4,7 @@
 #include "base/gfpdb_create_dir.h"
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_builtin_records.h"
 #include "catalogue/gfpdb_flow_templates.h"
 #include "manager/gfpdb_custom_dir.h"
@@ -19,8 +20,8 @@
 
 namespace {
 
-const std::string DEVICE_NAME = "device name";
-const std::string TEMPLATE_NAME = "template name";
+constexpr const char* DEVICE_NAME = "device name";
+constexpr const char* TEMPLATE_NAME = "template name";
 
 // Where a record is in a database.
 std::string device_place(int family, int scheme, const std::string& name)
@@ -181,8 +182,10 @@ bool GFPDB_EMBEDDED_MGR::check_seen(GFPDB_STORE& store, const std::string& name)
     }
     if (!store.can_be_changed())
         return fail(store.get_last_error());
-    return fail("The device " + gfpdb_quoted(name) + " is neither deleted nor replaced, because it could not be read " +
-                "when it was last looked for: " + unread->second);
+    return fail(
+        GFPDB_WORDS::say("The device %1 is neither deleted nor replaced, because it could not be read when it was "
+                         "last looked for: %2",
+                         {gfpdb_quoted(name), unread->second}));
 }
 
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
@@ -212,7 +215,7 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::keep_read(const std::string& place, co
     const std::string& directory = m_store->get_directory();
     std::unique_ptr<GFPDB_EMBEDDED_FLASH> record = GFPDB_EMBEDDED_FLASH::from_row(row, directory, is_template);
     if (!record) {
-        fail("The flows of " + gfpdb_quoted(row.name) + " in " + directory + " cannot be read.");
+        fail(GFPDB_WORDS::say("The flows of %1 in %2 cannot be read.", {gfpdb_quoted(row.name), directory}));
         return nullptr;
     }
     // A form that would save it with every OK could not be accepted.
@@ -276,7 +279,7 @@ bool GFPDB_EMBEDDED_MGR::check_int_property(GFPDB_FLASH_PROPERTY property, int v
 {
     const GFPDB_FIELD* field = gfpdb_field(property);
     if (field == nullptr || field->kind != GFPDB_FIELD_KIND::NUMBER)
-        return refuse(error, "Property " + std::to_string(property) + " of a device is not a number.");
+        return refuse(error, GFPDB_WORDS::say("Property %1 of a device is not a number.", {std::to_string(property)}));
     return gfpdb_check_range(value, field->lowest, field->highest, field->noun, error);
 }
 
@@ -299,7 +302,7 @@ bool GFPDB_EMBEDDED_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, co
     case GFPDB_FLASH_FLOW_TEMPLATE:
         return gfpdb_check_choice(value, get_template_list(allowed), field->noun, error);
     default:
-        return refuse(error, "Property " + std::to_string(property) + " of a device is not a text.");
+        return refuse(error, GFPDB_WORDS::say("Property %1 of a device is not a text.", {std::to_string(property)}));
     }
 }
 
@@ -333,8 +336,9 @@ bool GFPDB_EMBEDDED_MGR::check_device_name(const std::string& name, std::string&
     if (!was_read(error))
         return false;
     if (!in_the_way.empty())
-        return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
-                                 ": choose another name." + gfpdb_case_note(in_the_way, name));
+        return refuse(error, GFPDB_WORDS::say("There is a stored template called %1: choose another name.",
+                                              {gfpdb_quoted(in_the_way)}) +
+                                 gfpdb_case_note(in_the_way, name));
     return stored.empty() || check_stored_device_name(stored, name, error);
 }
 
@@ -345,10 +349,14 @@ bool GFPDB_EMBEDDED_MGR::check_stored_device_name(const std::string& stored, con
     const bool is_shown = stored == m_asked.shown;
     if (is_shown && stored != name)
         return true;
-    const std::string device = "There is a device called " + gfpdb_quoted(stored);
     if (is_shown)
-        return refuse(error, device + ": it is the one that is shown. Enter another name to rename it.");
-    return refuse(error, device + " for this family and configuration mode: choose another name." +
+        return refuse(error,
+                      GFPDB_WORDS::say("There is a device called %1: it is the one that is shown. Enter another name "
+                                       "to rename it.",
+                                       {gfpdb_quoted(stored)}));
+    return refuse(error, GFPDB_WORDS::say("There is a device called %1 for this family and configuration mode: choose "
+                                          "another name.",
+                                          {gfpdb_quoted(stored)}) +
                              gfpdb_case_note(stored, name));
 }
 
@@ -362,19 +370,23 @@ bool GFPDB_EMBEDDED_MGR::check_template_name(const std::string& name, std::strin
     if (!was_read(error))
         return false;
     if (!in_the_way.empty())
-        return refuse(error, "There is a stored template called " + gfpdb_quoted(in_the_way) +
-                                 ": choose another name, or remove that template first." +
-                                 gfpdb_case_note(in_the_way, name));
+        return refuse(error,
+                      GFPDB_WORDS::say("There is a stored template called %1: choose another name, or remove that "
+                                       "template first.",
+                                       {gfpdb_quoted(in_the_way)}) +
+                          gfpdb_case_note(in_the_way, name));
     // A dialog has words of its own for a template name that is the device's.
     if (name == m_asked.name())
         return true;
     if (gfpdb_name_key(name) == gfpdb_name_key(m_asked.name()))
-        return refuse(error, "The template name " + gfpdb_quoted(name) + " differs from the device name " +
-                                 gfpdb_quoted(m_asked.name()) + " in case only: choose another name.");
+        return refuse(error,
+                      GFPDB_WORDS::say("The template name %1 differs from the device name %2 in case only: choose "
+                                       "another name.",
+                                       {gfpdb_quoted(name), gfpdb_quoted(m_asked.name())}));
     const std::string device = m_store->get_any_device_name(name);
     if (device.empty())
         return was_read(error);
-    return refuse(error, "There is a device called " + gfpdb_quoted(device) + ": choose another name." +
+    return refuse(error, GFPDB_WORDS::say("There is a device called %1: choose another name.", {gfpdb_quoted(device)}) +
                              gfpdb_case_note(device, name));
 }
 
@@ -399,8 +411,10 @@ bool GFPDB_EMBEDDED_MGR::verify_string_property(GFPDB_FLASH_PROPERTY property, c
 {
     if (property != GFPDB_FLASH_VOLTAGE || gfpdb_voltage_fits(value, m_family, m_scheme))
         return true;
-    return refuse(error, "A flash with the I/O voltage " + gfpdb_quoted(value) + " cannot be connected to " +
-                             dstr_get_user_string(m_family) + " devices: it must work at 1.8 V.");
+    return refuse(error,
+                  GFPDB_WORDS::say("A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it "
+                                   "must support 1.8 V.",
+                                   {gfpdb_quoted(value), dstr_get_user_string(m_family)}));
 }
 
 bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& directory)
@@ -424,8 +438,8 @@ void GFPDB_EMBEDDED_MGR::put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken)
     if (store.undo_removal(taken))
         m_seen[store.get_directory() + device_place(taken.name)] = taken.revision;
     else
-        fail(m_last_error + " The device " + gfpdb_quoted(taken.name) +
-             " that was deleted before was not put back: " + store.get_last_error());
+        fail(GFPDB_WORDS::say("%1 The device %2 that was deleted before was not put back: %3",
+                              {m_last_error, gfpdb_quoted(taken.name), store.get_last_error()}));
 }
 
 // A rename and a new device take a name that was free when it was checked: what has it by now is not replaced.
@@ -434,9 +448,9 @@ bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE&
     std::string error;
     const GFPDB_TAKEN* taken = deletion != nullptr && deletion->taken ? &*deletion->taken : nullptr;
     if (record == nullptr)
-        return fail("There is no record to save.");
+        return fail(GFPDB_WORDS::say("There is no record to save."));
     if (!can_add_flash())
-        return fail("The configuration mode has no flash devices.");
+        return fail(GFPDB_WORDS::say("The configuration mode has no flash devices."));
     if (!check_saved_name(store, record->get_name(), taken, error))
         return fail(error);
     if (!check_seen(store, record->get_name()))
@@ -446,7 +460,8 @@ bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE&
         return fail(error);
     std::optional<GFPDB_ROW> row = record->to_row(m_family, m_scheme);
     if (!row)
-        return fail("The device " + gfpdb_quoted(record->get_name()) + " has a text that is not UTF-8.");
+        return fail(GFPDB_WORDS::say("The device %1 contains text that is not valid UTF-8.",
+                                     {gfpdb_quoted(record->get_name())}));
     row->revision = gfpdb_new_revision();
     const bool is_new_name =
         deletion != nullptr && gfpdb_name_key(deletion->name) != gfpdb_name_key(record->get_name());
@@ -510,7 +525,7 @@ bool GFPDB_EMBEDDED_MGR::restore_flash(std::int64_t history_id, const std::strin
 bool GFPDB_EMBEDDED_MGR::check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name,
                                              std::string& error)
 {
-    const std::string& what = entry.is_template ? TEMPLATE_NAME : DEVICE_NAME;
+    const char* const what = entry.is_template ? TEMPLATE_NAME : DEVICE_NAME;
     const std::string& name = new_name.empty() ? entry.name() : new_name;
     const bool is_old_name = gfpdb_name_key(name) == gfpdb_name_key(entry.name());
     return is_old_name && gfpdb_builtin_part(name) != nullptr ? gfpdb_check_name(name, what, error)
@@ -632,7 +647,7 @@ bool GFPDB_EMBEDDED_MGR::remove_template(const std::string& name)
     m_last_error.clear();
     m_deletion.reset();
     if (gfpdb_builtin_template(name) >= 0)
-        return fail("The template " + gfpdb_quoted(name) + " is built in: it cannot be removed.");
+        return fail(GFPDB_WORDS::say("The template %1 is built in: it cannot be removed.", {gfpdb_quoted(name)}));
     return m_store->remove_template(name, seen_state(*m_store, template_place(name))) ||
            fail(m_store->get_last_error());
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "model/gfpdb_field.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 
 namespace {
@@ -37,28 +39,31 @@ bool GFPDB_FIELD::is_same(const GFPDB_ROW& left, const GFPDB_ROW& right) const
 const std::vector<GFPDB_FIELD>& gfpdb_fields()
 {
     static const auto& FIELDS = *new std::vector<GFPDB_FIELD>{
-        // clang-format off
         // key, title, noun, property, kind, use, member, lowest, highest, initial
-        {GFPDB_KEY_NAME, "Name", "device name", GFPDB_FLASH_NAME, KIND::NAME, USE::ALL, &ROW::name},
+        {GFPDB_KEY_NAME, "Name", QT_TRANSLATE_NOOP("gfpdb", "device name"), GFPDB_FLASH_NAME, KIND::NAME, USE::ALL,
+         &ROW::name},
         {GFPDB_KEY_FAMILY, "Family", "", GFPDB_NO_PROPERTY, KIND::PLACE, USE::NO_ROW, &ROW::family},
         {GFPDB_KEY_SCHEME, "Scheme", "", GFPDB_NO_PROPERTY, KIND::PLACE, USE::NO_ROW, &ROW::scheme},
-        {"device_id", "ID", "device ID", GFPDB_FLASH_DEVICE_ID, KIND::TEXT, USE::NOT_CARDS, &ROW::device_id},
-        {"voltage", "I/O voltage", "I/O voltage", GFPDB_FLASH_VOLTAGE, KIND::TEXT, USE::ALL, &ROW::voltage},
-        {"density", "Density", "density", GFPDB_FLASH_DENSITY, KIND::TEXT, USE::ALL, &ROW::density},
-        {"total_die", "Dies", "total die count", GFPDB_FLASH_TOTAL_DIE, KIND::NUMBER, USE::NOT_CARDS,
-         &ROW::total_die, 1, 16, 1},
-        {"single_io_dummy_clock", "Dummy clocks, single", "number of single-I/O dummy clocks",
-         GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK, KIND::NUMBER, USE::ONLY_SERIAL, &ROW::single_io_dummy_clock, 0, 15, 0},
-        {"quad_io_dummy_clock", "Dummy clocks, quad", "number of quad-I/O dummy clocks",
+        {"device_id", "ID", QT_TRANSLATE_NOOP("gfpdb", "device ID"), GFPDB_FLASH_DEVICE_ID, KIND::TEXT, USE::NOT_CARDS,
+         &ROW::device_id},
+        {"voltage", "I/O voltage", QT_TRANSLATE_NOOP("gfpdb", "I/O voltage"), GFPDB_FLASH_VOLTAGE, KIND::TEXT, USE::ALL,
+         &ROW::voltage},
+        {"density", "Density", QT_TRANSLATE_NOOP("gfpdb", "density"), GFPDB_FLASH_DENSITY, KIND::TEXT, USE::ALL,
+         &ROW::density},
+        {"total_die", "Dies", QT_TRANSLATE_NOOP("gfpdb", "total die count"), GFPDB_FLASH_TOTAL_DIE, KIND::NUMBER,
+         USE::NOT_CARDS, &ROW::total_die, 1, 16, 1},
+        {"single_io_dummy_clock", "Dummy clocks, single",
+         QT_TRANSLATE_NOOP("gfpdb", "number of single-I/O dummy clocks"), GFPDB_FLASH_SINGLE_IO_DUMMY_CLOCK,
+         KIND::NUMBER, USE::ONLY_SERIAL, &ROW::single_io_dummy_clock, 0, 15, 0},
+        {"quad_io_dummy_clock", "Dummy clocks, quad", QT_TRANSLATE_NOOP("gfpdb", "number of quad-I/O dummy clocks"),
          GFPDB_FLASH_QUAD_IO_DUMMY_CLOCK, KIND::NUMBER, USE::ONLY_SERIAL, &ROW::quad_io_dummy_clock, 0, 31, 0},
-        {GFPDB_KEY_TEMPLATE_NAME, "Template name", "template name", GFPDB_FLASH_TEMPLATE_NAME, KIND::NAME, USE::NO_ROW,
-         &ROW::template_name},
-        {"flow_template", "Flow template", "flow template", GFPDB_FLASH_FLOW_TEMPLATE, KIND::NAME, USE::ONLY_SERIAL,
-         &ROW::flow_template},
+        {GFPDB_KEY_TEMPLATE_NAME, "Template name", QT_TRANSLATE_NOOP("gfpdb", "template name"),
+         GFPDB_FLASH_TEMPLATE_NAME, KIND::NAME, USE::NO_ROW, &ROW::template_name},
+        {"flow_template", "Flow template", QT_TRANSLATE_NOOP("gfpdb", "flow template"), GFPDB_FLASH_FLOW_TEMPLATE,
+         KIND::NAME, USE::ONLY_SERIAL, &ROW::flow_template},
         {GFPDB_KEY_SINGLE_FLOWS, "Single-I/O flow", "", GFPDB_NO_PROPERTY, KIND::FLOWS, USE::NO_ROW,
          &ROW::single_flows},
         {GFPDB_KEY_QUAD_FLOWS, "Quad-I/O flow", "", GFPDB_NO_PROPERTY, KIND::FLOWS, USE::NO_ROW, &ROW::quad_flows},
-        // clang-format on
     };
     return FIELDS;
 }

@@ -38,7 +38,8 @@ struct GFPDB_FIELD
 {
     // The key in JSON files, the column of CSV files and of the database.
     const char* key;
-    // As the heading of a value, and in messages: "The total die count 17 is out of range".
+    // As the heading of a value, and in messages: "The total die count 17 is out of range". The noun is one of the
+    // catalogues.
     const char* title;
     const char* noun;
     // The GFPDB_FLASH_PROPERTY, or GFPDB_NO_PROPERTY.

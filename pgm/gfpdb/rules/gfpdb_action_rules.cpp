@@ -2,6 +2,7 @@
 #include "rules/gfpdb_action_rules.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_action_value.h"
 
 #include <QString>
@@ -199,40 +200,58 @@ bool is_allowed(const PROPERTY_RULE& rule, const std::string& value)
 
 std::string range_text(std::int64_t lowest, std::int64_t highest)
 {
-    return "a whole number from " + std::to_string(lowest) + " to " + std::to_string(highest);
+    return GFPDB_WORDS::say("a whole number from %1 to %2", {std::to_string(lowest), std::to_string(highest)});
+}
+
+std::string byte_text()
+{
+    return GFPDB_WORDS::say("one byte in hexadecimal, such as 0x9F");
+}
+
+std::string bytes_text(int most)
+{
+    return GFPDB_WORDS::say("1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02",
+                            {std::to_string(most)});
+}
+
+std::string address_text()
+{
+    return GFPDB_WORDS::say("an address of eight hexadecimal digits, such as 0x00010000");
+}
+
+// Words that stand for a value, which are never translated, before what else is allowed.
+std::string words_or(const TEXTS& words, const std::string& other)
+{
+    return GFPDB_WORDS::say("%1, or %2", {gfpdb_joined(words), other});
 }
 
 std::string allowed_text(const PROPERTY_RULE& rule)
 {
-    static const std::string BYTE = "one byte in hexadecimal, such as 0x9F";
-    static const std::string BYTES = "1 to " + std::to_string(GFPDB_REGISTER_BYTES_MAX) +
-                                     " bytes in hexadecimal with one blank between two of them, such as 0x00 0x02";
-    static const std::string ADDRESS = "an address of eight hexadecimal digits, such as 0x00010000";
     switch (rule.kind) {
     case VALUE_KIND::NAME:
-        return "a text of 1 to " + std::to_string(GFPDB_ACTION_NAME_LENGTH_MAX) + " characters on one line";
+        return GFPDB_WORDS::say("text of 1 to %1 characters on one line",
+                                {std::to_string(GFPDB_ACTION_NAME_LENGTH_MAX)});
     case VALUE_KIND::COMMAND:
     case VALUE_KIND::READ_MASK:
-        return BYTE;
+        return byte_text();
     case VALUE_KIND::REGISTER_DATA:
-        return "none, die, or " + BYTES;
+        return words_or({GFPDB_VALUE_NONE, GFPDB_VALUE_DIE}, bytes_text(GFPDB_REGISTER_BYTES_MAX));
     case VALUE_KIND::REGISTER_EXPECTED:
-        return "none, id, or " + BYTES;
+        return words_or({GFPDB_VALUE_NONE, GFPDB_VALUE_ID}, bytes_text(GFPDB_REGISTER_BYTES_MAX));
     case VALUE_KIND::REGISTER_MASK:
-        return BYTES;
+        return bytes_text(GFPDB_REGISTER_BYTES_MAX);
     case VALUE_KIND::PAGE_DATA:
-        return "image, or 1 to " + std::to_string(GFPDB_PAGE_SIZE_MAX) +
-               " bytes in hexadecimal with one blank between two of them, such as 0x00 0x02";
+        return words_or({GFPDB_VALUE_IMAGE}, bytes_text(GFPDB_PAGE_SIZE_MAX));
     case VALUE_KIND::READ_EXPECTED:
-        return "image, none, or " + BYTE;
+        return words_or({GFPDB_VALUE_IMAGE, GFPDB_VALUE_NONE}, byte_text());
     case VALUE_KIND::ADDRESS:
-        return "loop, die, or " + ADDRESS;
+        return words_or({GFPDB_VALUE_LOOP, GFPDB_VALUE_DIE}, address_text());
     case VALUE_KIND::ERASE_ADDRESS:
-        return "loop, die, none, or " + ADDRESS;
+        return words_or({GFPDB_VALUE_LOOP, GFPDB_VALUE_DIE, GFPDB_VALUE_NONE}, address_text());
     case VALUE_KIND::SIZE:
-        return "device, die, or " + range_text(1, GFPDB_DEVICE_BYTES_MAX);
+        return words_or({GFPDB_VALUE_DEVICE, GFPDB_VALUE_DIE}, range_text(1, GFPDB_DEVICE_BYTES_MAX));
     case VALUE_KIND::PAGE_SIZE:
-        return "a power of two from 1 to " + std::to_string(GFPDB_PAGE_SIZE_MAX);
+        return GFPDB_WORDS::say("a power of two from 1 to %1", {std::to_string(GFPDB_PAGE_SIZE_MAX)});
     case VALUE_KIND::NUMBER:
         return range_text(rule.lowest, rule.highest);
     case VALUE_KIND::CHOICE:
@@ -241,11 +260,11 @@ std::string allowed_text(const PROPERTY_RULE& rule)
     return std::string();
 }
 
-// What an error text calls a property: its label without the colon.
+// What an error text calls a property: its label without the colon, as the property table has it.
 std::string shown_name(int property)
 {
     if (property == GFPDB_CUSTOM_LOOP_MARKER)
-        return "Loop marker";
+        return GFPDB_WORDS::say("Loop marker");
     const std::string label = RULES[static_cast<std::size_t>(property)].label;
     return label.substr(0, label.size() - 1);
 }
@@ -295,8 +314,8 @@ const std::vector<std::string>& gfpdb_property_choices(int property)
 bool gfpdb_check_property(int property, const std::string& value, std::string& error)
 {
     if (!is_property(property)) {
-        error = "There is no action property with the number " + std::to_string(property) + ". Allowed: 0 to " +
-                std::to_string(GFPDB_ACT_PROPERTY_COUNT - 1) + '.';
+        error = GFPDB_WORDS::say("There is no action property with the number %1. Allowed: 0 to %2.",
+                                 {std::to_string(property), std::to_string(GFPDB_ACT_PROPERTY_COUNT - 1)});
         return false;
     }
     const PROPERTY_RULE& rule = RULES[static_cast<std::size_t>(property)];
@@ -308,6 +327,6 @@ bool gfpdb_check_property(int property, const std::string& value, std::string& e
 
 std::string gfpdb_property_error(int property, const std::string& value, const std::string& allowed)
 {
-    const std::string what = value.empty() ? "An empty value" : gfpdb_quoted(value);
-    return what + " is not allowed for \"" + shown_name(property) + "\". Allowed: " + allowed + '.';
+    const std::string what = value.empty() ? GFPDB_WORDS::say("An empty value") : gfpdb_quoted(value);
+    return GFPDB_WORDS::say("%1 is not allowed for \"%2\". Allowed: %3.", {what, shown_name(property), allowed});
 }

@@ -2,6 +2,7 @@
 #include "rules/gfpdb_checks.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_part.h"
 
 #include <QRegularExpression>
@@ -36,42 +37,50 @@ QStringList id_texts(const std::string& id)
 
 } // namespace
 
-bool gfpdb_check_name(const std::string& name, const std::string& what, std::string& error)
+bool gfpdb_check_name(const std::string& name, const char* what, std::string& error)
 {
     const QString text = gfpdb_from_utf8(name);
-    const std::string allowed = "1 to " + std::to_string(GFPDB_NAME_LENGTH_MAX) + " characters are allowed.";
+    const std::string called = GFPDB_WORDS::say(what);
+    const std::string longest = std::to_string(GFPDB_NAME_LENGTH_MAX);
     if (text.isEmpty())
-        return refuse(error, "The " + what + " is empty: " + allowed);
+        return refuse(error, GFPDB_WORDS::say("The %1 is empty: 1 to %2 characters are allowed.", {called, longest}));
     if (!gfpdb_is_utf8(name))
-        return refuse(error, "The " + what + " has characters that cannot be stored.");
+        return refuse(error, GFPDB_WORDS::say("The %1 has characters that cannot be stored.", {called}));
     const int length = text.toUcs4().size();
     if (length > GFPDB_NAME_LENGTH_MAX)
-        return refuse(error, "The " + what + " has " + std::to_string(length) + " characters: " + allowed);
+        return refuse(error, GFPDB_WORDS::say("The %1 has %2 characters: 1 to %3 characters are allowed.",
+                                              {called, std::to_string(length), longest}));
     if (std::any_of(text.begin(), text.end(), is_control))
-        return refuse(error, "The " + what + " has a line break or another control character: use letters, digits, " +
-                                 "marks and blanks.");
+        return refuse(error, GFPDB_WORDS::say("The %1 has a line break or another control character: use letters, "
+                                              "digits, punctuation and spaces.",
+                                              {called}));
     if (text.front().isSpace() || text.back().isSpace())
-        return refuse(error, "The " + what + " " + gfpdb_quoted(name) + " begins or ends with a blank: remove it.");
+        return refuse(
+            error, GFPDB_WORDS::say("The %1 %2 begins or ends with a space: remove it.", {called, gfpdb_quoted(name)}));
     if (gfpdb_name_key(name) == NEW_DEVICE)
-        return refuse(error,
-                      "The " + what + " " + gfpdb_quoted(name) + " is reserved for a new device: choose another.");
+        return refuse(error, GFPDB_WORDS::say("The %1 %2 is reserved for a new device: choose another.",
+                                              {called, gfpdb_quoted(name)}));
     return true;
 }
 
 bool gfpdb_check_device_id(const std::string& id, std::string& error)
 {
     static const QRegularExpression BYTE(QStringLiteral("\\A(?:0[xX])?[0-9A-Fa-f]{1,2}\\z"));
-    const std::string allowed = "Enter 1 to " + std::to_string(GFPDB_ID_BYTES_MAX) +
-                                " bytes in hexadecimal, separated by blanks or commas, i.e. 0xC2 0x20 0x19.";
+    const auto refuse_id = [&error](const std::string& problem) {
+        return refuse(error,
+                      GFPDB_WORDS::say("%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for "
+                                       "example 0xC2 0x20 0x19.",
+                                       {problem, std::to_string(GFPDB_ID_BYTES_MAX)}));
+    };
     const QStringList bytes = id_texts(id);
     if (bytes == QStringList(QString()))
-        return refuse(error, "The device ID is empty. " + allowed);
+        return refuse_id(GFPDB_WORDS::say("The device ID is empty."));
     for (const QString& byte : bytes) {
         if (!BYTE.match(byte).hasMatch())
-            return refuse(error, gfpdb_quoted(gfpdb_to_utf8(byte)) + " is not a byte of a device ID. " + allowed);
+            return refuse_id(GFPDB_WORDS::say("%1 is not a byte of a device ID.", {gfpdb_quoted(gfpdb_to_utf8(byte))}));
     }
     if (bytes.size() > GFPDB_ID_BYTES_MAX)
-        return refuse(error, "The device ID has " + std::to_string(bytes.size()) + " bytes. " + allowed);
+        return refuse_id(GFPDB_WORDS::say("The device ID has %1 bytes.", {std::to_string(bytes.size())}));
     return true;
 }
 
@@ -87,19 +96,20 @@ std::vector<std::uint8_t> gfpdb_device_id_bytes(const std::string& id)
     return bytes;
 }
 
-bool gfpdb_check_range(int value, int lowest, int highest, const std::string& what, std::string& error)
+bool gfpdb_check_range(int value, int lowest, int highest, const char* what, std::string& error)
 {
     if (value >= lowest && value <= highest)
         return true;
-    return refuse(error, "The " + what + " " + std::to_string(value) + " is out of range: " + std::to_string(lowest) +
-                             " to " + std::to_string(highest) + " are allowed.");
+    return refuse(error, GFPDB_WORDS::say("The %1 %2 is out of range: %3 to %4 are allowed.",
+                                          {GFPDB_WORDS::say(what), std::to_string(value), std::to_string(lowest),
+                                           std::to_string(highest)}));
 }
 
-bool gfpdb_check_choice(const std::string& value, const std::vector<std::string>& allowed, const std::string& what,
+bool gfpdb_check_choice(const std::string& value, const std::vector<std::string>& allowed, const char* what,
                         std::string& error)
 {
     if (std::find(allowed.begin(), allowed.end(), value) != allowed.end())
         return true;
-    return refuse(error, "The " + what + " " + gfpdb_quoted(value) + " is not known: choose one of " +
-                             gfpdb_joined(allowed) + ".");
+    return refuse(error, GFPDB_WORDS::say("The %1 %2 is not known: choose one of %3.",
+                                          {GFPDB_WORDS::say(what), gfpdb_quoted(value), gfpdb_joined(allowed)}));
 }

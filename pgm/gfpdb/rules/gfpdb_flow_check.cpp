@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_flow_check.h"
 
+#include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_action_value.h"
 
 #include "gfpdb/gfpdb_enums.h"
@@ -75,7 +76,8 @@ public:
             check(*(*actions)[static_cast<std::size_t>(m_action)]);
         m_action = count;
         for (const OPEN_LOOP& loop : m_loops)
-            add(WHOLE_ACTION, "The loop that starts at action " + std::to_string(loop.action + 1) + " has no end.");
+            add(WHOLE_ACTION,
+                GFPDB_WORDS::say("The loop that starts at action %1 has no end.", {std::to_string(loop.action + 1)}));
     }
 
     std::vector<GFPDB_FLOW_PROBLEM> m_problems;
@@ -115,28 +117,27 @@ private:
     void open_loop(const std::string& unit)
     {
         if (!m_loops.empty() && (m_loops.back().unit != GFPDB_LOOP_DIE || unit == GFPDB_LOOP_DIE))
-            add(GFPDB_CUSTOM_LOOP_UNIT, "A loop over each " + unit + " cannot be in a loop over each " +
-                                            m_loops.back().unit +
-                                            ". Allowed: a loop over each page or sector in a "
-                                            "loop over each die.");
+            add(GFPDB_CUSTOM_LOOP_UNIT,
+                GFPDB_WORDS::say("A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page "
+                                 "or sector in a loop over each die.",
+                                 {unit, m_loops.back().unit}));
         m_loops.push_back({unit, m_action, {}});
     }
 
     void close_loop(const std::string& unit)
     {
         if (m_loops.empty()) {
-            add(GFPDB_CUSTOM_LOOP_MARKER, "The end of a loop has no start before it.");
+            add(GFPDB_CUSTOM_LOOP_MARKER, GFPDB_WORDS::say("The end of a loop has no start before it."));
             return;
         }
         const OPEN_LOOP loop = m_loops.back();
         m_loops.pop_back();
         if (loop.unit != unit)
             add(GFPDB_CUSTOM_LOOP_UNIT,
-                "The end of a loop over each " + unit + " closes a loop over each " + loop.unit + ".");
+                GFPDB_WORDS::say("The end of a loop over each %1 closes a loop over each %2.", {unit, loop.unit}));
         if (loop.unit != GFPDB_LOOP_DIE && loop.steps.empty())
-            add(WHOLE_ACTION, "The loop over each " + loop.unit + " has no " +
-                                  (loop.unit == GFPDB_LOOP_PAGE ? "Write Data" : "Erase") +
-                                  " action, which tells its step.");
+            add(WHOLE_ACTION, GFPDB_WORDS::say("The loop over each %1 has no %2 action to determine its step size.",
+                                               {loop.unit, loop.unit == GFPDB_LOOP_PAGE ? "Write Data" : "Erase"}));
         for (std::size_t at = 0; at < loop.steps.size() && loop.steps.size() > 1; ++at)
             check_steps_together(loop, at);
     }
@@ -165,7 +166,7 @@ private:
         const LOOP_STEP& step = loop.steps[at];
         if (step.has_fixed_address)
             add_at(step.action, GFPDB_ER_ADDRESS,
-                   "One of several erases in a loop has a fixed address. Allowed: loop or die.");
+                   GFPDB_WORDS::say("One of several erases in a loop has a fixed address. Allowed: loop or die."));
         if (loop.unit == GFPDB_LOOP_PAGE)
             check_page_sizes(loop.steps.front(), step);
         else
@@ -177,8 +178,8 @@ private:
         if (first.size == step.size || first.size == 0 || step.size == 0)
             return;
         add_at(step.action, GFPDB_WD_PAGE_SIZE,
-               "The loop has page sizes of " + std::to_string(first.size) + " and of " + std::to_string(step.size) +
-                   ". Allowed: one page size in a loop.");
+               GFPDB_WORDS::say("The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.",
+                                {std::to_string(first.size), std::to_string(step.size)}));
     }
 
     void check_erase_sizes(const OPEN_LOOP& loop, std::size_t at)
@@ -190,10 +191,12 @@ private:
         });
         if (unfit == before)
             return;
-        add_at(step.action, GFPDB_ER_ERASE_SIZE,
-               "The erase sizes " + std::to_string(std::max(step.size, unfit->size)) + " and " +
-                   std::to_string(std::min(step.size, unfit->size)) +
-                   " do not go together in one loop. Allowed: sizes of which each divides every larger one.");
+        add_at(
+            step.action, GFPDB_ER_ERASE_SIZE,
+            GFPDB_WORDS::say(
+                "The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each "
+                "divides every larger one.",
+                {std::to_string(std::max(step.size, unfit->size)), std::to_string(std::min(step.size, unfit->size))}));
     }
 
     void check_loop_values(const GFPDB_ACTION& action)
@@ -205,9 +208,9 @@ private:
             const auto id = static_cast<GFPDB_ACT_PROPERTY>(property);
             const std::string value = action.is_property_enabled(id) ? action.get_property_value(id) : std::string();
             if (value == GFPDB_VALUE_LOOP && m_loops.empty())
-                add(property, "The value \"loop\" is outside any loop.");
+                add(property, GFPDB_WORDS::say("The value \"loop\" is outside any loop."));
             if (value == GFPDB_VALUE_DIE && !in_die_loop)
-                add(property, "The value \"die\" is outside a loop over each die.");
+                add(property, GFPDB_WORDS::say("The value \"die\" is outside a loop over each die."));
         }
     }
 
@@ -222,8 +225,9 @@ private:
         if (m_addressing_mode.empty())
             m_addressing_mode = mode;
         if (mode != m_addressing_mode)
-            add(property, "The action has " + mode + " address bytes, an earlier one has " + m_addressing_mode +
-                              ". Allowed: the same number in all actions of a flow.");
+            add(property, GFPDB_WORDS::say("The action has %1 address bytes, an earlier one has %2. Allowed: the same "
+                                           "number in all actions of a flow.",
+                                           {mode, m_addressing_mode}));
     }
 
     int m_operation = 0;

@@ -89,12 +89,15 @@ const QStringList LANGUAGES{QStringLiteral("de"),    QStringLiteral("es"), QStri
                             QStringLiteral("pt_BR"), QStringLiteral("ru"), QStringLiteral("zh_CN"),
                             QStringLiteral("zh_TW")};
 
+// The dialog's, the programs' and the flash database's.
+const QStringList KINDS{QStringLiteral("gfpq_%1.ts"), QStringLiteral("gfpq_host_%1.ts"), QStringLiteral("gfpdb_%1.ts")};
+
 QStringList all_catalogues()
 {
     QStringList names;
-    for (const QString& language : LANGUAGES) {
-        names.append(QStringLiteral("gfpq_%1.ts").arg(language));
-        names.append(QStringLiteral("gfpq_host_%1.ts").arg(language));
+    for (const QString& kind : KINDS) {
+        for (const QString& language : LANGUAGES)
+            names.append(kind.arg(language));
     }
     names.sort();
     return names;
@@ -197,7 +200,7 @@ private slots:
 
     void catalogues_of_a_kind_have_the_same_texts()
     {
-        for (const QString& kind : {QStringLiteral("gfpq_%1.ts"), QStringLiteral("gfpq_host_%1.ts")}) {
+        for (const QString& kind : KINDS) {
             QStringList first;
             for (const QString& language : LANGUAGES) {
                 QStringList texts;

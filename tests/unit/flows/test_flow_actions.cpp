@@ -65,7 +65,7 @@ std::string bytes_of(int count)
 const std::initializer_list<int> NAMES = {GFPDB_WR_NAME, GFPDB_RR_NAME, GFPDB_WD_NAME, GFPDB_RD_NAME, GFPDB_ER_NAME};
 const std::initializer_list<int> BYTES = {GFPDB_WR_COMMAND, GFPDB_RR_COMMAND, GFPDB_WD_COMMAND,
                                           GFPDB_RD_COMMAND, GFPDB_ER_COMMAND, GFPDB_RD_EXPECTED_DATA_MASK};
-const QByteArray BYTES_ALLOWED = "1 to 256 bytes in hexadecimal with one blank between two of them, such as 0x00 0x02.";
+const QByteArray BYTES_ALLOWED = "1 to 256 bytes in hexadecimal separated by single spaces, such as 0x00 0x02.";
 const QByteArray BYTE_ALLOWED = "one byte in hexadecimal, such as 0x9F.";
 const QByteArray ADDRESS_ALLOWED = "an address of eight hexadecimal digits, such as 0x00010000.";
 
@@ -269,7 +269,7 @@ private slots:
             }
         };
         add(NAMES, {"", " ", "two\nlines", "\x7F", "\xFF", QByteArray(65, 'x')},
-            "a text of 1 to 64 characters on one line.");
+            "text of 1 to 64 characters on one line.");
         add(BYTES, {"", "9F", "0x9", "0x9FF", "none", "0x9F 0x9F"}, BYTE_ALLOWED);
         add({GFPDB_WR_DATA}, {"", "image", "id", "0x4", "0x40,0x02", "NONE", QByteArray::fromStdString(bytes_of(257))},
             "none, die, or " + BYTES_ALLOWED);
@@ -277,7 +277,7 @@ private slots:
             "none, id, or " + BYTES_ALLOWED);
         add({GFPDB_RR_EXPECTED_DATA_MASK}, {"", "none", "id", "FF"}, BYTES_ALLOWED);
         add({GFPDB_WD_DATA}, {"", "none", "die", QByteArray::fromStdString(bytes_of(4097))},
-            "image, or 1 to 4096 bytes in hexadecimal with one blank between two of them, such as 0x00 0x02.");
+            "image, or 1 to 4096 bytes in hexadecimal separated by single spaces, such as 0x00 0x02.");
         add({GFPDB_WD_ADDRESS, GFPDB_RD_ADDRESS}, {"", "none", "0x0", "0", "image", "Loop"},
             "loop, die, or " + ADDRESS_ALLOWED);
         add({GFPDB_ER_ADDRESS}, {"", "0x0", "0", "image"}, "loop, die, none, or " + ADDRESS_ALLOWED);

@@ -190,7 +190,7 @@ private slots:
             "column \"jedec_id\": an ID has 1 to 16 bytes such as C2 20 19");
         add("A\tB,,C2,,1Mb,,,,,,,,,",
             "column \"name\": The part name has a line break or another control character: use letters, digits, "
-            "marks and blanks.");
+            "punctuation and spaces.");
         add("A,,C2,,,,,,,,,,,", "column \"density\": \"\" is not a density such as 128Mb");
         add("A,,C2,,33Gb,,,,,,,,,", "column \"density\": \"33Gb\" is more than 32Gb");
         add("A,,C2,,16,,,,,,,,,", "column \"density\": \"16\" is not a density such as 128Mb");

@@ -109,13 +109,13 @@ private slots:
     void a_loop_needs_its_step()
     {
         QCOMPARE(problems({start("page"), write_register(), erase(), end("page")}),
-                 QStringList{"1/3/-1 The loop over each page has no Write Data action, which tells its step."});
+                 QStringList{"1/3/-1 The loop over each page has no Write Data action to determine its step size."});
         QCOMPARE(problems({start("sector"), write_data(), end("sector")}),
-                 QStringList{"1/2/-1 The loop over each sector has no Erase action, which tells its step."});
+                 QStringList{"1/2/-1 The loop over each sector has no Erase action to determine its step size."});
         QCOMPARE(problems({start("die"), end("die")}), QStringList());
         QCOMPARE(problems({write_data({{GFPDB_WD_ADDRESS, "0x00000000"}}), start("page"), end("page"),
                            write_data({{GFPDB_WD_ADDRESS, "0x00000000"}})}),
-                 QStringList{"1/2/-1 The loop over each page has no Write Data action, which tells its step."});
+                 QStringList{"1/2/-1 The loop over each page has no Write Data action to determine its step size."});
     }
 
     void several_erases_of_a_loop_fit_each_other_data()

@@ -180,7 +180,7 @@ private slots:
     {
         rows<CHANGE, QString>(
             {{"a text that cannot be stored", CHANGE([](GFPDB_FLASH& record) { record.set_density("\xFC"); }),
-              "The device \"New\" has a text that is not UTF-8."},
+              "The device \"New\" contains text that is not valid UTF-8."},
              {"a reserved name", CHANGE([](GFPDB_FLASH& record) { record.set_name("<<new device>>"); }),
               "The device name \"<<new device>>\" is reserved for a new "
               "device: choose another."},
@@ -227,9 +227,9 @@ private slots:
         QVERIFY(other->save_device(make_row("a")));
         const QString before = content("device");
 
-        expect_warning(
-            "\\AThe device \"A\" has a text that is not UTF-8. The device \"A\" that was deleted before was not "
-            "put back: There is a device called \".\" already\\..* It is state 1 of the history.\\z");
+        expect_warning("\\AThe device \"A\" contains text that is not valid UTF-8. The device \"A\" that was deleted "
+                       "before was not "
+                       "put back: There is a device called \".\" already\\..* It is state 1 of the history.\\z");
         QVERIFY(!save_record(make_bad("A")));
 
         QCOMPARE(content("device"), before);

@@ -94,7 +94,7 @@ private slots:
 
     void blanks_at_both_ends_reach_every_check_data()
     {
-        const std::string ends = " begins or ends with a blank: remove it.";
+        const std::string ends = " begins or ends with a space: remove it.";
         rows<int, std::string, std::string>(
             {{"name", int(GFPDB_FLASH_NAME), " A ", "The device name \" A \"" + ends},
              {"template name", int(GFPDB_FLASH_TEMPLATE_NAME), "\tA",
@@ -159,8 +159,8 @@ private slots:
 
         m_mgr->set_device_family(low_voltage_family);
         QVERIFY(!m_mgr->verify_string_property(GFPDB_FLASH_VOLTAGE, "3.3V", error));
-        QCOMPARE(error, "A flash with the I/O voltage \"3.3V\" cannot be connected to " +
-                            dstr_get_user_string(low_voltage_family) + " devices: it must work at 1.8 V.");
+        QCOMPARE(error, "A flash device with an I/O voltage of \"3.3V\" cannot be connected to " +
+                            dstr_get_user_string(low_voltage_family) + " devices: it must support 1.8 V.");
         QVERIFY(m_mgr->verify_string_property(GFPDB_FLASH_VOLTAGE, "1.8V", error));
         m_mgr->set_config_scheme(PGMIO_AVST_X8);
         QVERIFY(m_mgr->verify_string_property(GFPDB_FLASH_VOLTAGE, "3.3V", error));

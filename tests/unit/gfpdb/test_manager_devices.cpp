@@ -189,7 +189,7 @@ private slots:
         const QString taken = QStringLiteral("There is a %1 called \"%2\" already.") + case_note;
         const QString template_taken = taken.arg(QStringLiteral("stored template"), QStringLiteral("Template"));
         const QString device_taken = taken.arg(QStringLiteral("device"), QStringLiteral("Device"));
-        const QString blank = QStringLiteral("The %1 name \" \" begins or ends with a blank: remove it.");
+        const QString blank = QStringLiteral("The %1 name \" \" begins or ends with a space: remove it.");
         rows<QString, QString, QString>(
             {{"a built-in device's", "mx25l25645g", "", no_part},
              {"a built-in template's", flow, "", no_flow.arg(flow)},
@@ -227,7 +227,7 @@ private slots:
             const std::string value = record->get_string_property(property);
             record->set_string_property(property, latin1);
             QVERIFY(!m_mgr->save_flash(record, m_place->db_dir()));
-            QCOMPARE(m_mgr->get_last_error(), std::string("The device \"A\" has a text that is not UTF-8."));
+            QCOMPARE(m_mgr->get_last_error(), std::string("The device \"A\" contains text that is not valid UTF-8."));
             record->set_string_property(property, value);
         }
         for (const bool variant : {SINGLE_IO, QUAD_IO}) {

@@ -2,8 +2,10 @@
 
 // The rules for values, the lists of choices, and what a configuration scheme has.
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_catalogue.h"
 #include "gfpdb_test.h"
+#include "marking_translator.h"
 #include "rules/gfpdb_checks.h"
 #include "rules/gfpdb_options.h"
 #include "rules/gfpdb_scheme_kind.h"
@@ -40,7 +42,8 @@ std::string id_error(const std::string& id)
     return gfpdb_check_device_id(id, error) ? std::string() : error;
 }
 
-const std::string ID_RULE = "Enter 1 to 16 bytes in hexadecimal, separated by blanks or commas, i.e. 0xC2 0x20 0x19.";
+const std::string ID_RULE =
+    "Enter 1 to 16 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.";
 
 } // namespace
 
@@ -97,7 +100,40 @@ private slots:
 
         QCOMPARE(name_error(name),
                  std::string("The device name has a line break or another control character: use letters, "
-                             "digits, marks and blanks."));
+                             "digits, punctuation and spaces."));
+    }
+
+    void sentences_are_in_the_language_of_the_program()
+    {
+        const MARKING_TRANSLATOR translator("gfpdb");
+        std::string error;
+
+        QCOMPARE(name_error(""), std::string("[The [device name] is empty: 1 to 64 characters are allowed.]"));
+        QCOMPARE(id_error("C2 x"), "[[\"x\" is not a byte of a device ID.] " + ID_RULE + ']');
+        QVERIFY(!gfpdb_check_range(5, 2, 4, "total die count", error));
+        QCOMPARE(error, std::string("[The [total die count] 5 is out of range: 2 to 4 are allowed.]"));
+    }
+
+    void values_stand_in_their_places_byte_for_byte()
+    {
+        // As translators may move them.
+        class TURNED : public QTranslator
+        {
+        public:
+            QString translate(const char*, const char*, const char*, int) const override
+            {
+                return QStringLiteral("%2 %% %1 %3 %");
+            }
+            bool isEmpty() const override { return false; }
+        };
+        TURNED turned;
+        QCoreApplication::installTranslator(&turned);
+
+        const std::string said = GFPDB_WORDS::say("%1 %2", {"%2", "M\xFCnchen"});
+
+        QCOMPARE(said, std::string("M\xFCnchen %% %2 %3 %"));
+        QCoreApplication::removeTranslator(&turned);
+        QCOMPARE(GFPDB_WORDS::say("%1 of %2", {"1", "2"}), std::string("1 of 2"));
     }
 
     void a_name_has_no_blank_at_its_ends_data()
@@ -110,7 +146,7 @@ private slots:
         const auto name = row<std::string>();
 
         QCOMPARE(name_error(name),
-                 "The device name " + gfpdb_quoted(name) + " begins or ends with a blank: remove it.");
+                 "The device name " + gfpdb_quoted(name) + " begins or ends with a space: remove it.");
     }
 
     void the_text_of_the_new_device_row_is_not_a_name()

@@ -169,7 +169,7 @@ private slots:
               "the same."},
              {"built-in template", "2", "No QE bit",
               "There is a built-in template called \"No QE bit\": choose another name."},
-             {"blank at its end", "1", "x ", "The device name \"x \" begins or ends with a blank: remove it."},
+             {"blank at its end", "1", "x ", "The device name \"x \" begins or ends with a space: remove it."},
              {"too long", "2", QString(65, 'x'),
               "The template name has 65 characters: 1 to 64 characters are allowed."},
              {"device and its template", "1", "t", alike + "\"t\"."},
@@ -199,7 +199,7 @@ private slots:
         QVERIFY(fresh_manager()->remove_template("T"));
         run_sql(m_place->db_file(), "UPDATE history SET name = 'Mine '");
         QCOMPARE(tool({"restore", "1"}).err,
-                 QByteArray("gfpdb: The device name \"Mine \" begins or ends with a blank: remove it.\n"));
+                 QByteArray("gfpdb: The device name \"Mine \" begins or ends with a space: remove it.\n"));
         QCOMPARE(tool({"restore", "1", "--as", "Mine"}).exit_code, 0);
 
         run_sql(m_place->db_file(), "UPDATE history SET name = 'MX25L1606E', template_name = 'MX25L3233F'");

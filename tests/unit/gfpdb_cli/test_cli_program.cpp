@@ -216,6 +216,36 @@ private slots:
         QVERIFY(QFile::exists(q(directory) + "gfpdb.sqlite"));
     }
 
+    void the_library_speaks_the_users_language_data()
+    {
+        const QByteArray english = "\"5V\" is not a usual one. Usual: ";
+        rows<QString, QString, QStringList, QByteArray>(
+            {{"LANGUAGE", "en_US.UTF-8", "fi:de:fr", QStringList(), "\"5V\" ist nicht üblich. Üblich: "},
+             {"locale", "pt_BR.UTF-8", "", QStringList(), "\"5V\" não é um valor usual. Usual: "},
+             {"without texts", "fi_FI.UTF-8", "", QStringList(), english},
+             {"C", "C.UTF-8", "", QStringList(), english},
+             {"for programs", "de_DE.UTF-8", "de", QStringList{"--json"}, "\\\"5V\\\" is not a usual one. Usual: "}});
+    }
+
+    void the_library_speaks_the_users_language()
+    {
+        const auto [locale, languages, options, said] = row<QString, QString, QStringList, QByteArray>();
+        save_part("Mine");
+        run_sql(m_place->db_file(), "UPDATE device SET voltage = '5V'");
+        const QByteArray former = qgetenv("LC_ALL");
+        qunsetenv("LC_ALL");
+        qputenv("LC_MESSAGES", locale.toLatin1());
+        qputenv("LANGUAGE", languages.toLatin1());
+
+        const TOOL_RUN run = tool(QStringList("check") + options);
+
+        qunsetenv("LANGUAGE");
+        qunsetenv("LC_MESSAGES");
+        if (!former.isEmpty())
+            qputenv("LC_ALL", former);
+        QVERIFY2((run.out + run.err).contains(said), (run.out + run.err).constData());
+    }
+
     // What a name could do to a terminal, it must not do; a file gets every byte.
     void no_control_character_reaches_a_terminal_data()
     {

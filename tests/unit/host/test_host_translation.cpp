@@ -33,7 +33,7 @@ private slots:
 
     void texts_are_looked_for_beside_the_programs()
     {
-        QCOMPARE(HOST_TRANSLATION::installed_directories(QStringLiteral("/opt/programmer/bin")),
+        QCOMPARE(TEXT_CATALOGUE::installed_directories(QStringLiteral("/opt/programmer/bin")),
                  QStringList(QStringLiteral("/opt/programmer/share/gfpq/translations")));
     }
 

@@ -1,0 +1,299 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>gfpdb</name>
+    <message>
+        <source>Upper and lower case count as the same.</source>
+        <translation>Groß- und Kleinschreibung zählt nicht.</translation>
+    </message>
+    <message>
+        <source>There is a built-in device called %1: choose another name.</source>
+        <translation>Es gibt einen eingebauten Baustein namens %1: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is a built-in template called %1: choose another name.</source>
+        <translation>Es gibt eine eingebaute Vorlage namens %1: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>part name</source>
+        <translation>Bausteinname</translation>
+    </message>
+    <message>
+        <source>The device %1 is neither deleted nor replaced, because it could not be read when it was last looked for: %2</source>
+        <translation>Der Baustein %1 wird weder gelöscht noch ersetzt, weil er zuletzt nicht gelesen werden konnte: %2</translation>
+    </message>
+    <message>
+        <source>The flows of %1 in %2 cannot be read.</source>
+        <translation>Die Abläufe von %1 in %2 können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a number.</source>
+        <translation>Die Eigenschaft %1 eines Bausteins ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a text.</source>
+        <translation>Die Eigenschaft %1 eines Bausteins ist kein Text.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name.</source>
+        <translation>Es gibt eine gespeicherte Vorlage namens %1: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: it is the one that is shown. Enter another name to rename it.</source>
+        <translation>Es gibt einen Baustein namens %1: Es ist der angezeigte. Geben Sie zum Umbenennen einen anderen Namen ein.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 for this family and configuration mode: choose another name.</source>
+        <translation>Es gibt für diese Familie und diesen Konfigurationsmodus einen Baustein namens %1: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name, or remove that template first.</source>
+        <translation>Es gibt eine gespeicherte Vorlage namens %1: Wählen Sie einen anderen Namen, oder entfernen Sie zuerst diese Vorlage.</translation>
+    </message>
+    <message>
+        <source>The template name %1 differs from the device name %2 in case only: choose another name.</source>
+        <translation>Der Vorlagenname %1 unterscheidet sich vom Bausteinnamen %2 nur in der Groß- und Kleinschreibung: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: choose another name.</source>
+        <translation>Es gibt einen Baustein namens %1: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it must support 1.8 V.</source>
+        <translation>Ein Flash-Baustein mit einer I/O-Spannung von %1 kann nicht an Bausteine der Familie %2 angeschlossen werden: Er muss mit 1,8 V arbeiten.</translation>
+    </message>
+    <message>
+        <source>%1 The device %2 that was deleted before was not put back: %3</source>
+        <translation>%1 Der zuvor gelöschte Baustein %2 wurde nicht zurückgebracht: %3</translation>
+    </message>
+    <message>
+        <source>There is no record to save.</source>
+        <translation>Es gibt keinen Datensatz zum Speichern.</translation>
+    </message>
+    <message>
+        <source>The configuration mode has no flash devices.</source>
+        <translation>Der Konfigurationsmodus hat keine Flash-Bausteine.</translation>
+    </message>
+    <message>
+        <source>The device %1 contains text that is not valid UTF-8.</source>
+        <translation>Der Baustein %1 enthält Text, der kein gültiges UTF-8 ist.</translation>
+    </message>
+    <message>
+        <source>The template %1 is built in: it cannot be removed.</source>
+        <translation>Die Vorlage %1 ist eingebaut: Sie kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>device name</source>
+        <translation>Bausteinname</translation>
+    </message>
+    <message>
+        <source>device ID</source>
+        <translation>Baustein-ID</translation>
+    </message>
+    <message>
+        <source>I/O voltage</source>
+        <translation>I/O-Spannung</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>Speicherkapazität</translation>
+    </message>
+    <message>
+        <source>total die count</source>
+        <translation>Anzahl Dies gesamt</translation>
+    </message>
+    <message>
+        <source>number of single-I/O dummy clocks</source>
+        <translation>Dummy-Takte im Single-I/O-Modus</translation>
+    </message>
+    <message>
+        <source>number of quad-I/O dummy clocks</source>
+        <translation>Dummy-Takte im Quad-I/O-Modus</translation>
+    </message>
+    <message>
+        <source>template name</source>
+        <translation>Vorlagenname</translation>
+    </message>
+    <message>
+        <source>flow template</source>
+        <translation>Ablaufvorlage</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>one byte in hexadecimal, such as 0x9F</source>
+        <translation>ein Byte hexadezimal, etwa 0x9F</translation>
+    </message>
+    <message>
+        <source>1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02</source>
+        <translation>1 bis %1 Bytes hexadezimal, durch je ein Leerzeichen getrennt, etwa 0x00 0x02</translation>
+    </message>
+    <message>
+        <source>an address of eight hexadecimal digits, such as 0x00010000</source>
+        <translation>eine Adresse aus acht Hexadezimalziffern, etwa 0x00010000</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>text of 1 to %1 characters on one line</source>
+        <translation>Text von 1 bis %1 Zeichen in einer Zeile</translation>
+    </message>
+    <message>
+        <source>a power of two from 1 to %1</source>
+        <translation>eine Zweierpotenz von 1 bis %1</translation>
+    </message>
+    <message>
+        <source>Loop marker</source>
+        <translation>Schleifenmarke</translation>
+    </message>
+    <message>
+        <source>There is no action property with the number %1. Allowed: 0 to %2.</source>
+        <translation>Es gibt keine Aktionseigenschaft mit der Nummer %1. Erlaubt: 0 bis %2.</translation>
+    </message>
+    <message>
+        <source>An empty value</source>
+        <translation>Ein leerer Wert</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed for &quot;%2&quot;. Allowed: %3.</source>
+        <translation>%1 ist für „%2“ nicht erlaubt. Erlaubt: %3.</translation>
+    </message>
+    <message>
+        <source>The %1 is empty: 1 to %2 characters are allowed.</source>
+        <translation>„%1“ ist leer: 1 bis %2 Zeichen sind erlaubt.</translation>
+    </message>
+    <message>
+        <source>The %1 has characters that cannot be stored.</source>
+        <translation>„%1“ hat Zeichen, die nicht gespeichert werden können.</translation>
+    </message>
+    <message>
+        <source>The %1 has %2 characters: 1 to %3 characters are allowed.</source>
+        <translation>„%1“ hat %2 Zeichen: 1 bis %3 Zeichen sind erlaubt.</translation>
+    </message>
+    <message>
+        <source>The %1 has a line break or another control character: use letters, digits, punctuation and spaces.</source>
+        <translation>„%1“ hat einen Zeilenumbruch oder ein anderes Steuerzeichen: Verwenden Sie Buchstaben, Ziffern, Satzzeichen und Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 begins or ends with a space: remove it.</source>
+        <translation>„%1“ %2 beginnt oder endet mit einem Leerzeichen: Entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is reserved for a new device: choose another.</source>
+        <translation>„%1“ %2 ist für einen neuen Baustein reserviert: Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.</source>
+        <translation>%1 Geben Sie 1 bis %2 Bytes hexadezimal ein, durch Leerzeichen oder Kommas getrennt, zum Beispiel 0xC2 0x20 0x19.</translation>
+    </message>
+    <message>
+        <source>The device ID is empty.</source>
+        <translation>Die Baustein-ID ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 is not a byte of a device ID.</source>
+        <translation>%1 ist kein Byte einer Baustein-ID.</translation>
+    </message>
+    <message>
+        <source>The device ID has %1 bytes.</source>
+        <translation>Die Baustein-ID hat %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is out of range: %3 to %4 are allowed.</source>
+        <translation>„%1“: %2 liegt außerhalb des Bereichs, %3 bis %4 sind erlaubt.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not known: choose one of %3.</source>
+        <translation>„%1“: %2 ist nicht bekannt. Wählen Sie eines von %3.</translation>
+    </message>
+    <message>
+        <source>The loop that starts at action %1 has no end.</source>
+        <translation>Die Schleife, die bei Aktion %1 beginnt, hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page or sector in a loop over each die.</source>
+        <translation>Eine Schleife über „%1“ kann nicht in einer Schleife über „%2“ stehen. Erlaubt: eine Schleife über „page“ oder „sector“ in einer Schleife über „die“.</translation>
+    </message>
+    <message>
+        <source>The end of a loop has no start before it.</source>
+        <translation>Vor dem Ende einer Schleife fehlt ihr Anfang.</translation>
+    </message>
+    <message>
+        <source>The end of a loop over each %1 closes a loop over each %2.</source>
+        <translation>Das Ende einer Schleife über „%1“ schließt eine Schleife über „%2“.</translation>
+    </message>
+    <message>
+        <source>The loop over each %1 has no %2 action to determine its step size.</source>
+        <translation>Die Schleife über „%1“ hat keine Aktion „%2“, die ihre Schrittweite bestimmt.</translation>
+    </message>
+    <message>
+        <source>One of several erases in a loop has a fixed address. Allowed: loop or die.</source>
+        <translation>Eine von mehreren Löschaktionen in einer Schleife hat eine feste Adresse. Erlaubt: loop oder die.</translation>
+    </message>
+    <message>
+        <source>The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.</source>
+        <translation>Die Schleife hat Seitengrößen von %1 und von %2. Erlaubt: eine Seitengröße je Schleife.</translation>
+    </message>
+    <message>
+        <source>The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each divides every larger one.</source>
+        <translation>Die Löschgrößen %1 und %2 passen nicht in eine Schleife. Erlaubt: Größen, von denen jede alle größeren teilt.</translation>
+    </message>
+    <message>
+        <source>The value &quot;loop&quot; is outside any loop.</source>
+        <translation>Der Wert „loop“ steht außerhalb einer Schleife.</translation>
+    </message>
+    <message>
+        <source>The value &quot;die&quot; is outside a loop over each die.</source>
+        <translation>Der Wert „die“ steht außerhalb einer Schleife über „die“.</translation>
+    </message>
+    <message>
+        <source>The action has %1 address bytes, an earlier one has %2. Allowed: the same number in all actions of a flow.</source>
+        <translation>Die Aktion hat %1 Adressbytes, eine frühere hat %2. Erlaubt: dieselbe Anzahl in allen Aktionen eines Ablaufs.</translation>
+    </message>
+    <message>
+        <source>The flows cannot be read.</source>
+        <translation>Die Abläufe können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The device and its template need different names: both are called %1.</source>
+        <translation>Der Baustein und seine Vorlage brauchen verschiedene Namen: Beide heißen %1.</translation>
+    </message>
+    <message>
+        <source>There is no family %1. Allowed: %2 to %3.</source>
+        <translation>Die Familie %1 gibt es nicht. Erlaubt: %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no flash devices.</source>
+        <translation>Der Konfigurationsmodus %1 hat keine Flash-Bausteine.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not a usual one. Usual: %3.</source>
+        <translation>„%1“: %2 ist nicht üblich. Üblich: %3.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no flows: the dialog drops them.</source>
+        <translation>Bausteine dieses Konfigurationsmodus haben keine Abläufe: Der Dialog lässt sie weg.</translation>
+    </message>
+    <message>
+        <source>There are no flows.</source>
+        <translation>Es gibt keine Abläufe.</translation>
+    </message>
+    <message>
+        <source>There are no flows for this configuration mode.</source>
+        <translation>Es gibt keine Abläufe für diesen Konfigurationsmodus.</translation>
+    </message>
+    <message>
+        <source>The value is missing: %1 is stored.</source>
+        <translation>Der Wert fehlt: %1 wird gespeichert.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
+        <translation>Bausteine dieses Konfigurationsmodus haben diesen Wert nicht: Der Dialog lässt ihn weg.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,299 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>gfpdb</name>
+    <message>
+        <source>Upper and lower case count as the same.</source>
+        <translation>No se distinguen mayúsculas y minúsculas.</translation>
+    </message>
+    <message>
+        <source>There is a built-in device called %1: choose another name.</source>
+        <translation>Hay un dispositivo integrado llamado %1: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>There is a built-in template called %1: choose another name.</source>
+        <translation>Hay una plantilla integrada llamada %1: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>part name</source>
+        <translation>Nombre del componente</translation>
+    </message>
+    <message>
+        <source>The device %1 is neither deleted nor replaced, because it could not be read when it was last looked for: %2</source>
+        <translation>El dispositivo %1 no se borra ni se reemplaza porque no se pudo leer la última vez que se buscó: %2</translation>
+    </message>
+    <message>
+        <source>The flows of %1 in %2 cannot be read.</source>
+        <translation>No se pueden leer los flujos de %1 en %2.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a number.</source>
+        <translation>La propiedad %1 de un dispositivo no es un número.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a text.</source>
+        <translation>La propiedad %1 de un dispositivo no es un texto.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name.</source>
+        <translation>Hay una plantilla guardada llamada %1: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: it is the one that is shown. Enter another name to rename it.</source>
+        <translation>Hay un dispositivo llamado %1: es el que se muestra. Escriba otro nombre para cambiárselo.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 for this family and configuration mode: choose another name.</source>
+        <translation>Hay un dispositivo llamado %1 para esta familia y este modo de configuración: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name, or remove that template first.</source>
+        <translation>Hay una plantilla guardada llamada %1: elija otro nombre o quite antes esa plantilla.</translation>
+    </message>
+    <message>
+        <source>The template name %1 differs from the device name %2 in case only: choose another name.</source>
+        <translation>El nombre de plantilla %1 solo difiere del nombre del dispositivo %2 en mayúsculas y minúsculas: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: choose another name.</source>
+        <translation>Hay un dispositivo llamado %1: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it must support 1.8 V.</source>
+        <translation>Un dispositivo flash con una tensión de I/O de %1 no se puede conectar a dispositivos %2: debe admitir 1,8 V.</translation>
+    </message>
+    <message>
+        <source>%1 The device %2 that was deleted before was not put back: %3</source>
+        <translation>%1 El dispositivo %2, que se había borrado antes, no se restauró: %3</translation>
+    </message>
+    <message>
+        <source>There is no record to save.</source>
+        <translation>No hay ningún registro que guardar.</translation>
+    </message>
+    <message>
+        <source>The configuration mode has no flash devices.</source>
+        <translation>El modo de configuración no tiene dispositivos flash.</translation>
+    </message>
+    <message>
+        <source>The device %1 contains text that is not valid UTF-8.</source>
+        <translation>El dispositivo %1 contiene texto que no es UTF-8 válido.</translation>
+    </message>
+    <message>
+        <source>The template %1 is built in: it cannot be removed.</source>
+        <translation>La plantilla %1 está integrada: no se puede quitar.</translation>
+    </message>
+    <message>
+        <source>device name</source>
+        <translation>Nombre del dispositivo</translation>
+    </message>
+    <message>
+        <source>device ID</source>
+        <translation>ID del dispositivo</translation>
+    </message>
+    <message>
+        <source>I/O voltage</source>
+        <translation>Tensión de I/O</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>Capacidad</translation>
+    </message>
+    <message>
+        <source>total die count</source>
+        <translation>Número total de dies</translation>
+    </message>
+    <message>
+        <source>number of single-I/O dummy clocks</source>
+        <translation>Ciclos dummy en modo Single I/O</translation>
+    </message>
+    <message>
+        <source>number of quad-I/O dummy clocks</source>
+        <translation>Ciclos dummy en modo Quad I/O</translation>
+    </message>
+    <message>
+        <source>template name</source>
+        <translation>Nombre de la plantilla</translation>
+    </message>
+    <message>
+        <source>flow template</source>
+        <translation>Plantilla de flujo</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>un número entero de %1 a %2</translation>
+    </message>
+    <message>
+        <source>one byte in hexadecimal, such as 0x9F</source>
+        <translation>un byte en hexadecimal, como 0x9F</translation>
+    </message>
+    <message>
+        <source>1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02</source>
+        <translation>de 1 a %1 bytes en hexadecimal separados por un espacio, como 0x00 0x02</translation>
+    </message>
+    <message>
+        <source>an address of eight hexadecimal digits, such as 0x00010000</source>
+        <translation>una dirección de ocho dígitos hexadecimales, como 0x00010000</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>text of 1 to %1 characters on one line</source>
+        <translation>texto de 1 a %1 caracteres en una línea</translation>
+    </message>
+    <message>
+        <source>a power of two from 1 to %1</source>
+        <translation>una potencia de dos de 1 a %1</translation>
+    </message>
+    <message>
+        <source>Loop marker</source>
+        <translation>Marca de bucle</translation>
+    </message>
+    <message>
+        <source>There is no action property with the number %1. Allowed: 0 to %2.</source>
+        <translation>No hay ninguna propiedad de acción con el número %1. Permitido: de 0 a %2.</translation>
+    </message>
+    <message>
+        <source>An empty value</source>
+        <translation>Un valor vacío</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed for &quot;%2&quot;. Allowed: %3.</source>
+        <translation>%1 no está permitido para «%2». Permitido: %3.</translation>
+    </message>
+    <message>
+        <source>The %1 is empty: 1 to %2 characters are allowed.</source>
+        <translation>«%1» está vacío: se permiten de 1 a %2 caracteres.</translation>
+    </message>
+    <message>
+        <source>The %1 has characters that cannot be stored.</source>
+        <translation>«%1» tiene caracteres que no se pueden guardar.</translation>
+    </message>
+    <message>
+        <source>The %1 has %2 characters: 1 to %3 characters are allowed.</source>
+        <translation>«%1» tiene %2 caracteres: se permiten de 1 a %3.</translation>
+    </message>
+    <message>
+        <source>The %1 has a line break or another control character: use letters, digits, punctuation and spaces.</source>
+        <translation>«%1» tiene un salto de línea u otro carácter de control: use letras, cifras, signos de puntuación y espacios.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 begins or ends with a space: remove it.</source>
+        <translation>«%1» %2 empieza o termina con un espacio: quítelo.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is reserved for a new device: choose another.</source>
+        <translation>«%1» %2 está reservado para un dispositivo nuevo: elija otro.</translation>
+    </message>
+    <message>
+        <source>%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.</source>
+        <translation>%1 Escriba de 1 a %2 bytes en hexadecimal, separados por espacios o comas, por ejemplo 0xC2 0x20 0x19.</translation>
+    </message>
+    <message>
+        <source>The device ID is empty.</source>
+        <translation>El ID del dispositivo está vacío.</translation>
+    </message>
+    <message>
+        <source>%1 is not a byte of a device ID.</source>
+        <translation>%1 no es un byte de un ID de dispositivo.</translation>
+    </message>
+    <message>
+        <source>The device ID has %1 bytes.</source>
+        <translation>El ID del dispositivo tiene %1 bytes.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is out of range: %3 to %4 are allowed.</source>
+        <translation>«%1»: %2 está fuera de rango; se permite de %3 a %4.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not known: choose one of %3.</source>
+        <translation>«%1»: %2 no se conoce; elija uno de %3.</translation>
+    </message>
+    <message>
+        <source>The loop that starts at action %1 has no end.</source>
+        <translation>El bucle que empieza en la acción %1 no tiene fin.</translation>
+    </message>
+    <message>
+        <source>A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page or sector in a loop over each die.</source>
+        <translation>Un bucle por «%1» no puede estar en un bucle por «%2». Permitido: un bucle por «page» o «sector» en un bucle por «die».</translation>
+    </message>
+    <message>
+        <source>The end of a loop has no start before it.</source>
+        <translation>El fin de un bucle no tiene inicio antes.</translation>
+    </message>
+    <message>
+        <source>The end of a loop over each %1 closes a loop over each %2.</source>
+        <translation>El fin de un bucle por «%1» cierra un bucle por «%2».</translation>
+    </message>
+    <message>
+        <source>The loop over each %1 has no %2 action to determine its step size.</source>
+        <translation>El bucle por «%1» no tiene ninguna acción «%2» que determine su paso.</translation>
+    </message>
+    <message>
+        <source>One of several erases in a loop has a fixed address. Allowed: loop or die.</source>
+        <translation>Uno de varios borrados de un bucle tiene una dirección fija. Permitido: loop o die.</translation>
+    </message>
+    <message>
+        <source>The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.</source>
+        <translation>El bucle tiene tamaños de página de %1 y de %2. Permitido: un solo tamaño de página por bucle.</translation>
+    </message>
+    <message>
+        <source>The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each divides every larger one.</source>
+        <translation>Los tamaños de borrado %1 y %2 no pueden estar en el mismo bucle. Permitido: tamaños en los que cada uno divide a los mayores.</translation>
+    </message>
+    <message>
+        <source>The value &quot;loop&quot; is outside any loop.</source>
+        <translation>El valor «loop» está fuera de todo bucle.</translation>
+    </message>
+    <message>
+        <source>The value &quot;die&quot; is outside a loop over each die.</source>
+        <translation>El valor «die» está fuera de un bucle por «die».</translation>
+    </message>
+    <message>
+        <source>The action has %1 address bytes, an earlier one has %2. Allowed: the same number in all actions of a flow.</source>
+        <translation>La acción tiene %1 bytes de dirección y una anterior tiene %2. Permitido: el mismo número en todas las acciones de un flujo.</translation>
+    </message>
+    <message>
+        <source>The flows cannot be read.</source>
+        <translation>No se pueden leer los flujos.</translation>
+    </message>
+    <message>
+        <source>The device and its template need different names: both are called %1.</source>
+        <translation>El dispositivo y su plantilla necesitan nombres distintos: ambos se llaman %1.</translation>
+    </message>
+    <message>
+        <source>There is no family %1. Allowed: %2 to %3.</source>
+        <translation>La familia %1 no existe. Permitido: de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no flash devices.</source>
+        <translation>El modo de configuración %1 no tiene dispositivos flash.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not a usual one. Usual: %3.</source>
+        <translation>«%1»: %2 no es un valor habitual. Habituales: %3.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no flows: the dialog drops them.</source>
+        <translation>Los dispositivos de este modo de configuración no tienen flujos: el diálogo los descarta.</translation>
+    </message>
+    <message>
+        <source>There are no flows.</source>
+        <translation>No hay flujos.</translation>
+    </message>
+    <message>
+        <source>There are no flows for this configuration mode.</source>
+        <translation>No hay flujos para este modo de configuración.</translation>
+    </message>
+    <message>
+        <source>The value is missing: %1 is stored.</source>
+        <translation>Falta el valor: se guarda %1.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
+        <translation>Los dispositivos de este modo de configuración no tienen ese valor: el diálogo lo descarta.</translation>
+    </message>
+</context>
+</TS>

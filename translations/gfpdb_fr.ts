@@ -1,0 +1,299 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>gfpdb</name>
+    <message>
+        <source>Upper and lower case count as the same.</source>
+        <translation>Majuscules et minuscules ne sont pas distinguées.</translation>
+    </message>
+    <message>
+        <source>There is a built-in device called %1: choose another name.</source>
+        <translation>Il existe un composant intégré nommé %1&#xa0;: choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>There is a built-in template called %1: choose another name.</source>
+        <translation>Il existe un modèle intégré nommé %1&#xa0;: choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>part name</source>
+        <translation>Nom du composant</translation>
+    </message>
+    <message>
+        <source>The device %1 is neither deleted nor replaced, because it could not be read when it was last looked for: %2</source>
+        <translation>Le composant %1 n’est ni supprimé ni remplacé, car il n’a pas pu être lu la dernière fois&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The flows of %1 in %2 cannot be read.</source>
+        <translation>Les flots de %1 dans %2 ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a number.</source>
+        <translation>La propriété %1 d’un composant n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a text.</source>
+        <translation>La propriété %1 d’un composant n’est pas un texte.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name.</source>
+        <translation>Il existe un modèle enregistré nommé %1&#xa0;: choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: it is the one that is shown. Enter another name to rename it.</source>
+        <translation>Il existe un composant nommé %1&#xa0;: c’est celui qui est affiché. Saisissez un autre nom pour le renommer.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 for this family and configuration mode: choose another name.</source>
+        <translation>Il existe un composant nommé %1 pour cette famille et ce mode de configuration&#xa0;: choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name, or remove that template first.</source>
+        <translation>Il existe un modèle enregistré nommé %1&#xa0;: choisissez un autre nom, ou supprimez d’abord ce modèle.</translation>
+    </message>
+    <message>
+        <source>The template name %1 differs from the device name %2 in case only: choose another name.</source>
+        <translation>Le nom de modèle %1 ne diffère du nom de composant %2 que par la casse&#xa0;: choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: choose another name.</source>
+        <translation>Il existe un composant nommé %1&#xa0;: choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it must support 1.8 V.</source>
+        <translation>Un composant flash dont la tension d’I/O est %1 ne peut pas être relié aux composants %2&#xa0;: il doit fonctionner sous 1,8 V.</translation>
+    </message>
+    <message>
+        <source>%1 The device %2 that was deleted before was not put back: %3</source>
+        <translation>%1 Le composant %2, supprimé auparavant, n’a pas été rétabli&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>There is no record to save.</source>
+        <translation>Il n’y a pas d’enregistrement à sauvegarder.</translation>
+    </message>
+    <message>
+        <source>The configuration mode has no flash devices.</source>
+        <translation>Le mode de configuration n’a pas de composants flash.</translation>
+    </message>
+    <message>
+        <source>The device %1 contains text that is not valid UTF-8.</source>
+        <translation>Le composant %1 contient du texte qui n’est pas de l’UTF-8 valide.</translation>
+    </message>
+    <message>
+        <source>The template %1 is built in: it cannot be removed.</source>
+        <translation>Le modèle %1 est intégré&#xa0;: il ne peut pas être supprimé.</translation>
+    </message>
+    <message>
+        <source>device name</source>
+        <translation>Nom du composant</translation>
+    </message>
+    <message>
+        <source>device ID</source>
+        <translation>ID du composant</translation>
+    </message>
+    <message>
+        <source>I/O voltage</source>
+        <translation>Tension d’I/O</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>total die count</source>
+        <translation>Nombre total de dies</translation>
+    </message>
+    <message>
+        <source>number of single-I/O dummy clocks</source>
+        <translation>Cycles dummy en mode Single I/O</translation>
+    </message>
+    <message>
+        <source>number of quad-I/O dummy clocks</source>
+        <translation>Cycles dummy en mode Quad I/O</translation>
+    </message>
+    <message>
+        <source>template name</source>
+        <translation>Nom du modèle</translation>
+    </message>
+    <message>
+        <source>flow template</source>
+        <translation>Modèle de flot</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>un nombre entier de %1 à %2</translation>
+    </message>
+    <message>
+        <source>one byte in hexadecimal, such as 0x9F</source>
+        <translation>un octet en hexadécimal, par exemple 0x9F</translation>
+    </message>
+    <message>
+        <source>1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02</source>
+        <translation>de 1 à %1 octets en hexadécimal séparés par une espace, par exemple 0x00 0x02</translation>
+    </message>
+    <message>
+        <source>an address of eight hexadecimal digits, such as 0x00010000</source>
+        <translation>une adresse de huit chiffres hexadécimaux, par exemple 0x00010000</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>text of 1 to %1 characters on one line</source>
+        <translation>texte de 1 à %1 caractères sur une ligne</translation>
+    </message>
+    <message>
+        <source>a power of two from 1 to %1</source>
+        <translation>une puissance de deux de 1 à %1</translation>
+    </message>
+    <message>
+        <source>Loop marker</source>
+        <translation>Marque de boucle</translation>
+    </message>
+    <message>
+        <source>There is no action property with the number %1. Allowed: 0 to %2.</source>
+        <translation>Il n’existe pas de propriété d’action numéro %1. Autorisé&#xa0;: de 0 à %2.</translation>
+    </message>
+    <message>
+        <source>An empty value</source>
+        <translation>Une valeur vide</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed for &quot;%2&quot;. Allowed: %3.</source>
+        <translation>%1 n’est pas autorisé pour «&#xa0;%2&#xa0;». Autorisé&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>The %1 is empty: 1 to %2 characters are allowed.</source>
+        <translation>«&#xa0;%1&#xa0;» est vide&#xa0;: de 1 à %2 caractères sont autorisés.</translation>
+    </message>
+    <message>
+        <source>The %1 has characters that cannot be stored.</source>
+        <translation>«&#xa0;%1&#xa0;» contient des caractères qui ne peuvent pas être enregistrés.</translation>
+    </message>
+    <message>
+        <source>The %1 has %2 characters: 1 to %3 characters are allowed.</source>
+        <translation>«&#xa0;%1&#xa0;» compte %2 caractères&#xa0;: de 1 à %3 sont autorisés.</translation>
+    </message>
+    <message>
+        <source>The %1 has a line break or another control character: use letters, digits, punctuation and spaces.</source>
+        <translation>«&#xa0;%1&#xa0;» contient un saut de ligne ou un autre caractère de commande&#xa0;: utilisez des lettres, chiffres, signes de ponctuation et espaces.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 begins or ends with a space: remove it.</source>
+        <translation>«&#xa0;%1&#xa0;» %2 commence ou finit par une espace&#xa0;: supprimez-la.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is reserved for a new device: choose another.</source>
+        <translation>«&#xa0;%1&#xa0;» %2 est réservé à un nouveau composant&#xa0;: choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.</source>
+        <translation>%1 Saisissez de 1 à %2 octets en hexadécimal, séparés par des espaces ou des virgules, par exemple 0xC2 0x20 0x19.</translation>
+    </message>
+    <message>
+        <source>The device ID is empty.</source>
+        <translation>L’ID du composant est vide.</translation>
+    </message>
+    <message>
+        <source>%1 is not a byte of a device ID.</source>
+        <translation>%1 n’est pas un octet d’ID de composant.</translation>
+    </message>
+    <message>
+        <source>The device ID has %1 bytes.</source>
+        <translation>L’ID du composant compte %1 octets.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is out of range: %3 to %4 are allowed.</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: %2 est hors limites, de %3 à %4 sont autorisés.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not known: choose one of %3.</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: %2 n’est pas connu, choisissez parmi %3.</translation>
+    </message>
+    <message>
+        <source>The loop that starts at action %1 has no end.</source>
+        <translation>La boucle qui commence à l’action %1 n’a pas de fin.</translation>
+    </message>
+    <message>
+        <source>A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page or sector in a loop over each die.</source>
+        <translation>Une boucle sur «&#xa0;%1&#xa0;» ne peut pas être dans une boucle sur «&#xa0;%2&#xa0;». Autorisé&#xa0;: une boucle sur «&#xa0;page&#xa0;» ou «&#xa0;sector&#xa0;» dans une boucle sur «&#xa0;die&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The end of a loop has no start before it.</source>
+        <translation>La fin d’une boucle n’est précédée d’aucun début.</translation>
+    </message>
+    <message>
+        <source>The end of a loop over each %1 closes a loop over each %2.</source>
+        <translation>La fin d’une boucle sur «&#xa0;%1&#xa0;» ferme une boucle sur «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The loop over each %1 has no %2 action to determine its step size.</source>
+        <translation>La boucle sur «&#xa0;%1&#xa0;» n’a pas d’action «&#xa0;%2&#xa0;» qui détermine son pas.</translation>
+    </message>
+    <message>
+        <source>One of several erases in a loop has a fixed address. Allowed: loop or die.</source>
+        <translation>L’un des effacements d’une boucle a une adresse fixe. Autorisé&#xa0;: loop ou die.</translation>
+    </message>
+    <message>
+        <source>The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.</source>
+        <translation>La boucle a des tailles de page de %1 et de %2. Autorisé&#xa0;: une seule taille de page par boucle.</translation>
+    </message>
+    <message>
+        <source>The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each divides every larger one.</source>
+        <translation>Les tailles d’effacement %1 et %2 ne vont pas ensemble dans une boucle. Autorisé&#xa0;: des tailles dont chacune divise toutes les plus grandes.</translation>
+    </message>
+    <message>
+        <source>The value &quot;loop&quot; is outside any loop.</source>
+        <translation>La valeur «&#xa0;loop&#xa0;» est hors de toute boucle.</translation>
+    </message>
+    <message>
+        <source>The value &quot;die&quot; is outside a loop over each die.</source>
+        <translation>La valeur «&#xa0;die&#xa0;» est hors d’une boucle sur «&#xa0;die&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The action has %1 address bytes, an earlier one has %2. Allowed: the same number in all actions of a flow.</source>
+        <translation>L’action a %1 octets d’adresse, une action précédente en a %2. Autorisé&#xa0;: le même nombre dans toutes les actions d’un flot.</translation>
+    </message>
+    <message>
+        <source>The flows cannot be read.</source>
+        <translation>Les flots ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>The device and its template need different names: both are called %1.</source>
+        <translation>Le composant et son modèle doivent avoir des noms différents&#xa0;: tous deux s’appellent %1.</translation>
+    </message>
+    <message>
+        <source>There is no family %1. Allowed: %2 to %3.</source>
+        <translation>La famille %1 n’existe pas. Autorisé&#xa0;: de %2 à %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no flash devices.</source>
+        <translation>Le mode de configuration %1 n’a pas de composants flash.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not a usual one. Usual: %3.</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: %2 n’est pas une valeur usuelle. Usuelles&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no flows: the dialog drops them.</source>
+        <translation>Les composants de ce mode de configuration n’ont pas de flots&#xa0;: le dialogue les abandonne.</translation>
+    </message>
+    <message>
+        <source>There are no flows.</source>
+        <translation>Il n’y a pas de flots.</translation>
+    </message>
+    <message>
+        <source>There are no flows for this configuration mode.</source>
+        <translation>Il n’y a pas de flots pour ce mode de configuration.</translation>
+    </message>
+    <message>
+        <source>The value is missing: %1 is stored.</source>
+        <translation>La valeur manque&#xa0;: %1 est enregistré.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
+        <translation>Les composants de ce mode de configuration n’ont pas cette valeur&#xa0;: le dialogue l’abandonne.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,299 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>gfpdb</name>
+    <message>
+        <source>Upper and lower case count as the same.</source>
+        <translation>Maiuscole e minuscole non si distinguono.</translation>
+    </message>
+    <message>
+        <source>There is a built-in device called %1: choose another name.</source>
+        <translation>Esiste un dispositivo integrato di nome %1: scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>There is a built-in template called %1: choose another name.</source>
+        <translation>Esiste un modello integrato di nome %1: scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>part name</source>
+        <translation>Nome del componente</translation>
+    </message>
+    <message>
+        <source>The device %1 is neither deleted nor replaced, because it could not be read when it was last looked for: %2</source>
+        <translation>Il dispositivo %1 non viene né eliminato né sostituito, perché l’ultima volta non è stato possibile leggerlo: %2</translation>
+    </message>
+    <message>
+        <source>The flows of %1 in %2 cannot be read.</source>
+        <translation>Impossibile leggere i flussi di %1 in %2.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a number.</source>
+        <translation>La proprietà %1 di un dispositivo non è un numero.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a text.</source>
+        <translation>La proprietà %1 di un dispositivo non è un testo.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name.</source>
+        <translation>Esiste un modello salvato di nome %1: scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: it is the one that is shown. Enter another name to rename it.</source>
+        <translation>Esiste un dispositivo di nome %1: è quello visualizzato. Per rinominarlo immettere un altro nome.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 for this family and configuration mode: choose another name.</source>
+        <translation>Esiste un dispositivo di nome %1 per questa famiglia e modalità di configurazione: scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name, or remove that template first.</source>
+        <translation>Esiste un modello salvato di nome %1: scegliere un altro nome o rimuovere prima quel modello.</translation>
+    </message>
+    <message>
+        <source>The template name %1 differs from the device name %2 in case only: choose another name.</source>
+        <translation>Il nome del modello %1 differisce dal nome del dispositivo %2 solo per maiuscole e minuscole: scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: choose another name.</source>
+        <translation>Esiste un dispositivo di nome %1: scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it must support 1.8 V.</source>
+        <translation>Un dispositivo flash con tensione di I/O %1 non può essere collegato a dispositivi %2: deve funzionare a 1,8 V.</translation>
+    </message>
+    <message>
+        <source>%1 The device %2 that was deleted before was not put back: %3</source>
+        <translation>%1 Il dispositivo %2, eliminato in precedenza, non è stato ripristinato: %3</translation>
+    </message>
+    <message>
+        <source>There is no record to save.</source>
+        <translation>Non c’è alcun record da salvare.</translation>
+    </message>
+    <message>
+        <source>The configuration mode has no flash devices.</source>
+        <translation>La modalità di configurazione non ha dispositivi flash.</translation>
+    </message>
+    <message>
+        <source>The device %1 contains text that is not valid UTF-8.</source>
+        <translation>Il dispositivo %1 contiene testo che non è UTF-8 valido.</translation>
+    </message>
+    <message>
+        <source>The template %1 is built in: it cannot be removed.</source>
+        <translation>Il modello %1 è integrato: non può essere rimosso.</translation>
+    </message>
+    <message>
+        <source>device name</source>
+        <translation>Nome del dispositivo</translation>
+    </message>
+    <message>
+        <source>device ID</source>
+        <translation>ID del dispositivo</translation>
+    </message>
+    <message>
+        <source>I/O voltage</source>
+        <translation>Tensione di I/O</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>Capacità</translation>
+    </message>
+    <message>
+        <source>total die count</source>
+        <translation>Numero totale di die</translation>
+    </message>
+    <message>
+        <source>number of single-I/O dummy clocks</source>
+        <translation>Cicli dummy in modalità Single I/O</translation>
+    </message>
+    <message>
+        <source>number of quad-I/O dummy clocks</source>
+        <translation>Cicli dummy in modalità Quad I/O</translation>
+    </message>
+    <message>
+        <source>template name</source>
+        <translation>Nome del modello</translation>
+    </message>
+    <message>
+        <source>flow template</source>
+        <translation>Modello di flusso</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>un numero intero da %1 a %2</translation>
+    </message>
+    <message>
+        <source>one byte in hexadecimal, such as 0x9F</source>
+        <translation>un byte in esadecimale, ad esempio 0x9F</translation>
+    </message>
+    <message>
+        <source>1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02</source>
+        <translation>da 1 a %1 byte in esadecimale separati da uno spazio, ad esempio 0x00 0x02</translation>
+    </message>
+    <message>
+        <source>an address of eight hexadecimal digits, such as 0x00010000</source>
+        <translation>un indirizzo di otto cifre esadecimali, ad esempio 0x00010000</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>text of 1 to %1 characters on one line</source>
+        <translation>testo da 1 a %1 caratteri su una riga</translation>
+    </message>
+    <message>
+        <source>a power of two from 1 to %1</source>
+        <translation>una potenza di due da 1 a %1</translation>
+    </message>
+    <message>
+        <source>Loop marker</source>
+        <translation>Marcatore del ciclo</translation>
+    </message>
+    <message>
+        <source>There is no action property with the number %1. Allowed: 0 to %2.</source>
+        <translation>Non esiste una proprietà di azione con il numero %1. Consentito: da 0 a %2.</translation>
+    </message>
+    <message>
+        <source>An empty value</source>
+        <translation>Un valore vuoto</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed for &quot;%2&quot;. Allowed: %3.</source>
+        <translation>%1 non è consentito per «%2». Consentito: %3.</translation>
+    </message>
+    <message>
+        <source>The %1 is empty: 1 to %2 characters are allowed.</source>
+        <translation>«%1» è vuoto: sono consentiti da 1 a %2 caratteri.</translation>
+    </message>
+    <message>
+        <source>The %1 has characters that cannot be stored.</source>
+        <translation>«%1» contiene caratteri che non si possono salvare.</translation>
+    </message>
+    <message>
+        <source>The %1 has %2 characters: 1 to %3 characters are allowed.</source>
+        <translation>«%1» ha %2 caratteri: ne sono consentiti da 1 a %3.</translation>
+    </message>
+    <message>
+        <source>The %1 has a line break or another control character: use letters, digits, punctuation and spaces.</source>
+        <translation>«%1» contiene un’interruzione di riga o un altro carattere di controllo: usare lettere, cifre, punteggiatura e spazi.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 begins or ends with a space: remove it.</source>
+        <translation>«%1» %2 inizia o termina con uno spazio: rimuoverlo.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is reserved for a new device: choose another.</source>
+        <translation>«%1» %2 è riservato a un nuovo dispositivo: sceglierne un altro.</translation>
+    </message>
+    <message>
+        <source>%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.</source>
+        <translation>%1 Immettere da 1 a %2 byte in esadecimale, separati da spazi o virgole, ad esempio 0xC2 0x20 0x19.</translation>
+    </message>
+    <message>
+        <source>The device ID is empty.</source>
+        <translation>L’ID del dispositivo è vuoto.</translation>
+    </message>
+    <message>
+        <source>%1 is not a byte of a device ID.</source>
+        <translation>%1 non è un byte di un ID di dispositivo.</translation>
+    </message>
+    <message>
+        <source>The device ID has %1 bytes.</source>
+        <translation>L’ID del dispositivo ha %1 byte.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is out of range: %3 to %4 are allowed.</source>
+        <translation>«%1»: %2 è fuori intervallo; sono consentiti valori da %3 a %4.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not known: choose one of %3.</source>
+        <translation>«%1»: %2 non è noto; scegliere tra %3.</translation>
+    </message>
+    <message>
+        <source>The loop that starts at action %1 has no end.</source>
+        <translation>Il ciclo che inizia all’azione %1 non ha fine.</translation>
+    </message>
+    <message>
+        <source>A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page or sector in a loop over each die.</source>
+        <translation>Un ciclo su «%1» non può stare in un ciclo su «%2». Consentito: un ciclo su «page» o «sector» in un ciclo su «die».</translation>
+    </message>
+    <message>
+        <source>The end of a loop has no start before it.</source>
+        <translation>La fine di un ciclo non ha un inizio prima.</translation>
+    </message>
+    <message>
+        <source>The end of a loop over each %1 closes a loop over each %2.</source>
+        <translation>La fine di un ciclo su «%1» chiude un ciclo su «%2».</translation>
+    </message>
+    <message>
+        <source>The loop over each %1 has no %2 action to determine its step size.</source>
+        <translation>Il ciclo su «%1» non ha un’azione «%2» che ne determini il passo.</translation>
+    </message>
+    <message>
+        <source>One of several erases in a loop has a fixed address. Allowed: loop or die.</source>
+        <translation>Una delle cancellazioni di un ciclo ha un indirizzo fisso. Consentito: loop o die.</translation>
+    </message>
+    <message>
+        <source>The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.</source>
+        <translation>Il ciclo ha dimensioni di pagina di %1 e di %2. Consentito: una sola dimensione per ciclo.</translation>
+    </message>
+    <message>
+        <source>The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each divides every larger one.</source>
+        <translation>Le dimensioni di cancellazione %1 e %2 non possono stare nello stesso ciclo. Consentito: dimensioni ognuna delle quali divide tutte le maggiori.</translation>
+    </message>
+    <message>
+        <source>The value &quot;loop&quot; is outside any loop.</source>
+        <translation>Il valore «loop» è fuori da qualsiasi ciclo.</translation>
+    </message>
+    <message>
+        <source>The value &quot;die&quot; is outside a loop over each die.</source>
+        <translation>Il valore «die» è fuori da un ciclo su «die».</translation>
+    </message>
+    <message>
+        <source>The action has %1 address bytes, an earlier one has %2. Allowed: the same number in all actions of a flow.</source>
+        <translation>L’azione ha %1 byte di indirizzo, una precedente ne ha %2. Consentito: lo stesso numero in tutte le azioni di un flusso.</translation>
+    </message>
+    <message>
+        <source>The flows cannot be read.</source>
+        <translation>Impossibile leggere i flussi.</translation>
+    </message>
+    <message>
+        <source>The device and its template need different names: both are called %1.</source>
+        <translation>Il dispositivo e il suo modello devono avere nomi diversi: entrambi si chiamano %1.</translation>
+    </message>
+    <message>
+        <source>There is no family %1. Allowed: %2 to %3.</source>
+        <translation>La famiglia %1 non esiste. Consentito: da %2 a %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no flash devices.</source>
+        <translation>La modalità di configurazione %1 non ha dispositivi flash.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not a usual one. Usual: %3.</source>
+        <translation>«%1»: %2 non è un valore usuale. Usuali: %3.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no flows: the dialog drops them.</source>
+        <translation>I dispositivi di questa modalità di configurazione non hanno flussi: la finestra li scarta.</translation>
+    </message>
+    <message>
+        <source>There are no flows.</source>
+        <translation>Non ci sono flussi.</translation>
+    </message>
+    <message>
+        <source>There are no flows for this configuration mode.</source>
+        <translation>Non ci sono flussi per questa modalità di configurazione.</translation>
+    </message>
+    <message>
+        <source>The value is missing: %1 is stored.</source>
+        <translation>Il valore manca: viene salvato %1.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
+        <translation>I dispositivi di questa modalità di configurazione non hanno questo valore: la finestra lo scarta.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,299 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>gfpdb</name>
+    <message>
+        <source>Upper and lower case count as the same.</source>
+        <translation>大文字と小文字は区別されません。</translation>
+    </message>
+    <message>
+        <source>There is a built-in device called %1: choose another name.</source>
+        <translation>%1 という組み込みデバイスがあります: 別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>There is a built-in template called %1: choose another name.</source>
+        <translation>%1 という組み込みテンプレートがあります: 別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>part name</source>
+        <translation>部品名</translation>
+    </message>
+    <message>
+        <source>The device %1 is neither deleted nor replaced, because it could not be read when it was last looked for: %2</source>
+        <translation>デバイス %1 は前回の検索時に読み込めなかったため、削除も置き換えもされません: %2</translation>
+    </message>
+    <message>
+        <source>The flows of %1 in %2 cannot be read.</source>
+        <translation>%2 の %1 のフローを読み込めません。</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a number.</source>
+        <translation>デバイスのプロパティ %1 は数値ではありません。</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a text.</source>
+        <translation>デバイスのプロパティ %1 はテキストではありません。</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name.</source>
+        <translation>%1 という保存済みのテンプレートがあります: 別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: it is the one that is shown. Enter another name to rename it.</source>
+        <translation>%1 というデバイスがあります: 表示中のデバイスです。名前を変えるには別の名前を入力してください。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 for this family and configuration mode: choose another name.</source>
+        <translation>このファミリーとコンフィギュレーションモードには %1 というデバイスがあります: 別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name, or remove that template first.</source>
+        <translation>%1 という保存済みのテンプレートがあります: 別の名前を選ぶか、先にそのテンプレートを削除してください。</translation>
+    </message>
+    <message>
+        <source>The template name %1 differs from the device name %2 in case only: choose another name.</source>
+        <translation>テンプレート名 %1 とデバイス名 %2 は大文字と小文字が違うだけです: 別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: choose another name.</source>
+        <translation>%1 というデバイスがあります: 別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it must support 1.8 V.</source>
+        <translation>I/O 電圧が %1 のフラッシュデバイスは %2 デバイスに接続できません: 1.8 V に対応している必要があります。</translation>
+    </message>
+    <message>
+        <source>%1 The device %2 that was deleted before was not put back: %3</source>
+        <translation>%1 先に削除されたデバイス %2 は元に戻されませんでした: %3</translation>
+    </message>
+    <message>
+        <source>There is no record to save.</source>
+        <translation>保存するレコードがありません。</translation>
+    </message>
+    <message>
+        <source>The configuration mode has no flash devices.</source>
+        <translation>このコンフィギュレーションモードにはフラッシュデバイスがありません。</translation>
+    </message>
+    <message>
+        <source>The device %1 contains text that is not valid UTF-8.</source>
+        <translation>デバイス %1 に有効な UTF-8 でないテキストがあります。</translation>
+    </message>
+    <message>
+        <source>The template %1 is built in: it cannot be removed.</source>
+        <translation>テンプレート %1 は組み込みのため削除できません。</translation>
+    </message>
+    <message>
+        <source>device name</source>
+        <translation>デバイス名</translation>
+    </message>
+    <message>
+        <source>device ID</source>
+        <translation>デバイス ID</translation>
+    </message>
+    <message>
+        <source>I/O voltage</source>
+        <translation>I/O 電圧</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>total die count</source>
+        <translation>ダイの総数</translation>
+    </message>
+    <message>
+        <source>number of single-I/O dummy clocks</source>
+        <translation>シングル I/O モードのダミーサイクル数</translation>
+    </message>
+    <message>
+        <source>number of quad-I/O dummy clocks</source>
+        <translation>クアッド I/O モードのダミーサイクル数</translation>
+    </message>
+    <message>
+        <source>template name</source>
+        <translation>テンプレート名</translation>
+    </message>
+    <message>
+        <source>flow template</source>
+        <translation>フローテンプレート</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数</translation>
+    </message>
+    <message>
+        <source>one byte in hexadecimal, such as 0x9F</source>
+        <translation>0x9F のような 16 進の 1 バイト</translation>
+    </message>
+    <message>
+        <source>1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02</source>
+        <translation>0x00 0x02 のように空白 1 つで区切った 1 ～ %1 バイトの 16 進数</translation>
+    </message>
+    <message>
+        <source>an address of eight hexadecimal digits, such as 0x00010000</source>
+        <translation>0x00010000 のような 16 進 8 桁のアドレス</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1、または %2</translation>
+    </message>
+    <message>
+        <source>text of 1 to %1 characters on one line</source>
+        <translation>1 行で 1 ～ %1 文字のテキスト</translation>
+    </message>
+    <message>
+        <source>a power of two from 1 to %1</source>
+        <translation>1 から %1 までの 2 のべき乗</translation>
+    </message>
+    <message>
+        <source>Loop marker</source>
+        <translation>ループマーカー</translation>
+    </message>
+    <message>
+        <source>There is no action property with the number %1. Allowed: 0 to %2.</source>
+        <translation>番号 %1 のアクションプロパティはありません。許容: 0 ～ %2。</translation>
+    </message>
+    <message>
+        <source>An empty value</source>
+        <translation>空の値</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed for &quot;%2&quot;. Allowed: %3.</source>
+        <translation>%1 は「%2」に使えません。許容: %3。</translation>
+    </message>
+    <message>
+        <source>The %1 is empty: 1 to %2 characters are allowed.</source>
+        <translation>「%1」が空です: 1 ～ %2 文字を使えます。</translation>
+    </message>
+    <message>
+        <source>The %1 has characters that cannot be stored.</source>
+        <translation>「%1」に保存できない文字があります。</translation>
+    </message>
+    <message>
+        <source>The %1 has %2 characters: 1 to %3 characters are allowed.</source>
+        <translation>「%1」は %2 文字です: 1 ～ %3 文字を使えます。</translation>
+    </message>
+    <message>
+        <source>The %1 has a line break or another control character: use letters, digits, punctuation and spaces.</source>
+        <translation>「%1」に改行などの制御文字があります: 文字、数字、記号、空白を使ってください。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 begins or ends with a space: remove it.</source>
+        <translation>「%1」%2 の先頭または末尾に空白があります: 削除してください。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is reserved for a new device: choose another.</source>
+        <translation>「%1」%2 は新しいデバイス用に予約されています: 別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.</source>
+        <translation>%1 0xC2 0x20 0x19 のように、空白またはコンマで区切った 1 ～ %2 バイトの 16 進数を入力してください。</translation>
+    </message>
+    <message>
+        <source>The device ID is empty.</source>
+        <translation>デバイス ID が空です。</translation>
+    </message>
+    <message>
+        <source>%1 is not a byte of a device ID.</source>
+        <translation>%1 はデバイス ID のバイトではありません。</translation>
+    </message>
+    <message>
+        <source>The device ID has %1 bytes.</source>
+        <translation>デバイス ID は %1 バイトです。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is out of range: %3 to %4 are allowed.</source>
+        <translation>「%1」の %2 は範囲外です: %3 ～ %4 を使えます。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not known: choose one of %3.</source>
+        <translation>「%1」の %2 は不明です: %3 から選んでください。</translation>
+    </message>
+    <message>
+        <source>The loop that starts at action %1 has no end.</source>
+        <translation>アクション %1 で始まるループに終わりがありません。</translation>
+    </message>
+    <message>
+        <source>A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page or sector in a loop over each die.</source>
+        <translation>「%1」ごとのループは「%2」ごとのループの中に置けません。許容: 「die」ごとのループの中の「page」または「sector」ごとのループ。</translation>
+    </message>
+    <message>
+        <source>The end of a loop has no start before it.</source>
+        <translation>ループの終わりの前に始まりがありません。</translation>
+    </message>
+    <message>
+        <source>The end of a loop over each %1 closes a loop over each %2.</source>
+        <translation>「%1」ごとのループの終わりが「%2」ごとのループを閉じています。</translation>
+    </message>
+    <message>
+        <source>The loop over each %1 has no %2 action to determine its step size.</source>
+        <translation>「%1」ごとのループに、刻み幅を決める「%2」アクションがありません。</translation>
+    </message>
+    <message>
+        <source>One of several erases in a loop has a fixed address. Allowed: loop or die.</source>
+        <translation>ループ内の複数の消去の 1 つのアドレスが固定です。許容: loop または die。</translation>
+    </message>
+    <message>
+        <source>The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.</source>
+        <translation>ループにページサイズ %1 と %2 があります。許容: 1 つのループに 1 つのページサイズ。</translation>
+    </message>
+    <message>
+        <source>The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each divides every larger one.</source>
+        <translation>消去サイズ %1 と %2 は 1 つのループに置けません。許容: 各サイズがそれより大きいすべてのサイズを割り切ること。</translation>
+    </message>
+    <message>
+        <source>The value &quot;loop&quot; is outside any loop.</source>
+        <translation>値「loop」がループの外にあります。</translation>
+    </message>
+    <message>
+        <source>The value &quot;die&quot; is outside a loop over each die.</source>
+        <translation>値「die」が「die」ごとのループの外にあります。</translation>
+    </message>
+    <message>
+        <source>The action has %1 address bytes, an earlier one has %2. Allowed: the same number in all actions of a flow.</source>
+        <translation>このアクションのアドレスは %1 バイト、前のアクションは %2 バイトです。許容: フローの全アクションで同じ数。</translation>
+    </message>
+    <message>
+        <source>The flows cannot be read.</source>
+        <translation>フローを読み込めません。</translation>
+    </message>
+    <message>
+        <source>The device and its template need different names: both are called %1.</source>
+        <translation>デバイスとそのテンプレートには別々の名前が必要です: どちらも %1 です。</translation>
+    </message>
+    <message>
+        <source>There is no family %1. Allowed: %2 to %3.</source>
+        <translation>ファミリー %1 はありません。許容: %2 ～ %3。</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no flash devices.</source>
+        <translation>コンフィギュレーションモード %1 にはフラッシュデバイスがありません。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not a usual one. Usual: %3.</source>
+        <translation>「%1」の %2 は一般的な値ではありません。一般的な値: %3。</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no flows: the dialog drops them.</source>
+        <translation>このコンフィギュレーションモードのデバイスにはフローがありません: ダイアログで破棄されます。</translation>
+    </message>
+    <message>
+        <source>There are no flows.</source>
+        <translation>フローがありません。</translation>
+    </message>
+    <message>
+        <source>There are no flows for this configuration mode.</source>
+        <translation>このコンフィギュレーションモードのフローがありません。</translation>
+    </message>
+    <message>
+        <source>The value is missing: %1 is stored.</source>
+        <translation>値がありません: %1 が保存されます。</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
+        <translation>このコンフィギュレーションモードのデバイスにこの値はありません: ダイアログで破棄されます。</translation>
+    </message>
+</context>
+</TS>

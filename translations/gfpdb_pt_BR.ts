@@ -1,0 +1,299 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>gfpdb</name>
+    <message>
+        <source>Upper and lower case count as the same.</source>
+        <translation>Maiúsculas e minúsculas não são diferenciadas.</translation>
+    </message>
+    <message>
+        <source>There is a built-in device called %1: choose another name.</source>
+        <translation>Existe um dispositivo integrado chamado %1: escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>There is a built-in template called %1: choose another name.</source>
+        <translation>Existe um modelo integrado chamado %1: escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>part name</source>
+        <translation>Nome do componente</translation>
+    </message>
+    <message>
+        <source>The device %1 is neither deleted nor replaced, because it could not be read when it was last looked for: %2</source>
+        <translation>O dispositivo %1 não é excluído nem substituído, porque não pôde ser lido na última busca: %2</translation>
+    </message>
+    <message>
+        <source>The flows of %1 in %2 cannot be read.</source>
+        <translation>Os fluxos de %1 em %2 não podem ser lidos.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a number.</source>
+        <translation>A propriedade %1 de um dispositivo não é um número.</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a text.</source>
+        <translation>A propriedade %1 de um dispositivo não é um texto.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name.</source>
+        <translation>Existe um modelo salvo chamado %1: escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: it is the one that is shown. Enter another name to rename it.</source>
+        <translation>Existe um dispositivo chamado %1: é o que está sendo mostrado. Digite outro nome para renomeá-lo.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 for this family and configuration mode: choose another name.</source>
+        <translation>Existe um dispositivo chamado %1 para esta família e este modo de configuração: escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name, or remove that template first.</source>
+        <translation>Existe um modelo salvo chamado %1: escolha outro nome ou remova antes esse modelo.</translation>
+    </message>
+    <message>
+        <source>The template name %1 differs from the device name %2 in case only: choose another name.</source>
+        <translation>O nome do modelo %1 difere do nome do dispositivo %2 só em maiúsculas e minúsculas: escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: choose another name.</source>
+        <translation>Existe um dispositivo chamado %1: escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it must support 1.8 V.</source>
+        <translation>Um dispositivo flash com tensão de I/O de %1 não pode ser conectado a dispositivos %2: ele precisa funcionar com 1,8 V.</translation>
+    </message>
+    <message>
+        <source>%1 The device %2 that was deleted before was not put back: %3</source>
+        <translation>%1 O dispositivo %2, excluído antes, não foi restaurado: %3</translation>
+    </message>
+    <message>
+        <source>There is no record to save.</source>
+        <translation>Não há registro para salvar.</translation>
+    </message>
+    <message>
+        <source>The configuration mode has no flash devices.</source>
+        <translation>O modo de configuração não tem dispositivos flash.</translation>
+    </message>
+    <message>
+        <source>The device %1 contains text that is not valid UTF-8.</source>
+        <translation>O dispositivo %1 contém texto que não é UTF-8 válido.</translation>
+    </message>
+    <message>
+        <source>The template %1 is built in: it cannot be removed.</source>
+        <translation>O modelo %1 é integrado: não pode ser removido.</translation>
+    </message>
+    <message>
+        <source>device name</source>
+        <translation>Nome do dispositivo</translation>
+    </message>
+    <message>
+        <source>device ID</source>
+        <translation>ID do dispositivo</translation>
+    </message>
+    <message>
+        <source>I/O voltage</source>
+        <translation>Tensão de I/O</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>Capacidade</translation>
+    </message>
+    <message>
+        <source>total die count</source>
+        <translation>Número total de dies</translation>
+    </message>
+    <message>
+        <source>number of single-I/O dummy clocks</source>
+        <translation>Ciclos dummy no modo Single I/O</translation>
+    </message>
+    <message>
+        <source>number of quad-I/O dummy clocks</source>
+        <translation>Ciclos dummy no modo Quad I/O</translation>
+    </message>
+    <message>
+        <source>template name</source>
+        <translation>Nome do modelo</translation>
+    </message>
+    <message>
+        <source>flow template</source>
+        <translation>Modelo de fluxo</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>um número inteiro de %1 a %2</translation>
+    </message>
+    <message>
+        <source>one byte in hexadecimal, such as 0x9F</source>
+        <translation>um byte em hexadecimal, como 0x9F</translation>
+    </message>
+    <message>
+        <source>1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02</source>
+        <translation>de 1 a %1 bytes em hexadecimal separados por um espaço, como 0x00 0x02</translation>
+    </message>
+    <message>
+        <source>an address of eight hexadecimal digits, such as 0x00010000</source>
+        <translation>um endereço de oito dígitos hexadecimais, como 0x00010000</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>text of 1 to %1 characters on one line</source>
+        <translation>texto de 1 a %1 caracteres em uma linha</translation>
+    </message>
+    <message>
+        <source>a power of two from 1 to %1</source>
+        <translation>uma potência de dois de 1 a %1</translation>
+    </message>
+    <message>
+        <source>Loop marker</source>
+        <translation>Marca de laço</translation>
+    </message>
+    <message>
+        <source>There is no action property with the number %1. Allowed: 0 to %2.</source>
+        <translation>Não há propriedade de ação com o número %1. Permitido: de 0 a %2.</translation>
+    </message>
+    <message>
+        <source>An empty value</source>
+        <translation>Um valor vazio</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed for &quot;%2&quot;. Allowed: %3.</source>
+        <translation>%1 não é permitido para “%2”. Permitido: %3.</translation>
+    </message>
+    <message>
+        <source>The %1 is empty: 1 to %2 characters are allowed.</source>
+        <translation>“%1” está vazio: são permitidos de 1 a %2 caracteres.</translation>
+    </message>
+    <message>
+        <source>The %1 has characters that cannot be stored.</source>
+        <translation>“%1” tem caracteres que não podem ser salvos.</translation>
+    </message>
+    <message>
+        <source>The %1 has %2 characters: 1 to %3 characters are allowed.</source>
+        <translation>“%1” tem %2 caracteres: são permitidos de 1 a %3.</translation>
+    </message>
+    <message>
+        <source>The %1 has a line break or another control character: use letters, digits, punctuation and spaces.</source>
+        <translation>“%1” tem uma quebra de linha ou outro caractere de controle: use letras, dígitos, pontuação e espaços.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 begins or ends with a space: remove it.</source>
+        <translation>“%1” %2 começa ou termina com um espaço: remova-o.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is reserved for a new device: choose another.</source>
+        <translation>“%1” %2 é reservado para um dispositivo novo: escolha outro.</translation>
+    </message>
+    <message>
+        <source>%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.</source>
+        <translation>%1 Digite de 1 a %2 bytes em hexadecimal, separados por espaços ou vírgulas, por exemplo 0xC2 0x20 0x19.</translation>
+    </message>
+    <message>
+        <source>The device ID is empty.</source>
+        <translation>O ID do dispositivo está vazio.</translation>
+    </message>
+    <message>
+        <source>%1 is not a byte of a device ID.</source>
+        <translation>%1 não é um byte de um ID de dispositivo.</translation>
+    </message>
+    <message>
+        <source>The device ID has %1 bytes.</source>
+        <translation>O ID do dispositivo tem %1 bytes.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is out of range: %3 to %4 are allowed.</source>
+        <translation>“%1”: %2 está fora do intervalo; é permitido de %3 a %4.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not known: choose one of %3.</source>
+        <translation>“%1”: %2 não é conhecido; escolha entre %3.</translation>
+    </message>
+    <message>
+        <source>The loop that starts at action %1 has no end.</source>
+        <translation>O laço que começa na ação %1 não tem fim.</translation>
+    </message>
+    <message>
+        <source>A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page or sector in a loop over each die.</source>
+        <translation>Um laço por “%1” não pode estar em um laço por “%2”. Permitido: um laço por “page” ou “sector” em um laço por “die”.</translation>
+    </message>
+    <message>
+        <source>The end of a loop has no start before it.</source>
+        <translation>O fim de um laço não tem início antes dele.</translation>
+    </message>
+    <message>
+        <source>The end of a loop over each %1 closes a loop over each %2.</source>
+        <translation>O fim de um laço por “%1” fecha um laço por “%2”.</translation>
+    </message>
+    <message>
+        <source>The loop over each %1 has no %2 action to determine its step size.</source>
+        <translation>O laço por “%1” não tem uma ação “%2” que determine seu passo.</translation>
+    </message>
+    <message>
+        <source>One of several erases in a loop has a fixed address. Allowed: loop or die.</source>
+        <translation>Um de vários apagamentos de um laço tem endereço fixo. Permitido: loop ou die.</translation>
+    </message>
+    <message>
+        <source>The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.</source>
+        <translation>O laço tem tamanhos de página de %1 e de %2. Permitido: um só tamanho de página por laço.</translation>
+    </message>
+    <message>
+        <source>The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each divides every larger one.</source>
+        <translation>Os tamanhos de apagamento %1 e %2 não combinam em um laço. Permitido: tamanhos em que cada um divide todos os maiores.</translation>
+    </message>
+    <message>
+        <source>The value &quot;loop&quot; is outside any loop.</source>
+        <translation>O valor “loop” está fora de qualquer laço.</translation>
+    </message>
+    <message>
+        <source>The value &quot;die&quot; is outside a loop over each die.</source>
+        <translation>O valor “die” está fora de um laço por “die”.</translation>
+    </message>
+    <message>
+        <source>The action has %1 address bytes, an earlier one has %2. Allowed: the same number in all actions of a flow.</source>
+        <translation>A ação tem %1 bytes de endereço e uma anterior tem %2. Permitido: o mesmo número em todas as ações de um fluxo.</translation>
+    </message>
+    <message>
+        <source>The flows cannot be read.</source>
+        <translation>Os fluxos não podem ser lidos.</translation>
+    </message>
+    <message>
+        <source>The device and its template need different names: both are called %1.</source>
+        <translation>O dispositivo e seu modelo precisam de nomes diferentes: ambos se chamam %1.</translation>
+    </message>
+    <message>
+        <source>There is no family %1. Allowed: %2 to %3.</source>
+        <translation>A família %1 não existe. Permitido: de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no flash devices.</source>
+        <translation>O modo de configuração %1 não tem dispositivos flash.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not a usual one. Usual: %3.</source>
+        <translation>“%1”: %2 não é um valor usual. Usual: %3.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no flows: the dialog drops them.</source>
+        <translation>Os dispositivos deste modo de configuração não têm fluxos: o diálogo os descarta.</translation>
+    </message>
+    <message>
+        <source>There are no flows.</source>
+        <translation>Não há fluxos.</translation>
+    </message>
+    <message>
+        <source>There are no flows for this configuration mode.</source>
+        <translation>Não há fluxos para este modo de configuração.</translation>
+    </message>
+    <message>
+        <source>The value is missing: %1 is stored.</source>
+        <translation>O valor está faltando: %1 é salvo.</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
+        <translation>Os dispositivos deste modo de configuração não têm esse valor: o diálogo o descarta.</translation>
+    </message>
+</context>
+</TS>

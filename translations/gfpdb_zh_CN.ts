@@ -1,0 +1,299 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>gfpdb</name>
+    <message>
+        <source>Upper and lower case count as the same.</source>
+        <translation>不区分大小写。</translation>
+    </message>
+    <message>
+        <source>There is a built-in device called %1: choose another name.</source>
+        <translation>已有名为 %1 的内置器件：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>There is a built-in template called %1: choose another name.</source>
+        <translation>已有名为 %1 的内置模板：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>part name</source>
+        <translation>型号名称</translation>
+    </message>
+    <message>
+        <source>The device %1 is neither deleted nor replaced, because it could not be read when it was last looked for: %2</source>
+        <translation>器件 %1 既未删除也未替换，因为上次查找时无法读取它：%2</translation>
+    </message>
+    <message>
+        <source>The flows of %1 in %2 cannot be read.</source>
+        <translation>无法读取 %2 中 %1 的流程。</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a number.</source>
+        <translation>器件的属性 %1 不是数字。</translation>
+    </message>
+    <message>
+        <source>Property %1 of a device is not a text.</source>
+        <translation>器件的属性 %1 不是文本。</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name.</source>
+        <translation>已有名为 %1 的已保存模板：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: it is the one that is shown. Enter another name to rename it.</source>
+        <translation>已有名为 %1 的器件：即当前显示的器件。要重命名，请输入其他名称。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 for this family and configuration mode: choose another name.</source>
+        <translation>此系列和配置模式下已有名为 %1 的器件：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>There is a stored template called %1: choose another name, or remove that template first.</source>
+        <translation>已有名为 %1 的已保存模板：请选择其他名称，或先移除该模板。</translation>
+    </message>
+    <message>
+        <source>The template name %1 differs from the device name %2 in case only: choose another name.</source>
+        <translation>模板名称 %1 与器件名称 %2 仅大小写不同：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1: choose another name.</source>
+        <translation>已有名为 %1 的器件：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>A flash device with an I/O voltage of %1 cannot be connected to %2 devices: it must support 1.8 V.</source>
+        <translation>I/O 电压为 %1 的闪存器件不能连接到 %2 器件：它必须支持 1.8 V。</translation>
+    </message>
+    <message>
+        <source>%1 The device %2 that was deleted before was not put back: %3</source>
+        <translation>%1先前删除的器件 %2 未能恢复：%3</translation>
+    </message>
+    <message>
+        <source>There is no record to save.</source>
+        <translation>没有可保存的记录。</translation>
+    </message>
+    <message>
+        <source>The configuration mode has no flash devices.</source>
+        <translation>此配置模式没有闪存器件。</translation>
+    </message>
+    <message>
+        <source>The device %1 contains text that is not valid UTF-8.</source>
+        <translation>器件 %1 含有不是有效 UTF-8 的文本。</translation>
+    </message>
+    <message>
+        <source>The template %1 is built in: it cannot be removed.</source>
+        <translation>模板 %1 是内置的：无法移除。</translation>
+    </message>
+    <message>
+        <source>device name</source>
+        <translation>器件名称</translation>
+    </message>
+    <message>
+        <source>device ID</source>
+        <translation>器件 ID</translation>
+    </message>
+    <message>
+        <source>I/O voltage</source>
+        <translation>I/O 电压</translation>
+    </message>
+    <message>
+        <source>density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>total die count</source>
+        <translation>裸片总数</translation>
+    </message>
+    <message>
+        <source>number of single-I/O dummy clocks</source>
+        <translation>单线 I/O 模式空时钟周期数</translation>
+    </message>
+    <message>
+        <source>number of quad-I/O dummy clocks</source>
+        <translation>四线 I/O 模式空时钟周期数</translation>
+    </message>
+    <message>
+        <source>template name</source>
+        <translation>模板名称</translation>
+    </message>
+    <message>
+        <source>flow template</source>
+        <translation>流程模板</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>%1 到 %2 的整数</translation>
+    </message>
+    <message>
+        <source>one byte in hexadecimal, such as 0x9F</source>
+        <translation>一个十六进制字节，例如 0x9F</translation>
+    </message>
+    <message>
+        <source>1 to %1 bytes in hexadecimal separated by single spaces, such as 0x00 0x02</source>
+        <translation>1 到 %1 个十六进制字节，以单个空格分隔，例如 0x00 0x02</translation>
+    </message>
+    <message>
+        <source>an address of eight hexadecimal digits, such as 0x00010000</source>
+        <translation>八位十六进制地址，例如 0x00010000</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1，或%2</translation>
+    </message>
+    <message>
+        <source>text of 1 to %1 characters on one line</source>
+        <translation>单行的 1 到 %1 个字符</translation>
+    </message>
+    <message>
+        <source>a power of two from 1 to %1</source>
+        <translation>1 到 %1 的 2 的幂</translation>
+    </message>
+    <message>
+        <source>Loop marker</source>
+        <translation>循环标记</translation>
+    </message>
+    <message>
+        <source>There is no action property with the number %1. Allowed: 0 to %2.</source>
+        <translation>没有编号为 %1 的动作属性。允许：0 到 %2。</translation>
+    </message>
+    <message>
+        <source>An empty value</source>
+        <translation>空值</translation>
+    </message>
+    <message>
+        <source>%1 is not allowed for &quot;%2&quot;. Allowed: %3.</source>
+        <translation>%1 不能用于“%2”。允许：%3。</translation>
+    </message>
+    <message>
+        <source>The %1 is empty: 1 to %2 characters are allowed.</source>
+        <translation>“%1”为空：允许 1 到 %2 个字符。</translation>
+    </message>
+    <message>
+        <source>The %1 has characters that cannot be stored.</source>
+        <translation>“%1”含有无法保存的字符。</translation>
+    </message>
+    <message>
+        <source>The %1 has %2 characters: 1 to %3 characters are allowed.</source>
+        <translation>“%1”有 %2 个字符：允许 1 到 %3 个字符。</translation>
+    </message>
+    <message>
+        <source>The %1 has a line break or another control character: use letters, digits, punctuation and spaces.</source>
+        <translation>“%1”含有换行或其他控制字符：请使用字母、数字、标点和空格。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 begins or ends with a space: remove it.</source>
+        <translation>“%1”%2 以空格开头或结尾：请将其删除。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is reserved for a new device: choose another.</source>
+        <translation>“%1”%2 保留给新器件：请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>%1 Enter 1 to %2 bytes in hexadecimal, separated by spaces or commas, for example 0xC2 0x20 0x19.</source>
+        <translation>%1请输入 1 到 %2 个十六进制字节，以空格或逗号分隔，例如 0xC2 0x20 0x19。</translation>
+    </message>
+    <message>
+        <source>The device ID is empty.</source>
+        <translation>器件 ID 为空。</translation>
+    </message>
+    <message>
+        <source>%1 is not a byte of a device ID.</source>
+        <translation>%1 不是器件 ID 的字节。</translation>
+    </message>
+    <message>
+        <source>The device ID has %1 bytes.</source>
+        <translation>器件 ID 有 %1 个字节。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is out of range: %3 to %4 are allowed.</source>
+        <translation>“%1”的值 %2 超出范围：允许 %3 到 %4。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not known: choose one of %3.</source>
+        <translation>“%1”的值 %2 未知：请从 %3 中选择。</translation>
+    </message>
+    <message>
+        <source>The loop that starts at action %1 has no end.</source>
+        <translation>从动作 %1 开始的循环没有结束。</translation>
+    </message>
+    <message>
+        <source>A loop over each %1 cannot be in a loop over each %2. Allowed: a loop over each page or sector in a loop over each die.</source>
+        <translation>“%1”循环不能在“%2”循环中。允许：“die”循环中的“page”或“sector”循环。</translation>
+    </message>
+    <message>
+        <source>The end of a loop has no start before it.</source>
+        <translation>循环结束之前没有开始。</translation>
+    </message>
+    <message>
+        <source>The end of a loop over each %1 closes a loop over each %2.</source>
+        <translation>“%1”循环的结束关闭了“%2”循环。</translation>
+    </message>
+    <message>
+        <source>The loop over each %1 has no %2 action to determine its step size.</source>
+        <translation>“%1”循环中没有决定步长的“%2”动作。</translation>
+    </message>
+    <message>
+        <source>One of several erases in a loop has a fixed address. Allowed: loop or die.</source>
+        <translation>循环中多个擦除之一的地址是固定的。允许：loop 或 die。</translation>
+    </message>
+    <message>
+        <source>The loop has page sizes of %1 and of %2. Allowed: one page size in a loop.</source>
+        <translation>循环中有 %1 和 %2 两种页大小。允许：一个循环一种页大小。</translation>
+    </message>
+    <message>
+        <source>The erase sizes %1 and %2 do not go together in one loop. Allowed: sizes of which each divides every larger one.</source>
+        <translation>擦除大小 %1 和 %2 不能在同一循环中。允许：每个大小都能整除所有更大的大小。</translation>
+    </message>
+    <message>
+        <source>The value &quot;loop&quot; is outside any loop.</source>
+        <translation>值“loop”在所有循环之外。</translation>
+    </message>
+    <message>
+        <source>The value &quot;die&quot; is outside a loop over each die.</source>
+        <translation>值“die”在“die”循环之外。</translation>
+    </message>
+    <message>
+        <source>The action has %1 address bytes, an earlier one has %2. Allowed: the same number in all actions of a flow.</source>
+        <translation>此动作有 %1 个地址字节，之前的动作有 %2 个。允许：一个流程的所有动作使用相同的字节数。</translation>
+    </message>
+    <message>
+        <source>The flows cannot be read.</source>
+        <translation>无法读取流程。</translation>
+    </message>
+    <message>
+        <source>The device and its template need different names: both are called %1.</source>
+        <translation>器件与其模板需要不同的名称：两者都叫 %1。</translation>
+    </message>
+    <message>
+        <source>There is no family %1. Allowed: %2 to %3.</source>
+        <translation>没有系列 %1。允许：%2 到 %3。</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no flash devices.</source>
+        <translation>配置模式 %1 没有闪存器件。</translation>
+    </message>
+    <message>
+        <source>The %1 %2 is not a usual one. Usual: %3.</source>
+        <translation>“%1”的值 %2 不常用。常用：%3。</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no flows: the dialog drops them.</source>
+        <translation>此配置模式的器件没有流程：对话框会将其丢弃。</translation>
+    </message>
+    <message>
+        <source>There are no flows.</source>
+        <translation>没有流程。</translation>
+    </message>
+    <message>
+        <source>There are no flows for this configuration mode.</source>
+        <translation>没有用于此配置模式的流程。</translation>
+    </message>
+    <message>
+        <source>The value is missing: %1 is stored.</source>
+        <translation>缺少值：将保存 %1。</translation>
+    </message>
+    <message>
+        <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
+        <translation>此配置模式的器件没有此值：对话框会将其丢弃。</translation>
+    </message>
+</context>
+</TS>
