@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QEvent>
+#include <QGraphicsView>
 #include <QPixmap>
 #include <QPointer>
 #include <QRegularExpression>
@@ -15,6 +16,8 @@
 
 namespace {
 
+constexpr int ENLARGING_STEPS = 8;
+constexpr QSize LARGEST_PICTURE(4000, 16000);
 const QString PAGES = QStringLiteral("m_prog_flows_tab_widget");
 const QString DEVICES = QStringLiteral("m_device_table_view");
 const QString EDIT_TEMPLATE_BUTTON = QStringLiteral("m_edit_template_button");
@@ -27,6 +30,33 @@ QString file_name_part(const QString& title)
     name.replace(QRegularExpression(QStringLiteral("\\W+"), QRegularExpression::UseUnicodePropertiesOption),
                  QStringLiteral("-"));
     return name;
+}
+
+// What the charts in sight would need in addition to show all of their scenes.
+QSize missing_in_charts(const QDialog& dialog)
+{
+    QSize missing(0, 0);
+    const QList<QGraphicsView*> views = dialog.findChildren<QGraphicsView*>();
+    for (const QGraphicsView* view : views) {
+        if (!view->isVisible())
+            continue;
+        const QSize whole = view->mapFromScene(view->sceneRect()).boundingRect().size();
+        missing = missing.expandedTo(whole - view->viewport()->size());
+    }
+    return missing;
+}
+
+// Makes the dialog so large that no chart of the page in front has to be scrolled. Only a part of what it gets may be
+// the chart's, so it takes more than one step; a splitter that keeps all to itself does not go on for ever.
+void make_charts_whole(QDialog& dialog)
+{
+    for (int step = 0; step < ENLARGING_STEPS; ++step) {
+        QCoreApplication::processEvents();
+        const QSize missing = missing_in_charts(dialog);
+        if (missing.isNull())
+            return;
+        dialog.resize((dialog.size() + missing).boundedTo(LARGEST_PICTURE));
+    }
 }
 
 } // namespace
@@ -63,7 +93,7 @@ void PAGE_RENDERER::meet(QDialog* dialog)
     else if (QLatin1String(dialog->metaObject()->className()) == TEMPLATE_EDITOR_CLASS)
         render(dialog, QStringLiteral("template-editor"));
     else
-        m_problems.append(QStringLiteral("A window opened that does not belong here: %1").arg(dialog->windowTitle()));
+        m_problems.append(QStringLiteral("An unexpected window opened: %1").arg(dialog->windowTitle()));
     dialog->reject();
 }
 
@@ -71,7 +101,10 @@ void PAGE_RENDERER::render_pages(QDialog* dialog, QTabWidget* pages)
 {
     for (int page = 0; page < pages->count(); ++page) {
         pages->setCurrentIndex(page);
+        const QSize size = dialog->size();
+        make_charts_whole(*dialog);
         render(dialog, file_name_part(pages->tabText(page)));
+        dialog->resize(size);
     }
     pages->setCurrentIndex(0);
     open_template_editor(dialog);

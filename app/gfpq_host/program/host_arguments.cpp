@@ -32,9 +32,9 @@ void describe_options(QCommandLineParser& parser)
         QStringLiteral("Host of the Configuration Device dialog. Without --dialog or --render it shows a window in "
                        "which the dialog is opened; the choice made there is remembered."));
     parser.addOptions({
-        {FAMILY, QStringLiteral("Device family to begin with, 1 to 72."), QStringLiteral("N")},
-        {SCHEME, QStringLiteral("Configuration scheme to begin with, 0 to 25."), QStringLiteral("N")},
-        {DEVICE, QStringLiteral("Configuration device to begin with."), QStringLiteral("NAME")},
+        {FAMILY, QStringLiteral("Initial device family, 1 to 72."), QStringLiteral("N")},
+        {SCHEME, QStringLiteral("Initial configuration scheme, 0 to 25."), QStringLiteral("N")},
+        {DEVICE, QStringLiteral("Initial configuration device."), QStringLiteral("NAME")},
         {RESTRICT,
          QStringLiteral(
              "What the dialog offers: \"3:7,13;5:\" is family 3 with the schemes 7 and 13, and family 5 with "
@@ -42,7 +42,8 @@ void describe_options(QCommandLineParser& parser)
          QStringLiteral("MAP")},
         {NO_FAMILY, QStringLiteral("The family cannot be changed.")},
         {NO_MODE, QStringLiteral("The configuration mode cannot be changed.")},
-        {NO_EDIT, QStringLiteral("Devices and the database directory cannot be changed.")},
+        {NO_EDIT, QStringLiteral("The device page (its list, filter and fields) and the database directory are greyed; "
+                                 "the operation pages are not.")},
         {DATABASE, QStringLiteral("Directory of the user's flash database, for this run."), QStringLiteral("DIR")},
         {BASE_DIR,
          QStringLiteral("Directory that relative directories are relative to, and paths are shown relative to."),
@@ -50,11 +51,11 @@ void describe_options(QCommandLineParser& parser)
         {MODULE, QStringLiteral("Absolute path of the dialog module to load."), QStringLiteral("FILE")},
         {LANG, QStringLiteral("Language of the texts, such as \"de\"; the system's if not given."),
          QStringLiteral("LANG")},
-        {DIALOG, QStringLiteral("Open the dialog at once, print what it returns as one line of JSON, and end.")},
-        {RENDER, QStringLiteral("Draw the dialog's pages into picture files in DIR, without a display, and end."),
+        {DIALOG, QStringLiteral("Open the dialog at once, print what it returns as one line of JSON, and exit.")},
+        {RENDER, QStringLiteral("Draw the dialog's pages into picture files in DIR, without a display, and exit."),
          QStringLiteral("DIR")},
-        {{QStringLiteral("h"), HELP}, QStringLiteral("Show this help and end.")},
-        {{QStringLiteral("v"), VERSION}, QStringLiteral("Show the version and end.")},
+        {{QStringLiteral("h"), HELP}, QStringLiteral("Show this help and exit.")},
+        {{QStringLiteral("v"), VERSION}, QStringLiteral("Show the version and exit.")},
     });
 }
 
@@ -118,7 +119,7 @@ QString READER::filled_text(const QString& option)
 {
     const std::optional<QString> value = text(option);
     if (value && value->isEmpty())
-        fail(QStringLiteral("--%1 takes a text that is not empty.").arg(option));
+        fail(QStringLiteral("--%1 needs a value that is not empty.").arg(option));
     return value.value_or(QString());
 }
 
@@ -148,7 +149,7 @@ QString READER::language()
     QString name = filled_text(LANG);
     const bool is_known = QLocale(name).language() != QLocale::C || name == QLatin1String("C");
     if (!name.isEmpty() && !is_known)
-        fail(QStringLiteral("--%1: \"%2\" is not a language.").arg(LANG, name));
+        fail(QStringLiteral("--%1: \"%2\" is not a known language.").arg(LANG, name));
     return name;
 }
 
@@ -157,7 +158,7 @@ HOST_TASK READER::task()
     const bool is_dialog = m_parser.isSet(DIALOG);
     const bool is_render = m_parser.isSet(RENDER);
     if (is_dialog && is_render)
-        fail(QStringLiteral("--%1 and --%2 exclude each other.").arg(DIALOG, RENDER));
+        fail(QStringLiteral("--%1 and --%2 cannot be used together.").arg(DIALOG, RENDER));
     if (is_dialog)
         return HOST_TASK::DIALOG;
     return is_render ? HOST_TASK::RENDER : HOST_TASK::WINDOW;
@@ -166,7 +167,7 @@ HOST_TASK READER::task()
 HOST_ARGUMENTS READER::read()
 {
     if (!m_parser.positionalArguments().isEmpty())
-        fail(QStringLiteral("What is \"%1\" for? There are only options.")
+        fail(QStringLiteral("Unexpected argument \"%1\": only options are accepted.")
                  .arg(m_parser.positionalArguments().constFirst()));
 
     HOST_ARGUMENTS arguments;

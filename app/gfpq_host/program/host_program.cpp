@@ -9,6 +9,8 @@
 #include "program/host_database.h"
 #include "program/host_translation.h"
 #include "programmer/programmer_window.h"
+#include "run/chosen_device.h"
+#include "run/run_preparation.h"
 
 #include "dstr/dstr.h"
 #include "kovq/kovq_dialog.h"
@@ -16,6 +18,7 @@
 #include "msg/msg.h"
 
 #include <QDir>
+#include <QLoggingCategory>
 #include <QScopeGuard>
 #include <QSettings>
 #include <QTextStream>
@@ -100,8 +103,15 @@ int run_render(MODULE_LOADER& module, const HOST_ARGUMENTS& arguments, const QSe
     const GFPQ_DYN_DLG entry_point = module.entry_point();
     if (!entry_point)
         return fail(module.problem());
-    PAGE_RENDERER renderer(arguments.render_directory);
+    // What Qt says of a platform without a screen is of no use; what this program logs has categories.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const HOST_CHOICE choice = first_choice(arguments, settings);
+    QString problem;
+    if (arguments.device_name && !choice.device_name.empty() && !find_chosen_device(choice, problem))
+        return fail(problem.isEmpty()
+                        ? RUN_PREPARATION::tr("The device \"%1\" does not exist.").arg(*arguments.device_name)
+                        : problem);
+    PAGE_RENDERER renderer(arguments.render_directory);
     open_dialog(entry_point, nullptr, choice, options_for(choice, arguments));
     for (const QString& file : renderer.files())
         print(stdout, file);

@@ -152,13 +152,13 @@ private slots:
              {"scheme below", "--scheme=-1", "--scheme takes a number from 0 to 25, not \"-1\"."},
              {"scheme above", "--scheme=26", "--scheme takes a number from 0 to 25, not \"26\"."},
              {"twice", "--device=a --device=b", "--device is given twice."},
-             {"empty database", "--database=", "--database takes a text that is not empty."},
-             {"empty base", "--base-dir=", "--base-dir takes a text that is not empty."},
-             {"empty pictures", "--render=", "--render takes a text that is not empty."},
+             {"empty database", "--database=", "--database needs a value that is not empty."},
+             {"empty base", "--base-dir=", "--base-dir needs a value that is not empty."},
+             {"empty pictures", "--render=", "--render needs a value that is not empty."},
              {"relative module", "--module=x.so", "--module takes an absolute path, not \"x.so\"."},
-             {"no language", "--lang=xyzzy", "--lang: \"xyzzy\" is not a language."},
-             {"dialog and pictures", "--dialog --render=x", "--dialog and --render exclude each other."},
-             {"argument", "MX25", "What is \"MX25\" for? There are only options."},
+             {"no language", "--lang=xyzzy", "--lang: \"xyzzy\" is not a known language."},
+             {"dialog and pictures", "--dialog --render=x", "--dialog and --render cannot be used together."},
+             {"argument", "MX25", "Unexpected argument \"MX25\": only options are accepted."},
              {"first problem", "--family=0 --scheme=99", "--family takes a number from 1 to 72, not \"0\"."}});
         const auto bad_restriction = [](const char* restriction, const char* problem) {
             QTest::newRow(restriction) << QStringLiteral("--restrict=%1").arg(QLatin1String(restriction))

@@ -218,6 +218,18 @@ private slots:
         QVERIFY(QFileInfo(m_scratch->filePath(QStringLiteral("pictures"))).isDir());
     }
 
+    void pictures_of_a_device_that_does_not_exist_are_not_drawn()
+    {
+        const QString pictures = m_scratch->filePath(QStringLiteral("pictures"));
+
+        const PROBE_RESULT result =
+            run_with_fake({QStringLiteral("--render=") + pictures, QStringLiteral("--device=Nobody")});
+
+        QCOMPARE(result.exit_code, 1);
+        QCOMPARE(result.log, QByteArray("gfpq_host: The device \"Nobody\" does not exist.\n"));
+        QVERIFY(!QFileInfo::exists(pictures));
+    }
+
 private:
     PROBE_RESULT run(const QStringList& options, QMap<QString, QString> environment = {},
                      const QString& program = QStringLiteral(HOST_PROGRAM)) const

@@ -5,6 +5,7 @@
 #include "test_rows.h"
 
 #include <QDialog>
+#include <QGraphicsView>
 #include <QImage>
 #include <QLabel>
 #include <QMessageBox>
@@ -137,6 +138,29 @@ private slots:
         QCOMPARE(QImage(renderer.files().constFirst()).size(), QSize(400, 300));
     }
 
+    // The picture is larger for it, and the pages after it are not.
+    void charts_are_drawn_whole()
+    {
+        QTemporaryDir scratch;
+        FORM form;
+        QGraphicsScene scene(0, 0, 700, 1500);
+        scene.addRect(0, 0, 700, 1500, Qt::NoPen, QColor(Qt::cyan));
+        auto* const view = new QGraphicsView(&scene);
+        view->setFrameStyle(QFrame::NoFrame);
+        form.findChild<QTabWidget*>()->insertTab(1, view, QStringLiteral("Chart"));
+        PAGE_RENDERER renderer(scratch.path());
+
+        form.exec();
+
+        const QImage chart(renderer.files()[1]);
+        int drawn = 0;
+        for (int line = 0; line < chart.height(); ++line)
+            drawn += chart.pixelColor(chart.width() / 2, line) == QColor(Qt::cyan) ? 1 : 0;
+        QCOMPARE(drawn, 1500);
+        QVERIFY(chart.width() >= 700);
+        QCOMPARE(QImage(renderer.files()[2]).size(), QSize(400, 300));
+    }
+
     void dialog_without_a_template_editor_data()
     {
         rows<bool, bool>({{"hidden", false, true}, {"disabled", true, false}});
@@ -167,7 +191,7 @@ private slots:
         QCOMPARE(foreign.exec(), int(QDialog::Rejected));
 
         QCOMPARE(renderer.files(), QStringList());
-        QCOMPARE(renderer.problem(), QStringLiteral("A window opened that does not belong here: Foreign"));
+        QCOMPARE(renderer.problem(), QStringLiteral("An unexpected window opened: Foreign"));
     }
 
     void directory_that_cannot_be_made_is_reported()
