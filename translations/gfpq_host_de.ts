@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>Die Verbindung ist nicht vollständig.</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>der des Programmiergeräts</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>Takt (Hz):</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>Der Takt ist keine Zahl in Hertz.</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>&amp;Kopie von:</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>&amp;Neuer Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>Wählen Sie den Baustein, der kopiert werden soll.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>Gelesene Bytes</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>In der Datei %1 wird der Inhalt des emulierten Bausteins aufbewahrt. Wählen Sie eine andere.</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Konfigurationsbaustein...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Den Baustein „%1“ gibt es nicht.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>Neuer Baustein</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>SFDP-Daten eines Bausteins</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>Neuer Baustein</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>Neuer Baustein: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>&amp;Warnungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>&amp;Gelistete Bausteine mit dieser ID:</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>Baustein &amp;anlegen</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>SFDP-Daten &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>keine Unterschiede</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>SFDP-Daten speichern</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>Länge:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Baustein&amp;familie:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>Konfigurations&amp;modus:</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>B&amp;eenden</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>&amp;Neuer Baustein vom Chip...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>Neuer Baustein aus SFD&amp;P-Datei...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>D&amp;uplizieren...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>Weiterlaufen lassen</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Der Baustein „%1“ ist gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>Die Datei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>Die Datei %1 hat mehr als %2 Bytes und enthält keine SFDP-Daten.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>La conexión no está completa.</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>el del programador</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>Reloj (Hz):</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>El reloj no es un número de hercios.</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>&amp;Copia de:</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>&amp;Nombre nuevo:</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplicar</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>Elija el dispositivo que se va a copiar.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>Bytes leídos</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>El archivo %1 guarda el contenido del chip emulado. Elija otro.</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Dispositivo de configuración...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>El dispositivo «%1» no existe.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>Dispositivo nuevo</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>Lectura SFDP de un chip</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>Dispositivo nuevo</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>Dispositivo nuevo: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>Ad&amp;vertencias:</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>Componentes de la &amp;lista con este ID:</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>C&amp;rear dispositivo</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>&amp;Guardar lectura...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>sin diferencias</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>Guardar la lectura</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>Longitud:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Fa&amp;milia de dispositivos:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>Modo de confi&amp;guración:</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>&amp;Nuevo dispositivo desde el chip...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>Nuevo dispositivo desde archivo S&amp;FDP...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>D&amp;uplicar...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>Seguir ejecutando</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>El dispositivo «%1» está guardado.</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>No se puede leer el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>El archivo %1 tiene más de %2 bytes y no es una lectura SFDP.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>No se puede escribir el archivo %1: %2</translation>
     </message>
 </context>
 <context>

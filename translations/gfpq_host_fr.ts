@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>La connexion est incomplète.</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>celle du programmateur</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>Horloge (Hz) :</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>L’horloge n’est pas un nombre de hertz.</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>Copie &amp;de :</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>&amp;Nouveau nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>D&amp;upliquer</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>Choisissez le composant à copier.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>Octets lus</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>Le fichier %1 garde le contenu de la puce émulée. Choisissez-en un autre.</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Composant de configuration...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>Nouveau composant</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>Lecture SFDP d’une puce</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>Nouveau composant</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>Nouveau composant : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>A&amp;vertissements :</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>Composants de la &amp;liste avec cet ID :</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>C&amp;réer le composant</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>&amp;Enregistrer la lecture...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>aucune différence</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>Enregistrer la lecture</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>Longueur&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>F&amp;amille de composants&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Mode de configuration&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>&amp;Nouveau composant à partir de la puce...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>Nouveau composant à partir d’un &amp;fichier SFDP...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>D&amp;upliquer...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Le composant « %1 » est enregistré.</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>Le fichier %1 ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>Le fichier %1 a plus de %2 octets et n’est pas une lecture SFDP.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2</translation>
     </message>
 </context>
 <context>

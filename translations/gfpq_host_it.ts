@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>La connessione non è completa.</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>quello del programmatore</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>Clock (Hz):</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>Il clock non è un numero di hertz.</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplica</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>Copia &amp;di:</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>&amp;Nuovo nome:</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>Dup&amp;lica</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>Scegliere il dispositivo da copiare.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>Byte letti</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>Il file %1 conserva il contenuto del chip emulato. Sceglierne un altro.</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Dispositivo di configurazione...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Il dispositivo «%1» non esiste.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>Nuovo dispositivo</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>Lettura SFDP di un chip</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>Nuovo dispositivo</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>Nuovo dispositivo: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>&amp;Avvisi:</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>Componenti in e&amp;lenco con questo ID:</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>C&amp;rea dispositivo</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>&amp;Salva lettura...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>nessuna differenza</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>Salva la lettura</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>Lunghezza:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Famiglia di dispositivi:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Modalità di configurazione:</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>N&amp;uovo dispositivo dal chip...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>Nuovo dispositivo da &amp;file SFDP...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>Dup&amp;lica...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annullato</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Il dispositivo «%1» è salvato.</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>Impossibile leggere il file %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>Il file %1 ha più di %2 byte e non è una lettura SFDP.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Impossibile scrivere il file %1: %2</translation>
     </message>
 </context>
 <context>

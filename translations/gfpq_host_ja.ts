@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>接続の指定が完全ではありません。</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>プログラマの既定値</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>クロック (Hz):</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>クロックが Hz 単位の数値ではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>コピー元(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>新しい名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>複製(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>コピーするデバイスを選択してください。</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>読み出したバイト</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>ファイル %1 にはエミュレートされたチップの内容が保存されています。別のファイルを選択してください。</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>コンフィギュレーションデバイス(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>デバイス「%1」は存在しません。</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>新しいデバイス</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>チップの SFDP データ</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>新しいデバイス</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>新しいデバイス: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>警告(&amp;W):</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>この ID を持つ登録済みの部品(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>デバイスを作成(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>読み出したデータを保存(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>相違なし</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>読み出したデータを保存</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>長さ:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>デバイスファミリー(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>コンフィギュレーションモード(&amp;M):</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>チップから新しいデバイスを作成(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>SFDP ファイルから新しいデバイスを作成(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>複製(&amp;U)...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>続行</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>キャンセルしました</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>デバイス「%1」を保存しました。</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>ファイル %1 を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 はファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>ファイル %1 は %2 バイトを超えており、SFDP データではありません。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>ファイル %1 に書き込めません: %2</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>연결 정보가 완전하지 않습니다.</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>프로그래머 자체 값</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>클럭 (Hz):</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>클럭이 Hz 단위의 숫자가 아닙니다.</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>복제</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>복사할 디바이스(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>새 이름(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>복제(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>복사할 디바이스를 선택하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>읽은 바이트</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>파일 %1에는 에뮬레이션 칩의 내용이 보관되어 있습니다. 다른 파일을 선택하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>구성 디바이스(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>디바이스 ‘%1’이(가) 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>새 디바이스</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>칩의 SFDP 데이터</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>새 디바이스</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>새 디바이스: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>경고(&amp;W):</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>이 ID를 가진 목록의 부품(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>디바이스 만들기(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>읽은 데이터 저장(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>차이 없음</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>읽은 데이터 저장</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>길이:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>디바이스 제품군(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>구성 모드(&amp;M):</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>종료(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>칩에서 새 디바이스 만들기(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>SFDP 파일에서 새 디바이스 만들기(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>복제(&amp;U)...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>계속 실행</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>디바이스 &quot;%1&quot;을(를) 저장했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>파일 %1을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1은(는) 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>파일 %1은(는) %2바이트보다 크며 SFDP 데이터가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>파일 %1에 쓸 수 없습니다: %2</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>A conexão não está completa.</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>o do próprio gravador</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>Clock (Hz):</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>O clock não é um número de hertz.</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>&amp;Cópia de:</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>&amp;Nome novo:</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplicar</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>Escolha o dispositivo a copiar.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>Bytes lidos</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>O arquivo %1 guarda o conteúdo do chip emulado. Escolha outro.</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Dispositivo de configuração...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>O dispositivo “%1” não existe.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>Novo dispositivo</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>Leitura SFDP de um chip</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>Novo dispositivo</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>Novo dispositivo: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>A&amp;visos:</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>Componentes da &amp;lista com este ID:</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>C&amp;riar dispositivo</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>Salvar &amp;leitura...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhum</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>sem diferenças</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>Salvar a leitura</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>Comprimento:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Família de dispositivos:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Modo de configuração:</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>&amp;Novo dispositivo a partir do chip...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>Novo dispositivo a partir de arquivo S&amp;FDP...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>D&amp;uplicar...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>O dispositivo &quot;%1&quot; foi salvo.</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>O arquivo %1 não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 não é um arquivo.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>O arquivo %1 tem mais de %2 bytes e não é uma leitura SFDP.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>O arquivo %1 não pode ser gravado: %2</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>Подключение указано не полностью.</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>собственная программатора</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>Частота (Гц):</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>Частота — не число герц.</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>Дублирование</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>&amp;Копия:</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>&amp;Новое имя:</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Дублировать</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>Выберите микросхему для копирования.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>Прочитанные байты</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>В файле %1 хранится содержимое эмулируемой микросхемы. Выберите другой.</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Конфигурационное ПЗУ...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>Микросхема «%1» не существует.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>Новая микросхема</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>Данные SFDP микросхемы</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>Новая микросхема</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>Новая микросхема: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>&amp;Предупреждения:</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>Микросхемы из &amp;списка с этим ID:</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>Со&amp;здать</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>Сохранить &amp;данные...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>различий нет</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>Сохранение данных</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>Длина:</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Се&amp;мейство микросхем:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Режим конфигурирования:</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Выход</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>&amp;Новая микросхема по подключённой...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>Новая микросхема из &amp;файла SFDP...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>&amp;Дублировать...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Отменено</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Микросхема «%1» сохранена.</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>Не удаётся прочитать файл %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 — не файл.</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>Файл %1 больше %2 байт: это не данные SFDP.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Не удаётся записать файл %1: %2</translation>
     </message>
 </context>
 <context>

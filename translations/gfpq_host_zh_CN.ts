@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>连接信息不完整。</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>编程器自身的时钟</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>时钟 (Hz)：</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>时钟不是以 Hz 为单位的数字。</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制器件</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>复制自(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>新名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>复制(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>请选择要复制的器件。</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>读取的字节</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>文件 %1 保存着模拟芯片的内容。请选择其他文件。</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>配置器件(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>器件“%1”不存在。</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>新器件</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>芯片的 SFDP 数据</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>新器件</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>新器件：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>警告(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>具有此 ID 的已列型号(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>创建器件(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>保存读出数据(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>无差异</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>保存读出数据</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>长度：</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>器件系列(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>配置模式(&amp;M)：</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>从芯片新建器件(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>从 SFDP 文件新建器件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>复制器件(&amp;U)...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>继续运行</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>器件“%1”已保存。</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>无法读取文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 不是文件。</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>文件 %1 超过 %2 字节，不是 SFDP 数据。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>无法写入文件 %1：%2</translation>
     </message>
 </context>
 <context>

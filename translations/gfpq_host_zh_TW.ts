@@ -59,6 +59,41 @@
         <source>The connection is not complete.</source>
         <translation>連線資訊不完整。</translation>
     </message>
+    <message>
+        <source>the programmer&apos;s own</source>
+        <translation>燒錄器自身的時脈</translation>
+    </message>
+    <message>
+        <source>Clock (Hz):</source>
+        <translation>時脈 (Hz)：</translation>
+    </message>
+    <message>
+        <source>The clock is not a number of hertz.</source>
+        <translation>時脈不是以 Hz 為單位的數字。</translation>
+    </message>
+</context>
+<context>
+    <name>COPY_DIALOG</name>
+    <message>
+        <source>Duplicate</source>
+        <translation>複製元件</translation>
+    </message>
+    <message>
+        <source>&amp;Copy of:</source>
+        <translation>複製自(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>&amp;New name:</source>
+        <translation>新名稱(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>複製(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Choose the device to copy.</source>
+        <translation>請選擇要複製的元件。</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -110,6 +145,10 @@
         <source>Bytes that were read</source>
         <translation>讀取的位元組</translation>
     </message>
+    <message>
+        <source>The file %1 keeps the contents of the emulated chip. Choose another one.</source>
+        <translation>檔案 %1 保存著模擬晶片的內容。請選擇其他檔案。</translation>
+    </message>
 </context>
 <context>
     <name>DETECTED_DIALOG</name>
@@ -147,6 +186,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>組態元件(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_SOURCES</name>
+    <message>
+        <source>The device &quot;%1&quot; does not exist.</source>
+        <translation>元件「%1」不存在。</translation>
     </message>
 </context>
 <context>
@@ -215,6 +261,63 @@
     </message>
 </context>
 <context>
+    <name>NEW_DEVICE_DESK</name>
+    <message>
+        <source>New Device</source>
+        <translation>新元件</translation>
+    </message>
+    <message>
+        <source>SFDP Read-Out of a Chip</source>
+        <translation>晶片的 SFDP 資料</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DIALOG</name>
+    <message>
+        <source>New Device</source>
+        <translation>新元件</translation>
+    </message>
+    <message>
+        <source>New Device: %1</source>
+        <translation>新元件：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings:</source>
+        <translation>警告(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Listed parts with this ID:</source>
+        <translation>具有此 ID 的已列型號(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>Create &amp;Device</source>
+        <translation>建立元件(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Save &amp;Read-Out...</source>
+        <translation>儲存讀出資料(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>no differences</source>
+        <translation>無差異</translation>
+    </message>
+    <message>
+        <source>Save the Read-Out</source>
+        <translation>儲存讀出資料</translation>
+    </message>
+</context>
+<context>
+    <name>NEW_DEVICE_DRAFT</name>
+    <message>
+        <source>ID %1</source>
+        <translation>ID %1</translation>
+    </message>
+</context>
+<context>
     <name>ORDER_PANEL</name>
     <message>
         <source>What the file covers</source>
@@ -239,6 +342,17 @@
     <message>
         <source>Length:</source>
         <translation>長度：</translation>
+    </message>
+</context>
+<context>
+    <name>PLACE_FIELDS</name>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>元件系列(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>組態模式(&amp;M)：</translation>
     </message>
 </context>
 <context>
@@ -270,6 +384,18 @@
     <message>
         <source>&amp;Quit</source>
         <translation>結束(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;New Device from Chip...</source>
+        <translation>從晶片新增元件(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>New Device from S&amp;FDP File...</source>
+        <translation>從 SFDP 檔案新增元件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>複製元件(&amp;U)...</translation>
     </message>
 </context>
 <context>
@@ -353,6 +479,33 @@
     <message>
         <source>Keep running</source>
         <translation>繼續執行</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>元件「%1」已儲存。</translation>
+    </message>
+</context>
+<context>
+    <name>READ_OUT_FILE</name>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <translation>無法讀取檔案 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 不是檔案。</translation>
+    </message>
+    <message>
+        <source>The file %1 has more than %2 bytes and is not an SFDP read-out.</source>
+        <translation>檔案 %1 超過 %2 位元組，不是 SFDP 資料。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>無法寫入檔案 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,8 @@
 // A run in the programmer's window, by keyboard, from the device to the verdict.
 #include "e2e_test.h"
 
+#include <QJsonArray>
+
 namespace {
 
 const QString TITLE = QStringLiteral("Flash Programmer");
@@ -41,6 +43,31 @@ private slots:
         QVERIFY(user().press(QStringLiteral("Tab")));
         QVERIFY(user().press(QStringLiteral("space")));
 
+        QVERIFY(wait_for_property("m_verdict_label", "text", QStringLiteral("Passed")));
+        QVERIFY(user().press(QStringLiteral("ctrl+q")));
+        QVERIFY(ended_well());
+    }
+
+    void a_chip_becomes_a_device_that_is_shown_and_runs()
+    {
+        const QString name = QStringLiteral("BENCH-8");
+        QVERIFY(
+            start({QStringLiteral("--family=1"), QStringLiteral("--scheme=7"), QStringLiteral("--device=MX25R8035F")}));
+        QVERIFY(wait_for_window(TITLE));
+        QVERIFY(user().press(QStringLiteral("ctrl+n")));
+        QVERIFY(wait_for_window(QStringLiteral("New Device: ID C2 28 14, SFDP 1.6")));
+        QVERIFY(wait_for_property("value_density", "currentText", QStringLiteral("8Mb")));
+        QVERIFY(user().type(name));
+        QVERIFY(user().press(QStringLiteral("Return")));
+
+        QVERIFY(wait_for_window(QStringLiteral("Configuration Device")));
+        QVERIFY(wait_for_property("m_device_name_edit", "text", name));
+        QVERIFY(wait_for_property("m_device_id_edit", "text", QStringLiteral("0xC2 0x28 0x14")));
+        QCOMPARE(read_database(1, 7, {}).value(QStringLiteral("devices")), QJsonValue(QJsonArray{name}));
+        QVERIFY(user().press(QStringLiteral("Escape")));
+        QVERIFY(wait_for_window(TITLE));
+        QVERIFY(wait_for_property("m_device_field", "text", name));
+        QVERIFY(user().press(QStringLiteral("F6")));
         QVERIFY(wait_for_property("m_verdict_label", "text", QStringLiteral("Passed")));
         QVERIFY(user().press(QStringLiteral("ctrl+q")));
         QVERIFY(ended_well());

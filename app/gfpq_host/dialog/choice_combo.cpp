@@ -23,7 +23,7 @@ QString scheme_text(int scheme)
 
 QString device_title(const GFPDB_RECORD& device)
 {
-    const QString name = QString::fromStdString(device.row.name);
+    QString name = QString::fromStdString(device.row.name);
     if (device.row.scheme < 0)
         return name;
     return QStringLiteral("%1 (%2, %3)").arg(name, family_text(device.row.family), scheme_text(device.row.scheme));

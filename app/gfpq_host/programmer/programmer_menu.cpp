@@ -10,15 +10,22 @@ QAction* PROGRAMMER_MENU::add(const QString& text, const char* object_name, cons
     return action;
 }
 
-PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent)
-    : QMenu(parent),
-      m_dialog(add(tr("&Configuration Device..."), "m_dialog_action", {}, &PROGRAMMER_MENU::dialog_asked)),
-      m_detect(add(tr("&Detect"), "m_detect_action", Qt::Key_F4, &PROGRAMMER_MENU::detect_asked))
+PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent) : QMenu(parent)
 {
+    m_idle_actions = {
+        add(tr("&Configuration Device..."), "m_dialog_action", {}, &PROGRAMMER_MENU::dialog_asked),
+        add(tr("&New Device from Chip..."), "m_new_from_chip_action", QKeySequence::New,
+            &PROGRAMMER_MENU::new_from_chip_asked),
+        add(tr("New Device from S&FDP File..."), "m_new_from_file_action", Qt::CTRL + Qt::SHIFT + Qt::Key_N,
+            &PROGRAMMER_MENU::new_from_file_asked),
+        add(tr("D&uplicate..."), "m_duplicate_action", Qt::CTRL + Qt::Key_D, &PROGRAMMER_MENU::duplicate_asked),
+    };
+    addSeparator();
+    m_idle_actions += add(tr("&Detect"), "m_detect_action", Qt::Key_F4, &PROGRAMMER_MENU::detect_asked);
     add(tr("&Open File..."), "m_open_action", QKeySequence::Open, &PROGRAMMER_MENU::file_asked);
     addSeparator();
-    m_trial = add(tr("&Try the Flow"), "m_trial_action", Qt::Key_F6, &PROGRAMMER_MENU::trial_asked);
-    m_start = add(tr("&Start"), "m_start_action", Qt::Key_F5, &PROGRAMMER_MENU::start_asked);
+    m_idle_actions += add(tr("&Try the Flow"), "m_trial_action", Qt::Key_F6, &PROGRAMMER_MENU::trial_asked);
+    m_idle_actions += add(tr("&Start"), "m_start_action", Qt::Key_F5, &PROGRAMMER_MENU::start_asked);
     m_cancel = add(tr("C&ancel"), "m_cancel_action", Qt::Key_Escape, &PROGRAMMER_MENU::cancel_asked);
     addSeparator();
     add(tr("&Quit"), "m_quit_action", QKeySequence::Quit, &PROGRAMMER_MENU::quit_asked);
@@ -27,7 +34,7 @@ PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent)
 
 void PROGRAMMER_MENU::show_busy(bool is_busy)
 {
-    for (QAction* action : {m_dialog, m_detect, m_trial, m_start})
+    for (QAction* action : qAsConst(m_idle_actions))
         action->setEnabled(!is_busy);
     m_cancel->setEnabled(is_busy);
 }

@@ -19,6 +19,9 @@ public:
 
 signals:
     void dialog_asked();
+    void new_from_chip_asked();
+    void new_from_file_asked();
+    void duplicate_asked();
     void detect_asked();
     void file_asked();
     void trial_asked();
@@ -30,9 +33,7 @@ private:
     QAction* add(const QString& text, const char* object_name, const QKeySequence& keys,
                  void (PROGRAMMER_MENU::*asked)());
 
-    QAction* m_dialog;
-    QAction* m_detect;
-    QAction* m_trial;
-    QAction* m_start;
-    QAction* m_cancel;
+    // Possible while nothing is under way.
+    QList<QAction*> m_idle_actions;
+    QAction* m_cancel = nullptr;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "programmer/programmer_window.h"
 
+#include "new_device/new_device_desk.h"
 #include "programmer/connection_panel.h"
 #include "programmer/detected_dialog.h"
 #include "programmer/file_panel.h"
@@ -78,7 +79,8 @@ QString file_of(const QMimeData* data)
 
 PROGRAMMER_WINDOW::PROGRAMMER_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice,
                                      QSettings& settings)
-    : m_settings(settings), m_device_panel(new DEVICE_PANEL(module, options, choice))
+    : m_settings(settings), m_device_panel(new DEVICE_PANEL(module, options, choice)),
+      m_new_device_desk(new NEW_DEVICE_DESK(this, options.family_schemes))
 {
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setAcceptDrops(true);
@@ -124,7 +126,7 @@ void PROGRAMMER_WINDOW::create_panels()
     m_splitter->setChildrenCollapsible(false);
     m_splitter->addWidget(create_entries());
     connect(m_device_panel, &DEVICE_PANEL::choice_changed, this, &PROGRAMMER_WINDOW::choice_changed);
-    connect(m_connection_panel, &CONNECTION_PANEL::detect_asked, this, &PROGRAMMER_WINDOW::detect);
+    connect(m_connection_panel, &CONNECTION_PANEL::detect_asked, this, [this] { read_chip(false); });
     connect(m_run_bar, &RUN_BAR::start_asked, this, &PROGRAMMER_WINDOW::start);
     connect(m_run_bar, &RUN_BAR::trial_asked, this, &PROGRAMMER_WINDOW::try_flow);
     connect(m_run_bar, &RUN_BAR::cancel_asked, this, &PROGRAMMER_WINDOW::cancel);
@@ -173,7 +175,11 @@ void PROGRAMMER_WINDOW::create_menu()
     m_menu->setTitle(tr("&Programmer"));
     menuBar()->addMenu(m_menu);
     connect(m_menu, &PROGRAMMER_MENU::dialog_asked, m_device_panel, &DEVICE_PANEL::open_dialog);
-    connect(m_menu, &PROGRAMMER_MENU::detect_asked, this, &PROGRAMMER_WINDOW::detect);
+    connect(m_menu, &PROGRAMMER_MENU::new_from_chip_asked, this, [this] { read_chip(true); });
+    connect(m_menu, &PROGRAMMER_MENU::new_from_file_asked, this, [this] { m_new_device_desk->ask_for_file(choice()); });
+    connect(m_menu, &PROGRAMMER_MENU::duplicate_asked, this, [this] { m_new_device_desk->duplicate(choice()); });
+    connect(m_new_device_desk, &NEW_DEVICE_DESK::stored, this, &PROGRAMMER_WINDOW::open_stored);
+    connect(m_menu, &PROGRAMMER_MENU::detect_asked, this, [this] { read_chip(false); });
     connect(m_menu, &PROGRAMMER_MENU::file_asked, m_file_panel, &FILE_PANEL::browse);
     connect(m_menu, &PROGRAMMER_MENU::trial_asked, this, &PROGRAMMER_WINDOW::try_flow);
     connect(m_menu, &PROGRAMMER_MENU::start_asked, this, &PROGRAMMER_WINDOW::start);
@@ -337,7 +343,7 @@ void PROGRAMMER_WINDOW::finish(const RUN_OUTCOME& outcome)
         close();
 }
 
-void PROGRAMMER_WINDOW::detect()
+void PROGRAMMER_WINDOW::read_chip(bool for_new_device)
 {
     QString problem;
     const std::optional<GFPE_CONNECTION> connection = m_connection_panel->connection(problem);
@@ -349,7 +355,8 @@ void PROGRAMMER_WINDOW::detect()
         return;
     }
     m_run_bar->clear_verdict();
-    m_controller.read_chip(*target, false);
+    m_is_new_device_wanted = for_new_device;
+    m_controller.read_chip(*target, for_new_device);
 }
 
 void PROGRAMMER_WINDOW::choose_detected(const GFPDB_RECORD& device)
@@ -380,7 +387,10 @@ void PROGRAMMER_WINDOW::finish_reading(const CHIP_READING& reading)
         return;
     }
     m_log->add(tr("The chip has the ID %1.").arg(id_text(reading.id)));
-    show_detected(reading.id);
+    if (m_is_new_device_wanted)
+        m_new_device_desk->show_reading(reading, choice());
+    else
+        show_detected(reading.id);
 }
 
 void PROGRAMMER_WINDOW::show_detected(const std::vector<std::uint8_t>& id)
@@ -393,6 +403,13 @@ void PROGRAMMER_WINDOW::show_detected(const std::vector<std::uint8_t>& id)
     DETECTED_DIALOG dialog(this, id_text(id), devices, choice().device_name);
     if (dialog.exec() == QDialog::Accepted)
         choose_detected(devices[static_cast<std::size_t>(dialog.selected())]);
+}
+
+void PROGRAMMER_WINDOW::open_stored(const HOST_CHOICE& device)
+{
+    m_log->add(tr("The device \"%1\" is stored.").arg(QString::fromLocal8Bit(device.device_name.c_str())));
+    m_device_panel->choose(device);
+    m_device_panel->open_dialog();
 }
 
 // First the run is cancelled; who closes again stops it at once.

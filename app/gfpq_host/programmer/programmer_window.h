@@ -13,6 +13,7 @@ class CONNECTION_PANEL;
 class DATA_PAGE;
 class FILE_PANEL;
 class MODULE_LOADER;
+class NEW_DEVICE_DESK;
 class ORDER_PANEL;
 class PROGRAMMER_MENU;
 class QSettings;
@@ -55,12 +56,14 @@ private:
 
     void start();
     void try_flow();
-    void detect();
+    // Reads the chip: to find the devices with its ID, or to make a new one of what it says.
+    void read_chip(bool for_new_device);
     void cancel();
     void show_busy();
     void finish(const RUN_OUTCOME& outcome);
     void finish_reading(const CHIP_READING& reading);
     void show_detected(const std::vector<std::uint8_t>& id);
+    void open_stored(const HOST_CHOICE& device);
 
     // What is entered; none when it is not complete: that was said.
     std::optional<RUN_WISH> wish(bool is_trial);
@@ -76,6 +79,7 @@ private:
     RUN_CONTROLLER m_controller;
     RUN_PREPARATION m_preparation;
     bool m_closes_at_the_end = false;
+    bool m_is_new_device_wanted = false;
     // With nothing cut.
     int m_entries_width = 0;
 
@@ -90,4 +94,5 @@ private:
     TRACE_PAGE* m_trace_page = nullptr;
     DATA_PAGE* m_data_page = nullptr;
     PROGRAMMER_MENU* m_menu = nullptr;
+    NEW_DEVICE_DESK* m_new_device_desk;
 };
