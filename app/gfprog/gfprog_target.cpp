@@ -33,6 +33,7 @@ bool open(const CLI_CALL& call, const GFPE_CONNECTION& connection, GFPROG_TARGET
     std::string problem;
     const bool has_device = !target.record.name().empty();
     target.connection = call.value(GFPROG_OPTION_ON);
+    target.is_new_chip = connection.kind == GFPE_CONNECTION::EMULATED && connection.file.empty();
     target.bus = gfpe_open_connection(connection, has_device ? &target.record : nullptr, problem, &target.chip);
     if (target.bus != nullptr)
         return true;

@@ -21,6 +21,8 @@ struct GFPROG_TARGET
     std::unique_ptr<GFPE_BUS> bus;
     // The emulated chip; null for a real one.
     GFPE_CHIP* chip = nullptr;
+    // An emulated chip that keeps its contents in no file.
+    bool is_new_chip = false;
 
     // True for the flow on four lines: that of the scheme in the options, else of the device.
     bool is_quad(const CLI_CALL& call) const;

@@ -204,6 +204,9 @@ bool SESSION::open_files()
 
 void SESSION::run_order()
 {
+    // On a chip that was never used, an erase that leaves something out would pass.
+    if (m_target->is_new_chip && m_order.erase)
+        m_target->chip->fill_memory(0x00);
     LISTENER listener(m_call.output, m_examined.get());
     GFPE_RUN run(m_plan, *m_target->bus);
     run.set_image(m_image.get());

@@ -295,6 +295,26 @@ private slots:
         QCOMPARE(object(run).value("commands").toInt(), 0);
     }
 
+    // A sector is half as large as this flow has it: what it leaves out would be FF on a chip that was never used.
+    void an_erase_that_leaves_bytes_out_is_noticed_on_an_emulated_chip_data()
+    {
+        rows<QStringList, QByteArray>({{"erase", QStringList{"run", "erase", "blank-check"}, "Blank-Check"},
+                                       {"program", QStringList{"program", "FILE"}, "Verify"}});
+    }
+
+    void an_erase_that_leaves_bytes_out_is_noticed_on_an_emulated_chip()
+    {
+        auto [arguments, phase] = row<QStringList, QByteArray>();
+        arguments.replaceInStrings(QRegularExpression("^FILE$"), image("file", 100000));
+        store_changed_part("A", {{"\"erase_size\": \"65536\"", "\"erase_size\": \"131072\""}});
+
+        const TOOL_RUN run = prog(arguments + QStringList{"--device", "A"});
+
+        QCOMPARE(run.exit_code, 1);
+        QVERIFY2(run.err.contains("gfprog: " + phase + ", ") && run.err.contains(" at 0x00010000, received 00"),
+                 run.err.constData());
+    }
+
     void a_device_that_cannot_be_emulated_is_refused()
     {
         store_changed_part("A", {{"\"16Mb\"", "\"\""}});
