@@ -8,6 +8,8 @@
 #include <QElapsedTimer>
 #include <QFile>
 
+#include <cerrno>
+#include <new>
 #include <utility>
 
 namespace {
@@ -17,6 +19,17 @@ constexpr double MS_A_SECOND = 1000;
 QString text_of(const std::string& utf8)
 {
     return QString::fromStdString(utf8);
+}
+
+// Does the work of a thread, which no exception may leave: the program would end.
+template <typename WORK>
+void do_with_memory(QString& problem, const WORK& work)
+{
+    try {
+        work();
+    } catch (const std::bad_alloc&) {
+        problem = qt_error_string(ENOMEM);
+    }
 }
 
 // The chip as a board has it after it was switched on.
@@ -155,6 +168,8 @@ void RUN_WORKER::run_on(GFPE_BUS& bus, const RUN_REQUEST& request, RUN_OUTCOME& 
     run.set_trace(trace.get());
     {
         const ANNOUNCED_RUN announced(*this, run);
+        // Of a run that has no memory to end in order.
+        outcome.result.verdict = GFPE_VERDICT::LOST;
         outcome.result = run.run(request.order);
     }
     listener.publish();
@@ -170,15 +185,17 @@ RUN_OUTCOME RUN_WORKER::work(const RUN_REQUEST& request)
     clock.start();
     RUN_OUTCOME outcome;
     std::unique_ptr<GFPE_BUS> opened;
-    GFPE_BUS* bus = open_bus(request.target, opened, outcome.problem);
-    if (bus) {
-        run_on(*bus, request, outcome);
-    } else if (m_is_given_up) {
-        outcome.result.verdict = GFPE_VERDICT::CANCELLED;
-        outcome.problem.clear();
-    }
+    do_with_memory(outcome.problem, [&] {
+        GFPE_BUS* bus = open_bus(request.target, opened, outcome.problem);
+        if (bus) {
+            run_on(*bus, request, outcome);
+        } else if (m_is_given_up) {
+            outcome.result.verdict = GFPE_VERDICT::CANCELLED;
+            outcome.problem.clear();
+        }
+    });
     if (request.target.chip)
-        finish_chip(*request.target.chip, outcome);
+        do_with_memory(outcome.problem, [&] { finish_chip(*request.target.chip, outcome); });
     const std::lock_guard<std::mutex> lock(m_mutex);
     outcome.was_stopped = m_stopped;
     outcome.seconds = static_cast<double>(clock.elapsed()) / MS_A_SECOND;
@@ -190,12 +207,14 @@ CHIP_READING RUN_WORKER::read_chip(const RUN_TARGET& target, bool with_sfdp)
     CHIP_READING reading;
     std::unique_ptr<GFPE_BUS> opened;
     std::string problem;
-    if (GFPE_BUS* bus = open_bus(target, opened, reading.problem)) {
-        const bool is_read =
-            gfpe_read_id(*bus, reading.id, problem) && (!with_sfdp || gfpe_read_sfdp(*bus, reading.sfdp, problem));
-        if (!is_read)
-            reading.problem = text_of(problem);
-    }
+    do_with_memory(reading.problem, [&] {
+        if (GFPE_BUS* bus = open_bus(target, opened, reading.problem)) {
+            const bool is_read =
+                gfpe_read_id(*bus, reading.id, problem) && (!with_sfdp || gfpe_read_sfdp(*bus, reading.sfdp, problem));
+            if (!is_read)
+                reading.problem = text_of(problem);
+        }
+    });
     reading.was_cancelled = m_is_given_up;
     return reading;
 }

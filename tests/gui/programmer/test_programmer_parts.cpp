@@ -7,12 +7,43 @@
 #include "run/read_out.h"
 #include "run/recent_files.h"
 #include "run/run_trace.h"
+#include "run/run_worker.h"
 #include "run/test_pattern.h"
 #include "test_rows.h"
 
+#include "gfpdb/gfpdb_database.h"
+
+#include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
+#include <cerrno>
+#include <cstdlib>
+#include <new>
 #include <set>
+
+namespace {
+
+// From this size on there is no memory.
+std::atomic<std::size_t> memory_ends_at{SIZE_MAX};
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    void* const memory = size < memory_ends_at ? std::malloc(std::max<std::size_t>(size, 1)) : nullptr;
+    return memory != nullptr ? memory : throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
 
 class TEST_PROGRAMMER_PARTS : public QObject
 {
@@ -40,6 +71,39 @@ private slots:
             sum.add(bytes.data() + cut, bytes.size() - cut);
             QCOMPARE(sum.value(), expected);
         }
+    }
+
+    void a_run_without_memory_says_so_data()
+    {
+        rows<bool, int>(
+            {{"for its file", false, int(GFPE_VERDICT::REFUSED)}, {"in its middle", true, int(GFPE_VERDICT::LOST)}});
+    }
+
+    // An exception that leaves the thread of the run would end the program.
+    void a_run_without_memory_says_so()
+    {
+        const auto [has_pattern, verdict] = row<bool, int>();
+        QTemporaryDir directory;
+        QFile file(directory.filePath(QStringLiteral("file")));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("x") == 1 && file.flush());
+        const GFPDB_RECORD record = GFPDB_DATABASE(directory.path().toStdString())
+                                        .find_builtin({"MX25L1606E", std::nullopt, std::nullopt})
+                                        .at(0);
+        std::string problem;
+        RUN_REQUEST request;
+        request.target.chip = GFPE_CHIP::make(record, problem);
+        QVERIFY2(request.target.chip, problem.c_str());
+        request.plan = std::make_shared<GFPE_PLAN>(record, false);
+        request.order.program = true;
+        request.file = file.fileName();
+        request.has_pattern = has_pattern;
+        memory_ends_at = 16384;
+
+        const RUN_OUTCOME outcome = RUN_WORKER().work(request);
+
+        memory_ends_at = SIZE_MAX;
+        QCOMPARE(outcome.problem, qt_error_string(ENOMEM));
+        QCOMPARE(int(outcome.result.verdict), verdict);
     }
 
     void numbers_are_read_data()

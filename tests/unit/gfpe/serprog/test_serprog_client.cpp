@@ -245,6 +245,15 @@ private slots:
         QCOMPARE(stand.bus.log, (QList<QByteArray>{"wait 1000000", "wait 1000000", "wait 500000"}));
     }
 
+    void a_programmer_with_room_for_one_delay_waits_itself()
+    {
+        STAND stand(answering(0x07, {0x06, 5, 0}));
+
+        QVERIFY(stand.client->wait(7) && stand.client->settle());
+
+        QCOMPARE(stand.bus.log, QList<QByteArray>{"wait 7"});
+    }
+
     void a_programmer_without_delays_is_waited_for_here_data()
     {
         rows<FAULTS>({{"no delay", answering(0x02, commands_without({0x0E}))},

@@ -60,7 +60,7 @@ private slots:
             {"read", "13 01 00 00 03 00 00 9F", "06 10 11 12", "9F +3"},
             {"no opcode", "13 00 00 00 02 00 00", "06 FF FF", ""},
             {"neither", "13 00 00 00 00 00 00", "06", ""},
-            {"reads that are too long", "13 01 00 00 01 00 02 9F 00", "15 06", ""},
+            {"reads that are too long", "13 01 00 00 01 00 02 01 00", "15 06", ""},
             {"a read that is too long, of nothing", "13 00 00 00 01 00 02 00", "15 06", ""},
             {"parallel bus", "06", "15", ""},
             {"old commands", "09 0A 0C 0D 16 FF 00", "15 15 15 15 15 15 06", ""},
