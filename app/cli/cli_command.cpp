@@ -26,19 +26,28 @@ std::string CLI_CALL::value(const char* option) const
     return QFile::encodeName(options.value(QLatin1String(option))).toStdString();
 }
 
+std::vector<std::string> CLI_CALL::values(const char* option) const
+{
+    std::vector<std::string> all;
+    const QStringList texts = options.values(QLatin1String(option));
+    for (const QString& text : texts)
+        all.push_back(QFile::encodeName(text).toStdString());
+    return all;
+}
+
 std::optional<int> CLI_CALL::number(const char* option) const
 {
     return has(option) ? std::optional<int>(options.value(QLatin1String(option)).toInt()) : std::nullopt;
 }
 
-std::optional<int> CLI_CALL::family() const
+std::optional<int> CLI_CALL::family(const char* option) const
 {
-    return has(CLI_OPTION_FAMILY) ? cli_family(value(CLI_OPTION_FAMILY)) : std::nullopt;
+    return has(option) ? cli_family(value(option)) : std::nullopt;
 }
 
-std::optional<int> CLI_CALL::scheme() const
+std::optional<int> CLI_CALL::scheme(const char* option) const
 {
-    return has(CLI_OPTION_SCHEME) ? cli_scheme(value(CLI_OPTION_SCHEME)) : std::nullopt;
+    return has(option) ? cli_scheme(value(option)) : std::nullopt;
 }
 
 std::optional<GFPDB_LIST_FOR> CLI_CALL::list_reader() const
@@ -73,12 +82,12 @@ void cli_add_csv_options(QCommandLineParser& parser, const char* explanation)
                                      "Such a list cannot be imported.")});
 }
 
-void cli_add_place_options(QCommandLineParser& parser, const char* what)
+void cli_add_place_options(QCommandLineParser& parser, const char* what, const char* family, const char* scheme)
 {
-    parser.addOption({QLatin1String(CLI_OPTION_FAMILY),
+    parser.addOption({QLatin1String(family),
                       QStringLiteral("%1 device family (1 to 72, or its name).").arg(QLatin1String(what)),
                       QStringLiteral("family")});
-    parser.addOption({QLatin1String(CLI_OPTION_SCHEME),
+    parser.addOption({QLatin1String(scheme),
                       QStringLiteral("%1 configuration scheme (0 to 24, or its name).").arg(QLatin1String(what)),
                       QStringLiteral("scheme")});
 }

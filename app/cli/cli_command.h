@@ -24,6 +24,18 @@ enum CLI_EXIT : int
     CLI_EXIT_DATABASE = 5,  // the database cannot be used, or it refused the change
 };
 
+// Options that several commands have.
+constexpr const char* CLI_OPTION_JSON = "json";
+constexpr const char* CLI_OPTION_FAMILY = "family";
+constexpr const char* CLI_OPTION_SCHEME = "scheme";
+// Where a device is copied from.
+constexpr const char* CLI_OPTION_FROM_FAMILY = "from-family";
+constexpr const char* CLI_OPTION_FROM_SCHEME = "from-scheme";
+constexpr const char* CLI_OPTION_DIR = "dir";
+constexpr const char* CLI_OPTION_OUTPUT = "output";
+constexpr const char* CLI_OPTION_CSV = "csv";
+constexpr const char* CLI_OPTION_SPREADSHEET = "spreadsheet";
+
 // What a command works with.
 struct CLI_CALL
 {
@@ -36,11 +48,13 @@ struct CLI_CALL
     int argument_count() const;
     bool has(const char* option) const;
     std::string value(const char* option) const;
+    // Those of an option that is given several times, in their order.
+    std::vector<std::string> values(const char* option) const;
     // The whole number that is the value of `option`; none when it was not given. It was checked before.
     std::optional<int> number(const char* option) const;
     // The number of the device family or configuration scheme that the options ask for; none when they ask for none.
-    std::optional<int> family() const;
-    std::optional<int> scheme() const;
+    std::optional<int> family(const char* option = CLI_OPTION_FAMILY) const;
+    std::optional<int> scheme(const char* option = CLI_OPTION_SCHEME) const;
     // Who reads the CSV list that the options ask for; none when they do not ask for one.
     std::optional<GFPDB_LIST_FOR> list_reader() const;
     // Prints what is wrong with the arguments; returns CLI_EXIT_USAGE.
@@ -80,16 +94,10 @@ protected:
     CLI_COMMAND& operator=(const CLI_COMMAND&) = delete;
 };
 
-// Options that several commands have.
 void cli_add_json_option(QCommandLineParser& parser);
-// --family and --scheme; `what` comes before "device family" in the help, e.g. "Only devices of this".
-void cli_add_place_options(QCommandLineParser& parser, const char* what);
+// --family and --scheme, or others for such values; `what` comes before "device family" in the help, e.g. "Only devices
+// of this".
+void cli_add_place_options(QCommandLineParser& parser, const char* what, const char* family = CLI_OPTION_FAMILY,
+                           const char* scheme = CLI_OPTION_SCHEME);
 // --csv, explained by `explanation`, and --spreadsheet.
 void cli_add_csv_options(QCommandLineParser& parser, const char* explanation);
-constexpr const char* CLI_OPTION_JSON = "json";
-constexpr const char* CLI_OPTION_FAMILY = "family";
-constexpr const char* CLI_OPTION_SCHEME = "scheme";
-constexpr const char* CLI_OPTION_DIR = "dir";
-constexpr const char* CLI_OPTION_OUTPUT = "output";
-constexpr const char* CLI_OPTION_CSV = "csv";
-constexpr const char* CLI_OPTION_SPREADSHEET = "spreadsheet";

@@ -7,23 +7,23 @@
 
 namespace {
 
-std::string places_of(const std::vector<GFPDB_RECORD>& records)
+std::string places_of(const std::vector<GFPDB_RECORD>& records, const CLI_PLACE_OPTIONS& options)
 {
     std::vector<std::string> places;
     places.reserve(records.size());
     for (const GFPDB_RECORD& record : records)
-        places.push_back("--family " + std::to_string(record.row.family) + " --scheme " +
-                         std::to_string(record.row.scheme));
+        places.push_back(std::string("--") + options.family + ' ' + std::to_string(record.row.family) + " --" +
+                         options.scheme + ' ' + std::to_string(record.row.scheme));
     return gfpdb_joined(places);
 }
 
 constexpr std::size_t MOST_SIMILAR = 5;
 
 // A sentence with names that `name` is a part of, however it is cased; empty when there are none.
-std::string similar_names(const CLI_CALL& call, const std::string& name)
+std::string similar_names(const CLI_CALL& call, const std::string& name, const CLI_PLACE_OPTIONS& options)
 {
     const std::string part = gfpdb_name_key(name);
-    const GFPDB_SELECTION all = cli_selection(call, {});
+    const GFPDB_SELECTION all = cli_selection(call, {}, options);
     std::vector<std::string> similar;
     for (const auto& records : {call.database.find_stored(all), call.database.find_builtin(all)}) {
         for (const GFPDB_RECORD& record : records) {
@@ -48,20 +48,21 @@ std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& 
 
 } // namespace
 
-GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name)
+GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name, const CLI_PLACE_OPTIONS& options)
 {
-    return {name, call.family(), call.scheme()};
+    return {name, call.family(options.family), call.scheme(options.scheme)};
 }
 
-std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code)
+std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code,
+                                         const CLI_PLACE_OPTIONS& options)
 {
-    const GFPDB_SELECTION selection = cli_selection(call, name);
+    const GFPDB_SELECTION selection = cli_selection(call, name, options);
     const std::vector<GFPDB_RECORD> stored = find_all(call, selection);
     const std::vector<GFPDB_RECORD> builtin = call.database.find_builtin(selection);
     exit_code = CLI_EXIT_NOT_FOUND;
     if (stored.size() > 1) {
         call.output.error("There are several devices called " + gfpdb_quoted(name) +
-                          ". Select one: " + places_of(stored) + ".");
+                          ". Select one: " + places_of(stored, options) + ".");
         return std::nullopt;
     }
     if (!stored.empty()) {
@@ -80,7 +81,7 @@ std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string
         exit_code = call.database_failed(problem);
     else
         call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.get_directory() +
-                          "." + similar_names(call, name));
+                          "." + similar_names(call, name, options));
     return std::nullopt;
 }
 

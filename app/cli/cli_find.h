@@ -12,12 +12,20 @@ constexpr const char* CLI_MISPLACED =
     "The stored key does not match the name, so that no search finds the record: \"gfpdb check --rebuild-keys\" "
     "repairs that, unless another record has the name.";
 
+// The options that select among devices of one name.
+struct CLI_PLACE_OPTIONS
+{
+    const char* family = CLI_OPTION_FAMILY;
+    const char* scheme = CLI_OPTION_SCHEME;
+};
+
 // The selection of a call: `name`, and the call's options for family and scheme.
-GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name);
+GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name, const CLI_PLACE_OPTIONS& options = {});
 
 // The one record called `name`, with its flows: a device of the directory, else a stored template, else a built-in
 // device. None: a message was printed, and `exit_code` says what went wrong.
-std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code);
+std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code,
+                                         const CLI_PLACE_OPTIONS& options = {});
 
 // The number of a state in the history, as in "17"; none when `text` is not a whole number of 64 bit.
 std::optional<std::int64_t> cli_history_id(const std::string& text);

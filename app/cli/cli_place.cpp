@@ -48,12 +48,12 @@ std::optional<int> cli_scheme(const std::string& text)
     return find(text, 0, LAST_SCHEME, [](int scheme) { return std::string(PGMIO_CONFIG_SCHEME_NAMES[scheme]); });
 }
 
-std::string cli_family_rule()
+std::string cli_family_rule(const char* option)
 {
-    return rule("family", DEV_FAMILY_FIRST, DEV_FAMILY_LAST, "device family");
+    return rule(option, DEV_FAMILY_FIRST, DEV_FAMILY_LAST, "device family");
 }
 
-std::string cli_scheme_rule()
+std::string cli_scheme_rule(const char* option)
 {
-    return rule("scheme", 0, LAST_SCHEME, "configuration scheme");
+    return rule(option, 0, LAST_SCHEME, "configuration scheme");
 }

@@ -11,5 +11,5 @@ std::optional<int> cli_family(const std::string& text);
 std::optional<int> cli_scheme(const std::string& text);
 
 // What --family and --scheme need, a sentence.
-std::string cli_family_rule();
-std::string cli_scheme_rule();
+std::string cli_family_rule(const char* option);
+std::string cli_scheme_rule(const char* option);

@@ -103,14 +103,18 @@ QString problem_of_numbers(const CALLED& called)
 
 QString problem_of_places(const CALLED& called)
 {
-    const auto value = [&called](const char* option) {
-        return gfpdb_to_utf8(called.parser.value(QLatin1String(option)));
+    const auto is_wrong = [&called](const char* option, std::optional<int> (*find)(const std::string&)) {
+        const QString name = QLatin1String(option);
+        return called.parser.optionNames().contains(name) && !find(gfpdb_to_utf8(called.parser.value(name)));
     };
-    const QStringList options = called.parser.optionNames();
-    if (options.contains(QLatin1String(CLI_OPTION_FAMILY)) && !cli_family(value(CLI_OPTION_FAMILY)))
-        return gfpdb_from_utf8(cli_family_rule());
-    if (options.contains(QLatin1String(CLI_OPTION_SCHEME)) && !cli_scheme(value(CLI_OPTION_SCHEME)))
-        return gfpdb_from_utf8(cli_scheme_rule());
+    for (const char* const option : {CLI_OPTION_FAMILY, CLI_OPTION_FROM_FAMILY}) {
+        if (is_wrong(option, cli_family))
+            return gfpdb_from_utf8(cli_family_rule(option));
+    }
+    for (const char* const option : {CLI_OPTION_SCHEME, CLI_OPTION_FROM_SCHEME}) {
+        if (is_wrong(option, cli_scheme))
+            return gfpdb_from_utf8(cli_scheme_rule(option));
+    }
     return QString();
 }
 

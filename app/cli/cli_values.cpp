@@ -48,6 +48,8 @@ void cli_add_values(CLI_JSON& json, const char* key, const std::vector<GFPDB_PRO
         json.add("title", value.title);
         json.add("text", value.text);
         json.add("source", value.source);
+        if (!value.choices.empty())
+            cli_add_texts(json, "choices", value.choices);
         json.end_object();
     }
     json.end_list();

@@ -18,7 +18,7 @@ _gfpdb_names()
 _gfpdb()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
-    local commands="list show export import check history restore diff sfdp copy server help"
+    local commands="list show export import check history restore diff copy-device sfdp copy server help"
     local common="--dir --verbose --help" options=""
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
@@ -43,7 +43,12 @@ _gfpdb()
         return
         ;;
     --host | --port | --database | --schema | --user) return ;;
-    --family | --scheme | --filter | --as | --older-than | --keep | --id)
+    --sfdp)
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+        return
+        ;;
+    --family | --scheme | --from-family | --from-scheme | --filter | --as | --older-than | --keep | --id | --name | \
+        --voltage | --set)
         return
         ;;
     esac
@@ -51,11 +56,15 @@ _gfpdb()
     list) options="--builtin --all --filter --csv --spreadsheet --json --family --scheme" ;;
     show) options="--variant --json --family --scheme" ;;
     export) options="--output --csv --spreadsheet --family --scheme" ;;
-    import) options="--replace --dry-run --unchecked --csv --family --scheme" ;;
-    check) options="--rebuild-keys --json" ;;
+    import)
+        options="--replace --dry-run --unchecked --csv --family --scheme"
+        options+=" --sfdp --id --name --voltage --set --json"
+        ;;
+    check) options="--rebuild-keys --sfdp --json" ;;
     history) options="--prune --older-than --keep --force --json --family --scheme" ;;
     restore) options="--replace --as" ;;
     diff) options="--json --family --scheme" ;;
+    copy-device) options="--family --scheme --from-family --from-scheme --dry-run" ;;
     sfdp) options="--id --json" ;;
     copy) options="--from --to" ;;
     server) options="--host --port --database --schema --user --sslmode --sslrootcert --json" ;;
@@ -69,7 +78,7 @@ _gfpdb()
         return
     fi
     case $command in
-    show | export | history) _gfpdb_names ;;
+    show | export | history | copy-device) _gfpdb_names ;;
     server)
         ((COMP_CWORD == 2)) && mapfile -t COMPREPLY < <(compgen -W "sql init status" -- "$current")
         ((COMP_CWORD > 2)) && mapfile -t COMPREPLY < <(compgen -d -- "$current")

@@ -4,6 +4,7 @@
 #include "cli_program.h"
 #include "commands/check_command.h"
 #include "commands/copy_command.h"
+#include "commands/copy_device_command.h"
 #include "commands/diff_command.h"
 #include "commands/export_command.h"
 #include "commands/history_command.h"
@@ -28,6 +29,7 @@ CLI_PROGRAM make_program()
     program.commands.push_back(std::make_unique<CLI_HISTORY_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_RESTORE_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_DIFF_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_COPY_DEVICE_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_SFDP_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_COPY_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_SERVER_COMMAND>());

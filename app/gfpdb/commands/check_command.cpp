@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "commands/check_command.h"
 
+#include "commands/check_read_outs.h"
+
 #include "cli_find.h"
 #include "cli_json.h"
+#include "cli_sfdp.h"
 
 #include <algorithm>
 
@@ -75,11 +78,19 @@ void CLI_CHECK_COMMAND::add_options(QCommandLineParser& parser) const
 {
     parser.addOption({QLatin1String(OPTION_REBUILD_KEYS), QStringLiteral("First repair the keys of records that no "
                                                                          "search finds.")});
+    parser.addOption({QLatin1String(CLI_OPTION_SFDP),
+                      QStringLiteral("Compare the built-in parts with the SFDP read-outs (*.bin) in this folder "
+                                     "instead."),
+                      QStringLiteral("folder")});
     cli_add_json_option(parser);
 }
 
 int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
 {
+    if (call.has(CLI_OPTION_SFDP) && call.has(OPTION_REBUILD_KEYS))
+        return call.wrong_usage("--rebuild-keys and --sfdp cannot be used together.");
+    if (call.has(CLI_OPTION_SFDP))
+        return cli_check_read_outs(call);
     const std::string problem = call.database.get_read_problem();
     if (!problem.empty())
         return call.database_failed(problem);

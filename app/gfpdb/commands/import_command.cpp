@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "commands/import_command.h"
 
+#include "cli_new_device.h"
+#include "cli_sfdp.h"
+
 namespace {
 
-constexpr const char* OPTION_REPLACE = "replace";
-constexpr const char* OPTION_DRY_RUN = "dry-run";
 constexpr const char* OPTION_UNCHECKED = "unchecked";
-constexpr const char* OPTION_CSV = "csv";
 
 std::string summary_of(const GFPDB_IMPORT_PLAN& plan, const char* verb, const std::string& directory)
 {
@@ -15,31 +15,45 @@ std::string summary_of(const GFPDB_IMPORT_PLAN& plan, const char* verb, const st
            " unchanged in " + directory + '\n';
 }
 
-} // namespace
-
-void CLI_IMPORT_COMMAND::add_options(QCommandLineParser& parser) const
+// What is wrong with options that do not go together; empty when nothing is.
+std::string problem_of_options(const CLI_CALL& call)
 {
-    parser.addOption(
-        {QLatin1String(OPTION_REPLACE), QStringLiteral("Replace records that exist with different content; "
-                                                       "their former states go into the history.")});
-    parser.addOption(
-        {QLatin1String(OPTION_DRY_RUN), QStringLiteral("Show what would happen, without changing anything.")});
-    parser.addOption({QLatin1String(OPTION_UNCHECKED), QStringLiteral("Accept values that the rules refuse. Names are "
-                                                                      "still checked.")});
-    parser.addOption({QLatin1String(OPTION_CSV), QStringLiteral("Read the files as comma-separated values, whatever "
-                                                                "their names.")});
-    cli_add_place_options(parser, "Give all imported records this");
+    const bool is_sfdp = call.has(CLI_OPTION_SFDP);
+    if (!is_sfdp && call.argument_count() == 0)
+        return "An argument is missing: gfpdb import FILE...";
+    if (is_sfdp && call.argument_count() > 0)
+        return "--sfdp makes one device of its file: no other file can be imported with it.";
+    for (const char* const option :
+         {CLI_OPTION_ID, CLI_OPTION_NAME, CLI_OPTION_VOLTAGE, CLI_OPTION_SET, CLI_OPTION_JSON}) {
+        if (!is_sfdp && call.has(option))
+            return std::string("--") + option + " needs --sfdp.";
+    }
+    for (const char* const option : {OPTION_UNCHECKED, CLI_OPTION_CSV}) {
+        if (is_sfdp && call.has(option))
+            return std::string("--") + option + " and --sfdp cannot be used together.";
+    }
+    return std::string();
 }
 
-int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
+int import_read_out(const CLI_CALL& call)
+{
+    CLI_CHIP chip;
+    chip.origin = call.value(CLI_OPTION_SFDP);
+    if (!cli_read_id(call, chip.id))
+        return CLI_EXIT_USAGE;
+    chip.sfdp = cli_read_sfdp(call, chip.origin);
+    return chip.sfdp ? cli_propose_device(call, chip, false, true) : int(CLI_EXIT_BAD_FILE);
+}
+
+int import_files(const CLI_CALL& call)
 {
     const std::string problem = call.database.get_write_problem();
     if (!problem.empty())
         return call.database_failed(problem);
     const GFPDB_RECORD_RULES rules =
         call.has(OPTION_UNCHECKED) ? GFPDB_RECORD_RULES::NAMES : GFPDB_RECORD_RULES::IMPORTED;
-    const GFPDB_READ_OPTIONS options = {call.has(OPTION_CSV), rules, call.family(), call.scheme()};
-    GFPDB_IMPORT_PLAN plan(call.database, call.has(OPTION_REPLACE), rules);
+    const GFPDB_READ_OPTIONS options = {call.has(CLI_OPTION_CSV), rules, call.family(), call.scheme()};
+    GFPDB_IMPORT_PLAN plan(call.database, call.has(CLI_OPTION_REPLACE), rules);
     std::vector<std::pair<std::string, GFPDB_FINDING>> warnings;
     bool good = true;
     for (int at = 0; at < call.argument_count(); ++at) {
@@ -58,7 +72,7 @@ int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
     }
     for (const auto& [path, warning] : warnings)
         call.output.finding(path, warning);
-    if (call.has(OPTION_DRY_RUN)) {
+    if (call.has(CLI_OPTION_DRY_RUN)) {
         call.output.print(summary_of(plan, "Would import", call.database.get_directory()));
         return CLI_EXIT_OK;
     }
@@ -69,4 +83,31 @@ int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
     call.output.finish_progress();
     call.output.print(summary_of(plan, "Imported", call.database.get_directory()));
     return CLI_EXIT_OK;
+}
+
+} // namespace
+
+void CLI_IMPORT_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    cli_add_store_options(parser);
+    parser.addOption({QLatin1String(OPTION_UNCHECKED), QStringLiteral("Accept values that the rules refuse. Names are "
+                                                                      "still checked.")});
+    parser.addOption(
+        {QLatin1String(CLI_OPTION_CSV), QStringLiteral("Read the files as comma-separated values, whatever "
+                                                       "their names.")});
+    cli_add_place_options(parser, "Give all imported records this");
+    parser.addOption({QLatin1String(CLI_OPTION_SFDP),
+                      QStringLiteral("Make a device of an SFDP read-out: raw bytes as command 5A reads them."),
+                      QStringLiteral("file")});
+    cli_add_id_option(parser);
+    cli_add_value_options(parser);
+    cli_add_json_option(parser);
+}
+
+int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
+{
+    const std::string wrong = problem_of_options(call);
+    if (!wrong.empty())
+        return call.wrong_usage(wrong);
+    return call.has(CLI_OPTION_SFDP) ? import_read_out(call) : import_files(call);
 }

@@ -17,8 +17,8 @@
 
 namespace {
 
-const QStringList COMMANDS = {"list",    "show", "export", "import", "check", "history",
-                              "restore", "diff", "sfdp",   "copy",   "server"};
+const QStringList COMMANDS = {"list",    "show", "export",      "import", "check", "history",
+                              "restore", "diff", "copy-device", "sfdp",   "copy",  "server"};
 
 QByteArray run_on_terminal(const QStringList& arguments)
 {
@@ -52,17 +52,18 @@ private slots:
                      QByteArray("Usage: gfpdb COMMAND [options] [arguments]\n\n"
                                 "Manages the flash database of the programmer: its devices and flow templates.\n\n"
                                 "Commands:\n"
-                                "  list      List devices, templates and built-in devices\n"
-                                "  show      Show a record with its flows\n"
-                                "  export    Write records to a file\n"
-                                "  import    Read records from files, all or none\n"
-                                "  check     Check every record and the database\n"
-                                "  history   List former states of records\n"
-                                "  restore   Restore a former state\n"
-                                "  diff      Compare two records\n"
-                                "  sfdp      Show what a chip says of itself (SFDP)\n"
-                                "  copy      Copy the whole database to another directory or server\n"
-                                "  server    Set up a directory whose database is on a PostgreSQL server\n\n"
+                                "  list         List devices, templates and built-in devices\n"
+                                "  show         Show a record with its flows\n"
+                                "  export       Write records to a file\n"
+                                "  import       Read records from files, all or none\n"
+                                "  check        Check every record and the database\n"
+                                "  history      List former states of records\n"
+                                "  restore      Restore a former state\n"
+                                "  diff         Compare two records\n"
+                                "  copy-device  Make a new device of another one\n"
+                                "  sfdp         Show what a chip says of itself (SFDP)\n"
+                                "  copy         Copy the whole database to another directory or server\n"
+                                "  server       Set up a directory whose database is on a PostgreSQL server\n\n"
                                 "\"gfpdb COMMAND --help\" explains a command, \"gfpdb --version\" prints the "
                                 "version.\n"));
         }
@@ -80,12 +81,16 @@ private slots:
              {"export", "[options] [NAME...]\nWrite records to a file.\n",
               QStringList{"-o, --output", "--csv", "--spreadsheet", "--family", "--scheme"}},
              {"import", "[options] FILE...\nRead records from files, all or none.\n",
-              QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme"}},
-             {"check", "[options]\nCheck every record and the database.\n", QStringList{"--rebuild-keys", "--json"}},
+              QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme", "--sfdp", "--id",
+                          "--name", "--voltage", "--set", "--json"}},
+             {"check", "[options]\nCheck every record and the database.\n",
+              QStringList{"--rebuild-keys", "--sfdp", "--json"}},
              {"history", "[options] [NAME]\nList former states of records.\n",
               QStringList{"--prune", "--older-than", "--keep", "--force", "--json", "--family", "--scheme"}},
              {"restore", "[options] ID\nRestore a former state.\n", QStringList{"--replace", "--as"}},
              {"diff", "[options] LEFT RIGHT\nCompare two records.\n", QStringList{"--json", "--family", "--scheme"}},
+             {"copy-device", "[options] SOURCE NAME\nMake a new device of another one.\n",
+              QStringList{"--family", "--scheme", "--from-family", "--from-scheme", "--dry-run"}},
              {"sfdp", "[options] FILE\nShow what a chip says of itself (SFDP).\n", QStringList{"--id", "--json"}},
              {"copy",
               "[options] --from DIRECTORY --to DIRECTORY\nCopy the whole database to another directory or server.\n",
