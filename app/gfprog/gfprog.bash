@@ -17,7 +17,7 @@ _gfprog_names()
 _gfprog()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
-    local commands="detect program erase blank-check verify read run trace emulate ports help"
+    local commands="detect learn program erase blank-check verify read run trace emulate ports help"
     local common="--dir --verbose --help" target="--on --device --family --scheme --json" options="" ports=""
     local range="--offset --length --trace" operations="initialization erase blank-check program verify examine"
     COMPREPLY=()
@@ -30,7 +30,7 @@ _gfprog()
         mapfile -t COMPREPLY < <(compgen -d -- "$current")
         return
         ;;
-    -o | --output | --file | --trace)
+    -o | --output | --file | --trace | --save-sfdp)
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return
         ;;
@@ -43,12 +43,15 @@ _gfprog()
         _gfprog_names
         return
         ;;
-    --family | --scheme | --offset | --length | --listen)
+    --family | --scheme | --from-family | --from-scheme | --offset | --length | --listen | --name | --voltage | --set)
         return
         ;;
     esac
     case $command in
     detect) options="$target" ;;
+    learn)
+        options="$target --from-family --from-scheme --name --voltage --set --replace --dry-run --save-sfdp --force"
+        ;;
     program) options="$target $range --no-erase --blank-check --no-verify" ;;
     erase | blank-check | verify) options="$target $range" ;;
     read) options="$target $range --force" ;;

@@ -3,6 +3,9 @@
 
 #include "gfpdb/gfpdb_text.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 #include <charconv>
 
 namespace {
@@ -20,7 +23,7 @@ std::string hex(std::int64_t value, int digits)
 
 } // namespace
 
-void gfprog_add_target_options(QCommandLineParser& parser)
+void gfprog_add_chip_options(QCommandLineParser& parser)
 {
     parser.addOption(option(GFPROG_OPTION_ON,
                             "The connection: emulated, emulated:FILE, tcp:HOST:PORT, serial:DEVICE or "
@@ -29,6 +32,11 @@ void gfprog_add_target_options(QCommandLineParser& parser)
     parser.addOption(option(GFPROG_OPTION_DEVICE,
                             "The device: one of the directory, or a built-in one. By default the one that is detected.",
                             "name"));
+}
+
+void gfprog_add_target_options(QCommandLineParser& parser)
+{
+    gfprog_add_chip_options(parser);
     cli_add_place_options(parser, "The device of this");
     cli_add_json_option(parser);
 }
@@ -45,6 +53,12 @@ void gfprog_add_run_options(QCommandLineParser& parser)
 void gfprog_add_force_option(QCommandLineParser& parser)
 {
     parser.addOption({QLatin1String(GFPROG_OPTION_FORCE), QStringLiteral("Replace a file that already exists.")});
+}
+
+bool gfprog_is_one_file(const std::string& one, const std::string& other)
+{
+    const QFileInfo file(QFile::decodeName(one.c_str()));
+    return !one.empty() && (one == other || (file.exists() && file == QFileInfo(QFile::decodeName(other.c_str()))));
 }
 
 std::optional<std::int64_t> gfprog_bytes(const std::string& text)

@@ -27,11 +27,16 @@ constexpr const char* GFPROG_OPTION_TRACE = "trace";
 constexpr const char* GFPROG_OPTION_FILE = "file";
 constexpr const char* GFPROG_OPTION_FORCE = "force";
 
+// --on and --device.
+void gfprog_add_chip_options(QCommandLineParser& parser);
 // --on, --device, --family, --scheme and --json: all that have to do with a chip.
 void gfprog_add_target_options(QCommandLineParser& parser);
 // --offset, --length and --trace: all that run a flow.
 void gfprog_add_run_options(QCommandLineParser& parser);
 void gfprog_add_force_option(QCommandLineParser& parser);
+
+// True when both paths, in local 8-bit, are of one file; false for an empty path.
+bool gfprog_is_one_file(const std::string& one, const std::string& other);
 
 // A number of bytes, as "65536" or "0x10000"; none when `text` is not one.
 std::optional<std::int64_t> gfprog_bytes(const std::string& text);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gfprog_target.h"
 
-#include "cli_find.h"
 #include "cli_records.h"
 
 #include "gfpe/gfpe_detect.h"
@@ -95,14 +94,16 @@ bool GFPROG_TARGET::is_quad(const CLI_CALL& call) const
     return call.scheme().value_or(record.row.scheme) == PGMIO_ACTIVE_SERIAL_X4;
 }
 
-std::optional<GFPROG_TARGET> gfprog_open_connection(const CLI_CALL& call, int& exit_code)
+std::optional<GFPROG_TARGET> gfprog_open_connection(const CLI_CALL& call, int& exit_code,
+                                                    const CLI_PLACE_OPTIONS& options)
 {
     const std::optional<GFPE_CONNECTION> connection = connection_of(call, exit_code);
     if (!connection)
         return std::nullopt;
     GFPROG_TARGET target;
     if (call.has(GFPROG_OPTION_DEVICE)) {
-        const std::optional<GFPDB_RECORD> record = cli_find_one(call, call.value(GFPROG_OPTION_DEVICE), exit_code);
+        const std::optional<GFPDB_RECORD> record =
+            cli_find_one(call, call.value(GFPROG_OPTION_DEVICE), exit_code, options);
         if (!record)
             return std::nullopt;
         target.record = *record;

@@ -5,6 +5,8 @@
 
 #include "gfprog_options.h"
 
+#include "cli_find.h"
+
 #include "gfpe/gfpe_connection.h"
 
 #include <memory>
@@ -31,8 +33,9 @@ struct GFPROG_TARGET
 // Opens the connection of the options and finds their device, or detects it. None: a message was printed, and
 // `exit_code` says what went wrong.
 std::optional<GFPROG_TARGET> gfprog_open_target(const CLI_CALL& call, int& exit_code);
-// The same without a device, unless the chip is emulated.
-std::optional<GFPROG_TARGET> gfprog_open_connection(const CLI_CALL& call, int& exit_code);
+// The same without a device, unless the chip is emulated: then `options` select among devices of one name.
+std::optional<GFPROG_TARGET> gfprog_open_connection(const CLI_CALL& call, int& exit_code,
+                                                    const CLI_PLACE_OPTIONS& options = {});
 
 // The devices that match an ID, without their flows.
 struct GFPROG_DETECTED

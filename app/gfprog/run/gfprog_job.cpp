@@ -11,9 +11,6 @@
 
 #include "gfpdb/gfpdb_text.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 #include <iterator>
 
 namespace {
@@ -171,17 +168,13 @@ bool SESSION::refuse(std::vector<GFPE_PROBLEM> problems)
 // A file that is read must not be lost to what is written.
 bool SESSION::keeps_files_apart()
 {
-    const auto is_one = [](const std::string& one, const std::string& other) {
-        const QFileInfo file(QFile::decodeName(one.c_str()));
-        return !one.empty() && (one == other || (file.exists() && file == QFileInfo(QFile::decodeName(other.c_str()))));
-    };
     std::string problem;
     const auto connection = gfpe_parse_connection(m_call.value(GFPROG_OPTION_ON), problem);
     const std::string files[] = {m_job.image_file, m_job.output_file, m_job.trace_file,
                                  connection ? connection->file : std::string()};
     for (std::size_t at = 0; at < std::size(files); ++at) {
         for (std::size_t other = at + 1; other < std::size(files); ++other) {
-            if (is_one(files[at], files[other]))
+            if (gfprog_is_one_file(files[at], files[other]))
                 return fail(CLI_EXIT_USAGE, gfpdb_quoted(files[at]) + " cannot be read and written, or written twice.");
         }
     }

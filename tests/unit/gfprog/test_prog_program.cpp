@@ -6,8 +6,8 @@
 
 namespace {
 
-const QStringList COMMANDS = {"detect", "program", "erase", "blank-check", "verify",
-                              "read",   "run",     "trace", "emulate",     "ports"};
+const QStringList COMMANDS = {"detect", "learn", "program", "erase",   "blank-check", "verify",
+                              "read",   "run",   "trace",   "emulate", "ports"};
 
 } // namespace
 
@@ -35,6 +35,7 @@ private slots:
                        "Programs serial flash devices with the flows of the flash database.\n\n"
                        "Commands:\n"
                        "  detect       List the devices that the connected chip can be\n"
+                       "  learn        Make a device of what the connected chip says of itself\n"
                        "  program      Erase, program and verify what a file covers\n"
                        "  erase        Erase the device, or a range of it\n"
                        "  blank-check  Check that the device, or a range of it, is blank\n"
@@ -54,6 +55,9 @@ private slots:
         const QStringList any = range + QStringList{"--file", "-o, --output", "--force"};
         rows<QString, QStringList>(
             {{"detect", "", target},
+             {"learn", "",
+              target + QStringList{"--from-family", "--from-scheme", "--name", "--voltage", "--set", "--replace",
+                                   "--dry-run", "--save-sfdp", "--force"}},
              {"program", " FILE", range + QStringList{"--no-erase", "--blank-check", "--no-verify"}},
              {"erase", "", range},
              {"blank-check", "", range},
