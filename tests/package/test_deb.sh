@@ -22,7 +22,7 @@ done
 field() { dpkg-deb --field "$1" "$2"; }
 depends_on() { field "$1" Depends | tr ',' '\n' | sed 's/^ *//' | grep -q "^$2\( \|$\)"; }
 step "what the packages need"
-for need in libqt5sql5-sqlite libqt5widgets5 libqt5gui5 libqt5core5a libqt5sql5 libstdc++6 libc6; do
+for need in libqt5sql5-sqlite libpq5 libqt5widgets5 libqt5gui5 libqt5core5a libqt5sql5 libstdc++6 libc6; do
     depends_on "$RUNTIME" "$need" || fail "gfpq does not depend on $need, but on $(field "$RUNTIME" Depends)"
 done
 for need in gfpq qtbase5-dev; do

@@ -78,7 +78,7 @@ void GFPDB_EMBEDDED_MGR::reload()
     if (directory == gfpdb_default_dir())
         gfpdb_create_dir(directory);
     m_other_store.reset();
-    if (!m_store || m_store->get_directory() != directory)
+    if (!m_store || m_store->get_directory() != directory || !gfpdb_is_store_of(*m_store, directory))
         m_store = gfpdb_make_store(directory);
     m_store->reload();
     m_seen.clear();

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 // What a store of devices and templates promises, whatever keeps them: transactions, names, revisions, a history. The
-// embedded one is a SQLite file in the database directory (store/sqlite).
+// embedded one is a SQLite file in the database directory (store/sqlite); a directory may name a PostgreSQL server
+// instead (store/server).
 //
 // Every public change is one transaction: it happened whole, or not at all, also when the process is killed in between;
 // false leaves what is stored as it was and puts the reason into get_last_error(). What a change replaces or removes
@@ -170,6 +171,8 @@ protected:
 
 // The store of the devices in `directory`, which ends in "/".
 std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory);
+// False when another kind of store would be made for `directory` now: it names a server since, or does not any more.
+bool gfpdb_is_store_of(const GFPDB_STORE& store, const std::string& directory);
 
 // Hears how many records of how many are done while a store upgrades its database, which any call of it may do; none at
 // first. Of all stores of the process.

@@ -2,7 +2,7 @@
 
 // The file gfpdb-server.ini. Others may write the directory, so the file is believed no further than it must be: it
 // has these settings and no others, of these forms, and none that would have libpq read another file than certificates.
-#include "gfpdb/gfpdb_server.h"
+#include "store/server/gfpdb_server_file.h"
 
 #include "base/gfpdb_text.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr std::size_t LARGEST_FILE = 64 * 1024;
+constexpr std::size_t LARGEST_FILE = 65536;
 constexpr std::size_t LONGEST_VALUE = 1024;
 constexpr std::size_t MOST_HOSTS = 16;
 // PostgreSQL cuts off longer names; a schema's name is followed by "_reader" or the like.
@@ -81,7 +81,8 @@ std::string trimmed(const QByteArray& text)
 std::vector<std::string> list_of(const std::string& value)
 {
     std::vector<std::string> items;
-    for (const QByteArray& item : QByteArray::fromStdString(value).split(','))
+    const QList<QByteArray> parts = QByteArray::fromStdString(value).split(',');
+    for (const QByteArray& item : parts)
         items.push_back(trimmed(item));
     return items;
 }
@@ -188,7 +189,8 @@ bool parse(QByteArray content, GFPDB_SERVER& server, std::string& why)
         content.remove(0, BYTE_ORDER_MARK.size());
     std::vector<std::string> seen;
     bool in_section = false;
-    for (const QByteArray& raw : content.split('\n')) {
+    const QList<QByteArray> lines = content.split('\n');
+    for (const QByteArray& raw : lines) {
         const QByteArray line = raw.trimmed();
         if (line.isEmpty() || line.startsWith('#') || line.startsWith(';'))
             continue;
@@ -253,6 +255,12 @@ bool is_there(const std::string& path)
 }
 
 } // namespace
+
+bool gfpdb_is_same_server(const GFPDB_SERVER& left, const GFPDB_SERVER& right)
+{
+    return std::all_of(std::begin(SETTINGS), std::end(SETTINGS),
+                       [&](const SETTING& setting) { return setting.get(left) == setting.get(right); });
+}
 
 bool gfpdb_check_server(const GFPDB_SERVER& server, std::string& error)
 {

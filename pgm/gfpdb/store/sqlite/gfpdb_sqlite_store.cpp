@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
+#include "store/gfpdb_refusals.h"
 #include "store/sqlite/gfpdb_old_flows.h"
 #include "store/sqlite/gfpdb_sqlite_sql.h"
 
@@ -42,15 +43,6 @@ QVariantList history_values(bool is_template, const std::string& name, const cha
     return {is_template ? 1 : 0, QLatin1String(reason), now(), here(), key_of(name)};
 }
 
-constexpr char A_DEVICE[] = "device";
-constexpr char A_TEMPLATE[] = "stored template";
-
-std::string in_the_way(const char* what, const std::string& stored, const std::string& name)
-{
-    return std::string("There is a ") + what + " called " + gfpdb_quoted(stored) + " already." +
-           gfpdb_case_note(stored, name);
-}
-
 // As text_at(), on one line.
 std::string line_at(const QSqlQuery& query, int column)
 {
@@ -79,17 +71,6 @@ GFPDB_HISTORY_ENTRY GFPDB_SQLITE_STORE::history_at(const QSqlQuery& query) const
     GFPDB_HISTORY_ENTRY entry = change_at(query);
     entry.row = full_row(query, HISTORY_COLUMNS);
     return entry;
-}
-
-std::unique_ptr<GFPDB_STORE> gfpdb_make_store(const std::string& directory)
-{
-    return std::make_unique<GFPDB_SQLITE_STORE>(directory);
-}
-
-std::function<void(int, int)>& gfpdb_upgrade_progress()
-{
-    static std::function<void(int, int)> progress;
-    return progress;
 }
 
 bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values)
@@ -407,7 +388,7 @@ bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::
 {
     const std::optional<GFPDB_HISTORY_ENTRY> entry = find_history(id);
     if (!entry)
-        return get_last_error().empty() ? fail("There is no state " + std::to_string(id) + " in the history.") : false;
+        return get_last_error().empty() ? fail(gfpdb_no_state(id)) : false;
     GFPDB_ROW row = entry->row;
     row.revision = gfpdb_new_revision();
     if (!new_name.empty())
@@ -440,10 +421,10 @@ bool GFPDB_SQLITE_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE h
 }
 
 // Runs `query`; false, with the reason, when it finds the name of a record that `name` cannot be used beside.
-bool GFPDB_SQLITE_STORE::finds_none(QSqlQuery& query, const char* what, const std::string& name)
+bool GFPDB_SQLITE_STORE::finds_none(QSqlQuery& query, bool is_template, const std::string& name)
 {
     if (next_row(query))
-        return fail(in_the_way(what, text_at(query, 0), name));
+        return fail(gfpdb_in_the_way(is_template, text_at(query, 0), name));
     return !query.lastError().isValid();
 }
 
@@ -485,32 +466,31 @@ bool GFPDB_SQLITE_STORE::check_free_names(const GFPDB_ROW& row)
                                   {key_of(row.template_name)}) &&
                           next_row(query);
     if (is_found && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
-        return fail(in_the_way(A_TEMPLATE, text_at(query, 1), row.template_name));
+        return fail(gfpdb_in_the_way(true, text_at(query, 1), row.template_name));
     return !query.lastError().isValid() && check_no_device(row.template_name);
 }
 
 bool GFPDB_SQLITE_STORE::check_no_template(const std::string& name)
 {
     QSqlQuery query;
-    return prepare(query, TEMPLATE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_TEMPLATE, name);
+    return prepare(query, TEMPLATE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, true, name);
 }
 
 bool GFPDB_SQLITE_STORE::check_no_device(const std::string& name)
 {
     QSqlQuery query;
-    return prepare(query, ANY_DEVICE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, A_DEVICE, name);
+    return prepare(query, ANY_DEVICE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, false, name);
 }
 
 bool GFPDB_SQLITE_STORE::check_different_names(const GFPDB_ROW& row)
 {
-    return gfpdb_name_key(row.template_name) != gfpdb_name_key(row.name) ||
-           fail("The device and its template need different names: both are called " + gfpdb_quoted(row.name) + ".");
+    return gfpdb_name_key(row.template_name) != gfpdb_name_key(row.name) || fail(gfpdb_same_names(row));
 }
 
 bool GFPDB_SQLITE_STORE::check_no_such_device(int family, int scheme, const std::string& name)
 {
     QSqlQuery query;
-    return prepare(query, DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)}) && finds_none(query, A_DEVICE, name);
+    return prepare(query, DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)}) && finds_none(query, false, name);
 }
 
 bool GFPDB_SQLITE_STORE::insert_device(const GFPDB_ROW& row)

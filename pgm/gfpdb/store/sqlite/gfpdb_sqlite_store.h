@@ -99,7 +99,7 @@ private:
     bool replace_template(const GFPDB_ROW& row, const std::string* seen);
     bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
     bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
-    bool finds_none(QSqlQuery& query, const char* what, const std::string& name);
+    bool finds_none(QSqlQuery& query, bool is_template, const std::string& name);
     std::string history_statement(const std::string& columns, const char* which) const;
     GFPDB_ROW full_row(const QSqlQuery& query, int first) const;
     GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query) const;

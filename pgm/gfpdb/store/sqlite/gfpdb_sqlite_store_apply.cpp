@@ -3,6 +3,7 @@
 // The part of GFPDB_SQLITE_STORE that deals with saving and removing one device, which belong together in one Apply:
 // what a removal takes is replaced by the save that follows, or put back.
 #include "base/gfpdb_text.h"
+#include "store/gfpdb_refusals.h"
 #include "store/sqlite/gfpdb_sqlite_sql.h"
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
@@ -104,9 +105,8 @@ bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
     };
     const bool is_ready = m_file.prepare_write();
     if (is_ready && m_file.database_id() != taken.database_id)
-        return fail("The database in " + get_directory() + " is another one now.");
-    return (is_ready && m_file.change(work)) ||
-           fail(get_last_error() + " It is state " + std::to_string(taken.history_id) + " of the history.");
+        return fail(gfpdb_another_database(get_directory()));
+    return (is_ready && m_file.change(work)) || fail(get_last_error() + gfpdb_kept_in_history(taken));
 }
 
 // The taken record in the history, by its number and, should that have been given to another one, its revision.
@@ -127,7 +127,7 @@ bool GFPDB_SQLITE_STORE::insert_taken(const GFPDB_TAKEN& taken)
                  {key_of(taken.name), qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}) ||
         !run(query))
         return false;
-    return query.numRowsAffected() == 1 || fail("It is not in the history any more.");
+    return query.numRowsAffected() == 1 || fail(GFPDB_NOT_IN_HISTORY);
 }
 
 bool GFPDB_SQLITE_STORE::mark_taken(const GFPDB_TAKEN& taken, const char* reason)
