@@ -78,19 +78,6 @@ const char* make_and_store(const CLI_CALL& call, const GFPDB_NEW_DEVICE& device,
     return cli_store_device(call, record, origin, call.has(CLI_OPTION_REPLACE), exit_code);
 }
 
-// What keeps a device from being stored. One that exists may have the name of a built-in device.
-std::vector<GFPDB_FINDING> problems_of(const CLI_CALL& call, const GFPDB_RECORD& record)
-{
-    std::vector<GFPDB_FINDING> problems;
-    const bool exists = call.database.load(record).has_value();
-    for (const GFPDB_FINDING& finding : gfpdb_check_record(call.database.get_manager(), record)) {
-        const bool is_name_in_use = finding.seriousness == GFPDB_SERIOUSNESS::BUILTIN_NAME && !exists;
-        if (finding.seriousness == GFPDB_SERIOUSNESS::PROBLEM || is_name_in_use)
-            problems.push_back(finding);
-    }
-    return problems;
-}
-
 } // namespace
 
 void cli_add_value_options(QCommandLineParser& parser)
@@ -168,7 +155,10 @@ const char* cli_store_device(const CLI_CALL& call, const GFPDB_RECORD& record, c
     GFPDB_RECORD_FILE file;
     file.path = origin;
     file.records = {record};
-    file.problems = problems_of(call, record);
+    for (const GFPDB_FINDING& finding : gfpdb_check_record(call.database.get_manager(), record)) {
+        if (finding.seriousness != GFPDB_SERIOUSNESS::WARNING)
+            file.problems.push_back(finding);
+    }
     GFPDB_IMPORT_PLAN plan(call.database, may_replace, GFPDB_RECORD_RULES::STORED);
     if (file.problems.empty())
         plan.add(file);

@@ -262,7 +262,7 @@ private slots:
     void the_catalogue_is_held_against_read_outs()
     {
         copy_read_outs();
-        write_file(m_place->path("outs/ids.tsv"), "jedec_id\tfile\nC2 20 19 (a remark)\tMX25L25635E.bin\n"
+        write_file(m_place->path("outs/ids.tsv"), "jedec_id\tfile\r\nC2 20 19 (a remark)\tMX25L25635E.bin\r\n"
                                                   "EF 40 18\tW25Q128BV-OLD.bin\nEF 40 18\tZD25Q128C.bin\n"
                                                   "C2 84 37\tMX25UW6345G.bin\n");
         write_file(m_place->path("outs/other.tsv"), "file\nx\n");
@@ -319,6 +319,8 @@ private slots:
                                                                            {"parts", QJsonArray{part}}}}},
                                       {"differences", 0},
                                       {"parts_without_read_out", 145}}));
+        QVERIFY(QFile::rename(at("outs/MX25L3233F.bin"), at("outs/mx25l3233f.bin")));
+        QVERIFY(tool({"check", "--sfdp", at("outs")}).out.startsWith("mx25l3233f.bin: MX25L3233F: no difference\n"));
     }
 
     void a_read_out_that_cannot_be_compared_is_an_error_data()
