@@ -244,6 +244,18 @@ shot_programmer-data() {
     shot_programmer programmer-data F5 alt+3
 }
 
+# shot_dialog NAME KEY: the dialog that this key of the window opens.
+shot_dialog() {
+    open_program --family 1 --scheme 7 --device MX25L25645G
+    local window=$WINDOW
+    press "$2"
+    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    picture "$1"
+}
+
+shot_new-device() { shot_dialog new-device ctrl+n; }
+shot_duplicate() { shot_dialog duplicate ctrl+d; }
+
 # The database is gone when the device is applied.
 shot_message() {
     open_program "${DEVICE[@]}"
@@ -294,7 +306,7 @@ shot_language-ja() {
 }
 
 readonly PICTURES=(device-page page-initialization page-program page-erase page-verify page-termination template-editor
-    host-window programmer-trial programmer-trace programmer-data message dark-device-page dark-erase scale-150 scale-200 language-ja)
+    host-window programmer-trial programmer-trace programmer-data new-device duplicate message dark-device-page dark-erase scale-150 scale-200 language-ja)
 
 main() {
     rm -rf "$WORK"

@@ -100,6 +100,7 @@ QWidget* DEVICE_PANEL::create_problem_row()
 void DEVICE_PANEL::create_contents()
 {
     auto* rows = new QFormLayout;
+    rows->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_family_combo = add_combo(rows, tr("Device &family:"), QStringLiteral("m_family_combo"));
     m_family_combo->setEnabled(m_options.enable_family);
     connect(m_family_combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &DEVICE_PANEL::choose_family);

@@ -66,6 +66,7 @@ NEW_DEVICE_DIALOG::NEW_DEVICE_DIALOG(QWidget* parent, NEW_DEVICE_DRAFT& draft, c
     take_place();
     const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
     resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    splitter->setSizes({width() * VALUES_SHARE, width() * REMARKS_SHARE});
     m_values->go_to(m_draft.first_wrong_row());
 }
 

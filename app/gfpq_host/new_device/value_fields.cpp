@@ -20,6 +20,9 @@ enum COLUMN
     SOURCE,
 };
 
+// What an editor shows at least.
+constexpr int EDITOR_CHARACTERS = 14;
+
 // Names of the widgets begin with these; the key follows.
 const QString EDITOR_NAME = QStringLiteral("value_");
 const QString SOURCE_NAME = QStringLiteral("source_");
@@ -37,6 +40,7 @@ VALUE_FIELDS::VALUE_FIELDS(NEW_DEVICE_DRAFT& draft) : m_draft(draft)
 void VALUE_FIELDS::create_fields()
 {
     auto* grid = new QGridLayout(this);
+    grid->setColumnStretch(TITLE, 1);
     grid->setColumnStretch(EDITOR, 1);
     for (const DRAFT_ROW& row : m_draft.rows())
         create_field(row, grid);
@@ -50,8 +54,10 @@ void VALUE_FIELDS::create_field(const DRAFT_ROW& row, QGridLayout* grid)
     QWidget* editor = create_editor(row, field);
     editor->setObjectName(EDITOR_NAME + row.key);
     editor->setAccessibleName(row.title);
+    editor->setMinimumWidth(editor->fontMetrics().averageCharWidth() * EDITOR_CHARACTERS);
     auto* title = new QLabel(row.title);
     title->setTextFormat(Qt::PlainText);
+    title->setWordWrap(true);
     title->setBuddy(editor);
     field.source = new QLabel;
     field.source->setObjectName(SOURCE_NAME + row.key);

@@ -42,6 +42,7 @@ CONNECTION_PANEL::CONNECTION_PANEL()
     m_kind_combo->addItem(tr("Emulated chip"), GFPE_CONNECTION::EMULATED);
     m_kind_combo->addItem(tr("Network (serprog)"), GFPE_CONNECTION::TCP);
     m_kind_combo->addItem(tr("Serial line (serprog)"), GFPE_CONNECTION::SERIAL);
+    allow_narrow(m_kind_combo);
     auto* detect_button = new QPushButton(tr("De&tect"));
     detect_button->setObjectName(QStringLiteral("m_detect_button"));
 

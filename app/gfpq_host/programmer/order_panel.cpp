@@ -30,6 +30,7 @@ ORDER_PANEL::ORDER_PANEL() : m_extent_combo(new QComboBox)
     m_extent_combo->addItem(tr("What the file covers"), int(RUN_EXTENT::WHOLE_FILE));
     m_extent_combo->addItem(tr("The whole device"), int(RUN_EXTENT::WHOLE_DEVICE));
     m_extent_combo->addItem(tr("Address and length"), int(RUN_EXTENT::RANGE));
+    allow_narrow(m_extent_combo);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(create_checks());

@@ -48,6 +48,11 @@ QWidget* side_by_side(QWidget* first, QWidget* second)
     return row;
 }
 
+void allow_narrow(QComboBox* combo)
+{
+    combo->setMinimumWidth(combo->fontMetrics().averageCharWidth() * FIELD_CHARACTERS);
+}
+
 QComboBox* make_editable_combo()
 {
     auto* combo = new QComboBox;

@@ -18,5 +18,8 @@ void add_row(QFormLayout* form, const QString& label, QWidget* widget, const cha
 // `first` and `second` side by side; the first one takes the room.
 QWidget* side_by_side(QWidget* first, QWidget* second);
 
+// Lets `combo` get narrower than its texts where there is little room.
+void allow_narrow(QComboBox* combo);
+
 // A combo box in which the user also types; its texts do not widen the window.
 QComboBox* make_editable_combo();

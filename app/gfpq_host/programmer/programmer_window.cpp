@@ -112,7 +112,7 @@ QWidget* PROGRAMMER_WINDOW::create_entries()
     QScrollArea* area = in_scroll_area(entries);
     area->setObjectName(QStringLiteral("m_entries_area"));
     area->setMinimumWidth(LEAST_WIDTH);
-    m_entries_width = entries->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width();
+    m_entries_width = entries->sizeHint().width() + area->verticalScrollBar()->sizeHint().width();
     return area;
 }
 
@@ -145,6 +145,9 @@ void PROGRAMMER_WINDOW::create_results()
     m_results->addTab(m_trace_page, tr("Trace"));
     m_results->addTab(in_scroll_area(m_data_page), tr("Data"));
     m_results->setMinimumWidth(LEAST_WIDTH);
+    // On the smallest screens long titles are cut, and no page is out of sight.
+    m_results->setUsesScrollButtons(false);
+    m_results->setElideMode(Qt::ElideRight);
     for (int page = 0; page < m_results->count(); ++page) {
         const QKeySequence keys(Qt::ALT + Qt::Key_1 + page);
         auto* shortcut = new QShortcut(keys, this);

@@ -122,7 +122,7 @@ private slots:
              {"in use, in other letters", "mine", FAMILY,
               "There is a device called \"MINE\" for this family and configuration mode: choose another name."},
              {"built in", "MX25L25645G", FAMILY, "MX25L25645G"},
-             {"blank at its end", "NEW ", FAMILY, "blank"}});
+             {"space at its end", "NEW ", FAMILY, "space"}});
     }
 
     void names_are_those_that_the_database_takes()

@@ -9,7 +9,10 @@
 #include <QAction>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 
 class TEST_PROGRAMMER_WINDOW : public PROGRAMMER_TEST
@@ -162,6 +165,10 @@ private slots:
         window().resize(660, 350);
         QCoreApplication::processEvents();
         QCOMPARE(window().size(), QSize(660, 350));
+        // All pages can be chosen, and entries are scrolled downwards only.
+        auto& pages = *child<QTabWidget>("m_results").tabBar();
+        QVERIFY(pages.rect().contains(pages.tabRect(pages.count() - 1)));
+        QVERIFY(!child<QScrollArea>("m_entries_area").horizontalScrollBar()->isVisible());
         for (const char* button : {"m_trial_button", "m_start_button", "m_cancel_button"}) {
             const QWidget& widget = child<QWidget>(button);
             QVERIFY(window().rect().contains(QRect(widget.mapTo(&window(), QPoint()), widget.size())));
