@@ -150,8 +150,8 @@ std::string* GFPDB_EMBEDDED_MGR::seen_state(const GFPDB_STORE& store, const std:
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_device(const std::string& name)
 {
     const std::string place = device_place(name);
-    const std::string revision = m_store->get_device_revision(m_family, m_scheme, name);
-    GFPDB_EMBEDDED_FLASH* record = find_read(place, revision);
+    GFPDB_EMBEDDED_FLASH* record =
+        find_read(place, [&] { return m_store->get_device_revision(m_family, m_scheme, name); });
     if (record == nullptr) {
         const std::optional<GFPDB_ROW> row = m_store->find_device(m_family, m_scheme, name);
         record = row ? keep_read(place, *row, false) : nothing_read();
@@ -191,7 +191,7 @@ bool GFPDB_EMBEDDED_MGR::check_seen(GFPDB_STORE& store, const std::string& name)
 GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
 {
     const std::string place = template_place(name);
-    GFPDB_EMBEDDED_FLASH* record = find_read(place, m_store->get_template_revision(name));
+    GFPDB_EMBEDDED_FLASH* record = find_read(place, [&] { return m_store->get_template_revision(name); });
     if (record == nullptr) {
         const std::optional<GFPDB_ROW> row = m_store->find_template(name);
         record = row ? keep_read(place, *row, true) : nothing_read();
@@ -202,11 +202,12 @@ GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_template(const std::string& name)
 }
 
 // The record that was read from `place` of the current database, if it is still what is stored there, and as much the
-// user's to change as it was.
-GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_read(const std::string& place, const std::string& revision) const
+// user's to change as it was. What was not read before needs no question for its revision.
+GFPDB_EMBEDDED_FLASH* GFPDB_EMBEDDED_MGR::find_read(const std::string& place,
+                                                    const std::function<std::string()>& revision) const
 {
     GFPDB_EMBEDDED_FLASH* record = m_records.find_read(m_store->get_directory() + place);
-    const bool is_same = record != nullptr && record->get_revision() == revision && record->is_unchanged();
+    const bool is_same = record != nullptr && record->is_unchanged() && record->get_revision() == revision();
     return is_same && record->is_user_defined() != m_store->is_read_only() ? record : nullptr;
 }
 

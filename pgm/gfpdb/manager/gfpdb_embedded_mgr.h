@@ -8,6 +8,7 @@
 #include "rules/gfpdb_scheme_kind.h"
 #include "store/gfpdb_store.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -104,7 +105,7 @@ private:
     GFPDB_STORE& store_of(const std::string& directory);
     GFPDB_EMBEDDED_FLASH* find_device(const std::string& name);
     GFPDB_EMBEDDED_FLASH* find_template(const std::string& name);
-    GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::string& revision) const;
+    GFPDB_EMBEDDED_FLASH* find_read(const std::string& place, const std::function<std::string()>& revision) const;
     GFPDB_EMBEDDED_FLASH* keep_read(const std::string& place, const GFPDB_ROW& row, bool is_template);
     GFPDB_EMBEDDED_FLASH* nothing_read();
     std::vector<std::string> densities() const;
