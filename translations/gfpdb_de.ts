@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>Bausteine dieses Konfigurationsmodus haben diesen Wert nicht: Der Dialog lässt ihn weg.</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>Die Kopie in %1 kann nicht verglichen werden: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>Die Kopie in %1 ist nicht gleich %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>In %1 gibt es nichts zu kopieren.</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>einem unbekannten Tag</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>einem unbekannten Benutzer</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>Die gespeicherte Vorlage %1 wurde von %2 am %3 gespeichert, nachdem hier nach ihr gesucht wurde.</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>Der Baustein %1 wurde von %2 am %3 gespeichert, nachdem hier nach ihm gesucht wurde.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>Die gespeicherte Vorlage %1 wurde von %2 am %3 geändert, nachdem sie hier gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>Der Baustein %1 wurde von %2 am %3 geändert, nachdem er hier gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>Die gespeicherte Vorlage %1 wurde von %2 am %3 gelöscht, nachdem sie hier gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>Der Baustein %1 wurde von %2 am %3 umbenannt, nachdem er hier gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>Der Baustein %1 wurde von %2 am %3 gelöscht, nachdem er hier gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>Versuchen Sie es noch einmal, um ihn neu zu speichern.</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>Sehen Sie ihn sich noch einmal an, oder versuchen Sie es noch einmal: Dann kommt jener Stand in den Verlauf.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>Die Datenbank in %1 ist nicht leer.</translation>
+    </message>
 </context>
 </TS>

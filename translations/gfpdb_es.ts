@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>Los dispositivos de este modo de configuración no tienen ese valor: el diálogo lo descarta.</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>No se puede comparar la copia en %1: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>La copia en %1 no es igual que %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>No hay nada que copiar en %1.</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>una fecha desconocida</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>un usuario desconocido</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>La plantilla guardada %1 fue guardada por %2 con fecha %3 después de buscarla aquí.</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>El dispositivo %1 fue guardado por %2 con fecha %3 después de buscarlo aquí.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>La plantilla guardada %1 fue modificada por %2 con fecha %3 después de leerla aquí.</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>El dispositivo %1 fue modificado por %2 con fecha %3 después de leerlo aquí.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>La plantilla guardada %1 fue borrada por %2 con fecha %3 después de leerla aquí.</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>El dispositivo %1 fue renombrado por %2 con fecha %3 después de leerlo aquí.</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>El dispositivo %1 fue borrado por %2 con fecha %3 después de leerlo aquí.</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>Inténtelo de nuevo para guardarlo como nuevo.</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>Consúltelo de nuevo o inténtelo otra vez: entonces ese estado pasa al historial.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>La base de datos en %1 no está vacía.</translation>
+    </message>
 </context>
 </TS>

@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>Les composants de ce mode de configuration n’ont pas cette valeur&#xa0;: le dialogue l’abandonne.</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>La copie dans %1 ne peut pas être comparée&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>La copie dans %1 n’est pas identique à %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>Il n’y a rien à copier dans %1.</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>une date inconnue</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>un utilisateur inconnu</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>Le modèle enregistré %1 a été enregistré par %2 (date&#xa0;: %3) depuis qu’il a été cherché ici.</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>Le composant %1 a été enregistré par %2 (date&#xa0;: %3) depuis qu’il a été cherché ici.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>Le modèle enregistré %1 a été modifié par %2 (date&#xa0;: %3) depuis qu’il a été lu ici.</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>Le composant %1 a été modifié par %2 (date&#xa0;: %3) depuis qu’il a été lu ici.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>Le modèle enregistré %1 a été supprimé par %2 (date&#xa0;: %3) depuis qu’il a été lu ici.</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>Le composant %1 a été renommé par %2 (date&#xa0;: %3) depuis qu’il a été lu ici.</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>Le composant %1 a été supprimé par %2 (date&#xa0;: %3) depuis qu’il a été lu ici.</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>Réessayez pour l’enregistrer comme nouveau.</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>Consultez-le de nouveau ou réessayez&#xa0;: cet état passe alors dans l’historique.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>La base de données dans %1 n’est pas vide.</translation>
+    </message>
 </context>
 </TS>

@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>I dispositivi di questa modalità di configurazione non hanno questo valore: la finestra lo scarta.</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>Impossibile confrontare la copia in %1: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>La copia in %1 non è uguale a %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>Non c’è nulla da copiare in %1.</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>una data sconosciuta</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>un utente sconosciuto</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>Il modello salvato %1 è stato salvato da %2 in data %3 dopo che era stato cercato qui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>Il dispositivo %1 è stato salvato da %2 in data %3 dopo che era stato cercato qui.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>Il modello salvato %1 è stato modificato da %2 in data %3 dopo che era stato letto qui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>Il dispositivo %1 è stato modificato da %2 in data %3 dopo che era stato letto qui.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>Il modello salvato %1 è stato eliminato da %2 in data %3 dopo che era stato letto qui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>Il dispositivo %1 è stato rinominato da %2 in data %3 dopo che era stato letto qui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>Il dispositivo %1 è stato eliminato da %2 in data %3 dopo che era stato letto qui.</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>Riprovare per salvarlo come nuovo.</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>Visualizzarlo di nuovo o riprovare: quello stato passa allora nella cronologia.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>Il database in %1 non è vuoto.</translation>
+    </message>
 </context>
 </TS>

@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>このコンフィギュレーションモードのデバイスにこの値はありません: ダイアログで破棄されます。</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>%1 のコピーを比較できません: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>%1 のコピーは %2 と同じではありません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>%1 にはコピーするものがありません。</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>不明な日</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>不明なユーザー</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>保存済みのテンプレート %1 は、ここで検索された後に %2 によって保存されました (%3)。</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>デバイス %1 は、ここで検索された後に %2 によって保存されました (%3)。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>保存済みのテンプレート %1 は、ここで読み込まれた後に %2 によって変更されました (%3)。</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>デバイス %1 は、ここで読み込まれた後に %2 によって変更されました (%3)。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>保存済みのテンプレート %1 は、ここで読み込まれた後に %2 によって削除されました (%3)。</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>デバイス %1 は、ここで読み込まれた後に %2 によって名前が変更されました (%3)。</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>デバイス %1 は、ここで読み込まれた後に %2 によって削除されました (%3)。</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>新しいものとして保存するには、もう一度実行してください。</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>もう一度表示するか、もう一度実行してください: 実行するとその状態は履歴に入ります。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>%1 のデータベースは空ではありません。</translation>
+    </message>
 </context>
 </TS>

@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>이 구성 모드의 디바이스에는 이 값이 없습니다: 대화 상자가 버립니다.</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>%1의 사본을 비교할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>%1의 사본이 %2와(과) 같지 않습니다.</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>%1에 복사할 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>알 수 없는 날짜</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>알 수 없는 사용자</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>저장된 템플릿 %1은(는) 여기에서 찾은 후 %2 사용자가 저장했습니다(%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>디바이스 %1은(는) 여기에서 찾은 후 %2 사용자가 저장했습니다(%3).</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>저장된 템플릿 %1은(는) 여기에서 읽은 후 %2 사용자가 변경했습니다(%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>디바이스 %1은(는) 여기에서 읽은 후 %2 사용자가 변경했습니다(%3).</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>저장된 템플릿 %1은(는) 여기에서 읽은 후 %2 사용자가 삭제했습니다(%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>디바이스 %1은(는) 여기에서 읽은 후 %2 사용자가 이름을 바꿨습니다(%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>디바이스 %1은(는) 여기에서 읽은 후 %2 사용자가 삭제했습니다(%3).</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>새 항목으로 저장하려면 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>다시 확인하거나 다시 시도하십시오: 그러면 그 상태는 기록에 남습니다.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>%1의 데이터베이스가 비어 있지 않습니다.</translation>
+    </message>
 </context>
 </TS>

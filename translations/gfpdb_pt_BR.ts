@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>Os dispositivos deste modo de configuração não têm esse valor: o diálogo o descarta.</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>A cópia em %1 não pode ser comparada: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>A cópia em %1 não é igual a %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>Não há nada para copiar em %1.</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>uma data desconhecida</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>um usuário desconhecido</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>O modelo salvo %1 foi salvo por %2 (data: %3) depois de procurado aqui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>O dispositivo %1 foi salvo por %2 (data: %3) depois de procurado aqui.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>O modelo salvo %1 foi alterado por %2 (data: %3) depois de lido aqui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>O dispositivo %1 foi alterado por %2 (data: %3) depois de lido aqui.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>O modelo salvo %1 foi excluído por %2 (data: %3) depois de lido aqui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>O dispositivo %1 foi renomeado por %2 (data: %3) depois de lido aqui.</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>O dispositivo %1 foi excluído por %2 (data: %3) depois de lido aqui.</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>Tente novamente para salvá-lo como novo.</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>Veja-o novamente ou tente de novo: então esse estado vai para o histórico.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>O banco de dados em %1 não está vazio.</translation>
+    </message>
 </context>
 </TS>

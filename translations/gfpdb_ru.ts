@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>У микросхем этого режима конфигурирования нет такого значения: диалог его отбрасывает.</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>Не удаётся сравнить копию в %1: %2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>Копия в %1 не совпадает с %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>В %1 нечего копировать.</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>неизвестно когда</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>неизвестный пользователь</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>С тех пор как здесь искали сохранённый шаблон %1, его сохранил пользователь: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>С тех пор как здесь искали микросхему %1, её сохранил пользователь: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>С тех пор как сохранённый шаблон %1 был прочитан здесь, его изменил пользователь: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>С тех пор как микросхема %1 была прочитана здесь, её изменил пользователь: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>С тех пор как сохранённый шаблон %1 был прочитан здесь, его удалил пользователь: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>С тех пор как микросхема %1 была прочитана здесь, её переименовал пользователь: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>С тех пор как микросхема %1 была прочитана здесь, её удалил пользователь: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>Повторите попытку, чтобы сохранить запись как новую.</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>Просмотрите запись ещё раз или повторите попытку: тогда то состояние попадёт в историю.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>База данных в %1 не пуста.</translation>
+    </message>
 </context>
 </TS>

@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>此配置模式的器件没有此值：对话框会将其丢弃。</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>无法比较 %1 中的副本：%2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>%1 中的副本与 %2 不相同。</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>%1 中没有可复制的内容。</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>未知日期</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>未知用户</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>在此处查找已保存模板 %1 之后，%2 保存了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>在此处查找器件 %1 之后，%2 保存了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>在此处读取已保存模板 %1 之后，%2 更改了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>在此处读取器件 %1 之后，%2 更改了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>在此处读取已保存模板 %1 之后，%2 删除了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>在此处读取器件 %1 之后，%2 重命名了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>在此处读取器件 %1 之后，%2 删除了它（%3）。</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>请重试，以将其作为新记录保存。</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>请重新查看，或重试：届时该状态会进入历史记录。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>%1 中的数据库不为空。</translation>
+    </message>
 </context>
 </TS>

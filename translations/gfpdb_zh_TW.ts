@@ -295,5 +295,65 @@
         <source>Devices of this configuration mode have no such value: the dialog drops it.</source>
         <translation>此組態模式的元件沒有此值：對話方塊會將其捨棄。</translation>
     </message>
+    <message>
+        <source>The copy in %1 cannot be compared: %2</source>
+        <translation>無法比較 %1 中的副本：%2</translation>
+    </message>
+    <message>
+        <source>The copy in %1 is not the same as %2.</source>
+        <translation>%1 中的副本與 %2 不相同。</translation>
+    </message>
+    <message>
+        <source>There is nothing to copy in %1.</source>
+        <translation>%1 中沒有可複製的內容。</translation>
+    </message>
+    <message>
+        <source>an unknown day</source>
+        <translation>未知日期</translation>
+    </message>
+    <message>
+        <source>an unknown user</source>
+        <translation>未知使用者</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>在此處尋找已儲存範本 %1 之後，%2 儲存了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was stored by %2 on %3 since it was looked for here.</source>
+        <translation>在此處尋找元件 %1 之後，%2 儲存了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>在此處讀取已儲存範本 %1 之後，%2 變更了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was changed by %2 on %3 since it was read here.</source>
+        <translation>在此處讀取元件 %1 之後，%2 變更了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>在此處讀取已儲存範本 %1 之後，%2 刪除了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was renamed by %2 on %3 since it was read here.</source>
+        <translation>在此處讀取元件 %1 之後，%2 重新命名了它（%3）。</translation>
+    </message>
+    <message>
+        <source>The device %1 was deleted by %2 on %3 since it was read here.</source>
+        <translation>在此處讀取元件 %1 之後，%2 刪除了它（%3）。</translation>
+    </message>
+    <message>
+        <source>Try again to store it as a new one.</source>
+        <translation>請重試，以將其儲存為新記錄。</translation>
+    </message>
+    <message>
+        <source>Look at it again, or try again: then that state goes into the history.</source>
+        <translation>請重新查看，或重試：屆時該狀態會進入歷史記錄。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is not empty.</source>
+        <translation>%1 中的資料庫不是空的。</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_copy.h"
 
+#include "base/gfpdb_words.h"
 #include "manager/gfpdb_custom_dir.h"
 #include "model/gfpdb_field.h"
 #include "store/gfpdb_store.h"
@@ -62,8 +63,9 @@ std::string difference(GFPDB_STORE& from, GFPDB_STORE& to, const DIGESTS& copied
     const DIGESTS read = digests_of(to);
     if (read == copied)
         return std::string();
-    return "The copy in " + to.get_directory() + " is not the same as " + from.get_directory() + ": " +
-           (to.get_last_error().empty() ? std::string("it differs in what was read again.") : to.get_last_error());
+    if (!to.get_last_error().empty())
+        return GFPDB_WORDS::say("The copy in %1 cannot be compared: %2", {to.get_directory(), to.get_last_error()});
+    return GFPDB_WORDS::say("The copy in %1 is not the same as %2.", {to.get_directory(), from.get_directory()});
 }
 
 } // namespace
@@ -78,7 +80,10 @@ GFPDB_COPY gfpdb_copy_database(const std::string& from, const std::string& to,
     if (!copy.problem.empty())
         return copy;
     DIGESTS copied;
+    // A server may want it again, from the beginning.
     const auto read = [&](const GFPDB_HEAR_STORED& put) {
+        copy = GFPDB_COPY();
+        copied.clear();
         return source->read_all([&](const GFPDB_HISTORY_ENTRY& entry) {
             if (!put(entry))
                 return false;
@@ -94,7 +99,7 @@ GFPDB_COPY gfpdb_copy_database(const std::string& from, const std::string& to,
         return copy;
     }
     std::sort(copied.begin(), copied.end());
-    copy.problem = copied.empty() ? "There is nothing to copy in " + source->get_directory() + "."
+    copy.problem = copied.empty() ? GFPDB_WORDS::say("There is nothing to copy in %1.", {source->get_directory()})
                                   : difference(*source, *target, copied);
     return copy;
 }

@@ -2,6 +2,7 @@
 #include "store/gfpdb_seen.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/gfpdb_store.h"
 
 #include <QDateTime>
@@ -12,14 +13,33 @@ namespace {
 std::string time_text(const std::string& time)
 {
     const QDateTime utc = QDateTime::fromString(gfpdb_from_utf8(time), Qt::ISODate);
+    if (time.empty())
+        return GFPDB_WORDS::say("an unknown day");
     return utc.isValid() ? gfpdb_to_utf8(utc.toString(QStringLiteral("yyyy-MM-dd hh:mm"))) + " UTC" : time;
 }
 
-std::string what_happened(const std::string& seen, const GFPDB_FOUND& found)
+std::string user_text(const std::string& user)
 {
+    return user.empty() ? GFPDB_WORDS::say("an unknown user") : user;
+}
+
+std::string what_happened(bool is_template, const std::string& name, const std::string& seen, const GFPDB_FOUND& found)
+{
+    const std::initializer_list<std::string> values = {gfpdb_quoted(name), user_text(found.by), time_text(found.at)};
+    if (!found.revision.empty() && seen.empty())
+        return is_template
+                   ? GFPDB_WORDS::say("The stored template %1 was stored by %2 on %3 since it was looked for here.",
+                                      values)
+                   : GFPDB_WORDS::say("The device %1 was stored by %2 on %3 since it was looked for here.", values);
     if (!found.revision.empty())
-        return seen.empty() ? "stored" : "changed";
-    return found.reason == GFPDB_REASON_REPLACED ? "renamed" : "deleted";
+        return is_template
+                   ? GFPDB_WORDS::say("The stored template %1 was changed by %2 on %3 since it was read here.", values)
+                   : GFPDB_WORDS::say("The device %1 was changed by %2 on %3 since it was read here.", values);
+    if (is_template)
+        return GFPDB_WORDS::say("The stored template %1 was deleted by %2 on %3 since it was read here.", values);
+    if (found.reason == GFPDB_REASON_REPLACED)
+        return GFPDB_WORDS::say("The device %1 was renamed by %2 on %3 since it was read here.", values);
+    return GFPDB_WORDS::say("The device %1 was deleted by %2 on %3 since it was read here.", values);
 }
 
 } // namespace
@@ -27,13 +47,9 @@ std::string what_happened(const std::string& seen, const GFPDB_FOUND& found)
 std::string gfpdb_changed_meanwhile(bool is_template, const std::string& name, const std::string& seen,
                                     const GFPDB_FOUND& found)
 {
-    std::string text = std::string("The ") + (is_template ? "stored template " : "device ") + gfpdb_quoted(name) +
-                       " was " + what_happened(seen, found);
-    if (!found.by.empty())
-        text += " by " + found.by;
-    if (!found.at.empty())
-        text += " on " + time_text(found.at);
-    text += std::string(" since it was ") + (seen.empty() ? "looked for" : "read") + " here. ";
-    return text + (found.revision.empty() ? "Try again to store it as a new one."
-                                          : "Look at it again, or try again: then that state goes into the history.");
+    const std::string advice =
+        found.revision.empty()
+            ? GFPDB_WORDS::say("Try again to store it as a new one.")
+            : GFPDB_WORDS::say("Look at it again, or try again: then that state goes into the history.");
+    return what_happened(is_template, name, seen, found) + ' ' + advice;
 }

@@ -142,7 +142,7 @@ private slots:
              {"Apply of what was renamed", rename_device, apply_here,
               QStringLiteral("The device \"A\" was renamed by anna@ on (time)") + store, QString()},
              {"Apply of what was deleted for ever", remove_and_forget_device, apply_here,
-              QStringLiteral("The device \"A\" was deleted") + store, QString()},
+              QStringLiteral("The device \"A\" was deleted by an unknown user on an unknown day") + store, QString()},
              {"save of what was deleted", remove_device, save_over,
               QStringLiteral("The device \"A\" was deleted by anna@ on (time)") + store, QString()}});
     }
@@ -224,7 +224,7 @@ private slots:
         GFPDB_FLASH* const bad = my_device(*m_mgr, "A");
         bad->set_density("\xFC");
         QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
-        expect_warning("not UTF-8");
+        expect_warning("not valid UTF-8");
         QVERIFY(!m_mgr->save_flash(bad, m_place->db_dir()));
 
         QVERIFY(apply_here(*m_mgr, m_place->db_dir()));

@@ -2,6 +2,7 @@
 
 // The part of GFPDB_SQLITE_STORE that gives all that is stored, and takes what another store has given.
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
 #include <QSqlError>
@@ -83,7 +84,7 @@ bool GFPDB_SQLITE_STORE::check_empty()
                         "EXISTS (SELECT 1 FROM history)") ||
         !next_row(query))
         return false;
-    return !query.value(0).toBool() || fail("The database in " + get_directory() + " is not empty.");
+    return !query.value(0).toBool() || fail(GFPDB_WORDS::say("The database in %1 is not empty.", {get_directory()}));
 }
 
 bool GFPDB_SQLITE_STORE::put(QSqlQuery& query, const QVariantList& values)
