@@ -2,11 +2,38 @@
 
 // Devices that are made of what the connected chip says of itself.
 #include "prog_test.h"
+#include "serprog/serprog_thread.h"
 #include "test_rows.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QRegularExpression>
+
+namespace {
+
+// A chip with an ID, whose SFDP header has no table behind it, or at which the connection is lost.
+class HEADER_BUS : public GFPE_BUS
+{
+public:
+    explicit HEADER_BUS(bool is_lost) : m_is_lost(is_lost) {}
+    GFPE_ABILITIES get_abilities() const override { return {}; }
+    bool transfer(const GFPE_COMMAND& command, GFPE_READER* reader) override
+    {
+        const bool is_id = command.opcode == 0x9F;
+        QByteArray answer = is_id ? QByteArray("\xC2\x20\x18") : QByteArray("SFDP\x06\x01");
+        answer = answer.leftJustified(int(command.in_length), is_id ? '\0' : '\xFF');
+        if (reader != nullptr)
+            reader->take(reinterpret_cast<const std::uint8_t*>(answer.constData()), std::size_t(command.in_length));
+        return is_id || !m_is_lost;
+    }
+    bool wait(std::int64_t) override { return true; }
+    std::string get_last_error() const override { return "It is lost."; }
+
+private:
+    const bool m_is_lost;
+};
+
+} // namespace
 
 class TEST_PROG_LEARN : public PROG_TEST
 {
@@ -66,6 +93,31 @@ private slots:
         QVERIFY2(run.out.contains("\nStored the new device \"MINE\" "), run.out.constData());
         QCOMPARE(run.exit_code, 4);
         QVERIFY(!QFile::exists(at("out")));
+    }
+
+    void tables_that_cannot_be_understood_are_still_saved()
+    {
+        HEADER_BUS bus(false);
+        const SERVING_THREAD server(bus);
+        const QString on = "tcp:127.0.0.1:" + QString::number(server.port());
+        const TOOL_RUN run = prog({"learn", "--on", on, "--save-sfdp", at("out")});
+        QCOMPARE(run.exit_code, 0);
+        QVERIFY2(run.err.startsWith("gfprog: " + on.toUtf8() + ": warning: There is no basic table."),
+                 run.err.constData());
+        QVERIFY(run.out.contains("\nI/O voltage                          3.3V            from the ID\n"));
+        QVERIFY(text_of_file(at("out")).startsWith("SFDP"));
+    }
+
+    void a_lost_connection_stores_nothing()
+    {
+        HEADER_BUS bus(true);
+        const SERVING_THREAD server(bus);
+        const TOOL_RUN run = prog({"learn", "--on", "tcp:127.0.0.1:" + QString::number(server.port()), "--save-sfdp",
+                                   at("out"), "--name", "MINE"});
+        QCOMPARE(run.exit_code, 7);
+        QCOMPARE(run.err.count('\n'), 1);
+        QVERIFY(!QFile::exists(at("out")));
+        QCOMPARE(tool({"list"}).out.count('\n'), 1);
     }
 
     // The commands of the user guide, on a chip that is emulated.
