@@ -17,6 +17,7 @@ constexpr std::size_t HEADER_BYTES = 8;
 // What is compatible with what is read here; other major revisions are another format.
 constexpr int MAJOR = 1;
 constexpr int BLANK_ID = 0xFFFF;
+constexpr std::uint32_t BLANK_DWORD = 0xFFFFFFFF;
 
 std::string address(std::size_t place)
 {
@@ -218,6 +219,10 @@ std::optional<GFPDB_SFDP> gfpdb_read_sfdp(const std::vector<std::uint8_t>& bytes
     if (basic == nullptr) {
         problem =
             sfdp.warnings.empty() ? "There is no basic table." : "There is no basic table. " + sfdp.warnings.front();
+        return std::nullopt;
+    }
+    if (reader.view(*basic).dword(1) == BLANK_DWORD) {
+        problem = "The basic table is blank.";
         return std::nullopt;
     }
     sfdp.basic_major = basic->major;

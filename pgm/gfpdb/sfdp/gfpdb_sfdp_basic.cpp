@@ -167,7 +167,7 @@ private:
         if (!is_opcode(opcode))
             warn(what + " has no command: it is left out.");
         else if (erase.size_bytes == 0 || (m_sfdp.density_bits > 0 && erase.size_bytes > m_sfdp.density_bits / 8))
-            warn(what + " erases 2^" + std::to_string(exponent) + " bytes, more than the part has: it is left out.");
+            warn(what + " erases 2^" + std::to_string(exponent) + " bytes, which is too much: it is left out.");
         else
             m_sfdp.erase.push_back(erase);
     }

@@ -9,6 +9,7 @@ constexpr int ERASE_TYPES = 4;
 // The bit of the first erase type in DW1.
 constexpr int FIRST_ERASE_BIT = 9;
 constexpr int NO_OPCODE = 0xFF;
+constexpr std::uint32_t BLANK = 0xFFFFFFFF;
 
 GFPDB_SFDP_ERASE* find_type(GFPDB_SFDP& sfdp, int type)
 {
@@ -21,7 +22,13 @@ GFPDB_SFDP_ERASE* find_type(GFPDB_SFDP& sfdp, int type)
 
 void gfpdb_read_sfdp_four_byte(const GFPDB_SFDP_VIEW& table, GFPDB_SFDP& sfdp)
 {
+    if (table.dword(1) == BLANK) {
+        sfdp.warnings.emplace_back("The table of 4-byte instructions is blank.");
+        return;
+    }
     sfdp.instructions_4_byte = table.dword(1);
+    if (!table.has(2))
+        sfdp.warnings.emplace_back("The table of 4-byte instructions has no erase commands.");
     for (int type = 1; type <= ERASE_TYPES; ++type) {
         if (!table.bit(1, FIRST_ERASE_BIT + type - 1) || !table.has(2))
             continue;
