@@ -4,8 +4,11 @@
 #include "gfpdb/gfpdb_action_value.h"
 #include "model/gfpdb_action_model.h"
 #include "model/gfpdb_operation.h"
+#include "rules/gfpdb_action_rules.h"
 
 #include "gfpdb/gfpdb_enums.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -53,10 +56,11 @@ struct POLL
     int delay_us;
 
     std::int64_t wait_us() const { return attempts * delay_us; }
-    // The same interval for `wait_us`; as it is for 0.
+    // At the same interval for `wait_us`, or as long as a poll can last; as it is for 0.
     POLL for_wait(std::int64_t wait_us) const
     {
-        return wait_us > 0 ? POLL{(wait_us + delay_us - 1) / delay_us, delay_us} : *this;
+        constexpr std::int64_t ATTEMPTS_MAX = GFPDB_ATTEMPT_COUNT_MAX;
+        return wait_us > 0 ? POLL{std::min((wait_us + delay_us - 1) / delay_us, ATTEMPTS_MAX), delay_us} : *this;
     }
 };
 

@@ -51,7 +51,8 @@ constexpr std::array<ENTRY, GFPDB_VALUES_OF_DEVICE> ENTRIES = {{
     {"erase-wait", "Erase, longest wait (ms)"},
 }};
 
-constexpr std::int64_t ATTEMPTS_MAX = 1000000;
+// In the units of the two values: more than a minute for a page, more than a day for a chip.
+constexpr std::int64_t WAIT_MAX = 100000000;
 constexpr int DUMMY_CLOCKS_MAX = 31;
 constexpr int PAGE_SIZE_MAX = 4096;
 
@@ -101,9 +102,8 @@ std::optional<RANGE> range_of(VALUE value)
     case VALUE::QUAD_DUMMY:
         return RANGE{0, DUMMY_CLOCKS_MAX};
     case VALUE::PROGRAM_WAIT:
-        return RANGE{1, 100 * ATTEMPTS_MAX};
     case VALUE::ERASE_WAIT:
-        return RANGE{1, ATTEMPTS_MAX};
+        return RANGE{1, WAIT_MAX};
     default:
         return std::nullopt;
     }

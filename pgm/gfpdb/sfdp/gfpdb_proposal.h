@@ -54,6 +54,7 @@ constexpr const char* BY_RESET = "reset";
 constexpr const char* WHOLE_CHIP = "chip";
 
 constexpr const char* FROM_ID = "from the ID";
+constexpr const char* FROM_DENSITY = "from the density";
 constexpr const char* ASSUMED = "assumed";
 constexpr const char* ENTERED = "entered";
 
@@ -95,6 +96,7 @@ private:
     // What listed parts have in common.
     void find_habit();
     PROPOSED from_habit(const std::string& text) const;
+    std::string derived_source(VALUE_OF value) const;
     // The value that all listed parts with the ID have; else an empty text.
     template <typename VALUE>
     std::optional<VALUE> common_value(VALUE GFPDB_PART::*member) const;

@@ -105,6 +105,12 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::from_habit(const std::string& text) con
     return {text, m_has_model ? FROM_ID : ASSUMED};
 }
 
+// Of a value that follows from another one.
+std::string GFPDB_PROPOSAL::derived_source(VALUE_OF value) const
+{
+    return source(value) == ENTERED ? ASSUMED : source(value);
+}
+
 template <typename VALUE>
 std::optional<VALUE> GFPDB_PROPOSAL::common_value(VALUE GFPDB_PART::*member) const
 {
@@ -168,7 +174,7 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_die_selection() const
     const GFPDB_FLOW_TRAITS habit = gfpdb_flow_traits(m_model, true);
     const char* const way = habit.selected_dies > 1 ? FOR_ALL : habit.status_dies > 1 ? FOR_STATUS : NONE;
     const bool has_dies = number(VALUE_OF::DIES) > 1;
-    return {has_dies ? way : NONE, has_dies && m_has_model ? FROM_ID : source(VALUE_OF::DIES), choices};
+    return {has_dies ? way : NONE, has_dies && m_has_model ? FROM_ID : derived_source(VALUE_OF::DIES), choices};
 }
 
 GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_page_size() const
@@ -185,9 +191,9 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_address_bytes() const
     const std::vector<std::string> choices = {"3", "4"};
     const bool is_large = density_bits() > THREE_BYTE_BITS_MAX;
     if (!has_sfdp() || m_sfdp->address == GFPDB_SFDP_ADDRESS::RESERVED)
-        return {is_large ? "4" : "3", source(VALUE_OF::DENSITY), choices};
+        return {is_large ? "4" : "3", FROM_DENSITY, choices};
     if (is_large && m_sfdp->address == GFPDB_SFDP_ADDRESS::THREE)
-        return {"4", source(VALUE_OF::DENSITY), choices};
+        return {"4", FROM_DENSITY, choices};
     return {is_large || m_sfdp->address == GFPDB_SFDP_ADDRESS::FOUR ? "4" : "3", DW1, choices};
 }
 
@@ -235,7 +241,7 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_enter_four_byte() const
 {
     const std::vector<std::string> choices = all_of(ENTRY_TEXTS);
     if (text(VALUE_OF::ADDRESS_BYTES) != "4")
-        return {NONE, source(VALUE_OF::ADDRESS_BYTES), choices};
+        return {NONE, derived_source(VALUE_OF::ADDRESS_BYTES), choices};
     if (has_sfdp() && m_sfdp->address == GFPDB_SFDP_ADDRESS::FOUR)
         return {ALWAYS, DW1, choices};
     const std::string habit = ENTRY_TEXTS[static_cast<int>(gfpdb_flow_traits(m_model, true).enter_four_byte)];
@@ -252,7 +258,7 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_leave_four_byte() const
     const std::vector<std::string> choices = all_of(EXIT_TEXTS);
     const std::string& entry = text(VALUE_OF::ENTER_FOUR_BYTE);
     if (entry == NONE || entry == OWN_COMMANDS || entry == ALWAYS)
-        return {NONE, source(VALUE_OF::ENTER_FOUR_BYTE), choices};
+        return {NONE, derived_source(VALUE_OF::ENTER_FOUR_BYTE), choices};
     const GFPDB_FLOW_TRAITS habit = gfpdb_flow_traits(m_model, true);
     const bool is_habit_entry = entry == ENTRY_TEXTS[static_cast<int>(habit.enter_four_byte)];
     const std::string of_entry = entry == "17 80" ? "17 00" : entry == "06 B7" ? "06 E9" : "E9";
@@ -272,7 +278,7 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_check_four_byte() const
     const bool has_mode = entry != NONE && entry != OWN_COMMANDS && entry != ALWAYS;
     const std::optional<GFPDB_MODE_CHECK> check = gfpdb_flow_traits(m_model, true).mode_check;
     if (!has_mode)
-        return {NONE, source(VALUE_OF::ENTER_FOUR_BYTE), choices};
+        return {NONE, derived_source(VALUE_OF::ENTER_FOUR_BYTE), choices};
     PROPOSED proposed = from_habit(check ? gfpdb_sfdp_hex(static_cast<std::uint32_t>(check->opcode), 2) + " & " +
                                                gfpdb_sfdp_hex(static_cast<std::uint32_t>(check->mask), 2)
                                          : NONE);
@@ -373,7 +379,7 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_quad_dummy() const
 {
     const std::string& chosen = text(VALUE_OF::QUAD_READ);
     if (chosen == "0B 1-1-1")
-        return {text(VALUE_OF::SINGLE_DUMMY), source(VALUE_OF::SINGLE_DUMMY)};
+        return {text(VALUE_OF::SINGLE_DUMMY), derived_source(VALUE_OF::SINGLE_DUMMY)};
     for (const QUAD_READ& read : has_sfdp() ? listed_reads() : std::vector<QUAD_READ>()) {
         if (read.text == chosen)
             return {std::to_string(read.dummy_clocks), DW3};
