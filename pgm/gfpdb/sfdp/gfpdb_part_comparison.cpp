@@ -68,6 +68,8 @@ private:
     // Tables have room for four erase commands: one that the part has and they do not is no difference.
     void compare_erase()
     {
+        if (m_part.sector_erase.empty())
+            return;
         for (const GFPDB_SFDP_ERASE& erase : m_sfdp.erase) {
             compare_erase(erase.opcode, erase.size_bytes, erase.type <= 2 ? "SFDP DW8" : "SFDP DW9");
             if (erase.opcode_4_byte != 0)

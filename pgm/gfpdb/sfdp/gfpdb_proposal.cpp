@@ -12,6 +12,7 @@
 #include "sfdp/gfpdb_known_part.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace gfpdb_proposed;
 
@@ -224,12 +225,15 @@ void GFPDB_PROPOSAL::find_habit()
     m_has_model = maker != OTHER_MAKER;
     m_model.manufacturer = m_has_model ? maker : std::string();
     const GFPDB_PART* best = nullptr;
-    std::size_t least = 0;
+    // A part with this very ID comes before one whose longer ID begins with it.
+    std::pair<std::size_t, bool> least;
     for (const GFPDB_PART_COMPARISON& each : gfpdb_compare_with_catalogue(id_bytes(), m_sfdp.value_or(GFPDB_SFDP()))) {
         const bool is_of_maker = std::find(m_listed.begin(), m_listed.end(), each.part) != m_listed.end();
-        if (is_of_maker && (best == nullptr || each.differences.size() < least)) {
+        const std::pair<std::size_t, bool> distance = {each.differences.size(),
+                                                       each.part->jedec_id.size() != id_bytes().size()};
+        if (is_of_maker && (best == nullptr || distance < least)) {
             best = each.part;
-            least = each.differences.size();
+            least = distance;
         }
     }
     if (best != nullptr)

@@ -264,9 +264,11 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_leave_four_byte() const
     const std::string of_entry = entry == "17 80" ? "17 00" : entry == "06 B7" ? "06 E9" : "E9";
     const std::string usual = is_habit_entry ? EXIT_TEXTS[static_cast<int>(habit.leave_four_byte)] : of_entry;
     const std::vector<std::string> listed = listed_exits();
-    PROPOSED proposed = listed.empty() ? from_habit(usual) : PROPOSED{listed.front(), DW16};
+    // The way out belongs to the way in, which tables do not say for one that they do not list.
+    const bool is_listed = !listed.empty() && source(VALUE_OF::ENTER_FOUR_BYTE) != ENTERED;
+    PROPOSED proposed = is_listed ? PROPOSED{listed.front(), DW16} : from_habit(usual);
     if (has(listed, usual))
-        proposed.text = usual;
+        proposed = {usual, DW16};
     proposed.choices = choices;
     return proposed;
 }
@@ -279,6 +281,8 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_check_four_byte() const
     const std::optional<GFPDB_MODE_CHECK> check = gfpdb_flow_traits(m_model, true).mode_check;
     if (!has_mode)
         return {NONE, derived_source(VALUE_OF::ENTER_FOUR_BYTE), choices};
+    if (entry == "17 80")
+        return {"16 & 80", derived_source(VALUE_OF::ENTER_FOUR_BYTE), choices};
     PROPOSED proposed = from_habit(check ? gfpdb_sfdp_hex(static_cast<std::uint32_t>(check->opcode), 2) + " & " +
                                                gfpdb_sfdp_hex(static_cast<std::uint32_t>(check->mask), 2)
                                          : NONE);

@@ -15,6 +15,8 @@ using namespace gfpdb_proposed;
 
 namespace {
 
+constexpr std::int64_t THREE_BYTE_BITS_MAX = std::int64_t(1) << 27;
+
 // Tables of makers have the maker's byte in the lower half of their number: its ones are odd in number, those of the
 // standard's tables even. 0 for a table of the standard.
 int maker_of_table(int id)
@@ -92,6 +94,8 @@ void GFPDB_PROPOSAL::warn_of_id(std::vector<std::string>& warnings) const
 void GFPDB_PROPOSAL::warn_of_addresses(std::vector<std::string>& warnings) const
 {
     const bool needs_four = text(VALUE_OF::ADDRESS_BYTES) == "4";
+    if (!needs_four && density_bits() > THREE_BYTE_BITS_MAX)
+        warnings.push_back("Three address bytes do not reach all of " + text(VALUE_OF::DENSITY) + '.');
     if (needs_four && m_sfdp->address == GFPDB_SFDP_ADDRESS::THREE)
         warnings.push_back("SFDP DW1 lists three address bytes alone, which do not reach all of " +
                            text(VALUE_OF::DENSITY) + ": four are taken.");
@@ -99,7 +103,7 @@ void GFPDB_PROPOSAL::warn_of_addresses(std::vector<std::string>& warnings) const
         warnings.emplace_back(
             "SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 "
             "is ignored.");
-    const bool has_way = needs_four && m_sfdp->address != GFPDB_SFDP_ADDRESS::FOUR;
+    const bool has_way = needs_four && m_sfdp->address != GFPDB_SFDP_ADDRESS::FOUR && !says_nothing_of_mode();
     if (has_way && m_sfdp->enter_4_byte && listed_entries().empty())
         warnings.push_back("SFDP DW16 lists no way into 4-byte addressing that a flow can take: \"" +
                            text(VALUE_OF::ENTER_FOUR_BYTE) + "\" is taken.");
@@ -123,8 +127,8 @@ void GFPDB_PROPOSAL::warn_of_registers(std::vector<std::string>& warnings) const
 
 void GFPDB_PROPOSAL::warn_of_commands(std::vector<std::string>& warnings) const
 {
-    if (text(VALUE_OF::QUAD_READ) == "0B 1-1-1")
+    if (listed_reads().empty())
         warnings.emplace_back("SFDP lists no read on four lines: the quad-I/O flow uses one.");
-    if (text(VALUE_OF::ERASE) == WHOLE_CHIP)
+    if (text(VALUE_OF::ERASE) == WHOLE_CHIP && source(VALUE_OF::ERASE) != ENTERED)
         warnings.emplace_back("No erase command serves the whole part: the chip is erased at once.");
 }
