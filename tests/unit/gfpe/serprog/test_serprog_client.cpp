@@ -243,6 +243,9 @@ private slots:
         QVERIFY(stand.client->wait(2500000) && stand.client->settle());
 
         QCOMPARE(stand.bus.log, (QList<QByteArray>{"wait 1000000", "wait 1000000", "wait 500000"}));
+        stand.line->writes.clear();
+        QVERIFY(stand.client->transfer(command(0x06), nullptr) && stand.client->wait(1000000));
+        QVERIFY(stand.line->writes.isEmpty());
     }
 
     void a_programmer_with_room_for_one_delay_waits_itself()
@@ -271,6 +274,12 @@ private slots:
 
         QCOMPARE(stand.bus.log, QList<QByteArray>{"06 +0"});
         QVERIFY(stand.client->get_time() - start >= 2000);
+        // What cannot be sent before is not waited for.
+        FAULTS cut;
+        cut.lost_at = 0;
+        QVERIFY(stand.client->transfer(command(0x04), nullptr));
+        stand.line->set_faults(cut);
+        QVERIFY(!stand.client->wait(1));
     }
 
     void the_programmer_says_what_it_can_do_data()
