@@ -303,6 +303,21 @@ private slots:
         QCOMPARE(wait_for_verdict(), qs("Cancelled"));
     }
 
+    void a_programmer_that_goes_is_told_of()
+    {
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        connect(&server, &QTcpServer::newConnection, &server, [&server] { delete server.nextPendingConnection(); });
+        open();
+        child<QComboBox>("m_connection_combo").setCurrentIndex(1);
+        enter("m_host_edit", qs("127.0.0.1"));
+        child<QSpinBox>("m_port_spin").setValue(server.serverPort());
+        click("m_detect_button");
+        const QString verdict = wait_for_verdict();
+        QVERIFY2(verdict.startsWith(qs("Nothing was detected: The connection to the programmer is lost:")),
+                 qPrintable(verdict));
+    }
+
     void detection_lists_the_devices_with_the_id()
     {
         open(LARGE_DEVICE);

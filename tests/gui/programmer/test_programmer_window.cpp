@@ -158,6 +158,26 @@ private slots:
         QVERIFY(named > 25);
     }
 
+    void tab_goes_through_the_entries_from_top_to_bottom()
+    {
+        open();
+        window().resize(1200, 1000);
+        window().activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &window());
+        auto& entries = *child<QScrollArea>("m_entries_area").widget();
+        auto* first = &child<QWidget>("m_family_combo");
+        first->setFocus();
+        int visited = 0;
+        for (int y = 0; entries.isAncestorOf(QApplication::focusWidget()); ++visited) {
+            const QWidget* here = QApplication::focusWidget();
+            const int middle = here->mapTo(&entries, here->rect().center()).y();
+            QVERIFY2(middle > y - here->height() / 2, qPrintable(here->objectName()));
+            y = middle;
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QVERIFY2(visited > 14, qPrintable(QString::number(visited)));
+    }
+
     // 1366 by 768 at 200 %.
     void the_window_fits_a_small_screen()
     {
