@@ -40,16 +40,17 @@ SOURCES = [f"{folder}/**/*.{end}" for folder in ("pgm/gfpq", "pgm/gfpdb", "pgm/g
 
 # Which tests to run for a file: (pattern of the path, those that belong to it, all that can know of it), the tests as
 # regular expressions of ctest names. The first match counts.
-ENGINE = r"^(test_(flow_|run_|plan|image|chip|trace|connection|serprog_[^f]|prog_)|unit_programmer|gui_programmer)"
+ENGINE = (r"^(test_(flow_|run_|plan|image|chip|trace|connection|serprog_[^f]|prog_|sfdp_reading|new_device_runs)|"
+          r"unit_programmer|gui_programmer)")
 MODULE = r"^(gui_dialog|gui_flow|test_(accessibility|flow_keyboard|long_texts|language)|lost_work|security_plain)"
-HOST = r"^(unit_host|unit_device|unit_programmer|gui_programmer|test_language|security_programs)"
+HOST = r"^(unit_(host|device|programmer|new_device)|gui_(programmer|new_device)|test_language|security_programs)"
 EVERY = r""
 AFFECTED = [
     (r"pgm/gfpq/flow/", r"^gui_flow", MODULE),
     (r"pgm/gfpq/", r"^gui_dialog", MODULE),
     (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_[^e]", EVERY),
-    (r"pgm/gfpdb/sfdp/", r"sfdp", EVERY),
-    (r"pgm/gfpdb/store/(pg|server)", r"^unit_(gfpdb_(store|pg|server)|pg|server)", EVERY),
+    (r"pgm/gfpdb/sfdp/", r"^test_(sfdp|new_device)", EVERY),
+    (r"pgm/gfpdb/store/server/", r"^(unit_gfpdb_server|server_)", r"^(unit_gfpdb_server|server_|test_cli_)"),
     (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)", EVERY),
     (r"pgm/gfpdb/exchange/", r"^(unit_gfpdb|test_cli_(record|transfer))", EVERY),
     (r"pgm/gfpdb/", r"^unit_gfpdb", EVERY),
@@ -57,14 +58,16 @@ AFFECTED = [
     (r"pgm/gfpe/(run|include/gfpe/gfpe_(plan|run|image|rate))", r"^test_(plan|image|run_|flow_(rules|session))", ENGINE),
     (r"pgm/gfpe/(chip|include/gfpe/gfpe_chip)", r"^test_chip", ENGINE),
     (r"pgm/gfpe/serprog", r"^test_serprog_[^f]", ENGINE),
-    (r"pgm/gfpe/", r"^test_(trace|connection)", ENGINE),
+    (r"pgm/gfpe/", r"^test_(trace|connection|sfdp_reading)", ENGINE),
     (r"app/gfprog/", r"^test_prog_[^s]", r"^test_prog_"),
     (r"app/gfpdb/", r"^test_cli_", r"^(test_cli_|security_programs)"),
     (r"app/cli/", r"^test_cli_(json|lists|show|program)", r"^(test_cli_|test_prog_|security_programs)"),
-    (r"app/gfpq_host/", r"^(unit_host_[acdopt]|unit_device|unit_programmer|gui_programmer)", HOST),
+    (r"app/gfpq_host/", r"^(unit_host_[acdopt]|unit_(device|programmer|new_device)|gui_(programmer|new_device))", HOST),
     (r"host/", r"^unit_(host|gfpdb_read_file)", EVERY),
 ]
 QUICK_LABELS = "unit|gui|lost_work"
+# Need a database server: run only for the files that speak to one.
+SERVER_LABEL = "server"
 # Kills processes for half a minute: run only for the files it belongs to.
 SLOW_TESTS = {"unit_durability"}
 # Nobody debugs these builds: what counts is how soon a test runs.
@@ -287,7 +290,8 @@ class Worker:
         """Names of the quick tests, those of `expression` only if given."""
         if expression in self.known_tests:
             return self.known_tests[expression]
-        command = ["ctest", "--test-dir", str(self.build), "-N", "-L", QUICK_LABELS]
+        labels = f"{QUICK_LABELS}|{SERVER_LABEL}" if expression and "|server_" in expression else QUICK_LABELS
+        command = ["ctest", "--test-dir", str(self.build), "-N", "-L", labels]
         if expression:
             command += ["-R", expression]
         listed = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=True)
