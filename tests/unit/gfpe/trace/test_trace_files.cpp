@@ -99,6 +99,7 @@ private slots:
         const BYTES piece(1500, 0x5A);
         csv.command_started({GFPE_PHASE::EXAMINE, 1, &NAME}, command(0x03, 3, 0), 0);
         csv.received(piece.data(), piece.size());
+        csv.received(piece.data(), 0);
         csv.received(piece.data(), 2);
         csv.command_ended(9);
 
@@ -141,6 +142,18 @@ private slots:
         QCOMPARE(commands.size(), 3);
         QCOMPARE(commands[1].start - commands[0].end, qint64(100));
         QCOMPARE(commands[2].start - commands[1].end, qint64(100));
+    }
+
+    void commands_of_a_dump_are_as_far_apart_as_they_were()
+    {
+        GFPE_VCD_TRACE vcd(50'000'000);
+        QVERIFY(vcd.open(path("t.vcd")));
+        for (const std::int64_t start : {0, 500, 2000})
+            trace(vcd, {command(0x06), {}, {}, start, start + 1});
+
+        const QList<VCD_COMMAND> commands = vcd_commands(text(vcd, "t.vcd"));
+        QCOMPARE(commands[1].start - commands[0].start, qint64(500'000));
+        QCOMPARE(commands[2].start - commands[0].start, qint64(2'000'000));
     }
 
     void a_connection_without_a_known_clock_has_a_usual_one()
