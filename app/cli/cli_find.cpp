@@ -34,6 +34,14 @@ std::string similar_names(const CLI_CALL& call, const std::string& name, const C
     return similar.empty() ? std::string() : " Similar names: " + gfpdb_joined(similar) + ".";
 }
 
+// A sentence with the places that the options leave out, in which there are devices called `name`; else similar names.
+std::string hint_for(const CLI_CALL& call, const std::string& name, const CLI_PLACE_OPTIONS& options)
+{
+    const std::vector<GFPDB_RECORD> elsewhere = call.database.find_stored({name, std::nullopt, std::nullopt});
+    return elsewhere.empty() ? similar_names(call, name, options)
+                             : " It is there for " + places_of(elsewhere, options) + ".";
+}
+
 // The devices alone when there are some: they come before templates of that name.
 std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& selection)
 {
@@ -81,7 +89,7 @@ std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string
         exit_code = call.database_failed(problem);
     else
         call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.get_directory() +
-                          "." + similar_names(call, name, options));
+                          "." + hint_for(call, name, options));
     return std::nullopt;
 }
 

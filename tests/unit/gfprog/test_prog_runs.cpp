@@ -212,12 +212,15 @@ private slots:
         rows<QStringList, QString>(
             {{"none", QStringList{"--device", "nobody"}, "There is no record called \"nobody\" in "},
              {"several", QStringList{"--device", "both"}, "There are several devices called \"both\". "},
-             {"elsewhere", QStringList{"--device", "both", "--family", "9"}, "There is no record called "}});
+             {"elsewhere", QStringList{"--device", "both", "--family", "9"},
+              "There is no record called \"both\" in DIRECTORY. It is there for --family 3 --scheme 7, --family 3 "
+              "--scheme 13.\n"}});
     }
 
     void a_device_that_is_not_there_is_an_error()
     {
-        const auto [options, error] = row<QStringList, QString>();
+        auto [options, error] = row<QStringList, QString>();
+        error.replace("DIRECTORY", q(m_place->db_dir()));
         save_part("both", FAMILY, QUAD);
         save_part("both", FAMILY, ACTIVE_SERIAL);
         const TOOL_RUN run = prog(QStringList{"erase"} + options);
