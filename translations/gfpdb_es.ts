@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>density</source>
-        <translation>Capacidad</translation>
+        <translation>Capacidad del dispositivo</translation>
     </message>
     <message>
         <source>total die count</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>Plantilla de flujo</translation>
+        <translation>Plantilla del flujo de programación</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

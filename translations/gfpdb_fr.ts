@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>density</source>
-        <translation>Capacité</translation>
+        <translation>Capacité du composant</translation>
     </message>
     <message>
         <source>total die count</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>Modèle de flot</translation>
+        <translation>Modèle de flot de programmation</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>density</source>
-        <translation>Capacità</translation>
+        <translation>Capacità del dispositivo</translation>
     </message>
     <message>
         <source>total die count</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>Modello di flusso</translation>
+        <translation>Modello flusso di programmazione</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

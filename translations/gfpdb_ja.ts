@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>I/O voltage</source>
-        <translation>I/O 電圧</translation>
+        <translation>デバイス I/O 電圧</translation>
     </message>
     <message>
         <source>density</source>
-        <translation>容量</translation>
+        <translation>デバイス容量</translation>
     </message>
     <message>
         <source>total die count</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>フローテンプレート</translation>
+        <translation>プログラミングフローのテンプレート</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

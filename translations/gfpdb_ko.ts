@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>I/O voltage</source>
-        <translation>I/O 전압</translation>
+        <translation>디바이스 I/O 전압</translation>
     </message>
     <message>
         <source>density</source>
-        <translation>용량</translation>
+        <translation>디바이스 용량</translation>
     </message>
     <message>
         <source>total die count</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>흐름 템플릿</translation>
+        <translation>프로그래밍 흐름 템플릿</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

@@ -97,11 +97,11 @@
     </message>
     <message>
         <source>density</source>
-        <translation>Capacidade</translation>
+        <translation>Capacidade do dispositivo</translation>
     </message>
     <message>
         <source>total die count</source>
-        <translation>Número total de dies</translation>
+        <translation>Total de dies</translation>
     </message>
     <message>
         <source>number of single-I/O dummy clocks</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>Modelo de fluxo</translation>
+        <translation>Modelo do fluxo de programação</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

@@ -93,15 +93,15 @@
     </message>
     <message>
         <source>I/O voltage</source>
-        <translation>Напряжение I/O</translation>
+        <translation>Напряжение ввода-вывода</translation>
     </message>
     <message>
         <source>density</source>
-        <translation>Ёмкость</translation>
+        <translation>Ёмкость микросхемы</translation>
     </message>
     <message>
         <source>total die count</source>
-        <translation>Число кристаллов</translation>
+        <translation>Всего кристаллов</translation>
     </message>
     <message>
         <source>number of single-I/O dummy clocks</source>

@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>I/O voltage</source>
-        <translation>I/O 电压</translation>
+        <translation>器件 I/O 电压</translation>
     </message>
     <message>
         <source>density</source>
-        <translation>容量</translation>
+        <translation>器件容量</translation>
     </message>
     <message>
         <source>total die count</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>流程模板</translation>
+        <translation>编程流程模板</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

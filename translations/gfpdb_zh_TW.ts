@@ -93,11 +93,11 @@
     </message>
     <message>
         <source>I/O voltage</source>
-        <translation>I/O 電壓</translation>
+        <translation>元件 I/O 電壓</translation>
     </message>
     <message>
         <source>density</source>
-        <translation>容量</translation>
+        <translation>元件容量</translation>
     </message>
     <message>
         <source>total die count</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>flow template</source>
-        <translation>流程範本</translation>
+        <translation>燒錄流程範本</translation>
     </message>
     <message>
         <source>a whole number from %1 to %2</source>

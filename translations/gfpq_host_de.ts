@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>none: in memory</source>
-        <translation>keine: im Speicher</translation>
+        <translation>im Speicher</translation>
     </message>
     <message>
         <source>Browse...</source>

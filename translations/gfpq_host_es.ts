@@ -295,7 +295,7 @@
     </message>
     <message>
         <source>Save &amp;Read-Out...</source>
-        <translation>&amp;Guardar lectura...</translation>
+        <translation>Guardar l&amp;ectura...</translation>
     </message>
     <message>
         <source>none</source>

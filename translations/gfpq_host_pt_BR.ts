@@ -295,7 +295,7 @@
     </message>
     <message>
         <source>Save &amp;Read-Out...</source>
-        <translation>Salvar &amp;leitura...</translation>
+        <translation>&amp;Salvar leitura...</translation>
     </message>
     <message>
         <source>none</source>

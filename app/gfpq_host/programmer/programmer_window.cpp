@@ -92,6 +92,10 @@ PROGRAMMER_WINDOW::PROGRAMMER_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS
     m_file_panel->load(settings);
     m_order_panel->load(settings);
     set_first_size();
+    // Return presses the button that has the focus, as in a dialog.
+    const QList<QPushButton*> buttons = findChildren<QPushButton*>();
+    for (QPushButton* button : buttons)
+        button->setAutoDefault(true);
     m_device_panel->setFocus();
 }
 

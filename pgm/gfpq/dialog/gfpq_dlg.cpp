@@ -8,6 +8,7 @@
 #include "dialog/gfpq_dlg_internal.h"
 #include "dialog/gfpq_form.h"
 #include "dialog/gfpq_pane_fitter.h"
+#include "flow/gfpq_focus_ring.h"
 #include "flow/gfpq_operation_tab_widget.h"
 #include "words/gfpq_accessible_name.h"
 #include "words/gfpq_text.h"
@@ -174,6 +175,9 @@ void GFPQ_DLG::order_stops()
         setTabOrder(previous, button);
         previous = button;
     }
+    // Takes the focus because the arrow keys scroll it, which is all that there is to do in the fields of a built-in
+    // part.
+    new GFPQ_FOCUS_RING(*ui.m_device_info_scroll_area);
     const QList<QToolButton*> scrollers =
         ui.m_prog_flows_tab_widget->findChild<QTabBar*>()->findChildren<QToolButton*>();
     for (QToolButton* const scroller : scrollers)

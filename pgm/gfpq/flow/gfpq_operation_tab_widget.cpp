@@ -4,6 +4,7 @@
 #include "flow/gfpq_flow_items.h"
 #include "flow/gfpq_flow_scene.h"
 #include "flow/gfpq_flow_view.h"
+#include "flow/gfpq_focus_ring.h"
 #include "flow/gfpq_property_delegate.h"
 #include "flow/gfpq_property_table.h"
 #include "words/gfpq_text.h"
@@ -80,6 +81,7 @@ QBoxLayout* GPFQ_OPERATION_TAB_WIDGET::create_editor(int operation)
     layout->addWidget(create_palette(operation, title), 0);
     m_flow_scene = new GFPQ_FLOW_SCENE(this, operation);
     m_flow_view = new GFPQ_FLOW_VIEW(*m_flow_scene, this, title, m_description_label->text());
+    new GFPQ_FOCUS_RING(*m_flow_view);
     layout->addWidget(m_flow_view, 0);
     m_property_table = new GFPQ_PROPERTY_TABLE(this, title);
     layout->addWidget(m_property_table, 0);
@@ -95,6 +97,7 @@ QGraphicsView* GPFQ_OPERATION_TAB_WIDGET::create_palette(int operation, const QS
     // A wide chart must not take the room of the entries.
     view->setMinimumWidth(std::min(view->sizeHint().width(), PALETTE_MAX_WIDTH));
     view->setAccessibleName(QCoreApplication::translate("gfpq_dlg", "%1: actions").arg(title));
+    new GFPQ_FOCUS_RING(*view);
     return view;
 }
 

@@ -127,6 +127,16 @@ void GFPQ_PROPERTY_TABLE::commit_open_editor()
     }
 }
 
+// There is nothing to edit in a label, on which the table begins: F2 there begins with the value beside it.
+bool GFPQ_PROPERTY_TABLE::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    if (trigger != EditKeyPressed || !index.isValid() || index.column() != LABEL_COLUMN)
+        return QTableView::edit(index, trigger, event);
+    const QModelIndex value = index.siblingAtColumn(VALUE_COLUMN);
+    setCurrentIndex(value);
+    return QTableView::edit(value, trigger, event);
+}
+
 bool GFPQ_PROPERTY_TABLE::viewportEvent(QEvent* event)
 {
     if (event->type() == QEvent::ChildPolished)

@@ -30,6 +30,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    using QTableView::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
 private:

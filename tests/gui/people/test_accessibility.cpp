@@ -214,6 +214,48 @@ private slots:
         }
     }
 
+    void f2_in_the_table_begins_with_the_value()
+    {
+        open_dialog();
+        show_operation_page(GFPDB_OPERATION_ERASE);
+        chart().setFocus();
+        press(Qt::Key_Down);
+        property_table().setFocus();
+        property_table().setCurrentIndex(property_table().model()->index(1, 0));
+
+        press(Qt::Key_F2);
+
+        QVERIFY(property_table().indexWidget(property_table().model()->index(1, 1)) != nullptr);
+    }
+
+    // Neither a cursor nor a selection shows where the keys go there.
+    void a_frame_shows_where_the_keys_go()
+    {
+        open_dialog();
+        show_operation_page(GFPDB_OPERATION_ERASE);
+        QList<QAbstractScrollArea*> areas{&child<QScrollArea>("m_device_info_scroll_area")};
+        for (QGraphicsView* const view : tabs().currentWidget()->findChildren<QGraphicsView*>())
+            areas.append(view);
+        QCOMPARE(areas.size(), 3);
+        for (QAbstractScrollArea* const area : qAsConst(areas)) {
+            tabs().setCurrentIndex(area == areas[0] ? 0 : tabs().currentIndex());
+            if (area != areas[0])
+                show_operation_page(GFPDB_OPERATION_ERASE);
+            const auto edge = [area] { return area->grab().toImage().pixelColor(0, area->height() / 2); };
+            const QColor without = edge();
+            QVERIFY(without != area->palette().color(QPalette::Highlight));
+
+            area->setFocus();
+
+            QCOMPARE(edge(), area->palette().color(QPalette::Highlight));
+            area->resize(area->width() - 10, area->height());
+            QCOMPARE(area->grab().toImage().pixelColor(area->width() - 1, 9),
+                     area->palette().color(QPalette::Highlight));
+            child<QPushButton>("m_ok_button").setFocus();
+            QCOMPARE(edge(), without);
+        }
+    }
+
     void keys_stay_in_the_table_after_a_refused_value()
     {
         mgr().on_new_action = [](ACTION_DOUBLE& action) { action.refused[GFPDB_WR_COMMAND] = "no command"; };

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
@@ -82,6 +83,16 @@ QStringList placeholders(const QString& text)
         found.append(matches.next().captured());
     found.sort();
     return found;
+}
+
+// Where the access keys of a context must not clash: what is in a window may all be in sight at once, but the keys of a
+// menu and of a dialog are their own. Two dialogs have the fields of a device's place.
+QStringList places_of(const QString& context)
+{
+    if (context == QLatin1String("PLACE_FIELDS"))
+        return {QStringLiteral("COPY_DIALOG"), QStringLiteral("NEW_DEVICE_DIALOG")};
+    const bool is_apart = context.endsWith(QLatin1String("_MENU")) || context.endsWith(QLatin1String("_DIALOG"));
+    return {is_apart ? context : QString()};
 }
 
 const QStringList LANGUAGES{QStringLiteral("de"),    QStringLiteral("es"), QStringLiteral("fr"),
@@ -187,14 +198,14 @@ private slots:
         QSet<QString> keys;
         for (const MESSAGE& message : read_catalogue(catalogue)) {
             QCOMPARE(message.translation.count(QLatin1Char('&')), message.source.count(QLatin1Char('&')));
-            // What has an access key may all be in sight at once, but the keys of a menu are its own.
             if (!message.source.contains(QLatin1Char('&')))
                 continue;
-            const QString place = message.context.endsWith(QLatin1String("_MENU")) ? message.context : QString();
-            const QString key =
-                place + message.translation.mid(message.translation.indexOf(QLatin1Char('&')) + 1, 1).toLower();
-            QVERIFY2(!keys.contains(key), qPrintable(message.translation));
-            keys.insert(key);
+            const QString letter =
+                message.translation.mid(message.translation.indexOf(QLatin1Char('&')) + 1, 1).toLower();
+            for (const QString& place : places_of(message.context)) {
+                QVERIFY2(!keys.contains(place + letter), qPrintable(message.translation));
+                keys.insert(place + letter);
+            }
         }
     }
 
@@ -209,6 +220,31 @@ private slots:
                 if (first.isEmpty())
                     first = texts;
                 QCOMPARE(texts, first);
+            }
+        }
+    }
+
+    // Where a sentence of the flash database names a field, it is the label that the user sees.
+    void the_database_calls_the_fields_as_the_dialog_does()
+    {
+        const QMap<QString, QString> label_of{
+            {QStringLiteral("device name"), QStringLiteral("Device name: ")},
+            {QStringLiteral("device ID"), QStringLiteral("Device ID: ")},
+            {QStringLiteral("I/O voltage"), QStringLiteral("Device I/O voltage: ")},
+            {QStringLiteral("density"), QStringLiteral("Device density: ")},
+            {QStringLiteral("total die count"), QStringLiteral("Total device die:")},
+            {QStringLiteral("number of single-I/O dummy clocks"), QStringLiteral("Single I/O mode dummy clock: ")},
+            {QStringLiteral("number of quad-I/O dummy clocks"), QStringLiteral("Quad I/O mode dummy clock:")},
+            {QStringLiteral("flow template"), QStringLiteral("Programming flow template: ")}};
+        for (const QString& language : LANGUAGES) {
+            QMap<QString, QString> label;
+            for (const MESSAGE& message : read_catalogue(KINDS[0].arg(language)))
+                label.insert(message.source, message.translation);
+            for (const MESSAGE& message : read_catalogue(KINDS[2].arg(language))) {
+                if (label_of.contains(message.source))
+                    QCOMPARE(message.translation,
+                             QString(label.value(label_of.value(message.source)))
+                                 .remove(QRegularExpression(QStringLiteral("\u00A0?[:\uFF1A]\\s*$"))));
             }
         }
     }

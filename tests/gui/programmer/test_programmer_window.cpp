@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
@@ -137,6 +138,19 @@ private slots:
         m_modals.expect(MODAL_DRIVER::accept());
         child<QAction>("m_dialog_action").trigger();
         QVERIFY(m_modals.last().text.startsWith(qs("The dialog module was not found")));
+    }
+
+    void return_presses_the_button_with_the_focus()
+    {
+        open();
+        auto& dialog_button = child<QPushButton>("m_dialog_button");
+        m_modals.expect(MODAL_DRIVER::accept());
+
+        QTest::keyClick(&dialog_button, Qt::Key_Return);
+
+        QVERIFY(m_modals.last().text.startsWith(qs("The dialog module was not found")));
+        for (const QPushButton* button : window().findChildren<QPushButton*>())
+            QVERIFY2(button->autoDefault(), qPrintable(button->objectName()));
     }
 
     // Whatever takes the focus says what it is.
