@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>Die Datenbank in %1 ist nicht leer.</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>Es gibt schon eine gespeicherte Vorlage namens %1.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>Es gibt schon einen Baustein namens %1.</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>Im Verlauf gibt es keinen Stand %1.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>Die Datenbank in %1 ist jetzt eine andere.</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>Es ist der Stand %1 des Verlaufs.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>Die Datenbank %1 wird nicht benutzt: %2 ist ein Link oder keine gewöhnliche Datei. Entfernen Sie das, wenn Sie es nicht selbst dort abgelegt haben.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>Die Datenbank %1 wird nicht benutzt: %2 wurde von einem anderen Programm geschrieben und würde sie ändern. Schließen Sie die Datenbank in jenem Programm. Ist die Datei dann noch da, verschieben Sie sie in ein anderes Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>Die Datenbank %1 wird nicht benutzt: %2 wurde von einem anderen Programm für mehrere Datenbanken zugleich geschrieben und nennt eine Datei, die entfernt würde. Öffnen Sie die Datenbank in jenem Programm, oder verschieben Sie die Datei in ein anderes Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>Die Datenbank %1 wird nicht benutzt: %2 ist das Journal einer anderen Datenbank oder eines anderen Standes von dieser und würde sie beschädigen. Verschieben Sie diese Datei in ein anderes Verzeichnis, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>Die Datenbank %1 ist von einem anderen Programm gesperrt (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>Die Datenbank %1 kann nicht geschrieben werden (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>Die Datenbank %1 ist beschädigt (%2). Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>Für die Datenbank %1 ist kein Platz (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>Die Datei %1 ist keine Datenbank (%2). Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>Die Datenbank %1 kann nicht benutzt werden: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>Der SQLite-Treiber von Qt ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>Die Datenbank %1 wurde mitten in einer Änderung von einem Programm verlassen, das dabei endete. Sie kann wieder gelesen werden, sobald sie jemand geöffnet hat, der sie schreiben darf.</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>Die Datenbank %1 kann gelesen, aber nicht geändert werden: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>Das Datenbankverzeichnis %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>Das Datenbankverzeichnis %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>Das Datenbankverzeichnis %1 ist kein Verzeichnis: Ein Teil davon ist eine Datei.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>Das Datenbankverzeichnis %1 ist nicht erreichbar: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>Die Datenbank %1 ist leer: Ihr Inhalt ging verloren. Sie bleibt, wie sie ist; setzen Sie eine Kopie an ihre Stelle, oder entfernen Sie sie, um neu zu beginnen.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>Die Datei %1 ist keine Datenbank (zu kurz). Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>Die Datenbank %1 ist nicht erreichbar: Sie ist ein Link auf %2 (%3). Ist das Laufwerk oder die Freigabe verbunden?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>Die Datenbank %1 ist nicht erreichbar (%2). Ist das Laufwerk oder die Freigabe verbunden?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>Die Datenbank %1 gibt es nicht, wohl aber %2 von einem Programm, das sie gerade schrieb. Bringen Sie die Datenbank zurück, oder verschieben Sie diese Datei in ein anderes Verzeichnis, um mit einer leeren Datenbank zu beginnen.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>Das Datenbankverzeichnis %1 enthält keine Datenbank, und es kann keine angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>Die Datenbank %1 ist beschädigt (ihr Ende fehlt). Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>Die Datenbank %1 kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>Die Datenbank %1 wurde von einem anderen Programm ersetzt oder entfernt, während sie benutzt wurde. Nichts wurde geändert: Sehen Sie nach, welche Bausteine jetzt da sind, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 Ob die Änderung gespeichert wurde, kann nicht gelesen werden: Sehen Sie sich die Bausteine an, bevor Sie es noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>Die Datenbank %1 wurde von einem anderen Programm ersetzt oder entfernt, während eine Änderung gespeichert wurde; diese ist verloren: Sehen Sie nach, welche Bausteine jetzt da sind, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>Die Datenbank %1 wurde von einem anderen Programm verändert: Ihre Texte sind %2, nicht UTF-8. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>Die Datei %1 ist eine Datenbank eines anderen Programms. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>Die Datenbank %1 wurde von einem neueren Programm geschrieben (ihr Schema ist %2, dieses Programm kennt bis %3). Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>Die Datenbank %1 wurde von einem anderen Programm verändert: Ihre Tabellen sind nicht die des Schemas %2. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>Die Datenbank in %1 ist beschädigt: %2</translation>
+    </message>
 </context>
 </TS>

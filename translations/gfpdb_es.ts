@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>La base de datos en %1 no está vacía.</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>Ya hay una plantilla guardada llamada %1.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>Ya hay un dispositivo llamado %1.</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>No hay ningún estado %1 en el historial.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>La base de datos de %1 es ahora otra.</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>Es el estado %1 del historial.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>La base de datos %1 no se usa: %2 es un enlace o no es un archivo normal. Quítelo si no lo puso usted.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>La base de datos %1 no se usa: %2 lo escribió otro programa y la modificaría. Cierre la base de datos en ese programa. Si el archivo sigue ahí, muévalo a otro directorio.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>La base de datos %1 no se usa: %2 lo escribió otro programa para varias bases de datos a la vez y nombra un archivo que se borraría. Abra la base de datos en ese programa o mueva el archivo a otro directorio.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>La base de datos %1 no se usa: %2 es el diario de otra base de datos, o de otro estado de esta, y la dañaría. Mueva ese archivo a otro directorio e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>La base de datos %1 está bloqueada por otro programa (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>No se puede escribir en la base de datos %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>La base de datos %1 está dañada (%2). Se deja como está.</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>No hay espacio para la base de datos %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>El archivo %1 no es una base de datos (%2). Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>No se puede usar la base de datos %1: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>El controlador SQLite de Qt no está instalado.</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>Un programa que terminó dejó la base de datos %1 a mitad de un cambio. Se podrá leer de nuevo cuando la haya abierto alguien que pueda escribir en ella.</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>La base de datos %1 se puede leer, pero no modificar: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>No se puede leer el directorio de base de datos %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>El directorio de base de datos %1 no existe.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>El directorio de base de datos %1 no es un directorio: una parte es un archivo.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>No se puede acceder al directorio de base de datos %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>La base de datos %1 está vacía: su contenido se perdió. Se deja como está; ponga una copia en su lugar o quítela para empezar de nuevo.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>El archivo %1 no es una base de datos (demasiado corto). Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>No se puede acceder a la base de datos %1: es un enlace a %2 (%3). ¿Está conectada la unidad o el recurso compartido donde está?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>No se puede acceder a la base de datos %1 (%2). ¿Está conectada la unidad o el recurso compartido donde está?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>No existe la base de datos %1, pero sí %2, que dejó un programa que la estaba escribiendo. Devuelva la base de datos a su lugar o mueva ese archivo a otro directorio para empezar con una base de datos vacía.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>El directorio %1 no contiene ninguna base de datos y no se puede crear: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>La base de datos %1 está dañada (falta el final). Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>No se puede crear la base de datos %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>Otro programa reemplazó o quitó la base de datos %1 mientras estaba en uso. No se cambió nada: mire los dispositivos que hay ahora e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 No se puede leer si el cambio se guardó: mire los dispositivos antes de intentarlo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>Otro programa reemplazó o quitó la base de datos %1 mientras se guardaba un cambio, que se perdió: mire los dispositivos que hay ahora e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>Otro programa modificó la base de datos %1: sus textos son %2, no UTF-8. Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>El archivo %1 es una base de datos de otro programa. Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>La base de datos %1 la escribió un programa más nuevo (su esquema es %2; este programa conoce hasta %3). Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>Otro programa modificó la base de datos %1: sus tablas no son las del esquema %2. Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>La base de datos de %1 está dañada: %2</translation>
+    </message>
 </context>
 </TS>

@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>La base de données dans %1 n’est pas vide.</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>Il existe déjà un modèle enregistré nommé %1.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>Il existe déjà un composant nommé %1.</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>L’historique n’a pas d’état %1.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>La base de données dans %1 n’est plus la même.</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>C’est l’état %1 de l’historique.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>La base de données %1 n’est pas utilisée&#xa0;: %2 est un lien ou n’est pas un fichier ordinaire. Supprimez-le si vous ne l’y avez pas mis.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>La base de données %1 n’est pas utilisée&#xa0;: %2 a été écrit par un autre programme et la modifierait. Fermez la base de données dans ce programme. Si le fichier est toujours là, déplacez-le dans un autre répertoire.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>La base de données %1 n’est pas utilisée&#xa0;: %2 a été écrit par un autre programme pour plusieurs bases de données à la fois, et nomme un fichier qui serait supprimé. Ouvrez la base de données dans ce programme, ou déplacez le fichier dans un autre répertoire.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>La base de données %1 n’est pas utilisée&#xa0;: %2 est le journal d’une autre base de données, ou d’un autre état de celle-ci, et l’endommagerait. Déplacez ce fichier dans un autre répertoire, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>La base de données %1 est verrouillée par un autre programme (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>La base de données %1 ne peut pas être écrite (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>La base de données %1 est endommagée (%2). Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>Il n’y a plus de place pour la base de données %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>Le fichier %1 n’est pas une base de données (%2). Il est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>La base de données %1 ne peut pas être utilisée&#xa0;: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>Le pilote SQLite de Qt n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>Un programme interrompu a laissé la base de données %1 au milieu d’une modification. Elle sera de nouveau lisible quand quelqu’un qui peut l’écrire l’aura ouverte une fois.</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>La base de données %1 peut être lue, mais pas modifiée&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>Le répertoire de base de données %1 ne peut pas être lu&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>Le répertoire de base de données %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>Le répertoire de base de données %1 n’est pas un répertoire&#xa0;: une partie est un fichier.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>Le répertoire de base de données %1 est inaccessible&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>La base de données %1 est vide&#xa0;: son contenu a été perdu. Elle est laissée telle quelle&#xa0;; mettez une copie à sa place, ou supprimez-la pour recommencer.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>Le fichier %1 n’est pas une base de données (trop court). Il est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>La base de données %1 est inaccessible&#xa0;: c’est un lien vers %2 (%3). Le lecteur ou le partage où elle se trouve est-il connecté&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>La base de données %1 est inaccessible (%2). Le lecteur ou le partage où elle se trouve est-il connecté&#xa0;?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>La base de données %1 n’existe pas, mais %2, laissé par un programme qui l’écrivait, existe. Remettez la base de données en place, ou déplacez ce fichier dans un autre répertoire pour commencer avec une base vide.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>Le répertoire %1 ne contient pas de base de données, et aucune ne peut être créée&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>La base de données %1 est endommagée (sa fin manque). Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>La base de données %1 ne peut pas être créée&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>La base de données %1 a été remplacée ou supprimée par un autre programme pendant son utilisation. Rien n’a été modifié&#xa0;: regardez les composants présents, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 Impossible de lire si la modification a été enregistrée&#xa0;: regardez les composants avant de réessayer.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>La base de données %1 a été remplacée ou supprimée par un autre programme pendant l’enregistrement d’une modification, qui est perdue&#xa0;: regardez les composants présents, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>La base de données %1 a été modifiée par un autre programme&#xa0;: ses textes sont en %2, pas en UTF-8. Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>Le fichier %1 est une base de données d’un autre programme. Il est laissé tel quel.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>La base de données %1 a été écrite par un programme plus récent (son schéma est %2, ce programme connaît jusqu’à %3). Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>La base de données %1 a été modifiée par un autre programme&#xa0;: ses tables ne sont pas celles du schéma %2. Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>La base de données dans %1 est endommagée&#xa0;: %2</translation>
+    </message>
 </context>
 </TS>

@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>Il database in %1 non è vuoto.</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>Esiste già un modello salvato di nome %1.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>Esiste già un dispositivo di nome %1.</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>Nella cronologia non c’è lo stato %1.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>Il database in %1 ora è un altro.</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>È lo stato %1 della cronologia.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>Il database %1 non viene usato: %2 è un collegamento o non è un file normale. Rimuoverlo se non è stato messo lì di proposito.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>Il database %1 non viene usato: %2 è stato scritto da un altro programma e lo modificherebbe. Chiudere il database in quel programma. Se il file c’è ancora, spostarlo in un’altra cartella.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>Il database %1 non viene usato: %2 è stato scritto da un altro programma per più database insieme e nomina un file che verrebbe rimosso. Aprire il database in quel programma o spostare il file in un’altra cartella.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>Il database %1 non viene usato: %2 è il journal di un altro database, o di un altro stato di questo, e lo danneggerebbe. Spostare quel file in un’altra cartella, poi riprovare.</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>Il database %1 è bloccato da un altro programma (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>Impossibile scrivere nel database %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>Il database %1 è danneggiato (%2). Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>Non c’è spazio per il database %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>Il file %1 non è un database (%2). Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>Impossibile usare il database %1: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>Il driver SQLite di Qt non è installato.</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>Un programma terminato ha lasciato il database %1 a metà di una modifica. Sarà di nuovo leggibile dopo che lo avrà aperto chi può scriverlo.</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>Il database %1 si può leggere, ma non modificare: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere la cartella del database %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>La cartella del database %1 non esiste.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>La cartella del database %1 non è una cartella: una sua parte è un file.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>La cartella del database %1 non è raggiungibile: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 non è un file.</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>Il database %1 è vuoto: il suo contenuto è andato perso. Viene lasciato com’è; mettere una copia al suo posto o rimuoverlo per ricominciare.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>Il file %1 non è un database (troppo corto). Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>Il database %1 non è raggiungibile: è un collegamento a %2 (%3). L’unità o la condivisione su cui si trova è connessa?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>Il database %1 non è raggiungibile (%2). L’unità o la condivisione su cui si trova è connessa?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>Il database %1 non esiste, ma esiste %2, lasciato da un programma che lo stava scrivendo. Rimettere il database al suo posto o spostare quel file in un’altra cartella per iniziare con un database vuoto.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>La cartella %1 non contiene un database e non è possibile crearlo: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>Il database %1 è danneggiato (manca la fine). Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>Impossibile creare il database %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>Il database %1 è stato sostituito o rimosso da un altro programma mentre era in uso. Nulla è stato modificato: guardare i dispositivi presenti ora, poi riprovare.</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 Non si può leggere se la modifica è stata salvata: guardare i dispositivi prima di riprovare.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>Il database %1 è stato sostituito o rimosso da un altro programma durante il salvataggio di una modifica, che è persa: guardare i dispositivi presenti ora, poi riprovare.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>Il database %1 è stato modificato da un altro programma: i suoi testi sono %2, non UTF-8. Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>Il file %1 è un database di un altro programma. Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>Il database %1 è stato scritto da un programma più recente (il suo schema è %2, questo programma conosce fino a %3). Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>Il database %1 è stato modificato da un altro programma: le sue tabelle non sono quelle dello schema %2. Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>Il database in %1 è danneggiato: %2</translation>
+    </message>
 </context>
 </TS>

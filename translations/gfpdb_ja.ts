@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>%1 のデータベースは空ではありません。</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>%1 という保存済みのテンプレートがすでにあります。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>%1 というデバイスがすでにあります。</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>履歴に状態 %1 はありません。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>%1 のデータベースは別のものになっています。</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>履歴の状態 %1 です。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>データベース %1 は使用されません: %2 はリンクか、通常のファイルではありません。自分で置いたものでなければ削除してください。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>データベース %1 は使用されません: %2 は別のプログラムが書き込んだもので、データベースを変更してしまいます。そのプログラムでデータベースを閉じてください。それでもファイルが残っていれば、別のディレクトリに移動してください。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>データベース %1 は使用されません: %2 は別のプログラムが複数のデータベースのために書き込んだもので、削除されてしまうファイルを指しています。そのプログラムでデータベースを開くか、ファイルを別のディレクトリに移動してください。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>データベース %1 は使用されません: %2 は別のデータベース、またはこのデータベースの別の状態のジャーナルで、データベースを壊してしまいます。そのファイルを別のディレクトリに移動してから、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>データベース %1 は別のプログラムにロックされています (%2)。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>データベース %1 に書き込めません (%2)。</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>データベース %1 は破損しています (%2)。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>データベース %1 のための空き容量がありません (%2)。</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>ファイル %1 はデータベースではありません (%2)。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>データベース %1 を使用できません: %2 (%3)。</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>Qt の SQLite ドライバーがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>データベース %1 は、途中で終了したプログラムにより変更の途中のままです。書き込み権限のある人が一度開くと、再び読み込めます。</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>データベース %1 は読み込めますが、変更できません: %2。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>データベースのディレクトリ %1 を読み込めません: %2。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>データベースのディレクトリ %1 は存在しません。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>データベースのディレクトリ %1 はディレクトリではありません: 一部がファイルです。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>データベースのディレクトリ %1 にアクセスできません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 はファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>データベース %1 は空です: 内容が失われました。そのまま残されます。コピーで置き換えるか、削除して始め直してください。</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>ファイル %1 はデータベースではありません (短すぎます)。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>データベース %1 にアクセスできません: %2 へのリンクです (%3)。ドライブまたは共有は接続されていますか?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>データベース %1 にアクセスできません (%2)。ドライブまたは共有は接続されていますか?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>データベース %1 はありませんが、書き込み中だったプログラムが残した %2 があります。データベースを元に戻すか、そのファイルを別のディレクトリに移動して空のデータベースから始めてください。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>ディレクトリ %1 にデータベースがなく、作成もできません: %2。</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>データベース %1 は破損しています (末尾がありません)。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>データベース %1 を作成できません: %2。</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>データベース %1 は使用中に別のプログラムにより置き換えまたは削除されました。何も変更されていません: 現在のデバイスを確認してから、やり直してください。</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 変更が保存されたかどうか読み取れません: デバイスを確認してから、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>データベース %1 は変更の保存中に別のプログラムにより置き換えまたは削除され、その変更は失われました: 現在のデバイスを確認してから、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>データベース %1 は別のプログラムにより変更されました: テキストが UTF-8 ではなく %2 です。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>ファイル %1 は別のプログラムのデータベースです。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>データベース %1 は新しいプログラムで作成されました (スキーマ %2、このプログラムの対応は %3 まで)。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>データベース %1 は別のプログラムにより変更されました: テーブルがスキーマ %2 のものではありません。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>%1 のデータベースは破損しています: %2</translation>
+    </message>
 </context>
 </TS>

@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>%1의 데이터베이스가 비어 있지 않습니다.</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>%1(이)라는 저장된 템플릿이 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>%1(이)라는 디바이스가 이미 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>이력에 상태 %1이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>%1의 데이터베이스가 다른 것으로 바뀌었습니다.</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>이력의 상태 %1입니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>데이터베이스 %1을(를) 사용하지 않습니다: %2은(는) 링크이거나 일반 파일이 아닙니다. 직접 둔 것이 아니면 지우십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>데이터베이스 %1을(를) 사용하지 않습니다: %2은(는) 다른 프로그램이 쓴 것이며 데이터베이스를 바꾸게 됩니다. 그 프로그램에서 데이터베이스를 닫으십시오. 그래도 파일이 남아 있으면 다른 폴더로 옮기십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>데이터베이스 %1을(를) 사용하지 않습니다: %2은(는) 다른 프로그램이 여러 데이터베이스를 위해 한꺼번에 쓴 것이며, 제거될 파일을 가리킵니다. 그 프로그램에서 데이터베이스를 열거나 파일을 다른 폴더로 옮기십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>데이터베이스 %1을(를) 사용하지 않습니다: %2은(는) 다른 데이터베이스나 이 데이터베이스의 다른 상태의 저널이며 데이터베이스를 손상시키게 됩니다. 그 파일을 다른 폴더로 옮긴 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>데이터베이스 %1이(가) 다른 프로그램에 의해 잠겨 있습니다(%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>데이터베이스 %1에 쓸 수 없습니다(%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>데이터베이스 %1이(가) 손상되었습니다(%2). 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>데이터베이스 %1을(를) 저장할 공간이 없습니다(%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>파일 %1은(는) 데이터베이스가 아닙니다(%2). 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>데이터베이스 %1을(를) 사용할 수 없습니다: %2(%3).</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>Qt의 SQLite 드라이버가 설치되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>프로그램이 도중에 끝나 데이터베이스 %1이(가) 변경 중인 상태로 남아 있습니다. 쓸 수 있는 사람이 한 번 열면 다시 읽을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>데이터베이스 %1을(를) 읽을 수는 있지만 바꿀 수는 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>데이터베이스 폴더 %1을(를) 읽을 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>데이터베이스 폴더 %1이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>데이터베이스 폴더 %1은(는) 폴더가 아닙니다: 일부가 파일입니다.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>데이터베이스 폴더 %1에 접근할 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1은(는) 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>데이터베이스 %1이(가) 비어 있습니다: 내용이 사라졌습니다. 그대로 둡니다. 사본으로 바꾸거나, 지우고 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>파일 %1은(는) 데이터베이스가 아닙니다(너무 짧음). 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>데이터베이스 %1에 접근할 수 없습니다: %2(으)로 연결된 링크입니다(%3). 드라이브나 공유가 연결되어 있습니까?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>데이터베이스 %1에 접근할 수 없습니다(%2). 드라이브나 공유가 연결되어 있습니까?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>데이터베이스 %1은(는) 없지만, 이를 쓰던 프로그램이 남긴 %2이(가) 있습니다. 데이터베이스를 되돌려 놓거나, 그 파일을 다른 폴더로 옮겨 빈 데이터베이스로 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>데이터베이스 폴더 %1에 데이터베이스가 없으며 만들 수도 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>데이터베이스 %1이(가) 손상되었습니다(끝부분이 없음). 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>데이터베이스 %1을(를) 만들 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>데이터베이스 %1이(가) 사용 중에 다른 프로그램에 의해 바뀌거나 제거되었습니다. 아무것도 바뀌지 않았습니다: 지금 있는 디바이스를 보고 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 변경이 저장되었는지 읽을 수 없습니다: 디바이스를 본 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>변경을 저장하는 동안 데이터베이스 %1이(가) 다른 프로그램에 의해 바뀌거나 제거되어 그 변경이 사라졌습니다: 지금 있는 디바이스를 보고 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>데이터베이스 %1이(가) 다른 프로그램에 의해 변경되었습니다: 텍스트가 UTF-8이 아니라 %2입니다. 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>파일 %1은(는) 다른 프로그램의 데이터베이스입니다. 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>데이터베이스 %1은(는) 더 새로운 프로그램이 썼습니다(스키마 %2, 이 프로그램은 %3까지 지원). 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>데이터베이스 %1이(가) 다른 프로그램에 의해 변경되었습니다: 테이블이 스키마 %2의 것이 아닙니다. 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>%1의 데이터베이스가 손상되었습니다: %2</translation>
+    </message>
 </context>
 </TS>

@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>O banco de dados em %1 não está vazio.</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>Já existe um modelo salvo chamado %1.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>Já existe um dispositivo chamado %1.</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>Não há estado %1 no histórico.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>O banco de dados em %1 agora é outro.</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>É o estado %1 do histórico.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>O banco de dados %1 não é usado: %2 é um link ou não é um arquivo comum. Remova-o se você não o colocou ali.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>O banco de dados %1 não é usado: %2 foi gravado por outro programa e o alteraria. Feche o banco de dados nesse programa. Se o arquivo ainda estiver lá, mova-o para outro diretório.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>O banco de dados %1 não é usado: %2 foi gravado por outro programa para vários bancos de dados de uma vez e cita um arquivo que seria removido. Abra o banco de dados nesse programa ou mova o arquivo para outro diretório.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>O banco de dados %1 não é usado: %2 é o diário de outro banco de dados, ou de outro estado deste, e o danificaria. Mova esse arquivo para outro diretório e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>O banco de dados %1 está bloqueado por outro programa (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>O banco de dados %1 não pode ser gravado (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>O banco de dados %1 está danificado (%2). Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>Não há espaço para o banco de dados %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>O arquivo %1 não é um banco de dados (%2). Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>O banco de dados %1 não pode ser usado: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>O driver SQLite do Qt não está instalado.</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>Um programa que terminou deixou o banco de dados %1 no meio de uma alteração. Ele poderá ser lido de novo quando alguém que pode gravá-lo o abrir uma vez.</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>O banco de dados %1 pode ser lido, mas não alterado: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>O diretório do banco de dados %1 não pode ser lido: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>O diretório do banco de dados %1 não existe.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>O diretório do banco de dados %1 não é um diretório: uma parte dele é um arquivo.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>O diretório do banco de dados %1 não pode ser acessado: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 não é um arquivo.</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>O banco de dados %1 está vazio: seu conteúdo foi perdido. Ele é deixado como está; coloque uma cópia no lugar ou remova-o para recomeçar.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>O arquivo %1 não é um banco de dados (curto demais). Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>O banco de dados %1 não pode ser acessado: é um link para %2 (%3). A unidade ou o compartilhamento em que ele está foi conectado?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>O banco de dados %1 não pode ser acessado (%2). A unidade ou o compartilhamento em que ele está foi conectado?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>O banco de dados %1 não existe, mas existe %2, deixado por um programa que o gravava. Coloque o banco de dados de volta ou mova esse arquivo para outro diretório para começar com um banco de dados vazio.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>O diretório %1 não contém banco de dados, e nenhum pode ser criado: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>O banco de dados %1 está danificado (falta o final). Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>O banco de dados %1 não pode ser criado: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>O banco de dados %1 foi substituído ou removido por outro programa enquanto estava em uso. Nada foi alterado: veja os dispositivos que existem agora e tente de novo.</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 Não é possível ler se a alteração foi salva: veja os dispositivos antes de tentar de novo.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>O banco de dados %1 foi substituído ou removido por outro programa enquanto uma alteração era salva, e ela se perdeu: veja os dispositivos que existem agora e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>O banco de dados %1 foi alterado por outro programa: seus textos são %2, não UTF-8. Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>O arquivo %1 é um banco de dados de outro programa. Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>O banco de dados %1 foi gravado por um programa mais novo (seu esquema é %2; este programa conhece até %3). Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>O banco de dados %1 foi alterado por outro programa: suas tabelas não são as do esquema %2. Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>O banco de dados em %1 está danificado: %2</translation>
+    </message>
 </context>
 </TS>

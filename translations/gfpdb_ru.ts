@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>База данных в %1 не пуста.</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>Сохранённый шаблон %1 уже существует.</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>Микросхема %1 уже существует.</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>В истории нет состояния %1.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>База данных в %1 теперь другая.</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>Это состояние %1 в истории.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>База данных %1 не используется: %2 — ссылка или не обычный файл. Удалите его, если поместили его туда не вы.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>База данных %1 не используется: %2 записан другой программой и изменил бы её. Закройте базу данных в той программе. Если файл останется, переместите его в другой каталог.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>База данных %1 не используется: %2 записан другой программой сразу для нескольких баз данных и называет файл, который был бы удалён. Откройте базу данных в той программе или переместите файл в другой каталог.</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>База данных %1 не используется: %2 — журнал другой базы данных или другого состояния этой и повредил бы её. Переместите этот файл в другой каталог и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>База данных %1 заблокирована другой программой (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>Не удаётся записать в базу данных %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>База данных %1 повреждена (%2). Она оставлена как есть.</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>Нет места для базы данных %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>Файл %1 — не база данных (%2). Он оставлен как есть.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>Не удаётся использовать базу данных %1: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>Драйвер SQLite для Qt не установлен.</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>Программа завершилась и оставила базу данных %1 посреди изменения. Её можно будет прочитать, когда её откроет тот, кто может в неё записывать.</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>Базу данных %1 можно читать, но нельзя изменять: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>Не удаётся прочитать каталог базы данных %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>Каталог базы данных %1 не существует.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>Каталог базы данных %1 — не каталог: часть пути является файлом.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>Каталог базы данных %1 недоступен: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 — не файл.</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>База данных %1 пуста: её содержимое потеряно. Она оставлена как есть; замените её копией или удалите, чтобы начать заново.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>Файл %1 — не база данных (слишком короткий). Он оставлен как есть.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>База данных %1 недоступна: это ссылка на %2 (%3). Подключён ли диск или общий ресурс, на котором она находится?</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>База данных %1 недоступна (%2). Подключён ли диск или общий ресурс, на котором она находится?</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>Базы данных %1 нет, но есть %2, оставленный программой, которая в неё записывала. Верните базу данных на место или переместите этот файл в другой каталог, чтобы начать с пустой базы данных.</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>В каталоге %1 нет базы данных, и создать её не удаётся: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>База данных %1 повреждена (нет её конца). Она оставлена как есть.</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>Не удаётся создать базу данных %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>База данных %1 во время работы была заменена или удалена другой программой. Ничего не изменено: посмотрите, какие микросхемы есть сейчас, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1 Не удаётся прочитать, сохранено ли изменение: посмотрите на микросхемы, прежде чем повторить попытку.</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>База данных %1 была заменена или удалена другой программой во время сохранения изменения, и оно потеряно: посмотрите, какие микросхемы есть сейчас, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>База данных %1 изменена другой программой: её тексты в кодировке %2, а не UTF-8. Она оставлена как есть.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>Файл %1 — база данных другой программы. Он оставлен как есть.</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>База данных %1 записана более новой программой (её схема %2, эта программа знает до %3). Она оставлена как есть.</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>База данных %1 изменена другой программой: её таблицы не соответствуют схеме %2. Она оставлена как есть.</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>База данных в %1 повреждена: %2</translation>
+    </message>
 </context>
 </TS>

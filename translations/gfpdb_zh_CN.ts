@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>%1 中的数据库不为空。</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>已有名为 %1 的已保存模板。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>已有名为 %1 的器件。</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>历史记录中没有状态 %1。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>%1 中的数据库已是另一个数据库。</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>它是历史记录中的状态 %1。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>未使用数据库 %1：%2 是链接或不是普通文件。如果不是您放置的，请将其删除。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>未使用数据库 %1：%2 由其他程序写入，会更改数据库。请在该程序中关闭数据库。如果文件仍在，请将其移到其他目录。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>未使用数据库 %1：%2 由其他程序为多个数据库同时写入，并指向一个会被删除的文件。请在该程序中打开数据库，或将文件移到其他目录。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>未使用数据库 %1：%2 是其他数据库或此数据库其他状态的日志，会损坏它。请将该文件移到其他目录，然后重试。</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>数据库 %1 被其他程序锁定 (%2)。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>无法写入数据库 %1 (%2)。</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>数据库 %1 已损坏 (%2)。将保持原样。</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>没有空间用于数据库 %1 (%2)。</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>文件 %1 不是数据库 (%2)。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>无法使用数据库 %1：%2 (%3)。</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>未安装 Qt 的 SQLite 驱动程序。</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>某个程序中途结束，使数据库 %1 停留在更改过程中。由有写入权限的人打开一次后即可再次读取。</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>数据库 %1 可以读取，但不能更改：%2。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>无法读取数据库目录 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>数据库目录 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>数据库目录 %1 不是目录：其中一部分是文件。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>无法访问数据库目录 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 不是文件。</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>数据库 %1 为空：其内容已丢失。将保持原样；请用副本替换，或将其删除以重新开始。</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>文件 %1 不是数据库（太短）。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>无法访问数据库 %1：它是指向 %2 的链接 (%3)。其所在的驱动器或共享是否已连接？</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>无法访问数据库 %1 (%2)。其所在的驱动器或共享是否已连接？</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>数据库 %1 不存在，但有 %2，是正在写入它的程序遗留的。请放回数据库，或将该文件移到其他目录，以空数据库开始。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>数据库目录 %1 中没有数据库，也无法创建：%2。</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>数据库 %1 已损坏（缺少末尾）。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>无法创建数据库 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>数据库 %1 在使用期间被其他程序替换或删除。未做任何更改：请查看现有的器件，然后重试。</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1无法读取更改是否已保存：请先查看器件再重试。</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>数据库 %1 在保存更改时被其他程序替换或删除，该更改已丢失：请查看现有的器件，然后重试。</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>数据库 %1 被其他程序改动：其文本是 %2，而不是 UTF-8。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>文件 %1 是其他程序的数据库。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>数据库 %1 由较新的程序写入（其架构为 %2，此程序最高支持 %3）。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>数据库 %1 被其他程序改动：其表不是架构 %2 的表。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>%1 中的数据库已损坏：%2</translation>
+    </message>
 </context>
 </TS>

@@ -355,5 +355,161 @@
         <source>The database in %1 is not empty.</source>
         <translation>%1 中的資料庫不是空的。</translation>
     </message>
+    <message>
+        <source>There is a stored template called %1 already.</source>
+        <translation>已有名為 %1 的已儲存範本。</translation>
+    </message>
+    <message>
+        <source>There is a device called %1 already.</source>
+        <translation>已有名為 %1 的元件。</translation>
+    </message>
+    <message>
+        <source>There is no state %1 in the history.</source>
+        <translation>歷史記錄中沒有狀態 %1。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is another one now.</source>
+        <translation>%1 中的資料庫已是另一個資料庫。</translation>
+    </message>
+    <message>
+        <source>It is state %1 of the history.</source>
+        <translation>它是歷史記錄中的狀態 %1。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is a link or not a regular file. Remove it if you did not put it there.</source>
+        <translation>未使用資料庫 %1：%2 是連結或不是一般檔案。如果不是您放置的，請將其刪除。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program, and would change it. Close the database in that program. If the file is still there then, move it to another directory.</source>
+        <translation>未使用資料庫 %1：%2 由其他程式寫入，會變更資料庫。請在該程式中關閉資料庫。如果檔案仍在，請將其移到其他目錄。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 was written by another program for several databases at once, and names a file that would be removed. Open the database in that program, or move the file to another directory.</source>
+        <translation>未使用資料庫 %1：%2 由其他程式為多個資料庫同時寫入，並指向一個會被刪除的檔案。請在該程式中開啟資料庫，或將檔案移到其他目錄。</translation>
+    </message>
+    <message>
+        <source>The database %1 is not used: %2 is the journal of another database, or of another state of this one, and would damage it. Move that file to another directory, then try again.</source>
+        <translation>未使用資料庫 %1：%2 是其他資料庫或此資料庫其他狀態的日誌，會損壞它。請將該檔案移到其他目錄，然後重試。</translation>
+    </message>
+    <message>
+        <source>The database %1 is locked by another program (%2).</source>
+        <translation>資料庫 %1 被其他程式鎖定 (%2)。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be written (%2).</source>
+        <translation>無法寫入資料庫 %1 (%2)。</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (%2). It is left as it is.</source>
+        <translation>資料庫 %1 已損毀 (%2)。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>There is no room for the database %1 (%2).</source>
+        <translation>沒有空間可用於資料庫 %1 (%2)。</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (%2). It is left as it is.</source>
+        <translation>檔案 %1 不是資料庫 (%2)。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be used: %2 (%3).</source>
+        <translation>無法使用資料庫 %1：%2 (%3)。</translation>
+    </message>
+    <message>
+        <source>The SQLite driver of Qt is not installed.</source>
+        <translation>未安裝 Qt 的 SQLite 驅動程式。</translation>
+    </message>
+    <message>
+        <source>The database %1 was left in the middle of a change by a program that ended there. It can be read again when someone who can write it has opened it once.</source>
+        <translation>某個程式中途結束，使資料庫 %1 停留在變更過程中。由有寫入權限的人開啟一次後即可再次讀取。</translation>
+    </message>
+    <message>
+        <source>The database %1 can be read, but not changed: %2.</source>
+        <translation>資料庫 %1 可以讀取，但不能變更：%2。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be read: %2.</source>
+        <translation>無法讀取資料庫目錄 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 does not exist.</source>
+        <translation>資料庫目錄 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 is not a directory: a part of it is a file.</source>
+        <translation>資料庫目錄 %1 不是目錄：其中一部分是檔案。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 cannot be reached: %2.</source>
+        <translation>無法存取資料庫目錄 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 不是檔案。</translation>
+    </message>
+    <message>
+        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <translation>資料庫 %1 是空的：其內容已遺失。將保持原樣；請用複本取代，或將其刪除以重新開始。</translation>
+    </message>
+    <message>
+        <source>The file %1 is not a database (too short). It is left as it is.</source>
+        <translation>檔案 %1 不是資料庫（太短）。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached: it is a link to %2 (%3). Is the drive or the share that it is on connected?</source>
+        <translation>無法存取資料庫 %1：它是指向 %2 的連結 (%3)。其所在的磁碟機或共用是否已連線？</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be reached (%2). Is the drive or the share that it is on connected?</source>
+        <translation>無法存取資料庫 %1 (%2)。其所在的磁碟機或共用是否已連線？</translation>
+    </message>
+    <message>
+        <source>There is no database %1, but %2, which a program left that was writing it. Put the database back, or move that file to another directory to begin with an empty database.</source>
+        <translation>資料庫 %1 不存在，但有 %2，是正在寫入它的程式遺留的。請放回資料庫，或將該檔案移到其他目錄，以空資料庫開始。</translation>
+    </message>
+    <message>
+        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <translation>資料庫目錄 %1 中沒有資料庫，也無法建立：%2。</translation>
+    </message>
+    <message>
+        <source>The database %1 is damaged (its end is missing). It is left as it is.</source>
+        <translation>資料庫 %1 已損毀（缺少結尾）。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database %1 cannot be made: %2.</source>
+        <translation>無法建立資料庫 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>資料庫 %1 在使用期間被其他程式取代或刪除。未做任何變更：請查看現有的元件，然後重試。</translation>
+    </message>
+    <message>
+        <source>%1 Whether the change was stored cannot be read: look at the devices before you try again.</source>
+        <translation>%1無法讀取變更是否已儲存：請先查看元件再重試。</translation>
+    </message>
+    <message>
+        <source>The database %1 was replaced or removed by another program while a change was stored, which is lost: look at the devices that are there now, then try again.</source>
+        <translation>資料庫 %1 在儲存變更時被其他程式取代或刪除，該變更已遺失：請查看現有的元件，然後重試。</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its texts are %2, not UTF-8. It is left as it is.</source>
+        <translation>資料庫 %1 被其他程式改動：其文字是 %2，而不是 UTF-8。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database of another program. It is left as it is.</source>
+        <translation>檔案 %1 是其他程式的資料庫。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database %1 was written by a newer program (its schema is %2, this program knows up to %3). It is left as it is.</source>
+        <translation>資料庫 %1 由較新的程式寫入（其結構為 %2，此程式最高支援 %3）。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database %1 was altered by another program: its tables are not those of schema %2. It is left as it is.</source>
+        <translation>資料庫 %1 被其他程式改動：其資料表不是結構 %2 的資料表。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database in %1 is damaged: %2</source>
+        <translation>%1 中的資料庫已損毀：%2</translation>
+    </message>
 </context>
 </TS>

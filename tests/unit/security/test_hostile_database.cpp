@@ -243,7 +243,7 @@ private slots:
         const int other_end = is_pipe ? ::open(path, O_RDWR | O_CLOEXEC) : -1;
 
         verify_refused("The database " + m_place->db_file() + " is not used: " + companion +
-                       " is a link or not a file. Remove it if you did not put it there.");
+                       " is a link or not a regular file. Remove it if you did not put it there.");
         ::close(other_end);
         QCOMPARE(read_file(victim), std::string("the user's own"));
         QCOMPARE(std::remove(path), 0);
@@ -259,8 +259,8 @@ private slots:
         ::unlink(journal.c_str());
         QCOMPARE(::symlink(victim.c_str(), journal.c_str()), 0);
 
-        expect_warning("is a link or not a file");
-        expect_warning("is a link or not a file");
+        expect_warning("is a link or not a regular file");
+        expect_warning("is a link or not a regular file");
         QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "C"), m_place->db_dir()));
         QCOMPARE(custom_names(*m_mgr), NAMES());
         QCOMPARE(read_file(victim), std::string("the user's own"));
@@ -275,7 +275,7 @@ private slots:
         m_mgr = fresh_manager();
         QCOMPARE(GFPDB_HELPER::get_database_problem(), std::string());
 
-        expect_warning("is a link or not a file");
+        expect_warning("is a link or not a regular file");
         QVERIFY(!m_mgr->save_flash(make_device(*m_mgr, "A"), m_place->db_dir()));
         QCOMPARE(read_file(victim), std::string("the user's own"));
     }
@@ -295,7 +295,7 @@ private slots:
         write_file(m_place->path("victim"), "the user's own");
         ::unlink((real_file + "-journal").c_str());
         QCOMPARE(::symlink(m_place->path("victim").c_str(), (real_file + "-journal").c_str()), 0);
-        verify_refused("other.sqlite-journal is a link or not a file.");
+        verify_refused("other.sqlite-journal is a link or not a regular file.");
         QCOMPARE(read_file(m_place->path("victim")), std::string("the user's own"));
     }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/gfpdb_sqlite_companions.h"
 
+#include "base/gfpdb_words.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -185,23 +187,33 @@ std::string gfpdb_left_file(const std::string& file)
 std::string gfpdb_companion_problem(const std::string& file)
 {
     const std::string path = real_path_of(file);
-    const std::string problem = "The database " + file + " is not used: ";
     for (const char* suffix : {JOURNAL_SUFFIX, WAL_SUFFIX, WAL_INDEX_SUFFIX}) {
         struct stat status = {};
         if (::lstat((path + suffix).c_str(), &status) == 0 && (!S_ISREG(status.st_mode) || status.st_nlink != 1))
-            return problem + path + suffix + " is a link or not a file. Remove it if you did not put it there.";
+            return GFPDB_WORDS::say(
+                "The database %1 is not used: %2 is a link or not a regular file. Remove it if you did "
+                "not put it there.",
+                {file, path + suffix});
     }
     // First the WAL: SQLite uses it whatever the journal is.
     const std::string wal = path + WAL_SUFFIX;
     const std::string journal = path + JOURNAL_SUFFIX;
     if (is_left(wal))
-        return problem + wal + " was written by another program, and would change it. Close the database in that " +
-               "program. If the file is still there then, move it to another directory.";
+        return GFPDB_WORDS::say(
+            "The database %1 is not used: %2 was written by another program, and would change it. Close "
+            "the database in that program. If the file is still there then, move it to another "
+            "directory.",
+            {file, wal});
     if (names_a_list(journal, size_of(journal)))
-        return problem + journal + " was written by another program for several databases at once, and names a file " +
-               "that would be removed. Open the database in that program, or move the file to another directory.";
+        return GFPDB_WORDS::say(
+            "The database %1 is not used: %2 was written by another program for several databases at "
+            "once, and names a file that would be removed. Open the database in that program, or move "
+            "the file to another directory.",
+            {file, journal});
     if (is_left(journal) && !is_own_journal(path, journal))
-        return problem + journal + " is the journal of another database, or of another state of this one, and would " +
-               "damage it. Move that file to another directory, then try again.";
+        return GFPDB_WORDS::say(
+            "The database %1 is not used: %2 is the journal of another database, or of another state of "
+            "this one, and would damage it. Move that file to another directory, then try again.",
+            {file, journal});
     return std::string();
 }

@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_settings.h"
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/sqlite/gfpdb_sqlite_companions.h"
 
 #include <QSqlDatabase>
@@ -72,20 +73,21 @@ int code_of(const QSqlError& error)
 
 std::string describe(const QSqlError& error, const std::string& path)
 {
-    const std::string words = " (" + gfpdb_to_utf8(error.databaseText()) + ").";
+    const std::string words = gfpdb_to_utf8(error.databaseText());
     switch (code_of(error)) {
     case SQLITE_CODE_BUSY:
-        return "The database " + path + " is locked by another program" + words;
+        return GFPDB_WORDS::say("The database %1 is locked by another program (%2).", {path, words});
     case SQLITE_CODE_READONLY:
-        return "The database " + path + " cannot be written" + words;
+        return GFPDB_WORDS::say("The database %1 cannot be written (%2).", {path, words});
     case SQLITE_CODE_CORRUPT:
-        return "The database " + path + " is damaged" + words + " It is left as it is.";
+        return GFPDB_WORDS::say("The database %1 is damaged (%2). It is left as it is.", {path, words});
     case SQLITE_CODE_FULL:
-        return "There is no room for the database " + path + words;
+        return GFPDB_WORDS::say("There is no room for the database %1 (%2).", {path, words});
     case SQLITE_CODE_NOT_A_DATABASE:
-        return "The file " + path + " is not a database" + words + " It is left as it is.";
+        return GFPDB_WORDS::say("The file %1 is not a database (%2). It is left as it is.", {path, words});
     default:
-        return "The database " + path + " cannot be used: " + gfpdb_to_utf8(error.driverText()) + words;
+        return GFPDB_WORDS::say("The database %1 cannot be used: %2 (%3).",
+                                {path, gfpdb_to_utf8(error.driverText()), words});
     }
 }
 
@@ -116,7 +118,7 @@ bool GFPDB_SQLITE_CONNECTION::open(const std::string& file, MODE mode)
     m_mode = mode;
     QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name());
     if (!connection.isValid())
-        return fail("The SQLite driver of Qt is not installed.");
+        return fail(GFPDB_WORDS::say("The SQLite driver of Qt is not installed."));
     connection.setDatabaseName(uri_of(file, mode));
     m_busy_timeout_ms = busy_timeout();
     m_wait_ms = is_in_vain(m_path) ? 0 : m_busy_timeout_ms;
@@ -182,8 +184,10 @@ bool GFPDB_SQLITE_CONNECTION::fail(const QSqlError& error)
     }
     const bool is_refused = code_of(error) == SQLITE_CODE_READONLY;
     if (is_refused && m_mode == MODE::READ_ONLY && !gfpdb_left_file(m_path).empty())
-        return fail("The database " + m_path + " was left in the middle of a change by a program that ended there. " +
-                    "It can be read again when someone who can write it has opened it once.");
+        return fail(
+            GFPDB_WORDS::say("The database %1 was left in the middle of a change by a program that ended there. It "
+                             "can be read again when someone who can write it has opened it once.",
+                             {m_path}));
     m_is_stale = m_is_stale || (is_refused && m_mode == MODE::READ_WRITE);
     return fail(describe(error, m_path));
 }

@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/sqlite/gfpdb_sqlite_companions.h"
 
 #include <QRandomGenerator>
@@ -126,7 +127,8 @@ void GFPDB_SQLITE_FILE::open()
     } else if (writable) {
         set_problem(STATE::READ_WRITE, std::string());
     } else {
-        set_problem(STATE::READ_ONLY, "The database " + m_path + " can be read, but not changed: " + why + ".");
+        set_problem(STATE::READ_ONLY,
+                    GFPDB_WORDS::say("The database %1 can be read, but not changed: %2.", {m_path, why}));
     }
 }
 
@@ -141,17 +143,20 @@ bool GFPDB_SQLITE_FILE::open_connection(bool is_writable)
 bool GFPDB_SQLITE_FILE::examine_directory()
 {
     struct stat status = {};
-    const std::string name = "The database directory " + m_directory;
     if (::stat(m_directory.c_str(), &status) == 0) {
         if (::access(m_directory.c_str(), R_OK | X_OK) == 0)
             return true;
-        set_problem(STATE::UNUSABLE, name + " cannot be read: " + std::strerror(errno) + ".");
+        set_problem(STATE::UNUSABLE, GFPDB_WORDS::say("The database directory %1 cannot be read: %2.",
+                                                      {m_directory, std::strerror(errno)}));
     } else if (errno == ENOENT) {
-        set_problem(STATE::UNUSABLE, name + " does not exist.");
+        set_problem(STATE::UNUSABLE, GFPDB_WORDS::say("The database directory %1 does not exist.", {m_directory}));
     } else if (errno == ENOTDIR) {
-        set_problem(STATE::UNUSABLE, name + " is not a directory: a part of it is a file.");
+        set_problem(
+            STATE::UNUSABLE,
+            GFPDB_WORDS::say("The database directory %1 is not a directory: a part of it is a file.", {m_directory}));
     } else {
-        set_problem(STATE::UNUSABLE, name + " cannot be reached: " + std::strerror(errno) + ".");
+        set_problem(STATE::UNUSABLE, GFPDB_WORDS::say("The database directory %1 cannot be reached: %2.",
+                                                      {m_directory, std::strerror(errno)}));
     }
     return false;
 }
@@ -167,13 +172,15 @@ bool GFPDB_SQLITE_FILE::examine_file()
     }
     m_identity = FILE_IDENTITY{status.st_dev, status.st_ino};
     if (!S_ISREG(status.st_mode))
-        set_problem(STATE::UNUSABLE, m_path + " is not a file.");
+        set_problem(STATE::UNUSABLE, GFPDB_WORDS::say("%1 is not a file.", {m_path}));
     else if (status.st_size == 0)
-        set_problem(STATE::UNUSABLE, "The database " + m_path +
-                                         " is empty: its content was lost. It is left as it is; put a copy in its " +
-                                         "place, or remove it to begin again.");
+        set_problem(STATE::UNUSABLE,
+                    GFPDB_WORDS::say("The database %1 is empty: its content was lost. It is left as it is; put a "
+                                     "copy in its place, or remove it to begin again.",
+                                     {m_path}));
     else if (status.st_size < SMALLEST_FILE)
-        set_problem(STATE::UNUSABLE, "The file " + m_path + " is not a database (too short). It is left as it is.");
+        set_problem(STATE::UNUSABLE,
+                    GFPDB_WORDS::say("The file %1 is not a database (too short). It is left as it is.", {m_path}));
     else
         return true;
     return false;
@@ -184,20 +191,28 @@ void GFPDB_SQLITE_FILE::examine_missing_file(int error, const std::string& left)
 {
     struct stat status = {};
     const bool is_link = ::lstat(m_path.c_str(), &status) == 0;
-    if (is_link || error != ENOENT)
-        set_problem(STATE::UNUSABLE, "The database " + m_path + " cannot be reached" +
-                                         (is_link ? ": it is a link to " + target_of(m_path) : std::string()) + " (" +
-                                         std::strerror(error) +
-                                         "). Is the drive or the share that it is on connected?");
+    if (is_link)
+        set_problem(STATE::UNUSABLE,
+                    GFPDB_WORDS::say("The database %1 cannot be reached: it is a link to %2 (%3). Is the "
+                                     "drive or the share that it is on connected?",
+                                     {m_path, target_of(m_path), std::strerror(error)}));
+    else if (error != ENOENT)
+        set_problem(STATE::UNUSABLE,
+                    GFPDB_WORDS::say("The database %1 cannot be reached (%2). Is the drive or the share "
+                                     "that it is on connected?",
+                                     {m_path, std::strerror(error)}));
     else if (!left.empty())
-        set_problem(STATE::UNUSABLE, "There is no database " + m_path + ", but " + left +
-                                         ", which a program left that was writing it. Put the database back, or move " +
-                                         "that file to another directory to begin with an empty database.");
+        set_problem(STATE::UNUSABLE,
+                    GFPDB_WORDS::say("There is no database %1, but %2, which a program left that was writing it. Put "
+                                     "the database back, or move that file to another directory to begin with an empty "
+                                     "database.",
+                                     {m_path, left}));
     else if (::access(m_directory.c_str(), W_OK) == 0)
         set_problem(STATE::NO_FILE, std::string());
     else
-        set_problem(STATE::UNUSABLE, "The database directory " + m_directory +
-                                         " holds no database, and none can be made: " + std::strerror(errno) + ".");
+        set_problem(STATE::UNUSABLE,
+                    GFPDB_WORDS::say("The database directory %1 holds no database, and none can be made: %2.",
+                                     {m_directory, std::strerror(errno)}));
 }
 
 bool GFPDB_SQLITE_FILE::has_own_companions()
@@ -215,7 +230,8 @@ bool GFPDB_SQLITE_FILE::is_whole_file()
     if (!m_connection.prepare(query, "PRAGMA page_size") || !m_connection.run(query) || !query.next())
         return m_connection.fail(query.lastError());
     if (::stat(m_path.c_str(), &status) != 0 || status.st_size % query.value(0).toInt() != 0)
-        return m_connection.fail("The database " + m_path + " is damaged (its end is missing). It is left as it is.");
+        return m_connection.fail(
+            GFPDB_WORDS::say("The database %1 is damaged (its end is missing). It is left as it is.", {m_path}));
     return true;
 }
 
@@ -243,7 +259,7 @@ bool GFPDB_SQLITE_FILE::create_file()
 
 bool GFPDB_SQLITE_FILE::fail_to_make(const std::string& why)
 {
-    return m_connection.fail("The database " + m_path + " cannot be made: " + why + ".");
+    return m_connection.fail(GFPDB_WORDS::say("The database %1 cannot be made: %2.", {m_path, why}));
 }
 
 bool GFPDB_SQLITE_FILE::build_new_file(const std::string& path)
@@ -343,9 +359,10 @@ bool GFPDB_SQLITE_FILE::prepare_write()
 bool GFPDB_SQLITE_FILE::refuse_replaced_file()
 {
     m_was_replaced = false;
-    return m_connection.fail("The database " + m_path +
-                             " was replaced or removed by another program while it was in use. " +
-                             "Nothing was changed: look at the devices that are there now, then try again.");
+    return m_connection.fail(
+        GFPDB_WORDS::say("The database %1 was replaced or removed by another program while it was in use. "
+                         "Nothing was changed: look at the devices that are there now, then try again.",
+                         {m_path}));
 }
 
 bool GFPDB_SQLITE_FILE::change(const WORK& work)
@@ -383,8 +400,8 @@ bool GFPDB_SQLITE_FILE::is_stored(int mark, const std::string& error)
 {
     const std::optional<int> stored = read_mark();
     if (!stored)
-        return m_connection.fail(
-            error + " Whether the change was stored cannot be read: look at the devices before you try again.");
+        return m_connection.fail(GFPDB_WORDS::say(
+            "%1 Whether the change was stored cannot be read: look at the devices before you try again.", {error}));
     return *stored == mark || m_connection.fail(error);
 }
 
@@ -394,9 +411,10 @@ bool GFPDB_SQLITE_FILE::is_stored_in_place()
     if (is_same_file())
         return true;
     open();
-    return m_connection.fail("The database " + m_path +
-                             " was replaced or removed by another program while a change was " +
-                             "stored, which is lost: look at the devices that are there now, then try again.");
+    return m_connection.fail(
+        GFPDB_WORDS::say("The database %1 was replaced or removed by another program while a change was stored, "
+                         "which is lost: look at the devices that are there now, then try again.",
+                         {m_path}));
 }
 
 // The schema is read again: nothing runs but what is in the file, and is ours, at that time.

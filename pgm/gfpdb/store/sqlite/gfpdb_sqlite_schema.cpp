@@ -3,6 +3,7 @@
 #include "store/sqlite/gfpdb_sqlite_schema.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/gfpdb_store.h"
 #include "store/sqlite/gfpdb_old_flows.h"
 #include "store/sqlite/gfpdb_sqlite_connection.h"
@@ -175,8 +176,10 @@ bool GFPDB_SQLITE_SCHEMA::check_encoding()
         return m_connection.fail(query.lastError());
     const QString encoding = query.value(0).toString();
     return encoding == QLatin1String("UTF-8") ||
-           m_connection.fail("The database " + m_connection.path() + " was altered by another program: its texts are " +
-                             gfpdb_to_utf8(encoding) + ", not UTF-8. It is left as it is.");
+           m_connection.fail(
+               GFPDB_WORDS::say("The database %1 was altered by another program: its texts are %2, not UTF-8. "
+                                "It is left as it is.",
+                                {m_connection.path(), gfpdb_to_utf8(encoding)}));
 }
 
 // Nothing but the list of what is in the file is read before that list is known to be ours. SQLite must not go on with
@@ -198,16 +201,18 @@ bool GFPDB_SQLITE_SCHEMA::is_known(const QStringList& rows, int version)
 {
     m_version = version;
     if (m_version < 1)
-        return m_connection.fail("The file " + m_connection.path() +
-                                 " is a database of another program. It is left as it is.");
+        return m_connection.fail(GFPDB_WORDS::say("The file %1 is a database of another program. It is left as it is.",
+                                                  {m_connection.path()}));
     if (m_version > VERSION)
-        return m_connection.fail("The database " + m_connection.path() +
-                                 " was written by a newer program (its schema is " + std::to_string(m_version) +
-                                 ", this program knows up to " + std::to_string(VERSION) + "). It is left as it is.");
+        return m_connection.fail(
+            GFPDB_WORDS::say("The database %1 was written by a newer program (its schema is %2, this "
+                             "program knows up to %3). It is left as it is.",
+                             {m_connection.path(), std::to_string(m_version), std::to_string(VERSION)}));
     if (rows != known_schema(m_version))
-        return m_connection.fail("The database " + m_connection.path() +
-                                 " was altered by another program: its tables are not those of " + "schema " +
-                                 std::to_string(m_version) + ". It is left as it is.");
+        return m_connection.fail(
+            GFPDB_WORDS::say("The database %1 was altered by another program: its tables are not those of "
+                             "schema %2. It is left as it is.",
+                             {m_connection.path(), std::to_string(m_version)}));
     const std::optional<std::string> database_id = read_meta("database_id");
     m_database_id = database_id.value_or(std::string());
     return database_id.has_value();

@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/gfpdb_refusals.h"
 #include "store/sqlite/gfpdb_old_flows.h"
 #include "store/sqlite/gfpdb_sqlite_sql.h"
@@ -263,8 +264,9 @@ bool GFPDB_SQLITE_STORE::check_integrity()
     QSqlQuery query;
     if (!start_read(query, "PRAGMA integrity_check"))
         return get_last_error().empty();
-    return next_row(query) && (line_at(query, 0) == "ok" ||
-                               fail("The database in " + get_directory() + " is damaged: " + line_at(query, 0)));
+    return next_row(query) &&
+           (line_at(query, 0) == "ok" ||
+            fail(GFPDB_WORDS::say("The database in %1 is damaged: %2", {get_directory(), line_at(query, 0)})));
 }
 
 bool GFPDB_SQLITE_STORE::has_device(const std::string& name)
