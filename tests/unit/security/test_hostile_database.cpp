@@ -137,7 +137,7 @@ private slots:
         GFPDB_EMBEDDED_MGR::instance().store().reload();
         run_sql(m_place->db_file(), row<QString>().toStdString());
 
-        verify_refused("was altered by another program: its tables are not those of schema 3. It is left as it is.");
+        verify_refused("was altered by another program: its tables are not those of schema 4. It is left as it is.");
     }
 
     void a_view_that_never_ends_is_not_asked()
@@ -305,7 +305,7 @@ private slots:
         GFPDB_EMBEDDED_MGR::instance().store().reload();
         run_sql(m_place->db_file(),
                 "INSERT INTO device SELECT 'x1', family, scheme, x'FFFE00', 4, 5.5, x'', 'many', 1e300, -9e18, 9, 9, "
-                "'r', 's', '[{}]', x'00' FROM device WHERE name = 'A'");
+                "'r', 's', '[{}]', x'00', 'u' FROM device WHERE name = 'A'");
         run_sql(m_place->db_file(), "UPDATE device SET single_flows = 'no flow at all' WHERE name = 'B'");
 
         m_mgr = fresh_manager();
