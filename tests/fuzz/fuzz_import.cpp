@@ -11,9 +11,6 @@
 
 #include "gfpdb/gfpdb_exchange.h"
 
-#include <QDir>
-#include <QFile>
-
 namespace {
 
 constexpr int FAMILY = 3;
@@ -50,17 +47,13 @@ GFPDB_ROW row_of(const std::string& name)
 
 const std::string& full_database()
 {
-    static const std::string content = [] {
-        FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory()))));
+    static const std::string content = fuzz_database_file(directory(), [] {
         GFPDB_DATABASE database(directory());
         GFPDB_ROW model = row_of(DEVICES[0]);
         model.template_name = TEMPLATE;
         FUZZ_CHECK(GFPDB_EMBEDDED_MGR::instance().store().save_all({row_of(DEVICES[0]), row_of(DEVICES[1])}, {model},
                                                                    [](int) {}));
-        QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME)));
-        FUZZ_CHECK(file.open(QIODevice::ReadOnly));
-        return file.readAll().toStdString();
-    }();
+    });
     return content;
 }
 

@@ -10,7 +10,6 @@
 #include "manager/gfpdb_embedded_mgr.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
 
-#include <QDir>
 #include <QFile>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -55,20 +54,16 @@ QString file_name()
 }
 
 // An empty database, as the library makes it.
-const QByteArray& empty_database()
+const std::string& empty_database()
 {
-    static const QByteArray content = [] {
-        FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory()))));
+    static const std::string content = fuzz_database_file(directory(), [] {
         GFPDB_MGR::set_db_custom_dir(directory());
         GFPDB_EMBEDDED_MGR manager;
         manager.set_device_family(FAMILY);
         manager.set_config_scheme(SCHEME);
         FUZZ_CHECK(manager.save_flash(manager.create_flash("first"), directory()));
         FUZZ_CHECK(manager.delete_flash("first", directory()));
-        QFile file(file_name());
-        FUZZ_CHECK(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }();
+    });
     return content;
 }
 
@@ -174,7 +169,7 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FUZZ_INPUT input(data, size);
-    fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, empty_database().toStdString());
+    fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, empty_database());
     insert_records(input);
     QSqlDatabase::removeDatabase(CONNECTION);
 

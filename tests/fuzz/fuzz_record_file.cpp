@@ -11,9 +11,6 @@
 
 #include "gfpdb/gfpdb_exchange.h"
 
-#include <QDir>
-#include <QFile>
-
 #include <algorithm>
 
 namespace {
@@ -31,8 +28,7 @@ std::string directory()
 // An empty database, as the library makes it.
 const std::string& empty_database()
 {
-    static const std::string content = [] {
-        FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory()))));
+    static const std::string content = fuzz_database_file(directory(), [] {
         GFPDB_DATABASE database(directory());
         GFPDB_ROW row;
         row.family = FAMILY;
@@ -40,10 +36,7 @@ const std::string& empty_database()
         row.name = "first";
         FUZZ_CHECK(GFPDB_EMBEDDED_MGR::instance().store().save_device(row) &&
                    GFPDB_EMBEDDED_MGR::instance().store().remove_device(FAMILY, SCHEME, row.name));
-        QFile file(QFile::decodeName(QByteArray::fromStdString(directory() + GFPDB_SQLITE_FILE::NAME)));
-        FUZZ_CHECK(file.open(QIODevice::ReadOnly));
-        return file.readAll().toStdString();
-    }();
+    });
     return content;
 }
 

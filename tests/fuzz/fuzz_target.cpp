@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz_target.h"
 
+#include "store/sqlite/gfpdb_sqlite_file.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -55,6 +57,15 @@ void fuzz_write_file(const std::string& path, const std::string& content)
     QFile file(QFile::decodeName(QByteArray::fromStdString(path)));
     FUZZ_CHECK(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
     FUZZ_CHECK(file.write(content.data(), static_cast<qint64>(content.size())) == static_cast<qint64>(content.size()));
+}
+
+std::string fuzz_database_file(const std::string& directory, const std::function<void()>& fill)
+{
+    FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory))));
+    fill();
+    QFile file(QFile::decodeName(QByteArray::fromStdString(directory + GFPDB_SQLITE_FILE::NAME)));
+    FUZZ_CHECK(file.open(QIODevice::ReadOnly));
+    return file.readAll().toStdString();
 }
 
 std::string FUZZ_INPUT::take(std::size_t length)

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 // Ends the process with the condition's text when it does not hold; libFuzzer then keeps the input.
@@ -24,6 +25,8 @@ void fuzz_set_up();
 const std::string& fuzz_directory();
 
 void fuzz_write_file(const std::string& path, const std::string& content);
+// The bytes of the database file that `fill` makes in `directory`, which ends in "/" and is made before.
+std::string fuzz_database_file(const std::string& directory, const std::function<void()>& fill);
 
 // The bytes of one input, taken from its start.
 class FUZZ_INPUT
