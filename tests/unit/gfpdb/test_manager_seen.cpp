@@ -169,17 +169,24 @@ private slots:
 
     void what_needs_no_second_attempt_data()
     {
-        rows<OTHER, CALL>({{"deletion of what is gone", remove_device, delete_device},
-                           {"removal of a template that is gone",
-                            [](GFPDB_STORE& store) { store.remove_template("T"); }, remove_template_here},
-                           {"a change of another device",
-                            [](GFPDB_STORE& store) { store.save_device(changed_row("B")); }, apply_here}});
+        rows<OTHER, CALL>(
+            {{"deletion of what is gone", remove_device, delete_device},
+             {"removal of a template that is gone", [](GFPDB_STORE& store) { store.remove_template("T"); },
+              remove_template_here},
+             {"a rename to the name of what is gone",
+              [](GFPDB_STORE& store) { store.remove_device(FAMILY, ACTIVE_SERIAL, "Mine"); }, rename_here},
+             {"a change of another device", [](GFPDB_STORE& store) { store.save_device(changed_row("B")); },
+              apply_here}});
     }
 
     void what_needs_no_second_attempt()
     {
         const auto [other, mine] = row<OTHER, CALL>();
         make_and_read();
+        if (mine == rename_here) {
+            save("Mine");
+            QVERIFY(m_mgr->find_flash("Mine", true));
+        }
         as_anna(other);
 
         QVERIFY(mine(*m_mgr, m_place->db_dir()));
@@ -226,6 +233,15 @@ private slots:
         QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
         expect_warning("not valid UTF-8");
         QVERIFY(!m_mgr->save_flash(bad, m_place->db_dir()));
+
+        QVERIFY(apply_here(*m_mgr, m_place->db_dir()));
+    }
+
+    void a_device_that_was_restored_here_is_known()
+    {
+        make_and_read();
+        QVERIFY(m_mgr->delete_flash("A", m_place->db_dir()));
+        QVERIFY(m_mgr->restore_flash(1, m_place->db_dir(), GFPDB_RESTORE_KEEP, std::string()));
 
         QVERIFY(apply_here(*m_mgr, m_place->db_dir()));
     }
