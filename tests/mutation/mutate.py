@@ -49,7 +49,7 @@ AFFECTED = [
     (r"pgm/gfpq/flow/", r"^gui_flow", MODULE),
     (r"pgm/gfpq/", r"^gui_dialog", MODULE),
     (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_[^e]", EVERY),
-    (r"pgm/gfpdb/sfdp/", r"^test_(sfdp|new_device)", EVERY),
+    (r"pgm/gfpdb/sfdp/", r"(sfdp|new_device|part_comparison)", EVERY),
     (r"pgm/gfpdb/store/server/", r"^(unit_gfpdb_server|server_)", r"^(unit_gfpdb_server|server_|test_cli_)"),
     (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)", EVERY),
     (r"pgm/gfpdb/exchange/", r"^(unit_gfpdb|test_cli_(record|transfer))", EVERY),
