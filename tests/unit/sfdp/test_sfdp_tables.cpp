@@ -128,6 +128,7 @@ private slots:
             {"reserved address bytes", "DW1=FFF720E5",
              "address_bytes reserved; ! SFDP DW1 says with a reserved value how many address bytes there are."},
             {"no 4 KiB erase", "DW1=FFF120E7", "4k -"},
+            {"a reserved 4 KiB erase", "DW1=FFF120E6", "4k -"},
             {"another 4 KiB erase", "DW1=FFF121E5", "4k 21; ! SFDP DW1 erases 4 KiB by 21, which no erase type does."},
             {"4 KiB erase without a command", "DW1=FFF1FFE5", "4k -"},
             {"4 KiB erase by 00", "DW1=FFF100E5", "4k -"},
@@ -144,7 +145,7 @@ private slots:
              "! SFDP DW5 has zeros where every part has ones: bytes may be missing or shifted."},
             {"zeros in DW6", "DW6=FF00FFFE",
              "! SFDP DW6 has zeros where every part has ones: bytes may be missing or shifted."},
-            {"zeros in DW7", "DW7=FF007FFF",
+            {"zeros in DW7", "DW7=FF00FFFE",
              "! SFDP DW7 has zeros where every part has ones: bytes may be missing or shifted."},
             {"1-4-4 with other clocks", "DW3=6B08E7BF", "read_1_4_4 E7:5+31"},
             {"1-4-4 without a command", "DW3=6B080044",
@@ -161,7 +162,7 @@ private slots:
              "! SFDP DW5 lists the 4-4-4 read, and DW7 has no command for it."},
             {"1-8-8 and 1-1-8", "DW17=8B08CB50", "read_1_1_8 8B:0+8; read_1_8_8 CB:2+16"},
             {"1-8-8 by FF", "DW17=0000FF50", ""},
-            {"octal enable", "DW19=00600000", "octal 6"},
+            {"octal enable", "DW19=00E00000", "octal 6"},
             {"fourth erase type", "DW9=DC12D810",
              "erase_typ_ms 20:4K=64 52:32K=128 D8:64K=160 DC:256K=1; erase_types 1=20:4K 2=52:32K 3=D8:64K 4=DC:256K"},
             {"absent erase types", "DW8=52002000 DW1=FFF120E7 18=C2 10=C2",
@@ -196,7 +197,7 @@ private slots:
             {"no poll", "DW14=5CD5BD03", "busy_poll_bits -"},
             {"each bit of DW14", "DW14=FFFFFF57", "busy_poll_bits 21"},
             {"quad enable 0", "DW15=FF0DF719", "qer 0"},
-            {"quad enable 7", "DW15=FF7DF719", "qer 7"},
+            {"quad enable 7", "DW15=FFFDF719", "qer 7"},
             {"no reset", "DW16=A5F960E9", "soft_reset_66_99 -"},
             {"every bit of DW16", "DW16=FFFFFFFF",
              "enter_4b B7,06+B7,EAR C5/C8,BANK 17/16,NVCR B1/B5,4-byte opcodes,always 4-byte,rsvd; exit_4b "
@@ -357,6 +358,25 @@ private slots:
     {
         const auto [changes, expected] = row<QString, QString>();
         QCOMPARE(difference(changes), expected);
+    }
+
+    // Fields of bits end where the standard says, whatever is beside them.
+    void fields_of_bits_are_whole_data()
+    {
+        rows<int, int, int, int>({{"DW14=FFFFFFFF DW16=FFFFFFFF", 0x3F, 0x3F, 0x3FF, 0xFF},
+                                  {"DW14=00000003 DW16=000000FF", 0, 0, 0, 0},
+                                  {"DW14=00000104 DW16=01004100", 0x01, 0x01, 0x001, 0x01},
+                                  {"DW14=00000080 DW16=80802000", 0x20, 0x20, 0x200, 0x80}});
+    }
+
+    void fields_of_bits_are_whole()
+    {
+        const auto [poll, reset, leave, enter] = row<int, int, int, int>();
+        const GFPDB_SFDP sfdp = sfdp_of(changed(QTest::currentDataTag()));
+        QCOMPARE(sfdp.busy_poll.value_or(-1), poll);
+        QCOMPARE(sfdp.soft_reset.value_or(-1), reset);
+        QCOMPARE(sfdp.leave_4_byte.value_or(-1), leave);
+        QCOMPARE(sfdp.enter_4_byte.value_or(-1), enter);
     }
 };
 
