@@ -205,6 +205,11 @@ std::string GFPDB_SERVER_CONNECTION::host() const
     return (host.empty() ? "localhost" : host) + ':' + PQport(m_connection);
 }
 
+std::string GFPDB_SERVER_CONNECTION::database() const
+{
+    return "The database " + gfpdb_quoted(m_server.database) + " on the server " + host();
+}
+
 std::string GFPDB_SERVER_CONNECTION::server_version() const
 {
     const char* const version = m_connection != nullptr ? PQparameterStatus(m_connection, "server_version") : nullptr;
@@ -247,6 +252,26 @@ bool GFPDB_SERVER_CONNECTION::refuse(const pg_result* result)
     m_sqlstate = state != nullptr ? state : "";
     return fail("The database server " + host() + " refused: " + words_of(message != nullptr ? message : "no reason") +
                 '.');
+}
+
+// Says in our words what the server refused, where it is known.
+bool GFPDB_SERVER_CONNECTION::explain()
+{
+    const std::string& state = m_sqlstate;
+    if (state == "42501")
+        return fail(database() + " does not allow that to the login " + gfpdb_quoted(login()) +
+                    ": its administrator can grant the role " + m_server.schema + "_reader or " + m_server.schema +
+                    "_editor.");
+    if (state == "3F000" || state == "42P01" || state == "42703")
+        return fail(database() + " has no schema " + gfpdb_quoted(m_server.schema) +
+                    " for devices: its administrator can make it with \"gfpdb server sql\".");
+    if (state == "53100" || state == "53200")
+        return fail("There is no room for the change on the server " + host() + '.');
+    if (state == "55P03" || state == "57014")
+        return fail(database() + " is locked by another program.");
+    if (state == "40001" || state == "40P01" || state == "23505")
+        return fail(database() + " is changed by too many programs now: try again.");
+    return false;
 }
 
 bool GFPDB_SERVER_CONNECTION::wait(bool for_writing)

@@ -81,6 +81,8 @@ public:
     bool is_in_transaction() const;
     // The server as messages name it, with its port when it is known.
     std::string host() const;
+    // The database on that server, as a sentence begins.
+    std::string database() const;
     std::string server_version() const;
     std::string login() const;
 
@@ -94,6 +96,8 @@ public:
     bool copy_end();
 
     bool fail(const std::string& error);
+    // After a statement was REFUSED: says in our words why, where that is known. Returns false.
+    bool explain();
     FAILURE failure() const { return m_failure; }
     // Of a statement that was REFUSED: five characters.
     const std::string& sqlstate() const { return m_sqlstate; }

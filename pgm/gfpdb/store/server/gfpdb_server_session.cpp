@@ -78,7 +78,7 @@ GFPDB_SERVER_SESSION::~GFPDB_SERVER_SESSION() = default;
 
 std::string GFPDB_SERVER_SESSION::database() const
 {
-    return "The database " + gfpdb_quoted(m_server.database) + " on the server " + m_connection->host();
+    return m_connection->database();
 }
 
 // Questions are made before the server is connected.
@@ -175,26 +175,12 @@ bool GFPDB_SERVER_SESSION::is_ended_by_server() const
            state == "25006";
 }
 
-// Says in our words what the server refused, where it is known.
+// A lock that was waited for in vain is not waited for again at once.
 bool GFPDB_SERVER_SESSION::explain()
 {
-    const std::string& state = m_connection->sqlstate();
-    if (state == "42501")
-        return fail(database() + " does not allow that to the login " + gfpdb_quoted(m_connection->login()) +
-                    ": its administrator can grant the role " + m_server.schema + "_reader or " + m_server.schema +
-                    "_editor.");
-    if (state == "3F000" || state == "42P01" || state == "42703")
-        return fail(database() + " has no schema " + gfpdb_quoted(m_server.schema) +
-                    " for devices: its administrator can make it with \"gfpdb server sql\".");
-    if (state == "53100" || state == "53200")
-        return fail("There is no room for the change on the server " + m_connection->host() + '.');
-    if (state == "55P03")
+    if (m_connection->sqlstate() == "55P03")
         vain_lock() = {m_directory, std::string(), CLOCK::now() + PAUSE};
-    if (state == "55P03" || state == "57014")
-        return fail(database() + " is locked by another program.");
-    if (state == "40001" || state == "40P01" || state == "23505")
-        return fail(database() + " is changed by too many programs now: try again.");
-    return false;
+    return m_connection->explain();
 }
 
 bool GFPDB_SERVER_SESSION::is_remembering() const

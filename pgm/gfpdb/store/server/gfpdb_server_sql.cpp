@@ -41,27 +41,20 @@ std::string selection(bool with_flows)
     return std::string(REVISION) + ", " + SAVED + ", " + gfpdb_joined(gfpdb_field_keys(with_flows));
 }
 
-// As COPY reads a value: a backslash before what would end it.
+// As COPY reads a value: a backslash before what would end it. Flows are long, and have few of those.
 void add_copy_text(std::string& line, const std::string& text)
 {
-    for (const char character : text) {
-        switch (character) {
-        case '\\':
-            line += "\\\\";
-            break;
-        case '\n':
-            line += "\\n";
-            break;
-        case '\r':
-            line += "\\r";
-            break;
-        case '\t':
-            line += "\\t";
-            break;
-        default:
-            line += character;
-        }
+    constexpr char SPECIAL[] = "\\\n\r\t";
+    constexpr char WRITTEN[] = "\\nrt";
+    std::size_t begin = 0;
+    for (std::size_t end = text.find_first_of(SPECIAL); end != std::string::npos;
+         end = text.find_first_of(SPECIAL, begin)) {
+        line.append(text, begin, end - begin);
+        line += '\\';
+        line += WRITTEN[std::char_traits<char>::find(SPECIAL, sizeof SPECIAL, text[end]) - SPECIAL];
+        begin = end + 1;
     }
+    line.append(text, begin, std::string::npos);
 }
 
 } // namespace

@@ -74,7 +74,9 @@ std::optional<GFPDB_SERVER_STATUS> gfpdb_server_status(const GFPDB_SERVER& serve
         status.role = role_of(results.front());
     }
     if (connection.failure() != GFPDB_SERVER_CONNECTION::FAILURE::NONE ||
-        (!status.role.empty() && !count_records(connection, server.schema, status)))
+        (!status.role.empty() && !count_records(connection, server.schema, status))) {
+        connection.explain();
         status.problem = connection.last_error();
+    }
     return status;
 }

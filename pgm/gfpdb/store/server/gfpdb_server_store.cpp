@@ -128,6 +128,7 @@ std::vector<std::string> GFPDB_SERVER_STORE::read_names(const std::string& quest
     ROWS rows;
     if (!m_session.ask(question, rows))
         return names;
+    names.reserve(static_cast<std::size_t>(rows.count()));
     for (int row = 0; row < rows.count(); ++row)
         names.push_back(rows.text(row, 0));
     return names;
