@@ -96,6 +96,8 @@ QGraphicsView* GPFQ_OPERATION_TAB_WIDGET::create_palette(int operation, const QS
     view->setMaximumWidth(PALETTE_MAX_WIDTH);
     // A wide chart must not take the room of the entries.
     view->setMinimumWidth(std::min(view->sizeHint().width(), PALETTE_MAX_WIDTH));
+    // The entries fit; a title whose margin does not is no reason to scroll.
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view->setAccessibleName(QCoreApplication::translate("gfpq_dlg", "%1: actions").arg(title));
     new GFPQ_FOCUS_RING(*view);
     return view;

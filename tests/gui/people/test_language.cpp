@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollBar>
 
 class TEST_LANGUAGE : public PEOPLE_TEST
 {
@@ -168,6 +169,21 @@ private slots:
             }
         }
         QVERIFY2(palette.contains(qs("Actions :")), qPrintable(palette.join(QLatin1Char('/'))));
+    }
+
+    // Whose margin alone is too wide.
+    void a_long_title_of_the_actions_brings_no_scroll_bar()
+    {
+        QLocale::setDefault(QLocale(qs("ru")));
+        const TEXT_CATALOGUE texts(qs("gfpq"), {qs(":/gfpq/translations")});
+        open_dialog();
+        show_operation_page(GFPDB_OPERATION_ERASE);
+
+        const auto* const palette = qobject_cast<QGraphicsView*>(
+            tabs().currentWidget()->findChild<QGraphicsView*>(QString(), Qt::FindDirectChildrenOnly));
+        QVERIFY(palette != nullptr && palette != &chart());
+        QVERIFY(palette->sceneRect().width() > palette->viewport()->width());
+        QVERIFY(!palette->horizontalScrollBar()->isVisible());
     }
 
     void the_template_editor_speaks_the_language()
