@@ -23,7 +23,8 @@ constexpr int FIRST_WIDTH = 480;
 
 } // namespace
 
-COPY_DIALOG::COPY_DIALOG(QWidget* parent, const HOST_OFFER& offer, const HOST_CHOICE& choice)
+COPY_DIALOG::COPY_DIALOG(QWidget* parent, const HOST_OFFER& offer, const DIALOG_OPTIONS& options,
+                         const HOST_CHOICE& choice)
     : QDialog(parent), m_source_combo(make_editable_combo()), m_name_edit(new QLineEdit),
       m_problem(new PROBLEM_LINE(QStringLiteral("m_copy_problem")))
 {
@@ -39,7 +40,7 @@ COPY_DIALOG::COPY_DIALOG(QWidget* parent, const HOST_OFFER& offer, const HOST_CH
     QFormLayout* form = make_form(page);
     add_row(form, tr("&Copy of:"), m_source_combo, "m_source_combo");
     add_row(form, tr("&New name:"), m_name_edit, "m_new_name_edit");
-    m_place = new PLACE_FIELDS(offer, form, choice.family, choice.config_scheme);
+    m_place = new PLACE_FIELDS(offer, options, form, choice.family, choice.config_scheme);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("&Duplicate"));
     auto* column = new QVBoxLayout(this);

@@ -5,6 +5,7 @@
 
 #include "dialog/host_offer.h"
 #include "new_device/device_sources.h"
+#include "program/host_arguments.h"
 
 #include <QDialog>
 
@@ -19,7 +20,7 @@ class COPY_DIALOG : public QDialog
 
 public:
     // Begins with the device, family and mode of `choice`. `offer` must outlive the dialog.
-    COPY_DIALOG(QWidget* parent, const HOST_OFFER& offer, const HOST_CHOICE& choice);
+    COPY_DIALOG(QWidget* parent, const HOST_OFFER& offer, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice);
 
     // The device that was stored when the dialog was accepted.
     const GFPDB_RECORD& device() const { return m_device; }

@@ -9,8 +9,8 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
-NEW_DEVICE_DESK::NEW_DEVICE_DESK(QWidget* window, const RESTRICTION& restriction)
-    : QObject(window), m_offer(restriction)
+NEW_DEVICE_DESK::NEW_DEVICE_DESK(QWidget* window, const DIALOG_OPTIONS& options)
+    : QObject(window), m_options(options), m_offer(options.family_schemes)
 {}
 
 QWidget* NEW_DEVICE_DESK::window() const
@@ -27,7 +27,7 @@ void NEW_DEVICE_DESK::show_draft(const std::vector<std::uint8_t>& id, const std:
         QMessageBox::warning(window(), tr("New Device"), draft.sfdp_problem());
         return;
     }
-    NEW_DEVICE_DIALOG dialog(window(), draft, m_offer);
+    NEW_DEVICE_DIALOG dialog(window(), draft, m_offer, m_options);
     if (dialog.exec() == QDialog::Accepted)
         emit stored(choice_of(dialog.device()));
 }
@@ -51,7 +51,7 @@ void NEW_DEVICE_DESK::ask_for_file(const HOST_CHOICE& choice)
 
 void NEW_DEVICE_DESK::duplicate(const HOST_CHOICE& choice)
 {
-    COPY_DIALOG dialog(window(), m_offer, choice);
+    COPY_DIALOG dialog(window(), m_offer, m_options, choice);
     if (dialog.exec() == QDialog::Accepted)
         emit stored(choice_of(dialog.device()));
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "dialog/host_offer.h"
+#include "program/host_arguments.h"
 #include "run/run_request.h"
 
 #include <QObject>
@@ -16,7 +17,7 @@ class NEW_DEVICE_DESK : public QObject
 
 public:
     // The dialogs are modal to `window`, which owns this.
-    NEW_DEVICE_DESK(QWidget* window, const RESTRICTION& restriction);
+    NEW_DEVICE_DESK(QWidget* window, const DIALOG_OPTIONS& options);
 
     // Each begins with the family and mode of `choice`, shows a dialog, and returns when it was closed.
     void show_reading(const CHIP_READING& reading, const HOST_CHOICE& choice);
@@ -32,5 +33,6 @@ private:
                     const HOST_CHOICE& choice, bool needs_sfdp);
     QWidget* window() const;
 
+    const DIALOG_OPTIONS m_options;
     const HOST_OFFER m_offer;
 };

@@ -47,14 +47,15 @@ QPlainTextEdit* add_text(QVBoxLayout* column, const QString& title, const char* 
 
 } // namespace
 
-NEW_DEVICE_DIALOG::NEW_DEVICE_DIALOG(QWidget* parent, NEW_DEVICE_DRAFT& draft, const HOST_OFFER& offer)
-    : QDialog(parent), m_draft(draft), m_offer(offer)
+NEW_DEVICE_DIALOG::NEW_DEVICE_DIALOG(QWidget* parent, NEW_DEVICE_DRAFT& draft, const HOST_OFFER& offer,
+                                     const DIALOG_OPTIONS& options)
+    : QDialog(parent), m_draft(draft)
 {
     setWindowTitle(draft.origin().isEmpty() ? tr("New Device") : tr("New Device: %1").arg(draft.origin()));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(create_values());
+    splitter->addWidget(create_values(offer, options));
     splitter->addWidget(create_remarks());
     splitter->setStretchFactor(0, VALUES_SHARE);
     splitter->setStretchFactor(1, REMARKS_SHARE);
@@ -70,13 +71,13 @@ NEW_DEVICE_DIALOG::NEW_DEVICE_DIALOG(QWidget* parent, NEW_DEVICE_DRAFT& draft, c
     m_values->go_to(m_draft.first_wrong_row());
 }
 
-QWidget* NEW_DEVICE_DIALOG::create_values()
+QWidget* NEW_DEVICE_DIALOG::create_values(const HOST_OFFER& offer, const DIALOG_OPTIONS& options)
 {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(0, 0, 0, 0);
     auto* place = new QWidget;
-    m_place = new PLACE_FIELDS(m_offer, make_form(place), m_draft.family(), m_draft.scheme());
+    m_place = new PLACE_FIELDS(offer, options, make_form(place), m_draft.family(), m_draft.scheme());
     m_values = new VALUE_FIELDS(m_draft);
     auto* area = new QScrollArea;
     area->setObjectName(QStringLiteral("m_values_area"));

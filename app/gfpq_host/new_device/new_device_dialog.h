@@ -5,6 +5,7 @@
 
 #include "dialog/host_offer.h"
 #include "new_device/new_device_draft.h"
+#include "program/host_arguments.h"
 
 #include <QDialog>
 
@@ -19,7 +20,7 @@ class NEW_DEVICE_DIALOG : public QDialog
 
 public:
     // `draft` and `offer` must outlive the dialog.
-    NEW_DEVICE_DIALOG(QWidget* parent, NEW_DEVICE_DRAFT& draft, const HOST_OFFER& offer);
+    NEW_DEVICE_DIALOG(QWidget* parent, NEW_DEVICE_DRAFT& draft, const HOST_OFFER& offer, const DIALOG_OPTIONS& options);
 
     // The device that was stored when the dialog was accepted.
     const GFPDB_RECORD& device() const { return m_device; }
@@ -28,7 +29,7 @@ public:
     void accept() override;
 
 private:
-    QWidget* create_values();
+    QWidget* create_values(const HOST_OFFER& offer, const DIALOG_OPTIONS& options);
     QWidget* create_remarks();
     QWidget* create_buttons();
     void show_remarks();
@@ -36,7 +37,6 @@ private:
     void save_read_out();
 
     NEW_DEVICE_DRAFT& m_draft;
-    const HOST_OFFER& m_offer;
     GFPDB_RECORD m_device;
     VALUE_FIELDS* m_values = nullptr;
     PLACE_FIELDS* m_place = nullptr;

@@ -19,12 +19,15 @@ int nearest(const std::vector<int>& values, int wanted)
 
 } // namespace
 
-PLACE_FIELDS::PLACE_FIELDS(const HOST_OFFER& offer, QFormLayout* form, int family, int scheme)
+PLACE_FIELDS::PLACE_FIELDS(const HOST_OFFER& offer, const DIALOG_OPTIONS& options, QFormLayout* form, int family,
+                           int scheme)
     : QObject(form->parentWidget()), m_offer(offer), m_family_combo(make_narrow_combo()),
       m_mode_combo(make_narrow_combo())
 {
     add_row(form, tr("Device &family:"), m_family_combo, "m_new_family_combo");
     add_row(form, tr("Configuration &mode:"), m_mode_combo, "m_new_mode_combo");
+    m_family_combo->setEnabled(options.enable_family);
+    m_mode_combo->setEnabled(options.enable_config_mode);
     const std::vector<int> families = offer.families_with_flows();
     show_values(m_family_combo, families, nearest(families, family), family_text);
     show_schemes(scheme);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "dialog/host_offer.h"
+#include "program/host_arguments.h"
 
 #include <QObject>
 
@@ -16,8 +17,8 @@ class PLACE_FIELDS : public QObject
     Q_OBJECT
 
 public:
-    // Adds the rows to `form`, whose page owns them; `offer` must outlive this.
-    PLACE_FIELDS(const HOST_OFFER& offer, QFormLayout* form, int family, int scheme);
+    // Adds the rows to `form`, whose page owns them; `offer` must outlive this. `options` say what can be chosen.
+    PLACE_FIELDS(const HOST_OFFER& offer, const DIALOG_OPTIONS& options, QFormLayout* form, int family, int scheme);
 
     int family() const;
     int scheme() const;

@@ -10,16 +10,11 @@ QAction* PROGRAMMER_MENU::add(const QString& text, const char* object_name, cons
     return action;
 }
 
-PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent) : QMenu(parent)
+PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent, bool allows_new_devices) : QMenu(parent)
 {
-    m_idle_actions = {
-        add(tr("&Configuration Device..."), "m_dialog_action", {}, &PROGRAMMER_MENU::dialog_asked),
-        add(tr("&New Device from Chip..."), "m_new_from_chip_action", QKeySequence::New,
-            &PROGRAMMER_MENU::new_from_chip_asked),
-        add(tr("New Device from S&FDP File..."), "m_new_from_file_action", Qt::CTRL + Qt::SHIFT + Qt::Key_N,
-            &PROGRAMMER_MENU::new_from_file_asked),
-        add(tr("D&uplicate..."), "m_duplicate_action", Qt::CTRL + Qt::Key_D, &PROGRAMMER_MENU::duplicate_asked),
-    };
+    m_idle_actions += add(tr("&Configuration Device..."), "m_dialog_action", {}, &PROGRAMMER_MENU::dialog_asked);
+    if (allows_new_devices)
+        add_new_devices();
     addSeparator();
     m_idle_actions += add(tr("&Detect"), "m_detect_action", Qt::Key_F4, &PROGRAMMER_MENU::detect_asked);
     add(tr("&Open File..."), "m_open_action", QKeySequence::Open, &PROGRAMMER_MENU::file_asked);
@@ -30,6 +25,16 @@ PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent) : QMenu(parent)
     addSeparator();
     add(tr("&Quit"), "m_quit_action", QKeySequence::Quit, &PROGRAMMER_MENU::quit_asked);
     show_busy(false);
+}
+
+void PROGRAMMER_MENU::add_new_devices()
+{
+    m_idle_actions += add(tr("&New Device from Chip..."), "m_new_from_chip_action", QKeySequence::New,
+                          &PROGRAMMER_MENU::new_from_chip_asked);
+    m_idle_actions += add(tr("New Device from S&FDP File..."), "m_new_from_file_action",
+                          Qt::CTRL + Qt::SHIFT + Qt::Key_N, &PROGRAMMER_MENU::new_from_file_asked);
+    m_idle_actions +=
+        add(tr("D&uplicate..."), "m_duplicate_action", Qt::CTRL + Qt::Key_D, &PROGRAMMER_MENU::duplicate_asked);
 }
 
 void PROGRAMMER_MENU::show_busy(bool is_busy)

@@ -12,7 +12,7 @@ class PROGRAMMER_MENU : public QMenu
     Q_OBJECT
 
 public:
-    explicit PROGRAMMER_MENU(QWidget* parent);
+    PROGRAMMER_MENU(QWidget* parent, bool allows_new_devices);
 
     // What is possible while something is under way, and while nothing is.
     void show_busy(bool is_busy);
@@ -32,6 +32,8 @@ signals:
 private:
     QAction* add(const QString& text, const char* object_name, const QKeySequence& keys,
                  void (PROGRAMMER_MENU::*asked)());
+
+    void add_new_devices();
 
     // Possible while nothing is under way.
     QList<QAction*> m_idle_actions;

@@ -80,13 +80,13 @@ QString file_of(const QMimeData* data)
 PROGRAMMER_WINDOW::PROGRAMMER_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice,
                                      QSettings& settings)
     : m_settings(settings), m_device_panel(new DEVICE_PANEL(module, options, choice)),
-      m_new_device_desk(new NEW_DEVICE_DESK(this, options.family_schemes))
+      m_new_device_desk(new NEW_DEVICE_DESK(this, options))
 {
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setAcceptDrops(true);
     create_panels();
     create_results();
-    create_menu();
+    create_menu(options.enable_edit);
     connect_run();
     m_connection_panel->load(settings);
     m_file_panel->load(settings);
@@ -176,9 +176,9 @@ void PROGRAMMER_WINDOW::show_page(int page)
     m_results->tabBar()->setFocus();
 }
 
-void PROGRAMMER_WINDOW::create_menu()
+void PROGRAMMER_WINDOW::create_menu(bool allows_new_devices)
 {
-    m_menu = new PROGRAMMER_MENU(this);
+    m_menu = new PROGRAMMER_MENU(this, allows_new_devices);
     m_menu->setTitle(tr("&Programmer"));
     menuBar()->addMenu(m_menu);
     connect(m_menu, &PROGRAMMER_MENU::dialog_asked, m_device_panel, &DEVICE_PANEL::open_dialog);

@@ -50,7 +50,7 @@ private:
     QWidget* create_entries();
     void create_results();
     void show_page(int page);
-    void create_menu();
+    void create_menu(bool allows_new_devices);
     void connect_run();
     void set_first_size();
 

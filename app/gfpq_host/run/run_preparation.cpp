@@ -42,11 +42,14 @@ std::vector<GFPE_RANGE> erased_beside(const GFPE_PLAN& plan, GFPE_ORDER order)
         return {};
     const GFPE_RANGE range = *order.range;
     std::vector<GFPE_RANGE> beside;
+    std::int64_t known = 0;
     for (const std::int64_t end : {range.start, range.end() - 1}) {
         order.range = GFPE_RANGE{end, 1};
         for (const GFPE_RANGE& part : without(plan.get_erased(order), range)) {
-            if (beside.empty() || beside.back().end() < part.end())
-                beside.push_back(part);
+            if (part.end() <= known)
+                continue;
+            beside.push_back(part);
+            known = part.end();
         }
     }
     return beside;

@@ -210,6 +210,26 @@ private slots:
         trigger("m_duplicate_action");
     }
 
+    void what_the_host_does_not_allow_is_not_offered()
+    {
+        DIALOG_OPTIONS options;
+        options.enable_family = false;
+        options.enable_config_mode = false;
+        open(SMALL_DEVICE, PGMIO_ACTIVE_SERIAL, options);
+        m_modals.expect([](QWidget* dialog) {
+            QVERIFY(!in<QComboBox>(dialog, "m_new_family_combo").isEnabled());
+            QVERIFY(!in<QComboBox>(dialog, "m_new_mode_combo").isEnabled());
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+        trigger("m_duplicate_action");
+
+        close_window();
+        options.enable_edit = false;
+        open(SMALL_DEVICE, PGMIO_ACTIVE_SERIAL, options);
+        for (const char* action : {"m_new_from_chip_action", "m_new_from_file_action", "m_duplicate_action"})
+            QVERIFY2(!window().findChild<QAction*>(qs(action)), action);
+    }
+
     // Whatever takes the focus says what it is, and Tab reaches it.
     void every_control_has_a_name_and_a_place()
     {

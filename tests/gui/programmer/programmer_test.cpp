@@ -28,12 +28,12 @@ void PROGRAMMER_TEST::cleanup()
     QCOMPARE(QApplication::topLevelWidgets().size(), 0);
 }
 
-void PROGRAMMER_TEST::open(const char* device, int scheme)
+void PROGRAMMER_TEST::open(const char* device, int scheme, const DIALOG_OPTIONS& options)
 {
     HOST_CHOICE choice;
     choice.config_scheme = scheme;
     choice.device_name = device;
-    m_window = std::make_unique<PROGRAMMER_WINDOW>(m_module, DIALOG_OPTIONS(), choice, *m_settings);
+    m_window = std::make_unique<PROGRAMMER_WINDOW>(m_module, options, choice, *m_settings);
     m_window->show();
 }
 

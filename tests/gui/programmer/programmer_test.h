@@ -35,7 +35,8 @@ protected:
     static constexpr const char* LARGE_DEVICE = "MX25L25645G";
 
     // Opens the window, with the settings of the former one.
-    void open(const char* device = SMALL_DEVICE, int scheme = PGMIO_ACTIVE_SERIAL);
+    void open(const char* device = SMALL_DEVICE, int scheme = PGMIO_ACTIVE_SERIAL,
+              const DIALOG_OPTIONS& options = DIALOG_OPTIONS());
     PROGRAMMER_WINDOW& window() { return *m_window; }
     void close_window() { m_window.reset(); }
 
