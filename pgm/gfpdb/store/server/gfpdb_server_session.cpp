@@ -191,7 +191,6 @@ bool GFPDB_SERVER_SESSION::is_remembering() const
 void GFPDB_SERVER_SESSION::forget()
 {
     m_answers.clear();
-    m_expected.clear();
 }
 
 bool GFPDB_SERVER_SESSION::has_answer(const std::string& question)
@@ -382,6 +381,7 @@ bool GFPDB_SERVER_SESSION::ask_all(const std::vector<std::string>& questions, RE
     std::for_each(questions.begin(), questions.end(), add);
     if (!missing.empty() || questions.empty() || !has_answer(state(m_server.schema))) {
         std::for_each(m_expected.begin(), m_expected.end(), add);
+        m_expected.clear();
         RESULTS answers;
         if (!run_questions(missing, answers))
             return false;

@@ -44,6 +44,12 @@ std::vector<std::string> keys_in(const GFPDB_SERVER_ROWS& rows, const std::vecto
     return found;
 }
 
+// Of what question_of() gives.
+std::string revision_in(const GFPDB_SERVER_ROWS& rows)
+{
+    return rows.count() > 0 ? rows.text(0, 0) : std::string();
+}
+
 std::string place_condition(int family, int scheme)
 {
     return " WHERE family = " + std::to_string(family) + " AND scheme = " + std::to_string(scheme);
@@ -240,6 +246,8 @@ bool GFPDB_SERVER_STORE::check_seen_device(int family, int scheme, const std::st
 {
     const PLACE place{false, family, scheme, name};
     RESULTS found;
+    if (!m_session.ask_all({question_of(place)}, found) || revision_in(found[0]) == seen)
+        return true;
     return !m_session.ask_all({question_of(place), question_of_last_change(place)}, found) ||
            check_seen(place, &seen, found[0], found[1]);
 }
