@@ -31,10 +31,12 @@ function(gfpq_set_test_environment name)
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${scratch}/home;XDG_CONFIG_HOME=${scratch}/config;GFPDB_SETTINGS=${scratch}/config/gfpdb.ini;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()
 
-# The same test program once more, on a server (tests/support/server/server_database.h).
-function(gfpq_add_server_run name)
-    add_test(NAME ${name}_on_server COMMAND ${name})
-    gfpq_set_test_environment(${name}_on_server)
-    set_property(TEST ${name}_on_server APPEND PROPERTY ENVIRONMENT "GFPDB_TEST_STORE=server")
-    set_tests_properties(${name}_on_server PROPERTIES LABELS server)
+# The same test program once more, on a server, or on one behind a pooler: `store` is server or pooled
+# (tests/support/server/server_database.h).
+function(gfpq_add_server_run name store)
+    set(run ${name}_${store})
+    add_test(NAME ${run} COMMAND ${name})
+    gfpq_set_test_environment(${run})
+    set_property(TEST ${run} APPEND PROPERTY ENVIRONMENT "GFPDB_TEST_STORE=${store}")
+    set_tests_properties(${run} PROPERTIES LABELS server)
 endfunction()

@@ -4,6 +4,7 @@
 #include "gfpdb/gfpdb_action.h"
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_operation.h"
+#include "gfpdb/gfpdb_server.h"
 
 #include <QApplication>
 #include <QDir>
@@ -41,6 +42,16 @@ QSqlDatabase foreign_connection(const QString& name, const std::string& director
     if (!connection.open())
         qFatal("no database in %s", directory.c_str());
     return connection;
+}
+
+// The statement with `values` in place of its question marks.
+QString with_values(QString statement, const QVariantList& values)
+{
+    for (const QVariant& value : values) {
+        const QString text = value.toString().replace(QLatin1Char('\''), QLatin1String("''"));
+        statement.replace(statement.indexOf(QLatin1Char('?')), 1, QLatin1Char('\'') + text + QLatin1Char('\''));
+    }
+    return statement;
 }
 
 void copy_first_template(GFPDB_MGR& manager, GFPDB_FLASH& flash, bool variant)
@@ -87,6 +98,8 @@ void LOST_WORK_TEST::init()
     settings.close();
     qputenv("GFPDB_SETTINGS", QFile::encodeName(settings_path));
     qputenv("XDG_DATA_HOME", QFile::encodeName(m_scratch->filePath(QStringLiteral("data"))));
+    if (is_on_server())
+        m_server = std::make_unique<SERVER_DATABASE>(directory(), &gfpdb_server_sql);
     GFPDB_MGR::set_db_custom_dir(directory());
     GFPDB_HELPER::set_active_flash_family(PGMIO_ACTIVE_SERIAL_X4);
     GFPDB_HELPER::get_active_flash_manager(true)->set_device_family(LOST_WORK_FAMILY);
@@ -101,6 +114,7 @@ void LOST_WORK_TEST::cleanup()
         QSqlDatabase::removeDatabase(name);
     qInstallMessageHandler(g_next_handler);
     g_running = nullptr;
+    m_server.reset();
     m_scratch.reset();
 
     QCOMPARE(m_modals.problems(), QStringList());
@@ -222,6 +236,8 @@ void LOST_WORK_TEST::store(const std::string& name, const std::string& id)
 
 QStringList LOST_WORK_TEST::read_column(const QString& statement, const QVariantList& values) const
 {
+    if (server() != nullptr)
+        return server()->list(with_values(statement, values));
     QStringList texts;
     {
         QSqlQuery query(foreign_connection(READER, directory()));
@@ -255,6 +271,10 @@ QStringList LOST_WORK_TEST::history() const
 
 void LOST_WORK_TEST::run_foreign(const QString& statement) const
 {
+    if (server() != nullptr) {
+        server()->run(statement);
+        return;
+    }
     {
         QSqlQuery query(foreign_connection(READER, directory()));
         if (!query.exec(statement))
@@ -265,6 +285,10 @@ void LOST_WORK_TEST::run_foreign(const QString& statement) const
 
 void LOST_WORK_TEST::lock(const QString& how)
 {
+    if (server() != nullptr) {
+        server()->lock(how);
+        return;
+    }
     QSqlQuery query(foreign_connection(LOCKER, directory()));
     if (!query.exec(qs("BEGIN ") + how))
         qFatal("no lock: %s", qPrintable(query.lastError().text()));
@@ -272,5 +296,7 @@ void LOST_WORK_TEST::lock(const QString& how)
 
 void LOST_WORK_TEST::unlock()
 {
+    if (server() != nullptr)
+        server()->unlock();
     QSqlDatabase::removeDatabase(LOCKER);
 }

@@ -15,12 +15,15 @@
 // Each test function has settings and a database directory of its own, and no dialog. It fails when a modal window came
 // that was not expected, or did not come that was, and when Qt printed a warning; what our own code logs does not
 // count. A lock of another program is not waited for.
+//
+// Where the tests run on a server, the database directory names a schema of its own there.
 #pragma once
 
 #include "dialog/gfpq_dlg.h"
 #include "flow/gfpq_flow_scene.h"
 #include "flow/gfpq_operation_tab_widget.h"
 #include "modal_driver.h"
+#include "server_database.h"
 #include "test_rows.h"
 
 #include "gfpdb/gfpdb_enums.h"
@@ -91,6 +94,8 @@ protected:
 
     // The library, with the family and scheme of the dialog that was opened last, or of the start.
     GFPDB_MGR& manager() const;
+    // The directory's database on a server, where it has one; else null.
+    SERVER_DATABASE* server() const { return m_server.get(); }
     // The database directory, ending in "/"; another one that exists and is empty.
     std::string directory() const;
     std::string other_directory() const;
@@ -138,7 +143,11 @@ private:
     void select_only(const QString& name);
     QStringList read_column(const QString& statement, const QVariantList& values) const;
 
+    // True when the database of each test function is on a server.
+    virtual bool is_on_server() const { return tests_are_on_server(); }
+
     std::unique_ptr<QTemporaryDir> m_scratch;
+    std::unique_ptr<SERVER_DATABASE> m_server;
     std::unique_ptr<GFPQ_DLG> m_dlg;
     QStringList m_warnings;
 };
@@ -148,5 +157,5 @@ private:
     {                                                                                                                  \
         ZUI_APP app(argc, argv);                                                                                       \
         TEST_CLASS test;                                                                                               \
-        return QTest::qExec(&test, argc, argv);                                                                        \
+        return QTest::qExec(&test, arguments_for_store(test, app.arguments()));                                        \
     }

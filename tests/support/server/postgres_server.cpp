@@ -86,20 +86,28 @@ int signal_of(const QByteArray& how)
     return how == "fast" ? SIGINT : SIGTERM;
 }
 
+QSqlDatabase connect_to(const POSTGRES_SERVER& server, const QString& database, const QString& name,
+                        const QString& schema)
+{
+    QSqlDatabase connection = QSqlDatabase::addDatabase("QPSQL", name);
+    connection.setHostName(server.socket_directory());
+    connection.setPort(server.port());
+    connection.setUserName(QLatin1String(POSTGRES_SERVER::ADMIN));
+    connection.setDatabaseName(database);
+    if (!schema.isEmpty())
+        connection.setConnectOptions("options=-csearch_path=" + schema + ",public");
+    if (!connection.open())
+        qFatal("%s", qPrintable(connection.lastError().text()));
+    return connection;
+}
+
 // Calls `use` with the executed statement.
-void run_statement(const POSTGRES_SERVER& server, const QString& database, const QString& statement,
+void run_statement(const POSTGRES_SERVER& server, const QString& schema, const QString& statement,
                    const std::function<void(QSqlQuery&)>& use)
 {
     const QString name = "the test's own server";
     {
-        QSqlDatabase connection = QSqlDatabase::addDatabase("QPSQL", name);
-        connection.setHostName(server.socket_directory());
-        connection.setPort(server.port());
-        connection.setUserName(QLatin1String(POSTGRES_SERVER::ADMIN));
-        connection.setDatabaseName(database);
-        if (!connection.open())
-            qFatal("%s", qPrintable(connection.lastError().text()));
-        QSqlQuery query(connection);
+        QSqlQuery query(server.connect(name, schema));
         if (!query.exec(statement))
             qFatal("%s: %s", qPrintable(statement), qPrintable(query.lastError().text()));
         use(query);
@@ -120,10 +128,48 @@ QString postgres_program(const char* name)
     return versions.filePath(QString::number(highest) + "/bin/" + QLatin1String(name));
 }
 
-POSTGRES_SERVER::POSTGRES_SERVER(const QStringList& settings, const QStringList& environment)
-    : m_settings(settings), m_environment(environment)
+POSTGRES_SERVER::POSTGRES_SERVER(const QStringList& settings) : POSTGRES_SERVER(settings, nullptr) {}
+
+POSTGRES_SERVER::POSTGRES_SERVER(const QStringList& settings, const POSTGRES_SERVER* primary) : m_settings(settings)
 {
     make_certificates(m_directory);
+    if (primary != nullptr) {
+        copy_from(*primary);
+        start();
+        return;
+    }
+    make_cluster();
+    start();
+    make_database();
+}
+
+void POSTGRES_SERVER::make_database()
+{
+    const QString name = "the first database";
+    {
+        QSqlQuery query(connect_to(*this, "postgres", name, QString()));
+        if (!query.exec("CREATE ROLE secret") || !query.exec("CREATE DATABASE " + QLatin1String(DATABASE)))
+            qFatal("%s", qPrintable(query.lastError().text()));
+    }
+    QSqlDatabase::removeDatabase(name);
+}
+
+std::unique_ptr<POSTGRES_SERVER> POSTGRES_SERVER::standby_of(const POSTGRES_SERVER& primary)
+{
+    return std::unique_ptr<POSTGRES_SERVER>(new POSTGRES_SERVER(QStringList(), &primary));
+}
+
+void POSTGRES_SERVER::copy_from(const POSTGRES_SERVER& primary)
+{
+    run_as_server_user({postgres_program("pg_basebackup"), "--host=" + primary.socket_directory(),
+                        "--port=" + QString::number(primary.port()), "--username=" + QLatin1String(ADMIN),
+                        "--write-recovery-conf", "--checkpoint=fast", "--no-sync",
+                        "--pgdata=" + m_directory.path("data")},
+                       m_directory.path("pg_basebackup.log"));
+}
+
+void POSTGRES_SERVER::make_cluster()
+{
     const QString data = m_directory.path("data");
     run_as_server_user({postgres_program("initdb"), "--no-sync", "--auth=trust", "--no-locale", "--encoding=UTF8",
                         "--username=" + QLatin1String(ADMIN), "--pgdata=" + data},
@@ -134,12 +180,6 @@ POSTGRES_SERVER::POSTGRES_SERVER(const QStringList& settings, const QStringList&
         qFatal("cannot write the settings of the server");
     access.write(ACCESS);
     common.write(COMMON_SETTINGS);
-    access.close();
-    common.close();
-    start();
-    const QString first = "postgres";
-    run("CREATE ROLE secret", first);
-    run("CREATE DATABASE " + QLatin1String(DATABASE), first);
 }
 
 POSTGRES_SERVER::~POSTGRES_SERVER()
@@ -166,21 +206,20 @@ void POSTGRES_SERVER::stop(const char* how)
     m_process.reset();
 }
 
-void POSTGRES_SERVER::start(const QStringList& settings)
+void POSTGRES_SERVER::start(const QStringList& settings, const QStringList& environment)
 {
-    m_extra_settings = settings;
     // A port that was free a moment ago may be another server's now.
     const int tries = m_port == 0 ? 5 : 1;
     for (int attempt = 0; attempt < tries; ++attempt) {
         if (tries > 1)
             m_port = free_tcp_port();
-        if (start_once())
+        if (start_once(settings, environment))
             return;
     }
     qFatal("PostgreSQL does not start: %s", qPrintable(log()));
 }
 
-bool POSTGRES_SERVER::start_once()
+bool POSTGRES_SERVER::start_once(const QStringList& settings, const QStringList& environment)
 {
     const QString data = m_directory.path("data");
     const QString pid_file = data + "/postmaster.pid";
@@ -189,26 +228,31 @@ bool POSTGRES_SERVER::start_once()
     QStringList command = {postgres_program("postgres"), "-D", data};
     for (const QString& setting :
          QStringList{"port=" + QString::number(m_port), "unix_socket_directories=" + socket_directory()} + m_settings +
-             m_extra_settings)
+             settings)
         command += {"-c", setting};
-    m_process = std::make_unique<SERVER_PROCESS>(command, m_directory.path("server.log"), SIGQUIT, m_environment);
+    m_process = std::make_unique<SERVER_PROCESS>(command, m_directory.path("server.log"), SIGQUIT, environment);
     return wait_until_ready(*m_process, &says_ready, pid_file);
 }
 
-QVariant POSTGRES_SERVER::run(const QString& statement, const QString& database) const
+QSqlDatabase POSTGRES_SERVER::connect(const QString& name, const QString& schema) const
+{
+    return connect_to(*this, QLatin1String(DATABASE), name, schema);
+}
+
+QVariant POSTGRES_SERVER::run(const QString& statement, const QString& schema) const
 {
     QVariant value;
-    run_statement(*this, database, statement, [&value](QSqlQuery& query) {
+    run_statement(*this, schema, statement, [&value](QSqlQuery& query) {
         if (query.next())
             value = query.value(0);
     });
     return value;
 }
 
-QStringList POSTGRES_SERVER::list(const QString& query, const QString& database) const
+QStringList POSTGRES_SERVER::list(const QString& query, const QString& schema) const
 {
     QStringList values;
-    run_statement(*this, database, query, [&values](QSqlQuery& result) {
+    run_statement(*this, schema, query, [&values](QSqlQuery& result) {
         while (result.next())
             values.append(result.value(0).toString());
     });

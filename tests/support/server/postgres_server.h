@@ -13,6 +13,7 @@
 
 #include "server_process.h"
 
+#include <QSqlDatabase>
 #include <QVariant>
 
 #include <memory>
@@ -23,9 +24,10 @@ public:
     static constexpr char ADMIN[] = "admin"; // a superuser
     static constexpr char DATABASE[] = "flash";
 
-    // Makes a server with `settings` ("name=value") and starts it. `environment` as SERVER_PROCESS has it.
-    explicit POSTGRES_SERVER(const QStringList& settings = QStringList(),
-                             const QStringList& environment = QStringList());
+    // Makes a server with `settings` ("name=value") and starts it.
+    explicit POSTGRES_SERVER(const QStringList& settings = QStringList());
+    // A standby of `primary`, which follows it from now on and takes no changes until it is promoted.
+    static std::unique_ptr<POSTGRES_SERVER> standby_of(const POSTGRES_SERVER& primary);
     ~POSTGRES_SERVER();
     POSTGRES_SERVER(const POSTGRES_SERVER&) = delete;
     POSTGRES_SERVER& operator=(const POSTGRES_SERVER&) = delete;
@@ -43,24 +45,29 @@ public:
 
     // "immediate" as a power failure, "fast" as an administrator does it, "smart" when nobody uses it any more.
     void stop(const char* how = "fast");
-    // Starts it again, on the same port, with `settings` over those that it was made with.
-    void start(const QStringList& settings = QStringList());
+    // Starts it again, on the same port, with `settings` over those that it was made with; `environment` as
+    // SERVER_PROCESS has it.
+    void start(const QStringList& settings = QStringList(), const QStringList& environment = QStringList());
     bool is_running() { return m_process != nullptr && m_process->is_running(); }
     pid_t pid() const { return m_process->pid(); }
 
-    // Runs SQL as the superuser; the first value of the first row, if there is one. The whole test program ends where
-    // that fails.
-    QVariant run(const QString& statement, const QString& database = QLatin1String(DATABASE)) const;
+    // Runs SQL as the superuser, where names without a schema are those of `schema`, or else of "public"; the first
+    // value of the first statement's first row, if there is one. The whole test program ends where that fails.
+    QVariant run(const QString& statement, const QString& schema = QString()) const;
     // As run(), all rows of one column.
-    QStringList list(const QString& query, const QString& database = QLatin1String(DATABASE)) const;
+    QStringList list(const QString& query, const QString& schema = QString()) const;
+    // A connection of the superuser; open.
+    QSqlDatabase connect(const QString& name, const QString& schema = QString()) const;
 
 private:
-    bool start_once();
+    POSTGRES_SERVER(const QStringList& settings, const POSTGRES_SERVER* primary);
+    void copy_from(const POSTGRES_SERVER& primary);
+    void make_cluster();
+    void make_database();
+    bool start_once(const QStringList& settings, const QStringList& environment);
 
     SERVER_DIRECTORY m_directory;
     QStringList m_settings;
-    QStringList m_extra_settings;
-    QStringList m_environment;
     int m_port = 0;
     std::unique_ptr<SERVER_PROCESS> m_process;
 };

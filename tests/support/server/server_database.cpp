@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "server_database.h"
 
+#include "pg_bouncer.h"
+
 #include <QFile>
 #include <QMetaMethod>
 #include <QRegularExpression>
@@ -20,7 +22,27 @@ std::map<std::string, SERVER_DATABASE*>& databases()
     return all;
 }
 
-// Once for the server: the user, and what the tests' statements call by SQLite's name.
+const PG_BOUNCER& pooler()
+{
+    static const PG_BOUNCER bouncer(POSTGRES_SERVER::of_program());
+    return bouncer;
+}
+
+// What the tests' statements call by SQLite's name.
+constexpr char SQLITE_FUNCTIONS[] = R"(
+CREATE FUNCTION public.typeof(text) RETURNS text LANGUAGE sql AS 'SELECT pg_typeof($1)::text';
+CREATE FUNCTION public.quote(anyelement) RETURNS text LANGUAGE sql AS 'SELECT quote_nullable($1)';
+CREATE FUNCTION public.strftime(text, text, text) RETURNS text LANGUAGE sql AS
+    'SELECT to_char(now() AT TIME ZONE ''UTC'' + $3::interval, ''YYYY-MM-DD"T"HH24:MI:SS"Z"'')';
+CREATE FUNCTION public.concat_next(text, text, text) RETURNS text LANGUAGE sql AS
+    'SELECT CASE WHEN $1 IS NULL THEN $2 WHEN $2 IS NULL THEN $1 ELSE $1 || $3 || $2 END';
+CREATE AGGREGATE public.group_concat(text, text) (sfunc = public.concat_next, stype = text);
+CREATE FUNCTION public.concat_next(text, text) RETURNS text LANGUAGE sql AS
+    'SELECT public.concat_next($1, $2, '','')';
+CREATE AGGREGATE public.group_concat(text) (sfunc = public.concat_next, stype = text);
+)";
+
+// Once for the server.
 void prepare_server(const POSTGRES_SERVER& server)
 {
     static bool is_prepared = false;
@@ -28,9 +50,7 @@ void prepare_server(const POSTGRES_SERVER& server)
         return;
     is_prepared = true;
     server.run("CREATE ROLE " + QLatin1String(SERVER_DATABASE::USER) + " LOGIN");
-    server.run("CREATE FUNCTION public.concat_next(text, text) RETURNS text LANGUAGE sql AS "
-               "$$ SELECT CASE WHEN $1 IS NULL THEN $2 WHEN $2 IS NULL THEN $1 ELSE $1 || ',' || $2 END $$");
-    server.run("CREATE AGGREGATE public.group_concat(text) (sfunc = public.concat_next, stype = text)");
+    server.run(QLatin1String(SQLITE_FUNCTIONS));
 }
 
 // The functions of the test class that need a file.
@@ -69,7 +89,7 @@ QStringList functions_of(const QObject& test)
 
 bool tests_are_on_server()
 {
-    return qgetenv("GFPDB_TEST_STORE") == "server";
+    return qEnvironmentVariableIsSet("GFPDB_TEST_STORE");
 }
 
 SERVER_DATABASE::SERVER_DATABASE(const std::string& directory, std::string (*make_sql)(const std::string& schema))
@@ -82,7 +102,10 @@ SERVER_DATABASE::SERVER_DATABASE(const std::string& directory, std::string (*mak
     server.run(QString::fromStdString(make_sql(m_schema.toStdString())));
     server.run("GRANT " + m_schema + "_editor TO " + QLatin1String(USER));
     databases()[directory] = this;
-    go_through(0);
+    if (qgetenv("GFPDB_TEST_STORE") == "pooled")
+        go_through(pooler().port());
+    else
+        name(server.socket_directory(), QString::number(server.port()));
 }
 
 SERVER_DATABASE::~SERVER_DATABASE()
@@ -97,46 +120,36 @@ SERVER_DATABASE* SERVER_DATABASE::find(const std::string& directory)
     return found == databases().end() ? nullptr : found->second;
 }
 
-void SERVER_DATABASE::go_through(int port) const
+void SERVER_DATABASE::name(const QString& hosts, const QString& ports, const QString& more) const
 {
-    const POSTGRES_SERVER& server = POSTGRES_SERVER::of_program();
     QFile file(QFile::decodeName(m_directory.c_str()) + "gfpdb-server.ini");
-    const QString content = QString("[server]\nhosts=%1\nport=%2\ndatabase=%3\nschema=%4\nuser=%5\n")
-                                .arg(port == 0 ? server.socket_directory() : "127.0.0.1")
-                                .arg(port == 0 ? server.port() : port)
-                                .arg(QLatin1String(POSTGRES_SERVER::DATABASE), m_schema, QLatin1String(USER));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content.toUtf8()) < 0)
+    const QString user = more.contains("user=") ? QString() : "user=" + QLatin1String(USER) + '\n';
+    const QString content = QString("[server]\nhosts=%1\nport=%2\ndatabase=%3\nschema=%4\n")
+                                .arg(hosts, ports, QLatin1String(POSTGRES_SERVER::DATABASE), m_schema);
+    if (!file.open(QIODevice::WriteOnly) || file.write((content + user + more).toUtf8()) < 0)
         qFatal("cannot write %s", qPrintable(file.fileName()));
 }
 
-QString SERVER_DATABASE::in_schema(const QString& statement) const
+void SERVER_DATABASE::go_through(int port) const
 {
-    return "SET search_path TO " + m_schema + ", public; " + statement;
+    name("127.0.0.1", QString::number(port), "sslmode=disable\n");
 }
 
 QVariant SERVER_DATABASE::run(const QString& statement) const
 {
-    return POSTGRES_SERVER::of_program().run(in_schema(statement));
+    return POSTGRES_SERVER::of_program().run(statement, m_schema);
 }
 
 QStringList SERVER_DATABASE::list(const QString& query) const
 {
-    return POSTGRES_SERVER::of_program().list(in_schema(query));
+    return POSTGRES_SERVER::of_program().list(query, m_schema);
 }
 
 void SERVER_DATABASE::lock(const QString& how)
 {
-    const POSTGRES_SERVER& server = POSTGRES_SERVER::of_program();
-    QSqlDatabase connection = QSqlDatabase::addDatabase("QPSQL", LOCKER);
-    connection.setHostName(server.socket_directory());
-    connection.setPort(server.port());
-    connection.setUserName(QLatin1String(POSTGRES_SERVER::ADMIN));
-    connection.setDatabaseName(QLatin1String(POSTGRES_SERVER::DATABASE));
     const QString mode = how == "EXCLUSIVE" ? "ACCESS EXCLUSIVE" : "EXCLUSIVE";
-    QSqlQuery query;
-    if (connection.open())
-        query = QSqlQuery(connection);
-    if (!query.exec(in_schema("BEGIN; LOCK TABLE meta, device, template, history IN " + mode + " MODE")))
+    QSqlQuery query(POSTGRES_SERVER::of_program().connect(LOCKER, m_schema));
+    if (!query.exec("BEGIN; LOCK TABLE meta, device, template, history IN " + mode + " MODE"))
         qFatal("no lock: %s", qPrintable(query.lastError().text()));
 }
 

@@ -12,7 +12,7 @@
 
 class QObject;
 
-// What the tests ask about: true in the second run.
+// True in that run. With GFPDB_TEST_STORE=pooled there is a pooler in front of the server.
 bool tests_are_on_server();
 
 // A schema of the program's server, and gfpdb-server.ini in a directory, which names it. Its user "tester" may change
@@ -32,7 +32,10 @@ public:
     static SERVER_DATABASE* find(const std::string& directory);
 
     const QString& schema() const { return m_schema; }
-    // Names the server again, at another port: a proxy's.
+    // Writes the file again: hosts and ports as it has them, with commas between them, and more lines of it. The
+    // library reads it when the directory is opened again.
+    void name(const QString& hosts, const QString& ports, const QString& more = QString()) const;
+    // Names 127.0.0.1 and a port, without TLS: a proxy that understands what is said.
     void go_through(int port) const;
     // Any program's statement; the superuser runs it. Its first value, or the values of its first column. The test
     // program ends where it fails.
@@ -43,8 +46,6 @@ public:
     void unlock();
 
 private:
-    QString in_schema(const QString& statement) const;
-
     std::string m_directory;
     QString m_schema;
 };

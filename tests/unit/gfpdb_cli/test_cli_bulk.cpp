@@ -149,6 +149,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_CLI_BULK)
+EITHER_STORE_TEST_MAIN(TEST_CLI_BULK)
 
 #include "test_cli_bulk.moc"

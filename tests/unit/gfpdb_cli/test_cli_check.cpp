@@ -269,6 +269,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_CLI_CHECK)
+EITHER_STORE_TEST_MAIN(TEST_CLI_CHECK)
 
 #include "test_cli_check.moc"

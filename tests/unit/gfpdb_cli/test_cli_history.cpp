@@ -285,18 +285,19 @@ private slots:
         save_part("Mine");
         save_part("Mine", FAMILY, QUAD);
         save_part("Gone", FAMILY, ACTIVE_SERIAL, "Gone template");
-        const std::string copy = "INSERT INTO history SELECT ";
-        const std::string columns =
+        const std::string record =
             ", family, scheme, name, device_id, voltage, density, total_die, single_io_dummy_clock, "
-            "quad_io_dummy_clock, "
-            "template_name, flow_template, revision, saved_at, single_flows, quad_flows, 'me', ";
+            "quad_io_dummy_clock, template_name, flow_template, revision, saved_at, single_flows, quad_flows, ";
+        const std::string copy = "INSERT INTO history (id, is_template, reason, changed_at" + record +
+                                 "changed_by, name_key, saved_by" + (tests_are_on_server() ? ", change_id" : "") +
+                                 ") SELECT ";
+        const std::string last = tests_are_on_server() ? "saved_by, '' FROM " : "saved_by FROM ";
+        const std::string columns = record + "'me', ";
         const auto add = [&](int id, int days, const std::string& from) {
             run_sql(m_place->db_file(),
                     copy + std::to_string(id) + ", " + (from[0] == 't' ? "1" : "0") +
                         ", 'replaced', strftime('%Y-%m-%dT%H:%M:%SZ', 'now', '-" + std::to_string(days) + " days')" +
-                        columns +
-                        (from[0] == 't' ? "lower(template_name), saved_by FROM " : "lower(name), saved_by FROM ") +
-                        from);
+                        columns + (from[0] == 't' ? "lower(template_name), " : "lower(name), ") + last + from);
         };
         add(1, 50, "device WHERE name = 'Mine' AND scheme = 7");
         add(2, 30, "device WHERE name = 'Mine' AND scheme = 7");
@@ -407,6 +408,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_CLI_HISTORY)
+EITHER_STORE_TEST_MAIN(TEST_CLI_HISTORY)
 
 #include "test_cli_history.moc"

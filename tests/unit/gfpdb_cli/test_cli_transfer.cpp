@@ -320,6 +320,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TEST_CLI_TRANSFER)
+EITHER_STORE_TEST_MAIN(TEST_CLI_TRANSFER)
 
 #include "test_cli_transfer.moc"
