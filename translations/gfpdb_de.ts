@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>Die Datenbank in %1 ist beschädigt: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>Der Datenbankserver %1 hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>Der Datenbankserver %1 ist nicht erreichbar: %2.</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>Der Datenbankserver %1 hat abgelehnt: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 erlaubt das der Anmeldung %3 nicht: Ihr Administrator kann die Rolle %4 oder %5 gewähren.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 hat kein Schema %3 für Bausteine: Ihr Administrator kann es mit „gfpdb server sql“ anlegen.</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>Auf dem Server %1 ist kein Platz für die Änderung.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 ist von einem anderen Programm gesperrt.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 wird gerade von zu vielen Programmen geändert: Versuchen Sie es noch einmal.</translation>
+    </message>
 </context>
 </TS>

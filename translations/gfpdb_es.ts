@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>La base de datos de %1 está dañada: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>El servidor de base de datos %1 no respondió a tiempo.</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>No se puede acceder al servidor de base de datos %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>El servidor de base de datos %1 lo rechazó: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>La base de datos %1 del servidor %2 no permite eso al usuario %3: su administrador puede conceder el rol %4 o %5.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>La base de datos %1 del servidor %2 no tiene el esquema %3 para dispositivos: su administrador puede crearlo con «gfpdb server sql».</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>No hay espacio para el cambio en el servidor %1.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>La base de datos %1 del servidor %2 está bloqueada por otro programa.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>Demasiados programas están modificando la base de datos %1 del servidor %2: inténtelo de nuevo.</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>La base de données dans %1 est endommagée&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>Le serveur de base de données %1 n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>Le serveur de base de données %1 est inaccessible&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>Le serveur de base de données %1 a refusé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>La base de données %1 du serveur %2 ne permet pas cela à l’utilisateur %3&#xa0;: son administrateur peut accorder le rôle %4 ou %5.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>La base de données %1 du serveur %2 n’a pas de schéma %3 pour les composants&#xa0;: son administrateur peut le créer avec «&#xa0;gfpdb server sql&#xa0;».</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>Il n’y a plus de place pour la modification sur le serveur %1.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>La base de données %1 du serveur %2 est verrouillée par un autre programme.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>Trop de programmes modifient en ce moment la base de données %1 du serveur %2&#xa0;: réessayez.</translation>
+    </message>
 </context>
 </TS>

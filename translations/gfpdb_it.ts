@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>Il database in %1 è danneggiato: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>Il server di database %1 non ha risposto in tempo.</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>Il server di database %1 non è raggiungibile: %2.</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>Il server di database %1 ha rifiutato: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>Il database %1 sul server %2 non lo consente all’utente %3: il suo amministratore può concedere il ruolo %4 o %5.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>Il database %1 sul server %2 non ha lo schema %3 per i dispositivi: il suo amministratore può crearlo con «gfpdb server sql».</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>Non c’è spazio per la modifica sul server %1.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>Il database %1 sul server %2 è bloccato da un altro programma.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>Troppi programmi stanno modificando il database %1 sul server %2: riprovare.</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>%1 のデータベースは破損しています: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>データベースサーバー %1 が時間内に応答しませんでした。</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>データベースサーバー %1 にアクセスできません: %2。</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>データベースサーバー %1 に拒否されました: %2。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>サーバー %2 のデータベース %1 は、ログイン %3 にそれを許可していません: 管理者がロール %4 または %5 を付与できます。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>サーバー %2 のデータベース %1 にデバイス用のスキーマ %3 がありません: 管理者が「gfpdb server sql」で作成できます。</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>サーバー %1 に変更のための空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>サーバー %2 のデータベース %1 は別のプログラムにロックされています。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>サーバー %2 のデータベース %1 は多くのプログラムに変更されている最中です: やり直してください。</translation>
+    </message>
 </context>
 </TS>

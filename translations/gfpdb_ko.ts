@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>%1의 데이터베이스가 손상되었습니다: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>데이터베이스 서버 %1이(가) 제때 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>데이터베이스 서버 %1에 접근할 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>데이터베이스 서버 %1이(가) 거부했습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>서버 %2의 데이터베이스 %1은(는) 로그인 %3에 이를 허용하지 않습니다: 관리자가 역할 %4 또는 %5을(를) 부여할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>서버 %2의 데이터베이스 %1에 디바이스용 스키마 %3이(가) 없습니다: 관리자가 ‘gfpdb server sql’로 만들 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>서버 %1에 변경을 저장할 공간이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>서버 %2의 데이터베이스 %1이(가) 다른 프로그램에 의해 잠겨 있습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>지금 너무 많은 프로그램이 서버 %2의 데이터베이스 %1을(를) 바꾸고 있습니다: 다시 시도하십시오.</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>O banco de dados em %1 está danificado: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>O servidor de banco de dados %1 não respondeu a tempo.</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>O servidor de banco de dados %1 não pode ser acessado: %2.</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>O servidor de banco de dados %1 recusou: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>O banco de dados %1 no servidor %2 não permite isso ao login %3: seu administrador pode conceder o papel %4 ou %5.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>O banco de dados %1 no servidor %2 não tem o esquema %3 para dispositivos: seu administrador pode criá-lo com “gfpdb server sql”.</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>Não há espaço para a alteração no servidor %1.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>O banco de dados %1 no servidor %2 está bloqueado por outro programa.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>Programas demais estão alterando o banco de dados %1 no servidor %2 agora: tente de novo.</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>База данных в %1 повреждена: %2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>Сервер базы данных %1 не ответил вовремя.</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>Сервер базы данных %1 недоступен: %2.</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>Сервер базы данных %1 отказал: %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>База данных %1 на сервере %2 не разрешает этого пользователю %3: её администратор может предоставить роль %4 или %5.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>В базе данных %1 на сервере %2 нет схемы %3 для микросхем: её администратор может создать её командой «gfpdb server sql».</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>На сервере %1 нет места для изменения.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>База данных %1 на сервере %2 заблокирована другой программой.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>Базу данных %1 на сервере %2 сейчас изменяет слишком много программ: повторите попытку.</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>%1 中的数据库已损坏：%2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>数据库服务器 %1 未及时响应。</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>无法访问数据库服务器 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>数据库服务器 %1 拒绝：%2。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>服务器 %2 上的数据库 %1 不允许登录名 %3 这样做：其管理员可以授予角色 %4 或 %5。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>服务器 %2 上的数据库 %1 没有用于器件的架构 %3：其管理员可以用“gfpdb server sql”创建。</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>服务器 %1 上没有空间保存更改。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>服务器 %2 上的数据库 %1 被其他程序锁定。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>当前有太多程序正在更改服务器 %2 上的数据库 %1：请重试。</translation>
+    </message>
 </context>
 </TS>

@@ -511,5 +511,37 @@
         <source>The database in %1 is damaged: %2</source>
         <translation>%1 中的資料庫已損毀：%2</translation>
     </message>
+    <message>
+        <source>The database server %1 did not answer in time.</source>
+        <translation>資料庫伺服器 %1 未及時回應。</translation>
+    </message>
+    <message>
+        <source>The database server %1 cannot be reached: %2.</source>
+        <translation>無法存取資料庫伺服器 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database server %1 refused: %2.</source>
+        <translation>資料庫伺服器 %1 拒絕：%2。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 does not allow that to the login %3: its administrator can grant the role %4 or %5.</source>
+        <translation>伺服器 %2 上的資料庫 %1 不允許登入 %3 這樣做：其管理員可以授予角色 %4 或 %5。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 has no schema %3 for devices: its administrator can make it with &quot;gfpdb server sql&quot;.</source>
+        <translation>伺服器 %2 上的資料庫 %1 沒有用於元件的結構 %3：其管理員可以用「gfpdb server sql」建立。</translation>
+    </message>
+    <message>
+        <source>There is no room for the change on the server %1.</source>
+        <translation>伺服器 %1 上沒有空間儲存變更。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is locked by another program.</source>
+        <translation>伺服器 %2 上的資料庫 %1 被其他程式鎖定。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
+        <translation>目前有太多程式正在變更伺服器 %2 上的資料庫 %1：請重試。</translation>
+    </message>
 </context>
 </TS>

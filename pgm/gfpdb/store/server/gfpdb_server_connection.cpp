@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -236,12 +237,13 @@ bool GFPDB_SERVER_CONNECTION::fail(const std::string& error)
 
 bool GFPDB_SERVER_CONNECTION::lose(FAILURE failure, const std::string& words)
 {
-    const std::string server = "The database server " + host();
+    const std::string server = host();
     close();
     m_failure = failure;
     m_sqlstate.clear();
-    return fail(failure == FAILURE::LATE ? server + " did not answer in time."
-                                         : server + " cannot be reached: " + words + '.');
+    return fail(failure == FAILURE::LATE
+                    ? GFPDB_WORDS::say("The database server %1 did not answer in time.", {server})
+                    : GFPDB_WORDS::say("The database server %1 cannot be reached: %2.", {server, words}));
 }
 
 bool GFPDB_SERVER_CONNECTION::refuse(const pg_result* result)
@@ -250,27 +252,33 @@ bool GFPDB_SERVER_CONNECTION::refuse(const pg_result* result)
     const char* const message = PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY);
     m_failure = FAILURE::REFUSED;
     m_sqlstate = state != nullptr ? state : "";
-    return fail("The database server " + host() + " refused: " + words_of(message != nullptr ? message : "no reason") +
-                '.');
+    return fail(GFPDB_WORDS::say("The database server %1 refused: %2.",
+                                 {host(), words_of(message != nullptr ? message : "no reason")}));
 }
 
 // Says in our words what the server refused, where it is known.
 bool GFPDB_SERVER_CONNECTION::explain()
 {
     const std::string& state = m_sqlstate;
+    const std::string database = gfpdb_quoted(m_server.database);
     if (state == "42501")
-        return fail(database() + " does not allow that to the login " + gfpdb_quoted(login()) +
-                    ": its administrator can grant the role " + m_server.schema + "_reader or " + m_server.schema +
-                    "_editor.");
+        return fail(GFPDB_WORDS::say(
+            "The database %1 on the server %2 does not allow that to the login %3: its administrator "
+            "can grant the role %4 or %5.",
+            {database, host(), gfpdb_quoted(login()), m_server.schema + "_reader", m_server.schema + "_editor"}));
     if (state == "3F000" || state == "42P01" || state == "42703")
-        return fail(database() + " has no schema " + gfpdb_quoted(m_server.schema) +
-                    " for devices: its administrator can make it with \"gfpdb server sql\".");
+        return fail(
+            GFPDB_WORDS::say("The database %1 on the server %2 has no schema %3 for devices: its administrator can "
+                             "make it with \"gfpdb server sql\".",
+                             {database, host(), gfpdb_quoted(m_server.schema)}));
     if (state == "53100" || state == "53200")
-        return fail("There is no room for the change on the server " + host() + '.');
+        return fail(GFPDB_WORDS::say("There is no room for the change on the server %1.", {host()}));
     if (state == "55P03" || state == "57014")
-        return fail(database() + " is locked by another program.");
+        return fail(
+            GFPDB_WORDS::say("The database %1 on the server %2 is locked by another program.", {database, host()}));
     if (state == "40001" || state == "40P01" || state == "23505")
-        return fail(database() + " is changed by too many programs now: try again.");
+        return fail(GFPDB_WORDS::say("The database %1 on the server %2 is changed by too many programs now: try again.",
+                                     {database, host()}));
     return false;
 }
 
