@@ -139,6 +139,7 @@ private:
     std::vector<QUAD_READ> listed_reads() const;
     // The erase types that erase the same wherever they are sent, with the commands that go with the addressing.
     std::vector<GFPDB_SFDP_ERASE> uniform_types() const;
+    bool is_listed_in_part(int opcode) const;
     const GFPDB_SFDP_ERASE* chosen_type(const std::vector<GFPDB_SFDP_ERASE>& types) const;
 
     void warn_of_id(std::vector<std::string>& warnings) const;

@@ -163,9 +163,10 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_density() const
 
 GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_dies() const
 {
-    const std::optional<int> dies = common_value(&GFPDB_PART::total_die);
-    const bool is_same_size = m_has_model && gfpdb_density_bytes(m_model.density) * 8 == density_bits();
-    return dies && is_same_size ? PROPOSED{std::to_string(*dies), FROM_ID} : PROPOSED{"1", ASSUMED};
+    const bool is_same_size = gfpdb_density_bytes(m_model.density) * 8 == density_bits();
+    if (m_model.total_die > 0 && is_same_size)
+        return {std::to_string(m_model.total_die), FROM_ID};
+    return {"1", ASSUMED};
 }
 
 GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_die_selection() const
@@ -423,6 +424,18 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_quad_program() const
     return proposed;
 }
 
+// True for tables without a sector map, where the listed part has a command that erases another size elsewhere, or
+// sectors that are split.
+bool GFPDB_PROPOSAL::is_listed_in_part(int opcode) const
+{
+    if (m_listed.empty() || !m_sfdp->sector_maps.empty())
+        return false;
+    const auto has_opcode = [opcode](const GFPDB_ERASE_COMMAND& erase) { return erase.opcode == opcode; };
+    const bool has_sizes = std::count_if(m_model.sector_erase.begin(), m_model.sector_erase.end(), has_opcode) > 1;
+    const bool is_split = !m_model.sector_erase.empty() && !gfpdb_flow_traits(m_model, true).sector_erase;
+    return has_sizes || is_split;
+}
+
 std::vector<GFPDB_SFDP_ERASE> GFPDB_PROPOSAL::uniform_types() const
 {
     std::vector<GFPDB_SFDP_ERASE> types;
@@ -439,7 +452,8 @@ std::vector<GFPDB_SFDP_ERASE> GFPDB_PROPOSAL::uniform_types() const
                 });
             });
         erase.opcode = opcode;
-        if (opcode != 0 && is_one_size && is_everywhere && erase.size_bytes <= ERASE_BYTES_MAX)
+        if (opcode != 0 && is_one_size && is_everywhere && !is_listed_in_part(opcode) &&
+            erase.size_bytes <= ERASE_BYTES_MAX)
             types.push_back(erase);
     }
     // The largest first, and of the same size the one with the larger opcode: D8 and DC.
@@ -469,8 +483,11 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_erase() const
                                       : dword,
                 choices};
     }
-    if (has_sfdp() && !m_sfdp->erase.empty())
-        return {WHOLE_CHIP, m_sfdp->sector_maps.empty() ? "SFDP DW8" : "SFDP sector map", choices};
+    const bool is_by_list = !m_listed.empty() && usual == WHOLE_CHIP;
+    if (has_sfdp() && !m_sfdp->erase.empty() && !m_sfdp->sector_maps.empty())
+        return {WHOLE_CHIP, "SFDP sector map", choices};
+    if (has_sfdp() && !m_sfdp->erase.empty() && !is_by_list)
+        return {WHOLE_CHIP, "SFDP DW8", choices};
     PROPOSED proposed = from_habit(usual);
     proposed.choices = choices;
     return proposed;

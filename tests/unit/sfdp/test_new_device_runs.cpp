@@ -5,6 +5,9 @@
 #include "sparse_image.h"
 #include "test_rows.h"
 
+#include "catalogue/gfpdb_builtin_records.h"
+#include "chip/gfpe_chip_facts.h"
+#include "gfpdb/gfpdb_catalogue.h"
 #include "gfpdb/gfpdb_exchange.h"
 #include "gfpdb/gfpdb_text.h"
 #include "gfpe/gfpe_chip.h"
@@ -89,6 +92,34 @@ private slots:
         QVERIFY2(session.result.verdict == GFPE_VERDICT::PASSED, session.report().c_str());
         QVERIFY2(session.chip->get_notes().empty(), session.report().c_str());
         QVERIFY(session.chip->is_at_rest());
+    }
+
+    // A chip whose part has no read-out says what the emulation knows of it, or nothing.
+    void what_each_emulated_chip_says_makes_a_device_for_it_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const GFPDB_PART& part : gfpdb_catalogue_parts())
+            QTest::newRow(part.name.c_str()) << QString::fromStdString(part.name);
+    }
+
+    void what_each_emulated_chip_says_makes_a_device_for_it()
+    {
+        const GFPDB_PART& part = *gfpdb_builtin_part(QString(QTest::currentDataTag()).toStdString());
+        GFPE_CHIP_FACTS facts;
+        std::string problem;
+        QVERIFY(gfpe_chip_facts(part, facts, problem));
+        QCOMPARE(facts.sfdp.empty(), part.name.rfind("AT25SF", 0) == 0 && part.name != "AT25SF128A");
+        const std::optional<GFPDB_SFDP> sfdp = gfpdb_read_sfdp(facts.sfdp, problem);
+        for (const bool quad : {false, true}) {
+            GFPDB_RECORD record = record_of(GFPDB_NEW_DEVICE(facts.id, sfdp ? &*sfdp : nullptr));
+            record.row.name = part.name; // the chip is that of this part
+
+            const SESSION session(record, quad);
+
+            QVERIFY2(session.result.verdict == GFPE_VERDICT::PASSED, session.report().c_str());
+            QVERIFY2(session.chip->get_notes().empty(), session.report().c_str());
+            QVERIFY(session.chip->is_at_rest());
+        }
     }
 };
 
