@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>Die Datenbank %1 auf dem Server %2 wird gerade von zu vielen Programmen geändert: Versuchen Sie es noch einmal.</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>Das Verzeichnis %1 hat die Datenbank %2 und nennt in %3 einen Server. Verschieben Sie die Datenbank in ein anderes Verzeichnis, und kopieren Sie ihre Datensätze von dort mit „gfpdb copy“ auf den Server.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 kann von der Anmeldung %3 nicht gelesen werden: Ihr Administrator kann die Rolle %4 gewähren.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 kann gelesen, aber nicht geändert werden: Der Server nimmt zurzeit keine Änderungen an.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 kann gelesen, aber nicht geändert werden: Die Anmeldung %3 hat die Rolle %4 nicht.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 wurde von einem neueren Programm geschrieben (Schema %3). Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 ist eine Datenbank eines anderen Programms. Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 wurde von einem älteren Programm geschrieben (Schema %3): Sie kann benutzt werden, sobald jemand mit der Rolle %4 sie einmal geöffnet hat.</translation>
+    </message>
 </context>
 </TS>

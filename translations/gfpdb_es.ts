@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>Demasiados programas están modificando la base de datos %1 del servidor %2: inténtelo de nuevo.</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>El directorio %1 tiene la base de datos %2 y nombra un servidor en %3. Mueva la base de datos a otro directorio y copie desde allí sus registros al servidor con «gfpdb copy».</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>El usuario %3 no puede leer la base de datos %1 del servidor %2: su administrador puede conceder el rol %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>La base de datos %1 del servidor %2 se puede leer, pero no modificar: el servidor no acepta cambios ahora.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>La base de datos %1 del servidor %2 se puede leer, pero no modificar: el usuario %3 no tiene el rol %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>La base de datos %1 del servidor %2 la escribió un programa más nuevo (esquema %3). Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>La base de datos %1 del servidor %2 es de otro programa. Se deja como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>La base de datos %1 del servidor %2 la escribió un programa más antiguo (esquema %3): se podrá usar cuando la abra alguien con el rol %4.</translation>
+    </message>
 </context>
 </TS>

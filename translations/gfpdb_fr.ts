@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>Trop de programmes modifient en ce moment la base de données %1 du serveur %2&#xa0;: réessayez.</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>Le répertoire %1 contient la base de données %2 et nomme un serveur dans %3. Déplacez la base de données dans un autre répertoire, et copiez-en les enregistrements sur le serveur avec «&#xa0;gfpdb copy&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>La base de données %1 du serveur %2 ne peut pas être lue par l’utilisateur %3&#xa0;: son administrateur peut accorder le rôle %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>La base de données %1 du serveur %2 peut être lue, mais pas modifiée&#xa0;: le serveur n’accepte aucune modification pour le moment.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>La base de données %1 du serveur %2 peut être lue, mais pas modifiée&#xa0;: l’utilisateur %3 n’a pas le rôle %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>La base de données %1 du serveur %2 a été écrite par un programme plus récent (schéma %3). Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>La base de données %1 du serveur %2 est celle d’un autre programme. Elle est laissée telle quelle.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>La base de données %1 du serveur %2 a été écrite par un programme plus ancien (schéma %3)&#xa0;: elle pourra être utilisée quand quelqu’un ayant le rôle %4 l’aura ouverte une fois.</translation>
+    </message>
 </context>
 </TS>

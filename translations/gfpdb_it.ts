@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>Troppi programmi stanno modificando il database %1 sul server %2: riprovare.</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>La cartella %1 contiene il database %2 e nomina un server in %3. Spostare il database in un’altra cartella e copiarne da lì i record sul server con «gfpdb copy».</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>L’utente %3 non può leggere il database %1 sul server %2: il suo amministratore può concedere il ruolo %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>Il database %1 sul server %2 si può leggere, ma non modificare: il server al momento non accetta modifiche.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>Il database %1 sul server %2 si può leggere, ma non modificare: l’utente %3 non ha il ruolo %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>Il database %1 sul server %2 è stato scritto da un programma più recente (schema %3). Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>Il database %1 sul server %2 è un database di un altro programma. Viene lasciato com’è.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>Il database %1 sul server %2 è stato scritto da un programma più vecchio (schema %3): si potrà usare dopo che lo avrà aperto chi ha il ruolo %4.</translation>
+    </message>
 </context>
 </TS>

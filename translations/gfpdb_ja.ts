@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>サーバー %2 のデータベース %1 は多くのプログラムに変更されている最中です: やり直してください。</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>ディレクトリ %1 にはデータベース %2 があり、%3 でサーバーも指定されています。データベースを別のディレクトリに移動し、そこから「gfpdb copy」でレコードをサーバーにコピーしてください。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>サーバー %2 のデータベース %1 はログイン %3 では読み込めません: 管理者がロール %4 を付与できます。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>サーバー %2 のデータベース %1 は読み込めますが、変更できません: サーバーは現在変更を受け付けていません。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>サーバー %2 のデータベース %1 は読み込めますが、変更できません: ログイン %3 にロール %4 がありません。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>サーバー %2 のデータベース %1 は新しいプログラムで作成されました (スキーマ %3)。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>サーバー %2 のデータベース %1 は別のプログラムのデータベースです。そのまま残されます。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>サーバー %2 のデータベース %1 は古いプログラムで作成されました (スキーマ %3): ロール %4 を持つ人が一度開くと使用できます。</translation>
+    </message>
 </context>
 </TS>

@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>지금 너무 많은 프로그램이 서버 %2의 데이터베이스 %1을(를) 바꾸고 있습니다: 다시 시도하십시오.</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>폴더 %1에 데이터베이스 %2이(가) 있고 %3에 서버도 지정되어 있습니다. 데이터베이스를 다른 폴더로 옮긴 다음 거기서 ‘gfpdb copy’로 레코드를 서버에 복사하십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>로그인 %3은(는) 서버 %2의 데이터베이스 %1을(를) 읽을 수 없습니다: 관리자가 역할 %4을(를) 부여할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>서버 %2의 데이터베이스 %1을(를) 읽을 수는 있지만 바꿀 수는 없습니다: 서버가 지금 변경을 받지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>서버 %2의 데이터베이스 %1을(를) 읽을 수는 있지만 바꿀 수는 없습니다: 로그인 %3에 역할 %4이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>서버 %2의 데이터베이스 %1은(는) 더 새로운 프로그램이 썼습니다(스키마 %3). 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>서버 %2의 데이터베이스 %1은(는) 다른 프로그램의 데이터베이스입니다. 그대로 둡니다.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>서버 %2의 데이터베이스 %1은(는) 더 오래된 프로그램이 썼습니다(스키마 %3): 역할 %4을(를) 가진 사람이 한 번 열면 사용할 수 있습니다.</translation>
+    </message>
 </context>
 </TS>

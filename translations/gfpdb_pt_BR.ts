@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>Programas demais estão alterando o banco de dados %1 no servidor %2 agora: tente de novo.</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>O diretório %1 tem o banco de dados %2 e cita um servidor em %3. Mova o banco de dados para outro diretório e copie de lá seus registros para o servidor com “gfpdb copy”.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>O login %3 não pode ler o banco de dados %1 no servidor %2: seu administrador pode conceder o papel %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>O banco de dados %1 no servidor %2 pode ser lido, mas não alterado: o servidor não aceita alterações agora.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>O banco de dados %1 no servidor %2 pode ser lido, mas não alterado: o login %3 não tem o papel %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>O banco de dados %1 no servidor %2 foi gravado por um programa mais novo (esquema %3). Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>O banco de dados %1 no servidor %2 é de outro programa. Ele é deixado como está.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>O banco de dados %1 no servidor %2 foi gravado por um programa mais antigo (esquema %3): poderá ser usado quando alguém com o papel %4 o abrir uma vez.</translation>
+    </message>
 </context>
 </TS>

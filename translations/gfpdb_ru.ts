@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>Базу данных %1 на сервере %2 сейчас изменяет слишком много программ: повторите попытку.</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>В каталоге %1 есть база данных %2, а в %3 указан сервер. Переместите базу данных в другой каталог и скопируйте оттуда её записи на сервер командой «gfpdb copy».</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>Пользователь %3 не может читать базу данных %1 на сервере %2: её администратор может предоставить роль %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>Базу данных %1 на сервере %2 можно читать, но нельзя изменять: сервер сейчас не принимает изменений.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>Базу данных %1 на сервере %2 можно читать, но нельзя изменять: у пользователя %3 нет роли %4.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>База данных %1 на сервере %2 записана более новой программой (схема %3). Она оставлена как есть.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>База данных %1 на сервере %2 — база данных другой программы. Она оставлена как есть.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>База данных %1 на сервере %2 записана более старой программой (схема %3): её можно будет использовать, когда её откроет тот, у кого есть роль %4.</translation>
+    </message>
 </context>
 </TS>

@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>当前有太多程序正在更改服务器 %2 上的数据库 %1：请重试。</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>目录 %1 中有数据库 %2，同时 %3 中指定了服务器。请将数据库移到其他目录，再用“gfpdb copy”将其记录复制到服务器。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>登录名 %3 无法读取服务器 %2 上的数据库 %1：其管理员可以授予角色 %4。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>服务器 %2 上的数据库 %1 可以读取，但不能更改：服务器目前不接受更改。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>服务器 %2 上的数据库 %1 可以读取，但不能更改：登录名 %3 没有角色 %4。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>服务器 %2 上的数据库 %1 由较新的程序写入（架构 %3）。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>服务器 %2 上的数据库 %1 是其他程序的数据库。将保持原样。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>服务器 %2 上的数据库 %1 由较旧的程序写入（架构 %3）：由具有角色 %4 的人打开一次后即可使用。</translation>
+    </message>
 </context>
 </TS>

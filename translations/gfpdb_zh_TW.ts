@@ -543,5 +543,33 @@
         <source>The database %1 on the server %2 is changed by too many programs now: try again.</source>
         <translation>目前有太多程式正在變更伺服器 %2 上的資料庫 %1：請重試。</translation>
     </message>
+    <message>
+        <source>The directory %1 has the database %2 and names a server in %3. Move the database to another directory, and copy its records from there to the server with &quot;gfpdb copy&quot;.</source>
+        <translation>目錄 %1 中有資料庫 %2，同時 %3 中指定了伺服器。請將資料庫移到其他目錄，再用「gfpdb copy」將其記錄複製到伺服器。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 cannot be read by the login %3: its administrator can grant the role %4.</source>
+        <translation>登入 %3 無法讀取伺服器 %2 上的資料庫 %1：其管理員可以授予角色 %4。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the server takes no changes now.</source>
+        <translation>伺服器 %2 上的資料庫 %1 可以讀取，但不能變更：伺服器目前不接受變更。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 can be read, but not changed: the login %3 has not the role %4.</source>
+        <translation>伺服器 %2 上的資料庫 %1 可以讀取，但不能變更：登入 %3 沒有角色 %4。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by a newer program (schema %3). It is left as it is.</source>
+        <translation>伺服器 %2 上的資料庫 %1 由較新的程式寫入（結構 %3）。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is a database of another program. It is left as it is.</source>
+        <translation>伺服器 %2 上的資料庫 %1 是其他程式的資料庫。將保持原樣。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
+        <translation>伺服器 %2 上的資料庫 %1 由較舊的程式寫入（結構 %3）：由具有角色 %4 的人開啟一次後即可使用。</translation>
+    </message>
 </context>
 </TS>

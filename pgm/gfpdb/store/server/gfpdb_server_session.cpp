@@ -4,6 +4,7 @@
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_settings.h"
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/server/gfpdb_server_changes.h"
 #include "store/server/gfpdb_server_file.h"
 #include "store/server/gfpdb_server_schema.h"
@@ -110,10 +111,11 @@ bool GFPDB_SERVER_SESSION::load_file()
     if (!server)
         return set_unusable(error);
     if (is_there(embedded))
-        return set_unusable("The directory " + m_directory + " has the database " + embedded +
-                            " and names a server in " + GFPDB_SERVER_FILE +
-                            ". Move the database to another directory, and copy its records from " +
-                            "there to the server with \"gfpdb copy\".");
+        return set_unusable(
+            GFPDB_WORDS::say("The directory %1 has the database %2 and names a server in %3. Move the database "
+                             "to another directory, and copy its records from there to the server with "
+                             "\"gfpdb copy\".",
+                             {m_directory, embedded, GFPDB_SERVER_FILE}));
     if (!gfpdb_is_same_server(m_server, *server)) {
         m_server = *server;
         m_connection = std::make_unique<GFPDB_SERVER_CONNECTION>(m_server, m_directory);
@@ -279,19 +281,26 @@ bool GFPDB_SERVER_SESSION::take_state(const ROWS& rows)
 {
     const auto is_true = [&rows](STATE_COLUMN column) { return rows.text(0, column) == "t"; };
     if (!is_true(STATE_MAY_READ))
-        return set_unusable(database() + " cannot be read by the login " + gfpdb_quoted(m_connection->login()) +
-                            ": its administrator can grant the role " + m_server.schema + "_reader.");
+        return set_unusable(GFPDB_WORDS::say("The database %1 on the server %2 cannot be read by the login %3: its "
+                                             "administrator can grant the role %4.",
+                                             {gfpdb_quoted(m_server.database), m_connection->host(),
+                                              gfpdb_quoted(m_connection->login()), m_server.schema + "_reader"}));
     if (!take_version(rows))
         return false;
     const std::string database_id = rows.text(0, STATE_DATABASE_ID);
     m_was_replaced = m_was_replaced || (!m_database_id.empty() && m_database_id != database_id);
     m_database_id = database_id;
-    const std::string can_be_read = database() + " can be read, but not changed: ";
     if (is_true(STATE_IS_READ_ONLY))
-        set_problem(STATE::READ_ONLY, can_be_read + "the server takes no changes now.");
+        set_problem(STATE::READ_ONLY,
+                    GFPDB_WORDS::say("The database %1 on the server %2 can be read, but not changed: the server takes "
+                                     "no changes now.",
+                                     {gfpdb_quoted(m_server.database), m_connection->host()}));
     else if (!is_true(STATE_MAY_CHANGE))
-        set_problem(STATE::READ_ONLY, can_be_read + "the login " + gfpdb_quoted(m_connection->login()) +
-                                          " has not the role " + m_server.schema + "_editor.");
+        set_problem(STATE::READ_ONLY,
+                    GFPDB_WORDS::say("The database %1 on the server %2 can be read, but not changed: the login %3 has "
+                                     "not the role %4.",
+                                     {gfpdb_quoted(m_server.database), m_connection->host(),
+                                      gfpdb_quoted(m_connection->login()), m_server.schema + "_editor"}));
     else
         set_problem(STATE::READ_WRITE, std::string());
     return true;
@@ -303,15 +312,21 @@ bool GFPDB_SERVER_SESSION::take_version(const ROWS& rows)
     if (version == VERSION)
         return true;
     if (version > VERSION)
-        return set_unusable(database() + " was written by a newer program (schema " + std::to_string(version) +
-                            "). It is left as it is.");
+        return set_unusable(
+            GFPDB_WORDS::say("The database %1 on the server %2 was written by a newer program (schema %3). It "
+                             "is left as it is.",
+                             {gfpdb_quoted(m_server.database), m_connection->host(), std::to_string(version)}));
     if (version < 1)
-        return set_unusable(database() + " is a database of another program. It is left as it is.");
+        return set_unusable(
+            GFPDB_WORDS::say("The database %1 on the server %2 is a database of another program. It is left as "
+                             "it is.",
+                             {gfpdb_quoted(m_server.database), m_connection->host()}));
     if (rows.text(0, STATE_MAY_UPGRADE) == "t")
         return upgrade(version);
-    return set_unusable(database() + " was written by an older program (schema " + std::to_string(version) +
-                        "): it can be used when someone with the role " + m_server.schema +
-                        "_owner has opened it once.");
+    return set_unusable(GFPDB_WORDS::say(
+        "The database %1 on the server %2 was written by an older program (schema %3): it can "
+        "be used when someone with the role %4 has opened it once.",
+        {gfpdb_quoted(m_server.database), m_connection->host(), std::to_string(version), m_server.schema + "_owner"}));
 }
 
 // In one transaction, which the server runs whole or not at all.
