@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-// Nothing that was acknowledged is lost, and nothing is stored twice: programs are killed, many write at once.
+// Nothing that was acknowledged is lost, and nothing is stored twice: programs are killed, the server stops without
+// notice, many write at once.
 //
-// The suite does this a few times; GFPDB_SERVER_KILLS and GFPDB_SERVER_CHANGES make it a long run.
+// The suite does this a few times; GFPDB_SERVER_KILLS, GFPDB_SERVER_STOPS and GFPDB_SERVER_CHANGES make it a long run.
 #include "journal.h"
 #include "test_rows.h"
 
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr int KILLS = 12;
+constexpr int STOPS = 3;
 constexpr int WRITERS = 8;
 constexpr int CHANGES = 25;
 // A worker is killed at some moment of so many changes.
@@ -58,6 +60,34 @@ private slots:
         qInfo("%d changes stored, %d killed", journal.stored_count(), journal.open_count());
     }
 
+    // As when the power fails: what was committed is read from the log again.
+    void a_server_that_stops_loses_nothing_that_was_reported()
+    {
+        POSTGRES_SERVER& server = POSTGRES_SERVER::of_program();
+        restart(server, {QStringLiteral("fsync=on"), QStringLiteral("full_page_writes=on")});
+        JOURNAL journal;
+        WORKER saver(*m_place, QStringLiteral("apply"), QStringLiteral("Name"), WITHOUT_END);
+        WORKER importer(*m_place, QStringLiteral("import"), QStringLiteral("Import"), WITHOUT_END);
+        for (int i = 0; i < count_from("GFPDB_SERVER_STOPS", STOPS); ++i) {
+            for (int line = QRandomGenerator::global()->bounded(MOST_LINES); line >= 0; --line) {
+                hear(saver, journal);
+                hear(importer, journal);
+            }
+            server.stop("immediate");
+            hear_refusal(saver, journal);
+            hear_refusal(importer, journal);
+            server.start({QStringLiteral("fsync=on"), QStringLiteral("full_page_writes=on")});
+            QCOMPARE(problems(journal), QStringList());
+            saver.go_on();
+            importer.go_on();
+        }
+        saver.kill();
+        importer.kill();
+        QVERIFY(journal.stored_count() > 0);
+        qInfo("%d changes stored, %d interrupted", journal.stored_count(), journal.open_count());
+        restart(server, {});
+    }
+
     void many_write_at_once()
     {
         const int changes = count_from("GFPDB_SERVER_CHANGES", CHANGES);
@@ -79,11 +109,36 @@ private slots:
 private:
     QStringList problems(const JOURNAL& journal) const { return journal.problems(*m_place); }
 
+    static void restart(POSTGRES_SERVER& server, const QStringList& settings)
+    {
+        server.stop();
+        server.start(settings);
+    }
+
     static QByteArray not_refused(const QByteArray& line)
     {
         if (line.startsWith("refused"))
             QTest::qFail(line.constData(), __FILE__, __LINE__);
         return line;
+    }
+
+    // A busy machine may take longer than a program waits for the server that has just begun.
+    static void hear(WORKER& worker, JOURNAL& journal)
+    {
+        const QByteArray line = worker.hear();
+        journal.add(line);
+        if (line.startsWith("refused"))
+            worker.go_on();
+    }
+
+    static void hear_refusal(WORKER& worker, JOURNAL& journal)
+    {
+        QByteArray line;
+        do {
+            line = worker.hear();
+            QVERIFY2(!line.isEmpty(), "the worker has ended");
+            journal.add(line);
+        } while (!line.startsWith("refused"));
     }
 };
 
