@@ -213,6 +213,15 @@ int dispatch(const CLI_PROGRAM& program, const QStringList& arguments, CLI_OUTPU
     return CLI_EXIT_USAGE;
 }
 
+// Scripts set the locale "C" for texts that are always the same, whatever LANGUAGE says.
+bool has_language()
+{
+    QByteArray locale;
+    for (const char* variable : {"LANG", "LC_MESSAGES", "LC_ALL"})
+        locale = qEnvironmentVariableIsEmpty(variable) ? locale : qgetenv(variable);
+    return !locale.isEmpty() && locale != "C" && !locale.startsWith("C.") && locale != "POSIX";
+}
+
 // What the library logs can have texts of others in it.
 void print_log(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
@@ -242,7 +251,7 @@ int cli_main(int argc, char** argv, const CLI_PROGRAM& program)
     const QStringList arguments = QCoreApplication::arguments();
     // What programs read is the same in every language.
     std::optional<TEXT_CATALOGUE> database_texts;
-    if (!arguments.contains(QLatin1String("--") + QLatin1String(CLI_OPTION_JSON)))
+    if (has_language() && !arguments.contains(QLatin1String("--") + QLatin1String(CLI_OPTION_JSON)))
         database_texts.emplace(QStringLiteral("gfpdb"),
                                TEXT_CATALOGUE::installed_directories(QCoreApplication::applicationDirPath()));
     return cli_run(program, arguments);

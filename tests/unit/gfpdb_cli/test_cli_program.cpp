@@ -229,6 +229,7 @@ private slots:
              {"locale", "pt_BR.UTF-8", "", QStringList(), "\"5V\" não é um valor usual. Usual: "},
              {"without texts", "fi_FI.UTF-8", "", QStringList(), english},
              {"C", "C.UTF-8", "", QStringList(), english},
+             {"LANGUAGE in C", "C.UTF-8", "de", QStringList(), english},
              {"for programs", "de_DE.UTF-8", "de", QStringList{"--json"}, "\\\"5V\\\" is not a usual one. Usual: "}});
     }
 
