@@ -284,8 +284,11 @@ bool GFPDB_SERVER_CONNECTION::explain()
 
 bool GFPDB_SERVER_CONNECTION::wait(bool for_writing)
 {
+    const int socket = PQsocket(m_connection);
+    if (socket < 0) // closed by libpq itself: poll() would wait for nothing
+        return lose(FAILURE::LOST, words_of(PQerrorMessage(m_connection)));
     const short events = for_writing ? POLLIN | POLLOUT : POLLIN;
-    return wait_for(PQsocket(m_connection), events, m_deadline ? *m_deadline : CLOCK::now() + PATIENCE) ||
+    return wait_for(socket, events, m_deadline ? *m_deadline : CLOCK::now() + PATIENCE) ||
            lose(FAILURE::LATE, std::string());
 }
 
@@ -321,7 +324,6 @@ bool GFPDB_SERVER_CONNECTION::run(const std::string& statements, RESULTS& result
     return send(statements) && collect(results);
 }
 
-// Up to the end of all results, also after one that failed: only then can the connection be used again.
 // Up to the end of all results, also after one that failed: only then can the connection be used again.
 bool GFPDB_SERVER_CONNECTION::collect(RESULTS& results)
 {
