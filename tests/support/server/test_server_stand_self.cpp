@@ -128,10 +128,13 @@ private slots:
     // Not even where nobody is left who could stop it.
     void a_server_ends_with_a_program_that_is_killed()
     {
+        // Nobody else removes its files.
+        const SERVER_DIRECTORY left_behind;
         int line[2];
         QCOMPARE(::pipe(line), 0);
         const pid_t program = ::fork();
         if (program == 0) {
+            qputenv("TMPDIR", left_behind.path().toUtf8());
             const POSTGRES_SERVER orphan;
             const pid_t server_pid = orphan.pid();
             if (::write(line[1], &server_pid, sizeof server_pid) < 0)
