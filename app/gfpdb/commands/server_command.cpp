@@ -123,8 +123,7 @@ std::string status_text(const GFPDB_SERVER& server, const GFPDB_SERVER_STATUS& s
            line("Schema version", std::to_string(status.schema_version) + " (this program makes " +
                                       std::to_string(status.newest_schema_version) + ')') +
            line("Login", status.login) + line("Role", status.role) + line("Devices", std::to_string(status.devices)) +
-           line("Templates", std::to_string(status.templates)) +
-           line("States in the history", std::to_string(status.history)) +
+           line("Templates", std::to_string(status.templates)) + line("Former states", std::to_string(status.history)) +
            line("Round trip", gfpdb_to_utf8(round_trip) + " ms");
 }
 

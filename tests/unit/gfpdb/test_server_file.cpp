@@ -55,6 +55,24 @@ private slots:
         QVERIFY(read->hosts.empty() && read->ports.empty() && read->user.empty() && read->sslmode.empty());
     }
 
+    // As users type it.
+    void a_directory_needs_no_slash_at_its_end()
+    {
+        const std::string without = directory().substr(0, directory().size() - 1);
+        GFPDB_SERVER server;
+        server.database = "flash";
+        server.sslrootcert = "root.crt";
+        std::string error;
+
+        QVERIFY2(gfpdb_write_server(without, server, error), error.c_str());
+
+        QVERIFY(gfpdb_names_server(without));
+        QVERIFY(gfpdb_names_server(directory()));
+        QVERIFY(gfpdb_read_server(without, error).has_value());
+        QVERIFY(!gfpdb_server_status(server, without, error).has_value());
+        QVERIFY2(error.find(directory() + "root.crt") != std::string::npos, error.c_str());
+    }
+
     void a_strange_file_is_refused_with_its_reason_data()
     {
         const QString many = QStringLiteral("hosts=") + QStringLiteral("a,").repeated(16) + QLatin1Char('a');

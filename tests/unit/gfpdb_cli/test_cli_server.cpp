@@ -159,7 +159,8 @@ private slots:
         const TOOL_RUN reader = run_tool({"server", "status", "-d", at("reader/")});
         QCOMPARE(reader.exit_code, 0);
         QVERIFY2(reader.out.contains("\nLogin:                looker\nRole:                 reader\n"
-                                     "Devices:              1\nTemplates:            1\n"),
+                                     "Devices:              1\nTemplates:            1\n"
+                                     "Former states:        0\n"),
                  reader.out.constData());
     }
 

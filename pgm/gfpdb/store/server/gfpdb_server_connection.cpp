@@ -106,7 +106,10 @@ int GFPDB_SERVER_ROWS::changed() const
 
 GFPDB_SERVER_CONNECTION::GFPDB_SERVER_CONNECTION(const GFPDB_SERVER& server, const std::string& directory)
     : m_server(server), m_directory(directory)
-{}
+{
+    if (!m_directory.empty() && m_directory.back() != '/')
+        m_directory += '/';
+}
 
 GFPDB_SERVER_CONNECTION::~GFPDB_SERVER_CONNECTION()
 {

@@ -248,6 +248,12 @@ std::string content_of(const GFPDB_SERVER& server)
     return content;
 }
 
+// Users type directories without a slash at the end, too.
+std::string path_in(const std::string& directory, const char* name)
+{
+    return directory + (directory.empty() || directory.back() == '/' ? "" : "/") + name;
+}
+
 bool is_there(const std::string& path)
 {
     struct stat status = {};
@@ -270,12 +276,12 @@ bool gfpdb_check_server(const GFPDB_SERVER& server, std::string& error)
 
 bool gfpdb_names_server(const std::string& directory)
 {
-    return is_there(directory + GFPDB_SERVER_FILE);
+    return is_there(path_in(directory, GFPDB_SERVER_FILE));
 }
 
 std::optional<GFPDB_SERVER> gfpdb_read_server(const std::string& directory, std::string& error)
 {
-    const std::string path = directory + GFPDB_SERVER_FILE;
+    const std::string path = path_in(directory, GFPDB_SERVER_FILE);
     std::string why;
     const std::optional<std::string> content = read_whole_file(path, LARGEST_FILE, why);
     GFPDB_SERVER server;
@@ -287,8 +293,8 @@ std::optional<GFPDB_SERVER> gfpdb_read_server(const std::string& directory, std:
 
 bool gfpdb_write_server(const std::string& directory, const GFPDB_SERVER& server, std::string& error)
 {
-    const std::string path = directory + GFPDB_SERVER_FILE;
-    const std::string database = directory + GFPDB_SQLITE_FILE::NAME;
+    const std::string path = path_in(directory, GFPDB_SERVER_FILE);
+    const std::string database = path_in(directory, GFPDB_SQLITE_FILE::NAME);
     if (!gfpdb_check_server(server, error))
         return false;
     if (is_there(database))
