@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>Die Datenbank %1 auf dem Server %2 wurde von einem älteren Programm geschrieben (Schema %3): Sie kann benutzt werden, sobald jemand mit der Rolle %4 sie einmal geöffnet hat.</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>Die Datei %1 nennt einen Server, seit das Verzeichnis geöffnet wurde: Öffnen Sie es noch einmal.</translation>
+    </message>
 </context>
 </TS>

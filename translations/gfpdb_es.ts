@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>La base de datos %1 del servidor %2 la escribió un programa más antiguo (esquema %3): se podrá usar cuando la abra alguien con el rol %4.</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>El archivo %1 indica un servidor desde que se abrió el directorio: ábralo de nuevo.</translation>
+    </message>
 </context>
 </TS>

@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>La base de données %1 du serveur %2 a été écrite par un programme plus ancien (schéma %3)&#xa0;: elle pourra être utilisée quand quelqu’un ayant le rôle %4 l’aura ouverte une fois.</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>Le fichier %1 désigne un serveur depuis que le répertoire a été ouvert&#xa0;: ouvrez-le de nouveau.</translation>
+    </message>
 </context>
 </TS>

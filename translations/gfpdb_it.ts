@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>Il database %1 sul server %2 è stato scritto da un programma più vecchio (schema %3): si potrà usare dopo che lo avrà aperto chi ha il ruolo %4.</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>Il file %1 indica un server da quando la cartella è stata aperta: aprirla di nuovo.</translation>
+    </message>
 </context>
 </TS>

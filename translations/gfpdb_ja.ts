@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>サーバー %2 のデータベース %1 は古いプログラムで作成されました (スキーマ %3): ロール %4 を持つ人が一度開くと使用できます。</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>ディレクトリを開いた後に、ファイル %1 でサーバーが指定されました: ディレクトリを開き直してください。</translation>
+    </message>
 </context>
 </TS>

@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>서버 %2의 데이터베이스 %1은(는) 더 오래된 프로그램이 썼습니다(스키마 %3): 역할 %4을(를) 가진 사람이 한 번 열면 사용할 수 있습니다.</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>폴더를 연 뒤에 파일 %1이(가) 서버를 지정했습니다: 폴더를 다시 여십시오.</translation>
+    </message>
 </context>
 </TS>

@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>O banco de dados %1 no servidor %2 foi gravado por um programa mais antigo (esquema %3): poderá ser usado quando alguém com o papel %4 o abrir uma vez.</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>O arquivo %1 indica um servidor desde que o diretório foi aberto: abra-o novamente.</translation>
+    </message>
 </context>
 </TS>

@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>База данных %1 на сервере %2 записана более старой программой (схема %3): её можно будет использовать, когда её откроет тот, у кого есть роль %4.</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>После открытия каталога в файле %1 указан сервер: откройте каталог ещё раз.</translation>
+    </message>
 </context>
 </TS>

@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>服务器 %2 上的数据库 %1 由较旧的程序写入（架构 %3）：由具有角色 %4 的人打开一次后即可使用。</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>打开目录之后，文件 %1 指定了服务器：请重新打开该目录。</translation>
+    </message>
 </context>
 </TS>

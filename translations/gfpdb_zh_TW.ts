@@ -571,5 +571,9 @@
         <source>The database %1 on the server %2 was written by an older program (schema %3): it can be used when someone with the role %4 has opened it once.</source>
         <translation>伺服器 %2 上的資料庫 %1 由較舊的程式寫入（結構 %3）：由具有角色 %4 的人開啟一次後即可使用。</translation>
     </message>
+    <message>
+        <source>The file %1 names a server since the directory was opened: open it again.</source>
+        <translation>開啟目錄之後，檔案 %1 指定了伺服器：請重新開啟該目錄。</translation>
+    </message>
 </context>
 </TS>

@@ -3,7 +3,10 @@
 // The file that names a server in a database directory. Others may have written it.
 #include "gfpdb/gfpdb_server.h"
 #include "gfpdb_test.h"
+#include "store/gfpdb_store.h"
 #include "test_rows.h"
+
+#include <QFile>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -71,6 +74,29 @@ private slots:
         QVERIFY(gfpdb_read_server(without, error).has_value());
         QVERIFY(!gfpdb_server_status(server, without, error).has_value());
         QVERIFY2(error.find(directory() + "root.crt") != std::string::npos, error.c_str());
+    }
+
+    void a_directory_that_names_a_server_since_is_not_written_data()
+    {
+        rows<bool>({{"its database is still there", true}, {"its database was moved away", false}});
+    }
+
+    // Nobody would see what goes into the old file, and a new one would be in everybody's way.
+    void a_directory_that_names_a_server_since_is_not_written()
+    {
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(directory());
+        QVERIFY(store->save_device(make_row("Before")));
+        if (!row<bool>())
+            QVERIFY(QFile::remove(QString::fromStdString(m_place->db_file())));
+        const std::string before = row<bool>() ? read_file(m_place->db_file()) : std::string();
+        write_file(file(), "[server]\ndatabase=flash\n");
+
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            QVERIFY(!store->save_device(make_row("After")));
+            QVERIFY2(store->get_problem().find(GFPDB_SERVER_FILE) != std::string::npos, store->get_problem().c_str());
+        }
+        QCOMPARE(row<bool>() ? read_file(m_place->db_file()) : std::string(), before);
+        QCOMPARE(QFile::exists(QString::fromStdString(m_place->db_file())), row<bool>());
     }
 
     void a_strange_file_is_refused_with_its_reason_data()

@@ -4,6 +4,7 @@
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
+#include "gfpdb/gfpdb_server.h"
 #include "store/sqlite/gfpdb_sqlite_companions.h"
 
 #include <QRandomGenerator>
@@ -143,7 +144,11 @@ bool GFPDB_SQLITE_FILE::open_connection(bool is_writable)
 bool GFPDB_SQLITE_FILE::examine_directory()
 {
     struct stat status = {};
-    if (::stat(m_directory.c_str(), &status) == 0) {
+    if (gfpdb_names_server(m_directory)) {
+        set_problem(STATE::UNUSABLE, GFPDB_WORDS::say("The file %1 names a server since the directory was opened: open "
+                                                      "it again.",
+                                                      {m_directory + GFPDB_SERVER_FILE}));
+    } else if (::stat(m_directory.c_str(), &status) == 0) {
         if (::access(m_directory.c_str(), R_OK | X_OK) == 0)
             return true;
         set_problem(STATE::UNUSABLE, GFPDB_WORDS::say("The database directory %1 cannot be read: %2.",
@@ -282,7 +287,8 @@ bool GFPDB_SQLITE_FILE::is_same_file() const
 void GFPDB_SQLITE_FILE::refresh()
 {
     const bool is_same = is_open() && is_same_file();
-    if (is_same && has_own_companions() && m_connection.is_open() && !m_connection.is_stale())
+    if (is_same && !gfpdb_names_server(m_directory) && has_own_companions() && m_connection.is_open() &&
+        !m_connection.is_stale())
         return m_connection.limit_wait();
     if (is_open() && !is_same) {
         qCWarning(GFPDB_LOG, "The database %s was replaced or removed by another program", m_path.c_str());
