@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 
 // How the server is reached: TLS, passwords, several hosts, a pooler; and what happens when it is not.
+#include "gfpdb/gfpdb_copy.h"
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_server.h"
 #include "journal.h"
 #include "pg_bouncer.h"
+#include "store/gfpdb_store.h"
 #include "tcp_proxy.h"
 #include "test_rows.h"
 
+#include <QEventLoop>
 #include <QFile>
+#include <QTimer>
 
 namespace {
 
@@ -179,17 +183,107 @@ private slots:
         }
     }
 
-    // It is the first of two attempts that the server refuses so.
-    void a_change_that_cannot_be_serialized_is_made_again()
+    // What was taken is stored again as it was; that the answer to that got lost does not matter either.
+    void an_apply_that_changes_nothing_can_be_cut_too()
+    {
+        TCP_PROXY proxy(server().port());
+        database().go_through(proxy.port());
+        m_mgr = fresh_manager();
+        QCOMPARE(apply_marked(*m_mgr, "A", "mark"), std::string());
+        const QString revision = database().run("SELECT revision FROM device").toString();
+
+        for (int at = 1; at <= 4; ++at) {
+            GFPDB_FLASH* const record = m_mgr->find_flash("A", true);
+            proxy.reset();
+            proxy.cut_at(at, TCP_PROXY::CUT::ANSWER);
+
+            QVERIFY2(m_mgr->delete_flash("A", std::string()), m_mgr->get_last_error().c_str());
+            QVERIFY2(m_mgr->save_flash(record, std::string()), m_mgr->get_last_error().c_str());
+
+            QCOMPARE(database().list("SELECT revision FROM device"), QStringList{revision});
+            QCOMPARE(database().list("SELECT reason FROM history"), QStringList());
+        }
+    }
+
+    // Also where what was read in the same turn of the event loop says otherwise.
+    void another_users_change_is_told_with_who_and_when()
     {
         m_mgr = fresh_manager();
         QCOMPARE(apply_marked(*m_mgr, "A", "before"), std::string());
-        server().run("CREATE SEQUENCE public.attempts; GRANT ALL ON SEQUENCE public.attempts TO PUBLIC");
-        server().run("CREATE FUNCTION public.refuse_first() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
-                     "IF nextval('public.attempts') = 1 THEN RAISE EXCEPTION 'once more' USING ERRCODE = '40001'; "
-                     "END IF; RETURN NEW; END $$");
-        database().run("CREATE TRIGGER refuse_first BEFORE INSERT ON device FOR EACH ROW "
-                       "EXECUTE FUNCTION public.refuse_first()");
+        std::string refusal;
+        bool is_deleted = false;
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&] {
+            m_mgr->find_flash("A", true);
+            database().run("UPDATE device SET revision = 'hers', saved_by = 'anna@lab2', saved_at = "
+                           "'2026-11-22T09:14:00Z'");
+            if (!m_mgr->delete_flash("A", std::string()))
+                refusal = m_mgr->get_last_error();
+            is_deleted = m_mgr->delete_flash("A", std::string());
+            loop.quit();
+        });
+        loop.exec();
+
+        QCOMPARE(refusal, std::string("The device \"A\" was changed by anna@lab2 on 2026-11-22 09:14 UTC since it was "
+                                      "read here. Look at it again, or try again: then that state goes into the "
+                                      "history."));
+        QVERIFY(is_deleted);
+        QCOMPARE(database().list("SELECT revision FROM history"), QStringList{"hers"});
+    }
+
+    void a_cut_copy_of_a_database_is_made_again_data() { a_cut_connection_is_made_again_silently_data(); }
+
+    void a_cut_copy_of_a_database_is_made_again()
+    {
+        make_dir(m_place->path("from/"));
+        const std::unique_ptr<GFPDB_STORE> source = gfpdb_make_store(m_place->path("from/"));
+        for (const char* name : {"A", "B"})
+            QVERIFY(source->save_device(make_row(name)));
+        QVERIFY(source->remove_device(FAMILY, ACTIVE_SERIAL, "B"));
+        TCP_PROXY proxy(server().port());
+        database().go_through(proxy.port());
+        gfpdb_make_store(m_place->db_dir())->is_readable();
+        const int connecting = proxy.round_trips();
+        bool has_cut = true;
+
+        for (int at = connecting; has_cut; ++at) {
+            database().run("TRUNCATE device, template, history");
+            proxy.reset();
+            proxy.cut_at(at, TCP_PROXY::CUT(row<int>()));
+
+            const GFPDB_COPY copy = gfpdb_copy_database(m_place->path("from/"), m_place->db_dir(), [](int) {});
+
+            has_cut = proxy.has_cut();
+            QVERIFY2(copy.problem.empty(), (std::to_string(at) + ": " + copy.problem).c_str());
+            QCOMPARE(copy.devices, 1);
+            QCOMPARE(copy.states, 1);
+            QCOMPARE(database().list("SELECT name FROM device UNION ALL SELECT name FROM history"),
+                     (QStringList{"A", "B"}));
+        }
+    }
+
+    void a_change_that_the_server_wants_again_is_made_again_data()
+    {
+        const QString at_once = QStringLiteral("TRIGGER again BEFORE INSERT ON device");
+        const QString at_end =
+            QStringLiteral("CONSTRAINT TRIGGER again AFTER INSERT ON device DEFERRABLE INITIALLY DEFERRED");
+        rows<QString, QString>({{"it cannot be serialized", "40001", at_once},
+                                {"nor committed", "40001", at_end},
+                                {"whether it was committed is not known", "40003", at_end}});
+    }
+
+    // It is the first of two attempts that the server refuses so.
+    void a_change_that_the_server_wants_again_is_made_again()
+    {
+        const auto [state, trigger] = row<QString, QString>();
+        m_mgr = fresh_manager();
+        QCOMPARE(apply_marked(*m_mgr, "A", "before"), std::string());
+        server().run("DROP SEQUENCE IF EXISTS public.attempts; CREATE SEQUENCE public.attempts; "
+                     "GRANT ALL ON SEQUENCE public.attempts TO PUBLIC");
+        server().run("CREATE OR REPLACE FUNCTION public.refuse_first() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN "
+                     "IF nextval('public.attempts') = 1 THEN RAISE EXCEPTION 'once more' USING ERRCODE = '" +
+                     state + "'; END IF; RETURN NEW; END $$");
+        database().run("CREATE " + trigger + " FOR EACH ROW EXECUTE FUNCTION public.refuse_first()");
 
         QCOMPARE(apply_marked(*m_mgr, "A", "after"), std::string());
 

@@ -37,10 +37,15 @@ QByteArray digest_of(const GFPDB_HISTORY_ENTRY& entry)
 DIGESTS digests_of(GFPDB_STORE& store)
 {
     DIGESTS digests;
-    const bool is_read = store.read_all([&digests](const GFPDB_HISTORY_ENTRY& entry) {
-        digests.push_back(digest_of(entry));
-        return true;
-    });
+    const auto read = [&] {
+        digests.clear();
+        return store.read_all([&digests](const GFPDB_HISTORY_ENTRY& entry) {
+            digests.push_back(digest_of(entry));
+            return true;
+        });
+    };
+    // A connection may be lost in between.
+    const bool is_read = read() || read();
     std::sort(digests.begin(), digests.end());
     return is_read ? digests : DIGESTS();
 }

@@ -93,6 +93,9 @@ bool GFPDB_SERVER_SESSION::copy_begin(const std::string& statement)
 
 void GFPDB_SERVER_SESSION::abandon()
 {
+    // The server, or what has become of the connection, has ended the copy.
+    if (m_connection->failure() != FAILURE::NONE)
+        return;
     const std::string error = last_error();
     m_connection->close();
     m_connection->clear_error();
@@ -226,6 +229,7 @@ std::optional<bool> GFPDB_SERVER_SESSION::run_change(const CHANGE& change, const
             return false;
         case OUTCOME::NOT_AS_SEEN:
             roll_back();
+            forget();
             refresh();
             if (m_was_replaced)
                 return refuse_replaced();

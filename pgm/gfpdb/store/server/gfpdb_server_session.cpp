@@ -169,12 +169,13 @@ bool GFPDB_SERVER_SESSION::set_unusable(const std::string& problem)
     return fail(problem);
 }
 
-// True when the server ends its connections, or takes no changes any more: another host may.
+// True when the server ends its connections, or takes no changes any more: another host may. Or when it does not know
+// itself what became of a statement, which is looked up as after a lost answer.
 bool GFPDB_SERVER_SESSION::is_ended_by_server() const
 {
     const std::string& state = m_connection->sqlstate();
     return state.compare(0, 2, "08") == 0 || state == "57P01" || state == "57P02" || state == "57P03" ||
-           state == "25006";
+           state == "25006" || state == "40003";
 }
 
 // A lock that was waited for in vain is not waited for again at once.
@@ -388,13 +389,15 @@ bool GFPDB_SERVER_SESSION::ask_all(const std::vector<std::string>& questions, RE
 {
     results.clear();
     begin_call(!is_long);
+    // What is remembered or expected no longer holds is forgotten first.
+    const bool is_state_known = has_answer(state(m_server.schema));
     std::vector<std::string> missing;
     const auto add = [this, &missing](const std::string& question) {
         if (!has_answer(question) && std::find(missing.begin(), missing.end(), question) == missing.end())
             missing.push_back(question);
     };
     std::for_each(questions.begin(), questions.end(), add);
-    if (!missing.empty() || questions.empty() || !has_answer(state(m_server.schema))) {
+    if (!missing.empty() || questions.empty() || !is_state_known) {
         std::for_each(m_expected.begin(), m_expected.end(), add);
         m_expected.clear();
         RESULTS answers;

@@ -146,6 +146,10 @@ std::optional<std::string> GFPDB_SERVER_STORE::save_device(const GFPDB_ROW& row,
     CHANGE change;
     change.work = [&](std::string& statements) { return decide_save(saving, change_id, statements); };
     change.proof = proof_of_revision(place_of(false, row), row.revision);
+    // What was taken is stored again, where nothing of it was changed.
+    if (taken != nullptr)
+        change.proof += " UNION ALL SELECT 1" + from("device") + where(place_of(false, row)) +
+                        " AND revision = " + literal(taken->revision);
     change.next = questions_after_change(&row);
     RESULTS results;
     const std::optional<bool> is_saved = save_at_once(saving, change, change_id);

@@ -82,15 +82,20 @@ std::int64_t GFPDB_SERVER_STORE::get_last_state()
                : 0;
 }
 
-// The source is asked once: what it gives cannot be given again.
+// The source is asked again when the transaction is made again.
 bool GFPDB_SERVER_STORE::fill(const std::function<bool(const GFPDB_HEAR_STORED& put)>& source, std::int64_t last_state)
 {
-    bool was_asked = false;
     CHANGE change;
+    const auto noting_source = [&](const GFPDB_HEAR_STORED& put) {
+        return source([&](const GFPDB_HISTORY_ENTRY& entry) {
+            const PLACE place{entry.is_template, entry.row.family, entry.row.scheme, entry.name()};
+            if (change.proof.empty())
+                change.proof = proof_of_revision(place, entry.row.revision);
+            return put(entry);
+        });
+    };
     change.is_quick = false;
     change.work = [&](std::string& statements) {
-        if (std::exchange(was_asked, true))
-            return m_session.fail(get_last_error() + " Look whether the records are there before you try again.");
         RESULTS found;
         if (!m_session.look_up("SELECT EXISTS (SELECT 1" + from("device") + ") OR EXISTS (SELECT 1" + from("template") +
                                    ") OR EXISTS (SELECT 1" + from("history") + ')',
@@ -98,7 +103,7 @@ bool GFPDB_SERVER_STORE::fill(const std::function<bool(const GFPDB_HEAR_STORED& 
             return false;
         if (found.front().text(0, 0) == "t")
             return m_session.fail("The database in " + get_directory() + " is not empty.");
-        if (!copy_all(source))
+        if (!copy_all(noting_source))
             return false;
         statements += "SELECT setval('" + m_session.in_schema() + "history_id_seq', GREATEST((SELECT max(id)" +
                       from("history") + "), " + std::to_string(last_state) + ", 1), GREATEST((SELECT max(id)" +
