@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>SFDP-Daten speichern</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>Durch die Eingabe haben sich andere Werte oder die Warnungen geändert. Sehen Sie sie an und legen Sie dann den Baustein an.</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>Guardar la lectura</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>Lo introducido ha cambiado otros valores o las advertencias. Revíselos y cree después el dispositivo.</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

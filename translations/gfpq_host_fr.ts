@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>Enregistrer la lecture</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>La saisie a modifié d’autres valeurs ou les avertissements. Examinez-les, puis créez le composant.</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>Salva la lettura</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>Quanto inserito ha cambiato altri valori o gli avvisi. Controllarli, quindi creare il dispositivo.</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>読み出したデータを保存</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>入力により、ほかの値または警告が変わりました。確認してからデバイスを作成してください。</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

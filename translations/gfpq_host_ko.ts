@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>읽은 데이터 저장</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>입력한 내용 때문에 다른 값 또는 경고가 바뀌었습니다. 확인한 다음 디바이스를 만드십시오.</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

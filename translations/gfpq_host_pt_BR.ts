@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>Salvar a leitura</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>O que foi inserido alterou outros valores ou os avisos. Verifique-os e depois crie o dispositivo.</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

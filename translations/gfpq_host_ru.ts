@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>Сохранение данных</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>Из-за введённого изменились другие значения или предупреждения. Просмотрите их, затем создайте микросхему.</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

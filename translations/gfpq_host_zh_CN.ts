@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>保存读出数据</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>输入的内容改变了其他值或警告。请先查看，然后再创建器件。</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

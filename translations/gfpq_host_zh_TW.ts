@@ -309,6 +309,10 @@
         <source>Save the Read-Out</source>
         <translation>儲存讀出資料</translation>
     </message>
+    <message>
+        <source>What was entered has changed other values or the warnings. Look at them, then create the device.</source>
+        <translation>輸入的內容改變了其他值或警告。請先查看，然後再建立元件。</translation>
+    </message>
 </context>
 <context>
     <name>NEW_DEVICE_DRAFT</name>

@@ -21,6 +21,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int FIRST_WIDTH = 980;
@@ -29,6 +31,20 @@ constexpr int SCREEN_SHARE_PERCENT = 92;
 // Values and remarks.
 constexpr int VALUES_SHARE = 3;
 constexpr int REMARKS_SHARE = 2;
+
+// True when there is more to look at than the one value that was entered.
+bool is_more_than_one(const std::vector<DRAFT_ROW>& seen, const NEW_DEVICE_DRAFT& draft)
+{
+    int changed = 0;
+    for (std::size_t row = 0; row < seen.size(); ++row)
+        changed += seen[row].text != draft.rows()[row].text ? 1 : 0;
+    return changed > 1;
+}
+
+bool has_news(const QStringList& seen, const QStringList& warnings)
+{
+    return std::any_of(warnings.begin(), warnings.end(), [&seen](const QString& each) { return !seen.contains(each); });
+}
 
 // Can be read and copied with the keyboard; Tab leaves it.
 QPlainTextEdit* add_text(QVBoxLayout* column, const QString& title, const char* object_name)
@@ -107,6 +123,8 @@ QWidget* NEW_DEVICE_DIALOG::create_buttons()
     QPushButton* create = buttons->button(QDialogButtonBox::Ok);
     create->setText(tr("Create &Device"));
     create->setObjectName(QStringLiteral("m_create_button"));
+    // A click leaves the focus in the editor, so that what follows from its text is shown before anything is stored.
+    create->setFocusPolicy(Qt::TabFocus);
     connect(buttons, &QDialogButtonBox::accepted, this, &NEW_DEVICE_DIALOG::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &NEW_DEVICE_DIALOG::reject);
     if (!m_draft.sfdp_bytes().empty()) {
@@ -151,9 +169,16 @@ void NEW_DEVICE_DIALOG::save_read_out()
 
 void NEW_DEVICE_DIALOG::accept()
 {
+    const std::vector<DRAFT_ROW> rows = m_draft.rows();
+    const QStringList warnings = m_draft.warnings();
     m_values->take_entered();
     QString problem;
     const std::optional<GFPDB_RECORD> device = m_draft.make(problem);
+    if (device && (is_more_than_one(rows, m_draft) || has_news(warnings, m_draft.warnings()))) {
+        m_problem->show_problem(
+            tr("What was entered has changed other values or the warnings. Look at them, then create the device."));
+        return;
+    }
     if (device && store_new_device(*device, problem)) {
         m_device = *device;
         QDialog::accept();

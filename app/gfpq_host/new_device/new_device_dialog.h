@@ -25,7 +25,8 @@ public:
     // The device that was stored when the dialog was accepted.
     const GFPDB_RECORD& device() const { return m_device; }
 
-    // Stores the device and closes, or says why it cannot be stored.
+    // Stores the device and closes, or says why it cannot be stored. What follows from a text that was entered at last
+    // is shown first.
     void accept() override;
 
 private:

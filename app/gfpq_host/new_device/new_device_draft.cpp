@@ -96,8 +96,10 @@ void NEW_DEVICE_DRAFT::read_again()
         if (row.key == NAME_KEY)
             row.problem = m_name_problem;
         const auto refused = m_refused.constFind(row.key);
-        if (refused != m_refused.constEnd())
+        if (refused != m_refused.constEnd()) {
             std::tie(row.text, row.problem) = std::pair(refused->first, refused->second);
+            row.source.clear();
+        }
         m_rows.push_back(row);
     }
     m_warnings = texts_of(m_device.get_warnings());

@@ -19,6 +19,7 @@ struct DRAFT_ROW
     QString key;
     QString title;
     QString text;
+    // Empty for a text that cannot be taken.
     QString source;
     QStringList choices;
     // Why the text cannot be taken; empty when it can.

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -27,6 +28,13 @@ constexpr int EDITOR_CHARACTERS = 14;
 const QString EDITOR_NAME = QStringLiteral("value_");
 const QString SOURCE_NAME = QStringLiteral("source_");
 const QString PROBLEM_NAME = QStringLiteral("problem_");
+
+// The wheel scrolls the page that it is on: it chooses nothing on the way.
+class STEADY_COMBO : public QComboBox
+{
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
 
 } // namespace
 
@@ -76,11 +84,14 @@ QWidget* VALUE_FIELDS::create_editor(const DRAFT_ROW& row, FIELD& field)
 {
     if (row.choices.isEmpty()) {
         field.edit = new QLineEdit;
-        connect(field.edit, &QLineEdit::editingFinished, this,
-                [this, key = row.key, edit = field.edit] { take(key, edit->text()); });
+        // With Return, which leaves the focus here, the dialog is accepted, which takes the text.
+        connect(field.edit, &QLineEdit::editingFinished, this, [this, key = row.key, edit = field.edit] {
+            if (!edit->hasFocus())
+                take(key, edit->text());
+        });
         return field.edit;
     }
-    field.combo = new QComboBox;
+    field.combo = new STEADY_COMBO;
     field.combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(field.combo, QOverload<int>::of(&QComboBox::activated), this,
             [this, key = row.key, combo = field.combo] { take(key, combo->currentText()); });

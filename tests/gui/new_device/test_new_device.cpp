@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QFile>
 #include <QFileDialog>
+#include <QWheelEvent>
 
 class TEST_NEW_DEVICE : public PROGRAMMER_TEST
 {
@@ -127,6 +128,7 @@ private slots:
             const QString name_problem = in<QLabel>(dialog, "problem_name").text();
             QVERIFY2(name_problem.contains(qs(SMALL_DEVICE)), qPrintable(name_problem));
             QVERIFY(in<QLabel>(dialog, "problem_quad-dummy").isVisible());
+            QCOMPARE(in<QLabel>(dialog, "source_quad-dummy").text(), QString());
             QCOMPARE(in<QLineEdit>(dialog, "value_quad-dummy").text(), qs("many"));
             QVERIFY(!in<QLabel>(dialog, "problem_density").isVisible());
             in<QAbstractButton>(dialog, "m_create_button").click();
@@ -134,6 +136,58 @@ private slots:
             qobject_cast<QDialog*>(dialog)->reject();
         });
         QCOMPARE(stored_count(), std::size_t{0});
+    }
+
+    // Scrolling over the page changes nothing on it.
+    void the_wheel_leaves_values_alone()
+    {
+        open();
+        open_from_chip([](QWidget* dialog) {
+            for (const char* name : {"value_quad-enable", "value_density"}) {
+                auto& combo = in<QComboBox>(dialog, name);
+                combo.setFocus();
+                const QString shown = combo.currentText();
+                for (const int turn : {-120, 120}) {
+                    QWheelEvent wheel(QPointF(5, 5), combo.mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, turn),
+                                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                    QCoreApplication::sendEvent(&combo, &wheel);
+                    QCOMPARE(combo.currentText(), shown);
+                }
+            }
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+    }
+
+    void what_follows_from_the_last_entry_is_seen_before_it_is_stored_data()
+    {
+        rows<bool>({{"with the keyboard", true}, {"with the mouse", false}});
+    }
+
+    void what_follows_from_the_last_entry_is_seen_before_it_is_stored()
+    {
+        const auto by_keyboard = row<bool>();
+        open();
+        open_from_chip([&](QWidget* dialog) {
+            const auto create = [&] {
+                if (by_keyboard)
+                    press(QApplication::focusWidget(), Qt::Key_Return);
+                else
+                    QTest::mouseClick(&in<QAbstractButton>(dialog, "m_create_button"), Qt::LeftButton);
+            };
+            fill(dialog, "value_name", qs("BENCH-1"));
+            // Another maker with it, and more.
+            fill(dialog, "value_id", qs("EF 40 14"));
+            create();
+            QVERIFY(dialog->isVisible());
+            QCOMPARE(stored_count(), std::size_t{0});
+            QCOMPARE(in<QComboBox>(dialog, "value_maker").currentText(), qs("Winbond"));
+            QVERIFY(in<QLabel>(dialog, "m_new_device_problem").isVisible());
+            QVERIFY(in<QLineEdit>(dialog, "value_id").hasFocus());
+            expect_configuration_dialog();
+            create();
+        });
+        QTRY_COMPARE(window().choice().device_name, std::string("BENCH-1"));
+        QCOMPARE(stored_count(), std::size_t{1});
     }
 
     void the_read_out_is_saved_and_makes_the_same_device()
