@@ -88,6 +88,12 @@ private:
     std::int64_t density_bits() const;
     std::vector<std::uint8_t> id_bytes() const;
     bool has_sfdp() const { return m_sfdp.has_value(); }
+    // True where sectors of `bytes` make up the whole device, or its density is not known.
+    bool divides_density(std::int64_t bytes) const { return density_bits() / 8 % bytes == 0; }
+    // The tables say a density that no device can have.
+    bool is_too_large() const;
+    // False without tables, and where they end before they describe reads.
+    bool tells_quad_reads() const;
     // DW16 of a part that has three address bytes says nothing with all bits set.
     bool says_nothing_of_mode() const;
 
@@ -143,6 +149,7 @@ private:
     const GFPDB_SFDP_ERASE* chosen_type(const std::vector<GFPDB_SFDP_ERASE>& types) const;
 
     void warn_of_id(std::vector<std::string>& warnings) const;
+    void warn_of_mode(std::vector<std::string>& warnings) const;
     void warn_of_addresses(std::vector<std::string>& warnings) const;
     void warn_of_registers(std::vector<std::string>& warnings) const;
     void warn_of_commands(std::vector<std::string>& warnings) const;

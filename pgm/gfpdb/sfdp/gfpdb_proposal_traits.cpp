@@ -128,6 +128,9 @@ std::optional<GFPDB_RECORD> GFPDB_PROPOSAL::make_record(int family, int scheme, 
     }
     if (problem.empty() && density_bits() % (8 * number(VALUE_OF::DIES)) != 0)
         problem = "The number of dies, " + text(VALUE_OF::DIES) + ", does not divide the density.";
+    const std::optional<GFPDB_ERASE_COMMAND> sector = sector_erase();
+    if (problem.empty() && sector && !divides_density(sector->size_bytes))
+        problem = "The erase command " + gfpdb_quoted(text(VALUE_OF::ERASE)) + " does not divide the density.";
     if (!problem.empty())
         return std::nullopt;
     const GFPDB_FLOW_TRAITS single = traits(false);

@@ -5,6 +5,7 @@
 
 #include "catalogue/gfpdb_flow_builder.h"
 #include "gfpdb/gfpdb_action_value.h"
+#include "rules/gfpdb_action_rules.h"
 #include "rules/gfpdb_options.h"
 #include "sfdp/gfpdb_known_part.h"
 #include "sfdp/gfpdb_sfdp_table.h"
@@ -150,10 +151,15 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_voltage() const
     return {voltage.value_or(""), voltage ? FROM_ID : "", gfpdb_voltage_options(GFPDB_SCHEME_KIND::SERIAL)};
 }
 
+bool GFPDB_PROPOSAL::is_too_large() const
+{
+    return has_sfdp() && m_sfdp->density_bits / 8 > GFPDB_DEVICE_BYTES_MAX;
+}
+
 GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_density() const
 {
     const std::vector<std::string> choices = gfpdb_density_options(GFPDB_SCHEME_KIND::SERIAL);
-    if (has_sfdp() && m_sfdp->density_bits > 0)
+    if (has_sfdp() && m_sfdp->density_bits > 0 && !is_too_large())
         return {gfpdb_density_text(m_sfdp->density_bits), "SFDP DW2", choices};
     if (const std::optional<std::string> density = common_value(&GFPDB_PART::density))
         return {*density, FROM_ID, choices};
@@ -341,6 +347,17 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_single_dummy() const
     return {std::to_string(clocks.value_or(USUAL_DUMMY)), clocks ? FROM_ID : ASSUMED};
 }
 
+bool GFPDB_PROPOSAL::tells_quad_reads() const
+{
+    constexpr int DWORD_OF_READS = 3;
+    if (!has_sfdp())
+        return false;
+    return std::none_of(m_sfdp->tables.begin(), m_sfdp->tables.end(), [this](const GFPDB_SFDP_TABLE& table) {
+        return table.id == GFPDB_SFDP_BASIC && table.minor == m_sfdp->basic_minor && table.dwords_read > 0 &&
+               table.dwords_read < DWORD_OF_READS;
+    });
+}
+
 std::vector<GFPDB_PROPOSAL::QUAD_READ> GFPDB_PROPOSAL::listed_reads() const
 {
     struct LISTED
@@ -370,7 +387,7 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_quad_read() const
         if (!has(choices, usual))
             choices.emplace_back(usual);
     }
-    if (has_sfdp())
+    if (tells_quad_reads())
         return {listed.empty() ? "0B 1-1-1" : listed.front().text, listed.empty() ? DW1 : DW3, choices};
     const GFPDB_DATA_COMMAND read = gfpdb_flow_traits(m_model, true).read;
     PROPOSED proposed = from_habit(command_text(read.opcode, read.bus_width));
@@ -401,7 +418,7 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_quad_program() const
 {
     const std::string single = "02 1-1-1";
     const std::vector<std::string> choices = {single, "32 1-1-4", "32 1-4-4", "38 1-4-4"};
-    if (has_sfdp() && listed_reads().empty())
+    if (tells_quad_reads() && listed_reads().empty())
         return {single, DW1, choices};
     GFPDB_PART model = m_model;
     const std::string& quad_enable = text(VALUE_OF::QUAD_ENABLE);
@@ -453,7 +470,7 @@ std::vector<GFPDB_SFDP_ERASE> GFPDB_PROPOSAL::uniform_types() const
             });
         erase.opcode = opcode;
         if (opcode != 0 && is_one_size && is_everywhere && !is_listed_in_part(opcode) &&
-            erase.size_bytes <= ERASE_BYTES_MAX)
+            erase.size_bytes <= ERASE_BYTES_MAX && divides_density(erase.size_bytes))
             types.push_back(erase);
     }
     // The largest first, and of the same size the one with the larger opcode: D8 and DC.
@@ -470,7 +487,8 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_erase() const
     std::transform(types.begin(), types.end(), std::back_inserter(choices),
                    [](const GFPDB_SFDP_ERASE& type) { return erase_text(type.opcode, type.size_bytes); });
     const std::optional<GFPDB_ERASE_COMMAND> habit = gfpdb_flow_traits(m_model, true).sector_erase;
-    const std::string usual = habit ? erase_text(habit->opcode, habit->size_bytes) : WHOLE_CHIP;
+    const bool is_usual = habit && divides_density(habit->size_bytes);
+    const std::string usual = is_usual ? erase_text(habit->opcode, habit->size_bytes) : WHOLE_CHIP;
     if (choices.empty() && usual != WHOLE_CHIP)
         choices.push_back(usual);
     choices.emplace_back(WHOLE_CHIP);
@@ -483,12 +501,12 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_erase() const
                                       : dword,
                 choices};
     }
-    const bool is_by_list = !m_listed.empty() && usual == WHOLE_CHIP;
+    const bool is_by_list = !m_listed.empty() && !habit;
     if (has_sfdp() && !m_sfdp->erase.empty() && !m_sfdp->sector_maps.empty())
         return {WHOLE_CHIP, "SFDP sector map", choices};
     if (has_sfdp() && !m_sfdp->erase.empty() && !is_by_list)
         return {WHOLE_CHIP, "SFDP DW8", choices};
-    PROPOSED proposed = from_habit(usual);
+    PROPOSED proposed = habit && !is_usual ? PROPOSED{WHOLE_CHIP, ASSUMED} : from_habit(usual);
     proposed.choices = choices;
     return proposed;
 }

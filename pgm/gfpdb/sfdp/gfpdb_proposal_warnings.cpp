@@ -57,7 +57,10 @@ std::vector<std::string> GFPDB_PROPOSAL::get_warnings() const
     if (has_sfdp())
         warnings = m_sfdp->warnings;
     warn(density_warning(density_bits(), text(VALUE_OF::DENSITY), source(VALUE_OF::DENSITY), id_bytes()));
+    if (is_too_large())
+        warn("SFDP DW2 says a density that no device can have: " + gfpdb_density_text(m_sfdp->density_bits) + '.');
     warn_of_id(warnings);
+    warn_of_mode(warnings);
     if (has_sfdp()) {
         warn_of_addresses(warnings);
         warn_of_registers(warnings);
@@ -89,6 +92,16 @@ void GFPDB_PROPOSAL::warn_of_id(std::vector<std::string>& warnings) const
     for (const GFPDB_PART* part : m_listed)
         names.push_back(part->name);
     warnings.push_back("Several listed parts have this ID: " + gfpdb_joined(names) + '.');
+}
+
+void GFPDB_PROPOSAL::warn_of_mode(std::vector<std::string>& warnings) const
+{
+    const bool has_four = text(VALUE_OF::ADDRESS_BYTES) == "4";
+    const bool has_entry = text(VALUE_OF::ENTER_FOUR_BYTE) != NONE;
+    if (has_four && !has_entry)
+        warnings.emplace_back("The commands have four address bytes, and nothing enters 4-byte addressing.");
+    if (!has_four && has_entry)
+        warnings.emplace_back("The commands have three address bytes, and the device is in 4-byte addressing.");
 }
 
 void GFPDB_PROPOSAL::warn_of_addresses(std::vector<std::string>& warnings) const
@@ -127,7 +140,7 @@ void GFPDB_PROPOSAL::warn_of_registers(std::vector<std::string>& warnings) const
 
 void GFPDB_PROPOSAL::warn_of_commands(std::vector<std::string>& warnings) const
 {
-    if (listed_reads().empty())
+    if (tells_quad_reads() && listed_reads().empty())
         warnings.emplace_back("SFDP lists no read on four lines: the quad-I/O flow uses one.");
     if (text(VALUE_OF::ERASE) == WHOLE_CHIP && source(VALUE_OF::ERASE) != ENTERED)
         warnings.emplace_back("No erase command serves the whole part: the chip is erased at once.");

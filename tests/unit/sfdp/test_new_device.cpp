@@ -138,6 +138,10 @@ private slots:
             {"another density", [](GFPDB_SFDP& s) { s.density_bits = 1 << 26; }},
             {"the largest density for three bytes", [](GFPDB_SFDP& s) { s.density_bits = 1 << 27; }},
             {"a density of whole Kb", [](GFPDB_SFDP& s) { s.density_bits = 3 << 10; }},
+            {"the largest density", [](GFPDB_SFDP& s) { s.density_bits = std::int64_t(1) << 35; }},
+            {"more than the largest density", [](GFPDB_SFDP& s) { s.density_bits = std::int64_t(1) << 36; }},
+            {"an erase type that does not divide the density",
+             [](GFPDB_SFDP& s) { s.density_bits = (1 << 26) + (1 << 18); }},
             {"three address bytes", [](GFPDB_SFDP& s) { s.address = GFPDB_SFDP_ADDRESS::THREE; }},
             {"three address bytes and every way",
              [](GFPDB_SFDP& s) {
@@ -246,10 +250,21 @@ private slots:
                  s.read_1_4_4.reset();
                  s.read_1_1_4.reset();
              }},
+            {"a table that ends before the reads",
+             [](GFPDB_SFDP& s) {
+                 s.tables[0].dwords_read = 2;
+                 s.read_1_4_4.reset();
+                 s.read_1_1_4.reset();
+             }},
             {"no quad program listed", [](GFPDB_SFDP& s) { s.instructions_4_byte = 0; }},
             {"program by 3E", [](GFPDB_SFDP& s) { s.instructions_4_byte = 0x100; }},
             {"program by 34 and 3E", [](GFPDB_SFDP& s) { s.instructions_4_byte = 0x180; }},
             {"no erase types", [](GFPDB_SFDP& s) { s.erase.clear(); }},
+            {"no erase types in a small part",
+             [](GFPDB_SFDP& s) {
+                 s.erase.clear();
+                 s.density_bits = 1 << 18;
+             }},
             {"no erase type everywhere",
              [](GFPDB_SFDP& s) {
                  s.sector_maps = {{0, {{1 << 16, 1}, {1 << 16, 6}}}};
@@ -303,6 +318,7 @@ private slots:
         rows_named<QString>({
             "density=128Mb",
             "density=32Gb",
+            "density=256Kb",
             "maker=Macronix",
             "maker=other",
             "dies=2",
@@ -311,6 +327,8 @@ private slots:
             "four-byte-entry=17 80",
             "four-byte-entry=own commands",
             "four-byte-entry=always",
+            "four-byte-entry=none",
+            "address-bytes=3;four-byte-entry=B7",
             "four-byte-exit=reset",
             "four-byte-check=none",
             "quad-enable=none",
@@ -418,6 +436,8 @@ private slots:
             {"parallel flash", "name=X", 3, 8, "The configuration mode 8 has no serial flash devices."},
             {"memory card", "name=X", 3, 23, "The configuration mode 23 has no serial flash devices."},
             {"voltage missing", "name=X;maker=other", 3, 7, "The value \"voltage\" is missing: enter it."},
+            {"an erase larger than the device", "name=X;density=256Kb;erase=D8:64K", 3, 7,
+             "The erase command \"D8:64K\" does not divide the density."},
             {"odd dies", "name=X;dies=3", 3, 7, "The number of dies, 3, does not divide the density."},
         });
     }
