@@ -29,6 +29,9 @@ const QString EDITOR_NAME = QStringLiteral("value_");
 const QString SOURCE_NAME = QStringLiteral("source_");
 const QString PROBLEM_NAME = QStringLiteral("problem_");
 
+// Values that take other texts than their choices.
+const QStringList OPEN_CHOICES = {QStringLiteral("voltage"), QStringLiteral("density"), QStringLiteral("erase")};
+
 // The wheel scrolls the page that it is on: it chooses nothing on the way.
 class STEADY_COMBO : public QComboBox
 {
@@ -84,18 +87,29 @@ QWidget* VALUE_FIELDS::create_editor(const DRAFT_ROW& row, FIELD& field)
 {
     if (row.choices.isEmpty()) {
         field.edit = new QLineEdit;
-        // With Return, which leaves the focus here, the dialog is accepted, which takes the text.
-        connect(field.edit, &QLineEdit::editingFinished, this, [this, key = row.key, edit = field.edit] {
-            if (!edit->hasFocus())
-                take(key, edit->text());
-        });
+        take_when_left(row.key, field.edit);
         return field.edit;
     }
     field.combo = new STEADY_COMBO;
     field.combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    if (OPEN_CHOICES.contains(row.key)) {
+        field.combo->setEditable(true);
+        field.combo->setInsertPolicy(QComboBox::NoInsert);
+        field.combo->setCompleter(nullptr);
+        take_when_left(row.key, field.combo->lineEdit());
+    }
     connect(field.combo, QOverload<int>::of(&QComboBox::activated), this,
-            [this, key = row.key, combo = field.combo] { take(key, combo->currentText()); });
+            [this, key = row.key, combo = field.combo](int choice) { take(key, combo->itemText(choice)); });
     return field.combo;
+}
+
+// With Return, which leaves the focus where it is, the dialog is accepted, which takes the text.
+void VALUE_FIELDS::take_when_left(const QString& key, QLineEdit* edit)
+{
+    connect(edit, &QLineEdit::editingFinished, this, [this, key, edit] {
+        if (!edit->hasFocus())
+            take(key, edit->text());
+    });
 }
 
 const DRAFT_ROW* VALUE_FIELDS::row_of(const QString& key) const
@@ -125,7 +139,7 @@ void VALUE_FIELDS::show_row(const DRAFT_ROW& row, const FIELD& field)
             choices.prepend(row.text);
         field.combo->clear();
         field.combo->addItems(choices);
-        field.combo->setCurrentText(row.text);
+        field.combo->setCurrentIndex(field.combo->findText(row.text));
     }
     field.source->setText(row.source);
     field.problem->show_problem(row.problem);
@@ -146,8 +160,8 @@ void VALUE_FIELDS::take(const QString& key, const QString& text)
 void VALUE_FIELDS::take_entered()
 {
     for (const FIELD& field : m_fields) {
-        if (field.edit)
-            take(field.key, field.edit->text());
+        if (const QLineEdit* edit = field.edit ? field.edit : field.combo->lineEdit())
+            take(field.key, edit->text());
     }
 }
 

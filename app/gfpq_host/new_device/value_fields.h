@@ -48,6 +48,7 @@ private:
     void create_fields();
     void create_field(const DRAFT_ROW& row, QGridLayout* grid);
     QWidget* create_editor(const DRAFT_ROW& row, FIELD& field);
+    void take_when_left(const QString& key, QLineEdit* edit);
     void show_row(const DRAFT_ROW& row, const FIELD& field);
     void take(const QString& key, const QString& text);
     const DRAFT_ROW* row_of(const QString& key) const;

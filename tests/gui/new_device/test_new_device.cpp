@@ -138,6 +138,47 @@ private slots:
         QCOMPARE(stored_count(), std::size_t{0});
     }
 
+    // Where the choices are not all that is allowed.
+    void texts_that_are_not_among_the_choices_are_entered_data()
+    {
+        rows<QString, QString>({
+            {"value_erase", "C4:128K", "128K"},
+            {"value_density", "16Kb", "many"},
+            {"value_voltage", "1.1V", "much"},
+        });
+    }
+
+    void texts_that_are_not_among_the_choices_are_entered()
+    {
+        const auto [good, wrong] = row<QString, QString>();
+        const QString key = QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char('_'), 1);
+        open();
+        open_from_chip([&, good = good, wrong = wrong](QWidget* dialog) {
+            auto& combo = in<QComboBox>(dialog, QTest::currentDataTag());
+            QVERIFY(combo.isEditable());
+            const auto enter = [&combo](const QString& text) {
+                combo.setFocus();
+                combo.lineEdit()->selectAll();
+                QTest::keyClicks(combo.lineEdit(), text);
+                press(&combo, Qt::Key_Tab);
+            };
+            const auto& problem = in<QLabel>(dialog, qPrintable(qs("problem_") + key));
+            const auto& source = in<QLabel>(dialog, qPrintable(qs("source_") + key));
+            enter(wrong);
+            QVERIFY(problem.isVisible());
+            enter(good);
+            QVERIFY(!problem.isVisible());
+            QCOMPARE(combo.currentText(), good);
+            QCOMPARE(source.text(), qs("entered"));
+            enter(wrong);
+            fill(dialog, "value_name", qs("BENCH-1"));
+            press(dialog, Qt::Key_Return);
+            QVERIFY(dialog->isVisible());
+            QVERIFY(combo.hasFocus());
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+    }
+
     // Scrolling over the page changes nothing on it.
     void the_wheel_leaves_values_alone()
     {
