@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>Die Datei %1 nennt einen Server, seit das Verzeichnis geöffnet wurde: Öffnen Sie es noch einmal.</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Speicherkapazität</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>Dies-Auswahl mit C2</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>Seitengröße (Byte)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Adressbytes</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>4-Byte-Adressierung, einschalten</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>4-Byte-Adressierung, ausschalten</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>4-Byte-Adressierung, Register und Bit</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>Quad-Freigabe</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>Blöcke entsperren</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>Busy wird gelesen mit</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>Dummy-Takte, Single</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>Quad-Lesen</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>Dummy-Takte, Quad</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>Quad-Programmieren</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>Seite programmieren, längste Wartezeit (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>Löschen, längste Wartezeit (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>aus der ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>aus der Kapazität</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>angenommen</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>eingegeben</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>El archivo %1 indica un servidor desde que se abrió el directorio: ábralo de nuevo.</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Fabricante</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacidad</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>Selección de dies con C2</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>Tamaño de página (bytes)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Bytes de dirección</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>Direccionamiento de 4 bytes, entrar</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>Direccionamiento de 4 bytes, salir</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>Direccionamiento de 4 bytes, registro y bit</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>Activación Quad</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>Desbloquear bloques</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reinicio</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>Ocupado se lee con</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>Ciclos dummy, Single</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>Lectura Quad</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>Ciclos dummy, Quad</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>Programación Quad</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>Programar página, espera máxima (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>Borrado, espera máxima (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>según el ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>según la capacidad</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>supuesto</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>introducido</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>Le fichier %1 désigne un serveur depuis que le répertoire a été ouvert&#xa0;: ouvrez-le de nouveau.</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Fabricant</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>Sélection des dies par C2</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>Taille de page (octets)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Octets d’adresse</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>Adressage sur 4 octets, entrée</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>Adressage sur 4 octets, sortie</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>Adressage sur 4 octets, registre et bit</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>Activation Quad</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>Déverrouiller les blocs</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialisation</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>Occupation lue par</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>Cycles dummy, Single</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>Lecture Quad</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>Cycles dummy, Quad</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>Programmation Quad</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>Programmation de page, attente maximale (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>Effacement, attente maximale (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>d’après l’ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>d’après la capacité</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>supposé</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>saisi</translation>
+    </message>
 </context>
 </TS>

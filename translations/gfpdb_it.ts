@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>Il file %1 indica un server da quando la cartella è stata aperta: aprirla di nuovo.</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Produttore</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacità</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Die</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>Selezione dei die con C2</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>Dimensione pagina (byte)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Byte di indirizzo</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>Indirizzamento a 4 byte, ingresso</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>Indirizzamento a 4 byte, uscita</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>Indirizzamento a 4 byte, registro e bit</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>Abilitazione Quad</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>Sbloccare i blocchi</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>Occupato si legge con</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>Cicli dummy, Single</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>Lettura Quad</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>Cicli dummy, Quad</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>Programmazione Quad</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>Programmazione pagina, attesa massima (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>Cancellazione, attesa massima (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>dall’ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>dalla capacità</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>presunto</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>inserito</translation>
+    </message>
 </context>
 </TS>

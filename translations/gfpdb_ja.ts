@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>ディレクトリを開いた後に、ファイル %1 でサーバーが指定されました: ディレクトリを開き直してください。</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>メーカー</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>ダイ数</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>C2 によるダイの選択</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>ページサイズ(バイト)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>アドレスのバイト数</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>4 バイトアドレス、開始</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>4 バイトアドレス、終了</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>4 バイトアドレス、レジスタとビット</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>クアッド有効化</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>ブロックのロック解除</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>ビジーの読み出し</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>ダミーサイクル数、シングル</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>クアッド読み出し</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>ダミーサイクル数、クアッド</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>クアッド書き込み</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>ページ書き込み、最長待ち時間 (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>消去、最長待ち時間 (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>ID から</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>容量から</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>仮定</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>入力</translation>
+    </message>
 </context>
 </TS>

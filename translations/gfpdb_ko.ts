@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>폴더를 연 뒤에 파일 %1이(가) 서버를 지정했습니다: 폴더를 다시 여십시오.</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>제조사</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>용량</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>다이</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>C2로 다이 선택</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>페이지 크기(바이트)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>주소 바이트</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>4바이트 주소, 시작</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>4바이트 주소, 종료</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>4바이트 주소, 레지스터와 비트</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>쿼드 사용</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>블록 잠금 해제</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>리셋</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>사용 중 상태 읽기</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>더미 클럭, 싱글</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>쿼드 읽기</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>더미 클럭, 쿼드</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>쿼드 프로그램</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>페이지 프로그램, 최대 대기(us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>지우기, 최대 대기(ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>ID에서</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>용량에서</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>가정함</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>입력함</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>O arquivo %1 indica um servidor desde que o diretório foi aberto: abra-o novamente.</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Fabricante</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacidade</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>Seleção de dies por C2</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>Tamanho da página (bytes)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Bytes de endereço</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>Endereçamento de 4 bytes, entrar</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>Endereçamento de 4 bytes, sair</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>Endereçamento de 4 bytes, registrador e bit</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>Habilitação Quad</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>Desbloquear blocos</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reinicialização</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>Ocupado é lido por</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>Ciclos dummy, Single</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>Leitura Quad</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>Ciclos dummy, Quad</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>Programação Quad</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>Programação de página, espera máxima (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>Apagamento, espera máxima (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>pelo ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>pela capacidade</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>presumido</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>inserido</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>После открытия каталога в файле %1 указан сервер: откройте каталог ещё раз.</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Изготовитель</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Ёмкость</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Кристаллы</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>Выбор кристаллов командой C2</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>Размер страницы (байты)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Байты адреса</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>4-байтовая адресация, вход</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>4-байтовая адресация, выход</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>4-байтовая адресация, регистр и бит</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>Включение Quad</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>Разблокировка блоков</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сброс</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>Занятость читается</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>Холостые такты, Single</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>Чтение Quad</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>Холостые такты, Quad</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>Запись Quad</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>Запись страницы, наибольшее ожидание (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>Стирание, наибольшее ожидание (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>по ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>по ёмкости</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>принято</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>введено</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>打开目录之后，文件 %1 指定了服务器：请重新打开该目录。</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>制造商</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>裸片数</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>用 C2 选择裸片</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>页大小(字节)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>地址字节数</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>4 字节寻址，进入</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>4 字节寻址，退出</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>4 字节寻址，寄存器和位</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>四线使能</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>解锁块</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>复位</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>忙状态读取</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>空时钟周期，单线</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>四线读取</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>空时钟周期，四线</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>四线编程</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>页编程，最长等待 (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>擦除，最长等待 (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>来自 ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>来自容量</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>假定</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>已输入</translation>
+    </message>
 </context>
 </TS>

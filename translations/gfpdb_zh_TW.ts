@@ -575,5 +575,105 @@
         <source>The file %1 names a server since the directory was opened: open it again.</source>
         <translation>開啟目錄之後，檔案 %1 指定了伺服器：請重新開啟該目錄。</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>製造商</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>晶粒數</translation>
+    </message>
+    <message>
+        <source>Dies are selected by C2</source>
+        <translation>用 C2 選擇晶粒</translation>
+    </message>
+    <message>
+        <source>Page size (bytes)</source>
+        <translation>頁大小(位元組)</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>位址位元組數</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, enter</source>
+        <translation>4 位元組定址，進入</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, leave</source>
+        <translation>4 位元組定址，離開</translation>
+    </message>
+    <message>
+        <source>4-byte addressing, register and bit</source>
+        <translation>4 位元組定址，暫存器和位元</translation>
+    </message>
+    <message>
+        <source>Quad enable</source>
+        <translation>四線啟用</translation>
+    </message>
+    <message>
+        <source>Unlock blocks</source>
+        <translation>解鎖區塊</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重設</translation>
+    </message>
+    <message>
+        <source>Busy is read by</source>
+        <translation>忙碌狀態讀取</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, single</source>
+        <translation>空時脈週期，單線</translation>
+    </message>
+    <message>
+        <source>Quad read</source>
+        <translation>四線讀取</translation>
+    </message>
+    <message>
+        <source>Dummy clocks, quad</source>
+        <translation>空時脈週期，四線</translation>
+    </message>
+    <message>
+        <source>Quad program</source>
+        <translation>四線燒錄</translation>
+    </message>
+    <message>
+        <source>Page program, longest wait (us)</source>
+        <translation>頁燒錄，最長等待 (us)</translation>
+    </message>
+    <message>
+        <source>Erase, longest wait (ms)</source>
+        <translation>抹除，最長等待 (ms)</translation>
+    </message>
+    <message>
+        <source>from the ID</source>
+        <translation>來自 ID</translation>
+    </message>
+    <message>
+        <source>from the density</source>
+        <translation>來自容量</translation>
+    </message>
+    <message>
+        <source>assumed</source>
+        <translation>假定</translation>
+    </message>
+    <message>
+        <source>entered</source>
+        <translation>已輸入</translation>
+    </message>
 </context>
 </TS>

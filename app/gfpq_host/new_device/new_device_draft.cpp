@@ -24,6 +24,12 @@ QStringList texts_of(const std::vector<std::string>& utf8)
     return texts;
 }
 
+// Titles and sources of values, in the catalogue of the library.
+QString shown(const std::string& english)
+{
+    return english.empty() ? QString() : QCoreApplication::translate("gfpdb", english.c_str());
+}
+
 std::optional<GFPDB_SFDP> tables_of(const std::vector<std::uint8_t>& bytes, QString& problem)
 {
     if (bytes.empty())
@@ -91,8 +97,8 @@ void NEW_DEVICE_DRAFT::read_again()
 {
     m_rows.clear();
     for (const GFPDB_PROPOSED_VALUE& value : m_device.get_values()) {
-        DRAFT_ROW row = {text_of(value.key),    text_of(value.title),    text_of(value.text),
-                         text_of(value.source), texts_of(value.choices), QString()};
+        DRAFT_ROW row = {text_of(value.key),  shown(value.title),      text_of(value.text),
+                         shown(value.source), texts_of(value.choices), QString()};
         if (row.key == NAME_KEY)
             row.problem = m_name_problem;
         const auto refused = m_refused.constFind(row.key);

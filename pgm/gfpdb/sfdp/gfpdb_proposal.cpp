@@ -11,6 +11,8 @@
 #include "rules/gfpdb_options.h"
 #include "sfdp/gfpdb_known_part.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 #include <utility>
 
@@ -25,31 +27,32 @@ struct ENTRY
     const char* key;
     const char* title;
 };
-// By the numbers of GFPDB_VALUE_OF.
+// By the numbers of GFPDB_VALUE_OF. The titles are in the catalogues for programs that show them; Erase
+// is the same in all languages.
 constexpr std::array<ENTRY, GFPDB_VALUES_OF_DEVICE> ENTRIES = {{
-    {"name", "Name"},
-    {"id", "ID"},
-    {"maker", "Maker"},
-    {"voltage", "I/O voltage"},
-    {"density", "Density"},
-    {"dies", "Dies"},
-    {"die-selection", "Dies are selected by C2"},
-    {"page-size", "Page size (bytes)"},
-    {"address-bytes", "Address bytes"},
-    {"four-byte-entry", "4-byte addressing, enter"},
-    {"four-byte-exit", "4-byte addressing, leave"},
-    {"four-byte-check", "4-byte addressing, register and bit"},
-    {"quad-enable", "Quad enable"},
-    {"unlock", "Unlock blocks"},
-    {"reset", "Reset"},
-    {"busy-poll", "Busy is read by"},
-    {"single-dummy", "Dummy clocks, single"},
-    {"quad-read", "Quad read"},
-    {"quad-dummy", "Dummy clocks, quad"},
-    {"quad-program", "Quad program"},
+    {"name", QT_TRANSLATE_NOOP("gfpdb", "Name")},
+    {"id", QT_TRANSLATE_NOOP("gfpdb", "ID")},
+    {"maker", QT_TRANSLATE_NOOP("gfpdb", "Maker")},
+    {"voltage", QT_TRANSLATE_NOOP("gfpdb", "I/O voltage")},
+    {"density", QT_TRANSLATE_NOOP("gfpdb", "Density")},
+    {"dies", QT_TRANSLATE_NOOP("gfpdb", "Dies")},
+    {"die-selection", QT_TRANSLATE_NOOP("gfpdb", "Dies are selected by C2")},
+    {"page-size", QT_TRANSLATE_NOOP("gfpdb", "Page size (bytes)")},
+    {"address-bytes", QT_TRANSLATE_NOOP("gfpdb", "Address bytes")},
+    {"four-byte-entry", QT_TRANSLATE_NOOP("gfpdb", "4-byte addressing, enter")},
+    {"four-byte-exit", QT_TRANSLATE_NOOP("gfpdb", "4-byte addressing, leave")},
+    {"four-byte-check", QT_TRANSLATE_NOOP("gfpdb", "4-byte addressing, register and bit")},
+    {"quad-enable", QT_TRANSLATE_NOOP("gfpdb", "Quad enable")},
+    {"unlock", QT_TRANSLATE_NOOP("gfpdb", "Unlock blocks")},
+    {"reset", QT_TRANSLATE_NOOP("gfpdb", "Reset")},
+    {"busy-poll", QT_TRANSLATE_NOOP("gfpdb", "Busy is read by")},
+    {"single-dummy", QT_TRANSLATE_NOOP("gfpdb", "Dummy clocks, single")},
+    {"quad-read", QT_TRANSLATE_NOOP("gfpdb", "Quad read")},
+    {"quad-dummy", QT_TRANSLATE_NOOP("gfpdb", "Dummy clocks, quad")},
+    {"quad-program", QT_TRANSLATE_NOOP("gfpdb", "Quad program")},
     {"erase", "Erase"},
-    {"program-wait", "Page program, longest wait (us)"},
-    {"erase-wait", "Erase, longest wait (ms)"},
+    {"program-wait", QT_TRANSLATE_NOOP("gfpdb", "Page program, longest wait (us)")},
+    {"erase-wait", QT_TRANSLATE_NOOP("gfpdb", "Erase, longest wait (ms)")},
 }};
 
 // In the units of the two values: more than a minute for a page, more than a day for a chip.

@@ -9,6 +9,8 @@
 #include "catalogue/gfpdb_flow_traits.h"
 #include "gfpdb/gfpdb_new_device.h"
 
+#include <QtGlobal>
+
 #include <array>
 #include <string>
 #include <vector>
@@ -53,10 +55,11 @@ constexpr const char* ALWAYS = "always";
 constexpr const char* BY_RESET = "reset";
 constexpr const char* WHOLE_CHIP = "chip";
 
-constexpr const char* FROM_ID = "from the ID";
-constexpr const char* FROM_DENSITY = "from the density";
-constexpr const char* ASSUMED = "assumed";
-constexpr const char* ENTERED = "entered";
+// The sources are in the catalogues for programs that show them.
+constexpr const char* FROM_ID = QT_TRANSLATE_NOOP("gfpdb", "from the ID");
+constexpr const char* FROM_DENSITY = QT_TRANSLATE_NOOP("gfpdb", "from the density");
+constexpr const char* ASSUMED = QT_TRANSLATE_NOOP("gfpdb", "assumed");
+constexpr const char* ENTERED = QT_TRANSLATE_NOOP("gfpdb", "entered");
 
 } // namespace gfpdb_proposed
 

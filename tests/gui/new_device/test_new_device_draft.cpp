@@ -3,6 +3,7 @@
 // A new device before it is stored, and on its way into the database; without a widget.
 #include "gfpdb/gfpdb_database.h"
 #include "gfpdb/gfpdb_enums.h"
+#include "marking_translator.h"
 #include "new_device/device_sources.h"
 #include "new_device/device_storage.h"
 #include "new_device/new_device_draft.h"
@@ -85,6 +86,23 @@ private slots:
         QCOMPARE(shown.first_wrong_row(), 0);
         // Tables and ID disagree.
         QVERIFY(!draft({0xC2, 0x20, 0x19}).warnings().isEmpty());
+    }
+
+    // All but the names of double words and commands.
+    void titles_and_sources_are_in_the_users_language()
+    {
+        const MARKING_TRANSLATOR library("gfpdb");
+        NEW_DEVICE_DRAFT shown = draft();
+        shown.set_value(qs("quad-dummy"), qs("8"));
+        QSet<QString> sources;
+        for (const DRAFT_ROW& row : shown.rows()) {
+            QVERIFY2(row.title.startsWith(QLatin1Char('[')) && row.title.endsWith(QLatin1Char(']')),
+                     qPrintable(row.title));
+            sources.insert(row.source);
+        }
+        for (const char* each : {"[from the ID]", "[assumed]", "[entered]"})
+            QVERIFY2(sources.contains(qs(each)), each);
+        QCOMPARE(row_of(shown, "name").source, QString());
     }
 
     void what_is_refused_stays_with_its_problem()
