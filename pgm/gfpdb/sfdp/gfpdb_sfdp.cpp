@@ -221,7 +221,8 @@ std::optional<GFPDB_SFDP> gfpdb_read_sfdp(const std::vector<std::uint8_t>& bytes
             sfdp.warnings.empty() ? "There is no basic table." : "There is no basic table. " + sfdp.warnings.front();
         return std::nullopt;
     }
-    if (reader.view(*basic).dword(1) == BLANK_DWORD) {
+    const std::uint32_t first = reader.view(*basic).dword(1);
+    if (first == BLANK_DWORD || first == 0) {
         problem = "The basic table is blank.";
         return std::nullopt;
     }

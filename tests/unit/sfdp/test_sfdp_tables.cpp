@@ -344,6 +344,7 @@ private slots:
             {"bytes in front", "front=3",
              "The signature \"SFDP\" is at 0x03 and not at the start: bytes were added before it."},
             {"a blank basic table", "DW1=FFFFFFFF", "The basic table is blank."},
+            {"a basic table of zeros", "DW1=0", "The basic table is blank."},
             {"erase of 2^33 bytes", "DW9=FF00C721 M4=FF03 M5=FEFF03 M7=FFFF02 I1=FFF002FF",
              "4bait_erase 1=21; erase_typ_ms 20:4K=64 52:32K=128; erase_types 1=20:4K 2=52:32K; maps 65@4/3+8&8 "
              "0:10000/3,ff0000/3 1:1000000/2; ! SFDP DW9: erase type 3 erases 2^33 bytes, which is too much: it is "
