@@ -169,7 +169,8 @@ private:
         const std::vector<GFPDB_SFDP_TABLE>& tables = m_sfdp.tables;
         for (std::size_t at = 0; at < tables.size(); ++at) {
             for (std::size_t other = at + 1; other < tables.size(); ++other) {
-                const bool overlap = tables[at].offset < end_of(tables[other]) &&
+                const bool is_empty = tables[at].dwords == 0 || tables[other].dwords == 0;
+                const bool overlap = !is_empty && tables[at].offset < end_of(tables[other]) &&
                                      tables[other].offset < end_of(tables[at]) && tables[at].id != tables[other].id;
                 if (overlap)
                     warn(name(tables[at]) + " and " + name(tables[other]) + " overlap.");

@@ -286,6 +286,9 @@ private slots:
             {"empty table", "13=00",
              "4bait -; 4bait_erase -; ! The table of 4-byte instructions is empty.; ! The bytes at 0x81 are in no "
              "table: they are not read."},
+            {"empty table within another", "13=00 14=40",
+             "4bait -; 4bait_erase -; ! The table of 4-byte instructions is empty.; ! The bytes at 0x81 are in no "
+             "table: they are not read."},
             {"two basic tables", "10=00 11=05 13=10 14=30",
              "4bait -; 4bait_erase -; tables FF00 FF00 FF81; ! The bytes at 0x81 are in no table: they are not read.; "
              "! There are 2 headers of the basic table: the one of revision 1.7 is taken."},
