@@ -2,13 +2,13 @@
 #include "new_device/value_fields.h"
 
 #include "new_device/problem_line.h"
+#include "programmer/panel_form.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -32,13 +32,6 @@ const QString PROBLEM_NAME = QStringLiteral("problem_");
 // Values that take other texts than their choices.
 const QStringList OPEN_CHOICES = {QStringLiteral("voltage"), QStringLiteral("density"), QStringLiteral("erase")};
 
-// The wheel scrolls the page that it is on: it chooses nothing on the way.
-class STEADY_COMBO : public QComboBox
-{
-protected:
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-};
-
 } // namespace
 
 VALUE_FIELDS::VALUE_FIELDS(NEW_DEVICE_DRAFT& draft) : m_draft(draft)
@@ -56,6 +49,7 @@ void VALUE_FIELDS::create_fields()
     for (const DRAFT_ROW& row : m_draft.rows())
         create_field(row, grid);
     grid->setRowStretch(grid->rowCount(), 1);
+    keep_wheel_from_fields(this);
 }
 
 void VALUE_FIELDS::create_field(const DRAFT_ROW& row, QGridLayout* grid)
@@ -90,7 +84,7 @@ QWidget* VALUE_FIELDS::create_editor(const DRAFT_ROW& row, FIELD& field)
         take_when_left(row.key, field.edit);
         return field.edit;
     }
-    field.combo = new STEADY_COMBO;
+    field.combo = new QComboBox;
     field.combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     if (OPEN_CHOICES.contains(row.key)) {
         field.combo->setEditable(true);

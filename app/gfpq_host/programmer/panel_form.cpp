@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "programmer/panel_form.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,7 +20,32 @@ QString name_of(QString label)
     return label;
 }
 
+// What it watches gets no turn of the wheel; the widget around it does.
+class WHEEL_FILTER : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::Wheel)
+            return QObject::eventFilter(watched, event);
+        event->ignore();
+        return true;
+    }
+};
+
 } // namespace
+
+void keep_wheel_from_fields(QWidget* page)
+{
+    auto* filter = new WHEEL_FILTER(page);
+    const QList<QWidget*> fields = page->findChildren<QWidget*>();
+    for (QWidget* field : fields) {
+        if (qobject_cast<QComboBox*>(field) || qobject_cast<QAbstractSpinBox*>(field))
+            field->installEventFilter(filter);
+    }
+}
 
 QFormLayout* make_form(QWidget* page)
 {

@@ -18,6 +18,9 @@ void add_row(QFormLayout* form, const QString& label, QWidget* widget, const cha
 // `first` and `second` side by side; the first one takes the room.
 QWidget* side_by_side(QWidget* first, QWidget* second);
 
+// The wheel over a combo or spin box that is on `page` now scrolls the page, and changes nothing.
+void keep_wheel_from_fields(QWidget* page);
+
 // Lets `combo` get narrower than its texts where there is little room.
 void allow_narrow(QComboBox* combo);
 

@@ -6,6 +6,7 @@
 #include "programmer/detected_dialog.h"
 #include "programmer/file_panel.h"
 #include "programmer/order_panel.h"
+#include "programmer/panel_form.h"
 #include "programmer/programmer_menu.h"
 #include "programmer/run_bar.h"
 #include "programmer/run_words.h"
@@ -65,6 +66,7 @@ QScrollArea* in_scroll_area(QWidget* page)
     area->setWidget(page);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    keep_wheel_from_fields(page);
     return area;
 }
 

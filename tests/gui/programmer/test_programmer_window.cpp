@@ -15,6 +15,7 @@
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QWheelEvent>
 
 class TEST_PROGRAMMER_WINDOW : public PROGRAMMER_TEST
 {
@@ -206,6 +207,26 @@ private slots:
         for (const char* button : {"m_trial_button", "m_start_button", "m_cancel_button"}) {
             const QWidget& widget = child<QWidget>(button);
             QVERIFY(window().rect().contains(QRect(widget.mapTo(&window(), QPoint()), widget.size())));
+        }
+    }
+
+    // Scrolling over the entries changes none of them.
+    void the_wheel_leaves_entries_alone()
+    {
+        open();
+        child<QComboBox>("m_connection_combo").setCurrentIndex(1);
+        for (const char* name : {"m_mode_combo", "m_connection_combo", "m_extent_combo", "m_port_spin"}) {
+            auto& entry = child<QWidget>(name);
+            entry.setFocus();
+            const QVariant shown =
+                entry.property("currentIndex").isValid() ? entry.property("currentIndex") : entry.property("value");
+            QVERIFY2(shown.isValid(), name);
+            for (const int turn : {-120, 120, 120}) {
+                QWheelEvent wheel(QPointF(5, 5), entry.mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, turn),
+                                  Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QCoreApplication::sendEvent(&entry, &wheel);
+            }
+            QVERIFY2(shown == entry.property("currentIndex") || shown == entry.property("value"), name);
         }
     }
 
