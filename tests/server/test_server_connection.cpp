@@ -5,6 +5,7 @@
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_server.h"
 #include "journal.h"
+#include "manager/gfpdb_embedded_mgr.h"
 #include "pg_bouncer.h"
 #include "store/gfpdb_store.h"
 #include "tcp_proxy.h"
@@ -203,6 +204,49 @@ private slots:
             QCOMPARE(database().list("SELECT revision FROM device"), QStringList{revision});
             QCOMPARE(database().list("SELECT reason FROM history"), QStringList());
         }
+    }
+
+    // How many states were removed is known, too.
+    void a_cut_pruning_is_counted()
+    {
+        TCP_PROXY proxy(server().port());
+        database().go_through(proxy.port());
+        m_mgr = fresh_manager();
+        for (int at = 1; at <= 2; ++at) {
+            for (const char* mark : {"1", "2", "3"})
+                QCOMPARE(apply_marked(*m_mgr, "A", mark + std::to_string(at)), std::string());
+            GFPDB_PRUNING pruning;
+            pruning.keep = 1;
+            pruning.is_selected = [](const GFPDB_HISTORY_ENTRY&) { return true; };
+            proxy.reset();
+            proxy.cut_at(at, TCP_PROXY::CUT::ANSWER);
+
+            const std::optional<int> pruned = GFPDB_EMBEDDED_MGR::instance().store().prune_history(pruning);
+
+            QVERIFY(proxy.has_cut());
+            QCOMPARE(pruned.value_or(-1), at == 1 ? 1 : 3);
+            QCOMPARE(database().run("SELECT count(*) FROM history").toInt(), 1);
+        }
+    }
+
+    void what_was_put_back_already_is_no_proof_of_another_save()
+    {
+        TCP_PROXY proxy(server().port());
+        database().go_through(proxy.port());
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(m_place->db_dir());
+        std::optional<GFPDB_TAKEN> taken;
+        QVERIFY(store->save_device(make_row("A")));
+        QVERIFY(store->remove_device(FAMILY, ACTIVE_SERIAL, "A", &taken));
+        QVERIFY(store->undo_removal(*taken));
+        GFPDB_ROW next = make_row("A");
+        next.density = "8Mb";
+        proxy.reset();
+        proxy.cut_at(1, TCP_PROXY::CUT::ANSWER);
+
+        QVERIFY(store->save_device(next, &*taken));
+
+        QVERIFY(proxy.has_cut());
+        QCOMPARE(store->find_device(FAMILY, ACTIVE_SERIAL, "A")->density, std::string("8Mb"));
     }
 
     // Also where what was read in the same turn of the event loop says otherwise.

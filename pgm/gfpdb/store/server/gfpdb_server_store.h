@@ -121,6 +121,7 @@ private:
     std::string where_taken(const GFPDB_TAKEN& taken) const;
     std::string proof_of_change(const std::string& columns, const std::string& change_id) const;
     std::string proof_of_revision(const PLACE& place, const std::string& revision) const;
+    std::string proof_of_return(const GFPDB_TAKEN& taken) const;
     bool decide_save(SAVING& saving, const std::string& change_id, std::string& statements);
     bool decide_template(const GFPDB_ROW& row, const ROWS& found, const std::string& change_id,
                          std::string& statements);

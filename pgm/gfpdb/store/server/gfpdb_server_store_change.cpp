@@ -128,6 +128,13 @@ std::string GFPDB_SERVER_STORE::proof_of_revision(const PLACE& place, const std:
            " UNION ALL SELECT 1" + from("history") + " WHERE name_key = " + key_of(place.name) + has_revision;
 }
 
+// What was taken, and is stored again as it was, has no new revision.
+std::string GFPDB_SERVER_STORE::proof_of_return(const GFPDB_TAKEN& taken) const
+{
+    return "SELECT 1" + from("device") + where({false, taken.family, taken.scheme, taken.name}) +
+           " AND revision = " + literal(taken.revision);
+}
+
 bool GFPDB_SERVER_STORE::can_keep(const GFPDB_ROW& row)
 {
     const char* const field = unstorable_field(row);
@@ -144,12 +151,13 @@ std::optional<std::string> GFPDB_SERVER_STORE::save_device(const GFPDB_ROW& row,
     SAVING saving{row, taken, is_new_name, seen, row.revision};
     const std::string change_id = gfpdb_new_revision();
     CHANGE change;
-    change.work = [&](std::string& statements) { return decide_save(saving, change_id, statements); };
-    change.proof = proof_of_revision(place_of(false, row), row.revision);
-    // What was taken is stored again, where nothing of it was changed.
-    if (taken != nullptr)
-        change.proof += " UNION ALL SELECT 1" + from("device") + where(place_of(false, row)) +
-                        " AND revision = " + literal(taken->revision);
+    const std::string proof = proof_of_revision(place_of(false, row), row.revision);
+    change.work = [&](std::string& statements) {
+        const bool is_decided = decide_save(saving, change_id, statements);
+        change.proof = taken != nullptr && saving.revision == taken->revision ? proof_of_return(*taken) : proof;
+        return is_decided;
+    };
+    change.proof = proof;
     change.next = questions_after_change(&row);
     RESULTS results;
     const std::optional<bool> is_saved = save_at_once(saving, change, change_id);
@@ -183,6 +191,8 @@ std::optional<bool> GFPDB_SERVER_STORE::save_at_once(SAVING& saving, const CHANG
         condition += is_free("template", where(place_of(true, row))) +
                      is_free("device", " WHERE name_key = " + key_of(row.template_name));
     CHANGE at_once = change;
+    if (is_unchanged)
+        at_once.proof = proof_of_return(*saving.taken);
     at_once.work = [&](std::string& statements) {
         statements += is_unchanged ? bring_back(*saving.taken, false, change_id) : insert(false, row);
         if (!is_unchanged && saving.taken != nullptr)

@@ -32,8 +32,11 @@ std::optional<int> GFPDB_SERVER_STORE::prune_history(const GFPDB_PRUNING& prunin
         ids.clear();
         if (!find_prunable(pruning, ids))
             return false;
-        if (!ids.empty())
-            statements += "DELETE" + from("history") + " WHERE id IN " + list_of(ids) + ";\n";
+        if (ids.empty())
+            return true;
+        const std::string which = from("history") + " WHERE id IN " + list_of(ids);
+        statements += "DELETE" + which + ";\n";
+        change.proof = "SELECT 1 WHERE NOT EXISTS (SELECT 1" + which + ')';
         return true;
     };
     RESULTS results;
