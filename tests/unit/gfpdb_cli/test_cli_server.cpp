@@ -164,6 +164,28 @@ private slots:
                  reader.out.constData());
     }
 
+    void a_schema_that_cannot_be_used_is_told_data()
+    {
+        rows<QString, QByteArray>({{"newer", "9", "was written by a newer program (schema 9)"},
+                                   {"older", "1", "was written by an older program (schema 1)"},
+                                   {"another program's", "0", "is a database of another program"}});
+    }
+
+    void a_schema_that_cannot_be_used_is_told()
+    {
+        const auto [version, problem] = row<QString, QByteArray>();
+        const SERVER_DATABASE server = made_server();
+        server.run("UPDATE meta SET value = '" + version + "' WHERE name = 'schema_version'");
+        make_dir(m_place->path("none/"));
+
+        for (const TOOL_RUN& run :
+             {run_tool({"server", "status", at("server/")}), run_tool(init("none/", server, SERVER_DATABASE::USER))}) {
+            QCOMPARE(run.exit_code, EXIT_DATABASE);
+            QVERIFY2(run.err.contains(problem), run.err.constData());
+        }
+        QVERIFY(!QFile::exists(at("none/gfpdb-server.ini")));
+    }
+
     // As a directory that cannot be written.
     void who_may_only_look_is_told()
     {

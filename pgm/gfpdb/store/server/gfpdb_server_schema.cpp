@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "store/server/gfpdb_server_schema.h"
 
+#include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_server.h"
+#include "store/server/gfpdb_server_connection.h"
 #include "store/server/gfpdb_server_sql.h"
 
 #include <QString>
@@ -115,6 +117,25 @@ std::string state(const std::string& schema)
         "AND has_table_privilege('@schema.history', 'INSERT'), "
         "has_schema_privilege('@schema', 'CREATE'), current_setting('transaction_read_only') = 'on'",
         schema);
+}
+
+std::string version_problem(const GFPDB_SERVER_ROWS& state, const std::string& database, const std::string& host,
+                            const std::string& schema)
+{
+    const auto version = static_cast<int>(state.number(0, STATE_VERSION));
+    if (version > VERSION)
+        return GFPDB_WORDS::say("The database %1 on the server %2 was written by a newer program (schema %3). It "
+                                "is left as it is.",
+                                {database, host, std::to_string(version)});
+    if (version < 1)
+        return GFPDB_WORDS::say("The database %1 on the server %2 is a database of another program. It is left as "
+                                "it is.",
+                                {database, host});
+    if (version == VERSION || state.text(0, STATE_MAY_UPGRADE) == "t")
+        return std::string();
+    return GFPDB_WORDS::say("The database %1 on the server %2 was written by an older program (schema %3): it can "
+                            "be used when someone with the role %4 has opened it once.",
+                            {database, host, std::to_string(version), schema + "_owner"});
 }
 
 std::string assertion(const std::string& condition)

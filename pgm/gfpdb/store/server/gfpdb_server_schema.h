@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+class GFPDB_SERVER_ROWS;
+
 namespace GFPDB_SERVER_SCHEMA_SQL {
 
 // The version that this program makes and works with.
@@ -30,6 +32,11 @@ enum STATE_COLUMN
     STATE_MAY_UPGRADE,
     STATE_IS_READ_ONLY,
 };
+
+// Why the database cannot be used in the version that state() has found there; empty when it can, or when the login may
+// bring it up to date. `database` is in quotes.
+std::string version_problem(const GFPDB_SERVER_ROWS& state, const std::string& database, const std::string& host,
+                            const std::string& schema);
 
 // Fails with DIVISION_BY_ZERO where `condition` is not true: so a transaction that is sent as a whole, with its end,
 // ends before its changes.

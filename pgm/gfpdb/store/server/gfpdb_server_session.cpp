@@ -312,22 +312,9 @@ bool GFPDB_SERVER_SESSION::take_version(const ROWS& rows)
     const auto version = static_cast<int>(rows.number(0, STATE_VERSION));
     if (version == VERSION)
         return true;
-    if (version > VERSION)
-        return set_unusable(
-            GFPDB_WORDS::say("The database %1 on the server %2 was written by a newer program (schema %3). It "
-                             "is left as it is.",
-                             {gfpdb_quoted(m_server.database), m_connection->host(), std::to_string(version)}));
-    if (version < 1)
-        return set_unusable(
-            GFPDB_WORDS::say("The database %1 on the server %2 is a database of another program. It is left as "
-                             "it is.",
-                             {gfpdb_quoted(m_server.database), m_connection->host()}));
-    if (rows.text(0, STATE_MAY_UPGRADE) == "t")
-        return upgrade(version);
-    return set_unusable(GFPDB_WORDS::say(
-        "The database %1 on the server %2 was written by an older program (schema %3): it can "
-        "be used when someone with the role %4 has opened it once.",
-        {gfpdb_quoted(m_server.database), m_connection->host(), std::to_string(version), m_server.schema + "_owner"}));
+    const std::string problem =
+        version_problem(rows, gfpdb_quoted(m_server.database), m_connection->host(), m_server.schema);
+    return problem.empty() ? upgrade(version) : set_unusable(problem);
 }
 
 // In one transaction, which the server runs whole or not at all.

@@ -72,6 +72,8 @@ std::optional<GFPDB_SERVER_STATUS> gfpdb_server_status(const GFPDB_SERVER& serve
     if (connection.run(SCHEMA::state(server.schema), results)) {
         status.schema_version = static_cast<int>(results.front().number(0, SCHEMA::STATE_VERSION));
         status.role = role_of(results.front());
+        status.problem =
+            SCHEMA::version_problem(results.front(), gfpdb_quoted(server.database), status.host, server.schema);
     }
     if (connection.failure() != GFPDB_SERVER_CONNECTION::FAILURE::NONE ||
         (!status.role.empty() && !count_records(connection, server.schema, status))) {
