@@ -426,25 +426,42 @@ bool GFPDB_EMBEDDED_MGR::save_flash(GFPDB_FLASH* flash, const std::string& direc
     deletion.swap(m_deletion);
     if (deletion && deletion->directory != store.get_directory())
         deletion.reset();
-    if (store_record(dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash), store, deletion ? &*deletion : nullptr))
+    std::string tried;
+    if (store_record(dynamic_cast<GFPDB_EMBEDDED_FLASH*>(flash), store, deletion ? &*deletion : nullptr, tried))
         return true;
     if (deletion && deletion->taken)
-        put_back(store, *deletion->taken);
+        put_back(store, *deletion->taken, tried);
     return false;
 }
 
 // The reason why the save failed stays the last error; that the device is not back is added to it.
-void GFPDB_EMBEDDED_MGR::put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken)
+void GFPDB_EMBEDDED_MGR::put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken, const std::string& tried)
 {
-    if (store.undo_removal(taken))
+    if (store.undo_removal(taken)) {
         m_seen[store.get_directory() + device_place(taken.name)] = taken.revision;
-    else
-        fail(GFPDB_WORDS::say("%1 The device %2 that was deleted before was not put back: %3",
-                              {m_last_error, gfpdb_quoted(taken.name), store.get_last_error()}));
+        return;
+    }
+    fail(GFPDB_WORDS::say("%1 The device %2 that was deleted before was not put back: %3",
+                          {m_last_error, gfpdb_quoted(taken.name), store.get_last_error()}));
+    note_own_state(store, taken, tried);
 }
 
-// A rename and a new device take a name that was free when it was checked: what has it by now is not replaced.
-bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_DELETION* deletion)
+// A change can have been made although it was reported as failed: what it stored is not another user's. Where not even
+// that can be read, nothing is known of the device.
+void GFPDB_EMBEDDED_MGR::note_own_state(GFPDB_STORE& store, const GFPDB_TAKEN& taken, const std::string& tried)
+{
+    const std::string place = store.get_directory() + device_place(taken.name);
+    const std::string stored = store.get_device_revision(taken.family, taken.scheme, taken.name);
+    if (!store.get_last_error().empty())
+        m_seen.erase(place);
+    else if (stored == taken.revision || stored == tried)
+        m_seen[place] = stored;
+}
+
+// A rename and a new device take a name that was free when it was checked: what has it by now is not replaced. `tried`
+// gets the revision that is to be stored.
+bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_DELETION* deletion,
+                                      std::string& tried)
 {
     std::string error;
     const GFPDB_TAKEN* taken = deletion != nullptr && deletion->taken ? &*deletion->taken : nullptr;
@@ -463,7 +480,7 @@ bool GFPDB_EMBEDDED_MGR::store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE&
     if (!row)
         return fail(GFPDB_WORDS::say("The device %1 contains text that is not valid UTF-8.",
                                      {gfpdb_quoted(record->get_name())}));
-    row->revision = gfpdb_new_revision();
+    row->revision = tried = gfpdb_new_revision();
     const bool is_new_name =
         deletion != nullptr && gfpdb_name_key(deletion->name) != gfpdb_name_key(record->get_name());
     const std::string place = device_place(record->get_name());

@@ -121,8 +121,10 @@ private:
                           std::string& error) const;
     static bool check_restored_name(const GFPDB_HISTORY_ENTRY& entry, const std::string& new_name, std::string& error);
     bool fail(const std::string& error);
-    bool store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_DELETION* deletion);
-    void put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken);
+    bool store_record(GFPDB_EMBEDDED_FLASH* record, GFPDB_STORE& store, const GFPDB_DELETION* deletion,
+                      std::string& tried);
+    void put_back(GFPDB_STORE& store, const GFPDB_TAKEN& taken, const std::string& tried);
+    void note_own_state(GFPDB_STORE& store, const GFPDB_TAKEN& taken, const std::string& tried);
 
     int m_family = 0;
     int m_scheme = -1;

@@ -35,6 +35,11 @@ void* operator new(std::size_t size)
     return memory != nullptr ? memory : throw std::bad_alloc();
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return size < memory_ends_at ? std::malloc(std::max<std::size_t>(size, 1)) : nullptr;
+}
+
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
