@@ -57,6 +57,10 @@ std::string counts_text()
     return counts.join(QLatin1Char(' ')).toStdString();
 }
 
+constexpr char RECOVERED[] = "recovered";
+// How the library ends a refusal to change what another program has changed.
+constexpr char LOOK_AGAIN[] = "Look at it again, or try again";
+
 // What the library makes once for a process is made here, before the others are forked from this one. It leaves no file
 // open: a database must not be used on both sides of a fork.
 void warm_up()
@@ -155,24 +159,32 @@ QString FAULT_STAND::check(const FAULT& fault)
         FAULT_INJECTOR::inject(m_place->path(""), fault);
         self.say(m_scene.change(*m_place));
         FAULT_INJECTOR::stop();
-        self.hear();
-        self.say(m_scene.change(*m_place));
+        const bool is_recovered = self.hear() == RECOVERED;
+        std::string end = m_scene.change(*m_place);
+        // What another program has brought back is asked about once.
+        if (is_recovered && end.find(LOOK_AGAIN) != std::string::npos)
+            end = m_scene.change(*m_place);
+        self.say(end);
     });
     const std::string told = child.hear();
-    const QString problem = check_state(fault, told);
-    child.say("go on");
+    bool is_recovered = false;
+    const QString problem = check_state(fault, told, is_recovered);
+    child.say(is_recovered ? RECOVERED : "go on");
     return problem + check_end(child.hear());
 }
 
-QString FAULT_STAND::check_state(const FAULT& fault, const std::string& told) const
+// `is_recovered` becomes true when another program had to bring back what was lost.
+QString FAULT_STAND::check_state(const FAULT& fault, const std::string& told, bool& is_recovered) const
 {
     if (told == FAULT_TOLD_NOTHING)
         return QStringLiteral("The change failed without a word. ");
     std::string state = state_now();
     if (state != m_after && told.empty())
         return QStringLiteral("The change was reported as made, but there is: ") + QString::fromStdString(state);
-    if (state != m_after && state != m_before && fault.is_lasting && m_scene.recover)
+    if (state != m_after && state != m_before && fault.is_lasting && m_scene.recover) {
         state = recovered_state(told);
+        is_recovered = true;
+    }
     if (state != m_after && state != m_before)
         return QStringLiteral("Neither before nor after; told: %1; there is: %2")
             .arg(QString::fromStdString(told), QString::fromStdString(state));

@@ -66,7 +66,7 @@ public:
 private:
     QString make_references();
     QString check(const FAULT& fault);
-    QString check_state(const FAULT& fault, const std::string& told) const;
+    QString check_state(const FAULT& fault, const std::string& told, bool& is_recovered) const;
     std::string recovered_state(const std::string& told) const;
     QString check_end(const std::string& told) const;
     void reset() const;
