@@ -12,9 +12,9 @@
 //
 // A catalogue is a file NAME_LANGUAGE.qm. It is looked for in the directory that the environment variable
 // GFPQ_TRANSLATIONS names, so that a translator can try one without a rebuild, then in `directories`. Of the locale's
-// user interface languages the first that has a catalogue counts; a language without one takes that of the country where
-// it is at home, or its parent ("zh_HK": "zh_TW", "pt_PT": "pt_BR", "de_AT": "de"). The texts in the sources are English,
-// so English ends the search.
+// user interface languages the first that has a catalogue counts; a language without one takes that of the country
+// where it is at home, or its parent ("zh_HK": "zh_TW", "pt_PT": "pt_BR", "de_AT": "de"). The texts in the sources are
+// English, so English ends the search.
 //
 // Needs a QCoreApplication while it is made. GUI thread only.
 class TEXT_CATALOGUE

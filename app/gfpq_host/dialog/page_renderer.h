@@ -12,8 +12,9 @@ class QTabWidget;
 class QWidget;
 
 // While one lives, it takes charge of every window that the application opens: it draws each page of the dialog's tab
-// widget into a PNG file, which is as large as the chart on it needs, opens the template editor and draws that, and closes them again, so that the call that opened
-// the dialog returns. For a platform without a display. Any other window is closed and counts as a problem.
+// widget into a PNG file, which is as large as the chart on it needs, opens the template editor and draws that, and
+// closes them again, so that the call that opened the dialog returns. For a platform without a display. Any other
+// window is closed and counts as a problem.
 class PAGE_RENDERER : public QObject
 {
     Q_OBJECT

@@ -18,8 +18,8 @@ public:
     static QString qt_directory();
 
     // Brings in the texts of `language`, of the system's language when it is empty: the host's and the flash database's
-    // from the first of `directories` that has them, Qt's from `directory_of_qt`. A language that was asked for and has no texts of ours
-    // is logged; the texts then stay English.
+    // from the first of `directories` that has them, Qt's from `directory_of_qt`. A language that was asked for and has
+    // no texts of ours is logged; the texts then stay English.
     HOST_TRANSLATION(const QString& language, const QStringList& directories, const QString& directory_of_qt);
     ~HOST_TRANSLATION();
     HOST_TRANSLATION(const HOST_TRANSLATION&) = delete;

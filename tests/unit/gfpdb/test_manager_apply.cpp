@@ -392,7 +392,8 @@ private:
     // The reasons in the history, oldest first.
     QString reasons() const
     {
-        return run_sql(m_place->db_file(), "SELECT group_concat(reason) FROM (SELECT reason FROM history ORDER BY id) AS rows")
+        return run_sql(m_place->db_file(),
+                       "SELECT group_concat(reason) FROM (SELECT reason FROM history ORDER BY id) AS rows")
             .toString();
     }
 
