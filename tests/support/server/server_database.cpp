@@ -153,8 +153,10 @@ void SERVER_DATABASE::lock(const QString& how)
         qFatal("no lock: %s", qPrintable(query.lastError().text()));
 }
 
+// Waits for the server: one that only learns of the closed connection holds the lock a moment longer.
 void SERVER_DATABASE::unlock()
 {
+    QSqlQuery(QSqlDatabase::database(LOCKER, false)).exec("ROLLBACK");
     QSqlDatabase::removeDatabase(LOCKER);
 }
 
