@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli_output.h"
 
-#include "gfpdb/gfpdb_text.h"
+#include "printable_text.h"
 
 #include <cstdio>
 
@@ -14,27 +14,16 @@ void write(std::FILE* stream, const std::string& text)
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
-// `text` with "?" for every control character that is not one of `kept`.
-std::string printable(const std::string& text, const QString& kept)
-{
-    QString shown = gfpdb_from_utf8(text);
-    for (QChar& character : shown) {
-        if (!character.isPrint() && !character.isSurrogate() && !kept.contains(character))
-            character = QLatin1Char('?');
-    }
-    return gfpdb_to_utf8(shown);
-}
-
 std::string printable_lines(const std::string& text)
 {
-    return printable(text, QStringLiteral("\n"));
+    return printable_text(text, QStringLiteral("\n"));
 }
 
 } // namespace
 
 std::string cli_printable(const std::string& text)
 {
-    return printable(text, QString());
+    return printable_text(text);
 }
 
 void CLI_OUTPUT::print(const std::string& text)

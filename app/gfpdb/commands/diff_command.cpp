@@ -3,7 +3,7 @@
 
 #include "cli_find.h"
 #include "cli_json.h"
-#include "output/line_diff.h"
+#include "line_diff.h"
 
 #include "gfpdb/gfpdb_text.h"
 

@@ -2,12 +2,9 @@
 #include "commands/export_command.h"
 
 #include "cli_find.h"
+#include "record_writer.h"
 
 #include "gfpdb/gfpdb_text.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 namespace {
 
@@ -43,38 +40,12 @@ std::optional<std::vector<GFPDB_RECORD>> collect(const CLI_CALL& call, int& exit
     return std::nullopt;
 }
 
-// False, with the reason in the device's error.
-bool write_all(QFileDevice& file, const std::string& text)
-{
-    const auto length = static_cast<qint64>(text.size());
-    return file.write(text.data(), length) == length && file.flush();
-}
-
-// Not even a careless mask, or the former file's rights, let everyone write what is made.
-bool replace_file(QSaveFile& file, const std::string& text)
-{
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(file.permissions() & ~QFileDevice::WriteOther) &&
-           write_all(file, text) && file.commit();
-}
-
-// A regular file is replaced as a whole. A device or pipe is written to: it must not be replaced by a file.
 int write_file(const CLI_CALL& call, const std::string& text)
 {
-    const QString path = QFile::decodeName(QByteArray::fromStdString(call.value(CLI_OPTION_OUTPUT)));
-    const QFileInfo existing(path);
-    QString error;
-    if (existing.exists() && !existing.isFile()) {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !write_all(file, text))
-            error = file.errorString();
-    } else {
-        QSaveFile file(path);
-        if (!replace_file(file, text))
-            error = file.errorString();
-    }
-    if (error.isEmpty())
+    std::string problem;
+    if (write_record_file(call.value(CLI_OPTION_OUTPUT), text, problem))
         return CLI_EXIT_OK;
-    call.output.error(call.value(CLI_OPTION_OUTPUT) + ": The file cannot be written: " + gfpdb_to_utf8(error) + ".");
+    call.output.error(call.value(CLI_OPTION_OUTPUT) + ": The file cannot be written: " + problem + ".");
     return CLI_EXIT_BAD_FILE;
 }
 

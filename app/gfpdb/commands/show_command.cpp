@@ -2,7 +2,7 @@
 #include "commands/show_command.h"
 
 #include "cli_find.h"
-#include "output/record_text.h"
+#include "record_text.h"
 
 #include "gfpdb/gfpdb_text.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// What the ID of a chip tells, by the parts of the catalogue: its maker, which listed parts have it, its usual density.
+// What the ID of a chip tells, by the parts of the catalogue: which listed parts have it, its usual density. Its maker
+// is in gfpdb/gfpdb_catalogue.h.
 //
 // GUI thread only (the catalogue).
 #pragma once
@@ -18,11 +19,6 @@ std::vector<std::uint8_t> gfpdb_trimmed_id(const std::vector<std::uint8_t>& id);
 // The listed parts that have `id`; those with the longer ID first. Of the longer of two IDs only as much is compared as
 // the shorter has, which is three bytes at least.
 std::vector<const GFPDB_PART*> gfpdb_parts_with_id(const std::vector<std::uint8_t>& id);
-
-// The maker of the listed parts whose IDs begin in the same way; empty when there are none, or several makers.
-std::string gfpdb_maker_of_id(const std::vector<std::uint8_t>& id);
-// The makers of the catalogue, each once, in its order.
-std::vector<std::string> gfpdb_makers();
 
 // The size in bytes that the third byte of an ID usually stands for; 0 when it stands for none.
 std::int64_t gfpdb_usual_bytes_of_id(const std::vector<std::uint8_t>& id);

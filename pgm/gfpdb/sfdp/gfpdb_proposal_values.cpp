@@ -5,6 +5,7 @@
 
 #include "catalogue/gfpdb_flow_builder.h"
 #include "gfpdb/gfpdb_action_value.h"
+#include "gfpdb/gfpdb_catalogue.h"
 #include "rules/gfpdb_action_rules.h"
 #include "rules/gfpdb_options.h"
 #include "sfdp/gfpdb_known_part.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // The line differences of the tool.
-#include "output/line_diff.h"
+#include "line_diff.h"
 
 #include <rapidcheck.h>
 

@@ -4,7 +4,7 @@
 #include "manager/gfpdb_embedded_mgr.h"
 #include "model/gfpdb_flow_text.h"
 
-#include "output/record_text.h"
+#include "record_text.h"
 #include "record_reading.h"
 
 #include <rapidcheck.h>
@@ -191,7 +191,7 @@ private slots:
                  qPrintable(text));
         QVERIFY2(text.endsWith(
                      ")\n"
-                     "Scheme:               7\n"
+                     "Scheme:               7 (Active Serial)\n"
                      "ID:                   a?b?[1m\n"
                      "I/O voltage:          3.3V\n"
                      "Density:              256Mb\n"
@@ -200,6 +200,10 @@ private slots:
                      "Dummy clocks, quad:   6\n"
                      "Template name:        -\n"
                      "Flow template:        -\n"
+                     "Maker:                -\n"
+                     "Page size:            256\n"
+                     "Address bytes:        3\n"
+                     "Erase commands:       -\n"
                      "\n"
                      "Single-I/O flow\n"
                      "  Program\n"

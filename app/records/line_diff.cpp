@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output/line_diff.h"
+#include "line_diff.h"
 
 #include <algorithm>
 #include <iterator>
