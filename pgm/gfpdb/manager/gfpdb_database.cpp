@@ -21,6 +21,12 @@ GFPDB_EMBEDDED_MGR& opened_manager(const std::string& directory)
     return GFPDB_EMBEDDED_MGR::instance();
 }
 
+// The manager opens another one when the directory changes.
+GFPDB_STORE& store()
+{
+    return GFPDB_EMBEDDED_MGR::instance().store();
+}
+
 bool has_name(const GFPDB_SELECTION& selection, const std::string& name)
 {
     return selection.name.empty() || gfpdb_name_key(selection.name) == gfpdb_name_key(name);
@@ -55,9 +61,7 @@ void hide(const GFPDB_PART& part, GFPDB_ROW& row)
 
 } // namespace
 
-GFPDB_DATABASE::GFPDB_DATABASE(const std::string& directory)
-    : m_manager(opened_manager(directory)), m_store(GFPDB_EMBEDDED_MGR::instance().store())
-{}
+GFPDB_DATABASE::GFPDB_DATABASE(const std::string& directory) : m_manager(opened_manager(directory)) {}
 
 std::string GFPDB_DATABASE::get_catalogue_problem()
 {
@@ -71,32 +75,32 @@ void GFPDB_DATABASE::set_upgrade_progress(std::function<void(int, int)> progress
 
 const std::string& GFPDB_DATABASE::get_directory() const
 {
-    return m_store.get_directory();
+    return store().get_directory();
 }
 
 std::string GFPDB_DATABASE::get_read_problem()
 {
-    return m_store.is_readable() ? std::string() : m_store.get_problem();
+    return store().is_readable() ? std::string() : store().get_problem();
 }
 
 std::string GFPDB_DATABASE::get_write_problem()
 {
-    return m_store.is_writable() ? std::string() : m_store.get_problem();
+    return store().is_writable() ? std::string() : store().get_problem();
 }
 
 const std::string& GFPDB_DATABASE::get_last_error() const
 {
-    return m_store.get_last_error();
+    return store().get_last_error();
 }
 
 std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_stored(const GFPDB_SELECTION& selection)
 {
     std::vector<GFPDB_RECORD> records;
-    for (const GFPDB_ROW& row : m_store.get_devices()) {
+    for (const GFPDB_ROW& row : store().get_devices()) {
         if (has_name(selection, row.name) && has_place(selection, row))
             records.push_back({false, row, 0});
     }
-    for (const GFPDB_ROW& row : m_store.get_templates()) {
+    for (const GFPDB_ROW& row : store().get_templates()) {
         if (has_name(selection, row.template_name))
             records.push_back({true, row, 0});
     }
@@ -120,15 +124,15 @@ std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_builtin(const GFPDB_SELECTION& se
 std::optional<GFPDB_RECORD> GFPDB_DATABASE::load(const GFPDB_RECORD& record)
 {
     const std::optional<GFPDB_ROW> row =
-        record.is_template ? m_store.find_template(record.row.template_name)
-                           : m_store.find_device(record.row.family, record.row.scheme, record.row.name);
+        record.is_template ? store().find_template(record.row.template_name)
+                           : store().find_device(record.row.family, record.row.scheme, record.row.name);
     return row ? std::optional<GFPDB_RECORD>({record.is_template, *row, 0}) : std::nullopt;
 }
 
 std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_misplaced(const GFPDB_SELECTION& selection)
 {
     std::vector<GFPDB_RECORD> records;
-    for (const GFPDB_MISPLACED& record : m_store.get_misplaced()) {
+    for (const GFPDB_MISPLACED& record : store().get_misplaced()) {
         if (has_name(selection, record.name()) && (record.is_template || has_place(selection, record.row)))
             records.push_back({record.is_template, record.row, 0});
     }
@@ -137,29 +141,29 @@ std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_misplaced(const GFPDB_SELECTION& 
 
 bool GFPDB_DATABASE::rebuild_keys()
 {
-    return m_store.rebuild_keys().has_value();
+    return store().rebuild_keys().has_value();
 }
 
 bool GFPDB_DATABASE::is_name_of_other_kind(const GFPDB_RECORD& record)
 {
-    return record.is_template ? m_store.has_device(record.name())
-                              : !m_store.get_template_revision(record.name()).empty();
+    return record.is_template ? store().has_device(record.name())
+                              : !store().get_template_revision(record.name()).empty();
 }
 
 bool GFPDB_DATABASE::check_integrity()
 {
-    return m_store.check_integrity();
+    return store().check_integrity();
 }
 
 bool GFPDB_DATABASE::import(const GFPDB_IMPORT_PLAN& plan, const std::function<void(int)>& progress)
 {
     const GFPDB_SEEN_STATES seen{plan.replaced_devices(), plan.replaced_templates()};
-    return m_store.save_all(plan.devices(), plan.templates(), progress, &seen);
+    return store().save_all(plan.devices(), plan.templates(), progress, &seen);
 }
 
 std::vector<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::find_history(const GFPDB_SELECTION& selection)
 {
-    std::vector<GFPDB_HISTORY_ENTRY> entries = m_store.get_history(selection.name);
+    std::vector<GFPDB_HISTORY_ENTRY> entries = store().get_history(selection.name);
     const auto is_out = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return !is_selected(selection, entry); };
     entries.erase(std::remove_if(entries.begin(), entries.end(), is_out), entries.end());
     return entries;
@@ -167,12 +171,28 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::find_history(const GFPDB_SELECT
 
 std::optional<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::load_state(std::int64_t id)
 {
-    return m_store.find_history(id);
+    return store().find_history(id);
+}
+
+GFPDB_HISTORY_PAGE GFPDB_DATABASE::find_history_page(const GFPDB_HISTORY_FILTER& filter,
+                                                     std::optional<std::int64_t> before, int count)
+{
+    return store().get_history_page(filter, before, count);
+}
+
+std::int64_t GFPDB_DATABASE::count_history()
+{
+    return store().count_history();
+}
+
+bool GFPDB_DATABASE::restore_state(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string& seen)
+{
+    return GFPDB_EMBEDDED_MGR::instance().restore_state(store(), id, {how, new_name}, &seen);
 }
 
 std::optional<int> GFPDB_DATABASE::prune_history(const GFPDB_SELECTION& selection, GFPDB_PRUNING pruning)
 {
     pruning.is_selected = [&selection](const GFPDB_HISTORY_ENTRY& entry) { return is_selected(selection, entry); };
     pruning.name = selection.name;
-    return m_store.prune_history(pruning);
+    return store().prune_history(pruning);
 }

@@ -525,15 +525,20 @@ bool GFPDB_EMBEDDED_MGR::delete_flash(const std::string& name, const std::string
 bool GFPDB_EMBEDDED_MGR::restore_flash(std::int64_t history_id, const std::string& directory, GFPDB_RESTORE how,
                                        const std::string& new_name)
 {
+    return restore_state(store_of(directory), history_id, {how, new_name}, nullptr);
+}
+
+bool GFPDB_EMBEDDED_MGR::restore_state(GFPDB_STORE& store, std::int64_t history_id, const GFPDB_RESTORATION& how,
+                                       std::string* seen)
+{
     m_last_error.clear();
     m_deletion.reset();
-    GFPDB_STORE& store = store_of(directory);
     const std::optional<GFPDB_HISTORY_ENTRY> entry = store.find_history(history_id);
     std::string error;
-    if (entry && !check_restored_name(*entry, new_name, error))
+    if (entry && !check_restored_name(*entry, how.new_name, error))
         return fail(error);
-    const std::string place = entry ? place_of(*entry, new_name) : std::string();
-    if (!store.restore(history_id, how, new_name, seen_state(store, place)))
+    const std::string place = entry ? place_of(*entry, how.new_name) : std::string();
+    if (!store.restore(history_id, how.how, how.new_name, seen != nullptr ? seen : seen_state(store, place)))
         return fail(store.get_last_error());
     m_seen.erase(store.get_directory() + place);
     return true;

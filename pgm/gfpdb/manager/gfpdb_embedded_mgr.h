@@ -41,6 +41,13 @@ struct GFPDB_DELETION
     std::optional<GFPDB_TAKEN> taken;
 };
 
+// What becomes of the name of a state that is restored, as GFPDB_MGR::restore_flash() has it.
+struct GFPDB_RESTORATION
+{
+    GFPDB_RESTORE how;
+    std::string new_name;
+};
+
 // The one manager of the process: custom devices and stored templates from the database of the custom directory,
 // built-in devices from the catalogue. docs/database.md has the rules. A read that fails gives what there is without
 // the database; what is wrong is in get_last_error(), in GFPDB_HELPER::get_database_problem() and in the log.
@@ -57,6 +64,9 @@ public:
     void reload();
     // The database of what was the custom directory at the last reload.
     GFPDB_STORE& store() { return *m_store; }
+    // As restore_flash(). `seen` is the revision that the user was shown of the record that is replaced; null for the
+    // one that was last read here.
+    bool restore_state(GFPDB_STORE& store, std::int64_t history_id, const GFPDB_RESTORATION& how, std::string* seen);
 
     bool get_flow_variant() const override;
     int get_device_family() const override;

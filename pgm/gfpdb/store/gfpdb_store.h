@@ -38,6 +38,9 @@ constexpr char GFPDB_REASON_REPLACED[] = "replaced";
 constexpr char GFPDB_REASON_DELETED[] = "deleted";
 constexpr char GFPDB_REASON_PUT_BACK[] = "put back";
 
+// A window does not wait while a page of a large history is searched for.
+constexpr int GFPDB_STATES_AT_ONCE = 10000;
+
 // The states that were seen of what GFPDB_STORE::save_all() stores, in the same order.
 struct GFPDB_SEEN_STATES
 {
@@ -135,6 +138,13 @@ public:
 
     // The states in the history, oldest first, without their flows: of records called `name`, of all when it is empty.
     virtual std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name = std::string()) = 0;
+    // The newest `count` states that `filter` picks, of those whose numbers are below `before`. One call looks at
+    // GFPDB_STATES_AT_ONCE states at most, so it may find fewer, or none, although more follow. Both are none on
+    // failure.
+    virtual GFPDB_HISTORY_PAGE get_history_page(const GFPDB_HISTORY_FILTER& filter, std::optional<std::int64_t> before,
+                                                int count) = 0;
+    // How many states there are: counted from an index, in time linear in their number. 0 on failure.
+    virtual std::int64_t count_history() = 0;
     virtual std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) = 0;
     // Makes the state `id` the current record again, with a new revision, under `new_name` when that is not empty. The
     // history keeps it. When a record of its kind has the name, `how` decides; refused when one of the other kind has

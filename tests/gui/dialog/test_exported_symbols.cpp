@@ -89,13 +89,14 @@ private slots:
               "ZUI_APP::~ZUI_APP kovq_get_app kovq_safe_connect"},
              {"gfpdb", GFPDB_LIBRARY,
               "GFPDB_ACTION::GFPDB_ACTION GFPDB_ACTION::get_action_type GFPDB_ACTION::get_property_enum_list "
-              "GFPDB_DATABASE::GFPDB_DATABASE GFPDB_DATABASE::check_integrity GFPDB_DATABASE::find_builtin "
-              "GFPDB_DATABASE::find_history GFPDB_DATABASE::find_misplaced GFPDB_DATABASE::find_stored "
+              "GFPDB_DATABASE::GFPDB_DATABASE GFPDB_DATABASE::check_integrity "
+              "GFPDB_DATABASE::count_history GFPDB_DATABASE::find_builtin GFPDB_DATABASE::find_history "
+              "GFPDB_DATABASE::find_history_page GFPDB_DATABASE::find_misplaced GFPDB_DATABASE::find_stored "
               "GFPDB_DATABASE::get_catalogue_problem GFPDB_DATABASE::get_directory "
               "GFPDB_DATABASE::get_last_error GFPDB_DATABASE::get_read_problem "
               "GFPDB_DATABASE::get_write_problem GFPDB_DATABASE::import GFPDB_DATABASE::is_name_of_other_kind "
               "GFPDB_DATABASE::load GFPDB_DATABASE::load_state GFPDB_DATABASE::prune_history "
-              "GFPDB_DATABASE::rebuild_keys GFPDB_DATABASE::set_upgrade_progress "
+              "GFPDB_DATABASE::rebuild_keys GFPDB_DATABASE::restore_state GFPDB_DATABASE::set_upgrade_progress "
               "GFPDB_HELPER::get_active_flash_manager "
               "GFPDB_HELPER::get_database_problem GFPDB_HELPER::set_active_flash_family "
               "GFPDB_HELPER::set_base_dir GFPDB_IMPORT_PLAN::add GFPDB_MGR::get_db_custom_dir "

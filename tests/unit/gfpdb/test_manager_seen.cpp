@@ -329,6 +329,35 @@ private slots:
                  QStringLiteral("4Mb,4Mb"));
     }
 
+    // The current record is the one that the user was shown when the restore was decided on, not the one that some
+    // form has read.
+    void a_restore_replaces_what_the_user_was_shown_and_nothing_else()
+    {
+        make_and_read();
+        GFPDB_DATABASE database(m_place->db_dir());
+        const GFPDB_RECORD shown = *database.load(database.find_stored({})[0]);
+        std::string seen = shown.row.revision;
+        as_anna([](GFPDB_STORE& store) {
+            GFPDB_ROW row = make_row("A");
+            row.density = "1Mb";
+            store.save_device(row);
+        });
+        m_mgr->find_flash("A", true);
+
+        expect_warning("was changed by");
+        QVERIFY(!database.restore_state(1, GFPDB_RESTORE_REPLACE, std::string(), seen));
+        QCOMPARE(
+            QString::fromStdString(m_mgr->get_last_error()),
+            expected(QStringLiteral("The device \"A\" was changed by anna@ on (time) since it was read here. Look at it "
+                                    "again, or try again: then that state goes into the history.")));
+        const GFPDB_RECORD hers = *database.load(shown);
+        QCOMPARE(hers.row.density, std::string("1Mb"));
+        QCOMPARE(seen, hers.row.revision);
+
+        QVERIFY(database.restore_state(1, GFPDB_RESTORE_REPLACE, std::string(), seen));
+        QCOMPARE(database.load(shown)->row.density, shown.row.density);
+    }
+
     void who_saved_a_record_and_when_is_stored()
     {
         as_anna([](GFPDB_STORE& store) {

@@ -244,6 +244,9 @@ private slots:
         QVERIFY(m_mgr->find_flash("Single Only", true)->find_operation(GFPDB_OPERATION_PROGRAM, SINGLE_IO) != nullptr);
         GFPDB_STORE& store = GFPDB_EMBEDDED_MGR::instance().store();
         QCOMPARE(store.get_history("BOTH VARIANTS").size(), std::size_t(1));
+        GFPDB_HISTORY_FILTER filter;
+        filter.name = "BOTH VARIANTS";
+        QCOMPARE(store.get_history_page(filter, std::nullopt, 9).entries.size(), std::size_t(1));
         QVERIFY(GFPDB_EMBEDDED_FLASH::from_row(store.find_history(1)->row, "/a/", false) != nullptr);
         QCOMPARE(read_file(m_dir->path("gfpdb.sqlite")), before);
     }

@@ -14,7 +14,6 @@
 #include <vector>
 
 class GFPDB_IMPORT_PLAN;
-class GFPDB_STORE;
 
 // Which records are meant.
 struct GFPDB_SELECTION
@@ -25,7 +24,8 @@ struct GFPDB_SELECTION
     std::optional<int> scheme;
 };
 
-// Every change is one transaction. When a call fails, get_last_error() says why. Texts are UTF-8. GUI thread only.
+// Every change is one transaction. When a call fails, get_last_error() says why. Texts are UTF-8. GUI thread only. The
+// directory is the one that the manager has opened last, also when that was somebody else's doing.
 class GFPDB_EXPORT GFPDB_DATABASE
 {
 public:
@@ -70,10 +70,18 @@ public:
     // The states in the history, oldest first, without their flows; and one of them, with its flows.
     std::vector<GFPDB_HISTORY_ENTRY> find_history(const GFPDB_SELECTION& selection);
     std::optional<GFPDB_HISTORY_ENTRY> load_state(std::int64_t id);
+    // The newest `count` states that `filter` picks, of those whose numbers are below `before`. One call looks at a
+    // part of a large history, so it may find fewer, or none, although more follow.
+    GFPDB_HISTORY_PAGE find_history_page(const GFPDB_HISTORY_FILTER& filter, std::optional<std::int64_t> before,
+                                         int count);
+    // How many states the history has; a million are counted within about 50 ms.
+    std::int64_t count_history();
+    // As GFPDB_MGR::restore_flash(), for a user who was shown the record that is replaced: refused when its revision is
+    // not `seen` (empty for no record), which then becomes the one that is stored. The manager has the reason.
+    bool restore_state(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string& seen);
     // Removes states of the selected records; their number, or none on failure.
     std::optional<int> prune_history(const GFPDB_SELECTION& selection, GFPDB_PRUNING pruning);
 
 private:
     GFPDB_MGR& m_manager;
-    GFPDB_STORE& m_store;
 };

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 // One device or stored template as a row of the database. Texts are UTF-8.
 struct GFPDB_ROW
@@ -61,6 +62,28 @@ struct GFPDB_HISTORY_ENTRY
 
     // The name that the record went by.
     const std::string& name() const { return is_template ? row.template_name : row.name; }
+};
+
+// Which states of the history are looked for. Names are compared as the library compares them, users without regard to
+// the case of A to Z at least.
+struct GFPDB_HISTORY_FILTER
+{
+    // Of records that are called so; empty for all.
+    std::string name;
+    // Of records whose names have this in them, and changed by users and machines that have that; empty for all.
+    std::string name_part;
+    std::string user_part;
+    // Of templates, or of devices; none for both.
+    std::optional<bool> is_template;
+};
+
+// Some of these states.
+struct GFPDB_HISTORY_PAGE
+{
+    // Newest first, without their flows.
+    std::vector<GFPDB_HISTORY_ENTRY> entries;
+    // The states that follow are older than this number; none when no more follow.
+    std::optional<std::int64_t> next;
 };
 
 // Which states are removed from the history: of those of records called `name` (of all, when it is empty) that

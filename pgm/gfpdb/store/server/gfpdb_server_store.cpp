@@ -50,6 +50,15 @@ std::string revision_in(const GFPDB_SERVER_ROWS& rows)
     return rows.count() > 0 ? rows.text(0, 0) : std::string();
 }
 
+// Nothing when there are no conditions.
+std::string where_all(const std::vector<std::string>& conditions)
+{
+    std::string text;
+    for (const std::string& condition : conditions)
+        text += (text.empty() ? " WHERE " : " AND ") + condition;
+    return text;
+}
+
 std::string place_condition(int family, int scheme)
 {
     return " WHERE family = " + std::to_string(family) + " AND scheme = " + std::to_string(scheme);
@@ -297,6 +306,51 @@ std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SERVER_STORE::get_history(const std::stri
         entries.back().row = scalars_at(rows, row, HISTORY_COLUMNS);
     }
     return entries;
+}
+
+// One state more than asked for says that more follow.
+GFPDB_HISTORY_PAGE GFPDB_SERVER_STORE::get_history_page(const GFPDB_HISTORY_FILTER& filter,
+                                                        std::optional<std::int64_t> before, int count)
+{
+    std::vector<std::string> range;
+    if (before)
+        range.push_back("id < " + std::to_string(*before));
+    if (!filter.name.empty())
+        range.push_back("name_key = " + key_of(filter.name));
+    std::vector<std::string> conditions;
+    if (filter.is_template)
+        conditions.push_back(*filter.is_template ? "is_template = 1" : "is_template = 0");
+    if (!filter.name_part.empty())
+        conditions.push_back("position(" + key_of(filter.name_part) + " IN name_key) > 0");
+    if (!filter.user_part.empty())
+        conditions.push_back("position(" + key_of(filter.user_part) + " IN lower(changed_by)) > 0");
+    const int looked_at = conditions.empty() ? count + 1 : GFPDB_STATES_AT_ONCE;
+    const std::string states = from("history") + where_all(range) + " ORDER BY id DESC LIMIT ";
+    RESULTS results;
+    if (!m_session.ask_all(
+            {"SELECT id, is_template, reason, changed_at, changed_by, " + scalars_read() + " FROM (SELECT *" + states +
+                 std::to_string(looked_at) + ") AS states" + where_all(conditions) + " ORDER BY id DESC LIMIT " +
+                 std::to_string(count + 1),
+             "SELECT min(id), count(*) FROM (SELECT id" + states + std::to_string(looked_at) + ") AS states"},
+            results))
+        return {};
+    GFPDB_HISTORY_PAGE page;
+    const ROWS& found = results[0];
+    for (int row = 0; row < std::min(found.count(), count); ++row) {
+        page.entries.push_back(change_at(found, row));
+        page.entries.back().row = scalars_at(found, row, HISTORY_COLUMNS);
+    }
+    if (found.count() > count)
+        page.next = page.entries.back().id;
+    else if (results[1].number(0, 1) == looked_at)
+        page.next = results[1].number(0, 0);
+    return page;
+}
+
+std::int64_t GFPDB_SERVER_STORE::count_history()
+{
+    ROWS rows;
+    return m_session.ask("SELECT count(*)" + from("history"), rows) ? rows.number(0, 0) : 0;
 }
 
 std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SERVER_STORE::find_history(std::int64_t id)

@@ -60,6 +60,9 @@ public:
     bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
                   const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen) override;
     std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name) override;
+    GFPDB_HISTORY_PAGE get_history_page(const GFPDB_HISTORY_FILTER& filter, std::optional<std::int64_t> before,
+                                        int count) override;
+    std::int64_t count_history() override;
     std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) override;
     bool read_all(const GFPDB_HEAR_STORED& hear) override;
     std::int64_t get_last_state() override;

@@ -36,8 +36,6 @@ constexpr char TEMPLATE_NAME_OF_KEY[] =
 // So many question marks are asked for in one statement.
 constexpr std::size_t KEYS_AT_ONCE = 500;
 
-constexpr int HISTORY_COLUMNS = 5;
-
 // What to_history() asks for.
 QVariantList history_values(bool is_template, const std::string& name, const char* reason)
 {
@@ -52,27 +50,7 @@ std::string line_at(const QSqlQuery& query, int column)
     return line;
 }
 
-// The columns of history_statement() before the record's.
-GFPDB_HISTORY_ENTRY change_at(const QSqlQuery& query)
-{
-    GFPDB_HISTORY_ENTRY entry;
-    entry.id = query.value(0).toLongLong();
-    entry.is_template = query.value(1).toBool();
-    entry.reason = gfpdb_to_utf8(query.value(2).toString());
-    entry.changed_at = gfpdb_to_utf8(query.value(3).toString());
-    entry.changed_by = gfpdb_to_utf8(query.value(4).toString());
-    return entry;
-}
-
 } // namespace
-
-// The columns of history_statement(all()).
-GFPDB_HISTORY_ENTRY GFPDB_SQLITE_STORE::history_at(const QSqlQuery& query) const
-{
-    GFPDB_HISTORY_ENTRY entry = change_at(query);
-    entry.row = full_row(query, HISTORY_COLUMNS);
-    return entry;
-}
 
 bool GFPDB_SQLITE_STORE::start_read(QSqlQuery& query, const std::string& statement, const QVariantList& values)
 {
@@ -345,45 +323,6 @@ bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row, const std::strin
     return check_no_device(row.template_name) &&
            check_seen({true, 0, -1, row.template_name}, seen != nullptr ? &state : nullptr) &&
            (is_new || drop_template(row.template_name, GFPDB_REASON_REPLACED)) && insert_template(row);
-}
-
-// A read-only file of an older schema is read as it is.
-std::string GFPDB_SQLITE_STORE::history_statement(const std::string& columns, const char* which) const
-{
-    const char* changed_by = m_file.schema_version() < GFPDB_CHANGED_BY_SCHEMA ? "''" : "changed_by";
-    return std::string("SELECT id, is_template, reason, changed_at, ") + changed_by + ", " + columns +
-           " FROM history " + which;
-}
-
-std::vector<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::get_history(const std::string& name)
-{
-    std::vector<GFPDB_HISTORY_ENTRY> entries;
-    QSqlQuery query;
-    if (!m_file.prepare_read())
-        return entries;
-    const bool is_keyed = !name.empty() && m_file.schema_version() >= GFPDB_FLOW_TEXT_SCHEMA;
-    const std::string statement =
-        history_statement(scalars(), is_keyed ? "WHERE name_key = CAST(? AS TEXT) ORDER BY id" : "ORDER BY id");
-    if (!go_on_reading(query, statement, is_keyed ? QVariantList{key_of(name)} : QVariantList()))
-        return entries;
-    const std::string key = gfpdb_name_key(name);
-    while (next_row(query)) {
-        GFPDB_HISTORY_ENTRY entry = change_at(query);
-        entry.row = scalars_at(query, HISTORY_COLUMNS);
-        if (name.empty() || gfpdb_name_key(entry.name()) == key)
-            entries.push_back(std::move(entry));
-    }
-    return entries;
-}
-
-std::optional<GFPDB_HISTORY_ENTRY> GFPDB_SQLITE_STORE::find_history(std::int64_t id)
-{
-    QSqlQuery query;
-    if (!m_file.prepare_read() ||
-        !go_on_reading(query, history_statement(all(), "WHERE id = ?"), {static_cast<qlonglong>(id)}) ||
-        !next_row(query))
-        return std::nullopt;
-    return history_at(query);
 }
 
 bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string* seen)

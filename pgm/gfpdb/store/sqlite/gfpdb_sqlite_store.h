@@ -64,6 +64,9 @@ public:
     bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
                   const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen) override;
     std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name) override;
+    GFPDB_HISTORY_PAGE get_history_page(const GFPDB_HISTORY_FILTER& filter, std::optional<std::int64_t> before,
+                                        int count) override;
+    std::int64_t count_history() override;
     std::optional<GFPDB_HISTORY_ENTRY> find_history(std::int64_t id) override;
     bool restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string* seen) override;
     bool read_all(const GFPDB_HEAR_STORED& hear) override;
@@ -100,9 +103,7 @@ private:
     bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
     bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
     bool finds_none(QSqlQuery& query, bool is_template, const std::string& name);
-    std::string history_statement(const std::string& columns, const char* which) const;
     GFPDB_ROW full_row(const QSqlQuery& query, int first) const;
-    GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query) const;
     bool look_up(const std::string& statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
     bool check_no_such_device(int family, int scheme, const std::string& name);
     bool check_free_names(const GFPDB_ROW& row);
@@ -114,6 +115,10 @@ private:
     bool drop_device(int family, int scheme, const std::string& name, const char* reason,
                      std::int64_t* history_id = nullptr);
     bool drop_template(const std::string& template_name, const char* reason);
+
+    // gfpdb_sqlite_store_history.cpp: reading the history.
+    std::string history_statement(const std::string& columns, const char* which) const;
+    GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query) const;
 
     // gfpdb_sqlite_store_seen.cpp: what was seen of a record against what is stored.
     bool find_state(const GFPDB_RECORD_PLACE& place, GFPDB_FOUND& found);
