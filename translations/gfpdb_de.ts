@@ -356,11 +356,11 @@
         <translation>Die Datenbank in %1 ist nicht leer.</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>Es gibt schon eine gespeicherte Vorlage namens %1.</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>Es gibt schon einen Baustein namens %1.</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 ist keine Datei.</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>Die Datenbank %1 ist leer: Ihr Inhalt ging verloren. Sie bleibt, wie sie ist; setzen Sie eine Kopie an ihre Stelle, oder entfernen Sie sie, um neu zu beginnen.</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>Die Datenbank %1 gibt es nicht, wohl aber %2 von einem Programm, das sie gerade schrieb. Bringen Sie die Datenbank zurück, oder verschieben Sie diese Datei in ein anderes Verzeichnis, um mit einer leeren Datenbank zu beginnen.</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>Das Datenbankverzeichnis %1 enthält keine Datenbank, und es kann keine angelegt werden: %2.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>Die Datenbank %1 ist beschädigt (ihr Ende fehlt). Sie bleibt, wie sie ist.</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>Die Datenbank %1 kann nicht angelegt werden: %2.</translation>
     </message>
     <message>

@@ -356,11 +356,11 @@
         <translation>La base de datos en %1 no está vacía.</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>Ya hay una plantilla guardada llamada %1.</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>Ya hay un dispositivo llamado %1.</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 no es un archivo.</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>La base de datos %1 está vacía: su contenido se perdió. Se deja como está; ponga una copia en su lugar o quítela para empezar de nuevo.</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>No existe la base de datos %1, pero sí %2, que dejó un programa que la estaba escribiendo. Devuelva la base de datos a su lugar o mueva ese archivo a otro directorio para empezar con una base de datos vacía.</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>El directorio %1 no contiene ninguna base de datos y no se puede crear: %2.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>La base de datos %1 está dañada (falta el final). Se deja como está.</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>No se puede crear la base de datos %1: %2.</translation>
     </message>
     <message>

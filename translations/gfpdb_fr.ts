@@ -356,11 +356,11 @@
         <translation>La base de données dans %1 n’est pas vide.</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>Il existe déjà un modèle enregistré nommé %1.</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>Il existe déjà un composant nommé %1.</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 n’est pas un fichier.</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>La base de données %1 est vide&#xa0;: son contenu a été perdu. Elle est laissée telle quelle&#xa0;; mettez une copie à sa place, ou supprimez-la pour recommencer.</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>La base de données %1 n’existe pas, mais %2, laissé par un programme qui l’écrivait, existe. Remettez la base de données en place, ou déplacez ce fichier dans un autre répertoire pour commencer avec une base vide.</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>Le répertoire %1 ne contient pas de base de données, et aucune ne peut être créée&#xa0;: %2.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>La base de données %1 est endommagée (sa fin manque). Elle est laissée telle quelle.</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>La base de données %1 ne peut pas être créée&#xa0;: %2.</translation>
     </message>
     <message>

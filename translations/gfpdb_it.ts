@@ -356,11 +356,11 @@
         <translation>Il database in %1 non è vuoto.</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>Esiste già un modello salvato di nome %1.</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>Esiste già un dispositivo di nome %1.</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 non è un file.</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>Il database %1 è vuoto: il suo contenuto è andato perso. Viene lasciato com’è; mettere una copia al suo posto o rimuoverlo per ricominciare.</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>Il database %1 non esiste, ma esiste %2, lasciato da un programma che lo stava scrivendo. Rimettere il database al suo posto o spostare quel file in un’altra cartella per iniziare con un database vuoto.</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>La cartella %1 non contiene un database e non è possibile crearlo: %2.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>Il database %1 è danneggiato (manca la fine). Viene lasciato com’è.</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>Impossibile creare il database %1: %2.</translation>
     </message>
     <message>

@@ -356,11 +356,11 @@
         <translation>%1 のデータベースは空ではありません。</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>%1 という保存済みのテンプレートがすでにあります。</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>%1 というデバイスがすでにあります。</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 はファイルではありません。</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>データベース %1 は空です: 内容が失われました。そのまま残されます。コピーで置き換えるか、削除して始め直してください。</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>データベース %1 はありませんが、書き込み中だったプログラムが残した %2 があります。データベースを元に戻すか、そのファイルを別のディレクトリに移動して空のデータベースから始めてください。</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>ディレクトリ %1 にデータベースがなく、作成もできません: %2。</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>データベース %1 は破損しています (末尾がありません)。そのまま残されます。</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>データベース %1 を作成できません: %2。</translation>
     </message>
     <message>

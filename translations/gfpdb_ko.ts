@@ -356,11 +356,11 @@
         <translation>%1의 데이터베이스가 비어 있지 않습니다.</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>%1(이)라는 저장된 템플릿이 이미 있습니다.</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>%1(이)라는 디바이스가 이미 있습니다.</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1은(는) 파일이 아닙니다.</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>데이터베이스 %1이(가) 비어 있습니다: 내용이 사라졌습니다. 그대로 둡니다. 사본으로 바꾸거나, 지우고 다시 시작하십시오.</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>데이터베이스 %1은(는) 없지만, 이를 쓰던 프로그램이 남긴 %2이(가) 있습니다. 데이터베이스를 되돌려 놓거나, 그 파일을 다른 폴더로 옮겨 빈 데이터베이스로 시작하십시오.</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>데이터베이스 폴더 %1에 데이터베이스가 없으며 만들 수도 없습니다: %2.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>데이터베이스 %1이(가) 손상되었습니다(끝부분이 없음). 그대로 둡니다.</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>데이터베이스 %1을(를) 만들 수 없습니다: %2.</translation>
     </message>
     <message>

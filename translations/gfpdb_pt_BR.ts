@@ -356,11 +356,11 @@
         <translation>O banco de dados em %1 não está vazio.</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>Já existe um modelo salvo chamado %1.</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>Já existe um dispositivo chamado %1.</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 não é um arquivo.</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>O banco de dados %1 está vazio: seu conteúdo foi perdido. Ele é deixado como está; coloque uma cópia no lugar ou remova-o para recomeçar.</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>O banco de dados %1 não existe, mas existe %2, deixado por um programa que o gravava. Coloque o banco de dados de volta ou mova esse arquivo para outro diretório para começar com um banco de dados vazio.</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>O diretório %1 não contém banco de dados, e nenhum pode ser criado: %2.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>O banco de dados %1 está danificado (falta o final). Ele é deixado como está.</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>O banco de dados %1 não pode ser criado: %2.</translation>
     </message>
     <message>

@@ -356,11 +356,11 @@
         <translation>База данных в %1 не пуста.</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>Сохранённый шаблон %1 уже существует.</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>Микросхема %1 уже существует.</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 — не файл.</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>База данных %1 пуста: её содержимое потеряно. Она оставлена как есть; замените её копией или удалите, чтобы начать заново.</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>Базы данных %1 нет, но есть %2, оставленный программой, которая в неё записывала. Верните базу данных на место или переместите этот файл в другой каталог, чтобы начать с пустой базы данных.</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>В каталоге %1 нет базы данных, и создать её не удаётся: %2.</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>База данных %1 повреждена (нет её конца). Она оставлена как есть.</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>Не удаётся создать базу данных %1: %2.</translation>
     </message>
     <message>

@@ -356,11 +356,11 @@
         <translation>%1 中的数据库不为空。</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>已有名为 %1 的已保存模板。</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>已有名为 %1 的器件。</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 不是文件。</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>数据库 %1 为空：其内容已丢失。将保持原样；请用副本替换，或将其删除以重新开始。</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>数据库 %1 不存在，但有 %2，是正在写入它的程序遗留的。请放回数据库，或将该文件移到其他目录，以空数据库开始。</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>数据库目录 %1 中没有数据库，也无法创建：%2。</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>数据库 %1 已损坏（缺少末尾）。将保持原样。</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>无法创建数据库 %1：%2。</translation>
     </message>
     <message>

@@ -356,11 +356,11 @@
         <translation>%1 中的資料庫不是空的。</translation>
     </message>
     <message>
-        <source>There is a stored template called %1 already.</source>
+        <source>A stored template called %1 already exists.</source>
         <translation>已有名為 %1 的已儲存範本。</translation>
     </message>
     <message>
-        <source>There is a device called %1 already.</source>
+        <source>A device called %1 already exists.</source>
         <translation>已有名為 %1 的元件。</translation>
     </message>
     <message>
@@ -448,7 +448,7 @@
         <translation>%1 不是檔案。</translation>
     </message>
     <message>
-        <source>The database %1 is empty: its content was lost. It is left as it is; put a copy in its place, or remove it to begin again.</source>
+        <source>The database %1 is empty: its content was lost. It is left as it is; restore a backup copy, or delete it to start over.</source>
         <translation>資料庫 %1 是空的：其內容已遺失。將保持原樣；請用複本取代，或將其刪除以重新開始。</translation>
     </message>
     <message>
@@ -468,7 +468,7 @@
         <translation>資料庫 %1 不存在，但有 %2，是正在寫入它的程式遺留的。請放回資料庫，或將該檔案移到其他目錄，以空資料庫開始。</translation>
     </message>
     <message>
-        <source>The database directory %1 holds no database, and none can be made: %2.</source>
+        <source>The database directory %1 holds no database, and none can be created: %2.</source>
         <translation>資料庫目錄 %1 中沒有資料庫，也無法建立：%2。</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
         <translation>資料庫 %1 已損毀（缺少結尾）。將保持原樣。</translation>
     </message>
     <message>
-        <source>The database %1 cannot be made: %2.</source>
+        <source>The database %1 cannot be created: %2.</source>
         <translation>無法建立資料庫 %1：%2。</translation>
     </message>
     <message>

@@ -129,7 +129,7 @@ bool DRAWER_MGR::check_string_property(GFPDB_FLASH_PROPERTY property, const std:
     if (property == GFPDB_FLASH_NAME && value.empty())
         error = "Give the device a name.";
     else if (property == GFPDB_FLASH_NAME && (is_builtin_flash(value) || is_custom_flash(value)))
-        error = "There is a device called \"" + value + "\" already.";
+        error = "A device called \"" + value + "\" already exists.";
     else
         return true;
     return false;

@@ -34,6 +34,6 @@ expect_line 'in the drawer: Mine' stored.out
 step "a check of the program's own is heard"
 use_driver "$PLUGINS" "EXAMPLE-64"
 run refused build/example_host
-grep -qF 'There is a device called "EXAMPLE-64" already.' refused.err || fail "the refusal"
+grep -qF 'A device called "EXAMPLE-64" already exists.' refused.err || fail "the refusal"
 
 echo "PASSED"

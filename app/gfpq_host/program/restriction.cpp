@@ -42,7 +42,7 @@ QString add_entry(const QString& entry, RESTRICTION& restriction)
         return QStringLiteral("\"%1\" is not FAMILY:SCHEMES").arg(entry);
     const std::optional<int> family = number_between(entry.left(colon), DEV_FAMILY_FIRST, DEV_FAMILY_LAST);
     if (!family)
-        return QStringLiteral("\"%1\" does not open with a family, %2 to %3")
+        return QStringLiteral("\"%1\" does not start with a family number from %2 to %3")
             .arg(entry, QString::number(DEV_FAMILY_FIRST), QString::number(DEV_FAMILY_LAST));
     const std::optional<std::vector<int>> schemes = parse_schemes(entry.mid(colon + 1));
     if (!schemes)

@@ -52,7 +52,7 @@ bool read_lines(const QString& path, QList<QByteArray>& lines)
     if (file.error() != QFileDevice::NoError)
         return refuse(path, QStringLiteral("cannot be read: ") + file.errorString());
     if (content.contains('\0'))
-        return refuse(path, QStringLiteral("is not a settings file: it is not a text"));
+        return refuse(path, QStringLiteral("is not a settings file: it is not text"));
     while (content.startsWith(BYTE_ORDER_MARK))
         content.remove(0, BYTE_ORDER_MARK.size());
     lines = content.split('\n');

@@ -7,8 +7,8 @@
 std::string gfpdb_in_the_way(bool is_template, const std::string& stored, const std::string& name)
 {
     const std::string refusal =
-        is_template ? GFPDB_WORDS::say("There is a stored template called %1 already.", {gfpdb_quoted(stored)})
-                    : GFPDB_WORDS::say("There is a device called %1 already.", {gfpdb_quoted(stored)});
+        is_template ? GFPDB_WORDS::say("A stored template called %1 already exists.", {gfpdb_quoted(stored)})
+                    : GFPDB_WORDS::say("A device called %1 already exists.", {gfpdb_quoted(stored)});
     return refusal + gfpdb_case_note(stored, name);
 }
 

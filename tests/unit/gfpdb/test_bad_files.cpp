@@ -75,7 +75,7 @@ private slots:
         rows<QByteArray, QByteArray, QByteArray>(
             {{"empty", nothing, nothing,
               QByteArrayLiteral("The database %1 is empty: its content was lost. It is left as it is; "
-                                "put a copy in its place, or remove it to begin again.")},
+                                "restore a backup copy, or delete it to start over.")},
              {"a text", QByteArray(2000, 'x'), nothing, no_database},
              {"one byte", QByteArrayLiteral("x"), nothing, too_short},
              {"511 bytes", QByteArray(511, 'x'), nothing, too_short},

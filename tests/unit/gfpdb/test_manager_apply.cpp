@@ -185,10 +185,10 @@ private slots:
               "The device name \"<<new device>>\" is reserved for a new "
               "device: choose another."},
              {"a template's name", CHANGE([](GFPDB_FLASH& record) { record.set_name("Template"); }),
-              "There is a stored template called \"Template\" already."},
+              "A stored template called \"Template\" already exists."},
              {"another device's template",
               CHANGE([](GFPDB_FLASH& record) { record.set_string_property(GFPDB_FLASH_TEMPLATE_NAME, "Template"); }),
-              "There is a stored template called \"Template\" already."}});
+              "A stored template called \"Template\" already exists."}});
     }
 
     void a_failed_save_puts_the_device_back()
@@ -229,7 +229,7 @@ private slots:
 
         expect_warning("\\AThe device \"A\" contains text that is not valid UTF-8. The device \"A\" that was deleted "
                        "before was not "
-                       "put back: There is a device called \".\" already\\..* It is state 1 of the history.\\z");
+                       "put back: A device called \".\" already exists\\..* It is state 1 of the history.\\z");
         QVERIFY(!save_record(make_bad("A")));
 
         QCOMPARE(content("device"), before);
@@ -250,7 +250,7 @@ private slots:
         QVERIFY(other->save_device(make_row("b")));
 
         QVERIFY(remove(deleted.toStdString()));
-        expect_warning("\\AThere is a device called \"b\" already\\.");
+        expect_warning("\\AA device called \"b\" already exists\\.");
         QVERIFY(!save_record(make_changed("B")));
 
         QCOMPARE(custom_names(*m_mgr), (NAMES{"A", "b"}));

@@ -186,7 +186,7 @@ private slots:
         const QString case_note = QStringLiteral(" Upper and lower case count as the same.");
         const QString no_part =
             QStringLiteral("There is a built-in device called \"MX25L25645G\": choose another name.") + case_note;
-        const QString taken = QStringLiteral("There is a %1 called \"%2\" already.") + case_note;
+        const QString taken = QStringLiteral("A %1 called \"%2\" already exists.") + case_note;
         const QString template_taken = taken.arg(QStringLiteral("stored template"), QStringLiteral("Template"));
         const QString device_taken = taken.arg(QStringLiteral("device"), QStringLiteral("Device"));
         const QString blank = QStringLiteral("The %1 name \" \" begins or ends with a space: remove it.");

@@ -36,9 +36,9 @@ private slots:
         QCOMPARE(template_error("DEVICE"), "There is a device called \"Device\": choose another name." + CASE_NOTE);
         QCOMPARE(device_error("mx25l25645g"),
                  "There is a built-in device called \"" + BUILTIN + "\": choose another name." + CASE_NOTE);
-        QCOMPARE(save_error("template"), "There is a stored template called \"Template\" already." + CASE_NOTE);
-        QCOMPARE(save_error("New", "device"), "There is a device called \"Device\" already." + CASE_NOTE);
-        QCOMPARE(save_error("New", "template"), "There is a stored template called \"Template\" already." + CASE_NOTE);
+        QCOMPARE(save_error("template"), "A stored template called \"Template\" already exists." + CASE_NOTE);
+        QCOMPARE(save_error("New", "device"), "A device called \"Device\" already exists." + CASE_NOTE);
+        QCOMPARE(save_error("New", "template"), "A stored template called \"Template\" already exists." + CASE_NOTE);
     }
 
     void the_shown_device_may_change_the_case_of_its_name()

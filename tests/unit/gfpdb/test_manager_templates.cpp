@@ -68,9 +68,8 @@ private slots:
         QCOMPARE(user_templates(*m_mgr), NAMES{"t"});
         QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM history WHERE is_template = 1").toInt(), 1);
         QCOMPARE(run_sql(m_place->db_file(), "SELECT count(*) FROM history WHERE is_template = 0").toInt(), 1);
-        QCOMPARE(
-            save_error("B", "T"),
-            std::string("There is a stored template called \"t\" already. Upper and lower case count as the same."));
+        QCOMPARE(save_error("B", "T"),
+                 std::string("A stored template called \"t\" already exists. Upper and lower case count as the same."));
     }
 
     void a_removed_template_is_in_the_history_and_can_be_restored()
@@ -165,9 +164,9 @@ private slots:
     void restoring_is_refused_while_the_name_is_taken_data()
     {
         const QString a_device =
-            QStringLiteral("There is a device called \"%1\" already. Upper and lower case count as the same.");
+            QStringLiteral("A device called \"%1\" already exists. Upper and lower case count as the same.");
         const QString a_template =
-            QStringLiteral("There is a stored template called \"%1\" already. Upper and lower case count as the same.");
+            QStringLiteral("A stored template called \"%1\" already exists. Upper and lower case count as the same.");
         rows<bool, QString, QString, QString>(
             {{"device by device", false, "a", QString(), a_device.arg(QLatin1String("a"))},
              {"device by template", false, "X", "a", a_template.arg(QLatin1String("a"))},

@@ -255,7 +255,7 @@ private slots:
     {
         m_dir->seal();
         const std::string problem = "The database directory " + m_dir->path("") +
-                                    " holds no database, and none can be made: " + m_dir->why() + ".";
+                                    " holds no database, and none can be created: " + m_dir->why() + ".";
 
         m_mgr = fresh_manager();
         expect_warning(problem);

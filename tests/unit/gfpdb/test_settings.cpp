@@ -152,7 +152,7 @@ private slots:
     {
         const QByteArray setting = QByteArrayLiteral("[database]\ncustom_dir=/a/\n");
         rows<QByteArray, QByteArray>(
-            {{"not a text", setting + '\0', QByteArrayLiteral("is not a settings file: it is not a text")},
+            {{"not a text", setting + '\0', QByteArrayLiteral("is not a settings file: it is not text")},
              {"too large", setting + QByteArray(1 << 20, ';'),
               QByteArrayLiteral("is not a settings file: it is too large")}});
     }
@@ -318,8 +318,8 @@ private slots:
              {"below a file", "file/below/", no_directory},
              {"with an empty database", "empty/",
               QStringLiteral(
-                  "The database %1gfpdb.sqlite is empty: its content was lost. It is left as it is; put a copy in "
-                  "its place, or remove it to begin again.")},
+                  "The database %1gfpdb.sqlite is empty: its content was lost. It is left as it is; restore a "
+                  "backup copy, or delete it to start over.")},
              {"with a foreign database", "foreign/",
               "The file %1gfpdb.sqlite is a database of another program. It is left as it is."},
              {"with a name that is too long", QString(300, QLatin1Char('a')) + QLatin1Char('/'),

@@ -80,12 +80,12 @@ private slots:
     {
         rows<QByteArray, QByteArray, QByteArray>(
             {{"device like a stored template", "OLD template", "New template",
-              QByteArray("There is a stored template called \"Old template\" already. Upper and lower case count as "
+              QByteArray("A stored template called \"Old template\" already exists. Upper and lower case count as "
                          "the same.")},
              {"template like a stored device", "New", "OLD device",
-              "There is a device called \"Old device\" already. Upper and lower case count as the same."},
+              "A device called \"Old device\" already exists. Upper and lower case count as the same."},
              {"device and template alike", "New", "nEW",
-              "There is a device called \"New\" already. Upper and lower case count as the same."}});
+              "A device called \"New\" already exists. Upper and lower case count as the same."}});
     }
 
     void one_record_that_is_refused_leaves_all_out()

@@ -85,7 +85,7 @@ private slots:
         QCOMPARE(run.exit_code, 5);
         QCOMPARE(run.err,
                  QByteArray(
-                     "gfpdb: There is a device called \"Mine\" already.\n"
+                     "gfpdb: A device called \"Mine\" already exists.\n"
                      "gfpdb: Use --replace to replace the current record, or --as to give the state another name.\n"));
         run = tool({"restore", "1", "--as", ""});
         QCOMPARE(run.exit_code, 2);

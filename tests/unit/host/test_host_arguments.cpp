@@ -165,8 +165,8 @@ private slots:
                                        << QStringLiteral("--restrict: %1").arg(QLatin1String(problem));
         };
         bad_restriction("3", "\"3\" is not FAMILY:SCHEMES.");
-        bad_restriction("x:7", "\"x:7\" does not open with a family, 1 to 72.");
-        bad_restriction("73:7", "\"73:7\" does not open with a family, 1 to 72.");
+        bad_restriction("x:7", "\"x:7\" does not start with a family number from 1 to 72.");
+        bad_restriction("73:7", "\"73:7\" does not start with a family number from 1 to 72.");
         bad_restriction("3:7,x", "\"3:7,x\" has a scheme that is not a number from 0 to 25.");
         bad_restriction("3:26", "\"3:26\" has a scheme that is not a number from 0 to 25.");
         bad_restriction("3:7,", "\"3:7,\" has a scheme that is not a number from 0 to 25.");

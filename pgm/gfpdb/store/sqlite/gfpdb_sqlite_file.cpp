@@ -180,8 +180,8 @@ bool GFPDB_SQLITE_FILE::examine_file()
         set_problem(STATE::UNUSABLE, GFPDB_WORDS::say("%1 is not a file.", {m_path}));
     else if (status.st_size == 0)
         set_problem(STATE::UNUSABLE,
-                    GFPDB_WORDS::say("The database %1 is empty: its content was lost. It is left as it is; put a "
-                                     "copy in its place, or remove it to begin again.",
+                    GFPDB_WORDS::say("The database %1 is empty: its content was lost. It is left as it is; restore "
+                                     "a backup copy, or delete it to start over.",
                                      {m_path}));
     else if (status.st_size < SMALLEST_FILE)
         set_problem(STATE::UNUSABLE,
@@ -216,7 +216,7 @@ void GFPDB_SQLITE_FILE::examine_missing_file(int error, const std::string& left)
         set_problem(STATE::NO_FILE, std::string());
     else
         set_problem(STATE::UNUSABLE,
-                    GFPDB_WORDS::say("The database directory %1 holds no database, and none can be made: %2.",
+                    GFPDB_WORDS::say("The database directory %1 holds no database, and none can be created: %2.",
                                      {m_directory, std::strerror(errno)}));
 }
 
@@ -264,7 +264,7 @@ bool GFPDB_SQLITE_FILE::create_file()
 
 bool GFPDB_SQLITE_FILE::fail_to_make(const std::string& why)
 {
-    return m_connection.fail(GFPDB_WORDS::say("The database %1 cannot be made: %2.", {m_path, why}));
+    return m_connection.fail(GFPDB_WORDS::say("The database %1 cannot be created: %2.", {m_path, why}));
 }
 
 bool GFPDB_SQLITE_FILE::build_new_file(const std::string& path)
