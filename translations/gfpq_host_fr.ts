@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Clock (Hz):</source>
-        <translation>Horloge (Hz) :</translation>
+        <translation>Horloge (Hz)&#xa0;:</translation>
     </message>
     <message>
         <source>The clock is not a number of hertz.</source>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>&amp;Copy of:</source>
-        <translation>Copie &amp;de :</translation>
+        <translation>Copie &amp;de&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;New name:</source>
-        <translation>&amp;Nouveau nom :</translation>
+        <translation>&amp;Nouveau nom&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Duplicate</source>
@@ -279,15 +279,15 @@
     </message>
     <message>
         <source>New Device: %1</source>
-        <translation>Nouveau composant : %1</translation>
+        <translation>Nouveau composant&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Warnings:</source>
-        <translation>A&amp;vertissements :</translation>
+        <translation>A&amp;vertissements&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Listed parts with this ID:</source>
-        <translation>Composants de la &amp;liste avec cet ID :</translation>
+        <translation>Composants de la &amp;liste avec cet ID&#xa0;:</translation>
     </message>
     <message>
         <source>Create &amp;Device</source>
@@ -490,14 +490,14 @@
     </message>
     <message>
         <source>The device &quot;%1&quot; is stored.</source>
-        <translation>Le composant « %1 » est enregistré.</translation>
+        <translation>Le composant «&#xa0;%1&#xa0;» est enregistré.</translation>
     </message>
 </context>
 <context>
     <name>READ_OUT_FILE</name>
     <message>
         <source>The file %1 cannot be read: %2</source>
-        <translation>Le fichier %1 ne peut pas être lu : %2</translation>
+        <translation>Le fichier %1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is not a file.</source>

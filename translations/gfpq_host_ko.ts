@@ -490,7 +490,7 @@
     </message>
     <message>
         <source>The device &quot;%1&quot; is stored.</source>
-        <translation>디바이스 &quot;%1&quot;을(를) 저장했습니다.</translation>
+        <translation>디바이스 ‘%1’을(를) 저장했습니다.</translation>
     </message>
 </context>
 <context>

@@ -490,7 +490,7 @@
     </message>
     <message>
         <source>The device &quot;%1&quot; is stored.</source>
-        <translation>O dispositivo &quot;%1&quot; foi salvo.</translation>
+        <translation>O dispositivo “%1” foi salvo.</translation>
     </message>
 </context>
 <context>

@@ -167,15 +167,28 @@ private slots:
         }
     }
 
-    void chinese_has_its_own_marks_data() { rows<QString>({{"zh_CN", "zh_CN"}, {"zh_TW", "zh_TW"}}); }
-
-    void chinese_has_its_own_marks()
+    // With each language what must not be in it: quotation marks of others, in Chinese narrow colons and question
+    // marks, in French a mark that a line can begin with.
+    void marks_are_those_of_the_language_data()
     {
-        const auto language = row<QString>();
-        const QRegularExpression narrow(QStringLiteral("[:?]"));
-        for (const QString& catalogue : all_catalogues().filter(language)) {
-            for (const MESSAGE& message : read_catalogue(catalogue))
-                QVERIFY2(!message.translation.contains(narrow), qPrintable(message.translation));
+        rows<QString>({{"de", "[\"«»‘「」]"},
+                       {"es", "[\"„“”‘「」]"},
+                       {"fr", "[\"„“”‘「」]|[^\u00A0][:;?!»](?!\\S)|«[^\u00A0]"},
+                       {"it", "[\"„“”‘「」]"},
+                       {"ja", "[\"„“”«»‘’]"},
+                       {"ko", "[\"„“”«»「」]"},
+                       {"pt_BR", "[\"„«»‘「」]"},
+                       {"ru", "[\"„“”‘’「」]"},
+                       {"zh_CN", "[:?\"„«»‘’「」]"},
+                       {"zh_TW", "[:?\"„“”«»‘’]"}});
+    }
+
+    void marks_are_those_of_the_language()
+    {
+        const QRegularExpression foreign(row<QString>());
+        for (const QString& kind : KINDS) {
+            for (const MESSAGE& message : read_catalogue(kind.arg(QLatin1String(QTest::currentDataTag()))))
+                QVERIFY2(!message.translation.contains(foreign), qPrintable(message.translation));
         }
     }
 

@@ -14,7 +14,9 @@
 #include <QMenu>
 #include <QProcess>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScrollBar>
+#include <QStyleOptionComboBox>
 
 class TEST_LANGUAGE : public PEOPLE_TEST
 {
@@ -184,6 +186,34 @@ private slots:
         QVERIFY(palette != nullptr && palette != &chart());
         QVERIFY(palette->sceneRect().width() > palette->viewport()->width());
         QVERIFY(!palette->horizontalScrollBar()->isVisible());
+    }
+
+    // Beside the labels of each language, in a dialog of the form's width, with the font of a desktop.
+    void the_names_of_templates_can_be_told_apart_data()
+    {
+        rows_named<QString>({"de", "es", "fr", "it", "ja", "ko", "pt_BR", "ru", "zh_CN", "zh_TW"});
+    }
+
+    void the_names_of_templates_can_be_told_apart()
+    {
+        QLocale::setDefault(QLocale(row<QString>()));
+        const TEXT_CATALOGUE texts(qs("gfpq"), {qs(":/gfpq/translations")});
+        const auto back_to_it = qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+        QApplication::setFont(QFont(qs("DejaVu Sans"), 9));
+        mgr().templates = {"QE in SR1 bit 6, 3-byte address", "QE in SR1 bit 6, 4-byte address"};
+        GFPQ_DLG& dialog = open_dialog();
+        child<QTableView>("m_device_table_view").selectRow(0);
+
+        auto& combo = child<QComboBox>("m_flow_template_cbox");
+        const auto room = [&combo] {
+            QStyleOptionComboBox option;
+            option.initFrom(&combo);
+            return combo.style()
+                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo)
+                .width();
+        };
+        QTRY_VERIFY(room() >= combo.fontMetrics().horizontalAdvance(combo.itemText(0)));
+        QCOMPARE(dialog.width(), 994);
     }
 
     void the_template_editor_speaks_the_language()
