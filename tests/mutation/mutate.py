@@ -42,6 +42,9 @@ SOURCES = [f"{folder}/**/*.{end}" for folder in ("pgm/gfpq", "pgm/gfpdb", "pgm/g
 # regular expressions of ctest names. The first match counts.
 ENGINE = (r"^(test_(flow_|run_|plan|image|chip|trace|connection|serprog_[^f]|prog_|sfdp_reading|new_device_runs)|"
           r"unit_programmer|gui_programmer)")
+# Who reads SFDP, compares parts, or makes and copies devices.
+NEW_DEVICES = (r"sfdp|new_device|part_comparison|^test_(connection|language|cli_(copy|check|guide)|"
+               r"prog_(learn|connections|texts))")
 MODULE = r"^(gui_dialog|gui_flow|test_(accessibility|flow_keyboard|long_texts|language)|lost_work|security_plain)"
 HOST = r"^(unit_(host|device|programmer|new_device)|gui_(programmer|new_device)|test_language|security_programs)"
 EVERY = r""
@@ -49,7 +52,8 @@ AFFECTED = [
     (r"pgm/gfpq/flow/", r"^gui_flow", MODULE),
     (r"pgm/gfpq/", r"^gui_dialog", MODULE),
     (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_[^e]", EVERY),
-    (r"pgm/gfpdb/sfdp/", r"(sfdp|new_device|part_comparison)", EVERY),
+    (r"pgm/gfpdb/sfdp/gfpdb_sfdp", r"^test_sfdp_(tables|read_outs)", NEW_DEVICES),
+    (r"pgm/gfpdb/sfdp/", r"^test_(new_device$|part_comparison)", NEW_DEVICES),
     (r"pgm/gfpdb/store/server/", r"^(unit_gfpdb_server|server_)", r"^(unit_gfpdb_server|server_|test_cli_)"),
     (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)", EVERY),
     (r"pgm/gfpdb/exchange/", r"^(unit_gfpdb|test_cli_(record|transfer))", EVERY),
@@ -225,9 +229,9 @@ def choose(files, wanted, patterns, rng, since):
     return pools, shares
 
 
-def choose_again(patterns):
-    """What survived the last run, wherever the same text now stands in the file."""
-    survived = {without_line(each) for each in json.loads(REPORT.read_text(encoding="utf-8"))["survived"]}
+def choose_again(report, patterns):
+    """What survived the run of `report`, wherever the same text now stands in the file."""
+    survived = {without_line(each) for each in json.loads(report.read_text(encoding="utf-8"))["survived"]}
     pools = {}
     for path in sorted({description.split(" ", 1)[0] for description in survived}):
         pool = [each for each in alterations_of(path)
@@ -251,8 +255,9 @@ class Worker:
         self.log = WORK / f"worker-{number}.log"
         self.known_tests = {}
         self.known_programs = None
-        # How often each test has noticed something: the sharpest one is built and run first.
+        # How often each test has noticed something, in all and in each file: the sharpest one is built and run first.
         self.noticed_by = collections.Counter()
+        self.noticed_in = collections.defaultdict(collections.Counter)
         # What one worker compiled the next one need not.
         self.environment = {**os.environ, "CCACHE_BASEDIR": str(self.tree), "CCACHE_NOHASHDIR": "1"}
 
@@ -282,7 +287,7 @@ class Worker:
         if self.run("cmake", "--preset", "dev", *QUICK_BUILD) != 0:
             sys.exit(f"The unaltered tree cannot be configured: see {self.log}")
         expressions = {tests_of(path)[0 if self.near else 1] for path in files}
-        verdict = self.is_red(sorted({name for expression in expressions for name in self.tests(expression)}))
+        verdict = self.is_red(sorted({name for expression in expressions for name in self.tests(expression)}), None)
         if verdict != "green":
             sys.exit(f"The unaltered tree is {verdict}: see {self.log}")
 
@@ -306,23 +311,26 @@ class Worker:
         programs = self.known_programs.intersection(names)
         return self.run("cmake", "--build", "build/dev", "--target", *sorted(programs)) == 0
 
-    def is_red(self, names):
+    def is_red(self, names, path):
         """Builds and runs the named tests until one fails: 'red', 'green' or 'broken' (does not compile)."""
-        names = sorted(names, key=lambda name: -self.noticed_by[name])
-        for some in (names[:1], names[1:]):
-            verdict = self.are_red(some) if some else "green"
+        verdict = "green"
+        names = sorted(names, key=lambda name: (-self.noticed_in[path][name], -self.noticed_by[name]))
+        for some in (names[:1], names[1:4], names[4:]):
+            verdict = self.are_red(some, path) if some else "green"
             if verdict != "green":
                 break
         return verdict
 
-    def are_red(self, names):
+    def are_red(self, names, path):
         if not self.builds(names):
             return "broken"
         expression = "^(" + "|".join(re.escape(name) for name in names) + ")$"
         if self.run("ctest", "--test-dir", "build/dev", "-R", expression, "--stop-on-failure") == 0:
             return "green"
         failed = self.build / "Testing" / "Temporary" / "LastTestsFailed.log"
-        self.noticed_by.update(re.findall(r"\d+:(\S+)", failed.read_text(encoding="utf-8") if failed.exists() else ""))
+        red = re.findall(r"\d+:(\S+)", failed.read_text(encoding="utf-8") if failed.exists() else "")
+        self.noticed_by.update(red)
+        self.noticed_in[path].update(red)
         return "red"
 
     def judge(self, alteration):
@@ -335,16 +343,23 @@ class Worker:
         try:
             near, far = tests_of(alteration.path)
             first = self.tests(near)
-            verdict = self.is_red(first)
+            verdict = self.is_red(first, alteration.path)
             if verdict == "green" and not self.near:
-                verdict = self.is_red([name for name in self.tests(far) if name not in first and
-                                       name not in SLOW_TESTS])
+                others = [name for name in self.tests(far) if name not in first and name not in SLOW_TESTS]
+                verdict = self.is_red(others, alteration.path)
             return verdict
         finally:
             target.write_bytes(original)
 
 
-def run_all(pools, shares, workers):
+def write_report(path, seed, results):
+    """After each judgement: what was judged so far is not lost when a run is stopped."""
+    survived = [alteration.describe() for alteration, verdict in results if verdict == "green"]
+    report = {"seed": seed, "places": len(results), "noticed": len(results) - len(survived), "survived": survived}
+    path.write_text(json.dumps(report, indent=2) + "\n", encoding="utf-8")
+
+
+def run_all(pools, shares, workers, report):
     results = []
     jobs = queue.Queue()
     for path, pool in pools.items():
@@ -367,6 +382,7 @@ def run_all(pools, shares, workers):
                     continue
                 judged += 1
                 results.append((alteration, verdict))
+                report(results)
                 spent = time.monotonic() - started
                 print(f"[{len(results)}/{wanted} {spent / 60:.0f} min] {verdict:5} {alteration.describe()}", flush=True)
 
@@ -385,6 +401,7 @@ def main():
     parser.add_argument("--since", default="", help="only lines that were added or changed since this commit")
     parser.add_argument("--again", action="store_true", help="judge only what survived the last run")
     parser.add_argument("--near", action="store_true", help="run only the tests that belong to the altered file")
+    parser.add_argument("--report", type=pathlib.Path, default=REPORT, help="where the survivors are noted, and read")
     parser.add_argument("--list", action="store_true", help="list the places that could be altered and stop")
     arguments = parser.parse_args()
 
@@ -393,7 +410,7 @@ def main():
     seed = arguments.seed if arguments.seed is not None else random.SystemRandom().randrange(1 << 31)
     patterns = read_unnoticeable()
     if arguments.again:
-        pools, shares = choose_again(patterns)
+        pools, shares = choose_again(arguments.report, patterns)
     else:
         pools, shares = choose(files, arguments.places, patterns, random.Random(seed), arguments.since)
     if arguments.list:
@@ -407,16 +424,13 @@ def main():
     workers = [Worker(number, arguments.near) for number in range(arguments.jobs)]
     for worker in workers:
         worker.prepare(pools)
-    results = run_all(pools, shares, workers)
+    results = run_all(pools, shares, workers, lambda results: write_report(arguments.report, seed, results))
 
     survivors = [alteration for alteration, verdict in results if verdict == "green"]
     noticed = len(results) - len(survivors)
     print(f"\n{noticed} of {len(results)} noticed ({100.0 * noticed / max(1, len(results)):.1f} %)")
     for alteration in sorted(survivors, key=lambda a: (a.path, a.first)):
         print("survived:", alteration.describe())
-    report = {"seed": seed, "places": len(results), "noticed": noticed,
-              "survived": [alteration.describe() for alteration in survivors]}
-    REPORT.write_text(json.dumps(report, indent=2) + "\n", encoding="utf-8")
     return 0
 
 
