@@ -10,18 +10,17 @@
 
 namespace {
 
-// What read-outs of parts have that share their ID with others: the double words of the basic table, and whether it
-// lists the 4-4-4 read.
+// What read-outs of parts have that share their ID with others: the double words of the basic table, and whether all of
+// them list the 4-4-4 read.
 struct KNOWN_TABLE
 {
     const char* name;
     int dwords;
-    std::optional<bool> has_4_4_4;
+    bool has_4_4_4;
 };
 constexpr KNOWN_TABLE KNOWN_TABLES[] = {
-    {"MX25L12833F", 16, true},         {"MX25L25635F", 9, true},       {"MX25L25645G", 16, std::nullopt},
-    {"MX25U25645G", 16, true},         {"W25Q128JV-Q", 16, true},      {"W25Q256FV", 9, std::nullopt},
-    {"W25Q256JV-Q", 16, std::nullopt}, {"GD25Q256C", 9, std::nullopt},
+    {"MX25L12833F", 16, true}, {"MX25L25635F", 9, true}, {"MX25L25645G", 16, false}, {"MX25U25645G", 16, true},
+    {"W25Q128JV-Q", 16, true}, {"W25Q256FV", 9, false},  {"W25Q256JV-Q", 16, false}, {"GD25Q256C", 9, false},
 };
 
 class COMPARISON
@@ -115,9 +114,8 @@ private:
             m_differences.push_back("basic table: " + std::to_string(known->dwords) +
                                     " double words in read-outs of this part, " + std::to_string(m_sfdp.basic_dwords) +
                                     " here");
-        if (known->has_4_4_4.value_or(m_sfdp.read_4_4_4.has_value()) != m_sfdp.read_4_4_4.has_value())
-            m_differences.emplace_back(m_sfdp.read_4_4_4 ? "4-4-4 read: not in read-outs of this part, but here"
-                                                         : "4-4-4 read: in read-outs of this part, but not here");
+        if (known->has_4_4_4 && !m_sfdp.read_4_4_4)
+            m_differences.emplace_back("4-4-4 read: in read-outs of this part, but not here");
     }
 
     const GFPDB_PART& m_part;

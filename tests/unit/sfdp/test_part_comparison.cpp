@@ -177,6 +177,45 @@ private slots:
         QCOMPARE(text_of(gfpdb_compare_with_catalogue(bytes, sfdp_of(part))), expected);
     }
 
+    // What read-outs of these parts have, held against a table of ten double words with the 4-4-4 read and without it.
+    void parts_of_one_id_are_told_apart_by_their_tables_data()
+    {
+        const QString without = "4-4-4 read: in read-outs of this part, but not here";
+        const auto words = [](int count) {
+            return QString("basic table: %1 double words in read-outs of this part, 10 here").arg(count);
+        };
+        rows<QStringList, QStringList>({
+            {"MX25L12833F", {words(16)}, {words(16), without}},
+            {"MX25L12835F", {}, {}},
+            {"MX25L25635F", {words(9)}, {words(9), without}},
+            {"MX25L25645G", {words(16)}, {words(16)}},
+            {"MX25U25645G", {words(16)}, {words(16), without}},
+            {"W25Q128JV-Q", {words(16)}, {words(16), without}},
+            {"W25Q256FV", {words(9)}, {words(9)}},
+            {"W25Q256JV-Q", {words(16)}, {words(16)}},
+            {"GD25Q256C", {words(9)}, {words(9)}},
+        });
+    }
+
+    void parts_of_one_id_are_told_apart_by_their_tables()
+    {
+        const auto [with_read, without_read] = row<QStringList, QStringList>();
+        const GFPDB_PART& part = *gfpdb_builtin_part(QTest::currentDataTag());
+        GFPDB_SFDP sfdp;
+        sfdp.basic_dwords = 10;
+        for (const QStringList& expected : {without_read, with_read}) {
+            QStringList found;
+            for (const auto& each : gfpdb_compare_with_catalogue({part.jedec_id.begin(), part.jedec_id.end()}, sfdp)) {
+                for (const std::string& difference : each.differences) {
+                    if (each.part->name == part.name)
+                        found += QString::fromStdString(difference);
+                }
+            }
+            QCOMPARE(found, expected);
+            sfdp.read_4_4_4 = GFPDB_SFDP_READ{0xEB, 2, 4};
+        }
+    }
+
     void without_tables_nothing_differs()
     {
         QCOMPARE(text_of(gfpdb_compare_with_catalogue(bytes_of("20 BA 19 10 44 00"), GFPDB_SFDP())),
