@@ -229,6 +229,37 @@ private slots:
         QCOMPARE(host.play("06; 02 000000 00; 05 ?1"), std::string("03"));
     }
 
+    void each_change_takes_its_time_data()
+    {
+        const QString page = QStringLiteral("06; 02 000000 00; ready; ");
+        const QString last = QStringLiteral("06; 02 000000 00");
+        rows<QString, QString, qint64>({
+            {"a page", "W25Q80DV", last, 250},
+            {"a slow page", "W25Q80DV", page.repeated(63) + last, 9000},
+            {"the page behind it", "W25Q80DV", page.repeated(64) + last, 250},
+            {"a slow sector", "W25Q80DV", "06; 20 000000", 900000},
+            {"a slow block", "W25Q80DV", "06; D8 000000", 6000000},
+            {"the block behind it", "W25Q80DV", "06; D8 000000; ready; 06; D8 000000", 15000},
+            {"the whole chip", "W25Q80DV", "06; C7", 25600000},
+            {"a register", "W25Q80DV", "06; 01 00", 150000},
+            {"a reset", "W25Q128JV-Q", "66; 99", 500},
+            {"unlocking blocks", "SST26VF032B", "06; 98", 25},
+            {"setting the locks of blocks", "SST26VF032B", "06; 42 00*10", 25},
+        });
+    }
+    void each_change_takes_its_time()
+    {
+        const auto [part, script, microseconds] = row<QString, QString, qint64>();
+        CHIP_HOST host(part.toStdString());
+        host.play(script.toStdString());
+
+        host.chip->wait(microseconds - 1);
+        QVERIFY(host.raw(0x05, {}, 1)[0] & 1);
+        host.chip->wait(1);
+        QVERIFY(!(host.raw(0x05, {}, 1)[0] & 1));
+        QCOMPARE(host.notes(), std::string());
+    }
+
     // One page and one sector in 64 take as long as a data sheet allows.
     void few_pages_and_sectors_are_slow()
     {

@@ -48,6 +48,18 @@ public:
     bool m_is_full = false;
 };
 
+class COUNTING_IMAGE : public SPARSE_IMAGE
+{
+public:
+    bool read(std::int64_t position, std::uint8_t* bytes, std::size_t length, std::string& problem) override
+    {
+        m_read += static_cast<std::int64_t>(length);
+        return SPARSE_IMAGE::read(position, bytes, length, problem);
+    }
+
+    std::int64_t m_read = 0;
+};
+
 class BAD_IMAGE : public SPARSE_IMAGE
 {
 public:
@@ -245,6 +257,61 @@ private slots:
         // Chunks of 4 KiB, the starts and the ends of the phases.
         QCOMPARE(listener.m_progress.size(), std::size_t(16 + 2 * 3));
         QCOMPARE(listener.m_progress[3].done, std::int64_t(4096));
+    }
+
+    // What was looked at to see whether a page is blank is what is sent.
+    void an_image_is_read_once_in_each_phase()
+    {
+        RECORDING_BUS bus;
+        bus.answer(0x0B, {0x12});
+        COUNTING_IMAGE image;
+        image.add(0, BYTES(8192, 0x12));
+
+        QVERIFY(has_passed(run_flow(device(), usual_flow(), bus, order_of("PV"), &image)));
+
+        QCOMPARE(image.m_read, std::int64_t(2 * 8192));
+    }
+
+    void the_shortest_delay_is_waited_for()
+    {
+        RECORDING_BUS bus;
+        const FLOW flow = empty_flow();
+        flow[0]->add_action(write_register({{GFPDB_WR_DELAY, "1"}}));
+
+        QVERIFY(has_passed(run_flow(device(), flow, bus, {}, nullptr)));
+
+        QCOMPARE(bus.m_waited_us, std::int64_t(1));
+    }
+
+    void what_is_cancelled_with_its_last_byte_has_passed_data()
+    {
+        rows<qint64, int>(
+            {{"before", 4096, int(GFPE_VERDICT::CANCELLED)}, {"with it", 8192, int(GFPE_VERDICT::PASSED)}});
+    }
+
+    void what_is_cancelled_with_its_last_byte_has_passed()
+    {
+        const auto [at, verdict] = row<qint64, int>();
+        struct CANCELLING : GFPE_LISTENER
+        {
+            void progressed(const GFPE_PROGRESS& progress) override
+            {
+                if (progress.phase == GFPE_PHASE::VERIFY && progress.done == at)
+                    run->cancel();
+            }
+            GFPE_RUN* run = nullptr;
+            qint64 at = 0;
+        } listener;
+        RECORDING_BUS bus;
+        bus.answer(0x0B, {0xFF});
+        SPARSE_IMAGE image;
+        GFPE_RUN run(plan_of(device(), usual_flow()), bus);
+        run.set_image(&image);
+        run.set_listener(&listener);
+        listener.run = &run;
+        listener.at = at;
+
+        QCOMPARE(int(run.run(order_of("V")).verdict), verdict);
     }
 
     // As the connection can carry no more in one command; the delay is after each of them.
