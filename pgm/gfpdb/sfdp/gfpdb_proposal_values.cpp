@@ -422,10 +422,8 @@ GFPDB_PROPOSAL::PROPOSED GFPDB_PROPOSAL::propose_quad_program() const
     if (tells_quad_reads() && listed_reads().empty())
         return {single, DW1, choices};
     GFPDB_PART model = m_model;
-    const std::string& quad_enable = text(VALUE_OF::QUAD_ENABLE);
-    model.quad_enable = quad_enable == NONE          ? GFPDB_QUAD_ENABLE::NONE
-                        : quad_enable == "SR1 bit 6" ? GFPDB_QUAD_ENABLE::SR1_BIT6
-                                                     : GFPDB_QUAD_ENABLE::SR2_BIT1;
+    // Whether there is such a bit counts, not where it is.
+    model.quad_enable = text(VALUE_OF::QUAD_ENABLE) == NONE ? GFPDB_QUAD_ENABLE::NONE : GFPDB_QUAD_ENABLE::SR2_BIT1;
     const GFPDB_DATA_COMMAND program = gfpdb_flow_traits(model, true).program;
     const std::string habit = m_has_model ? command_text(program.opcode, program.bus_width) : single;
     const std::uint32_t listed = has_sfdp() ? m_sfdp->instructions_4_byte.value_or(0) & (HAS_34 | HAS_3E) : 0;

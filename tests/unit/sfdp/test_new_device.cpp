@@ -325,6 +325,11 @@ private slots:
                  s.read_1_1_4.reset();
              }},
             {"no quad program listed", [](GFPDB_SFDP& s) { s.instructions_4_byte = 0; }},
+            {"no quad program listed, and no quad enable",
+             [](GFPDB_SFDP& s) {
+                 s.instructions_4_byte = 0;
+                 s.quad_enable = 0;
+             }},
             {"program by 3E", [](GFPDB_SFDP& s) { s.instructions_4_byte = 0x100; }},
             {"program by 34 and 3E", [](GFPDB_SFDP& s) { s.instructions_4_byte = 0x180; }},
             {"no erase types", [](GFPDB_SFDP& s) { s.erase.clear(); }},

@@ -216,6 +216,41 @@ private slots:
         }
     }
 
+    void each_way_to_enable_quad_is_held_against_the_list_data()
+    {
+        rows<QString, QString, QString>({
+            {"0", "quad enable: SR1 bit 6 in the list, none by SFDP DW15",
+             "quad enable: SR2 bit 1 in the list, none by SFDP DW15", ""},
+            {"1", "quad enable: SR1 bit 6 in the list, SR2 bit 1 by SFDP DW15", "",
+             "quad enable: none in the list, SR2 bit 1 by SFDP DW15"},
+            {"2", "", "quad enable: SR2 bit 1 in the list, SR1 bit 6 by SFDP DW15",
+             "quad enable: none in the list, SR1 bit 6 by SFDP DW15"},
+            {"3", "quad enable: SR1 bit 6 in the list, SR2 bit 7 by SFDP DW15",
+             "quad enable: SR2 bit 1 in the list, SR2 bit 7 by SFDP DW15",
+             "quad enable: none in the list, SR2 bit 7 by SFDP DW15"},
+            {"4", "quad enable: SR1 bit 6 in the list, SR2 bit 1 by SFDP DW15", "",
+             "quad enable: none in the list, SR2 bit 1 by SFDP DW15"},
+            {"5", "quad enable: SR1 bit 6 in the list, SR2 bit 1 by SFDP DW15", "",
+             "quad enable: none in the list, SR2 bit 1 by SFDP DW15"},
+            {"6", "quad enable: SR1 bit 6 in the list, SR2 bit 1 by SFDP DW15", "",
+             "quad enable: none in the list, SR2 bit 1 by SFDP DW15"},
+            {"7", "quad enable: SR1 bit 6 in the list, reserved by SFDP DW15",
+             "quad enable: SR2 bit 1 in the list, reserved by SFDP DW15",
+             "quad enable: none in the list, reserved by SFDP DW15"},
+        });
+    }
+
+    void each_way_to_enable_quad_is_held_against_the_list()
+    {
+        const auto [macronix, winbond, micron] = row<QString, QString, QString>();
+        GFPDB_SFDP sfdp;
+        sfdp.quad_enable = QByteArray(QTest::currentDataTag()).toInt();
+        for (const auto& [id, expected] :
+             {std::pair("C2 20 16", macronix), {"EF 40 14", winbond}, {"20 BA 20 10 44 00", micron}})
+            QCOMPARE(gfpdb_joined(gfpdb_compare_with_catalogue(bytes_of(id), sfdp).front().differences),
+                     expected.toStdString());
+    }
+
     void without_tables_nothing_differs()
     {
         QCOMPARE(text_of(gfpdb_compare_with_catalogue(bytes_of("20 BA 19 10 44 00"), GFPDB_SFDP())),
