@@ -145,7 +145,9 @@ def single_line_alterations(path, number, line):
         if outside_text(match.start()):
             yield altered("boolean", match.start(), match.end(), "false" if match.group(1) == "true" else "true")
     for match in re.finditer(r'"((?:[^"\\]|\\.)+)"', code):
-        yield altered("text", match.start(1), match.end(1), match.group(1) + "~")
+        # The context is for the catalogues alone.
+        if not code[: match.start()].endswith("QT_TRANSLATE_NOOP("):
+            yield altered("text", match.start(1), match.end(1), match.group(1) + "~")
     if re.match(r"^\s+[\w:>.\-*()]+\(.*\);\s*$", code) and not re.match(r"^\s+(return|delete|static_assert)\b", code):
         kind = "connection removed" if "connect" in code else "call removed"
         yield Alteration(path, kind, number, number, re.match(r"^\s*", code).group(0) + ";", line)
