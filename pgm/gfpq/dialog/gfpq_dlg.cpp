@@ -178,6 +178,7 @@ void GFPQ_DLG::order_stops()
     // Takes the focus because the arrow keys scroll it, which is all that there is to do in the fields of a built-in
     // part.
     new GFPQ_FOCUS_RING(*ui.m_device_info_scroll_area);
+    new GFPQ_FOCUS_RING(*ui.m_device_table_view);
     const QList<QToolButton*> scrollers =
         ui.m_prog_flows_tab_widget->findChild<QTabBar*>()->findChildren<QToolButton*>();
     for (QToolButton* const scroller : scrollers)

@@ -2,6 +2,7 @@
 #include "dialog/gfpq_edit_template_dlg.h"
 
 #include "dialog/gfpq_form.h"
+#include "flow/gfpq_focus_ring.h"
 #include "words/gfpq_accessible_name.h"
 #include "words/gfpq_message.h"
 #include "words/gfpq_text.h"
@@ -42,6 +43,7 @@ void GFPQ_EDIT_TEMPLATE_DLG::set_up_table()
     table.verticalHeader()->hide();
     table.setTabKeyNavigation(false);
     gfpq_name_after(table, ui.m_templates_label->text());
+    new GFPQ_FOCUS_RING(table);
 }
 
 void GFPQ_EDIT_TEMPLATE_DLG::fill_list()

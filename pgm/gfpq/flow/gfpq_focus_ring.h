@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// Shows where the keys go in an area that has no cursor or selection to show it: a chart, for example.
+// Shows where the keys go in an area that has no cursor to show it: a chart, or a table, whose selection looks the same
+// without the focus.
 #pragma once
 
 #include <QWidget>

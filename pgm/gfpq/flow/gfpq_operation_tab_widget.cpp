@@ -84,6 +84,7 @@ QBoxLayout* GPFQ_OPERATION_TAB_WIDGET::create_editor(int operation)
     new GFPQ_FOCUS_RING(*m_flow_view);
     layout->addWidget(m_flow_view, 0);
     m_property_table = new GFPQ_PROPERTY_TABLE(this, title);
+    new GFPQ_FOCUS_RING(*m_property_table);
     layout->addWidget(m_property_table, 0);
     return layout;
 }

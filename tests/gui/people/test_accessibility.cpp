@@ -228,19 +228,25 @@ private slots:
         QVERIFY(property_table().indexWidget(property_table().model()->index(1, 1)) != nullptr);
     }
 
-    // Neither a cursor nor a selection shows where the keys go there.
+    // No cursor shows where the keys go there, and a selection looks the same without them.
     void a_frame_shows_where_the_keys_go()
     {
         open_dialog();
         show_operation_page(GFPDB_OPERATION_ERASE);
-        QList<QAbstractScrollArea*> areas{&child<QScrollArea>("m_device_info_scroll_area")};
+        QList<QAbstractScrollArea*> areas{&property_table()};
         for (QGraphicsView* const view : tabs().currentWidget()->findChildren<QGraphicsView*>())
             areas.append(view);
         QCOMPARE(areas.size(), 3);
+        GFPQ_EDIT_TEMPLATE_DLG editor(nullptr, &mgr());
+        editor.show();
+        areas << &child<QScrollArea>("m_device_info_scroll_area") << &child<QTableView>("m_device_table_view")
+              << editor.findChild<QTableView*>(QStringLiteral("m_template_table_view"));
         for (QAbstractScrollArea* const area : qAsConst(areas)) {
-            tabs().setCurrentIndex(area == areas[0] ? 0 : tabs().currentIndex());
-            if (area != areas[0])
-                show_operation_page(GFPDB_OPERATION_ERASE);
+            tabs().setCurrentIndex(areas.indexOf(area) < 3 ? GFPDB_OPERATION_ERASE + 1 : 0);
+            area->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(area->window()));
+            QPushButton* const elsewhere = area->window()->findChildren<QPushButton*>().constLast();
+            elsewhere->setFocus();
             const auto edge = [area] { return area->grab().toImage().pixelColor(0, area->height() / 2); };
             const QColor without = edge();
             QVERIFY(without != area->palette().color(QPalette::Highlight));
@@ -251,7 +257,7 @@ private slots:
             area->resize(area->width() - 10, area->height());
             QCOMPARE(area->grab().toImage().pixelColor(area->width() - 1, 9),
                      area->palette().color(QPalette::Highlight));
-            child<QPushButton>("m_ok_button").setFocus();
+            elsewhere->setFocus();
             QCOMPARE(edge(), without);
         }
     }
