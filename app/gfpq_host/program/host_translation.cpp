@@ -13,6 +13,11 @@ const QString OWN_FILE = QStringLiteral("gfpq_host");
 const QString LIBRARY_FILE = QStringLiteral("gfpdb");
 const QString QT_FILE = QStringLiteral("qtbase");
 
+// What Qt's buttons say. Its own catalogues are a package that need not be installed; then these are used.
+[[maybe_unused]] constexpr const char* BUTTONS_OF_QT[] = {
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"), QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Close"), QT_TRANSLATE_NOOP("QPlatformTheme", "Save")};
+
 // English is what the sources are written in.
 bool needs_translation(const QLocale& locale)
 {

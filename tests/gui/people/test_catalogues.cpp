@@ -237,6 +237,26 @@ private slots:
         }
     }
 
+    // Also where Qt's own catalogues are missing, and with the words of the dialog.
+    void buttons_of_qt_speak_the_language()
+    {
+        for (const QString& language : LANGUAGES) {
+            QMap<QString, QString> of_dialog;
+            for (const MESSAGE& message : read_catalogue(KINDS[0].arg(language)))
+                of_dialog.insert(message.source, message.translation);
+            QStringList buttons;
+            for (const MESSAGE& message : read_catalogue(KINDS[1].arg(language))) {
+                if (message.context != QLatin1String("QPlatformTheme"))
+                    continue;
+                buttons.append(message.source);
+                QCOMPARE(message.translation, of_dialog.value(message.source, message.translation));
+            }
+            buttons.sort();
+            QCOMPARE(buttons, QStringList({QStringLiteral("Cancel"), QStringLiteral("Close"), QStringLiteral("OK"),
+                                           QStringLiteral("Save")}));
+        }
+    }
+
     // Where a sentence of the flash database names a field, it is the label that the user sees.
     void the_database_calls_the_fields_as_the_dialog_does()
     {
