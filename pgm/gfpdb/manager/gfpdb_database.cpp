@@ -42,6 +42,17 @@ bool is_selected(const GFPDB_SELECTION& selection, const GFPDB_HISTORY_ENTRY& en
     return has_name(selection, entry.name()) && has_place(selection, entry.row);
 }
 
+// The number of the state of that revision; 0 when there is none.
+std::int64_t number_of(const GFPDB_RECORD& record)
+{
+    const std::vector<GFPDB_HISTORY_ENTRY> entries = store().get_history(record.name());
+    const auto is_it = [&record](const GFPDB_HISTORY_ENTRY& entry) {
+        return entry.is_template == record.is_template && entry.row.revision == record.row.revision;
+    };
+    const auto found = std::find_if(entries.rbegin(), entries.rend(), is_it);
+    return found == entries.rend() ? 0 : found->id;
+}
+
 // What is not to be shown of a built-in device is as good as not there.
 void hide(const GFPDB_PART& part, GFPDB_ROW& row)
 {
@@ -127,6 +138,22 @@ std::optional<GFPDB_RECORD> GFPDB_DATABASE::load(const GFPDB_RECORD& record)
         record.is_template ? store().find_template(record.row.template_name)
                            : store().find_device(record.row.family, record.row.scheme, record.row.name);
     return row ? std::optional<GFPDB_RECORD>({record.is_template, *row, 0}) : std::nullopt;
+}
+
+std::optional<std::int64_t> GFPDB_DATABASE::remove(const GFPDB_RECORD& record)
+{
+    const GFPDB_ROW& row = record.row;
+    std::string seen = row.revision;
+    std::optional<GFPDB_TAKEN> taken;
+    GFPDB_EMBEDDED_MGR::instance().forget_seen(record);
+    if (!record.is_template) {
+        const bool is_removed = store().remove_device(row.family, row.scheme, row.name, &taken, &seen);
+        return is_removed ? std::optional<std::int64_t>(taken ? taken->history_id : 0) : std::nullopt;
+    }
+    const bool was_there = !store().get_template_revision(row.template_name).empty();
+    if (!store().remove_template(row.template_name, &seen))
+        return std::nullopt;
+    return was_there ? number_of(record) : 0;
 }
 
 std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_misplaced(const GFPDB_SELECTION& selection)

@@ -84,6 +84,14 @@ void GFPDB_EMBEDDED_MGR::reload()
     m_seen.clear();
 }
 
+void GFPDB_EMBEDDED_MGR::forget_seen(const GFPDB_RECORD& record)
+{
+    m_deletion.reset();
+    m_seen.erase(m_store->get_directory() +
+                 (record.is_template ? template_place(record.row.template_name)
+                                     : ::device_place(record.row.family, record.row.scheme, record.row.name)));
+}
+
 bool GFPDB_EMBEDDED_MGR::fail(const std::string& error)
 {
     m_last_error = error;

@@ -67,6 +67,8 @@ public:
     // As restore_flash(). `seen` is the revision that the user was shown of the record that is replaced; null for the
     // one that was last read here.
     bool restore_state(GFPDB_STORE& store, std::int64_t history_id, const GFPDB_RESTORATION& how, std::string* seen);
+    // Nothing is expected of the record any more: it is changed by no call of the manager.
+    void forget_seen(const GFPDB_RECORD& record);
 
     bool get_flow_variant() const override;
     int get_device_family() const override;

@@ -297,6 +297,41 @@ private slots:
         QVERIFY(!checked(*m_mgr, GFPDB_FLASH_DEVICE_ID, std::string("C2")).empty());
     }
 
+    void a_state_is_removed_that_is_still_there_data()
+    {
+        rows<bool, OTHER, OTHER>(
+            {{"device", false, change_device, remove_device},
+             {"template", true, change_template, [](GFPDB_STORE& store) { store.remove_template("T"); }}});
+    }
+
+    void a_state_is_removed_that_is_still_there()
+    {
+        const auto [is_template, change, remove] = row<bool, OTHER, OTHER>();
+        save("A", "T");
+        GFPDB_DATABASE database(m_place->db_dir());
+        const auto shown = [&database, is_template = is_template] {
+            const std::vector<GFPDB_RECORD> records = database.find_stored({});
+            return is_template ? records.back() : records.front();
+        };
+        const GFPDB_RECORD former = shown();
+        as_anna(change);
+
+        // However often it is tried, until it is looked at again.
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY(!database.remove(former));
+            QVERIFY(QString::fromStdString(database.get_last_error()).contains(QString::fromStdString(user("anna@"))));
+        }
+        const GFPDB_RECORD now = shown();
+        const std::optional<std::int64_t> state = database.remove(now);
+        QVERIFY(state.value_or(0) > 0);
+        QCOMPARE(database.load_state(*state)->row.revision, now.row.revision);
+        QVERIFY(database.get_manager().restore_flash(*state, std::string(), GFPDB_RESTORE_KEEP, std::string()));
+
+        const GFPDB_RECORD back = shown();
+        as_anna(remove);
+        QCOMPARE(database.remove(back).value_or(-1), std::int64_t{0});
+    }
+
     void an_import_of_what_was_planned_before_is_refused_data()
     {
         rows<OTHER, QString>(
@@ -346,10 +381,10 @@ private slots:
 
         expect_warning("was changed by");
         QVERIFY(!database.restore_state(1, GFPDB_RESTORE_REPLACE, std::string(), seen));
-        QCOMPARE(
-            QString::fromStdString(m_mgr->get_last_error()),
-            expected(QStringLiteral("The device \"A\" was changed by anna@ on (time) since it was read here. Look at it "
-                                    "again, or try again: then that state goes into the history.")));
+        QCOMPARE(QString::fromStdString(m_mgr->get_last_error()),
+                 expected(QStringLiteral(
+                     "The device \"A\" was changed by anna@ on (time) since it was read here. Look at it "
+                     "again, or try again: then that state goes into the history.")));
         const GFPDB_RECORD hers = *database.load(shown);
         QCOMPARE(hers.row.density, std::string("1Mb"));
         QCOMPARE(seen, hers.row.revision);

@@ -58,6 +58,10 @@ public:
     bool rebuild_keys();
     // The record with its flows; none when it is gone, or cannot be read.
     std::optional<GFPDB_RECORD> load(const GFPDB_RECORD& record);
+    // Removes that very state of the device or stored template (its revision counts). Its number in the history; 0 when
+    // the record was gone already. None on failure, also when someone else has changed the record since:
+    // get_last_error() says who and when.
+    std::optional<std::int64_t> remove(const GFPDB_RECORD& record);
     // True when a stored template has the name of the device `record`, or a device that of the template `record`.
     bool is_name_of_other_kind(const GFPDB_RECORD& record);
     // Reads the whole file and compares it with its indexes.
