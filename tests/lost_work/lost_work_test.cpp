@@ -103,10 +103,12 @@ void LOST_WORK_TEST::init()
     GFPDB_MGR::set_db_custom_dir(directory());
     GFPDB_HELPER::set_active_flash_family(PGMIO_ACTIVE_SERIAL_X4);
     GFPDB_HELPER::get_active_flash_manager(true)->set_device_family(LOST_WORK_FAMILY);
+    set_up();
 }
 
 void LOST_WORK_TEST::cleanup()
 {
+    take_down();
     m_dlg.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();

@@ -135,6 +135,11 @@ private slots:
 
 private:
     static void handle_message(QtMsgType type, const QMessageLogContext& context, const QString& text);
+
+    // What a derived test sets up and takes down around each test function, inside the base's own.
+    virtual void set_up() {}
+    virtual void take_down() {}
+
     void play_step(const QString& step);
     // False when there is no such verb.
     bool act(const QString& verb, const QString& rest);

@@ -164,16 +164,27 @@ void DEVICE_PANEL::choose_mode()
     choose(wanted);
 }
 
+void DEVICE_PANEL::read_again()
+{
+    choose(m_wanted);
+    show_state();
+}
+
 void DEVICE_PANEL::open_dialog()
+{
+    open_dialog_over(window());
+}
+
+void DEVICE_PANEL::open_dialog_over(QWidget* parent)
 {
     const GFPQ_DYN_DLG entry_point = m_module.entry_point();
     if (!entry_point) {
-        show_problem(window(), m_module.problem());
+        show_problem(parent, m_module.problem());
         return;
     }
     DIALOG_OPTIONS options = m_options;
     options.family_schemes = m_offer.for_opening(m_choice.config_scheme);
-    m_choice = ::open_dialog(entry_point, window(), m_choice, options);
+    m_choice = ::open_dialog(entry_point, parent, m_choice, options);
     m_wanted = m_choice;
     show_state();
     emit choice_changed();

@@ -28,8 +28,14 @@ public:
     ~DEVICE_PANEL() override;
 
     const HOST_CHOICE& choice() const { return m_choice; }
+    // HOST_OFFER::choice_for() with the choice here.
+    HOST_CHOICE choice_for(const GFPDB_RECORD& device) const { return m_offer.choice_for(device, m_choice); }
     // Makes what comes nearest to `wanted` the choice, as if the user had chosen it.
     void choose(const HOST_CHOICE& wanted);
+    // Another directory is the database's.
+    void read_again();
+    // As open_dialog(), over another window.
+    void open_dialog_over(QWidget* parent);
 
 public slots:
     // Opens the dialog and returns when it was closed. A module that cannot be used is reported in a box.

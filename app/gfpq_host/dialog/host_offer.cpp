@@ -4,6 +4,8 @@
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <bitset>
 #include <iterator>
@@ -146,6 +148,23 @@ HOST_CHOICE HOST_OFFER::nearest(const HOST_CHOICE& wanted) const
         choice.config_scheme = alike.front();
     else
         choice.config_scheme = with_devices != offered.end() ? *with_devices : offered.front();
+    return choice;
+}
+
+HOST_CHOICE HOST_OFFER::choice_for(const GFPDB_RECORD& device, const HOST_CHOICE& now) const
+{
+    HOST_CHOICE choice = now;
+    choice.device_name = QString::fromStdString(device.row.name).toLocal8Bit().toStdString();
+    if (device.row.scheme >= 0) {
+        choice.family = device.row.family;
+        choice.config_scheme = device.row.scheme;
+        return choice;
+    }
+    if (!contains(families_with_flows(), choice.family) && !families_with_flows().empty())
+        choice.family = families_with_flows().front();
+    const std::vector<int> serving = schemes_with_flows(choice.family);
+    if (!serving.empty() && !contains(serving, choice.config_scheme))
+        choice.config_scheme = serving.front();
     return choice;
 }
 

@@ -6,6 +6,8 @@
 #include "program/host_choice.h"
 #include "program/restriction.h"
 
+#include "gfpdb/gfpdb_record.h"
+
 #include <string>
 #include <vector>
 
@@ -30,6 +32,10 @@ public:
     // else one of the same kind, else one that has devices. The device stays as it is, and so does the choice when
     // nothing is offered.
     HOST_CHOICE nearest(const HOST_CHOICE& wanted) const;
+
+    // The choice of `device`: the family and mode that a stored one has. A built-in one, of the scheme -1, serves all
+    // whose devices have flows: those of `now` if they are such, else the first.
+    HOST_CHOICE choice_for(const GFPDB_RECORD& device, const HOST_CHOICE& now) const;
 
     // True when the device of `choice` exists for its family and mode, and when the database cannot be asked.
     bool has_device(const HOST_CHOICE& choice) const;

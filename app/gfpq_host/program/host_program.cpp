@@ -8,6 +8,7 @@
 #include "program/host_choice.h"
 #include "program/host_database.h"
 #include "program/host_translation.h"
+#include "program/program_icon.h"
 #include "programmer/programmer_window.h"
 #include "run/chosen_device.h"
 #include "run/run_preparation.h"
@@ -18,6 +19,7 @@
 #include "msg/msg.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QScopeGuard>
 #include <QSettings>
@@ -130,6 +132,8 @@ int run_host(ZUI_APP& app, const HOST_ARGUMENTS& arguments)
     set_directories(app, arguments);
 
     MSG_O::set_reason_source(reason_of_message);
+    QGuiApplication::setWindowIcon(program_icon());
+    QGuiApplication::setDesktopFileName(QLatin1String(HOST_PROGRAM_NAME));
 
     QSettings settings(QStringLiteral("gfpq"), QLatin1String(HOST_PROGRAM_NAME));
     // Pictures do not depend on what somebody did to a window.

@@ -45,7 +45,7 @@ private:
     QComboBox* m_file_combo;
     QLineEdit* m_position_edit;
     QLabel* m_facts_label;
-    RECENT_FILES m_recent;
+    RECENT_FILES m_recent{QStringLiteral("programmer/recent_files")};
     FILE_SUMMARY m_summary;
     QString m_file;
 };

@@ -13,6 +13,7 @@ QAction* PROGRAMMER_MENU::add(const QString& text, const char* object_name, cons
 PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent, bool allows_new_devices) : QMenu(parent)
 {
     m_idle_actions += add(tr("&Configuration Device..."), "m_dialog_action", {}, &PROGRAMMER_MENU::dialog_asked);
+    add(tr("Device Data&base..."), "m_database_action", Qt::CTRL + Qt::Key_B, &PROGRAMMER_MENU::database_asked);
     if (allows_new_devices)
         add_new_devices();
     addSeparator();

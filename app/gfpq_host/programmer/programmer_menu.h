@@ -19,6 +19,7 @@ public:
 
 signals:
     void dialog_asked();
+    void database_asked();
     void new_from_chip_asked();
     void new_from_file_asked();
     void duplicate_asked();

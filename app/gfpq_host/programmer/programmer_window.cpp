@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "programmer/programmer_window.h"
 
+#include "database/database_window.h"
 #include "new_device/new_device_desk.h"
+#include "program/help_menu.h"
 #include "programmer/connection_panel.h"
 #include "programmer/detected_dialog.h"
 #include "programmer/file_panel.h"
@@ -81,7 +83,7 @@ QString file_of(const QMimeData* data)
 
 PROGRAMMER_WINDOW::PROGRAMMER_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS& options, const HOST_CHOICE& choice,
                                      QSettings& settings)
-    : m_settings(settings), m_device_panel(new DEVICE_PANEL(module, options, choice)),
+    : m_settings(settings), m_options(options), m_device_panel(new DEVICE_PANEL(module, options, choice)),
       m_new_device_desk(new NEW_DEVICE_DESK(this, options))
 {
     setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -183,6 +185,8 @@ void PROGRAMMER_WINDOW::create_menu(bool allows_new_devices)
     m_menu = new PROGRAMMER_MENU(this, allows_new_devices);
     m_menu->setTitle(tr("&Programmer"));
     menuBar()->addMenu(m_menu);
+    menuBar()->addMenu(new HELP_MENU(this, HELP_MENU::installed_guides(QCoreApplication::applicationDirPath())));
+    connect(m_menu, &PROGRAMMER_MENU::database_asked, this, &PROGRAMMER_WINDOW::show_database);
     connect(m_menu, &PROGRAMMER_MENU::dialog_asked, m_device_panel, &DEVICE_PANEL::open_dialog);
     connect(m_menu, &PROGRAMMER_MENU::new_from_chip_asked, this, [this] { read_chip(true); });
     connect(m_menu, &PROGRAMMER_MENU::new_from_file_asked, this, [this] { m_new_device_desk->ask_for_file(choice()); });
@@ -328,6 +332,8 @@ void PROGRAMMER_WINDOW::show_busy()
 {
     const bool is_busy = m_controller.is_busy();
     m_menu->show_busy(is_busy);
+    if (m_database_window)
+        m_database_window->show_busy(is_busy);
     for (QWidget* panel : {static_cast<QWidget*>(m_device_panel), static_cast<QWidget*>(m_connection_panel),
                            static_cast<QWidget*>(m_file_panel), static_cast<QWidget*>(m_order_panel)})
         panel->setEnabled(!is_busy);
@@ -368,18 +374,6 @@ void PROGRAMMER_WINDOW::read_chip(bool for_new_device)
     m_controller.read_chip(*target, for_new_device);
 }
 
-void PROGRAMMER_WINDOW::choose_detected(const GFPDB_RECORD& device)
-{
-    HOST_CHOICE wanted = choice();
-    wanted.device_name = device.row.name;
-    const bool is_stored = device.row.scheme >= 0;
-    if (is_stored) {
-        wanted.family = device.row.family;
-        wanted.config_scheme = device.row.scheme;
-    }
-    m_device_panel->choose(wanted);
-}
-
 void PROGRAMMER_WINDOW::finish_reading(const CHIP_READING& reading)
 {
     if (m_closes_at_the_end) {
@@ -411,7 +405,7 @@ void PROGRAMMER_WINDOW::show_detected(const std::vector<std::uint8_t>& id)
     }
     DETECTED_DIALOG dialog(this, id_text(id), devices, choice().device_name);
     if (dialog.exec() == QDialog::Accepted)
-        choose_detected(devices[static_cast<std::size_t>(dialog.selected())]);
+        m_device_panel->choose(m_device_panel->choice_for(devices[static_cast<std::size_t>(dialog.selected())]));
 }
 
 void PROGRAMMER_WINDOW::open_stored(const HOST_CHOICE& device)
@@ -419,6 +413,40 @@ void PROGRAMMER_WINDOW::open_stored(const HOST_CHOICE& device)
     m_log->add(tr("The device \"%1\" is stored.").arg(QString::fromLocal8Bit(device.device_name.c_str())));
     m_device_panel->choose(device);
     m_device_panel->open_dialog();
+}
+
+void PROGRAMMER_WINDOW::show_database()
+{
+    if (!m_database_window) {
+        m_database_window = std::make_unique<DATABASE_WINDOW>(m_options, m_settings);
+        m_database_window->show_busy(m_controller.is_busy());
+        m_database_window->set_choice(choice());
+        connect(this, &PROGRAMMER_WINDOW::choice_changed, m_database_window.get(),
+                [this] { m_database_window->set_choice(choice()); });
+        connect(m_database_window.get(), &DATABASE_WINDOW::dialog_asked, this, &PROGRAMMER_WINDOW::open_from_database);
+        connect(m_database_window.get(), &DATABASE_WINDOW::directory_changed, m_device_panel,
+                &DEVICE_PANEL::read_again);
+    } else if (!m_database_window->isVisible()) {
+        m_database_window->refresh();
+    }
+    m_database_window->show();
+    m_database_window->raise();
+    m_database_window->activateWindow();
+}
+
+// Where families and modes are restricted, a device of another one cannot be shown.
+void PROGRAMMER_WINDOW::open_from_database(const HOST_CHOICE& device)
+{
+    m_device_panel->choose(device);
+    const HOST_CHOICE& chosen = choice();
+    if (chosen.device_name != device.device_name || chosen.family != device.family ||
+        chosen.config_scheme != device.config_scheme)
+        m_database_window->show_message(
+            tr("The device \"%1\" is not there, or of a family or mode that is not offered here.")
+                .arg(QString::fromLocal8Bit(device.device_name.c_str())));
+    else
+        m_device_panel->open_dialog_over(m_database_window.get());
+    m_database_window->refresh();
 }
 
 // First the run is cancelled; who closes again stops it at once.
@@ -452,6 +480,8 @@ void PROGRAMMER_WINDOW::closeEvent(QCloseEvent* event)
         return;
     }
     store();
+    if (m_database_window)
+        m_database_window->close();
     event->accept();
 }
 

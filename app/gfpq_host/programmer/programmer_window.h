@@ -9,7 +9,10 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 class CONNECTION_PANEL;
+class DATABASE_WINDOW;
 class DATA_PAGE;
 class FILE_PANEL;
 class MODULE_LOADER;
@@ -64,6 +67,8 @@ private:
     void finish_reading(const CHIP_READING& reading);
     void show_detected(const std::vector<std::uint8_t>& id);
     void open_stored(const HOST_CHOICE& device);
+    void show_database();
+    void open_from_database(const HOST_CHOICE& device);
 
     // What is entered; none when it is not complete: that was said.
     std::optional<RUN_WISH> wish(bool is_trial);
@@ -71,11 +76,11 @@ private:
     bool confirm_erase(const std::vector<GFPE_RANGE>& erased_beside);
     void refuse(const QString& problem, QWidget* place);
     QWidget* place_of(RUN_LACK lack) const;
-    void choose_detected(const GFPDB_RECORD& device);
     bool confirm_close();
     void store();
 
     QSettings& m_settings;
+    const DIALOG_OPTIONS m_options;
     RUN_CONTROLLER m_controller;
     RUN_PREPARATION m_preparation;
     bool m_closes_at_the_end = false;
@@ -95,4 +100,6 @@ private:
     DATA_PAGE* m_data_page = nullptr;
     PROGRAMMER_MENU* m_menu = nullptr;
     NEW_DEVICE_DESK* m_new_device_desk;
+    // Made when it is first asked for. A window of its own, which goes with this one.
+    std::unique_ptr<DATABASE_WINDOW> m_database_window;
 };

@@ -3,12 +3,6 @@
 
 #include <QSettings>
 
-namespace {
-
-const QString KEY = QStringLiteral("programmer/recent_files");
-
-} // namespace
-
 void RECENT_FILES::add(const QString& file)
 {
     m_files.removeAll(file);
@@ -18,10 +12,10 @@ void RECENT_FILES::add(const QString& file)
 
 void RECENT_FILES::load(const QSettings& settings)
 {
-    m_files = settings.value(KEY).toStringList().mid(0, MOST);
+    m_files = settings.value(m_key).toStringList().mid(0, MOST);
 }
 
 void RECENT_FILES::store(QSettings& settings) const
 {
-    settings.setValue(KEY, m_files);
+    settings.setValue(m_key, m_files);
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 
-// The files that were used last.
+// The files, or directories, that were used last.
 #pragma once
 
 #include <QStringList>
+
+#include <utility>
 
 class QSettings;
 
@@ -11,6 +13,9 @@ class RECENT_FILES
 {
 public:
     static constexpr int MOST = 10;
+
+    // `key` is where the settings have them.
+    explicit RECENT_FILES(QString key) : m_key(std::move(key)) {}
 
     // Absolute paths, the newest first.
     const QStringList& files() const { return m_files; }
@@ -21,5 +26,6 @@ public:
     void store(QSettings& settings) const;
 
 private:
+    const QString m_key;
     QStringList m_files;
 };

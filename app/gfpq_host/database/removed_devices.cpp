@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "database/removed_devices.h"
+
+#include "gfpdb/gfpdb_database.h"
+
+#include <utility>
+
+namespace {
+
+QString name_of(const GFPDB_RECORD& device)
+{
+    return QString::fromStdString(device.row.name);
+}
+
+} // namespace
+
+QStringList REMOVED_DEVICES::remove(const std::vector<GFPDB_RECORD>& devices, QStringList& problems)
+{
+    STEP step;
+    QStringList names;
+    for (const GFPDB_RECORD& device : devices) {
+        const std::optional<std::int64_t> state = m_database.remove(device);
+        if (!state)
+            problems.append(QString::fromStdString(m_database.get_last_error()));
+        else if (*state == 0)
+            problems.append(tr("The device \"%1\" was deleted by another program already.").arg(name_of(device)));
+        else
+            step.push_back({*state, device});
+    }
+    for (const REMOVED& removed : step)
+        names.append(name_of(removed.device));
+    if (!step.empty())
+        m_steps.push_back(std::move(step));
+    return names;
+}
+
+QStringList REMOVED_DEVICES::last() const
+{
+    QStringList names;
+    if (can_undo()) {
+        for (const REMOVED& removed : m_steps.back())
+            names.append(name_of(removed.device));
+    }
+    return names;
+}
+
+std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(QStringList& problems)
+{
+    std::vector<GFPDB_RECORD> restored;
+    if (!can_undo())
+        return restored;
+    const STEP step = std::exchange(m_steps.back(), STEP());
+    m_steps.pop_back();
+    STEP left;
+    for (const REMOVED& removed : step) {
+        GFPDB_MGR& manager = m_database.get_manager();
+        if (manager.restore_flash(removed.state, std::string(), GFPDB_RESTORE_KEEP, std::string())) {
+            restored.push_back(removed.device);
+            continue;
+        }
+        problems.append(QString::fromStdString(manager.get_last_error()));
+        const bool is_kept = m_database.load_state(removed.state) || !m_database.get_last_error().empty();
+        if (is_kept)
+            left.push_back(removed);
+    }
+    if (!left.empty())
+        m_steps.push_back(std::move(left));
+    return restored;
+}

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+
+// The window of the database: what is deleted there comes back, and nothing of somebody else's is lost.
+#include "database/database_window.h"
+#include "lost_work_test.h"
+
+#include <QAction>
+#include <QSettings>
+#include <QStatusBar>
+
+class TEST_DATABASE_WINDOW : public LOST_WORK_TEST
+{
+    Q_OBJECT
+
+private:
+    // The window on the directory, shown and active.
+    void open_window()
+    {
+        m_settings = std::make_unique<QSettings>(QString::fromStdString(directory()) + qs("../window.ini"),
+                                                 QSettings::IniFormat);
+        m_window = std::make_unique<DATABASE_WINDOW>(DIALOG_OPTIONS(), *m_settings);
+        m_window->show();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    QTableView& devices() const { return *m_window->findChild<QTableView*>(qs("m_devices_table")); }
+    QAction& undo() const { return *m_window->findChild<QAction*>(qs("m_undo_action")); }
+    QString message() const { return m_window->statusBar()->currentMessage(); }
+
+    // The row of the device; -1 when it is not shown.
+    int row_of(const QString& name) const
+    {
+        const QAbstractItemModel& model = *devices().model();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            if (model.index(row, 0).data().toString() == name)
+                return row;
+        }
+        return -1;
+    }
+
+    void select(const QStringList& names) const
+    {
+        devices().setFocus();
+        devices().clearSelection();
+        for (const QString& name : names) {
+            const QModelIndex index = devices().model()->index(row_of(name), 0);
+            QVERIFY2(index.isValid(), qPrintable(name));
+            devices().selectionModel()->setCurrentIndex(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        }
+    }
+
+    void press_delete(const QStringList& names) const
+    {
+        select(names);
+        press(Qt::Key_Delete);
+    }
+    void press_undo() const { press(Qt::Key_Z, Qt::ControlModifier); }
+    // The platform of the tests activates no window after a box.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QTest::keyClick(&devices(), key, modifiers);
+    }
+
+    // The next box says something of this kind.
+    void expect_box(const QString& part)
+    {
+        m_expected = part;
+        m_modals.expect(MODAL_DRIVER::accept());
+    }
+    void check_box() { QVERIFY2(m_modals.last().text.contains(m_expected), qPrintable(m_modals.last().text)); }
+
+    std::unique_ptr<QSettings> m_settings;
+    std::unique_ptr<DATABASE_WINDOW> m_window;
+    QString m_expected;
+
+    void set_up() override
+    {
+        for (const char* name : {"A", "B", "C"})
+            store(name);
+        open_window();
+    }
+    void take_down() override
+    {
+        m_window.reset();
+        m_settings.reset();
+    }
+
+private slots:
+    void a_deleted_device_comes_back_with_all_it_had()
+    {
+        const QString flows = stored(qs("A"), "single_flows") + stored(qs("A"), "quad_flows");
+        const QString next = devices().model()->index(row_of(qs("A")) + 1, 0).data().toString();
+        QVERIFY(!undo().isEnabled());
+
+        press_delete({qs("A")});
+        QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
+        QCOMPARE(history(), QStringList{qs("deleted A")});
+        QCOMPARE(message(), qs("The device \"A\" is deleted. Ctrl+Z brings it back."));
+        QCOMPARE(undo().text(), qs("&Undo: Delete \"A\""));
+        QCOMPARE(row_of(qs("A")), -1);
+        // The keys are where they were.
+        QCOMPARE(devices().currentIndex().data().toString(), next);
+
+        press_undo();
+        QCOMPARE(stored_names(), (QStringList{qs("A"), qs("B"), qs("C")}));
+        QCOMPARE(stored(qs("A"), "single_flows") + stored(qs("A"), "quad_flows"), flows);
+        QCOMPARE(message(), qs("The device \"A\" is back."));
+        QCOMPARE(devices().currentIndex().data().toString(), qs("A"));
+        QVERIFY(!undo().isEnabled());
+    }
+
+    void each_undo_takes_back_one_delete()
+    {
+        press_delete({qs("A"), qs("B")});
+        QCOMPARE(message(), qs("Devices deleted: 2. Ctrl+Z brings them back."));
+        press_delete({qs("C")});
+        QCOMPARE(stored_names(), QStringList());
+
+        press_undo();
+        QCOMPARE(stored_names(), QStringList{qs("C")});
+        press_undo();
+        QCOMPARE(stored_names(), (QStringList{qs("A"), qs("B"), qs("C")}));
+        QCOMPARE(message(), qs("Devices brought back: 2"));
+    }
+
+    void what_someone_else_has_changed_is_not_deleted_before_it_was_seen()
+    {
+        select({qs("A")});
+        run_foreign(qs("UPDATE device SET revision = 'other', device_id = '0x01' WHERE name = 'A'"));
+        expect_box(qs("The device \"A\" was changed by "));
+        press_delete({qs("A")});
+        check_box();
+        QCOMPARE(stored_names(), (QStringList{qs("A"), qs("B"), qs("C")}));
+        QVERIFY(!undo().isEnabled());
+
+        // Now it is shown as it is.
+        QCOMPARE(devices().model()->index(row_of(qs("A")), 2).data().toString(), qs("0x01"));
+        press_delete({qs("A")});
+        QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
+        press_undo();
+        QCOMPARE(stored(qs("A")), qs("0x01"));
+    }
+
+    void what_can_be_deleted_is_deleted_beside_what_cannot()
+    {
+        run_foreign(qs("UPDATE device SET revision = 'other' WHERE name = 'A'"));
+        run_foreign(qs("DELETE FROM device WHERE name = 'C'"));
+        expect_box(qs("The device \"C\" was deleted by another program already."));
+        press_delete({qs("A"), qs("B"), qs("C")});
+        check_box();
+        QVERIFY(m_modals.last().text.contains(qs("The device \"A\" was changed by ")));
+
+        QCOMPARE(stored_names(), QStringList{qs("A")});
+        QCOMPARE(undo().text(), qs("&Undo: Delete \"B\""));
+    }
+
+    // Until the name is free.
+    void an_undo_takes_no_name_away()
+    {
+        press_delete({qs("A"), qs("B")});
+        store("A", "0x01");
+        expect_box(qs("\"A\""));
+        press_undo();
+        check_box();
+        QCOMPARE(stored(qs("A")), qs("0x01"));
+        QCOMPARE(stored_names(), (QStringList{qs("A"), qs("B"), qs("C")}));
+        QCOMPARE(undo().text(), qs("&Undo: Delete \"A\""));
+
+        run_foreign(qs("DELETE FROM device WHERE name = 'A'"));
+        press_undo();
+        QCOMPARE(stored(qs("A")), qs("0xC2 0x20 0x19"));
+        QVERIFY(!undo().isEnabled());
+    }
+
+    void what_the_history_has_no_more_is_not_tried_again()
+    {
+        press_delete({qs("A")});
+        run_foreign(qs("DELETE FROM history"));
+        expect_box(QString());
+        press_undo();
+        QVERIFY(!m_modals.last().text.isEmpty());
+        QVERIFY(!undo().isEnabled());
+    }
+
+    void a_database_that_is_locked_loses_nothing()
+    {
+        press_delete({qs("A")});
+        lock();
+        expect_box(QString());
+        press_delete({qs("B")});
+        expect_box(QString());
+        press_undo();
+        unlock();
+        QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
+
+        press_undo();
+        QCOMPARE(stored_names(), (QStringList{qs("A"), qs("B"), qs("C")}));
+    }
+
+    void an_undo_stays_in_its_directory()
+    {
+        press_delete({qs("A")});
+        GFPDB_MGR::set_db_custom_dir(other_directory());
+        m_window->refresh();
+        QVERIFY(!undo().isEnabled());
+        QCOMPARE(row_of(qs("B")), -1);
+
+        GFPDB_MGR::set_db_custom_dir(directory());
+        m_window->refresh();
+        QCOMPARE(history(), QStringList{qs("deleted A")});
+        QVERIFY(!undo().isEnabled());
+    }
+
+    void built_in_devices_are_not_deleted()
+    {
+        select({qs("A"), qs("MX25L25645G")});
+        QVERIFY(!m_window->findChild<QAction*>(qs("m_delete_action"))->isEnabled());
+        press(Qt::Key_Delete);
+        QCOMPARE(stored_names(), (QStringList{qs("A"), qs("B"), qs("C")}));
+    }
+};
+
+LOST_WORK_TEST_MAIN(TEST_DATABASE_WINDOW)
+#include "test_database_window.moc"
