@@ -138,7 +138,7 @@ private slots:
 
     void recent_files_are_the_last_ones()
     {
-        RECENT_FILES recent(qs("recent"));
+        RECENT_FILES recent(QStringLiteral("recent"));
         for (int i = 0; i < 12; ++i)
             recent.add(QString::number(i));
         recent.add(QStringLiteral("5"));
