@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>Im &amp;Konfigurationsdialog öffnen</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>D&amp;uplizieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>&amp;Rückgängig: „%1“ löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>&amp;Rückgängig: Löschen (Bausteine: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>Verzeichnis &amp;öffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>&amp;Zuletzt benutzte Verzeichnisse</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>Akt&amp;ualisieren</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>&amp;Datenbank</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>B&amp;austein</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>Bausteindatenbank - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Verzeichnis öffnen</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>Das Verzeichnis wird jetzt benutzt, konnte aber nicht in den Einstellungen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>Den Baustein „%1“ gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Der Baustein „%1“ ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>Der Baustein „%1“ ist gelöscht. Strg+Z bringt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>Gelöschte Bausteine: %1. Strg+Z bringt sie zurück.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>Der Baustein „%1“ ist wieder da.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>Zurückgeholte Bausteine: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>Der Baustein hat die ID %1. Bausteine mit dieser ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>Eingebaut</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Eigener</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>Bei eigenen Bausteinen werden sie aus den Abläufen gelesen, wenn sie zum ersten Mal gezeigt werden. Noch nicht gelesene gelten beim Sortieren als die höchsten.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>Baustein-ID</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Kapazität</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Spannung</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Adressbytes</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>Bausteinfamilie</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>Geändert von</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>Name, Hersteller, Kapazität, Spannung oder Baustein-ID</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>%1 von %2 Bausteinen</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>Es ist keine Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>Baustein&amp;datenbank</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>&amp;Programmieren</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>&amp;Abläufe</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>B&amp;efehlszeile</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Über</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>Das Handbuch ist nicht installiert. Es wäre hier:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>Kein Programm zeigt dieses Handbuch. Öffnen Sie es mit einem Betrachter oder Editor:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+Lizenz: MIT
+Qt %3
+
+Die eingebauten Bausteine sind öffentliche Angaben über Flash-Bausteine. Die Namen der Bausteine gehören ihren Herstellern.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>D&amp;uplizieren...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>Baus&amp;teindatenbank...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>Der Baustein „%1“ ist gespeichert.</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>Den Baustein „%1“ gibt es nicht, oder seine Familie oder sein Modus wird hier nicht angeboten.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>Der Baustein „%1“ wurde schon von einem anderen Programm gelöscht.</translation>
     </message>
 </context>
 <context>

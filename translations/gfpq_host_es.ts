@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>&amp;Abrir en el diálogo del dispositivo de configuración</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>D&amp;uplicar...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleccionar &amp;todo</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Buscar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>&amp;Deshacer: eliminar «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>&amp;Deshacer: eliminar (dispositivos: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>A&amp;brir directorio...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>Directorios &amp;recientes</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>Ac&amp;tualizar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>Base de &amp;datos</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>D&amp;ispositivo</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>Base de datos de dispositivos - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Abrir directorio</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>El directorio ya se usa, pero no se pudo guardar en la configuración.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>El dispositivo «%1» ya no existe.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>El dispositivo «%1» está guardado.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>El dispositivo «%1» se eliminó. Ctrl+Z lo recupera.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>Dispositivos eliminados: %1. Ctrl+Z los recupera.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>El dispositivo «%1» está de nuevo.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>Dispositivos recuperados: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>El chip tiene el ID %1. Dispositivos con este ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>Integrado</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Propio</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>En los dispositivos propios se leen de los flujos cuando se muestran por primera vez. Los que aún no se han leído se ordenan como los más altos.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Fabricante</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>ID del dispositivo</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacidad</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensión</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Bytes de dirección</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>Familia de dispositivos</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>Modificado por</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>Nombre, fabricante, capacidad, tensión o ID del dispositivo</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>%1 de %2 dispositivos</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>No es un archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Guía del usuario</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>Base de &amp;datos de dispositivos</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>&amp;Programación</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>&amp;Flujos</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>&amp;Línea de órdenes</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>La guía no está instalada. Estaría aquí:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>Ningún programa muestra esta guía. Ábrala con un visor o un editor:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+Licencia: MIT
+Qt %3
+
+Los dispositivos integrados son datos públicos sobre memorias flash. Los nombres pertenecen a sus fabricantes.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>D&amp;uplicar...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>&amp;Base de datos de dispositivos...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>El dispositivo «%1» está guardado.</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>El dispositivo «%1» no existe o es de una familia o un modo que no se ofrece aquí.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>No se puede escribir el archivo %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>Otro programa ya eliminó el dispositivo «%1».</translation>
     </message>
 </context>
 <context>

@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>&amp;Ouvrir dans le dialogue du composant de configuration</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>Du&amp;pliquer...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Rechercher</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>&amp;Annuler&#xa0;: supprimer «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>&amp;Annuler&#xa0;: supprimer (composants&#xa0;: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>&amp;Ouvrir un répertoire...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>Répertoires &amp;récents</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>Actualis&amp;er</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>Composants</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>Base de &amp;données</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Composant</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>Base de données de composants - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Ouvrir un répertoire</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>Le répertoire est utilisé maintenant, mais n’a pas pu être enregistré dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» n’existe plus.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» est enregistré.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» est supprimé. Ctrl+Z le rétablit.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>Composants supprimés&#xa0;: %1. Ctrl+Z les rétablit.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» est rétabli.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>Composants rétablis&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>La puce a l’ID %1. Composants ayant cet ID&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>tous</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>Intégré</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Personnel</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>Pour les composants personnels, ils sont lus dans les flots quand ils sont affichés pour la première fois. Ceux qui ne sont pas encore lus sont triés comme les plus grands.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Fabricant</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>ID du composant</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tension</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Octets d’adresse</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>Famille de composants</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>Modifié par</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Rechercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>Nom, fabricant, capacité, tension ou ID du composant</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Composants</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>%1 sur %2 composants</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>Ce n’est pas un fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Guide de l’utilisateur</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>Base de &amp;données de composants</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>&amp;Programmation</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>&amp;Flots</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>Ligne de &amp;commande</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À prop&amp;os</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>Le guide n’est pas installé. Il serait ici&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>Aucun programme n’affiche ce guide. Ouvrez-le avec une visionneuse ou un éditeur&#xa0;:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+Licence&#xa0;: MIT
+Qt %3
+
+Les composants intégrés sont des données publiques sur les composants flash. Leurs noms appartiennent à leurs fabricants.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>D&amp;upliquer...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>&amp;Base de données de composants...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>Le composant «&#xa0;%1&#xa0;» est enregistré.</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» n’existe pas, ou sa famille ou son mode n’est pas proposé ici.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» a déjà été supprimé par un autre programme.</translation>
     </message>
 </context>
 <context>

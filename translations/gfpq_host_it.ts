@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>&amp;Apri nella finestra del dispositivo di configurazione</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>Dup&amp;lica...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Trova</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>&amp;Annulla: elimina «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>&amp;Annulla: elimina (dispositivi: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>A&amp;pri cartella...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>Cartelle &amp;recenti</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>&amp;Aggiorna</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>&amp;Database</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>D&amp;ispositivo</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>Database dei dispositivi - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Apri cartella</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>La cartella è ora in uso, ma non è stato possibile salvarla nelle impostazioni.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>Il dispositivo «%1» non esiste più.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Il dispositivo «%1» è salvato.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>Il dispositivo «%1» è eliminato. Ctrl+Z lo ripristina.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>Dispositivi eliminati: %1. Ctrl+Z li ripristina.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>Il dispositivo «%1» è ripristinato.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>Dispositivi ripristinati: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>Il chip ha l’ID %1. Dispositivi con questo ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>tutti</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>Integrato</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Proprio</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>Per i dispositivi propri sono letti dai flussi quando vengono mostrati la prima volta. Quelli non ancora letti sono ordinati come i più alti.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Produttore</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>ID del dispositivo</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacità</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensione</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Byte di indirizzo</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Die</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>Famiglia di dispositivi</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modalità</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificato</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>Modificato da</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Trova:</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>Nome, produttore, capacità, tensione o ID del dispositivo</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>%1 di %2 dispositivi</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>Non è un file.</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;uto</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Guida per l’utente</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>&amp;Database dei dispositivi</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>&amp;Programmazione</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>&amp;Flussi</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>&amp;Riga di comando</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Informazioni</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>La guida non è installata. Sarebbe qui:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>Nessun programma mostra questa guida. Aprirla con un visualizzatore o un editor:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+Licenza: MIT
+Qt %3
+
+I dispositivi integrati sono dati pubblici sui componenti flash. I nomi appartengono ai rispettivi produttori.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>Dup&amp;lica...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>Data&amp;base dei dispositivi...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>Il dispositivo «%1» è salvato.</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>Il dispositivo «%1» non esiste o è di una famiglia o modalità non offerta qui.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Impossibile scrivere il file %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>Il dispositivo «%1» è già stato eliminato da un altro programma.</translation>
     </message>
 </context>
 <context>

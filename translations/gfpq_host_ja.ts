@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>コンフィギュレーションデバイスのダイアログで開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>複製(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>検索(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>元に戻す(&amp;U): 「%1」の削除</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>元に戻す(&amp;U): 削除 (デバイス: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>ディレクトリを開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>最近使ったディレクトリ(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>最新の情報に更新(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>データベース(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>デバイス(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>デバイスデータベース - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>ディレクトリを開く</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>ディレクトリは使用中ですが、設定に保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>デバイス「%1」はもう存在しません。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>デバイス「%1」を保存しました。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>デバイス「%1」を削除しました。Ctrl+Z で元に戻せます。</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>削除したデバイス: %1。Ctrl+Z で元に戻せます。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>デバイス「%1」を元に戻しました。</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>元に戻したデバイス: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>チップの ID は %1 です。この ID を持つデバイス:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>組み込み</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>ユーザーのデバイスでは、初めて表示されるときにフローから読み取られます。まだ読み取られていないものは、並べ替えで最大として扱われます。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>メーカー</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>デバイス ID</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>電圧</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>アドレスのバイト数</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>ダイ数</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>デバイスファミリー</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>変更日時</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>変更者</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>名前、メーカー、容量、電圧、またはデバイス ID</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>デバイス: %1 / %2</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>ファイルではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>ユーザーガイド(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>デバイスデータベース(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>プログラミング(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>フロー(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>コマンドライン(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>バージョン情報(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>ガイドがインストールされていません。本来の場所:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>このガイドを表示するプログラムがありません。ビューアーまたはエディターで開いてください:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+ライセンス: MIT
+Qt %3
+
+組み込みデバイスはフラッシュ部品に関する公開情報です。部品名は各メーカーに帰属します。</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>複製(&amp;U)...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>デバイスデータベース(&amp;B)...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>デバイス「%1」を保存しました。</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>デバイス「%1」が存在しないか、ここで選べないファミリーまたはモードのものです。</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>ファイル %1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>デバイス「%1」はすでに別のプログラムにより削除されています。</translation>
     </message>
 </context>
 <context>

@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>구성 디바이스 대화 상자에서 열기(&amp;O)</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>복제(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>삭제(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>모두 선택(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>찾기(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>실행 취소(&amp;U): ‘%1’ 삭제</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>실행 취소(&amp;U): 삭제(디바이스: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>폴더 열기(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>최근 폴더(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>새로 고침(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>닫기(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>디바이스</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>데이터베이스(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>편집(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>디바이스(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>디바이스 데이터베이스 - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>폴더 열기</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>폴더를 지금 사용하지만 설정에 저장하지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>디바이스 ‘%1’이(가) 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>디바이스 ‘%1’이(가) 저장되었습니다.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>디바이스 ‘%1’을(를) 삭제했습니다. Ctrl+Z로 되돌릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>삭제한 디바이스: %1. Ctrl+Z로 되돌릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>디바이스 ‘%1’을(를) 되돌렸습니다.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>되돌린 디바이스: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>칩의 ID는 %1입니다. 이 ID의 디바이스:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>내장</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>사용자</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>사용자 디바이스에서는 처음 표시될 때 흐름에서 읽습니다. 아직 읽지 않은 것은 정렬할 때 가장 큰 값으로 봅니다.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>제조사</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>디바이스 ID</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>용량</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>전압</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>주소 바이트</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>다이 수</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>디바이스 제품군</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>모드</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>변경 시각</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>변경한 사용자</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>찾기(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>이름, 제조사, 용량, 전압 또는 디바이스 ID</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>디바이스</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>디바이스: %1 / %2</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>파일이 아닙니다.</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>도움말(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>사용 설명서(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>디바이스 데이터베이스(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>프로그래밍(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>흐름(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>명령줄(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>정보(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>안내서가 설치되어 있지 않습니다. 있어야 할 위치:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>이 안내서를 표시할 프로그램이 없습니다. 뷰어나 편집기로 여십시오:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+라이선스: MIT
+Qt %3
+
+내장 디바이스는 플래시 부품에 대한 공개 정보입니다. 부품 이름은 각 제조사의 것입니다.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>복제(&amp;U)...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>디바이스 데이터베이스(&amp;B)...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>디바이스 ‘%1’을(를) 저장했습니다.</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>디바이스 ‘%1’이(가) 없거나 여기에서 제공하지 않는 제품군 또는 모드의 것입니다.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>파일 %1에 쓸 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>디바이스 ‘%1’은(는) 이미 다른 프로그램이 삭제했습니다.</translation>
     </message>
 </context>
 <context>

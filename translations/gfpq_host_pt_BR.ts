@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>&amp;Abrir no diálogo do dispositivo de configuração</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>D&amp;uplicar...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Excluir</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Localizar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>&amp;Desfazer: excluir “%1”</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>&amp;Desfazer: excluir (dispositivos: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>A&amp;brir diretório...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>Diretórios &amp;recentes</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>A&amp;tualizar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>Banco de &amp;dados</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>D&amp;ispositivo</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>Banco de dados de dispositivos - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Abrir diretório</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>O diretório está em uso agora, mas não pôde ser salvo nas configurações.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>O dispositivo “%1” não existe mais.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>O dispositivo “%1” foi salvo.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>O dispositivo “%1” foi excluído. Ctrl+Z o traz de volta.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>Dispositivos excluídos: %1. Ctrl+Z os traz de volta.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>O dispositivo “%1” está de volta.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>Dispositivos trazidos de volta: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>O chip tem o ID %1. Dispositivos com este ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>Integrado</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Próprio</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>Nos dispositivos próprios, são lidos dos fluxos quando mostrados pela primeira vez. Os ainda não lidos são ordenados como os maiores.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Fabricante</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>ID do dispositivo</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Capacidade</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensão</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Bytes de endereço</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Dies</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>Família de dispositivos</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Alterado</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>Alterado por</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Localizar:</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>Nome, fabricante, capacidade, tensão ou ID do dispositivo</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>%1 de %2 dispositivos</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>Não é um arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;juda</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Guia do usuário</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>Banco de &amp;dados de dispositivos</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>&amp;Programação</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>&amp;Fluxos</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>&amp;Linha de comando</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Sobre</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>O guia não está instalado. Ele estaria aqui:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>Nenhum programa mostra este guia. Abra-o com um visualizador ou editor:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+Licença: MIT
+Qt %3
+
+Os dispositivos integrados são dados públicos sobre componentes flash. Os nomes pertencem aos seus fabricantes.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>D&amp;uplicar...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>&amp;Banco de dados de dispositivos...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>O dispositivo “%1” foi salvo.</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>O dispositivo “%1” não existe ou é de uma família ou modo não oferecido aqui.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>O arquivo %1 não pode ser gravado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>O dispositivo “%1” já foi excluído por outro programa.</translation>
     </message>
 </context>
 <context>

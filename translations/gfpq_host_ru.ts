@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>&amp;Открыть в диалоге конфигурационного ПЗУ</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>&amp;Дублировать...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить действие</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Выделить всё</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Найти</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>&amp;Отменить действие: удаление «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>&amp;Отменить действие: удаление (микросхем: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>&amp;Открыть каталог...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>&amp;Недавние каталоги</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>О&amp;бновить</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>Микросхемы</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>База &amp;данных</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>П&amp;равка</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>&amp;Микросхема</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>База данных микросхем - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>Открытие каталога</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>Каталог теперь используется, но сохранить его в настройках не удалось.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>Микросхема «%1» больше не существует.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>Микросхема «%1» сохранена.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>Микросхема «%1» удалена. Ctrl+Z вернёт её.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>Удалено микросхем: %1. Ctrl+Z вернёт их.</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>Микросхема «%1» возвращена.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>Возвращено микросхем: %1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>ID микросхемы: %1. Микросхемы с этим ID:</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>все</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>Встроенная</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>Своя</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>Для своих микросхем читаются из алгоритмов при первом показе. Ещё не прочитанные при сортировке считаются наибольшими.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>Изготовитель</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>ID микросхемы</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Ёмкость</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Напряжение</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>Байты адреса</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>Кристаллы</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>Семейство микросхем</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Изменено</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>Кем изменена</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Найти:</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>Имя, изготовитель, ёмкость, напряжение или ID микросхемы</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Микросхемы</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>Микросхем: %1 из %2</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>Это не файл.</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>&amp;Руководство пользователя</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>&amp;База данных микросхем</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>&amp;Программирование</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>&amp;Алгоритмы</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>&amp;Командная строка</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;О программе</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>Руководство не установлено. Оно было бы здесь:
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>Нет программы для показа этого руководства. Откройте его в программе просмотра или редакторе:
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+Лицензия: MIT
+Qt %3
+
+Встроенные микросхемы — общедоступные сведения о микросхемах флеш-памяти. Их названия принадлежат изготовителям.</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>&amp;Дублировать...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>&amp;База данных микросхем...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>Микросхема «%1» сохранена.</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>Микросхемы «%1» нет, либо её семейство или режим здесь не предлагаются.</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Не удаётся записать файл %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>Микросхема «%1» уже удалена другой программой.</translation>
     </message>
 </context>
 <context>

@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>在配置器件对话框中打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>复制(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>查找(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>撤销(&amp;U)：删除“%1”</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>撤销(&amp;U)：删除（器件：%1）</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>打开目录(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>最近的目录(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>刷新(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>器件</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>数据库(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>器件(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>器件数据库 - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>打开目录</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>现在使用该目录，但未能将其保存到设置中。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>器件“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>器件“%1”已保存。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>已删除器件“%1”。按 Ctrl+Z 可恢复。</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>已删除器件：%1。按 Ctrl+Z 可恢复。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>器件“%1”已恢复。</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>已恢复器件：%1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>芯片的 ID 是 %1。具有此 ID 的器件：</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>内置</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>自有</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>自有器件的地址字节数在首次显示时从流程中读取。尚未读取的按最大值排序。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>制造商</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>器件 ID</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>电压</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>地址字节数</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>裸片数</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>器件系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>更改时间</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>更改者</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>查找(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>名称、制造商、容量、电压或器件 ID</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>器件</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>器件：%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>它不是文件。</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>用户指南(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>器件数据库(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>编程(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>流程(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>命令行(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>未安装该指南。其位置应为：
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>没有程序可以显示此指南。请用查看器或编辑器打开：
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+许可证：MIT
+Qt %3
+
+内置器件是有关闪存型号的公开资料。型号名称归其制造商所有。</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>复制器件(&amp;U)...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>器件数据库(&amp;B)...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>器件“%1”已保存。</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>器件“%1”不存在，或其系列或模式在此处不可选。</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>无法写入文件 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>器件“%1”已被其他程序删除。</translation>
     </message>
 </context>
 <context>

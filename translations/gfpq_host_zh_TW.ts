@@ -96,6 +96,122 @@
     </message>
 </context>
 <context>
+    <name>DATABASE_DEVICE_MENU</name>
+    <message>
+        <source>&amp;Open in the Configuration Device Dialog</source>
+        <translation>在組態元件對話方塊中開啟(&amp;O)</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate...</source>
+        <translation>複製(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>刪除(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_EDIT_MENU</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>復原(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>複製(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全選(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>尋找(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete &quot;%1&quot;</source>
+        <translation>復原(&amp;U)：刪除「%1」</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: Delete (devices: %1)</source>
+        <translation>復原(&amp;U)：刪除（元件：%1）</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_MENU</name>
+    <message>
+        <source>&amp;Open Directory...</source>
+        <translation>開啟目錄(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Directories</source>
+        <translation>最近的目錄(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>重新整理(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>DATABASE_WINDOW</name>
+    <message>
+        <source>Devices</source>
+        <translation>元件</translation>
+    </message>
+    <message>
+        <source>Data&amp;base</source>
+        <translation>資料庫(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編輯(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Device</source>
+        <translation>元件(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Device Database - %1</source>
+        <translation>元件資料庫 - %1</translation>
+    </message>
+    <message>
+        <source>Open Directory</source>
+        <translation>開啟目錄</translation>
+    </message>
+    <message>
+        <source>The directory is used now, but could not be stored in the settings.</source>
+        <translation>現在使用此目錄，但未能將它儲存到設定中。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; does not exist any more.</source>
+        <translation>元件「%1」已不存在。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is stored.</source>
+        <translation>元件「%1」已儲存。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is deleted. Ctrl+Z brings it back.</source>
+        <translation>已刪除元件「%1」。按 Ctrl+Z 可還原。</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1. Ctrl+Z brings them back.</source>
+        <translation>已刪除元件：%1。按 Ctrl+Z 可還原。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; is back.</source>
+        <translation>元件「%1」已還原。</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1</source>
+        <translation>已還原元件：%1</translation>
+    </message>
+</context>
+<context>
     <name>DATA_PAGE</name>
     <message>
         <source>Go to:</source>
@@ -159,6 +275,92 @@
     <message>
         <source>The chip has the ID %1. Devices with this ID:</source>
         <translation>晶片的 ID 是 %1。具有此 ID 的元件：</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_MODEL</name>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Built in</source>
+        <translation>內建</translation>
+    </message>
+    <message>
+        <source>Own</source>
+        <translation>自有</translation>
+    </message>
+    <message>
+        <source>Of own devices they are read from the flows when they are shown for the first time. Those not read yet are sorted as the highest.</source>
+        <translation>自有元件的位址位元組數在首次顯示時從流程讀取。尚未讀取的按最大值排序。</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>製造商</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>元件 ID</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>電壓</translation>
+    </message>
+    <message>
+        <source>Address bytes</source>
+        <translation>位址位元組數</translation>
+    </message>
+    <message>
+        <source>Dies</source>
+        <translation>晶粒數</translation>
+    </message>
+    <message>
+        <source>Device family</source>
+        <translation>元件系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>類型</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>變更時間</translation>
+    </message>
+    <message>
+        <source>Changed by</source>
+        <translation>變更者</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PAGE</name>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>尋找(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Name, maker, density, voltage or device ID</source>
+        <translation>名稱、製造商、容量、電壓或元件 ID</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>元件</translation>
+    </message>
+    <message>
+        <source>%1 of %2 devices</source>
+        <translation>元件：%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -235,6 +437,71 @@
     <message>
         <source>It is not a file.</source>
         <translation>它不是檔案。</translation>
+    </message>
+</context>
+<context>
+    <name>HELP_MENU</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>說明(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation>使用者指南(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Device &amp;Database</source>
+        <translation>元件資料庫(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Programming</source>
+        <translation>燒錄(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Flows</source>
+        <translation>流程(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Command Line</source>
+        <translation>命令列(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>關於(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>說明</translation>
+    </message>
+    <message>
+        <source>The guide is not installed. It would be here:
+%1</source>
+        <translation>未安裝此指南。其位置應為：
+%1</translation>
+    </message>
+    <message>
+        <source>No program shows this guide. Open it with a viewer or an editor:
+%1</source>
+        <translation>沒有程式可以顯示此指南。請用檢視器或編輯器開啟：
+%1</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Licence: MIT
+Qt %3
+
+The built-in devices are public facts about flash parts. The names of parts belong to their makers.</source>
+        <translation>%1 %2
+
+授權條款：MIT
+Qt %3
+
+內建元件是有關快閃記憶體型號的公開資料。型號名稱屬於其製造商。</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
     </message>
 </context>
 <context>
@@ -401,6 +668,10 @@
         <source>D&amp;uplicate...</source>
         <translation>複製元件(&amp;U)...</translation>
     </message>
+    <message>
+        <source>Device Data&amp;base...</source>
+        <translation>元件資料庫(&amp;B)...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -492,6 +763,10 @@
         <source>The device &quot;%1&quot; is stored.</source>
         <translation>元件「%1」已儲存。</translation>
     </message>
+    <message>
+        <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
+        <translation>元件「%1」不存在，或其系列或模式在此處不可選。</translation>
+    </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
@@ -529,6 +804,13 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>無法寫入檔案 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>REMOVED_DEVICES</name>
+    <message>
+        <source>The device &quot;%1&quot; was deleted by another program already.</source>
+        <translation>元件「%1」已被其他程式刪除。</translation>
     </message>
 </context>
 <context>

@@ -86,11 +86,15 @@ QStringList placeholders(const QString& text)
 }
 
 // Where the access keys of a context must not clash: what is in a window may all be in sight at once, but the keys of a
-// menu and of a dialog are their own. Two dialogs have the fields of a device's place.
+// menu and of a dialog are their own. Two dialogs have the fields of a device's place, and one window has the pages of
+// a database.
 QStringList places_of(const QString& context)
 {
     if (context == QLatin1String("PLACE_FIELDS"))
         return {QStringLiteral("COPY_DIALOG"), QStringLiteral("NEW_DEVICE_DIALOG")};
+    const QString database = QStringLiteral("DATABASE_WINDOW");
+    if (QStringList({database, QStringLiteral("DEVICE_PAGE"), QStringLiteral("HISTORY_PAGE")}).contains(context))
+        return {database};
     const bool is_apart = context.endsWith(QLatin1String("_MENU")) || context.endsWith(QLatin1String("_DIALOG"));
     return {is_apart ? context : QString()};
 }
@@ -208,7 +212,8 @@ private slots:
     void access_keys_are_kept_and_clash_nowhere()
     {
         QFETCH(QString, catalogue);
-        QSet<QString> keys;
+        // Whose key each is: "&Undo" and "&Undo: Delete" are one entry that changes its text.
+        QMap<QString, QString> keys;
         for (const MESSAGE& message : read_catalogue(catalogue)) {
             QCOMPARE(message.translation.count(QLatin1Char('&')), message.source.count(QLatin1Char('&')));
             if (!message.source.contains(QLatin1Char('&')))
@@ -216,8 +221,9 @@ private slots:
             const QString letter =
                 message.translation.mid(message.translation.indexOf(QLatin1Char('&')) + 1, 1).toLower();
             for (const QString& place : places_of(message.context)) {
-                QVERIFY2(!keys.contains(place + letter), qPrintable(message.translation));
-                keys.insert(place + letter);
+                const QString entry = message.source.section(QLatin1Char(':'), 0, 0);
+                QVERIFY2(keys.value(place + letter, entry) == entry, qPrintable(message.translation));
+                keys.insert(place + letter, entry);
             }
         }
     }
