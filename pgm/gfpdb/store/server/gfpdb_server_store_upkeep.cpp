@@ -2,26 +2,13 @@
 
 // The part of GFPDB_SERVER_STORE that keeps the history small and the keys right.
 #include "base/gfpdb_text.h"
+#include "store/gfpdb_upkeep.h"
 #include "store/server/gfpdb_server_sql.h"
 #include "store/server/gfpdb_server_store.h"
 
 #include <unordered_map>
 
 using namespace GFPDB_SERVER_SQL;
-
-namespace {
-
-// No name may have this character, so no key begins with it.
-constexpr char PARKED_KEY = '\x01';
-
-std::string record_of(const GFPDB_HISTORY_ENTRY& entry)
-{
-    const std::string place =
-        entry.is_template ? "template" : std::to_string(entry.row.family) + ' ' + std::to_string(entry.row.scheme);
-    return place + ' ' + gfpdb_name_key(entry.name());
-}
-
-} // namespace
 
 std::optional<int> GFPDB_SERVER_STORE::prune_history(const GFPDB_PRUNING& pruning)
 {
@@ -70,7 +57,7 @@ bool GFPDB_SERVER_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
         entry.row.scheme = static_cast<int>(rows.number(row, 4));
         entry.row.name = rows.text(row, 5);
         entry.row.template_name = rows.text(row, 6);
-        const int newer = newer_states[record_of(entry)]++;
+        const int newer = newer_states[gfpdb_record_of(entry)]++;
         const bool is_old = pruning.before.empty() || entry.changed_at < pruning.before;
         if (newer < pruning.keep || !is_old || !pruning.is_selected(entry))
             continue;
@@ -129,7 +116,7 @@ std::optional<int> GFPDB_SERVER_STORE::rebuild_keys()
         if (!m_session.look_up(question_of_keyed(), found))
             return false;
         const std::vector<KEYED> misplaced = misplaced_in(found.front());
-        const auto parked = [](const KEYED& keyed) { return PARKED_KEY + std::to_string(keyed.record.row_id); };
+        const auto parked = [](const KEYED& keyed) { return GFPDB_PARKED_KEY + std::to_string(keyed.record.row_id); };
         for (const KEYED& keyed : misplaced) {
             if (!m_session.look_up(set_key(keyed, keyed.key, parked(keyed)), found))
                 return false;

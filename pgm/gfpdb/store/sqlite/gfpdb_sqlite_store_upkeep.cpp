@@ -2,6 +2,7 @@
 
 // The part of GFPDB_SQLITE_STORE that keeps the history small and the keys right. The records are in
 // gfpdb_sqlite_store.cpp.
+#include "store/gfpdb_upkeep.h"
 #include "store/sqlite/gfpdb_sqlite_sql.h"
 #include "store/sqlite/gfpdb_sqlite_store.h"
 
@@ -13,21 +14,6 @@
 #include <unordered_map>
 
 using namespace GFPDB_SQL;
-
-namespace {
-
-// No name may have this character, so no key begins with it.
-constexpr char PARKED_KEY = '\x01';
-
-// What the states of one record have in common.
-std::string record_of(const GFPDB_HISTORY_ENTRY& entry)
-{
-    const std::string place =
-        entry.is_template ? "template" : std::to_string(entry.row.family) + ' ' + std::to_string(entry.row.scheme);
-    return place + ' ' + gfpdb_name_key(entry.name());
-}
-
-} // namespace
 
 std::optional<int> GFPDB_SQLITE_STORE::prune_history(const GFPDB_PRUNING& pruning)
 {
@@ -59,7 +45,7 @@ bool GFPDB_SQLITE_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
         entry.row.scheme = query.value(4).toInt();
         entry.row.name = text_at(query, 5);
         entry.row.template_name = text_at(query, 6);
-        const int newer = newer_states[record_of(entry)]++;
+        const int newer = newer_states[gfpdb_record_of(entry)]++;
         const bool is_old = pruning.before.empty() || entry.changed_at < pruning.before;
         if (newer < pruning.keep || !is_old || !pruning.is_selected(entry))
             continue;
@@ -144,7 +130,7 @@ std::optional<int> GFPDB_SQLITE_STORE::rebuild_keys()
         if (!read_misplaced(misplaced))
             return false;
         for (const GFPDB_MISPLACED& record : misplaced) {
-            if (!set_key(record, PARKED_KEY + std::to_string(record.row_id)))
+            if (!set_key(record, GFPDB_PARKED_KEY + std::to_string(record.row_id)))
                 return false;
         }
         for (const GFPDB_MISPLACED& record : misplaced) {
