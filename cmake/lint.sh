@@ -39,9 +39,11 @@ tidy() {
 #   child-event-qobject-cast: the event looked at is ChildPolished, which comes when the child is complete
 CLAZY_CHECKS=level1,no-connect-by-name,no-non-pod-global-static,no-range-loop-reference,no-child-event-qobject-cast
 clazy_level1() {
+    # A file with an error could not be read, and was not checked.
+    local found='\[-Wclazy|: (fatal )?error: '
     product_sources | xargs -P "$(nproc)" -n 4 clazy-standalone -p build/dev --checks="$CLAZY_CHECKS" --extra-arg=-Wno-unknown-warning-option \
-        --ignore-dirs='.*(/usr/|autogen).*' 2>&1 | tee build/dev/clazy.log | { grep -E '\[-Wclazy' || true; }
-    ! grep -q '\[-Wclazy' build/dev/clazy.log
+        --ignore-dirs='.*(/usr/|autogen).*' 2>&1 | tee build/dev/clazy.log | { grep -E "$found" || true; }
+    ! grep -qE "$found" build/dev/clazy.log
 }
 
 cppcheck_product() {

@@ -73,12 +73,12 @@ std::vector<GFPDB_PART> gfpdb_read_catalogue(const QString& path, QString& probl
     const std::optional<std::string> bytes = read_bytes(path, reason);
     if (!bytes) {
         problem = QStringLiteral("The catalogue %1 cannot be read: %2.").arg(path, gfpdb_from_utf8(reason));
-        qCWarning(GFPDB_LOG).noquote() << problem;
+        qCWarning(GFPDB_LOG, "%s", qUtf8Printable(problem));
         return {};
     }
     problem.clear();
     const GFPDB_CATALOGUE_CONTENT content = gfpdb_parse_catalogue(*bytes);
     for (const GFPDB_CSV_ERROR& error : content.errors)
-        qCWarning(GFPDB_LOG).noquote() << path << gfpdb_from_utf8(gfpdb_csv_error_text(error));
+        qCWarning(GFPDB_LOG, "%s %s", qUtf8Printable(path), gfpdb_csv_error_text(error).c_str());
     return content.parts;
 }
