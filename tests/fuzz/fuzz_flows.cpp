@@ -5,6 +5,7 @@
 // Input: the text.
 #include "fuzz_target.h"
 
+#include "gfpdb/gfpdb_flow_lint.h"
 #include "model/gfpdb_flow_text.h"
 #include "store/sqlite/gfpdb_old_flows.h"
 
@@ -25,6 +26,7 @@ void check_round_trip(const std::string& text)
     FUZZ_CHECK(again && again->size() == operations->size());
     const std::vector<GFPDB_OPERATION*> again_list = gfpdb_pointers(*again);
     FUZZ_CHECK(gfpdb_flows_to_text(&again_list) == written);
+    FUZZ_CHECK(gfpdb_lint_flow(list, true, {}).size() == gfpdb_lint_flow(again_list, true, {}).size());
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "chip/gfpe_chip_facts.h"
 #include "gfpdb/gfpdb_catalogue.h"
 #include "gfpdb/gfpdb_exchange.h"
+#include "gfpdb/gfpdb_flow_lint.h"
 #include "gfpdb/gfpdb_text.h"
 #include "gfpe/gfpe_chip.h"
 #include "gfpe/gfpe_run.h"
@@ -87,11 +88,14 @@ private slots:
         QFETCH(QString, part);
         QFETCH(bool, quad);
 
-        const SESSION session(record_of(new_device(part)), quad);
+        const GFPDB_RECORD record = record_of(new_device(part));
+        const SESSION session(record, quad);
 
         QVERIFY2(session.result.verdict == GFPE_VERDICT::PASSED, session.report().c_str());
         QVERIFY2(session.chip->get_notes().empty(), session.report().c_str());
         QVERIFY(session.chip->is_at_rest());
+        for (const GFPDB_LINT_FINDING& finding : gfpdb_lint_record(record))
+            QFAIL((finding.rule + ' ' + finding.text).c_str());
     }
 
     // A chip whose part has no read-out says what the emulation knows of it, or nothing.
