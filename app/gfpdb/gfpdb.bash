@@ -47,7 +47,7 @@ _gfpdb()
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
         return
         ;;
-    --family | --scheme | --from-family | --from-scheme | --filter | --as | --older-than | --keep | --id | --name | \
+    --lint-off | --family | --scheme | --from-family | --from-scheme | --filter | --as | --older-than | --keep | --id | --name | \
         --voltage | --set)
         return
         ;;
@@ -60,7 +60,7 @@ _gfpdb()
         options="--replace --dry-run --unchecked --csv --family --scheme"
         options+=" --sfdp --id --name --voltage --set --json"
         ;;
-    check) options="--rebuild-keys --sfdp --json" ;;
+    check) options="--rebuild-keys --lint --lint-off --lint-rules --sfdp --json" ;;
     history) options="--prune --older-than --keep --force --json --family --scheme" ;;
     restore) options="--replace --as" ;;
     diff) options="--json --family --scheme" ;;

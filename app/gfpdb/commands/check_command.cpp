@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commands/check_command.h"
 
+#include "commands/check_lint.h"
 #include "commands/check_read_outs.h"
 
 #include "cli_find.h"
@@ -38,7 +39,8 @@ void add_list(CLI_JSON& json, const char* key, const FINDINGS& found, bool warni
     json.end_list();
 }
 
-std::string json(const CLI_CALL& call, std::size_t count, const std::string& damage, const FINDINGS& found)
+std::string json(const CLI_CALL& call, std::size_t count, const std::string& damage, const FINDINGS& found,
+                 const CLI_LINT& lint)
 {
     CLI_JSON json;
     json.begin_object();
@@ -47,6 +49,7 @@ std::string json(const CLI_CALL& call, std::size_t count, const std::string& dam
     json.add_number("records", static_cast<long long>(count));
     add_list(json, "problems", found, false);
     add_list(json, "warnings", found, true);
+    lint.add_to(json);
     json.end_object();
     return json.text();
 }
@@ -62,14 +65,24 @@ std::string counted(std::size_t count, const std::string& what)
     return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
 
-std::string text(std::size_t count, const FINDINGS& found, std::size_t problems)
+std::string text(std::size_t count, const FINDINGS& found, std::size_t problems, const CLI_LINT& lint)
 {
     std::string text;
     for (const FOUND& each : found)
         text += line(each);
-    const std::size_t warnings = found.size() - problems;
+    text += lint.text();
+    const std::size_t warnings = found.size() - problems + lint.count();
     return text + counted(count, "record") + ", " + counted(problems, "problem") +
            (warnings == 0 ? "" : ", " + counted(warnings, "warning")) + '\n';
+}
+
+std::string wrong_options(const CLI_CALL& call)
+{
+    for (const char* option : {OPTION_REBUILD_KEYS, CLI_OPTION_LINT}) {
+        if (call.has(CLI_OPTION_SFDP) && call.has(option))
+            return std::string("--") + option + " and --sfdp cannot be used together.";
+    }
+    return CLI_LINT::wrong_usage(call);
 }
 
 } // namespace
@@ -82,13 +95,19 @@ void CLI_CHECK_COMMAND::add_options(QCommandLineParser& parser) const
                       QStringLiteral("Compare the built-in parts with the SFDP read-outs (*.bin) in this folder "
                                      "instead."),
                       QStringLiteral("folder")});
+    CLI_LINT::add_options(parser);
     cli_add_json_option(parser);
 }
 
 int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
 {
-    if (call.has(CLI_OPTION_SFDP) && call.has(OPTION_REBUILD_KEYS))
-        return call.wrong_usage("--rebuild-keys and --sfdp cannot be used together.");
+    const std::string wrong = wrong_options(call);
+    if (!wrong.empty())
+        return call.wrong_usage(wrong);
+    if (call.has(CLI_OPTION_LINT_RULES)) {
+        call.output.print(CLI_LINT::rules());
+        return CLI_EXIT_OK;
+    }
     if (call.has(CLI_OPTION_SFDP))
         return cli_check_read_outs(call);
     const std::string problem = call.database.get_read_problem();
@@ -98,6 +117,7 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
         return call.database_failed(call.database.get_last_error());
     const std::string damage = call.database.check_integrity() ? std::string() : call.database.get_last_error();
     FINDINGS found;
+    CLI_LINT lint(call);
     const std::vector<GFPDB_RECORD> records = call.database.find_stored({});
     for (const GFPDB_RECORD& record : call.database.find_misplaced({}))
         found.push_back({gfpdb_title(record), {0, "", CLI_MISPLACED}});
@@ -106,6 +126,7 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
         if (const std::optional<GFPDB_RECORD> loaded = call.database.load(record)) {
             for (const GFPDB_FINDING& finding : gfpdb_check_record(call.database.get_manager(), *loaded))
                 found.push_back({gfpdb_title(record), finding});
+            lint.check(*loaded);
         }
         call.output.progress("Checking", ++done, static_cast<int>(records.size()));
     }
@@ -113,8 +134,8 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
     const auto warnings =
         std::stable_partition(found.begin(), found.end(), [](const FOUND& each) { return !each.is_warning(); });
     const auto problems = static_cast<std::size_t>(warnings - found.begin());
-    call.output.print(call.has(CLI_OPTION_JSON) ? json(call, records.size(), damage, found)
-                                                : text(records.size(), found, problems));
+    call.output.print(call.has(CLI_OPTION_JSON) ? json(call, records.size(), damage, found, lint)
+                                                : text(records.size(), found, problems, lint));
     if (!damage.empty())
         return call.database_failed(damage);
     return problems == 0 ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;

@@ -84,7 +84,7 @@ private slots:
               QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme", "--sfdp", "--id",
                           "--name", "--voltage", "--set", "--json"}},
              {"check", "[options]\nCheck every record and the database.\n",
-              QStringList{"--rebuild-keys", "--sfdp", "--json"}},
+              QStringList{"--rebuild-keys", "--lint", "--lint-off", "--lint-rules", "--sfdp", "--json"}},
              {"history", "[options] [NAME]\nList former states of records.\n",
               QStringList{"--prune", "--older-than", "--keep", "--force", "--json", "--family", "--scheme"}},
              {"restore", "[options] ID\nRestore a former state.\n", QStringList{"--replace", "--as"}},
