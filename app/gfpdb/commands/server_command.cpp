@@ -158,9 +158,11 @@ int print_status(const CLI_CALL& call, const std::string& argument)
     const std::optional<GFPDB_SERVER> server = gfpdb_read_server(directory, error);
     if (!server)
         return call.database_failed(error);
-    const std::optional<GFPDB_SERVER_STATUS> status = gfpdb_server_status(*server, directory, error);
+    std::optional<GFPDB_SERVER_STATUS> status = gfpdb_server_status(*server, directory, error);
     if (!status)
         return call.database_failed(error);
+    const std::string two_databases = gfpdb_two_databases(directory);
+    status->problem = two_databases.empty() ? status->problem : two_databases;
     call.output.print(call.has(OPTION_JSON) ? status_json(*server, *status) : status_text(*server, *status));
     return status->problem.empty() ? CLI_EXIT_OK : call.database_failed(status->problem);
 }

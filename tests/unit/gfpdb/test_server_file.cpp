@@ -134,6 +134,7 @@ private slots:
              {"schema with a capital", "[server]\ndatabase=x\nschema=Lab\n", is_not("schema", "Lab")},
              {"schema with a digit first", "[server]\ndatabase=x\nschema=1a\n", is_not("schema", "1a")},
              {"schema of the system", "[server]\ndatabase=x\nschema=pg_catalog\n", is_not("schema", "pg_catalog")},
+             {"schema that is a word of SQL", "[server]\ndatabase=x\nschema=user\n", is_not("schema", "user")},
              {"long schema", QStringLiteral("[server]\ndatabase=x\nschema=") + a(51) + QLatin1Char('\n'),
               is_not("schema", qPrintable(a(51)))},
              {"long database", QStringLiteral("[server]\ndatabase=") + a(64) + QLatin1Char('\n'),

@@ -186,6 +186,38 @@ private slots:
         QVERIFY(!QFile::exists(at("none/gfpdb-server.ini")));
     }
 
+    // Such a schema could be named, but neither made nor read.
+    void no_schema_is_called_as_a_word_of_the_servers_language()
+    {
+        const SERVER_DATABASE server = made_server();
+        const QStringList words =
+            server.list("SELECT word FROM pg_get_keywords() WHERE catcode IN ('R', 'T') ORDER BY word");
+        QVERIFY2(words.size() > 90 && words.contains("user"), qPrintable(words.join(' ')));
+
+        GFPDB_SERVER named;
+        named.database = "flash";
+        std::string error;
+        for (const QString& word : words) {
+            named.schema = word.toStdString();
+            QVERIFY2(!gfpdb_check_server(named, error), qPrintable(word));
+        }
+    }
+
+    // Neither of the two databases is used, however well the server is.
+    void a_directory_with_two_databases_is_told()
+    {
+        const SERVER_DATABASE server = made_server();
+        write_file(m_place->path("server/gfpdb.sqlite"), "");
+
+        const TOOL_RUN run = run_tool({"server", "status", at("server/"), "--json"});
+
+        QCOMPARE(run.exit_code, EXIT_DATABASE);
+        QVERIFY2(run.err.contains("/server/gfpdb.sqlite and names a server in gfpdb-server.ini. Move the database to "
+                                  "another directory"),
+                 run.err.constData());
+        QCOMPARE("gfpdb: " + json(run).object().value("problem").toString().toUtf8() + '\n', run.err);
+    }
+
     // As a directory that cannot be written.
     void who_may_only_look_is_told()
     {

@@ -41,6 +41,9 @@ GFPDB_EXPORT bool gfpdb_check_server(const GFPDB_SERVER& server, std::string& er
 GFPDB_EXPORT bool gfpdb_names_server(const std::string& directory);
 // None, with the reason in `error`, when there is no such file or it cannot be used.
 GFPDB_EXPORT std::optional<GFPDB_SERVER> gfpdb_read_server(const std::string& directory, std::string& error);
+// What a user does about a directory that names a server and has a database of its own, which cannot be used: a
+// sentence or two; empty for any other directory.
+GFPDB_EXPORT std::string gfpdb_two_databases(const std::string& directory);
 // Writes the file, or replaces it as a whole. Refused when the directory has a database of its own.
 GFPDB_EXPORT bool gfpdb_write_server(const std::string& directory, const GFPDB_SERVER& server, std::string& error);
 

@@ -5,6 +5,7 @@
 #include "store/server/gfpdb_server_file.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
 #include "whole_file/whole_file.h"
 
@@ -61,9 +62,25 @@ bool is_host(const std::string& host)
     return is_socket ? host.find(',') == std::string::npos : !host.empty() && has_only(host, CHARACTERS);
 }
 
+// The words that PostgreSQL keeps for itself, up to version 17: without quotation marks, nothing can be called so.
+constexpr char RESERVED_WORDS[] =
+    " all analyse analyze and any array as asc asymmetric authorization binary both case cast check "
+    "collate collation column concurrently constraint create cross current_catalog current_date "
+    "current_role current_schema current_time current_timestamp current_user default deferrable desc "
+    "distinct do else end except false fetch for foreign freeze from full grant group having ilike in "
+    "initially inner intersect into is isnull join lateral leading left like limit localtime "
+    "localtimestamp natural not notnull null offset on only or order outer overlaps placing primary "
+    "references returning right select session_user similar some symmetric system_user table tablesample "
+    "then to trailing true union unique user using variadic verbose when where window with ";
+
+bool is_reserved(const std::string& word)
+{
+    return std::string(RESERVED_WORDS).find(' ' + word + ' ') != std::string::npos;
+}
+
 bool is_schema(const std::string& schema)
 {
-    return !schema.empty() && schema.size() <= LONGEST_SCHEMA &&
+    return !schema.empty() && !is_reserved(schema) && schema.size() <= LONGEST_SCHEMA &&
            has_only(schema.substr(0, 1), GFPDB_SMALL_LETTERS "_") &&
            has_only(schema, GFPDB_SMALL_LETTERS GFPDB_DIGITS "_") && schema.compare(0, 3, "pg_") != 0;
 }
@@ -289,6 +306,17 @@ std::optional<GFPDB_SERVER> gfpdb_read_server(const std::string& directory, std:
         return server;
     error = "The file " + path + " cannot be used: " + why + TEXT_END;
     return std::nullopt;
+}
+
+std::string gfpdb_two_databases(const std::string& directory)
+{
+    const std::string embedded = path_in(directory, GFPDB_SQLITE_FILE::NAME);
+    if (!gfpdb_names_server(directory) || !is_there(embedded))
+        return {};
+    return GFPDB_WORDS::say("The directory %1 has the database %2 and names a server in %3. Move the database "
+                            "to another directory, and copy its records from there to the server with "
+                            "\"gfpdb copy\".",
+                            {directory, embedded, GFPDB_SERVER_FILE});
 }
 
 bool gfpdb_write_server(const std::string& directory, const GFPDB_SERVER& server, std::string& error)

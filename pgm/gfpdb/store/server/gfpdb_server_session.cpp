@@ -8,14 +8,11 @@
 #include "store/server/gfpdb_server_changes.h"
 #include "store/server/gfpdb_server_file.h"
 #include "store/server/gfpdb_server_schema.h"
-#include "store/sqlite/gfpdb_sqlite_file.h"
 
 #include <QCoreApplication>
 #include <QThread>
 
 #include <algorithm>
-
-#include <sys/stat.h>
 
 using namespace GFPDB_SERVER_SCHEMA_SQL;
 
@@ -53,12 +50,6 @@ VAIN_ATTEMPT& vain_lock()
 {
     static VAIN_ATTEMPT attempt;
     return attempt;
-}
-
-bool is_there(const std::string& path)
-{
-    struct stat status = {};
-    return ::lstat(path.c_str(), &status) == 0;
 }
 
 } // namespace
@@ -106,16 +97,12 @@ void GFPDB_SERVER_SESSION::reload()
 bool GFPDB_SERVER_SESSION::load_file()
 {
     std::string error;
-    const std::string embedded = m_directory + GFPDB_SQLITE_FILE::NAME;
     const std::optional<GFPDB_SERVER> server = gfpdb_read_server(m_directory, error);
     if (!server)
         return set_unusable(error);
-    if (is_there(embedded))
-        return set_unusable(
-            GFPDB_WORDS::say("The directory %1 has the database %2 and names a server in %3. Move the database "
-                             "to another directory, and copy its records from there to the server with "
-                             "\"gfpdb copy\".",
-                             {m_directory, embedded, GFPDB_SERVER_FILE}));
+    const std::string two_databases = gfpdb_two_databases(m_directory);
+    if (!two_databases.empty())
+        return set_unusable(two_databases);
     if (!gfpdb_is_same_server(m_server, *server)) {
         m_server = *server;
         m_connection = std::make_unique<GFPDB_SERVER_CONNECTION>(m_server, m_directory);
