@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>Unter anderem &amp;Namen:</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Neuer Name</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Die Vorlage „%1“ wird wieder, was sie bis %2 war (Stand %3).</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Der Baustein „%1“ wird wieder, was er bis %2 war (Stand %3).</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Zurückholen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>&amp;Ersetzen; er kommt in den Verlauf</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>&amp;Unter seinem Namen</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>„%1“ wurde zuletzt gespeichert am %2.</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>„%1“ wurde zuletzt gespeichert am %2 von %3.</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>Ein Baustein hat jetzt diesen Namen. Eine Vorlage kann nicht heißen wie ein Baustein: Geben Sie ihr einen anderen.</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>Eine Vorlage hat jetzt diesen Namen. Ein Baustein kann nicht heißen wie eine Vorlage: Geben Sie ihm einen anderen.</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>Geben Sie den neuen Namen ein.</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>Es gibt keine Unterschiede.</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Unterschiede: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>&amp;Nur Unterschiede</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>&amp;Voriger Unterschied</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>Näc&amp;hster Unterschied</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>Als &amp;Diff kopieren</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1: „%2“ und „%3“</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>Verschieden</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>Nur links</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>Nur rechts</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>Gleich</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,7 +276,7 @@
         <translation>Bausteine</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
+        <source>Da&amp;tabase</source>
         <translation>&amp;Datenbank</translation>
     </message>
     <message>
@@ -505,6 +618,159 @@ Die eingebauten Bausteine sind öffentliche Angaben über Flash-Bausteine. Die N
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>Mit dem &amp;nächsten Stand vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>Mit dem &amp;vorigen Stand vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>Mit dem &amp;aktuellen Stand vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>Die &amp;beiden gewählten Stände vergleichen</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Gelöscht</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Zurückgebracht</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>Dieser Stand wurde durch einen anderen ersetzt.</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>Dieser Stand wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>Dieser Stand wurde gelöscht und zurückgebracht, weil er nicht ersetzt werden konnte.</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Baustein</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Wann</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>Z&amp;urückholen...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>Bausteine und Vorlagen</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Bausteine</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Vorlagen</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>Na&amp;me:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>Be&amp;nutzer:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>A&amp;rt:</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>Stände: %1, die Suche läuft...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>Stände: mehr als %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>Stände: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>Vor diesem Stand gibt es keinen.</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>Nach diesem Stand gibt es keinen: Er wurde gelöscht oder umbenannt.</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>Es gibt keinen aktuellen Stand: Er wurde gelöscht oder umbenannt.</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>Ein Stand wurde aus dem Verlauf entfernt.</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Die eingebauten Bausteine sind öffentliche Angaben über Flash-Bausteine. Die N
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>Eingebauter Baustein</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>Eigener Baustein</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Quad-I/O-Ablauf</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Single-I/O-Ablauf</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>Der Ablauf ist nicht lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1, Stand %2 (bis %3)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1, jetzt</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>Con &amp;otro nombre:</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Recuperar</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nombre nuevo</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>La plantilla «%1» vuelve a ser la que era hasta %2 (estado %3).</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>El dispositivo «%1» vuelve a ser el que era hasta %2 (estado %3).</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Recuperar</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>Ree&amp;mplazar; el actual pasa al historial</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>Con s&amp;u nombre</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>El «%1» actual se guardó el %2.</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>El «%1» actual lo guardó el %2 %3.</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>Ahora un dispositivo tiene este nombre. Una plantilla no puede llamarse como un dispositivo: dele otro.</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>Ahora una plantilla tiene este nombre. Un dispositivo no puede llamarse como una plantilla: dele otro.</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>Introduzca el nombre nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>No hay diferencias.</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Diferencias: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>S&amp;olo las diferencias</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>Diferencia &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>Diferencia &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>Copiar como &amp;diff</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1: «%2» y «%3»</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>Diferente</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>Solo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>Solo a la derecha</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>Igual</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,7 +276,7 @@
         <translation>Dispositivos</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
+        <source>Da&amp;tabase</source>
         <translation>Base de &amp;datos</translation>
     </message>
     <message>
@@ -505,6 +618,159 @@ Los dispositivos integrados son datos públicos sobre memorias flash. Los nombre
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>Comparar con el estado &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>Comparar con el estado &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>Comparar con el estado ac&amp;tual</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>Comparar los &amp;dos estados seleccionados</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Repuesto</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>Este estado fue reemplazado por otro.</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>Este estado fue eliminado.</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>Este estado fue eliminado y repuesto porque no se pudo reemplazar.</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Plantilla</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambio</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familia</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Comparar</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>&amp;Recuperar...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>Dispositivos y plantillas</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Plantillas</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>No&amp;mbre:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Usuario:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>Ti&amp;po:</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>Estados: %1, buscando...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>Estados: más de %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>Estados: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>No hay ningún estado antes de este.</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>No hay ningún estado después de este: se eliminó o se cambió de nombre.</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>No hay estado actual: se eliminó o se cambió de nombre.</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>Se quitó un estado del historial.</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Los dispositivos integrados son datos públicos sobre memorias flash. Los nombre
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>No se puede escribir el archivo %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Plantilla</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>Dispositivo integrado</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>Dispositivo propio</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familia</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propiedades</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Flujo Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Flujo Single I/O</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>No se puede leer el flujo.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1, estado %2 (hasta %3)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1, ahora</translation>
     </message>
 </context>
 <context>

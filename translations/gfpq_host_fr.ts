@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>Sous un autre &amp;nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nouveau nom</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Le modèle «&#xa0;%1&#xa0;» redevient ce qu’il était jusqu’au %2 (état %3).</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Le composant «&#xa0;%1&#xa0;» redevient ce qu’il était jusqu’au %2 (état %3).</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>Re&amp;mplacer&#xa0;; l’actuel passe dans l’historique</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>&amp;Sous son nom</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>Le «&#xa0;%1&#xa0;» actuel a été enregistré le %2.</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>Le «&#xa0;%1&#xa0;» actuel a été enregistré le %2 par %3.</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>Un composant porte maintenant ce nom. Un modèle ne peut pas porter le nom d’un composant&#xa0;: donnez-lui-en un autre.</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>Un modèle porte maintenant ce nom. Un composant ne peut pas porter le nom d’un modèle&#xa0;: donnez-lui-en un autre.</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>Saisissez le nouveau nom.</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>Comparer</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>Il n’y a pas de différences.</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Différences&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>Différences &amp;seulement</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>Différence &amp;précédente</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>Différence s&amp;uivante</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>Copier comme &amp;diff</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» et «&#xa0;%3&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>Différent</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>À gauche seulement</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>À droite seulement</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>Identique</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,7 +276,7 @@
         <translation>Composants</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
+        <source>Da&amp;tabase</source>
         <translation>Base de &amp;données</translation>
     </message>
     <message>
@@ -505,6 +618,159 @@ Les composants intégrés sont des données publiques sur les composants flash. 
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>Comparer à l’état &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>Comparer à l’état &amp;précédent</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>Comparer à l’état &amp;actuel</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>Comparer les &amp;deux états sélectionnés</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Remis en place</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>Cet état a été remplacé par un autre.</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>Cet état a été supprimé.</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>Cet état a été supprimé, puis remis en place parce qu’il n’a pas pu être remplacé.</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Composant</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quand</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Changement</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famille</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>Com&amp;parer</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>Ré&amp;tablir...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>Composants et modèles</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Composants</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Modèles</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>No&amp;m&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>T&amp;ype&#xa0;:</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>États&#xa0;: %1, recherche en cours...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>États&#xa0;: plus de %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>États&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>Il n’y a pas d’état avant celui-ci.</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>Il n’y a pas d’état après celui-ci&#xa0;: il a été supprimé ou renommé.</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>Il n’y a pas d’état actuel&#xa0;: il a été supprimé ou renommé.</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>Un état a été retiré de l’historique.</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Les composants intégrés sont des données publiques sur les composants flash. 
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>Composant intégré</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>Composant personnel</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famille</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Flot Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Flot Single I/O</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>Le flot est illisible.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1, état %2 (jusqu’au %3)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1, maintenant</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>Con un altro &amp;nome:</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nuovo nome</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Il modello «%1» torna a essere quello che era fino al %2 (stato %3).</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Il dispositivo «%1» torna a essere quello che era fino al %2 (stato %3).</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>&amp;Sostituisci; quello attuale passa nella cronologia</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>Con il s&amp;uo nome</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>L’attuale «%1» è stato salvato il %2.</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>L’attuale «%1» è stato salvato il %2 da %3.</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>Ora un dispositivo ha questo nome. Un modello non può avere il nome di un dispositivo: dargliene un altro.</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>Ora un modello ha questo nome. Un dispositivo non può avere il nome di un modello: dargliene un altro.</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>Immettere il nuovo nome.</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>Confronta</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>Non ci sono differenze.</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Differenze: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>Solo &amp;differenze</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>Differenza &amp;precedente</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>Differenza &amp;successiva</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>Copia co&amp;me diff</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1: «%2» e «%3»</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>Diverso</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>Solo a sinistra</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>Solo a destra</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>Uguale</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,7 +276,7 @@
         <translation>Dispositivi</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
+        <source>Da&amp;tabase</source>
         <translation>&amp;Database</translation>
     </message>
     <message>
@@ -443,7 +556,7 @@
     <name>HELP_MENU</name>
     <message>
         <source>&amp;Help</source>
-        <translation>Ai&amp;uto</translation>
+        <translation>&amp;Aiuto</translation>
     </message>
     <message>
         <source>&amp;User Guide</source>
@@ -502,6 +615,159 @@ I dispositivi integrati sono dati pubblici sui componenti flash. I nomi apparten
     <message>
         <source>About</source>
         <translation>Informazioni</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>Confronta con lo stato &amp;successivo</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>Confronta con lo stato &amp;precedente</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>Confronta con lo stato &amp;attuale</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>Confronta i &amp;due stati selezionati</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>Modificato</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Eliminato</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Rimesso</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>Questo stato è stato sostituito da un altro.</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>Questo stato è stato eliminato.</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>Questo stato è stato eliminato e rimesso perché non poteva essere sostituito.</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quando</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famiglia</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modalità</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Confronta</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>&amp;Ripristina...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>Dispositivi e modelli</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Modelli</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>&amp;Nome:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utente:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>Ti&amp;po:</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>Stati: %1, ricerca in corso...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>Stati: più di %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>Stati: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>Non c’è uno stato prima di questo.</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>Non c’è uno stato dopo questo: è stato eliminato o rinominato.</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>Non c’è uno stato attuale: è stato eliminato o rinominato.</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>Uno stato è stato rimosso dalla cronologia.</translation>
     </message>
 </context>
 <context>
@@ -804,6 +1070,60 @@ I dispositivi integrati sono dati pubblici sui componenti flash. I nomi apparten
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Impossibile scrivere il file %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>Dispositivo integrato</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>Dispositivo proprio</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famiglia</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modalità</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Proprietà</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Flusso Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Flusso Single I/O</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>Impossibile leggere il flusso.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1, stato %2 (fino al %3)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1, adesso</translation>
     </message>
 </context>
 <context>

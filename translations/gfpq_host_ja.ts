@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>別の名前で(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>新しい名前</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>テンプレート「%1」は %2 までの内容に戻ります (状態 %3)。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>デバイス「%1」は %2 までの内容に戻ります (状態 %3)。</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>元に戻す(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>置き換える; 現在のものは履歴に入ります(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>元の名前で(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>現在の「%1」は %2 に保存されました。</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>現在の「%1」は %2 に %3 によって保存されました。</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>現在はデバイスがこの名前です。テンプレートはデバイスと同じ名前にできません: 別の名前を付けてください。</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>現在はテンプレートがこの名前です。デバイスはテンプレートと同じ名前にできません: 別の名前を付けてください。</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>新しい名前を入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>比較</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>相違はありません。</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>相違: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>相違のみ(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>前の相違(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>次の相違(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>差分としてコピー(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 と %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1: 「%2」と「%3」</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>相違あり</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>左側のみ</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>右側のみ</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>同じ</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,8 +276,8 @@
         <translation>デバイス</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
-        <translation>データベース(&amp;B)</translation>
+        <source>Da&amp;tabase</source>
+        <translation>データベース(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -505,6 +618,159 @@ Qt %3
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>次の状態と比較(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>前の状態と比較(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>現在の状態と比較(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>選択した 2 つの状態を比較(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>変更日時</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>この状態は別の状態に置き換えられました。</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>この状態は削除されました。</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>この状態は削除されましたが、置き換えられなかったため元に戻されました。</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>テンプレート</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>変更内容</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>ファミリー</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>比較(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>元に戻す(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>デバイスとテンプレート</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>テンプレート</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>名前(&amp;M):</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>ユーザー(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>種類(&amp;K):</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>状態: %1、検索中...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>状態: %1 を超える</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>状態: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>これより前の状態はありません。</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>これより後の状態はありません: 削除または名前変更されました。</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>現在の状態はありません: 削除または名前変更されました。</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>状態が履歴から削除されました。</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Qt %3
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>ファイル %1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>テンプレート</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>組み込みデバイス</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>独自のデバイス</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>ファミリー</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>クアッド I/O のフロー</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>シングル I/O のフロー</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>フローを読み込めません。</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1、状態 %2 (%3 まで)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1、現在</translation>
     </message>
 </context>
 <context>

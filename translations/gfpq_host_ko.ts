@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>다른 이름으로(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>되돌리기</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>새 이름</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>템플릿 ‘%1’이(가) %2까지의 내용으로 되돌아갑니다(상태 %3).</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>디바이스 ‘%1’이(가) %2까지의 내용으로 되돌아갑니다(상태 %3).</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>되돌리기(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>바꾸기; 현재 상태는 이력에 남습니다(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>원래 이름으로(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>현재 ‘%1’은(는) %2에 저장되었습니다.</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>현재 ‘%1’은(는) %2에 %3 사용자가 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>이제 디바이스가 이 이름을 사용합니다. 템플릿은 디바이스와 같은 이름을 쓸 수 없습니다: 다른 이름을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>이제 템플릿이 이 이름을 사용합니다. 디바이스는 템플릿과 같은 이름을 쓸 수 없습니다: 다른 이름을 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>새 이름을 입력하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>비교</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>차이점이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>차이점: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>차이점만(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>이전 차이점(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>다음 차이점(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>diff로 복사(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 및 %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1: ‘%2’ 및 ‘%3’</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>다름</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>왼쪽에만 있음</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>오른쪽에만 있음</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>같음</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,8 +276,8 @@
         <translation>디바이스</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
-        <translation>데이터베이스(&amp;B)</translation>
+        <source>Da&amp;tabase</source>
+        <translation>데이터베이스(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -505,6 +618,159 @@ Qt %3
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>다음 상태와 비교(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>이전 상태와 비교(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>현재 상태와 비교(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>선택한 두 상태 비교(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>변경 시각</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>삭제됨</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>되돌림</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>이 상태는 다른 상태로 바뀌었습니다.</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>이 상태는 삭제되었습니다.</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>이 상태는 삭제되었지만 바꿀 수 없어 되돌려졌습니다.</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>템플릿</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>디바이스</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>사용자</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>변경</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>제품군</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>모드</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>번호</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>비교(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>되돌리기(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>디바이스 및 템플릿</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>디바이스</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>템플릿</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>이력</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>이름(&amp;M):</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>사용자(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>종류(&amp;K):</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>상태: %1, 검색 중...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>상태: %1개 초과</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>상태: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>이 상태 이전의 상태가 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>이 상태 이후의 상태가 없습니다: 삭제되었거나 이름이 바뀌었습니다.</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>현재 상태가 없습니다: 삭제되었거나 이름이 바뀌었습니다.</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>상태가 이력에서 제거되었습니다.</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Qt %3
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>파일 %1에 쓸 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>템플릿</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>내장 디바이스</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>사용자 디바이스</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>제품군</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>모드</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>속성</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>쿼드 I/O 흐름</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>싱글 I/O 흐름</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>흐름을 읽을 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1, 상태 %2(%3까지)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1, 현재</translation>
     </message>
 </context>
 <context>

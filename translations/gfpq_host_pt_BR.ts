@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>Com &amp;outro nome:</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nome novo</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>O modelo “%1” volta a ser o que era até %2 (estado %3).</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>O dispositivo “%1” volta a ser o que era até %2 (estado %3).</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>&amp;Substituir; o atual vai para o histórico</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>Com o se&amp;u nome</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>O “%1” atual foi salvo em %2.</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>O “%1” atual foi salvo em %2 por %3.</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>Agora um dispositivo tem este nome. Um modelo não pode ter o nome de um dispositivo: dê-lhe outro.</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>Agora um modelo tem este nome. Um dispositivo não pode ter o nome de um modelo: dê-lhe outro.</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>Digite o nome novo.</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>Não há diferenças.</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Diferenças: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>S&amp;ó as diferenças</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>Diferença &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>&amp;Próxima diferença</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>Copiar como &amp;diff</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1: “%2” e “%3”</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>Diferente</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>Só à esquerda</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>Só à direita</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>Igual</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,7 +276,7 @@
         <translation>Dispositivos</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
+        <source>Da&amp;tabase</source>
         <translation>Banco de &amp;dados</translation>
     </message>
     <message>
@@ -505,6 +618,159 @@ Os dispositivos integrados são dados públicos sobre componentes flash. Os nome
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>Comparar com o &amp;próximo estado</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>Comparar com o estado &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>Comparar com o estado a&amp;tual</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>Comparar os &amp;dois estados selecionados</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>Alterado</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Excluído</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Reposto</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>Este estado foi substituído por outro.</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>Este estado foi excluído.</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>Este estado foi excluído e reposto porque não pôde ser substituído.</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quando</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuário</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Alteração</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Família</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Comparar</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>&amp;Restaurar...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>Dispositivos e modelos</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Modelos</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>No&amp;me:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Usuário:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>Ti&amp;po:</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>Estados: %1, procurando...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>Estados: mais de %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>Estados: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>Não há estado antes deste.</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>Não há estado depois deste: foi excluído ou renomeado.</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>Não há estado atual: foi excluído ou renomeado.</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>Um estado foi removido do histórico.</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Os dispositivos integrados são dados públicos sobre componentes flash. Os nome
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>O arquivo %1 não pode ser gravado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>Dispositivo integrado</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>Dispositivo próprio</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Família</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriedades</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Fluxo Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Fluxo Single I/O</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>Não é possível ler o fluxo.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1, estado %2 (até %3)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1, agora</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>Под &amp;другим именем:</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Восстановление</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Новое имя</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Шаблон «%1» снова станет таким, каким был до %2 (состояние %3).</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>Микросхема «%1» снова станет такой, какой была до %2 (состояние %3).</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>&amp;Восстановить</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>&amp;Заменить; текущее состояние попадёт в историю</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>&amp;Под своим именем</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>Текущее состояние «%1» сохранено %2.</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>Текущее состояние «%1» сохранено %2, пользователь: %3.</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>Теперь это имя носит микросхема. У шаблона не может быть имени микросхемы: дайте ему другое.</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>Теперь это имя носит шаблон. У микросхемы не может быть имени шаблона: дайте ей другое.</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>Введите новое имя.</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>Сравнение</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>Различий нет.</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>Различия: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>&amp;Только различия</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>&amp;Предыдущее различие</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>&amp;Следующее различие</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>&amp;Копировать как diff</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1: «%2» и «%3»</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>Различается</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>Только слева</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>Только справа</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>Совпадает</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,7 +276,7 @@
         <translation>Микросхемы</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
+        <source>Da&amp;tabase</source>
         <translation>База &amp;данных</translation>
     </message>
     <message>
@@ -505,6 +618,159 @@ Qt %3
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>Сравнить со &amp;следующим состоянием</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>Сравнить с &amp;предыдущим состоянием</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>Сравнить с &amp;текущим состоянием</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>Сравнить &amp;два выбранных состояния</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>Изменено</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Удалено</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Возвращено</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>Это состояние было заменено другим.</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>Это состояние было удалено.</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>Это состояние было удалено и возвращено, так как его не удалось заменить.</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Микросхема</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Когда</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Пользователь</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Изменение</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Семейство</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>№</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>Ср&amp;авнить</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>В&amp;осстановить...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>Микросхемы и шаблоны</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Микросхемы</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Шаблоны</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>&amp;Имя:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Пользователь:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>&amp;Вид:</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>Состояния: %1, идёт поиск...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>Состояния: более %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>Состояния: %1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>До этого состояния других не было.</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>После этого состояния других не было: запись удалена или переименована.</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>Текущего состояния нет: запись удалена или переименована.</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>Состояние удалено из истории.</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Qt %3
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>Не удаётся записать файл %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>Встроенная микросхема</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>Своя микросхема</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Семейство</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Свойства</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Алгоритм Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Алгоритм Single I/O</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>Не удаётся прочитать алгоритм.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1, состояние %2 (до %3)</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1, сейчас</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>使用其他名称(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>新名称</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>模板“%1”将恢复为 %2 之前的内容（状态 %3）。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>器件“%1”将恢复为 %2 之前的内容（状态 %3）。</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>恢复(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>替换；当前状态进入历史记录(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>使用原名称(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>当前的“%1”保存于 %2。</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>当前的“%1”由 %3 保存于 %2。</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>现在有器件使用此名称。模板不能与器件同名：请另取名称。</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>现在有模板使用此名称。器件不能与模板同名：请另取名称。</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>请输入新名称。</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>没有差异。</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>差异：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>仅差异(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>上一处差异(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>下一处差异(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>复制为 diff(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1：“%2”和“%3”</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>仅左侧</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>仅右侧</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>相同</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,8 +276,8 @@
         <translation>器件</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
-        <translation>数据库(&amp;B)</translation>
+        <source>Da&amp;tabase</source>
+        <translation>数据库(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -505,6 +618,159 @@ Qt %3
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>与下一状态比较(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>与上一状态比较(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>与当前状态比较(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>比较所选的两个状态(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>更改时间</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>已删除</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>已放回</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>此状态已被另一状态替换。</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>此状态已被删除。</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>此状态曾被删除，因无法替换而放回。</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>器件</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>编号</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>比较(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>恢复(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>器件和模板</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>器件</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>名称(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>用户(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>类型(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>状态：%1，正在搜索...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>状态：超过 %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>状态：%1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>此状态之前没有其他状态。</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>此状态之后没有其他状态：已被删除或重命名。</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>没有当前状态：已被删除或重命名。</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>一个状态已从历史记录中移除。</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Qt %3
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>无法写入文件 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>内置器件</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>自有器件</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>四线 I/O 流程</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>单线 I/O 流程</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>无法读取流程。</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1，状态 %2（至 %3）</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1，当前</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,119 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
+    <name>BRING_BACK_DIALOG</name>
+    <message>
+        <source>Under &amp;another name:</source>
+        <translation>使用其他名稱(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>新名稱</translation>
+    </message>
+    <message>
+        <source>The template &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>範本「%1」將還原為 %2 之前的內容（狀態 %3）。</translation>
+    </message>
+    <message>
+        <source>The device &quot;%1&quot; becomes again what it was until %2 (state %3).</source>
+        <translation>元件「%1」將還原為 %2 之前的內容（狀態 %3）。</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back</source>
+        <translation>還原(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it; it goes into the history</source>
+        <translation>取代；目前狀態進入歷史記錄(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Under its name</source>
+        <translation>使用原名稱(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2.</source>
+        <translation>目前的「%1」儲存於 %2。</translation>
+    </message>
+    <message>
+        <source>The current &quot;%1&quot; was saved on %2 by %3.</source>
+        <translation>目前的「%1」由 %3 儲存於 %2。</translation>
+    </message>
+    <message>
+        <source>A device has this name now. A template cannot have the name of a device: give it another one.</source>
+        <translation>現在有元件使用此名稱。範本不能與元件同名：請另取名稱。</translation>
+    </message>
+    <message>
+        <source>A template has this name now. A device cannot have the name of a template: give it another one.</source>
+        <translation>現在有範本使用此名稱。元件不能與範本同名：請另取名稱。</translation>
+    </message>
+    <message>
+        <source>Enter the new name.</source>
+        <translation>請輸入新名稱。</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_DIALOG</name>
+    <message>
+        <source>Compare</source>
+        <translation>比較</translation>
+    </message>
+    <message>
+        <source>There are no differences.</source>
+        <translation>沒有差異。</translation>
+    </message>
+    <message>
+        <source>Differences: %1</source>
+        <translation>差異：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Only differences</source>
+        <translation>僅差異(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Difference</source>
+        <translation>上一處差異(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Difference</source>
+        <translation>下一處差異(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy as &amp;Diff</source>
+        <translation>複製為 diff(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1：「%2」和「%3」</translation>
+    </message>
+</context>
+<context>
+    <name>COMPARE_MODEL</name>
+    <message>
+        <source>Different</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>Only on the left</source>
+        <translation>僅左側</translation>
+    </message>
+    <message>
+        <source>Only on the right</source>
+        <translation>僅右側</translation>
+    </message>
+    <message>
+        <source>The same</source>
+        <translation>相同</translation>
+    </message>
+</context>
+<context>
     <name>CONNECTION_PANEL</name>
     <message>
         <source>Emulated chip</source>
@@ -163,8 +276,8 @@
         <translation>元件</translation>
     </message>
     <message>
-        <source>Data&amp;base</source>
-        <translation>資料庫(&amp;B)</translation>
+        <source>Da&amp;tabase</source>
+        <translation>資料庫(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -505,6 +618,159 @@ Qt %3
     </message>
 </context>
 <context>
+    <name>HISTORY_MENU</name>
+    <message>
+        <source>Compare with the &amp;Next State</source>
+        <translation>與下一狀態比較(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Previous State</source>
+        <translation>與上一狀態比較(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Compare with the &amp;Current State</source>
+        <translation>與目前狀態比較(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Compare the Two &amp;Selected States</source>
+        <translation>比較所選的兩個狀態(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_MODEL</name>
+    <message>
+        <source>Changed</source>
+        <translation>變更時間</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>已刪除</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>已放回</translation>
+    </message>
+    <message>
+        <source>This state was replaced by another one.</source>
+        <translation>此狀態已被另一狀態取代。</translation>
+    </message>
+    <message>
+        <source>This state was deleted.</source>
+        <translation>此狀態已被刪除。</translation>
+    </message>
+    <message>
+        <source>This state was deleted, and put back because it could not be replaced.</source>
+        <translation>此狀態曾被刪除，因無法取代而放回。</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>範本</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>元件</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>使用者</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>變更</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>類型</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>編號</translation>
+    </message>
+</context>
+<context>
+    <name>HISTORY_PAGE</name>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>比較(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Bring Back...</source>
+        <translation>還原(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Devices and templates</source>
+        <translation>元件和範本</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>元件</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>範本</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>歷史記錄</translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation>名稱(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>使用者(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>類型(&amp;K)：</translation>
+    </message>
+    <message>
+        <source>States: %1, searching...</source>
+        <translation>狀態：%1，正在搜尋...</translation>
+    </message>
+    <message>
+        <source>States: more than %1</source>
+        <translation>狀態：超過 %1</translation>
+    </message>
+    <message>
+        <source>States: %1</source>
+        <translation>狀態：%1</translation>
+    </message>
+    <message>
+        <source>There is no state before this one.</source>
+        <translation>此狀態之前沒有其他狀態。</translation>
+    </message>
+    <message>
+        <source>There is no state after this one: it was deleted or renamed.</source>
+        <translation>此狀態之後沒有其他狀態：已被刪除或重新命名。</translation>
+    </message>
+    <message>
+        <source>There is no current state: it was deleted or renamed.</source>
+        <translation>沒有目前狀態：已被刪除或重新命名。</translation>
+    </message>
+    <message>
+        <source>A state was removed from the history.</source>
+        <translation>一個狀態已從歷史記錄中移除。</translation>
+    </message>
+</context>
+<context>
     <name>MODULE_LOADER</name>
     <message>
         <source>The dialog module was not found. Searched:
@@ -804,6 +1070,60 @@ Qt %3
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>無法寫入檔案 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_COMPARISON</name>
+    <message>
+        <source>Kind</source>
+        <translation>類型</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>範本</translation>
+    </message>
+    <message>
+        <source>Built-in device</source>
+        <translation>內建元件</translation>
+    </message>
+    <message>
+        <source>Own device</source>
+        <translation>自有元件</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>屬性</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>四線 I/O 流程</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>單線 I/O 流程</translation>
+    </message>
+    <message>
+        <source>The flow cannot be read.</source>
+        <translation>無法讀取流程。</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_STATES</name>
+    <message>
+        <source>%1, state %2 (until %3)</source>
+        <translation>%1，狀態 %2（至 %3）</translation>
+    </message>
+    <message>
+        <source>%1, now</source>
+        <translation>%1，目前</translation>
     </message>
 </context>
 <context>

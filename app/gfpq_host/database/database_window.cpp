@@ -103,7 +103,7 @@ void DATABASE_WINDOW::create_menus(const DIALOG_OPTIONS& options)
     m_database_menu = new DATABASE_MENU(this);
     m_edit_menu = new DATABASE_EDIT_MENU(this, &table, options.enable_edit);
     m_device_menu = new DATABASE_DEVICE_MENU(this, &table, options.enable_edit);
-    m_database_menu->setTitle(tr("Data&base"));
+    m_database_menu->setTitle(tr("Da&tabase"));
     m_edit_menu->setTitle(tr("&Edit"));
     m_device_menu->setTitle(tr("&Device"));
     menuBar()->addMenu(m_database_menu);

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -100,13 +101,15 @@ QAction* HISTORY_PAGE::add_action(const QString& text, const char* object_name, 
 
 void HISTORY_PAGE::create_actions()
 {
-    QAction* after = add_action(tr("Compare with the &Next State"), "m_compare_after_action", &HISTORY_PAGE::compare_after);
-    QAction* before =
-        add_action(tr("Compare with the &Previous State"), "m_compare_before_action", &HISTORY_PAGE::compare_before);
-    QAction* current =
-        add_action(tr("Compare with the &Current State"), "m_compare_current_action", &HISTORY_PAGE::compare_current);
+    QAction* after = add_action(QCoreApplication::translate("HISTORY_MENU", "Compare with the &Next State"),
+                                "m_compare_after_action", &HISTORY_PAGE::compare_after);
+    QAction* before = add_action(QCoreApplication::translate("HISTORY_MENU", "Compare with the &Previous State"),
+                                 "m_compare_before_action", &HISTORY_PAGE::compare_before);
+    QAction* current = add_action(QCoreApplication::translate("HISTORY_MENU", "Compare with the &Current State"),
+                                  "m_compare_current_action", &HISTORY_PAGE::compare_current);
     m_compare_selected_action =
-        add_action(tr("Compare the Two &Selected States"), "m_compare_selected_action", &HISTORY_PAGE::compare_selected);
+        add_action(QCoreApplication::translate("HISTORY_MENU", "Compare the Two &Selected States"),
+                   "m_compare_selected_action", &HISTORY_PAGE::compare_selected);
     QAction* back = add_action(tr("&Bring Back..."), "m_bring_back_action", &HISTORY_PAGE::bring_back);
     m_state_actions = {after, before, current, back};
     auto* menu = new QMenu(this);
