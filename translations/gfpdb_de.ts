@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>eingegeben</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>Der Befehl benutzt vier Leitungen, der Single-I/O-Ablauf hat aber nur eine.</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>Das Image wird mit einer Maske verglichen: Bytes mit Bits, die die Maske löscht, stimmen nie überein.</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>Die erwarteten Daten haben Bits, die die Maske löscht: Sie stimmen nie überein.</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>Die Maske hat kein Bit: Alles, was gelesen wird, stimmt überein.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>Die Seitengröße ist %1, der Baustein hat aber Seiten mit %2 Bytes: Was über das Ende einer Seite hinausgeht, überschreibt ihren Anfang.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>Die Seitengröße ist %1, der Baustein hat aber Seiten mit %2 Bytes: Das Programmieren dauert länger als nötig.</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>Daten werden in einem Vorgang geändert, der auch ausgeführt wird, wenn der Benutzer weder Program noch Erase verlangt hat.</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>Drei Adressbytes reichen für %1 Bytes, die Aktion umfasst aber %2.</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>Diesen Befehl gibt es nicht mit der Busbreite %1. Erlaubt: %2.</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>Das ist ein Befehl, der programmiert.</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>Das ist ein Befehl, der Daten liest.</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>Das ist ein Befehl, der löscht.</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>Der Befehl hat keine Dummy-Takte.</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>Der Befehl hat mindestens zwei Dummy-Takte, seine Modus-Takte.</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>Nichts in der Schleife hängt von ihrem Schritt ab: Jeder Schritt tut dasselbe.</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>Der Baustein hat einen Die: Die Schleife hat einen Schritt.</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>Die ID wird nicht geprüft: Der Ablauf ändert jeden Baustein, der angeschlossen ist.</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>Der Baustein wird geändert, bevor seine ID geprüft ist.</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>Hier wird die 4-Byte-Adressierung eingeschaltet, und Termination schaltet sie nicht aus.</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>Kein Befehl benutzt diese Schreibfreigabe.</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>Der Baustein ist im Deep-Power-Down und ignoriert den Befehl.</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>Der Befehl kommt nach dem Reset, der den Baustein in den Endzustand bringt.</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>Der Befehl benutzt vier Leitungen, und nichts davor setzt oder prüft das Quad-Enable-Bit.</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>Es wird %1 µs gewartet, statt zu fragen, ob der Baustein bereit ist.</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>Nichts wartet, bis der Baustein bereit ist: Er ignoriert die folgenden Befehle.</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>Davor fehlt die Schreibfreigabe: Der Baustein ignoriert den Befehl.</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>Der Befehl hat keine Adresse, die Aktion sendet aber eine.</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>Der Befehl hat eine Adresse, die Aktion sendet aber keine.</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>Der Befehl hat immer vier Adressbytes, die Aktion sendet aber drei.</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>Die Aktion sendet vier Adressbytes, aber nichts davor schaltet die 4-Byte-Adressierung ein.</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>Die Aktion sendet drei Adressbytes, davor wurde aber die 4-Byte-Adressierung eingeschaltet.</translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>introducido</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>El comando usa cuatro líneas, pero el flujo Single I/O tiene una.</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>La imagen se compara con una máscara: los bytes con bits que la máscara borra nunca coinciden.</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>Los datos esperados tienen bits que la máscara borra: nunca coinciden.</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>La máscara no tiene ningún bit: todo lo que se lee coincide.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>El tamaño de página es %1, pero el dispositivo tiene páginas de %2 bytes: lo que pasa del final de una página sobrescribe su inicio.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>El tamaño de página es %1, pero el dispositivo tiene páginas de %2 bytes: la programación tarda más de lo necesario.</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>Se modifican datos en una operación que también se ejecuta cuando el usuario no ha pedido ni Program ni Erase.</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>Tres bytes de dirección alcanzan %1 bytes, pero la acción abarca %2.</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>El comando no tiene el ancho de bus %1. Permitido: %2.</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>Este es un comando que programa.</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>Este es un comando que lee datos.</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>Este es un comando que borra.</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>El comando no tiene ciclos dummy.</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>El comando tiene al menos dos ciclos dummy, sus ciclos de modo.</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>Nada en el bucle depende de su paso: todos los pasos hacen lo mismo.</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>El dispositivo tiene un die: el bucle tiene un paso.</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>No se comprueba el ID: el flujo modifica cualquier chip que esté conectado.</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>El chip se modifica antes de comprobar su ID.</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>Aquí se entra en el direccionamiento de 4 bytes, y Termination no sale de él.</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>Ningún comando usa esta habilitación de escritura.</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>El chip está en deep power-down e ignora el comando.</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>El comando sigue al reset que deja el chip en su estado final.</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>El comando usa cuatro líneas y nada antes de él activa ni comprueba el bit quad enable.</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>Se esperan %1 µs en lugar de preguntar si el chip está listo.</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>Nada espera a que el chip esté listo: ignora los comandos siguientes.</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>No hay habilitación de escritura antes: el chip ignora el comando.</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>El comando no tiene dirección, pero la acción envía una.</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>El comando tiene dirección, pero la acción no envía ninguna.</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>El comando siempre tiene cuatro bytes de dirección, pero la acción envía tres.</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>La acción envía cuatro bytes de dirección, pero nada antes de ella entra en el direccionamiento de 4 bytes.</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>La acción envía tres bytes de dirección, pero antes se ha entrado en el direccionamiento de 4 bytes.</translation>
+    </message>
 </context>
 </TS>

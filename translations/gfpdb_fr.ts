@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>saisi</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>La commande utilise quatre lignes, mais le flot Single I/O n’en a qu’une.</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>L’image est comparée avec un masque&#xa0;: ses octets dont le masque efface des bits ne correspondent jamais.</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>Les données attendues ont des bits que le masque efface&#xa0;: elles ne correspondent jamais.</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>Le masque n’a aucun bit&#xa0;: tout ce qui est lu correspond.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>La taille de page est %1, mais le composant a des pages de %2 octets&#xa0;: ce qui dépasse la fin d’une page en écrase le début.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>La taille de page est %1, mais le composant a des pages de %2 octets&#xa0;: la programmation dure plus longtemps que nécessaire.</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>Des données sont modifiées dans une opération qui est aussi exécutée quand l’utilisateur n’a demandé ni Program ni Erase.</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>Trois octets d’adresse atteignent %1 octets, mais l’action porte sur %2.</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>La commande n’a pas la largeur de bus %1. Autorisé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>C’est une commande qui programme.</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>C’est une commande qui lit des données.</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>C’est une commande qui efface.</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>La commande n’a pas de cycles dummy.</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>La commande a au moins deux cycles dummy, ses cycles de mode.</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>Rien dans la boucle ne dépend de son pas&#xa0;: chaque pas fait la même chose.</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>Le composant a un die&#xa0;: la boucle a un pas.</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>L’ID n’est pas vérifié&#xa0;: le flot modifie n’importe quelle puce connectée.</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>La puce est modifiée avant que son ID soit vérifié.</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>L’adressage sur 4 octets commence ici, et Termination n’en sort pas.</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>Aucune commande n’utilise cette autorisation d’écriture.</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>La puce est en deep power-down et ignore la commande.</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>La commande suit la réinitialisation qui met la puce dans son état final.</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>La commande utilise quatre lignes, et rien avant elle n’active ni ne vérifie le bit quad enable.</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>%1 µs sont attendues au lieu de demander si la puce est prête.</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>Rien n’attend que la puce soit prête&#xa0;: elle ignore les commandes suivantes.</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>Aucune autorisation d’écriture ne précède&#xa0;: la puce ignore la commande.</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>La commande n’a pas d’adresse, mais l’action en envoie une.</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>La commande a une adresse, mais l’action n’en envoie pas.</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>La commande a toujours quatre octets d’adresse, mais l’action en envoie trois.</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>L’action envoie quatre octets d’adresse, mais rien avant elle n’entre dans l’adressage sur 4 octets.</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>L’action envoie trois octets d’adresse, mais l’adressage sur 4 octets a commencé avant.</translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>inserito</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>Il comando usa quattro linee, ma il flusso Single I/O ne ha una.</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>L’immagine viene confrontata con una maschera: i byte con bit azzerati dalla maschera non corrispondono mai.</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>I dati attesi hanno bit azzerati dalla maschera: non corrispondono mai.</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>La maschera non ha alcun bit: qualunque cosa si legga corrisponde.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>La dimensione di pagina è %1, ma il dispositivo ha pagine di %2 byte: ciò che supera la fine di una pagina ne sovrascrive l’inizio.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>La dimensione di pagina è %1, ma il dispositivo ha pagine di %2 byte: la programmazione dura più del necessario.</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>I dati vengono modificati in un’operazione che viene eseguita anche quando l’utente non ha chiesto né Program né Erase.</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>Tre byte di indirizzo raggiungono %1 byte, ma l’azione ne riguarda %2.</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>Il comando non ha la larghezza di bus %1. Consentito: %2.</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>Questo è un comando che programma.</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>Questo è un comando che legge dati.</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>Questo è un comando che cancella.</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>Il comando non ha cicli dummy.</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>Il comando ha almeno due cicli dummy, i suoi cicli di modalità.</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>Nulla nel ciclo dipende dal suo passo: ogni passo fa la stessa cosa.</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>Il dispositivo ha un die: il ciclo ha un passo.</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>L’ID non viene controllato: il flusso modifica qualunque chip sia collegato.</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>Il chip viene modificato prima che il suo ID sia controllato.</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>Qui si entra nell’indirizzamento a 4 byte, e Termination non ne esce.</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>Nessun comando usa questa abilitazione alla scrittura.</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>Il chip è in deep power-down e ignora il comando.</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>Il comando segue il reset che porta il chip allo stato finale.</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>Il comando usa quattro linee e nulla prima di esso imposta o controlla il bit quad enable.</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>Si attendono %1 µs invece di chiedere se il chip è pronto.</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>Nulla attende che il chip sia pronto: ignora i comandi seguenti.</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>Prima manca l’abilitazione alla scrittura: il chip ignora il comando.</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>Il comando non ha indirizzo, ma l’azione ne invia uno.</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>Il comando ha un indirizzo, ma l’azione non ne invia.</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>Il comando ha sempre quattro byte di indirizzo, ma l’azione ne invia tre.</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>L’azione invia quattro byte di indirizzo, ma nulla prima di essa entra nell’indirizzamento a 4 byte.</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>L’azione invia tre byte di indirizzo, ma prima si è entrati nell’indirizzamento a 4 byte.</translation>
+    </message>
 </context>
 </TS>

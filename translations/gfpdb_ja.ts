@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>入力</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>コマンドは 4 線ですが、シングル I/O フローは 1 線です。</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>イメージがマスク付きで比較されます: マスクで消えるビットを持つバイトは決して一致しません。</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>期待データにマスクで消えるビットがあります: 決して一致しません。</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>マスクにビットがありません: 何を読んでも一致します。</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>ページサイズは %1 ですが、デバイスのページは %2 バイトです: ページの終わりを超えた分はその先頭を上書きします。</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>ページサイズは %1 ですが、デバイスのページは %2 バイトです: 書き込みに必要以上の時間がかかります。</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>ユーザーが Program も Erase も要求していないときにも実行される操作で、データが変更されます。</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>3 バイトのアドレスで届くのは %1 バイトですが、アクションの対象は %2 バイトです。</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>このコマンドにバス幅 %1 はありません。許容: %2。</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>これは書き込みのコマンドです。</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>これはデータを読むコマンドです。</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>これは消去のコマンドです。</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>このコマンドにダミーサイクルはありません。</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>このコマンドには少なくとも 2 つのダミーサイクル (モードサイクル) があります。</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>ループ内に回に依存するものがありません: どの回も同じことをします。</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>デバイスのダイは 1 つです: ループは 1 回だけです。</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>ID の確認がありません: フローは接続されているどのチップも変更します。</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>ID を確認する前にチップが変更されます。</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>ここで 4 バイトアドレスが開始され、Termination で終了されません。</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>この書き込み許可を使うコマンドがありません。</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>チップはディープパワーダウン中で、コマンドを無視します。</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>コマンドが、チップを最終状態にするリセットの後にあります。</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>コマンドは 4 線ですが、その前に Quad Enable ビットを設定または確認するものがありません。</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>チップの準備完了を確認する代わりに %1 µs 待ちます。</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>チップの準備ができるまで待つものがありません: チップは後続のコマンドを無視します。</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>その前に書き込み許可がありません: チップはコマンドを無視します。</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>コマンドにアドレスはありませんが、アクションは送信します。</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>コマンドにはアドレスがありますが、アクションは送信しません。</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>コマンドのアドレスは常に 4 バイトですが、アクションは 3 バイトを送信します。</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>アクションは 4 バイトのアドレスを送信しますが、その前に 4 バイトアドレスを開始するものがありません。</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>アクションは 3 バイトのアドレスを送信しますが、その前に 4 バイトアドレスが開始されています。</translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>입력함</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>명령은 네 라인을 쓰지만 싱글 I/O 흐름에는 한 라인만 있습니다.</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>이미지를 마스크와 함께 비교합니다: 마스크가 지우는 비트가 있는 바이트는 결코 일치하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>기대 데이터에 마스크가 지우는 비트가 있습니다: 결코 일치하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>마스크에 비트가 없습니다: 무엇을 읽어도 일치합니다.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>페이지 크기는 %1이지만 디바이스의 페이지는 %2바이트입니다: 페이지 끝을 넘는 부분은 그 시작을 덮어씁니다.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>페이지 크기는 %1이지만 디바이스의 페이지는 %2바이트입니다: 프로그래밍이 필요 이상으로 오래 걸립니다.</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>사용자가 Program도 Erase도 요청하지 않았을 때에도 실행되는 작업에서 데이터가 변경됩니다.</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>주소 3바이트로는 %1바이트까지 닿지만 동작의 대상은 %2바이트입니다.</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>이 명령에는 버스 폭 %1이(가) 없습니다. 허용: %2.</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>이것은 프로그래밍하는 명령입니다.</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>이것은 데이터를 읽는 명령입니다.</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>이것은 지우는 명령입니다.</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>이 명령에는 더미 클럭이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>이 명령에는 더미 클럭이 적어도 두 개(모드 클럭) 있습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>루프 안의 어떤 것도 단계에 따라 달라지지 않습니다: 모든 단계가 같은 일을 합니다.</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>디바이스의 다이는 하나입니다: 루프는 한 단계입니다.</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>ID 검사가 없습니다: 흐름은 연결된 어떤 칩이든 변경합니다.</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>ID를 검사하기 전에 칩이 변경됩니다.</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>여기서 4바이트 주소가 시작되지만 Termination에서 종료되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>이 쓰기 허용을 쓰는 명령이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>칩이 딥 파워다운 상태여서 명령을 무시합니다.</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>명령이 칩을 최종 상태로 만드는 리셋 뒤에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>명령은 네 라인을 쓰지만 그 앞에 Quad Enable 비트를 설정하거나 검사하는 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>칩이 준비되었는지 묻는 대신 %1 µs를 기다립니다.</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>칩이 준비될 때까지 기다리는 것이 없습니다: 칩은 뒤따르는 명령을 무시합니다.</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>그 앞에 쓰기 허용이 없습니다: 칩은 명령을 무시합니다.</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>명령에는 주소가 없지만 동작은 주소를 보냅니다.</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>명령에는 주소가 있지만 동작은 주소를 보내지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>명령의 주소는 항상 4바이트이지만 동작은 3바이트를 보냅니다.</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>동작은 주소 4바이트를 보내지만 그 앞에 4바이트 주소를 시작하는 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>동작은 주소 3바이트를 보내지만 그 전에 4바이트 주소가 시작되었습니다.</translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>inserido</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>O comando usa quatro linhas, mas o fluxo Single I/O tem uma.</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>A imagem é comparada com uma máscara: os bytes com bits que a máscara apaga nunca coincidem.</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>Os dados esperados têm bits que a máscara apaga: nunca coincidem.</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>A máscara não tem nenhum bit: tudo o que é lido coincide.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>O tamanho de página é %1, mas o dispositivo tem páginas de %2 bytes: o que passa do fim de uma página sobrescreve o início dela.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>O tamanho de página é %1, mas o dispositivo tem páginas de %2 bytes: a programação demora mais do que o necessário.</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>Os dados são alterados em uma operação que também é executada quando o usuário não pediu nem Program nem Erase.</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>Três bytes de endereço alcançam %1 bytes, mas a ação abrange %2.</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>O comando não tem a largura de barramento %1. Permitido: %2.</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>Este é um comando que programa.</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>Este é um comando que lê dados.</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>Este é um comando que apaga.</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>O comando não tem ciclos dummy.</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>O comando tem pelo menos dois ciclos dummy, seus ciclos de modo.</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>Nada no laço depende do passo: todos os passos fazem o mesmo.</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>O dispositivo tem um die: o laço tem um passo.</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>O ID não é verificado: o fluxo altera qualquer chip que esteja conectado.</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>O chip é alterado antes que seu ID seja verificado.</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>Aqui se entra no endereçamento de 4 bytes, e Termination não sai dele.</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>Nenhum comando usa esta habilitação de escrita.</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>O chip está em deep power-down e ignora o comando.</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>O comando vem depois do reset que deixa o chip em seu estado final.</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>O comando usa quatro linhas, e nada antes dele ativa ou verifica o bit quad enable.</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>São esperados %1 µs em vez de perguntar se o chip está pronto.</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>Nada espera até que o chip esteja pronto: ele ignora os comandos seguintes.</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>Não há habilitação de escrita antes: o chip ignora o comando.</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>O comando não tem endereço, mas a ação envia um.</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>O comando tem endereço, mas a ação não envia nenhum.</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>O comando sempre tem quatro bytes de endereço, mas a ação envia três.</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>A ação envia quatro bytes de endereço, mas nada antes dela entra no endereçamento de 4 bytes.</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>A ação envia três bytes de endereço, mas antes se entrou no endereçamento de 4 bytes.</translation>
+    </message>
 </context>
 </TS>

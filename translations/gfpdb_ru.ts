@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>введено</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>Команда использует четыре линии, а в алгоритме Single I/O линия одна.</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>Образ сравнивается с маской: байты с битами, которые маска сбрасывает, никогда не совпадут.</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>В ожидаемых данных есть биты, которые маска сбрасывает: они никогда не совпадут.</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>В маске нет ни одного бита: совпадёт всё, что будет прочитано.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>Размер страницы %1, а у микросхемы страницы по %2 байт: то, что выходит за конец страницы, перезапишет её начало.</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>Размер страницы %1, а у микросхемы страницы по %2 байт: программирование длится дольше, чем нужно.</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>Данные изменяются в операции, которая выполняется и тогда, когда пользователь не запрашивал ни Program, ни Erase.</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>Трёх байт адреса хватает на %1 байт, а действие охватывает %2.</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>У команды нет разрядности шины %1. Допустимо: %2.</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>Это команда программирования.</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>Это команда чтения данных.</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>Это команда стирания.</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>У команды нет холостых тактов.</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>У команды не менее двух холостых тактов: такты режима.</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>Ничто в цикле не зависит от его шага: каждый шаг делает одно и то же.</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>В микросхеме один кристалл: в цикле один шаг.</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>ID не проверяется: алгоритм изменит любую подключённую микросхему.</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>Микросхема изменяется до проверки её ID.</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>Здесь включается 4-байтовая адресация, а Termination её не выключает.</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>Ни одна команда не использует это разрешение записи.</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>Микросхема в режиме глубокого энергосбережения и не воспринимает команду.</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>Команда следует за сбросом, который приводит микросхему в конечное состояние.</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>Команда использует четыре линии, но до неё ничто не устанавливает и не проверяет бит Quad Enable.</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>Вместо опроса готовности микросхемы выдерживается пауза %1 мкс.</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>Готовность микросхемы не ожидается: она не воспримет следующие команды.</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>Перед командой нет разрешения записи: микросхема её не воспримет.</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>У команды нет адреса, а действие его отправляет.</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>У команды есть адрес, а действие его не отправляет.</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>У команды всегда четыре байта адреса, а действие отправляет три.</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>Действие отправляет четыре байта адреса, но до него 4-байтовая адресация не включается.</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>Действие отправляет три байта адреса, но до него включена 4-байтовая адресация.</translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>已输入</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>此命令使用四线，但单线 I/O 流程只有一线。</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>映像按掩码比较：含有被掩码清除的位的字节永远不会匹配。</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>期望数据中有被掩码清除的位：永远不会匹配。</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>掩码没有任何位：读到什么都会匹配。</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>页大小为 %1，但器件的页为 %2 字节：超出页尾的内容会覆盖页首。</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>页大小为 %1，但器件的页为 %2 字节：编程耗时比必要的长。</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>在用户既未要求 Program 也未要求 Erase 时也会执行的操作中更改了数据。</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>三个地址字节可达 %1 字节，但此动作涉及 %2 字节。</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>此命令没有总线宽度 %1。允许：%2。</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>这是编程命令。</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>这是读取数据的命令。</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>这是擦除命令。</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>此命令没有空时钟周期。</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>此命令至少有两个空时钟周期，即模式时钟。</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>循环中没有任何内容取决于步：每一步都相同。</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>器件只有一个裸片：循环只有一步。</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>没有 ID 检查：流程会更改所连接的任何芯片。</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>芯片在其 ID 检查之前被更改。</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>此处进入 4 字节寻址，但 Termination 未退出。</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>没有命令使用此写使能。</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>芯片处于深度掉电模式，会忽略此命令。</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>此命令位于使芯片进入最终状态的复位之后。</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>此命令使用四线，但之前没有设置或检查 Quad Enable 位。</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>等待 %1 µs，而不是询问芯片是否就绪。</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>没有等待芯片就绪：它会忽略后面的命令。</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>之前没有写使能：芯片会忽略此命令。</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>此命令没有地址，但动作发送了地址。</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>此命令有地址，但动作没有发送。</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>此命令总有四个地址字节，但动作发送三个。</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>此动作发送四个地址字节，但之前没有进入 4 字节寻址。</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>此动作发送三个地址字节，但之前已进入 4 字节寻址。</translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,129 @@
         <source>entered</source>
         <translation>已輸入</translation>
     </message>
+    <message>
+        <source>The command is on four lines, but the single-I/O flow has one.</source>
+        <translation>此命令使用四線，但單線 I/O 流程只有一線。</translation>
+    </message>
+    <message>
+        <source>The image is compared with a mask: its bytes with bits that the mask clears never match.</source>
+        <translation>映像檔依遮罩比較：含有被遮罩清除之位元的位元組永遠不會相符。</translation>
+    </message>
+    <message>
+        <source>The expected data have bits that the mask clears: they never match.</source>
+        <translation>預期資料中有被遮罩清除的位元：永遠不會相符。</translation>
+    </message>
+    <message>
+        <source>The mask has no bit: whatever is read matches.</source>
+        <translation>遮罩沒有任何位元：讀到什麼都會相符。</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: what is beyond the end of a page overwrites its start.</source>
+        <translation>頁面大小為 %1，但裝置的頁面為 %2 位元組：超出頁尾的內容會覆寫頁首。</translation>
+    </message>
+    <message>
+        <source>The page size is %1, but the part has pages of %2 bytes: programming takes longer than necessary.</source>
+        <translation>頁面大小為 %1，但裝置的頁面為 %2 位元組：燒錄耗時比必要的長。</translation>
+    </message>
+    <message>
+        <source>Data are changed in an operation that is also executed when the user asked for neither Program nor Erase.</source>
+        <translation>在使用者既未要求 Program 也未要求 Erase 時也會執行的操作中變更了資料。</translation>
+    </message>
+    <message>
+        <source>Three address bytes reach %1 bytes, but the action works on %2.</source>
+        <translation>三個位址位元組可達 %1 位元組，但此動作涉及 %2 位元組。</translation>
+    </message>
+    <message>
+        <source>The command does not have the bus width %1. Allowed: %2.</source>
+        <translation>此命令沒有匯流排寬度 %1。允許：%2。</translation>
+    </message>
+    <message>
+        <source>This is a command that programs.</source>
+        <translation>這是燒錄命令。</translation>
+    </message>
+    <message>
+        <source>This is a command that reads data.</source>
+        <translation>這是讀取資料的命令。</translation>
+    </message>
+    <message>
+        <source>This is a command that erases.</source>
+        <translation>這是抹除命令。</translation>
+    </message>
+    <message>
+        <source>The command has no dummy clocks.</source>
+        <translation>此命令沒有空時脈週期。</translation>
+    </message>
+    <message>
+        <source>The command has two dummy clocks at least, its mode clocks.</source>
+        <translation>此命令至少有兩個空時脈週期，即模式時脈。</translation>
+    </message>
+    <message>
+        <source>Nothing in the loop depends on its step: every step does the same.</source>
+        <translation>迴圈中沒有任何內容取決於步驟：每一步都相同。</translation>
+    </message>
+    <message>
+        <source>The device has one die: the loop has one step.</source>
+        <translation>裝置只有一個裸晶：迴圈只有一步。</translation>
+    </message>
+    <message>
+        <source>There is no ID check: the flow changes whatever chip is connected.</source>
+        <translation>沒有 ID 檢查：流程會變更所連接的任何晶片。</translation>
+    </message>
+    <message>
+        <source>The chip is changed before its ID is checked.</source>
+        <translation>晶片在其 ID 檢查之前被變更。</translation>
+    </message>
+    <message>
+        <source>4-byte addressing is entered here, and Termination does not leave it.</source>
+        <translation>此處進入 4 位元組定址，但 Termination 未離開。</translation>
+    </message>
+    <message>
+        <source>No command uses this write enable.</source>
+        <translation>沒有命令使用此寫入致能。</translation>
+    </message>
+    <message>
+        <source>The chip is in deep power-down and ignores the command.</source>
+        <translation>晶片處於深度省電模式，會忽略此命令。</translation>
+    </message>
+    <message>
+        <source>The command follows the reset that brings the chip to its end.</source>
+        <translation>此命令位於使晶片進入最終狀態的重設之後。</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and nothing before it sets or checks the quad-enable bit.</source>
+        <translation>此命令使用四線，但之前沒有設定或檢查 Quad Enable 位元。</translation>
+    </message>
+    <message>
+        <source>%1 us are waited for instead of asking whether the chip is ready.</source>
+        <translation>等待 %1 µs，而不是詢問晶片是否就緒。</translation>
+    </message>
+    <message>
+        <source>Nothing waits until the chip is ready: it ignores the commands that follow.</source>
+        <translation>沒有等待晶片就緒：它會忽略後面的命令。</translation>
+    </message>
+    <message>
+        <source>There is no write enable before it: the chip ignores the command.</source>
+        <translation>之前沒有寫入致能：晶片會忽略此命令。</translation>
+    </message>
+    <message>
+        <source>The command has no address, but the action sends one.</source>
+        <translation>此命令沒有位址，但動作傳送了位址。</translation>
+    </message>
+    <message>
+        <source>The command has an address, but the action sends none.</source>
+        <translation>此命令有位址，但動作沒有傳送。</translation>
+    </message>
+    <message>
+        <source>The command always has four address bytes, but the action sends three.</source>
+        <translation>此命令總有四個位址位元組，但動作傳送三個。</translation>
+    </message>
+    <message>
+        <source>The action sends four address bytes, but nothing before it enters 4-byte addressing.</source>
+        <translation>此動作傳送四個位址位元組，但之前沒有進入 4 位元組定址。</translation>
+    </message>
+    <message>
+        <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
+        <translation>此動作傳送三個位址位元組，但之前已進入 4 位元組定址。</translation>
+    </message>
 </context>
 </TS>
