@@ -334,6 +334,25 @@ private slots:
         QCOMPARE(result.failure->received, BYTES{0x01});
     }
 
+    void a_connection_that_is_lost_between_two_reads_of_a_poll_is_lost()
+    {
+        struct LOSING_BUS : RECORDING_BUS
+        {
+            bool wait(std::int64_t) override { return false; }
+            std::string get_last_error() const override { return CABLE_IS_OUT; }
+        } bus;
+        bus.answer(0x05, {0x01});
+        FLOW flow;
+        flow.push_back(
+            operation_of(0, {make(GFPDB_ACT_READ_REGISTER, {{GFPDB_RR_ATTEMPT_COUNT, "3"}, {GFPDB_RR_DELAY, "10"}}),
+                             write_register()}));
+
+        const GFPE_RESULT result = run_flow({"chip", 1024, 1, {}}, flow, bus, {}, nullptr);
+
+        QCOMPARE(int(result.verdict), int(GFPE_VERDICT::LOST));
+        QCOMPARE(bus.commands().join(", "), QString("05?1"));
+    }
+
     void a_connection_that_does_not_do_its_work_is_lost_data()
     {
         rows<int, QByteArray>({{"too few bytes", 0, "The connection gave 2 bytes instead of 3."},
