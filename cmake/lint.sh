@@ -49,7 +49,7 @@ clazy_level1() {
 cppcheck_product() {
     product_sources | xargs cppcheck --quiet --std=c++17 --language=c++ --enable=warning,performance,portability \
         --inline-suppr --error-exitcode=1 --library=qt --suppress=missingIncludeSystem -j "$(nproc)" \
-        -I pgm/gfpdb/include -I pgm/gfpq -I host/gen/include -I host/csv/include -I host/whole_file/include -I host/fio/include \
+        -I pgm/gfpdb/include -I pgm/gfpc/include -I pgm/gfpc -I pgm/gfpq -I host/gen/include -I host/csv/include -I host/whole_file/include -I host/fio/include \
         -I host/dstr/include -I host/msg/include -I host/kovq/include
 }
 

@@ -18,4 +18,4 @@ update() {
 
 update gfpq pgm/gfpq
 update gfpq_host app/gfpq_host
-update gfpdb pgm/gfpdb
+update gfpdb pgm/gfpdb pgm/gfpc

@@ -50,6 +50,7 @@ HOST = r"^(unit_(host|device|programmer|new_device)|gui_(programmer|new_device)|
 EVERY = r""
 AFFECTED = [
     (r"pgm/gfpq/flow/", r"^gui_flow", MODULE),
+    (r"pgm/gfpc/|app/gfpdb_chart/", r"^unit_gfpc", r"^(unit_gfpc|test_cli_chart|gui_programmer_charts)"),
     (r"pgm/gfpq/", r"^gui_dialog", MODULE),
     (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_[^e]", EVERY),
     (r"pgm/gfpdb/sfdp/gfpdb_sfdp", r"^test_sfdp_(tables|read_outs)", NEW_DEVICES),
