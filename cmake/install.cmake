@@ -4,6 +4,7 @@
 # can be moved.
 #
 #   bin/                        gfpq_host, gfpdb, gfprog
+#   libexec/                    the program that draws for gfpdb
 #   lib/gfpq/                   the module and the libraries: ours alone, so not in the system's own directory
 #   lib/cmake/gfpq/             find_package(gfpq)
 #   include/gfpq/               headers for hosts
@@ -46,8 +47,9 @@ set_target_properties(pgm_gfpq PROPERTIES INSTALL_RPATH "\$ORIGIN")
 install(TARGETS pgm_gfpq LIBRARY DESTINATION ${GFPQ_PRIVATE_LIBDIR} COMPONENT runtime)
 
 # The first entry is for the build tree, which is run from as it is.
-set_target_properties(gfpq_host gfpdb_cli gfprog PROPERTIES INSTALL_RPATH "\$ORIGIN/../lib;\$ORIGIN/../${GFPQ_PRIVATE_LIBDIR}")
+set_target_properties(gfpq_host gfpdb_cli gfpdb_chart gfprog PROPERTIES INSTALL_RPATH "\$ORIGIN/../lib;\$ORIGIN/../${GFPQ_PRIVATE_LIBDIR}")
 install(TARGETS gfpq_host gfpdb_cli gfprog RUNTIME DESTINATION bin COMPONENT runtime)
+install(TARGETS gfpdb_chart RUNTIME DESTINATION libexec COMPONENT runtime)
 
 # Data and texts.
 get_property(host_texts GLOBAL PROPERTY GFPQ_HOST_TEXTS)

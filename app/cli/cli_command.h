@@ -8,6 +8,7 @@
 #include "gfpdb/gfpdb_exchange.h"
 
 #include <QCommandLineParser>
+#include <QStringList>
 
 #include <optional>
 #include <string>
@@ -42,6 +43,8 @@ struct CLI_CALL
     const QCommandLineParser& options;
     GFPDB_DATABASE& database;
     CLI_OUTPUT& output;
+    // The command's name, and what the user wrote after it.
+    const QStringList words;
 
     // The positional argument at `index` behind the command's name; empty when there is none.
     std::string argument(int index) const;

@@ -186,7 +186,7 @@ int run_command(const CLI_PROGRAM& program, const CLI_COMMAND& command, const QS
             output.finish_progress();
     });
     GFPDB_DATABASE database(QFile::encodeName(parser.value(QLatin1String(CLI_OPTION_DIR))).toStdString());
-    return command.run({parser, database, output});
+    return command.run({parser, database, output, arguments});
 }
 
 int dispatch(const CLI_PROGRAM& program, const QStringList& arguments, CLI_OUTPUT& output)
@@ -247,7 +247,9 @@ int cli_main(int argc, char** argv, const CLI_PROGRAM& program)
     std::setlocale(LC_ALL, "");
     cli_use_file_names();
     qInstallMessageHandler(print_log);
-    const QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = program.make_application
+                                                              ? program.make_application(argc, argv)
+                                                              : std::make_unique<QCoreApplication>(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     // What programs read is the same in every language.
     std::optional<TEXT_CATALOGUE> database_texts;

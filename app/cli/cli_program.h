@@ -5,8 +5,11 @@
 
 #include "cli_command.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
+
+class QCoreApplication;
 
 struct CLI_PROGRAM
 {
@@ -14,6 +17,8 @@ struct CLI_PROGRAM
     const char* name;
     const char* purpose;
     std::vector<std::unique_ptr<CLI_COMMAND>> commands;
+    // Makes the application object of a tool that needs more than QtCore.
+    std::function<std::unique_ptr<QCoreApplication>(int& argc, char** argv)> make_application = {};
 };
 
 // Runs a tool with its arguments, the program's name first, and gives its exit code. UTF-8, paths any bytes.

@@ -18,7 +18,7 @@ _gfpdb_names()
 _gfpdb()
 {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
-    local commands="list show export import check history restore diff copy-device sfdp copy server help"
+    local commands="list show chart export import check history restore diff copy-device sfdp copy server help"
     local common="--dir --verbose --help" options=""
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
@@ -35,7 +35,21 @@ _gfpdb()
         return
         ;;
     --variant)
-        mapfile -t COMPREPLY < <(compgen -W "single quad both" -- "$current")
+        local variants="single quad"
+        [[ $command == chart ]] || variants+=" both"
+        mapfile -t COMPREPLY < <(compgen -W "$variants" -- "$current")
+        return
+        ;;
+    --format)
+        mapfile -t COMPREPLY < <(compgen -W "pdf svg" -- "$current")
+        return
+        ;;
+    --operation)
+        mapfile -t COMPREPLY < <(compgen -W "initialization program erase verify termination" -- "$current")
+        return
+        ;;
+    --paper)
+        mapfile -t COMPREPLY < <(compgen -W "a4 letter" -- "$current")
         return
         ;;
     --sslmode)
@@ -55,6 +69,7 @@ _gfpdb()
     case $command in
     list) options="--builtin --all --filter --csv --spreadsheet --json --family --scheme" ;;
     show) options="--variant --json --family --scheme" ;;
+    chart) options="--output --format --operation --variant --paper --family --scheme" ;;
     export) options="--output --csv --spreadsheet --family --scheme" ;;
     import)
         options="--replace --dry-run --unchecked --csv --family --scheme"
@@ -78,7 +93,7 @@ _gfpdb()
         return
     fi
     case $command in
-    show | export | history | copy-device) _gfpdb_names ;;
+    show | chart | export | history | copy-device) _gfpdb_names ;;
     server)
         ((COMP_CWORD == 2)) && mapfile -t COMPREPLY < <(compgen -W "sql init status" -- "$current")
         ((COMP_CWORD > 2)) && mapfile -t COMPREPLY < <(compgen -d -- "$current")

@@ -2,6 +2,7 @@
 
 // gfpdb: the command line tool of the flash database.
 #include "cli_program.h"
+#include "commands/chart_command.h"
 #include "commands/check_command.h"
 #include "commands/copy_command.h"
 #include "commands/copy_device_command.h"
@@ -23,6 +24,7 @@ CLI_PROGRAM make_program()
         "gfpdb", "Manages the flash database of the programmer: its devices and flow templates.", {}};
     program.commands.push_back(std::make_unique<CLI_LIST_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_SHOW_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_CHART_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_EXPORT_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_IMPORT_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_CHECK_COMMAND>());

@@ -76,6 +76,8 @@ step "the command line tools work"
 in_root gfpdb list --builtin >list.out
 grep -q MX25L25645G list.out || fail "gfpdb list"
 in_root gfpdb check >check.out || { cat check.out >&2; fail "gfpdb check"; }
+in_root gfpdb chart MX25L25645G -o /root/chart.pdf 2>chart.err || { cat chart.err >&2; fail "gfpdb chart"; }
+grep -q '^%PDF' "$ROOT/root/chart.pdf" || fail "the chart"
 in_root gfprog program /usr/share/gfpq/families.csv --on emulated --device MX25L25645G >program.out ||
     { cat program.out >&2; fail "gfprog program"; }
 

@@ -22,7 +22,7 @@ done
 field() { dpkg-deb --field "$1" "$2"; }
 depends_on() { field "$1" Depends | tr ',' '\n' | sed 's/^ *//' | grep -q "^$2\( \|$\)"; }
 step "what the packages need"
-for need in libqt5sql5-sqlite libpq5 libqt5widgets5 libqt5gui5 libqt5core5a libqt5sql5 libstdc++6 libc6; do
+for need in libqt5sql5-sqlite libpq5 libqt5widgets5 libqt5svg5 libqt5gui5 libqt5core5a libqt5sql5 libstdc++6 libc6; do
     depends_on "$RUNTIME" "$need" || fail "gfpq does not depend on $need, but on $(field "$RUNTIME" Depends)"
 done
 for need in gfpq qtbase5-dev; do
@@ -34,7 +34,7 @@ done
 step "what is in them"
 dpkg-deb --contents "$RUNTIME" >runtime.txt
 dpkg-deb --contents "$DEVELOPMENT" >development.txt
-for file in usr/bin/gfpq_host usr/bin/gfpdb usr/bin/gfprog usr/lib/gfpq/libpgm_gfpq.so usr/lib/gfpq/libgfpdb.so \
+for file in usr/bin/gfpq_host usr/bin/gfpdb usr/bin/gfprog usr/libexec/gfpdb_chart usr/lib/gfpq/libpgm_gfpq.so usr/lib/gfpq/libgfpdb.so \
     usr/share/gfpq/families.csv usr/share/gfpq/translations/gfpq_host_ja.qm usr/share/man/man1/gfpdb.1.gz usr/share/man/man1/gfprog.1.gz \
     usr/share/applications/gfpq_host.desktop usr/share/icons/hicolor/scalable/apps/gfpq_host.svg \
     usr/share/doc/gfpq/copyright usr/share/doc/gfpq/changelog.gz; do

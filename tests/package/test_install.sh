@@ -23,15 +23,15 @@ diff -u "$HERE/installed_files.txt" files.txt || fail "other files were installe
 
 step "libraries are found by the way from where they are asked for"
 runpath() { readelf -d "$1" | sed -n 's/.*\(RUNPATH\|RPATH\).*\[\(.*\)\]/\2/p'; }
-for program in gfpq_host gfpdb gfprog; do
+for program in bin/gfpq_host bin/gfpdb bin/gfprog libexec/gfpdb_chart; do
     # The first entry is for the build tree; none is empty, which would stand for the current directory.
-    [ "$(runpath "$PREFIX/bin/$program")" = '$ORIGIN/../lib:$ORIGIN/../lib/gfpq' ] || fail "the run path of $program"
+    [ "$(runpath "$PREFIX/$program")" = '$ORIGIN/../lib:$ORIGIN/../lib/gfpq' ] || fail "the run path of $program"
 done
 for library in "$PREFIX"/lib/gfpq/*.so; do
     found=$(runpath "$library")
     [ -z "$found" ] || [ "$found" = '$ORIGIN' ] || fail "the run path of $library is $found"
 done
-for file in "$PREFIX/bin/gfpq_host" "$PREFIX/bin/gfpdb" "$PREFIX/bin/gfprog" "$PREFIX"/lib/gfpq/*.so; do
+for file in "$PREFIX"/bin/* "$PREFIX/libexec/gfpdb_chart" "$PREFIX"/lib/gfpq/*.so; do
     ldd "$file" >ldd.txt
     ! grep -q 'not found' ldd.txt || { cat ldd.txt >&2; fail "a library of $file is not found"; }
     ! grep -qF "=> $BUILD/lib/" ldd.txt || { cat ldd.txt >&2; fail "$file takes a library of the build tree"; }
@@ -58,6 +58,8 @@ RUN_ENVIRONMENT=()
 run list "$PREFIX/bin/gfpdb" list
 grep -q 'Stored part' list.out || fail "gfpdb list"
 run check "$PREFIX/bin/gfpdb" check
+run chart "$PREFIX/bin/gfpdb" chart 'Stored part' --format svg
+grep -q '>Stored part</text>' chart.out || fail "gfpdb chart"
 
 step "gfprog programs an emulated chip of it"
 run program "$PREFIX/bin/gfprog" program list.out --on emulated --device 'Stored part'

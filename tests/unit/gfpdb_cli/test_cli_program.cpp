@@ -17,8 +17,8 @@
 
 namespace {
 
-const QStringList COMMANDS = {"list",    "show", "export",      "import", "check", "history",
-                              "restore", "diff", "copy-device", "sfdp",   "copy",  "server"};
+const QStringList COMMANDS = {"list",    "show", "chart",       "export", "import", "check", "history",
+                              "restore", "diff", "copy-device", "sfdp",   "copy",   "server"};
 
 QByteArray run_on_terminal(const QStringList& arguments)
 {
@@ -54,6 +54,7 @@ private slots:
                                 "Commands:\n"
                                 "  list         List devices, templates and built-in devices\n"
                                 "  show         Show a record with its flows\n"
+                                "  chart        Draw the flow charts of a record (PDF, SVG)\n"
                                 "  export       Write records to a file\n"
                                 "  import       Read records from files, all or none\n"
                                 "  check        Check every record and the database\n"
@@ -78,6 +79,8 @@ private slots:
                           "--scheme"}},
              {"show", "[options] NAME\nShow a record with its flows.\n",
               QStringList{"--variant", "--json", "--family", "--scheme"}},
+             {"chart", "[options] NAME\nDraw the flow charts of a record (PDF, SVG).\n",
+              QStringList{"-o, --output", "--format", "--operation", "--variant", "--paper", "--family", "--scheme"}},
              {"export", "[options] [NAME...]\nWrite records to a file.\n",
               QStringList{"-o, --output", "--csv", "--spreadsheet", "--family", "--scheme"}},
              {"import", "[options] FILE...\nRead records from files, all or none.\n",

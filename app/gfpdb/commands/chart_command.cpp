@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "commands/chart_command.h"
+
+#include "gfpdb/gfpdb_text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
+
+namespace {
+
+const QString DRAWING_PROGRAM = QStringLiteral("../libexec/gfpdb_chart");
+
+} // namespace
+
+void CLI_CHART_COMMAND::add_options(QCommandLineParser& parser) const
+{
+    parser.addOption({{QStringLiteral("o"), QLatin1String(CLI_OPTION_OUTPUT)},
+                      QStringLiteral("Write to this file instead of standard output."),
+                      QStringLiteral("file")});
+    parser.addOption({QLatin1String(CHART_OPTION_FORMAT),
+                      QStringLiteral("pdf or svg; by default what the file's name ends in."),
+                      QStringLiteral("format")});
+    parser.addOption({QLatin1String(CHART_OPTION_OPERATION),
+                      QStringLiteral("Only this operation: initialization, program, erase, verify or termination."),
+                      QStringLiteral("operation")});
+    parser.addOption({QLatin1String(CHART_OPTION_VARIANT),
+                      QStringLiteral("The flow to draw: single or quad; by default that of the device's configuration "
+                                     "scheme, or single where there is none."),
+                      QStringLiteral("variant")});
+    parser.addOption({QLatin1String(CHART_OPTION_PAPER),
+                      QStringLiteral("a4 or letter; by default what the locale's country uses."),
+                      QStringLiteral("paper")});
+    cli_add_place_options(parser, "Only devices of this");
+}
+
+int CLI_CHART_COMMAND::run(const CLI_CALL& call) const
+{
+    const QString program =
+        QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(DRAWING_PROGRAM));
+    const int exit_code = QProcess::execute(program, call.words);
+    if (exit_code >= 0)
+        return exit_code;
+    const bool was_started = exit_code == -1;
+    call.output.error(gfpdb_to_utf8(program) + (was_started ? ": The program that draws charts crashed."
+                                                            : ": The program that draws charts cannot be started."));
+    return CLI_EXIT_BAD_FILE;
+}
