@@ -16,6 +16,7 @@ PROGRAMMER_MENU::PROGRAMMER_MENU(QWidget* parent, bool allows_new_devices) : QMe
     add(tr("Device Data&base..."), "m_database_action", Qt::CTRL + Qt::Key_B, &PROGRAMMER_MENU::database_asked);
     if (allows_new_devices)
         add_new_devices();
+    m_idle_actions += add(tr("Save Flow C&harts..."), "m_charts_action", {}, &PROGRAMMER_MENU::charts_asked);
     addSeparator();
     m_idle_actions += add(tr("&Detect"), "m_detect_action", Qt::Key_F4, &PROGRAMMER_MENU::detect_asked);
     add(tr("&Open File..."), "m_open_action", QKeySequence::Open, &PROGRAMMER_MENU::file_asked);

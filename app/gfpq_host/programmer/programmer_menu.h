@@ -23,6 +23,7 @@ signals:
     void new_from_chip_asked();
     void new_from_file_asked();
     void duplicate_asked();
+    void charts_asked();
     void detect_asked();
     void file_asked();
     void trial_asked();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "programmer/programmer_window.h"
 
+#include "charts/chart_saver.h"
 #include "database/database_window.h"
 #include "new_device/new_device_desk.h"
 #include "program/help_menu.h"
@@ -18,6 +19,7 @@
 #include "run/chosen_device.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -191,6 +193,7 @@ void PROGRAMMER_WINDOW::create_menu(bool allows_new_devices)
     connect(m_menu, &PROGRAMMER_MENU::new_from_chip_asked, this, [this] { read_chip(true); });
     connect(m_menu, &PROGRAMMER_MENU::new_from_file_asked, this, [this] { m_new_device_desk->ask_for_file(choice()); });
     connect(m_menu, &PROGRAMMER_MENU::duplicate_asked, this, [this] { m_new_device_desk->duplicate(choice()); });
+    connect(m_menu, &PROGRAMMER_MENU::charts_asked, this, &PROGRAMMER_WINDOW::save_charts);
     connect(m_new_device_desk, &NEW_DEVICE_DESK::stored, this, &PROGRAMMER_WINDOW::open_stored);
     connect(m_menu, &PROGRAMMER_MENU::detect_asked, this, [this] { read_chip(false); });
     connect(m_menu, &PROGRAMMER_MENU::file_asked, m_file_panel, &FILE_PANEL::browse);
@@ -447,6 +450,17 @@ void PROGRAMMER_WINDOW::open_from_database(const HOST_CHOICE& device)
     else
         m_device_panel->open_dialog_over(m_database_window.get());
     m_database_window->refresh();
+}
+
+void PROGRAMMER_WINDOW::save_charts()
+{
+    QString problem;
+    const std::optional<GFPDB_RECORD> device = RUN_PREPARATION::find_device(choice(), problem);
+    const QString file = device ? CHART_SAVER::save(this, *device, flow_variant_of(choice().config_scheme)) : QString();
+    if (!device)
+        m_run_bar->show_verdict(tr("The flow charts cannot be saved: %1").arg(problem), RUN_BAR::BAD);
+    if (!file.isEmpty())
+        m_log->add(tr("The flow charts are in %1.").arg(QDir::toNativeSeparators(file)));
 }
 
 // First the run is cancelled; who closes again stops it at once.

@@ -69,6 +69,7 @@ private:
     void open_stored(const HOST_CHOICE& device);
     void show_database();
     void open_from_database(const HOST_CHOICE& device);
+    void save_charts();
 
     // What is entered; none when it is not complete: that was said.
     std::optional<RUN_WISH> wish(bool is_trial);

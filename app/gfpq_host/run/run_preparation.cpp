@@ -70,7 +70,7 @@ QString RUN_PREPARATION::check_operations(const RUN_WISH& wish, RUN_LACK& lack)
     return QString();
 }
 
-std::optional<GFPDB_RECORD> RUN_PREPARATION::find_device(const HOST_CHOICE& choice, QString& problem) const
+std::optional<GFPDB_RECORD> RUN_PREPARATION::find_device(const HOST_CHOICE& choice, QString& problem)
 {
     if (choice.device_name.empty()) {
         problem = tr("No device is chosen.");

@@ -68,10 +68,11 @@ public:
     // Where the ID is read; none: `problem` says why.
     std::optional<RUN_TARGET> prepare_detection(const HOST_CHOICE& choice, const GFPE_CONNECTION& connection,
                                                 QString& problem);
+    // The device of `choice` with its flows; none: `problem` says why.
+    static std::optional<GFPDB_RECORD> find_device(const HOST_CHOICE& choice, QString& problem);
 
 private:
     PREPARED_RUN prepare_on(const RUN_WISH& wish, bool is_trial);
-    std::optional<GFPDB_RECORD> find_device(const HOST_CHOICE& choice, QString& problem) const;
     static QString check_operations(const RUN_WISH& wish, RUN_LACK& lack);
     static QString fill_range(const RUN_WISH& wish, RUN_REQUEST& request);
 
