@@ -253,6 +253,25 @@ shot_dialog() {
     picture "$1"
 }
 
+# shot_database NAME TEXT: the window of the database, with what this text finds.
+shot_database() {
+    open_program --family 1 --scheme 7 --device MX25L25645G
+    local window=$WINDOW
+    press ctrl+b
+    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    xdotool type --delay 50 "$2"
+    press Return
+    picture "$1"
+}
+
+shot_device-database() { shot_database device-database "c2 20 19"; }
+
+shot_dark-device-database() {
+    use_dark_palette
+    shot_database dark-device-database "c2 20 19"
+    use_light_palette
+}
+
 shot_new-device() { shot_dialog new-device ctrl+n; }
 shot_duplicate() { shot_dialog duplicate ctrl+d; }
 
@@ -306,7 +325,7 @@ shot_language-ja() {
 }
 
 readonly PICTURES=(device-page page-initialization page-program page-erase page-verify page-termination template-editor
-    host-window programmer-trial programmer-trace programmer-data new-device duplicate message dark-device-page dark-erase scale-150 scale-200 language-ja)
+    host-window programmer-trial programmer-trace programmer-data new-device duplicate device-database dark-device-database message dark-device-page dark-erase scale-150 scale-200 language-ja)
 
 main() {
     rm -rf "$WORK"

@@ -99,7 +99,7 @@ private slots:
         QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
         QCOMPARE(history(), QStringList{qs("deleted A")});
         QCOMPARE(message(), qs("The device \"A\" is deleted. Ctrl+Z brings it back."));
-        QCOMPARE(undo().text(), qs("&Undo: Delete \"A\""));
+        QCOMPARE(undo().text(), qs("&Undo (Delete \"A\")"));
         QCOMPARE(row_of(qs("A")), -1);
         // The keys are where they were.
         QCOMPARE(devices().currentIndex().data().toString(), next);
@@ -154,7 +154,7 @@ private slots:
         QVERIFY(m_modals.last().text.contains(qs("The device \"A\" was changed by ")));
 
         QCOMPARE(stored_names(), QStringList{qs("A")});
-        QCOMPARE(undo().text(), qs("&Undo: Delete \"B\""));
+        QCOMPARE(undo().text(), qs("&Undo (Delete \"B\")"));
     }
 
     // Until the name is free.
@@ -167,7 +167,7 @@ private slots:
         check_box();
         QCOMPARE(stored(qs("A")), qs("0x01"));
         QCOMPARE(stored_names(), (QStringList{qs("A"), qs("B"), qs("C")}));
-        QCOMPARE(undo().text(), qs("&Undo: Delete \"A\""));
+        QCOMPARE(undo().text(), qs("&Undo (Delete \"A\")"));
 
         run_foreign(qs("DELETE FROM device WHERE name = 'A'"));
         press_undo();

@@ -32,11 +32,13 @@ QAction* DATABASE_MENU::add(const QString& text, const char* object_name, const 
     return action;
 }
 
-DATABASE_MENU::DATABASE_MENU(QWidget* parent) : QMenu(parent)
+DATABASE_MENU::DATABASE_MENU(QWidget* parent, bool allows_changes) : QMenu(parent)
 {
     m_open = add(tr("&Open Directory..."), "m_directory_action", QKeySequence::Open, &DATABASE_MENU::directory_asked);
     m_recent = addMenu(tr("&Recent Directories"));
     m_recent->setObjectName(QStringLiteral("m_recent_menu"));
+    m_open->setVisible(allows_changes);
+    m_recent->menuAction()->setVisible(allows_changes);
     add(tr("Re&fresh"), "m_refresh_action", QKeySequence::Refresh, &DATABASE_MENU::refresh_asked);
     addSeparator();
     add(tr("&Close"), "m_close_action", QKeySequence::Close, &DATABASE_MENU::close_asked);
@@ -78,12 +80,9 @@ DATABASE_EDIT_MENU::DATABASE_EDIT_MENU(QWidget* parent, QWidget* table, bool all
 void DATABASE_EDIT_MENU::show_undo(const QStringList& deleted)
 {
     m_undo->setEnabled(!deleted.isEmpty());
-    if (deleted.size() == 1)
-        m_undo->setText(tr("&Undo: Delete \"%1\"").arg(menu_text(deleted.first())));
-    else if (deleted.size() > 1)
-        m_undo->setText(tr("&Undo: Delete (devices: %1)").arg(deleted.size()));
-    else
-        m_undo->setText(tr("&Undo"));
+    const QString what = deleted.size() == 1 ? tr("Delete \"%1\"").arg(menu_text(deleted.first()))
+                                             : tr("Delete, devices: %1").arg(deleted.size());
+    m_undo->setText(deleted.isEmpty() ? tr("&Undo") : QStringLiteral("%1 (%2)").arg(tr("&Undo"), what));
 }
 
 void DATABASE_EDIT_MENU::show_selected(bool is_any_selected)

@@ -14,7 +14,7 @@ class DATABASE_MENU : public QMenu
     Q_OBJECT
 
 public:
-    explicit DATABASE_MENU(QWidget* parent);
+    DATABASE_MENU(QWidget* parent, bool allows_changes);
 
     // The directories that were used last, the newest first.
     void set_recent(const QStringList& directories);

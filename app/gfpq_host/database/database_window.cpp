@@ -100,7 +100,7 @@ void DATABASE_WINDOW::create_pages()
 void DATABASE_WINDOW::create_menus(const DIALOG_OPTIONS& options)
 {
     QTableView& table = m_device_page->table();
-    m_database_menu = new DATABASE_MENU(this);
+    m_database_menu = new DATABASE_MENU(this, options.enable_edit);
     m_edit_menu = new DATABASE_EDIT_MENU(this, &table, options.enable_edit);
     m_device_menu = new DATABASE_DEVICE_MENU(this, &table, options.enable_edit);
     m_database_menu->setTitle(tr("Da&tabase"));

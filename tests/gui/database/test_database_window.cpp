@@ -365,8 +365,9 @@ private slots:
         store("Mine");
         open_database(options);
         choose("Mine");
-        for (const char* name : {"m_delete_action", "m_duplicate_action", "m_undo_action"})
+        for (const char* name : {"m_delete_action", "m_duplicate_action", "m_undo_action", "m_directory_action"})
             QVERIFY2(!part<QAction>(name).isVisible(), name);
+        QVERIFY(!part<QMenu>("m_recent_menu").menuAction()->isVisible());
         QTest::keyClick(&table(), Qt::Key_Delete);
         QCOMPARE(GFPDB_DATABASE(GFPDB_MGR::get_db_custom_dir()).find_stored({}).size(), std::size_t{1});
         QVERIFY(part<QAction>("m_open_action").isEnabled());
