@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Die Abläufe von %1 können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1 hat keinen Quad-I/O-Ablauf.</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1 hat keinen Single-I/O-Ablauf.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>Auf diesem Rechner gibt es keine Schriften.</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Quad-I/O-Ablauf</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Single-I/O-Ablauf</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

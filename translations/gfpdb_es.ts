@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>No se pueden leer los flujos de %1.</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1 no tiene flujo Quad I/O.</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1 no tiene flujo Single I/O.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>No hay fuentes en este equipo.</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Flujo Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Flujo Single I/O</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

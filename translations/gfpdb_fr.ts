@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Les flots de %1 ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1 n’a pas de flot Quad I/O.</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1 n’a pas de flot Single I/O.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>Il n’y a pas de polices sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Flot Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Flot Single I/O</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

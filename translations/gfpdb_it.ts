@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Impossibile leggere i flussi di %1.</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1 non ha un flusso Quad I/O.</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1 non ha un flusso Single I/O.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 di %2</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>Su questo computer non ci sono caratteri.</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Flusso Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Flusso Single I/O</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

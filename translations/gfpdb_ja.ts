@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>%1 のフローを読み込めません。</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1 にはクアッド I/O のフローがありません。</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1 にはシングル I/O のフローがありません。</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1 / %2 ページ</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>このコンピューターにはフォントがありません。</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>クアッド I/O のフロー</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>シングル I/O のフロー</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>%1의 흐름을 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1에는 쿼드 I/O 흐름이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1에는 싱글 I/O 흐름이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1/%2쪽</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>이 컴퓨터에는 글꼴이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>쿼드 I/O 흐름</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>싱글 I/O 흐름</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Os fluxos de %1 não podem ser lidos.</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1 não tem fluxo Quad I/O.</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1 não tem fluxo Single I/O.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>Não há fontes neste computador.</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Fluxo Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Fluxo Single I/O</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

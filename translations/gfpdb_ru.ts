@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Не удаётся прочитать алгоритмы %1.</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>У %1 нет алгоритма Quad I/O.</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>У %1 нет алгоритма Single I/O.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Страница %1 из %2</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>На этом компьютере нет шрифтов.</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>Алгоритм Quad I/O</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>Алгоритм Single I/O</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

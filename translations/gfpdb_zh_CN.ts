@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>GFPC_CHARTS</name>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>无法读取 %1 的流程。</translation>
+    </message>
+    <message>
+        <source>%1 has no quad-I/O flow.</source>
+        <translation>%1 没有四线 I/O 流程。</translation>
+    </message>
+    <message>
+        <source>%1 has no single-I/O flow.</source>
+        <translation>%1 没有单线 I/O 流程。</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>There are no fonts on this computer.</source>
+        <translation>此计算机上没有字体。</translation>
+    </message>
+    <message>
+        <source>Quad-I/O flow</source>
+        <translation>四线 I/O 流程</translation>
+    </message>
+    <message>
+        <source>Single-I/O flow</source>
+        <translation>单线 I/O 流程</translation>
+    </message>
+</context>
+<context>
     <name>gfpdb</name>
     <message>
         <source>Upper and lower case count as the same.</source>

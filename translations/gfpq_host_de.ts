@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG-Bild (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>Ablaufdiagramme speichern</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>&amp;Suchen</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>&amp;Rückgängig: „%1“ löschen</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>„%1“ löschen</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>&amp;Rückgängig: Löschen (Bausteine: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>Löschen, Bausteine: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Die eingebauten Bausteine sind öffentliche Angaben über Flash-Bausteine. Die N
         <source>Device Data&amp;base...</source>
         <translation>Baus&amp;teindatenbank...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Ablaufdia&amp;gramme speichern...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Die eingebauten Bausteine sind öffentliche Angaben über Flash-Bausteine. Die N
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>Den Baustein „%1“ gibt es nicht, oder seine Familie oder sein Modus wird hier nicht angeboten.</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>Die Ablaufdiagramme können nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Die Ablaufdiagramme sind in %1.</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Documento PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>Imagen SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>Guardar diagramas de flujo</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>No se puede escribir el archivo %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>&amp;Buscar</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>&amp;Deshacer: eliminar «%1»</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Eliminar «%1»</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>&amp;Deshacer: eliminar (dispositivos: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>Eliminar, dispositivos: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Los dispositivos integrados son datos públicos sobre memorias flash. Los nombre
         <source>Device Data&amp;base...</source>
         <translation>&amp;Base de datos de dispositivos...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>&amp;Guardar diagramas de flujo...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Los dispositivos integrados son datos públicos sobre memorias flash. Los nombre
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>El dispositivo «%1» no existe o es de una familia o un modo que no se ofrece aquí.</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>No se pueden guardar los diagramas de flujo: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Los diagramas de flujo están en %1.</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Document PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>Image SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>Enregistrer les organigrammes</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>&amp;Rechercher</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>&amp;Annuler&#xa0;: supprimer «&#xa0;%1&#xa0;»</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Supprimer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>&amp;Annuler&#xa0;: supprimer (composants&#xa0;: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>Supprimer, composants&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Les composants intégrés sont des données publiques sur les composants flash. 
         <source>Device Data&amp;base...</source>
         <translation>&amp;Base de données de composants...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Enregistrer les or&amp;ganigrammes...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Les composants intégrés sont des données publiques sur les composants flash. 
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>Le composant «&#xa0;%1&#xa0;» n’existe pas, ou sa famille ou son mode n’est pas proposé ici.</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>Les organigrammes ne peuvent pas être enregistrés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Les organigrammes sont dans %1.</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Documento PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>Immagine SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>Salva diagrammi di flusso</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Impossibile scrivere il file %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>&amp;Trova</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>&amp;Annulla: elimina «%1»</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Elimina «%1»</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>&amp;Annulla: elimina (dispositivi: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>Elimina, dispositivi: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ I dispositivi integrati sono dati pubblici sui componenti flash. I nomi apparten
         <source>Device Data&amp;base...</source>
         <translation>Data&amp;base dei dispositivi...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Salva dia&amp;grammi di flusso...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ I dispositivi integrati sono dati pubblici sui componenti flash. I nomi apparten
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>Il dispositivo «%1» non esiste o è di una famiglia o modalità non offerta qui.</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>Impossibile salvare i diagrammi di flusso: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>I diagrammi di flusso sono in %1.</translation>
     </message>
 </context>
 <context>

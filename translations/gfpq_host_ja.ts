@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF 文書 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG 画像 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>フローチャートの保存</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>ファイル %1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>検索(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>元に戻す(&amp;U): 「%1」の削除</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>「%1」を削除</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>元に戻す(&amp;U): 削除 (デバイス: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>削除、デバイス数: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Qt %3
         <source>Device Data&amp;base...</source>
         <translation>デバイスデータベース(&amp;B)...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>フローチャートを保存(&amp;H)...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Qt %3
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>デバイス「%1」が存在しないか、ここで選べないファミリーまたはモードのものです。</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>フローチャートを保存できません: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>フローチャートを %1 に保存しました。</translation>
     </message>
 </context>
 <context>

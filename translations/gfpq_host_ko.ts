@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF 문서 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG 그림 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>흐름도 저장</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>파일 %1에 쓸 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>찾기(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>실행 취소(&amp;U): ‘%1’ 삭제</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>‘%1’ 삭제</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>실행 취소(&amp;U): 삭제(디바이스: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>삭제, 디바이스: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Qt %3
         <source>Device Data&amp;base...</source>
         <translation>디바이스 데이터베이스(&amp;B)...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>흐름도 저장(&amp;H)...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Qt %3
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>디바이스 ‘%1’이(가) 없거나 여기에서 제공하지 않는 제품군 또는 모드의 것입니다.</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>흐름도를 저장할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>흐름도를 %1에 저장했습니다.</translation>
     </message>
 </context>
 <context>

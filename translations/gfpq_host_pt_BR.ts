@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Documento PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>Imagem SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>Salvar fluxogramas</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>O arquivo %1 não pode ser gravado: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>&amp;Localizar</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>&amp;Desfazer: excluir “%1”</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Excluir “%1”</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>&amp;Desfazer: excluir (dispositivos: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>Excluir, dispositivos: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Os dispositivos integrados são dados públicos sobre componentes flash. Os nome
         <source>Device Data&amp;base...</source>
         <translation>&amp;Banco de dados de dispositivos...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Salvar fluxo&amp;gramas...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Os dispositivos integrados são dados públicos sobre componentes flash. Os nome
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>O dispositivo “%1” não existe ou é de uma família ou modo não oferecido aqui.</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>Os fluxogramas não podem ser salvos: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Os fluxogramas estão em %1.</translation>
     </message>
 </context>
 <context>

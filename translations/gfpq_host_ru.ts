@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Документ PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>Рисунок SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>Сохранение блок-схем</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Не удаётся записать файл %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>&amp;Найти</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>&amp;Отменить действие: удаление «%1»</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>Удалить «%1»</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>&amp;Отменить действие: удаление (микросхем: %1)</translation>
+        <source>Delete, devices: %1</source>
+        <translation>Удалить, микросхем: %1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Qt %3
         <source>Device Data&amp;base...</source>
         <translation>&amp;База данных микросхем...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>&amp;Сохранить блок-схемы...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Qt %3
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>Микросхемы «%1» нет, либо её семейство или режим здесь не предлагаются.</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>Не удаётся сохранить блок-схемы: %1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Блок-схемы находятся в файле %1.</translation>
     </message>
 </context>
 <context>

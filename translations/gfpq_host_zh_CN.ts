@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>CHART_SAVER</name>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF 文档 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>SVG picture (*.svg)</source>
+        <translation>SVG 图片 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Save Flow Charts</source>
+        <translation>保存流程图</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>无法写入文件 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>COMPARE_DIALOG</name>
     <message>
         <source>Compare</source>
@@ -242,12 +261,12 @@
         <translation>查找(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete &quot;%1&quot;</source>
-        <translation>撤销(&amp;U)：删除“%1”</translation>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>删除“%1”</translation>
     </message>
     <message>
-        <source>&amp;Undo: Delete (devices: %1)</source>
-        <translation>撤销(&amp;U)：删除（器件：%1）</translation>
+        <source>Delete, devices: %1</source>
+        <translation>删除，器件：%1</translation>
     </message>
 </context>
 <context>
@@ -938,6 +957,10 @@ Qt %3
         <source>Device Data&amp;base...</source>
         <translation>器件数据库(&amp;B)...</translation>
     </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>保存流程图(&amp;H)...</translation>
+    </message>
 </context>
 <context>
     <name>PROGRAMMER_WINDOW</name>
@@ -1032,6 +1055,14 @@ Qt %3
     <message>
         <source>The device &quot;%1&quot; is not there, or of a family or mode that is not offered here.</source>
         <translation>器件“%1”不存在，或其系列或模式在此处不可选。</translation>
+    </message>
+    <message>
+        <source>The flow charts cannot be saved: %1</source>
+        <translation>无法保存流程图：%1</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>流程图已保存到 %1。</translation>
     </message>
 </context>
 <context>
