@@ -74,6 +74,7 @@ public:
 signals:
     void open_asked();
     void duplicate_asked();
+    void compare_asked();
     void delete_asked();
 
 private:
@@ -81,6 +82,7 @@ private:
 
     QAction* m_open = nullptr;
     QAction* m_duplicate = nullptr;
+    QAction* m_compare = nullptr;
     QAction* m_delete = nullptr;
     int m_count = 0;
     bool m_is_builtin_selected = false;

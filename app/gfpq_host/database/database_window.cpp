@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "database/database_window.h"
 
+#include "database/compare_dialog.h"
 #include "database/database_menus.h"
 #include "database/device_page.h"
+#include "database/history_page.h"
+#include "dialog/choice_combo.h"
 #include "new_device/new_device_desk.h"
 #include "new_device/problem_line.h"
 #include "program/help_menu.h"
@@ -53,7 +56,7 @@ DATABASE_WINDOW::DATABASE_WINDOW(const DIALOG_OPTIONS& options, QSettings& setti
       m_removed(m_database), m_recent(QStringLiteral("database/recent_directories")),
       m_new_device_desk(new NEW_DEVICE_DESK(this, options))
 {
-    create_pages();
+    create_pages(options);
     create_menus(options);
     m_recent.load(settings);
     m_device_page->load(settings);
@@ -79,16 +82,20 @@ void DATABASE_WINDOW::connect_changes()
     connect(m_new_device_desk, &NEW_DEVICE_DESK::stored, this, &DATABASE_WINDOW::show_stored);
 }
 
-void DATABASE_WINDOW::create_pages()
+void DATABASE_WINDOW::create_pages(const DIALOG_OPTIONS& options)
 {
     m_problem = new PROBLEM_LINE(QStringLiteral("m_database_problem"));
     m_device_page = new DEVICE_PAGE(m_database);
     m_pages = new QTabWidget;
     m_pages->setObjectName(QStringLiteral("m_database_pages"));
     m_pages->addTab(m_device_page, tr("Devices"));
+    m_history_page = new HISTORY_PAGE(m_database);
+    m_history_page->allow_changes(options.enable_edit);
+    m_pages->addTab(m_history_page, tr("History"));
     connect(m_pages, &QTabWidget::currentChanged, this, &DATABASE_WINDOW::show_possible);
     connect(m_device_page, &DEVICE_PAGE::changed, this, &DATABASE_WINDOW::show_possible);
     connect(m_device_page, &DEVICE_PAGE::opened, this, &DATABASE_WINDOW::open_device);
+    connect(m_history_page, &HISTORY_PAGE::restored, this, &DATABASE_WINDOW::refresh);
     auto* contents = new QWidget;
     auto* column = new QVBoxLayout(contents);
     column->addWidget(m_problem);
@@ -118,11 +125,14 @@ void DATABASE_WINDOW::create_menus(const DIALOG_OPTIONS& options)
     connect(m_edit_menu, &DATABASE_EDIT_MENU::copy_asked, this, &DATABASE_WINDOW::copy_selected);
     connect(m_edit_menu, &DATABASE_EDIT_MENU::select_all_asked, m_device_page, &DEVICE_PAGE::select_all);
     connect(m_edit_menu, &DATABASE_EDIT_MENU::find_asked, this, [this] {
-        m_pages->setCurrentWidget(m_device_page);
-        m_device_page->find();
+        if (m_pages->currentWidget() == m_history_page)
+            m_history_page->find();
+        else
+            m_device_page->find();
     });
     connect(m_device_menu, &DATABASE_DEVICE_MENU::open_asked, this, &DATABASE_WINDOW::open_device);
     connect(m_device_menu, &DATABASE_DEVICE_MENU::duplicate_asked, this, &DATABASE_WINDOW::duplicate);
+    connect(m_device_menu, &DATABASE_DEVICE_MENU::compare_asked, this, &DATABASE_WINDOW::compare);
     connect(m_device_menu, &DATABASE_DEVICE_MENU::delete_asked, this, &DATABASE_WINDOW::delete_selected);
     connect(&table, &QWidget::customContextMenuRequested, this, &DATABASE_WINDOW::show_device_menu);
 }
@@ -169,6 +179,7 @@ void DATABASE_WINDOW::refresh()
     m_recent.add(here);
     m_database_menu->set_recent(m_recent.files());
     m_device_page->refresh();
+    m_history_page->refresh();
     m_problem->show_problem(database_state().problem);
     watch();
     show_possible();
@@ -268,6 +279,18 @@ void DATABASE_WINDOW::duplicate()
     const std::vector<GFPDB_RECORD> devices = m_device_page->selected();
     if (devices.size() == 1)
         m_new_device_desk->duplicate(m_offer.choice_for(devices.front(), m_choice));
+}
+
+// In the order of the rows.
+void DATABASE_WINDOW::compare()
+{
+    const std::vector<GFPDB_RECORD> devices = m_device_page->selected();
+    if (devices.size() != 2)
+        return;
+    const std::optional<GFPDB_RECORD> left = loaded(devices.front());
+    const std::optional<GFPDB_RECORD> right = left ? loaded(devices.back()) : std::nullopt;
+    if (right)
+        COMPARE_DIALOG({device_title(*left), *left}, {device_title(*right), *right}, this).exec();
 }
 
 void DATABASE_WINDOW::show_stored(const HOST_CHOICE& choice)

@@ -18,6 +18,7 @@ class DATABASE_DEVICE_MENU;
 class DATABASE_EDIT_MENU;
 class DATABASE_MENU;
 class DEVICE_PAGE;
+class HISTORY_PAGE;
 class NEW_DEVICE_DESK;
 class PROBLEM_LINE;
 class QSettings;
@@ -58,7 +59,7 @@ protected:
 
 private:
     void connect_changes();
-    void create_pages();
+    void create_pages(const DIALOG_OPTIONS& options);
     void create_menus(const DIALOG_OPTIONS& options);
     void set_first_size();
 
@@ -66,6 +67,7 @@ private:
     void use_directory(const QString& directory);
     void open_device();
     void duplicate();
+    void compare();
     void delete_selected();
     void undo();
     void copy_selected();
@@ -95,6 +97,7 @@ private:
     PROBLEM_LINE* m_problem = nullptr;
     QTabWidget* m_pages = nullptr;
     DEVICE_PAGE* m_device_page = nullptr;
+    HISTORY_PAGE* m_history_page = nullptr;
     DATABASE_MENU* m_database_menu = nullptr;
     DATABASE_EDIT_MENU* m_edit_menu = nullptr;
     DATABASE_DEVICE_MENU* m_device_menu = nullptr;

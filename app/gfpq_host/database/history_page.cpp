@@ -110,14 +110,14 @@ void HISTORY_PAGE::create_actions()
     m_compare_selected_action =
         add_action(QCoreApplication::translate("HISTORY_MENU", "Compare the Two &Selected States"),
                    "m_compare_selected_action", &HISTORY_PAGE::compare_selected);
-    QAction* back = add_action(tr("&Bring Back..."), "m_bring_back_action", &HISTORY_PAGE::bring_back);
-    m_state_actions = {after, before, current, back};
+    m_bring_back_action = add_action(tr("&Bring Back..."), "m_bring_back_action", &HISTORY_PAGE::bring_back);
+    m_state_actions = {after, before, current, m_bring_back_action};
     auto* menu = new QMenu(this);
     menu->addActions({after, before, current, m_compare_selected_action});
     m_compare_button->setObjectName(QStringLiteral("m_compare_button"));
     m_compare_button->setMenu(menu);
     m_bring_back_button->setObjectName(QStringLiteral("m_bring_back_button"));
-    connect(m_bring_back_button, &QPushButton::clicked, back, &QAction::trigger);
+    connect(m_bring_back_button, &QPushButton::clicked, m_bring_back_action, &QAction::trigger);
     // What the change was.
     connect(m_table, &QTableView::activated, after, &QAction::trigger);
 }
@@ -146,18 +146,32 @@ void HISTORY_PAGE::lay_out()
     column->addLayout(bottom);
 }
 
+void HISTORY_PAGE::allow_changes(bool is_allowed)
+{
+    m_bring_back_button->setVisible(is_allowed);
+    m_bring_back_action->setVisible(is_allowed);
+}
+
+void HISTORY_PAGE::find()
+{
+    m_name_edit->setFocus();
+    m_name_edit->selectAll();
+}
+
 void HISTORY_PAGE::showEvent(QShowEvent* event)
 {
+    QWidget::showEvent(event);
     if (!m_was_read)
         refresh();
-    QWidget::showEvent(event);
 }
 
 void HISTORY_PAGE::refresh()
 {
+    m_was_read = isVisible();
+    if (!m_was_read)
+        return;
     const std::vector<int> rows = selected_rows();
     const std::int64_t id = rows.empty() ? 0 : m_model.entry(rows.front()).id;
-    m_was_read = true;
     m_total = m_database.count_history();
     m_model.reload();
     const int row = m_model.row_of(id);

@@ -23,11 +23,16 @@ class HISTORY_PAGE : public QWidget
     Q_OBJECT
 
 public:
-    // `database` must outlive the page. Nothing is read before refresh(), or before the page is shown.
+    // `database` must outlive the page. Nothing is read before the page is shown.
     HISTORY_PAGE(GFPDB_DATABASE& database, QWidget* parent = nullptr);
 
+    // False: nothing can be brought back.
+    void allow_changes(bool is_allowed);
+    // Goes to the filter of names.
+    void find();
+
 public slots:
-    // Reads the history again: something was changed, or the directory is another one.
+    // Something was changed, or the directory is another one: reads the history again, now or when the page is shown.
     void refresh();
 
 signals:
@@ -68,6 +73,7 @@ private:
     PROBLEM_LINE* m_problem;
     QPushButton* m_compare_button;
     QPushButton* m_bring_back_button;
+    QAction* m_bring_back_action = nullptr;
     // Of one selected state.
     QList<QAction*> m_state_actions;
     QAction* m_compare_selected_action = nullptr;

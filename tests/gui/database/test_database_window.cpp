@@ -213,6 +213,44 @@ private slots:
         QCOMPARE(table().currentIndex().data().toString(), current);
     }
 
+    void two_devices_are_compared()
+    {
+        store("Mine");
+        open_database();
+        choose("Mine");
+        QVERIFY(!part<QAction>("m_compare_action").isEnabled());
+        find(QString());
+        table().selectionModel()->select(table().model()->index(0, 0),
+                                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        QStringList titles;
+        m_modals.expect([&titles](QWidget* dialog) {
+            const QAbstractItemModel& model = *dialog->findChild<QTableView*>(qs("m_compare_table"))->model();
+            for (int side = 2; side < model.columnCount(); ++side)
+                titles.append(model.headerData(side, Qt::Horizontal).toString());
+            dialog->close();
+        });
+        trigger("m_compare_action");
+        QCOMPARE(titles.size(), 2);
+        QVERIFY(titles.contains(qs("Mine (Heather, Active Serial x4)")));
+        QVERIFY(titles.contains(cell(0)));
+    }
+
+    void a_device_that_is_brought_back_is_in_the_table()
+    {
+        store("Mine");
+        open_database();
+        choose("Mine");
+        trigger("m_delete_action");
+        QCOMPARE(table().model()->rowCount(), 0);
+        part<QTabWidget>("m_database_pages").setCurrentIndex(1);
+        part<QTableView>("m_history_table").selectRow(0);
+        m_modals.expect([](QWidget* dialog) { qobject_cast<QDialog*>(dialog)->accept(); });
+        part<QAbstractButton>("m_bring_back_button").click();
+        QCOMPARE(cell(0), qs("Mine"));
+        trigger("m_find_action");
+        QCOMPARE(m_database->focusWidget(), &part<QWidget>("m_history_name_edit"));
+    }
+
     void selected_rows_are_copied_as_lines_with_tabs()
     {
         store("Mine");
@@ -365,7 +403,8 @@ private slots:
         store("Mine");
         open_database(options);
         choose("Mine");
-        for (const char* name : {"m_delete_action", "m_duplicate_action", "m_undo_action", "m_directory_action"})
+        for (const char* name :
+             {"m_delete_action", "m_duplicate_action", "m_undo_action", "m_directory_action", "m_bring_back_action"})
             QVERIFY2(!part<QAction>(name).isVisible(), name);
         QVERIFY(!part<QMenu>("m_recent_menu").menuAction()->isVisible());
         QTest::keyClick(&table(), Qt::Key_Delete);
