@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "database/device_model.h"
 
+#include "database/local_time.h"
 #include "dialog/choice_combo.h"
 #include "record_facts.h"
 
 #include "gfpdb/gfpdb_part.h"
 
-#include <QDateTime>
 #include <QElapsedTimer>
-#include <QLocale>
 
 #include <algorithm>
 #include <iterator>
@@ -25,12 +24,6 @@ constexpr std::size_t WANTED_MOST = 400;
 QString from_utf8(const std::string& text)
 {
     return QString::fromStdString(text);
-}
-
-QString local_time(const std::string& utc)
-{
-    const QDateTime time = QDateTime::fromString(QString::fromStdString(utc), Qt::ISODate);
-    return time.isValid() ? QLocale().toString(time.toLocalTime(), QLocale::ShortFormat) : from_utf8(utc);
 }
 
 // Above all texts.
@@ -178,7 +171,7 @@ QString DEVICE_MODEL::text(const LISTED_DEVICE& device, int column) const
     case KIND:
         return device.is_builtin() ? tr("Built in") : tr("Own");
     case CHANGED_AT:
-        return row.saved_at.empty() ? QString() : local_time(row.saved_at);
+        return local_time_text(row.saved_at);
     default:
         return from_utf8(row.saved_by);
     }

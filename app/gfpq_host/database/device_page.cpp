@@ -22,7 +22,7 @@ namespace {
 
 const QString COLUMNS_KEY = QStringLiteral("database/columns");
 // The widths of the columns, in characters; the last one takes the rest.
-constexpr int WIDTHS[DEVICE_MODEL::COLUMNS] = {20, 20, 16, 9, 10, 14, 6, 14, 18, 9, 18, 18};
+constexpr int WIDTHS[DEVICE_MODEL::COLUMNS] = {18, 17, 19, 9, 9, 13, 6, 14, 17, 9, 20, 16};
 
 // A renamed device is another one.
 std::string key_of(const GFPDB_RECORD& device)

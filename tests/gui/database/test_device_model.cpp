@@ -191,7 +191,7 @@ private slots:
         show({QStringLiteral("a - - - - 2026-01-10T22:30:00Z")});
         const QDateTime time(QDate(2026, 1, 10), QTime(22, 30), Qt::UTC);
         QCOMPARE(m_model->index(0, DEVICE_MODEL::CHANGED_AT).data().toString(),
-                 QLocale().toString(time.toLocalTime(), QLocale::ShortFormat));
+                 time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")));
     }
 };
 
