@@ -99,6 +99,8 @@ DATABASE_DEVICE_MENU::DATABASE_DEVICE_MENU(QWidget* parent, QWidget* table, bool
     connect(m_duplicate, &QAction::triggered, this, &DATABASE_DEVICE_MENU::duplicate_asked);
     m_compare = add_for_table(this, table, tr("&Compare..."), "m_compare_action", {});
     connect(m_compare, &QAction::triggered, this, &DATABASE_DEVICE_MENU::compare_asked);
+    m_charts = addAction(tr("Save Flow C&harts..."), this, &DATABASE_DEVICE_MENU::charts_asked);
+    m_charts->setObjectName(QStringLiteral("m_charts_action"));
     m_delete = add_for_table(this, table, tr("&Delete"), "m_delete_action", {QKeySequence::Delete});
     connect(m_delete, &QAction::triggered, this, &DATABASE_DEVICE_MENU::delete_asked);
     m_duplicate->setVisible(allows_changes);
@@ -125,6 +127,7 @@ void DATABASE_DEVICE_MENU::show_possible()
     m_open->setEnabled(m_count == 1 && !m_is_busy);
     m_duplicate->setEnabled(m_count == 1);
     m_compare->setEnabled(m_count == 2);
+    m_charts->setEnabled(m_count == 1);
     m_delete->setEnabled(m_count > 0 && !m_is_builtin_selected);
 }
 

@@ -75,6 +75,7 @@ signals:
     void open_asked();
     void duplicate_asked();
     void compare_asked();
+    void charts_asked();
     void delete_asked();
 
 private:
@@ -83,6 +84,7 @@ private:
     QAction* m_open = nullptr;
     QAction* m_duplicate = nullptr;
     QAction* m_compare = nullptr;
+    QAction* m_charts = nullptr;
     QAction* m_delete = nullptr;
     int m_count = 0;
     bool m_is_builtin_selected = false;

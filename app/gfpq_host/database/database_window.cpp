@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/database_window.h"
 
+#include "charts/chart_saver.h"
 #include "database/compare_dialog.h"
 #include "database/database_menus.h"
 #include "database/device_page.h"
@@ -10,6 +11,7 @@
 #include "new_device/problem_line.h"
 #include "program/help_menu.h"
 #include "program/host_database.h"
+#include "run/chosen_device.h"
 
 #include "gfpdb/gfpdb_helper.h"
 
@@ -133,6 +135,7 @@ void DATABASE_WINDOW::create_menus(const DIALOG_OPTIONS& options)
     connect(m_device_menu, &DATABASE_DEVICE_MENU::open_asked, this, &DATABASE_WINDOW::open_device);
     connect(m_device_menu, &DATABASE_DEVICE_MENU::duplicate_asked, this, &DATABASE_WINDOW::duplicate);
     connect(m_device_menu, &DATABASE_DEVICE_MENU::compare_asked, this, &DATABASE_WINDOW::compare);
+    connect(m_device_menu, &DATABASE_DEVICE_MENU::charts_asked, this, &DATABASE_WINDOW::save_charts);
     connect(m_device_menu, &DATABASE_DEVICE_MENU::delete_asked, this, &DATABASE_WINDOW::delete_selected);
     connect(&table, &QWidget::customContextMenuRequested, this, &DATABASE_WINDOW::show_device_menu);
 }
@@ -291,6 +294,20 @@ void DATABASE_WINDOW::compare()
     const std::optional<GFPDB_RECORD> right = left ? loaded(devices.back()) : std::nullopt;
     if (right)
         COMPARE_DIALOG({device_title(*left), *left}, {device_title(*right), *right}, this).exec();
+}
+
+// A built-in device is drawn as it is used in the mode that is chosen.
+void DATABASE_WINDOW::save_charts()
+{
+    const std::vector<GFPDB_RECORD> devices = m_device_page->selected();
+    if (devices.size() != 1)
+        return;
+    const bool flow_variant = flow_variant_of(m_offer.choice_for(devices.front(), m_choice).config_scheme);
+    if (const std::optional<GFPDB_RECORD> device = loaded(devices.front())) {
+        const QString file = CHART_SAVER::save(this, *device, flow_variant);
+        if (!file.isEmpty())
+            show_message(tr("The flow charts are in %1.").arg(QDir::toNativeSeparators(file)));
+    }
 }
 
 void DATABASE_WINDOW::show_stored(const HOST_CHOICE& choice)

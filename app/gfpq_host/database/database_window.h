@@ -68,6 +68,7 @@ private:
     void open_device();
     void duplicate();
     void compare();
+    void save_charts();
     void delete_selected();
     void undo();
     void copy_selected();

@@ -72,6 +72,21 @@ private:
         QVERIFY2(store_new_device(device, problem), qPrintable(problem));
     }
 
+    // The same with the flows of a built-in one.
+    static void store_copy(const char* name)
+    {
+        GFPDB_DATABASE database{std::string()};
+        GFPDB_SELECTION selection;
+        selection.name = LARGE_DEVICE;
+        GFPDB_RECORD device = database.find_builtin(selection).at(0);
+        device.row.name = name;
+        device.row.family = OWN_FAMILY;
+        device.row.scheme = OWN_SCHEME;
+        device.row.voltage = "3.3V";
+        QString problem;
+        QVERIFY2(store_new_device(device, problem), qPrintable(problem));
+    }
+
     // The window, opened from the programmer's menu and active.
     DATABASE_WINDOW& open_database(const DIALOG_OPTIONS& options = DIALOG_OPTIONS(), int scheme = PGMIO_ACTIVE_SERIAL)
     {
@@ -326,6 +341,37 @@ private slots:
         QCOMPARE(message(), qs("The device \"Copy\" is stored."));
         QCOMPARE(table().currentIndex().data().toString(), qs("Copy"));
         QCOMPARE(part<QLineEdit>("m_find_edit").text(), QString());
+    }
+
+    void flow_charts_are_saved_data()
+    {
+        rows<QString, int, QByteArray>({{"of an own device", "Mine", PGMIO_ACTIVE_SERIAL, ">Quad-I/O flow<"},
+                                        {"built in", LARGE_DEVICE, PGMIO_ACTIVE_SERIAL, ">Single-I/O flow<"},
+                                        {"built in, for four lines", LARGE_DEVICE, OWN_SCHEME, ">Quad-I/O flow<"}});
+    }
+
+    void flow_charts_are_saved()
+    {
+        const auto [device, scheme, flow] = row<QString, int, QByteArray>();
+        store_copy("Mine");
+        open_database(DIALOG_OPTIONS(), scheme);
+        choose(qPrintable(device));
+        const QString file = scratch("charts.svg");
+        m_modals.expect([file](QWidget* window) {
+            qobject_cast<QFileDialog*>(window)->selectFile(file);
+            qobject_cast<QDialog*>(window)->accept();
+        });
+
+        trigger("m_charts_action");
+
+        QCOMPARE(message(), qs("The flow charts are in %1.").arg(file));
+        QFile svg(file);
+        QVERIFY(svg.open(QIODevice::ReadOnly));
+        const QByteArray content = svg.readAll();
+        QVERIFY(content.contains(">" + device.toUtf8() + "<") && content.contains(flow));
+        find(QString());
+        table().selectAll();
+        QVERIFY(!part<QAction>("m_charts_action").isEnabled());
     }
 
     void what_another_program_stores_is_shown()
