@@ -350,14 +350,39 @@ private slots:
             {"the same size twice", [](GFPDB_SFDP& s) { s.erase[1].size_bytes = 65536; }},
             {"an erase of 2 MiB", [](GFPDB_SFDP& s) { s.erase[2].size_bytes = 2 << 20; }},
             {"an erase of more than 1 GiB", [](GFPDB_SFDP& s) { s.erase[2].size_bytes = std::int64_t(2) << 30; }},
+            {"the largest erase",
+             [](GFPDB_SFDP& s) {
+                 s.density_bits = std::int64_t(1) << 35;
+                 s.erase[2].size_bytes = 1 << 30;
+             }},
+            {"more than the largest erase",
+             [](GFPDB_SFDP& s) {
+                 s.density_bits = std::int64_t(1) << 35;
+                 s.erase[2].size_bytes = std::int64_t(2) << 30;
+             }},
             {"an erase of 256 bytes",
              [](GFPDB_SFDP& s) {
                  s.erase = {{1, 0x81, 0, 256, 9}};
+             }},
+            {"page programs as long as usual",
+             [](GFPDB_SFDP& s) {
+                 s.page_program_us = 1000;
+                 s.program_max_factor = 16;
              }},
             {"long page programs",
              [](GFPDB_SFDP& s) {
                  s.page_program_us = 1000;
                  s.program_max_factor = 17;
+             }},
+            {"erases as long as usual",
+             [](GFPDB_SFDP& s) {
+                 s.erase[2].typical_ms = 1000;
+                 s.erase_max_factor = 8;
+             }},
+            {"erases of which the reserve is rounded up",
+             [](GFPDB_SFDP& s) {
+                 s.erase[2].typical_ms = 10001;
+                 s.erase_max_factor = 1;
              }},
             {"long erases",
              [](GFPDB_SFDP& s) {
@@ -543,14 +568,34 @@ private slots:
     void without_id_and_tables_most_has_to_be_entered()
     {
         GFPDB_NEW_DEVICE device({}, nullptr);
-        for (const char* key : {"name", "id", "voltage", "density"})
-            QCOMPARE(value_of(device, key), QString(" []"));
-        QVERIFY(device.get_warnings().empty());
-        set_all(device, "id=9D 60 19;name=X;voltage=3.3V");
+        QCOMPARE(value_of(device, "name"), QString(" []"));
+        QCOMPARE(lines_of(device).join("; "), expected_effect("nothing at all"));
+        for (const auto& [read, clocks] : {std::pair("EB 1-4-4", "6 [assumed]"), {"6B 1-1-4", "8 [assumed]"}}) {
+            set(device, "quad-read", read);
+            QCOMPARE(value_of(device, "quad-dummy"), QString(clocks));
+        }
+        set_all(device, "quad-read=;id=9D 60 19;name=X;voltage=3.3V");
         QCOMPARE(lines_of(device).join("; "), expected_effect("nothing but an ID"));
         GFPDB_NEW_DEVICE moved = std::move(device);
         device = GFPDB_NEW_DEVICE({}, nullptr);
         QCOMPARE(value_of(moved, "name"), QString("X [entered]"));
+    }
+
+    void a_flow_says_that_nobody_knows_how_quad_is_enabled_data()
+    {
+        rows<QString, bool>({{"listed", "id=9D 60 19", false},
+                             {"listed without it", "id=EF 80 18", true},
+                             {"unlisted", "id=42 40 18", true},
+                             {"entered", "id=42 40 18;quad-enable=SR1 bit 6", false}});
+    }
+
+    void a_flow_says_that_nobody_knows_how_quad_is_enabled()
+    {
+        const auto [changes, is_unverified] = row<QString, bool>();
+        GFPDB_NEW_DEVICE device({}, nullptr);
+        set_all(device, changes);
+        const QString lines = action_lines(record_of(std::move(device)), true).join("; ");
+        QCOMPARE(lines.contains("Quad Enable (unverified)"), is_unverified);
     }
 
     // What the flows have besides those of the listed part, by the values that were entered.
