@@ -75,6 +75,9 @@ QUICK_LABELS = "unit|gui|lost_work"
 SERVER_LABEL = "server"
 # Kills processes for half a minute: run only for the files it belongs to.
 SLOW_TESTS = {"unit_durability"}
+# Tests that have all that they look at in their own program: it is compiled and linked without asking what else is old.
+WHOLE_TESTS = re.compile(r"test_(sfdp_|new_device|part_comparison|chip_|plan|image|run_|trace_|connection|flow_|"
+                         r"serprog_[^f])")
 # Nobody debugs these builds: what counts is how soon a test runs.
 QUICK_BUILD = ["-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g0", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=gold",
                "-DCMAKE_SHARED_LINKER_FLAGS=-fuse-ld=gold", "-DCMAKE_MODULE_LINKER_FLAGS=-fuse-ld=gold",
@@ -261,6 +264,9 @@ class Worker:
         # How often each test has noticed something, in all and in each file: the sharpest one is built and run first.
         self.noticed_by = collections.Counter()
         self.noticed_in = collections.defaultdict(collections.Counter)
+        self.known_links = {}
+        # The object of the altered source, for tests that need nothing else to be built again.
+        self.object = None
         # What one worker compiled the next one need not.
         self.environment = {**os.environ, "CCACHE_BASEDIR": str(self.tree), "CCACHE_NOHASHDIR": "1"}
 
@@ -305,8 +311,30 @@ class Worker:
         listed = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=True)
         return self.known_tests.setdefault(expression, re.findall(r"Test +#\d+: (\S+)", listed.stdout))
 
+    def shell(self, command):
+        with open(self.log, "a", encoding="utf-8") as log:
+            return subprocess.run(command, shell=True, cwd=self.build, stdout=log, stderr=log, check=False).returncode
+
+    def compile_command(self, path):
+        """How the source alone is compiled; None for a header, or where moc reads it."""
+        text = (self.tree / path).read_text(encoding="utf-8")
+        if not path.endswith(".cpp") or "Q_OBJECT" in text or ".moc" in text:
+            return None
+        entries = json.loads((self.build / "compile_commands.json").read_text(encoding="utf-8"))
+        commands = [each["command"] for each in entries if each["file"] == str(self.tree / path)]
+        return re.sub(r"^.*?/ccache ", "", commands[0]) if len(commands) == 1 else None
+
+    def link_command(self, name):
+        if name not in self.known_links:
+            asked = subprocess.run(["ninja", "-C", str(self.build), "-t", "commands", "-s", f"bin/{name}"],
+                                   stdout=subprocess.PIPE, text=True, check=False)
+            self.known_links[name] = asked.stdout.strip().rpartition("\n")[2].replace("/./", "/")
+        return self.known_links[name]
+
     def builds(self, names):
         """Builds the programs of the named tests; some tests are scripts and have none."""
+        if self.object and all(WHOLE_TESTS.match(name) and self.object in self.link_command(name) for name in names):
+            return all(self.shell(self.link_command(name)) == 0 for name in names)
         if self.known_programs is None:
             known = subprocess.run(["cmake", "--build", str(self.build), "--target", "help"], stdout=subprocess.PIPE,
                                    text=True, check=True).stdout
@@ -342,8 +370,16 @@ class Worker:
         original = target.read_bytes()
         lines = original.decode("utf-8").split("\n")
         lines[alteration.first: alteration.last + 1] = alteration.text.split("\n")
+        command = self.compile_command(alteration.path)
         target.write_text("\n".join(lines), encoding="utf-8")
+        self.object = re.search(r" -o (\S+)", command).group(1) if command else None
+        compiled = self.build / self.object if command else None
+        before = compiled.read_bytes() if compiled and compiled.exists() else None
         try:
+            if before is None:
+                self.object = None
+            elif self.shell(command) != 0:
+                return "broken"
             near, far = tests_of(alteration.path)
             first = self.tests(near)
             verdict = self.is_red(first, alteration.path)
@@ -353,6 +389,8 @@ class Worker:
             return verdict
         finally:
             target.write_bytes(original)
+            if before is not None:
+                compiled.write_bytes(before)
 
 
 def write_report(path, seed, results):
@@ -425,8 +463,9 @@ def main():
     print(f"seed {seed}: {sum(shares.values())} places in {len(pools)} files", flush=True)
     WORK.mkdir(parents=True, exist_ok=True)
     workers = [Worker(number, arguments.near) for number in range(arguments.jobs)]
-    for worker in workers:
-        worker.prepare(pools)
+    with concurrent.futures.ThreadPoolExecutor(len(workers)) as pool:
+        for future in [pool.submit(worker.prepare, pools) for worker in workers]:
+            future.result()
     results = run_all(pools, shares, workers, lambda results: write_report(arguments.report, seed, results))
 
     survivors = [alteration for alteration, verdict in results if verdict == "green"]
