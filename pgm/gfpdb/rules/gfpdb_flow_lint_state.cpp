@@ -91,13 +91,10 @@ bool is_poll(const GFPDB_ACTION& action)
            number_of(action, GFPDB_RR_ATTEMPT_COUNT, 1) > 1;
 }
 
-// The command may be sent to a busy chip.
-bool is_heard_while_busy(const GFPDB_ACTION& action)
+// The command may be sent to a busy chip, and does no harm. (A reset is heard, and breaks off what the chip does.)
+bool may_come_while_busy(const GFPDB_ACTION& action)
 {
-    const int opcode = opcode_of(action);
-    return action.m_action_type == GFPDB_ACT_READ_REGISTER ||
-           (action.m_action_type == GFPDB_ACT_WRITE_REGISTER &&
-            (opcode == SELECT_DIE || opcode == RESET_ENABLE || opcode == RESET || opcode == OLD_RESET));
+    return action.m_action_type == GFPDB_ACT_READ_REGISTER || is_write_of(action, SELECT_DIE);
 }
 
 std::int64_t delay_of(const GFPDB_ACTION& action)
@@ -176,7 +173,7 @@ private:
         const GFPDB_ACTION& action = *step.action;
         check_end(step);
         check_lines(step);
-        if (!is_heard_while_busy(action))
+        if (!may_come_while_busy(action))
             stop_waiting();
         switch (action.m_action_type) {
         case GFPDB_ACT_WRITE_REGISTER:
@@ -254,7 +251,7 @@ private:
             m_chip.volatile_enabled = !m_has_flag_status;
             break;
         case SELECT_DIE:
-            m_chip.write_enabled = m_chip.write_enabled == ENABLED::NO ? ENABLED::NO : ENABLED::MAYBE;
+            doubt_enable();
             break;
         case RESET:
         case OLD_RESET:
@@ -288,7 +285,7 @@ private:
             return;
         }
         use_enable();
-        m_chip.write_enabled = m_chip.write_enabled == ENABLED::NO ? ENABLED::NO : ENABLED::MAYBE;
+        doubt_enable();
         const int opcode = opcode_of(action);
         const bool selects_bank = opcode == WRITE_BANK;
         if (opcode == ENTER_FOUR_BYTE ||
@@ -326,7 +323,7 @@ private:
     {
         use_enable();
         if (!command_of(*step.action)) {
-            m_chip.write_enabled = ENABLED::MAYBE;
+            doubt_enable();
             return;
         }
         if (m_chip.write_enabled == ENABLED::NO)
@@ -334,6 +331,8 @@ private:
         m_chip.write_enabled = ENABLED::NO;
         m_chip.busy = step;
     }
+
+    void doubt_enable() { m_chip.write_enabled = m_chip.write_enabled == ENABLED::NO ? ENABLED::NO : ENABLED::MAYBE; }
 
     void report_no_enable(const STEP& step)
     {

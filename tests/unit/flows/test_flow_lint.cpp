@@ -88,6 +88,17 @@ private slots:
              "I ID WR:50 WR:01,d=0x00"},
             {"L01 used by another write", "I2 L02 I3 L01", "I ID WR:06 WR:31,d=0x02 WR:01,d=0x00 BUSY",
              "I ID WR:06 WR:31,d=0x02 BUSY WR:06 WR:01,d=0x00 BUSY"},
+            {"L01 the register is volatile once", "I3 L01 I3 L02", "I ID WR:50 WR:01,d=0x00 WR:01,d=0x00",
+             "I ID WR:50 WR:01,d=0x00 WR:50 WR:01,d=0x00"},
+            {"L01 third status", "I1 L01", "I ID WR:11,d=0x00 BUSY", "I ID WR:11 WR:04"},
+            {"L01 second step of a loop in a loop", "P4 L01", "P die( WR:C2,d=die WR:06 page( WD:02,at=die BUSY ) )",
+             "P die( WR:C2,d=die page( WR:06 WD:02,at=die BUSY ) )"},
+            {"L01 another die", "P3 L01", "P die( WR:04 WR:C2,d=die WD:02,at=die BUSY )",
+             "P die( WR:06 WR:C2,d=die WD:02,at=die BUSY )"},
+            {"L01 after a command that nobody knows", "P2 L01", "P page( WD:81 WD:02 BUSY )",
+             "P page( WR:06 WD:81 WD:02 BUSY )"},
+            {"L02 reset", "P2 L02", w25 + "P page( WR:06 WD:02 WR:66 WR:99,t=1000 )",
+             w25 + "P page( WR:06 WD:02 BUSY WR:66 WR:99,t=1000 )"},
             {"L02 program", "P2 L02", w25 + "P page( WR:06 WD:02 )", w25 + "P page( WR:06 WD:02 BUSY )"},
             {"L02 asked once", "P2 L02", w25 + "P page( WR:06 WD:02 RR:05 )", "P page( WR:06 WD:02 RR:05 BUSY )"},
             {"L02 erase", "E1 L02", w25 + "E WR:06 ER:C7,a=0,at=none", w25 + "E WR:06 ER:C7,a=0,at=none BUSY"},
@@ -111,6 +122,12 @@ private slots:
              "quad I ID WR:06 WR:3E,d=0x80 BUSY V RD:6B,w=1-1-4"},
             {"L04 checked", "V0 L04", "quad I ID RR:35,d=0x00,m=0x02 V RD:6B,w=1-1-4",
              "quad I ID RR:35,d=0x02,m=0x02 V RD:6B,w=1-1-4"},
+            {"L04 checked in the first register", "V0 L04", "quad I ID RR:05,d=0x00,m=0x40 V RD:6B,w=1-1-4",
+             "quad I ID RR:05,d=0x40,m=0x40 V RD:6B,w=1-1-4"},
+            {"L04 checked in bit 7", "V0 L04", "quad I ID RR:3F,d=0x00,m=0x80 V RD:6B,w=1-1-4",
+             "quad I ID RR:3F,d=0x80,m=0x80 V RD:6B,w=1-1-4"},
+            {"L04 after a reset", "V0 L04", "quad I ID WR:66 WR:99 V RD:6B,w=1-1-4",
+             "quad I ID WR:06 WR:01,d=0x40 BUSY WR:66 WR:99 V RD:6B,w=1-1-4"},
             {"L04 flag status", "V0 L04", "quad I ID BUSY V RD:6B,w=1-1-4",
              "quad I ID RR:70,d=0x80,m=0x80 V RD:6B,w=1-1-4"},
             {"L05", "V0 L05", w25 + "V RD:6B,w=1-1-4", w25 + "V RD:3B,w=1-1-2"},
@@ -127,6 +144,12 @@ private slots:
              "I ID WR:17,d=0x80 V RD:0B,a=4 T WR:17,d=0x00"},
             {"L07 mode checked", "V0 L07", "I ID RR:16,d=0x00,m=0x80 V RD:0B,a=4",
              "I ID RR:16,d=0x80,m=0x80 V RD:0B,a=4"},
+            {"L07 mode checked by another register", "V0 L07", "I ID RR:15,d=0x00,m=0x20 V RD:0B,a=4",
+             "I ID RR:15,d=0x20,m=0x20 V RD:0B,a=4"},
+            {"L07 mode checked by another bit", "V0 L07", "I ID RR:15,d=0x02,m=0x02 V RD:0B,a=4",
+             "I ID RR:15,d=0x01,m=0x01 V RD:0B,a=4"},
+            {"L07 mode checked by the flags", "V0 L07", "I ID RR:70,d=0x02,m=0x02 V RD:0B,a=4",
+             "I ID RR:70,d=0x01,m=0x01 V RD:0B,a=4"},
             {"L07 after a reset", "V2 L07", mx25 + "I ID WR:B7 V WR:66 WR:99,t=1000 RD:0B,a=4 T WR:E9",
              mx25 + "I ID WR:66 WR:99,t=1000 WR:B7 V RD:0B,a=4 T WR:E9"},
             {"L07 three in the mode", "V0 L07", mx25 + "I ID WR:B7 V RD:0B,l=256 T WR:E9", "V RD:0B,l=256"},
@@ -139,6 +162,7 @@ private slots:
              w25 + "E WR:06 ER:D8,at=0x00FF0000 BUSY"},
             {"L08", "I1 L08", mx25 + "I ID WR:B7 V RD:0B,a=4", mx25 + "I ID WR:B7 V RD:0B,a=4 T WR:E9"},
             {"L08 bank register", "I1 L08", "I ID WR:17,d=0x80 T WR:17,d=0x81", "I ID WR:17,d=0x80 T WR:17,d=0x01"},
+            {"L08 entered again", "I3 L08", "I ID WR:B7 WR:E9 WR:B7", "I ID WR:B7 WR:E9 WR:B7 T WR:E9"},
             {"L08 other way out", "I1 L08", "I ID WR:B7 T WR:04", "I ID WR:B7 T WR:29"},
             {"L08 reset", "I1 L08", mx25 + "I ID WR:B7 T WR:66", "I ID WR:B7 T WR:66 WR:99,t=1000"},
             {"L09 larger", "P2 L09", w25 + "P page( WR:06 WD:02,p=512 BUSY )", w25 + "P page( WR:06 WD:02 BUSY )"},
@@ -157,10 +181,12 @@ private slots:
             {"L11 page", "P0 L11", "P page( WR:06 WD:02,at=0x00000000 BUSY )", "P page( WR:06 WD:02 BUSY )"},
             {"L11 sector", "E0 L11", "E sector( WR:06 ER:C7,a=0,at=none BUSY )",
              "E sector( WR:06 ER:C7,a=0,at=none,s=16777216 ER:D8 BUSY )"},
+            {"L11 no address", "E0 L11", "E sector( WR:06 ER:C7,a=0,at=loop BUSY )", "E WR:06 ER:C7,a=0,at=none BUSY"},
             {"L11 die", "T0 L11", "@dies=2 T die( WR:C2,d=0x01 WR:04 )", "@dies=2 T die( WR:C2,d=die WR:04 )"},
             {"L11 one die", "T0 L11", "@dies=1 T die( WR:C2,d=die WR:04 )", "T die( WR:C2,d=die WR:04 )"},
             {"L12 reset", "T2 L12", "T WR:66 WR:99,t=1000 WR:04", "T WR:04 WR:66 WR:99,t=1000 RR:05,m=0x03"},
             {"L12 reset of another kind", "T1 L12", "T WR:F0 WR:04", "T WR:04 WR:F0"},
+            {"L12 power-down after the reset", "T2 L12", "T WR:66 WR:99 WR:17,d=0x00", "T WR:66 WR:99 WR:B9"},
             {"L12 power-down", "T1 L12", "T WR:B9 RR:05", "T RR:05 WR:B9"},
             {"L12 woken up", "I2 L12", "I ID WR:B9 WR:04", "I ID WR:B9 WR:AB WR:04"},
             {"L12 bank register", "I2 L12", "I ID WR:B9 WR:17,d=0x00", "I ID WR:06 WR:B9 WR:01,d=0x00 BUSY"},
@@ -178,10 +204,17 @@ private slots:
             {"L15 lines", "V0 L15", "quad @noqe V RD:EB,w=1-1-4,c=6", "quad @noqe V RD:EB,w=4-4-4,c=6"},
             {"L15 one line", "V0 L15", w25 + "V RD:6B", w25 + "V RD:0B"},
             {"L15 dummy clocks", "V0 L15", w25 + "V RD:03", w25 + "V RD:03,c=0"},
+            {"L15 dummy clocks of four address bytes", "V0 L15", "V RD:13,a=4,c=1", "V RD:13,a=4,c=0"},
+            {"L15 mode clocks of four address bytes", "V0 L15", "quad @noqe V RD:EC,w=1-4-4,a=4,c=1",
+             "quad @noqe V RD:EC,w=1-4-4,a=4,c=2"},
             {"L15 mode clocks", "V0 L15", "quad @noqe V RD:EB,w=1-4-4,c=1", "quad @noqe V RD:EB,w=1-4-4,c=2"},
             {"L16 none", "I0 L16", "I P page( WR:06 WD:02 BUSY )", "I V RD:0B"},
             {"L16 expects nothing", "I1 L16", "I RR:9F,d=none P page( WR:06 WD:02 BUSY )",
              "I RR:9F,d=0xEF,m=0xFF P page( WR:06 WD:02 BUSY )"},
+            {"L16 another command for IDs", "I1 L16", "I RR:90 P page( WR:06 WD:02 BUSY )",
+             "I RR:9E P page( WR:06 WD:02 BUSY )"},
+            {"L16 on four lines", "I1 L16", "I RR:AE P page( WR:06 WD:02 BUSY )", "I RR:AF P page( WR:06 WD:02 BUSY )"},
+            {"L16 die before", "I0 L16", "I WR:C1,d=0x00 ID", "I WR:C2,d=0x00 ID"},
             {"L16 status before", "I1 L16", "I WR:06 WR:01,d=0x00 BUSY ID P page( WR:06 WD:02 BUSY )",
              "I ID WR:06 WR:01,d=0x00 BUSY P page( WR:06 WD:02 BUSY )"},
             {"L16 mode before", "I0 L16", "I WR:B7 ID T WR:E9", "I WR:66 WR:99,t=1000 ID WR:B7 T WR:E9"},
@@ -199,6 +232,63 @@ private slots:
 
         QVERIFY(!found.part || !fault_of(found).empty());
         QCOMPARE(passed.part ? fault_of(passed) : std::string(), std::string());
+    }
+
+    void the_commands_of_all_makers_are_known_data()
+    {
+        rows<QString, QString, bool>({
+            {"03", "V RD:03,c=0", "1-1-1", false},
+            {"13", "V RD:13,c=0", "1-1-1", true},
+            {"0B", "V RD:0B", "1-1-1", false},
+            {"0C", "V RD:0C", "1-1-1", true},
+            {"3B", "V RD:3B", "1-1-2", false},
+            {"3C", "V RD:3C", "1-1-2", true},
+            {"BB", "V RD:BB", "1-2-2", false},
+            {"BC", "V RD:BC", "1-2-2", true},
+            {"6B", "V RD:6B", "1-1-4", false},
+            {"6C", "V RD:6C", "1-1-4", true},
+            {"EB", "V RD:EB", "1-4-4", false},
+            {"EC", "V RD:EC", "1-4-4", true},
+            {"02", "P WR:06 WD:02", "1-1-1", false},
+            {"12", "P WR:06 WD:12", "1-1-1", true},
+            {"12 of four lines", "P WR:06 WD:12", "1-4-4", false},
+            {"A2", "P WR:06 WD:A2", "1-1-2", false},
+            {"D2", "P WR:06 WD:D2", "1-2-2", false},
+            {"32", "P WR:06 WD:32", "1-1-4", false},
+            {"32 address", "P WR:06 WD:32", "1-4-4", false},
+            {"34", "P WR:06 WD:34", "1-1-4", true},
+            {"34 address", "P WR:06 WD:34", "1-4-4", true},
+            {"38", "P WR:06 WD:38", "1-1-4", false},
+            {"38 address", "P WR:06 WD:38", "1-4-4", false},
+            {"3E", "P WR:06 WD:3E", "1-1-4", true},
+            {"3E address", "P WR:06 WD:3E", "1-4-4", true},
+            {"20", "E WR:06 ER:20", "1-1", false},
+            {"21", "E WR:06 ER:21", "1-1", true},
+            {"52", "E WR:06 ER:52", "1-1", false},
+            {"5C", "E WR:06 ER:5C", "1-1", true},
+            {"D8", "E WR:06 ER:D8", "1-1", false},
+            {"DC", "E WR:06 ER:DC", "1-1", true},
+            {"D7", "E WR:06 ER:D7", "1-1", false},
+            {"C4", "E WR:06 ER:C4", "1-1", false},
+        });
+    }
+
+    void the_commands_of_all_makers_are_known()
+    {
+        const auto [action, width, takes_four] = row<QString, QString, bool>();
+        const auto rules = [&, &action = action](const QString& flow, int bytes, const QString& lines) {
+            const QString at = QString(",a=%1,at=0x00000000,w=%2").arg(bytes).arg(lines);
+            const QString poll = action.startsWith('V') ? QString() : QString(" BUSY");
+            QString found;
+            for (const QString& finding : findings_in(flow_from("quad @noqe " + flow.arg(action + at + poll))))
+                found += finding.section(' ', 1);
+            return found;
+        };
+
+        QCOMPARE(rules("%1", 3, width), QString(takes_four ? "L07" : ""));
+        QCOMPARE(rules("I ID WR:B7 %1 T WR:E9", 4, width), QString());
+        QCOMPARE(rules("I ID WR:B7 %1 T WR:E9", 3, width), QString("L07"));
+        QVERIFY(rules("I ID WR:B7 %1 T WR:E9", 4, action.startsWith('E') ? "1-4" : "1-2-4").contains("L15"));
     }
 
     void it_says_what_is_wrong_data()
