@@ -7,6 +7,7 @@
 
 #include "dialog/gfpq_dlg.h"
 
+#include "gfpdb/gfpdb_database.h"
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
 #include "kovq/zui_app.h"
@@ -30,6 +31,11 @@ constexpr int MANY_NAMES = 100000;
 constexpr int DEVICES = 1000;
 constexpr double NAMES_GOAL = 1.5;
 constexpr double SAVE_GOAL = 1.3;
+constexpr int MANY_STATES = 1000000;
+// What a window reads at once, and what a user scrolls through.
+constexpr int PAGE = 250;
+constexpr int PAGES = 100;
+constexpr double HISTORY_GOAL = 1.3;
 
 void require(bool holds, const char* what)
 {
@@ -154,6 +160,61 @@ public:
         return found;
     }
 
+    // Many states of the only one in the history.
+    void multiply_state(int count)
+    {
+        run(QStringLiteral("BEGIN IMMEDIATE"));
+        run(QStringLiteral(
+                "INSERT INTO history (id, %1) WITH RECURSIVE numbers (n) AS (SELECT 2 UNION ALL SELECT n + 1 "
+                "FROM numbers WHERE n < %2) SELECT n, %1 FROM numbers, history WHERE id = 1")
+                .arg(columns() +
+                     QStringLiteral(", name, name_key, saved_by, is_template, reason, changed_at, changed_by"))
+                .arg(count));
+        run(QStringLiteral("COMMIT"));
+    }
+
+    // A page of the history below `before`, of which `before` becomes the lowest number.
+    std::vector<GFPDB_HISTORY_ENTRY> page(qlonglong& before)
+    {
+        std::vector<GFPDB_HISTORY_ENTRY> found;
+        QSqlQuery query(m_database);
+        query.setForwardOnly(true);
+        query.prepare(QStringLiteral("SELECT id, is_template, reason, changed_at, changed_by, revision, saved_at, "
+                                     "saved_by, family, scheme, name, device_id, voltage, density, total_die, "
+                                     "single_io_dummy_clock, quad_io_dummy_clock, template_name, flow_template FROM "
+                                     "history WHERE id < ? ORDER BY id DESC LIMIT ?"));
+        query.addBindValue(before);
+        query.addBindValue(PAGE);
+        require(query.exec(), "the bare query fails");
+        const auto text = [&query](int column) { return query.value(column).toString().toStdString(); };
+        while (query.next()) {
+            GFPDB_HISTORY_ENTRY entry{
+                query.value(0).toLongLong(), query.value(1).toBool(), text(2), text(3), text(4), {}};
+            GFPDB_ROW& row = entry.row;
+            std::string* const before_places[] = {&row.revision, &row.saved_at, &row.saved_by};
+            std::string* const after_places[] = {&row.name, &row.device_id, &row.voltage, &row.density};
+            std::optional<int>* const numbers[] = {&row.total_die, &row.single_io_dummy_clock,
+                                                   &row.quad_io_dummy_clock};
+            int column = 5;
+            for (std::string* place : before_places)
+                *place = text(column++);
+            row.family = query.value(column++).toInt();
+            row.scheme = query.value(column++).toInt();
+            for (std::string* place : after_places)
+                *place = text(column++);
+            for (std::optional<int>* number : numbers) {
+                if (!query.isNull(column))
+                    *number = query.value(column).toInt();
+                ++column;
+            }
+            row.template_name = text(column++);
+            row.flow_template = text(column++);
+            found.push_back(std::move(entry));
+        }
+        before = found.empty() ? 0 : found.back().id;
+        return found;
+    }
+
 private:
     static constexpr int COLUMN_COUNT = 14;
 
@@ -207,6 +268,44 @@ void bench_save(BENCH_HARNESS& bench)
         QStringLiteral("save one record with both flow variants"), SAVE_GOAL,
         [&] { bare.insert_copy(QStringLiteral("seed"), QStringLiteral("device %1").arg(number)); },
         [&] { require(manager.save_flash(flash, GFPDB_MGR::get_db_custom_dir()), "cannot save"); }, prepare);
+}
+
+// What a user sees who scrolls through a long history.
+void bench_history(BENCH_HARNESS& bench)
+{
+    const QTemporaryDir directory(QDir::current().filePath(QStringLiteral("bench-XXXXXX")));
+    GFPDB_MGR& manager = use_directory(directory.path());
+    GFPDB_FLASH* const flash = manager.create_flash("seed");
+    flash->set_string_property(GFPDB_FLASH_DEVICE_ID, "0xC2 0x20 0x19");
+    require(manager.save_flash(flash, GFPDB_MGR::get_db_custom_dir()), "cannot save");
+    require(manager.delete_flash("seed", GFPDB_MGR::get_db_custom_dir()), "cannot delete");
+    BARE_DATABASE bare(directory.path());
+    bare.multiply_state(MANY_STATES);
+
+    GFPDB_DATABASE database(GFPDB_MGR::get_db_custom_dir());
+    bench.compare(
+        QStringLiteral("%1 states of a history of %2, in pages").arg(PAGES * PAGE).arg(MANY_STATES), HISTORY_GOAL,
+        [&] {
+            qlonglong before = MANY_STATES + 1;
+            for (int page = 0; page < PAGES; ++page)
+                require(bare.page(before).size() == PAGE, "a state is missing");
+        },
+        [&] {
+            std::optional<std::int64_t> before;
+            for (int number = 0; number < PAGES; ++number) {
+                const GFPDB_HISTORY_PAGE page = database.find_history_page({}, before, PAGE);
+                require(page.entries.size() == PAGE && page.next, "a state is missing");
+                before = page.next;
+            }
+        });
+    GFPDB_HISTORY_FILTER nobody;
+    nobody.user_part = "nobody";
+    bench.figure(QStringLiteral("  one look for a user who is not in it"),
+                 bench.median_ms([&] { database.find_history_page(nobody, std::nullopt, PAGE); }),
+                 QStringLiteral("ms"));
+    bench.figure(QStringLiteral("  the number of its states"),
+                 bench.median_ms([&] { require(database.count_history() == MANY_STATES, "a state is missing"); }),
+                 QStringLiteral("ms"));
 }
 
 std::unique_ptr<GFPQ_DLG> make_dialog(const std::string& device)
@@ -286,6 +385,7 @@ int main(int argc, char** argv)
     try {
         bench_names(bench);
         bench_save(bench);
+        bench_history(bench);
         bench_apply(bench);
     } catch (const std::exception& error) {
         qCritical("bench_database: %s", error.what());

@@ -36,6 +36,8 @@ QString change_tip(const std::string& reason)
 QString cell_text(const GFPDB_HISTORY_ENTRY& entry, int column)
 {
     switch (column) {
+    case HISTORY_MODEL::NUMBER:
+        return QString::number(entry.id);
     case HISTORY_MODEL::WHEN:
         return local_time_text(entry.changed_at);
     case HISTORY_MODEL::USER:
@@ -48,10 +50,8 @@ QString cell_text(const GFPDB_HISTORY_ENTRY& entry, int column)
         return QString::fromStdString(entry.name());
     case HISTORY_MODEL::FAMILY:
         return family_text(entry.row.family);
-    case HISTORY_MODEL::MODE:
-        return scheme_text(entry.row.scheme);
     default:
-        return QString::number(entry.id);
+        return scheme_text(entry.row.scheme);
     }
 }
 
@@ -160,7 +160,7 @@ QVariant HISTORY_MODEL::headerData(int section, Qt::Orientation orientation, int
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QVariant();
-    const QString titles[COLUMNS] = {tr("When"), tr("User"),   tr("Change"), tr("Kind"),
-                                     tr("Name"), tr("Family"), tr("Mode"),   tr("No.")};
+    const QString titles[COLUMNS] = {tr("No."),  tr("When"), tr("User"),   tr("Change"),
+                                     tr("Kind"), tr("Name"), tr("Family"), tr("Mode")};
     return titles[section];
 }

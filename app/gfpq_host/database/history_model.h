@@ -18,6 +18,7 @@ class HISTORY_MODEL : public QAbstractTableModel
 public:
     enum COLUMN
     {
+        NUMBER,
         WHEN,
         USER,
         CHANGE,
@@ -25,7 +26,6 @@ public:
         NAME,
         FAMILY,
         MODE,
-        NUMBER,
         COLUMNS,
     };
 

@@ -25,7 +25,7 @@
 namespace {
 
 // The widths of the columns, in characters; the last one takes the rest.
-constexpr int WIDTHS[HISTORY_MODEL::COLUMNS] = {20, 20, 11, 11, 24, 17, 17, 8};
+constexpr int WIDTHS[HISTORY_MODEL::COLUMNS] = {7, 23, 22, 12, 12, 26, 20, 18};
 
 enum KIND
 {
