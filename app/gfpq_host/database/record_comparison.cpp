@@ -122,7 +122,7 @@ std::vector<COMPARED_ROW> RECORD_COMPARISON::fields(const GFPDB_RECORD& record)
     add(tr("Mode"), is_builtin ? QString() : scheme_text(record.row.scheme));
     for (const GFPDB_VALUE& value : gfpdb_values(record)) {
         if (value.property != GFPDB_NO_PROPERTY)
-            add(QString::fromUtf8(value.title), QString::fromStdString(value.text));
+            add(QCoreApplication::translate("gfpdb", value.title), QString::fromStdString(value.text));
     }
     return rows;
 }

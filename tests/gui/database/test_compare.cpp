@@ -2,6 +2,7 @@
 
 // Two records side by side: what is marked, what is hidden, where the steps lead, what is copied.
 #include "database/compare_dialog.h"
+#include "marking_translator.h"
 #include "test_rows.h"
 
 #include <QApplication>
@@ -197,6 +198,15 @@ private slots:
                     .data()
                     .toString()
                     .startsWith(qs("Write Register")));
+    }
+
+    // The titles of values are the library's words.
+    void titles_are_in_the_language_of_the_host()
+    {
+        const MARKING_TRANSLATOR translator("gfpdb");
+        open(make_record(), make_record());
+
+        QCOMPARE(titles().mid(4, 2), (QStringList{qs("[Name]"), qs("[ID]")}));
     }
 
     void the_same_on_both_sides_is_said()
