@@ -102,6 +102,8 @@ private slots:
                                  "2 Write Register", "Name: Write Enable", "Command: 0x06", "Yes", "No"})
             QVERIFY2(texts.contains(qs(text)), qPrintable(texts.join(QLatin1Char('\n'))));
         QVERIFY(!texts.contains(qs("Erase")));
+        // Where nobody drops anything there are no zones for it.
+        QVERIFY(!drawn(order(GFPC_FORMAT::SVG)).contains("fill-opacity=\"0\""));
         // Each action has its number, in their order.
         int number = 0;
         for (const QString& text : texts.filter(QRegularExpression(qs("^\\d+ [A-Z][a-z]+"))))
@@ -191,11 +193,16 @@ private slots:
             std::sort(steps.begin(), steps.end());
             QVERIFY(steps.size() > 3);
             all += steps;
+            // What stands at an arrow is where its block is.
+            for (const int step : qAsConst(steps))
+                QVERIFY2(pages[page].contains(qs("%1 Write Register").arg(step)), qPrintable(pages[page]));
             for (const QString& text :
                  {qs("MX25L25645G"), qs("2026-11-22"), qs("Page %1 of %2").arg(page + 1).arg(pages.size())})
                 QVERIFY2(pages[page].contains(text), qPrintable(pages[page]));
         }
         QVERIFY(pages.size() > 2);
+        // A part that is not the first says so.
+        QVERIFY(pages[0].contains(QRegularExpression(qs("Program +Program \\(2\\)"))));
         QCOMPARE(all.size(), STEPS);
         for (int step = 0; step < STEPS; ++step)
             QCOMPARE(all[step], step + 1);
@@ -217,6 +224,18 @@ private slots:
         QByteArray pdf = drawn(one);
 
         QVERIFY2(pdf.contains(box), pdf.mid(pdf.indexOf("/MediaBox"), 60).constData());
+    }
+
+    void a_long_name_leaves_room_for_the_date()
+    {
+        GFPC_ORDER longest = long_order(1);
+        longest.record.row.name = std::string(500, 'M');
+
+        const QString page = pages_of_pdf(drawn(longest)).at(0);
+
+        QVERIFY2(page.contains(QRegularExpression(qs("^M{20,}\u2026 +2026-11-22\n"))), qPrintable(page));
+        longest.format = GFPC_FORMAT::SVG;
+        QVERIFY(texts_of_svg(drawn(longest)).contains(QString(500, QLatin1Char('M'))));
     }
 
     void an_operation_without_actions_is_drawn()

@@ -147,6 +147,20 @@ private slots:
         QCOMPARE(text_of_file(at("chart.svg")), QByteArray("former"));
     }
 
+    void charts_speak_the_language_of_the_user()
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove("LC_ALL");
+        environment.insert("LC_MESSAGES", "de_DE.UTF-8");
+        environment.insert("LANGUAGE", "de");
+        process.setProcessEnvironment(environment);
+        process.start(GFPDB_PROGRAM, {"chart", "MX25L1606E", "--format", "svg"});
+        QVERIFY(process.waitForFinished());
+
+        QVERIFY(process.readAllStandardOutput().contains(">Single-I/O-Ablauf</text>"));
+    }
+
     void no_display_is_needed()
     {
         QProcess process;
