@@ -159,9 +159,14 @@ picture() {
         [ "$now" != "$before" ] || break
         before=$now
     done
-    convert "$WORK/now.ppm" +dither -colors "$COLORS" -strip -define png:exclude-chunks=date,time \
-        -define png:compression-level=9 "PNG8:$IMAGES/$name.png"
-    say "$IMAGES/$name.png"
+    keep_picture "$WORK/now.ppm" "$name"
+}
+
+# keep_picture FILE NAME
+keep_picture() {
+    convert "$1" +dither -colors "$COLORS" -strip -define png:exclude-chunks=date,time \
+        -define png:compression-level=9 "PNG8:$IMAGES/$2.png"
+    say "$IMAGES/$2.png"
 }
 
 readonly DEVICE=(--dialog --family 1 --scheme 7 --device "TEAM-256")
@@ -324,7 +329,14 @@ shot_language-ja() {
     picture language-ja
 }
 
-readonly PICTURES=(device-page page-initialization page-program page-erase page-verify page-termination template-editor
+# A page of paper, in the resolution of a screen.
+shot_flow-charts() {
+    "$TOOL" chart MX25L25645G --variant quad --paper a4 -o "$WORK/charts.pdf"
+    pdftoppm -r 110 -singlefile "$WORK/charts.pdf" "$WORK/charts"
+    keep_picture "$WORK/charts.ppm" flow-charts
+}
+
+readonly PICTURES=(flow-charts device-page page-initialization page-program page-erase page-verify page-termination template-editor
     host-window programmer-trial programmer-trace programmer-data new-device duplicate device-database dark-device-database message dark-device-page dark-erase scale-150 scale-200 language-ja)
 
 main() {
