@@ -2,11 +2,13 @@
 
 // The window of the database: what is deleted there comes back, and nothing of somebody else's is lost.
 #include "database/database_window.h"
+#include "database/device_model.h"
 #include "lost_work_test.h"
 
 #include <QAction>
 #include <QSettings>
 #include <QStatusBar>
+#include <QTimer>
 
 class TEST_DATABASE_WINDOW : public LOST_WORK_TEST
 {
@@ -37,6 +39,11 @@ private:
                 return row;
         }
         return -1;
+    }
+
+    QString shown_id(const QString& name) const
+    {
+        return devices().model()->index(row_of(name), DEVICE_MODEL::DEVICE_ID).data().toString();
     }
 
     void select(const QStringList& names) const
@@ -137,7 +144,7 @@ private slots:
         QVERIFY(!undo().isEnabled());
 
         // Now it is shown as it is.
-        QCOMPARE(devices().model()->index(row_of(qs("A")), 2).data().toString(), qs("0x01"));
+        QCOMPARE(shown_id(qs("A")), qs("0x01"));
         press_delete({qs("A")});
         QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
         press_undo();
@@ -212,6 +219,30 @@ private slots:
         m_window->refresh();
         QCOMPARE(history(), QStringList{qs("deleted A")});
         QVERIFY(!undo().isEnabled());
+    }
+
+    // Else the dialog would take for seen what its user has not seen.
+    void a_dialog_keeps_what_it_has_seen_while_the_file_changes()
+    {
+        open("A").hide();
+        dlg().setModal(true);
+        bool is_done = false;
+        m_modals.expect([&](QWidget* dialog) {
+            auto& refreshing = *m_window->findChild<QTimer*>(qs("m_refreshing"));
+            run_foreign(qs("UPDATE device SET revision = 'other', device_id = '0x02' WHERE name = 'A'"));
+            QTRY_VERIFY(refreshing.isActive());
+            QTRY_VERIFY(!refreshing.isActive());
+            QCOMPARE(shown_id(qs("A")), qs("0xC2 0x20 0x19"));
+            play(qs("id = 0x01; apply says changed; device_id of A is 0x02"));
+            is_done = true;
+            dialog->close();
+        });
+        dlg().show();
+        QTRY_VERIFY(is_done);
+
+        close_dialog();
+        m_window->refresh();
+        QCOMPARE(shown_id(qs("A")), qs("0x02"));
     }
 
     void built_in_devices_are_not_deleted()

@@ -36,7 +36,7 @@
 
 namespace {
 
-constexpr int FIRST_WIDTH = 1180;
+constexpr int FIRST_WIDTH = 1280;
 constexpr int FIRST_HEIGHT = 700;
 // What a window manager adds around a window, and panels of the desktop.
 constexpr int SCREEN_SHARE_PERCENT = 92;
@@ -72,6 +72,8 @@ DATABASE_WINDOW::~DATABASE_WINDOW() = default;
 
 void DATABASE_WINDOW::connect_changes()
 {
+    m_refreshing.setParent(this);
+    m_refreshing.setObjectName(QStringLiteral("m_refreshing"));
     m_refreshing.setSingleShot(true);
     m_refreshing.setInterval(REFRESH_DELAY_MS);
     connect(&m_refreshing, &QTimer::timeout, this, &DATABASE_WINDOW::refresh_if_changed);

@@ -22,7 +22,7 @@ namespace {
 
 const QString COLUMNS_KEY = QStringLiteral("database/columns");
 // The widths of the columns, in characters; the last one takes the rest.
-constexpr int WIDTHS[DEVICE_MODEL::COLUMNS] = {18, 17, 19, 9, 9, 13, 6, 14, 17, 9, 20, 16};
+constexpr int WIDTHS[DEVICE_MODEL::COLUMNS] = {18, 16, 19, 9, 9, 13, 6, 14, 17, 9, 23, 16};
 
 // A renamed device is another one.
 std::string key_of(const GFPDB_RECORD& device)
