@@ -76,10 +76,13 @@ install(FILES ${PROJECT_SOURCE_DIR}/packaging/gfpq_host.svg
 gfpq_install_compressed(${PROJECT_SOURCE_DIR}/packaging/gfpq_host.1 share/man/man1 runtime)
 gfpq_install_compressed(${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.1 share/man/man1 runtime)
 gfpq_install_compressed(${PROJECT_SOURCE_DIR}/app/gfprog/gfprog.1 share/man/man1 runtime)
-install(FILES ${PROJECT_SOURCE_DIR}/app/gfpdb/gfpdb.bash
-    DESTINATION share/bash-completion/completions RENAME gfpdb COMPONENT runtime)
-install(FILES ${PROJECT_SOURCE_DIR}/app/gfprog/gfprog.bash
-    DESTINATION share/bash-completion/completions RENAME gfprog COMPONENT runtime)
+# zsh of Debian looks here when the prefix is /usr.
+foreach(tool gfpdb gfprog)
+    set(completion ${PROJECT_BINARY_DIR}/completion/${tool})
+    install(FILES ${completion}.bash DESTINATION share/bash-completion/completions RENAME ${tool} COMPONENT runtime)
+    install(FILES ${completion}.zsh DESTINATION share/zsh/vendor-completions RENAME _${tool} COMPONENT runtime)
+    install(FILES ${completion}.fish DESTINATION share/fish/vendor_completions.d COMPONENT runtime)
+endforeach()
 
 # Documentation.
 install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md

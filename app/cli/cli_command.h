@@ -32,6 +32,8 @@ constexpr const char* CLI_OPTION_SCHEME = "scheme";
 // Where a device is copied from.
 constexpr const char* CLI_OPTION_FROM_FAMILY = "from-family";
 constexpr const char* CLI_OPTION_FROM_SCHEME = "from-scheme";
+// The built-in devices in place of those of the directory.
+constexpr const char* CLI_OPTION_BUILTIN = "builtin";
 constexpr const char* CLI_OPTION_DIR = "dir";
 constexpr const char* CLI_OPTION_OUTPUT = "output";
 constexpr const char* CLI_OPTION_CSV = "csv";
@@ -88,6 +90,14 @@ public:
     virtual std::pair<int, int> argument_range() const = 0;
     // The options whose values are whole numbers.
     virtual std::vector<CLI_NUMBER> numbers() const { return {}; }
+    // For completion: the words that a value can be, called `value` in the help; none where any text is possible.
+    virtual std::vector<std::string> choices(const std::string& value) const
+    {
+        Q_UNUSED(value)
+        return {};
+    }
+    // False for a command whose records are never built-in devices or states of the history.
+    virtual bool takes_builtin() const { return true; }
     virtual void add_options(QCommandLineParser& parser) const = 0;
     virtual int run(const CLI_CALL& call) const = 0;
 

@@ -54,6 +54,20 @@ std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& 
     return devices.empty() ? stored : devices;
 }
 
+std::optional<GFPDB_RECORD> find_state(const CLI_CALL& call, const std::string& number, int& exit_code)
+{
+    const std::optional<std::int64_t> id = cli_history_id(number);
+    const std::optional<GFPDB_HISTORY_ENTRY> entry = id ? call.database.load_state(*id) : std::nullopt;
+    if (entry)
+        return GFPDB_RECORD{entry->is_template, entry->row, 0};
+    const std::string problem = call.database.get_read_problem();
+    exit_code = problem.empty() ? int(CLI_EXIT_NOT_FOUND) : call.database_failed(problem);
+    if (problem.empty())
+        call.output.error("There is no state " + gfpdb_quoted(number) + " in the history of " +
+                          call.database.get_directory() + ".");
+    return std::nullopt;
+}
+
 } // namespace
 
 GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name, const CLI_PLACE_OPTIONS& options)
@@ -91,6 +105,19 @@ std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string
         call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.get_directory() +
                           "." + hint_for(call, name, options));
     return std::nullopt;
+}
+
+std::optional<std::string> cli_state_of(const std::string& operand)
+{
+    const std::string prefix = CLI_HISTORY_PREFIX;
+    return operand.rfind(prefix, 0) == 0 ? std::optional<std::string>(operand.substr(prefix.size())) : std::nullopt;
+}
+
+std::optional<GFPDB_RECORD> cli_find_record(const CLI_CALL& call, const std::string& operand, int& exit_code,
+                                            const CLI_PLACE_OPTIONS& options)
+{
+    const std::optional<std::string> state = cli_state_of(operand);
+    return state ? find_state(call, *state, exit_code) : cli_find_one(call, operand, exit_code, options);
 }
 
 std::optional<std::int64_t> cli_history_id(const std::string& text)

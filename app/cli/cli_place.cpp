@@ -10,6 +10,8 @@
 
 #include <QString>
 
+#include <numeric>
+
 namespace {
 
 // The number from `lowest` to `highest` that `text` is, or whose name it is.
@@ -30,10 +32,10 @@ std::optional<int> find(const std::string& text, int lowest, int highest, const 
 
 constexpr int LAST_SCHEME = PGMIO_ILLEGAL_SCHEME - 1;
 
-std::string rule(const char* option, int lowest, int highest, const char* what)
+std::string rule(const char* option, int lowest, int highest, const char* what, const char* command)
 {
     return std::string("--") + option + " needs a whole number from " + std::to_string(lowest) + " to " +
-           std::to_string(highest) + ", or the name of a " + what + '.';
+           std::to_string(highest) + ", or the name of a " + what + ": \"gfpdb " + command + "\" lists them.";
 }
 
 } // namespace
@@ -45,15 +47,27 @@ std::optional<int> cli_family(const std::string& text)
 
 std::optional<int> cli_scheme(const std::string& text)
 {
-    return find(text, 0, LAST_SCHEME, [](int scheme) { return std::string(PGMIO_CONFIG_SCHEME_NAMES[scheme]); });
+    return find(text, 0, LAST_SCHEME, cli_scheme_name);
+}
+
+std::string cli_scheme_name(int scheme)
+{
+    return PGMIO_CONFIG_SCHEME_NAMES[scheme];
+}
+
+std::vector<int> cli_schemes()
+{
+    std::vector<int> schemes(LAST_SCHEME + 1);
+    std::iota(schemes.begin(), schemes.end(), 0);
+    return schemes;
 }
 
 std::string cli_family_rule(const char* option)
 {
-    return rule(option, DEV_FAMILY_FIRST, DEV_FAMILY_LAST, "device family");
+    return rule(option, DEV_FAMILY_FIRST, DEV_FAMILY_LAST, "device family", "families");
 }
 
 std::string cli_scheme_rule(const char* option)
 {
-    return rule(option, 0, LAST_SCHEME, "configuration scheme");
+    return rule(option, 0, LAST_SCHEME, "configuration scheme", "schemes");
 }

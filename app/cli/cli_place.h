@@ -5,10 +5,15 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 // None when `text` is neither a number in the range nor a name; names are compared without regard to case.
 std::optional<int> cli_family(const std::string& text);
 std::optional<int> cli_scheme(const std::string& text);
+
+std::string cli_scheme_name(int scheme);
+// The numbers of all schemes, in ascending order.
+std::vector<int> cli_schemes();
 
 // What --family and --scheme need, a sentence.
 std::string cli_family_rule(const char* option);

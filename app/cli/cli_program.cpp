@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli_program.h"
 
+#include "cli_complete.h"
 #include "cli_file_names.h"
 #include "cli_place.h"
 #include "text_catalogue.h"
@@ -24,15 +25,6 @@ constexpr const char* OPTION_VERBOSE = "verbose";
 constexpr int NAME_WIDTH = 10;
 // Between a name that is longer and its text.
 constexpr int NAME_GAP = 2;
-
-const CLI_COMMAND* find_command(const CLI_PROGRAM& program, const QString& name)
-{
-    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands) {
-        if (name == QLatin1String(command->name()))
-            return command.get();
-    }
-    return nullptr;
-}
 
 std::string overview(const CLI_PROGRAM& program)
 {
@@ -157,8 +149,7 @@ int run_command(const CLI_PROGRAM& program, const CLI_COMMAND& command, const QS
                 CLI_OUTPUT& output)
 {
     QCommandLineParser parser;
-    add_common_options(parser);
-    command.add_options(parser);
+    cli_add_options(parser, command);
     if (!parser.parse(arguments)) {
         output.error(gfpdb_to_utf8(parser.errorText()));
         return CLI_EXIT_USAGE;
@@ -201,11 +192,17 @@ int dispatch(const CLI_PROGRAM& program, const QStringList& arguments, CLI_OUTPU
         output.print(overview(program));
         return CLI_EXIT_OK;
     }
+    if (name == QLatin1String(CLI_COMPLETE)) {
+        // Who completes a word has no use for the log.
+        QLoggingCategory::setFilterRules(QStringLiteral("pgm.*=false"));
+        output.print(cli_complete(program, arguments.mid(2)));
+        return CLI_EXIT_OK;
+    }
     if (name == QLatin1String("--version")) {
         output.print(std::string(program.name) + " " CLI_VERSION "\n");
         return CLI_EXIT_OK;
     }
-    if (const CLI_COMMAND* command = find_command(program, name))
+    if (const CLI_COMMAND* command = cli_find_command(program, name))
         return run_command(program, *command, rest, output);
     output.error(name.isEmpty() ? std::string("A command is missing.")
                                 : gfpdb_quoted(gfpdb_to_utf8(name)) + " is not a " + program.name + " command.");
@@ -230,6 +227,21 @@ void print_log(QtMsgType type, const QMessageLogContext& context, const QString&
 }
 
 } // namespace
+
+const CLI_COMMAND* cli_find_command(const CLI_PROGRAM& program, const QString& name)
+{
+    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands) {
+        if (name == QLatin1String(command->name()))
+            return command.get();
+    }
+    return nullptr;
+}
+
+void cli_add_options(QCommandLineParser& parser, const CLI_COMMAND& command)
+{
+    add_common_options(parser);
+    command.add_options(parser);
+}
 
 int cli_run(const CLI_PROGRAM& program, const QStringList& arguments)
 {

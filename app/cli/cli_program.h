@@ -21,6 +21,11 @@ struct CLI_PROGRAM
     std::function<std::unique_ptr<QCoreApplication>(int& argc, char** argv)> make_application = {};
 };
 
+// The command called `name`, or null.
+const CLI_COMMAND* cli_find_command(const CLI_PROGRAM& program, const QString& name);
+// The options of `command`, and those that all have.
+void cli_add_options(QCommandLineParser& parser, const CLI_COMMAND& command);
+
 // Runs a tool with its arguments, the program's name first, and gives its exit code. UTF-8, paths any bytes.
 int cli_run(const CLI_PROGRAM& program, const QStringList& arguments);
 // What main() of a tool does: the same for a process of its own.

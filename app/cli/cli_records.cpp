@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli_records.h"
 
+#include "cli_columns.h"
 #include "cli_output.h"
+#include "record_facts.h"
 
 #include "gfpdb/gfpdb_exchange.h"
 #include "gfpdb/gfpdb_text.h"
@@ -23,19 +25,20 @@ LINE line_of(const CLI_LISTED& listed)
 {
     const GFPDB_ROW& row = listed.record.row;
     const bool placed = !listed.is_builtin;
-    return {listed.record.name(),
+    const auto shown = [](const std::string& text) { return text.empty() ? "-" : cli_printable(text); };
+    return {shown(listed.record.name()),
             listed.kind(),
             placed ? std::to_string(row.family) : "-",
             placed ? std::to_string(row.scheme) : "-",
-            row.density.empty() ? "-" : row.density,
-            row.voltage.empty() ? "-" : row.voltage,
-            row.device_id.empty() ? "-" : row.device_id};
+            shown(row.density),
+            shown(row.voltage),
+            shown(row.device_id)};
 }
 
 // At least two blanks follow a cell, also behind one that is too long for its column.
 QString padded(const QString& cell, int width)
 {
-    return cell.leftJustified(std::max(width, cell.size()) + 2);
+    return cli_padded(cell, std::max(width, cli_width(cell)) + 2);
 }
 
 void add_value(CLI_JSON& json, const GFPDB_VALUE& value)
@@ -58,15 +61,23 @@ std::string cli_records_table(const std::vector<CLI_LISTED>& records)
     std::array<int, COLUMN_COUNT> widths = {};
     for (const LINE& line : lines) {
         for (std::size_t at = 0; at < COLUMN_COUNT; ++at)
-            widths[at] = std::min(std::max(widths[at], gfpdb_from_utf8(line[at]).size()), COLUMN_WIDTH_MAX);
+            widths[at] = std::min(std::max(widths[at], cli_width(gfpdb_from_utf8(line[at]))), COLUMN_WIDTH_MAX);
     }
     QString text;
     for (const LINE& line : lines) {
         for (std::size_t at = 0; at + 1 < COLUMN_COUNT; ++at)
-            text += padded(gfpdb_from_utf8(cli_printable(line[at])), widths[at]);
-        text += gfpdb_from_utf8(cli_printable(line.back())) + QLatin1Char('\n');
+            text += padded(gfpdb_from_utf8(line[at]), widths[at]);
+        text += gfpdb_from_utf8(line.back()) + QLatin1Char('\n');
     }
     return gfpdb_to_utf8(text);
+}
+
+std::string cli_record_names(const std::vector<CLI_LISTED>& records)
+{
+    std::string text;
+    for (const CLI_LISTED& listed : records)
+        text += listed.record.name() + '\n';
+    return text;
 }
 
 void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records)
@@ -81,6 +92,7 @@ void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records)
             if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_FLASH_TEMPLATE_NAME)
                 add_value(json, value);
         }
+        json.add("maker", record_manufacturer(listed.record.row));
         if (!listed.is_builtin) {
             json.add("saved_at", listed.record.row.saved_at);
             json.add("saved_by", listed.record.row.saved_by);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "cli_json.h"
+#include "record_filter.h"
 
 #include "gfpdb/gfpdb_record.h"
 
@@ -15,11 +16,13 @@ struct CLI_LISTED
     GFPDB_RECORD record;
     bool is_builtin;
 
-    const char* kind() const { return is_builtin ? "builtin" : record.is_template ? "template" : "device"; }
+    const char* kind() const { return record_kind_name(record_kind(record, is_builtin)); }
 };
 
 // A line of titles, then one line each.
 std::string cli_records_table(const std::vector<CLI_LISTED>& records);
+// The names, one per line.
+std::string cli_record_names(const std::vector<CLI_LISTED>& records);
 // A list of objects; and these objects alone, for the list that is open.
 std::string cli_records_json(const std::vector<CLI_LISTED>& records);
 void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records);

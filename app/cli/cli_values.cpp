@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli_values.h"
 
+#include "cli_columns.h"
 #include "cli_output.h"
 
 #include "gfpdb/gfpdb_text.h"
@@ -24,16 +25,16 @@ std::string cli_values_table(const std::vector<GFPDB_PROPOSED_VALUE>& values)
     int title_width = 0;
     int text_width = 0;
     for (const GFPDB_PROPOSED_VALUE& value : values) {
-        title_width = std::max(title_width, shown(value.title).size());
-        text_width = std::min(std::max(text_width, shown(value.text).size()), WIDTH_MAX);
+        title_width = std::max(title_width, cli_width(shown(value.title)));
+        text_width = std::min(std::max(text_width, cli_width(shown(value.text))), WIDTH_MAX);
     }
     QString table;
     for (const GFPDB_PROPOSED_VALUE& value : values) {
-        table += shown(value.title).leftJustified(title_width + 2);
+        table += cli_padded(shown(value.title), title_width + 2);
         if (value.source.empty())
             table += shown(value.text);
         else
-            table += shown(value.text).leftJustified(text_width) + QLatin1String("  ") + shown(value.source);
+            table += cli_padded(shown(value.text), text_width) + QLatin1String("  ") + shown(value.source);
         table += QLatin1Char('\n');
     }
     return gfpdb_to_utf8(table);

@@ -6,11 +6,13 @@
 #include "commands/check_command.h"
 #include "commands/copy_command.h"
 #include "commands/copy_device_command.h"
+#include "commands/delete_command.h"
 #include "commands/diff_command.h"
 #include "commands/export_command.h"
 #include "commands/history_command.h"
 #include "commands/import_command.h"
 #include "commands/list_command.h"
+#include "commands/place_commands.h"
 #include "commands/restore_command.h"
 #include "commands/server_command.h"
 #include "commands/sfdp_command.h"
@@ -27,11 +29,14 @@ CLI_PROGRAM make_program()
     program.commands.push_back(std::make_unique<CLI_CHART_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_EXPORT_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_IMPORT_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_DELETE_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_CHECK_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_HISTORY_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_RESTORE_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_DIFF_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_COPY_DEVICE_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_FAMILIES_COMMAND>());
+    program.commands.push_back(std::make_unique<CLI_SCHEMES_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_SFDP_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_COPY_COMMAND>());
     program.commands.push_back(std::make_unique<CLI_SERVER_COMMAND>());

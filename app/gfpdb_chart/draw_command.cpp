@@ -116,7 +116,7 @@ int DRAW_COMMAND::run(const CLI_CALL& call) const
     if (!format)
         return call.wrong_usage("The format is missing: --format pdf, --format svg, or a file name with that ending.");
     int exit_code = CLI_EXIT_OK;
-    const std::optional<GFPDB_RECORD> record = cli_find_one(call, call.argument(0), exit_code);
+    const std::optional<GFPDB_RECORD> record = cli_find_record(call, call.argument(0), exit_code);
     if (!record)
         return exit_code;
     QString problem;

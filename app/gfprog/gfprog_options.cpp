@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "gfprog_options.h"
 
+#include "gfpe/gfpe_connection.h"
+
 #include "gfpdb/gfpdb_text.h"
 
 #include <QFile>
@@ -23,6 +25,17 @@ std::string hex(std::int64_t value, int digits)
 
 } // namespace
 
+std::vector<std::string> GFPROG_COMMAND::choices(const std::string& value) const
+{
+    std::vector<std::string> connections;
+    if (value != "connection")
+        return connections;
+    connections = {"emulated", "tcp:localhost:"};
+    for (const GFPE_PORT& port : gfpe_serial_ports())
+        connections.push_back("serial:" + port.device);
+    return connections;
+}
+
 void gfprog_add_chip_options(QCommandLineParser& parser)
 {
     parser.addOption(option(GFPROG_OPTION_ON,
@@ -31,7 +44,7 @@ void gfprog_add_chip_options(QCommandLineParser& parser)
                             "connection"));
     parser.addOption(option(GFPROG_OPTION_DEVICE,
                             "The device: one of the directory, or a built-in one. By default the one that is detected.",
-                            "name"));
+                            "device"));
 }
 
 void gfprog_add_target_options(QCommandLineParser& parser)

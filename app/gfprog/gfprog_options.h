@@ -27,6 +27,13 @@ constexpr const char* GFPROG_OPTION_TRACE = "trace";
 constexpr const char* GFPROG_OPTION_FILE = "file";
 constexpr const char* GFPROG_OPTION_FORCE = "force";
 
+// What the commands of the tool share.
+class GFPROG_COMMAND : public CLI_COMMAND
+{
+public:
+    std::vector<std::string> choices(const std::string& value) const override;
+};
+
 // --on and --device.
 void gfprog_add_chip_options(QCommandLineParser& parser);
 // --on, --device, --family, --scheme and --json: all that have to do with a chip.

@@ -23,6 +23,33 @@ QStringList options_of(const char* program, const QString& command)
     return options;
 }
 
+// The function of the completion, as bash calls it.
+QString bash_script(const QString& completion, const QString& name, const QStringList& words)
+{
+    QStringList quoted;
+    for (const QString& word : words)
+        quoted += QStringLiteral("'%1'").arg(word);
+    return QStringLiteral("source '%1'; COMP_WORDS=('%2' %3); COMP_CWORD=%4; _%2; printf '%s\\n' \"${COMPREPLY[@]}\"")
+        .arg(completion, name, quoted.join(QLatin1Char(' ')))
+        .arg(words.size());
+}
+
+// The words alone: fish prints explanations behind tabs, zsh what its terminal shows.
+QStringList offered_in(const QString& shell, const QString& text)
+{
+    QStringList offered;
+    if (shell == QLatin1String("zsh")) {
+        static const QRegularExpression WORD(QStringLiteral("<([^<>\r\n]+)>\r?\n"));
+        for (QRegularExpressionMatchIterator each = WORD.globalMatch(text); each.hasNext();)
+            offered += each.next().captured(1);
+        return offered;
+    }
+    const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines)
+        offered += line.section(QLatin1Char('\t'), 0, 0);
+    return offered;
+}
+
 } // namespace
 
 TOOL_RUN run_program(const char* program, const QStringList& arguments, const QByteArray& input)
@@ -61,28 +88,36 @@ QByteArray run_on_terminal(const char* program, const QStringList& arguments)
     return shown;
 }
 
-QStringList completed(const char* program, const QString& completion, const QStringList& words,
-                      const QString& directory)
+QStringList completed(const QString& shell, const char* program, const QStringList& words, const QString& directory)
 {
-    QStringList quoted;
-    for (const QString& word : words)
-        quoted += QStringLiteral("'%1'").arg(word);
-    const QString name = QFileInfo(QString::fromUtf8(program)).fileName();
-    const QString script =
-        QStringLiteral("source '%1'; COMP_WORDS=('%2' %3); COMP_CWORD=%4; _%5; printf '%s\\n' \"${COMPREPLY[@]}\"")
-            .arg(completion, QString::fromUtf8(program), quoted.join(QLatin1Char(' ')))
-            .arg(words.size())
-            .arg(name);
-    QProcess bash;
-    bash.setWorkingDirectory(directory);
-    bash.start(QStringLiteral("bash"), {QStringLiteral("--norc"), QStringLiteral("-c"), script});
-    bash.waitForFinished();
-    const auto lines = [](const QByteArray& text) {
-        return QString::fromUtf8(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    };
-    QStringList offered = lines(bash.readAllStandardOutput());
+    const QFileInfo tool(QString::fromUtf8(program));
+    const QString name = tool.fileName();
+    const QString completion = QStringLiteral(COMPLETION_DIR "/%1.%2").arg(name, shell);
+    const QString line = name + QLatin1Char(' ') + words.join(QLatin1Char(' '));
+    QStringList arguments;
+    if (shell == QLatin1String("bash")) {
+        arguments = QStringList{QStringLiteral("--norc"), QStringLiteral("-c"), bash_script(completion, name, words)};
+    } else if (shell == QLatin1String("zsh")) {
+        QFile::copy(completion, directory + QLatin1String("/_") + name);
+        arguments = QStringList{QStringLiteral("-f"), QStringLiteral(ZSH_COMPLETION), directory, line};
+    } else {
+        arguments = QStringList{QStringLiteral("--no-config"), QStringLiteral("-c"),
+                                QStringLiteral("source $argv[1]; complete -C $argv[2]"), completion, line};
+    }
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("PATH"),
+                       tool.path() + QLatin1Char(':') + environment.value(QStringLiteral("PATH")));
+    environment.insert(QStringLiteral("HOME"), directory);
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(directory);
+    process.start(shell, arguments);
+    constexpr int LIMIT_MS = 120000;
+    process.waitForFinished(LIMIT_MS);
+    QStringList offered = offered_in(shell, QString::fromUtf8(process.readAllStandardOutput()));
+    offered.removeDuplicates();
     offered.sort();
-    return offered + lines(bash.readAllStandardError());
+    return offered + QString::fromUtf8(process.readAllStandardError()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 QStringList lacking_in_man_page(const char* program, const QByteArray& page, const QStringList& commands,
@@ -109,12 +144,12 @@ QStringList lacking_in_man_page(const char* program, const QByteArray& page, con
     return lacking;
 }
 
-QStringList lacking_in_completion(const char* program, const QString& completion, const QStringList& commands,
-                                  const QString& directory)
+QStringList lacking_in_completion(const char* program, const QStringList& commands, const QString& directory)
 {
     QStringList lacking;
     for (const QString& command : commands) {
-        const QStringList offered = completed(program, completion, {command, QStringLiteral("--")}, directory);
+        const QStringList offered =
+            completed(QStringLiteral("bash"), program, {command, QStringLiteral("--")}, directory);
         for (const QString& option : options_of(program, command)) {
             if (!offered.contains(option))
                 lacking += command + QLatin1Char(' ') + option;

@@ -13,6 +13,17 @@ const QString DRAWING_PROGRAM = QStringLiteral("../libexec/gfpdb_chart");
 
 } // namespace
 
+std::vector<std::string> CLI_CHART_COMMAND::choices(const std::string& value) const
+{
+    if (value == CHART_OPTION_FORMAT)
+        return {"pdf", "svg"};
+    if (value == CHART_OPTION_OPERATION)
+        return {"initialization", "program", "erase", "verify", "termination"};
+    if (value == CHART_OPTION_VARIANT)
+        return {"single", "quad"};
+    return value == CHART_OPTION_PAPER ? std::vector<std::string>{"a4", "letter"} : std::vector<std::string>();
+}
+
 void CLI_CHART_COMMAND::add_options(QCommandLineParser& parser) const
 {
     parser.addOption({{QStringLiteral("o"), QLatin1String(CLI_OPTION_OUTPUT)},

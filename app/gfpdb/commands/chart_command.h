@@ -18,6 +18,7 @@ public:
     const char* summary() const final { return "Draw the flow charts of a record (PDF, SVG)"; }
     const char* arguments() const final { return "NAME"; }
     std::pair<int, int> argument_range() const final { return {1, 1}; }
+    std::vector<std::string> choices(const std::string& value) const final;
     void add_options(QCommandLineParser& parser) const final;
     // Hands the call over to the program that draws, and its exit code back.
     int run(const CLI_CALL& call) const override;

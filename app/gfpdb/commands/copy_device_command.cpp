@@ -17,7 +17,7 @@ int CLI_COPY_DEVICE_COMMAND::run(const CLI_CALL& call) const
 {
     int exit_code = CLI_EXIT_OK;
     const std::optional<GFPDB_RECORD> source =
-        cli_find_one(call, call.argument(0), exit_code, {CLI_OPTION_FROM_FAMILY, CLI_OPTION_FROM_SCHEME});
+        cli_find_record(call, call.argument(0), exit_code, {CLI_OPTION_FROM_FAMILY, CLI_OPTION_FROM_SCHEME});
     if (!source)
         return exit_code;
     std::vector<std::string> warnings;

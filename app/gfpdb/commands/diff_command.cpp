@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr const char* HISTORY_PREFIX = "history:";
 constexpr const char* JSON_SUFFIX = ".json";
 
 bool is_file(const std::string& operand)
@@ -19,19 +18,6 @@ bool is_file(const std::string& operand)
     const QString path = QFile::decodeName(QByteArray::fromStdString(operand));
     return path.endsWith(QLatin1String(JSON_SUFFIX), Qt::CaseInsensitive) || path.contains(QLatin1Char('/')) ||
            operand == "-" || QFileInfo(path).isFile();
-}
-
-// A state of the history.
-std::optional<GFPDB_RECORD> find_state(const CLI_CALL& call, const std::string& number, int& exit_code)
-{
-    const std::optional<std::int64_t> id = cli_history_id(number);
-    const std::optional<GFPDB_HISTORY_ENTRY> entry = id ? call.database.load_state(*id) : std::nullopt;
-    if (entry)
-        return GFPDB_RECORD{entry->is_template, entry->row, 0};
-    exit_code = CLI_EXIT_NOT_FOUND;
-    call.output.error("There is no state " + gfpdb_quoted(number) + " in the history of " +
-                      call.database.get_directory() + ".");
-    return std::nullopt;
 }
 
 // The records of a file. Empty: a message was printed.
@@ -79,10 +65,8 @@ std::optional<GFPDB_RECORD> pick(const CLI_CALL& call, const std::string& path, 
 std::optional<GFPDB_RECORD> find(const CLI_CALL& call, const std::string& operand, const GFPDB_RECORD* other,
                                  int& exit_code)
 {
-    const std::string prefix = HISTORY_PREFIX;
-    if (operand.rfind(prefix, 0) == 0)
-        return find_state(call, operand.substr(prefix.size()), exit_code);
-    return is_file(operand) ? pick(call, operand, other, exit_code) : cli_find_one(call, operand, exit_code);
+    return !cli_state_of(operand) && is_file(operand) ? pick(call, operand, other, exit_code)
+                                                      : cli_find_record(call, operand, exit_code);
 }
 
 void add_lines(CLI_JSON& json, const char* key, const std::vector<std::string>& lines)

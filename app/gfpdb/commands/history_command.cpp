@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commands/history_command.h"
 
+#include "cli_columns.h"
 #include "cli_find.h"
 #include "cli_json.h"
 
@@ -36,7 +37,7 @@ std::string line(const std::string& id, const std::string& when, const std::stri
 {
     const auto cell = [](const std::string& text, int width) {
         const QString shown = gfpdb_from_utf8(cli_printable(text));
-        return shown.leftJustified(std::max(width, shown.size() + 2));
+        return cli_padded(shown, std::max(width, cli_width(shown) + 2));
     };
     return gfpdb_to_utf8(cell(id, ID_WIDTH) + cell(when, WHEN_WIDTH) + cell(who, WHO_WIDTH) +
                          cell(reason, REASON_WIDTH) + cell(kind, KIND_WIDTH) + cell(family, NUMBER_WIDTH) +

@@ -13,6 +13,7 @@ public:
     const char* arguments() const override { return "[NAME]"; }
     std::pair<int, int> argument_range() const override { return {0, 1}; }
     std::vector<CLI_NUMBER> numbers() const override;
+    bool takes_builtin() const override { return false; }
     void add_options(QCommandLineParser& parser) const override;
     int run(const CLI_CALL& call) const override;
 };

@@ -3,48 +3,174 @@
 
 #include "cli_find.h"
 #include "cli_records.h"
+#include "record_facts.h"
 
 #include "gfpdb/gfpdb_text.h"
 
-#include <QRegularExpression>
-#include <QString>
-
 #include <algorithm>
+#include <cstdio>
+#include <iterator>
 
 namespace {
 
-constexpr const char* OPTION_BUILTIN = "builtin";
 constexpr const char* OPTION_ALL = "all";
 constexpr const char* OPTION_FILTER = "filter";
+constexpr const char* OPTION_ID = "id";
+constexpr const char* OPTION_MAKER = "maker";
+constexpr const char* OPTION_DENSITY = "density";
+constexpr const char* OPTION_VOLTAGE = "voltage";
+constexpr const char* OPTION_KIND = "kind";
+constexpr const char* OPTION_SORT = "sort";
+constexpr const char* OPTION_NAMES = "names";
 
-// Qt's own wildcards are for paths: their star ends at a slash, which a name may have.
-QRegularExpression wildcard(const QString& pattern)
+// A record, and what the rules and the order go by.
+struct FOUND
 {
-    QString expression = QRegularExpression::escape(pattern);
-    expression.replace(QLatin1String("\\*"), QLatin1String(".*")).replace(QLatin1String("\\?"), QLatin1String("."));
-    return QRegularExpression(QRegularExpression::anchoredPattern(expression),
-                              QRegularExpression::CaseInsensitiveOption);
+    CLI_LISTED listed;
+    RECORD_KEYS keys;
+};
+
+// So that numbers of different lengths have the order of their texts.
+std::string ordered(double number)
+{
+    char text[48] = {};
+    std::snprintf(text, sizeof text, "%024.3f", number);
+    return text;
 }
 
-std::vector<CLI_LISTED> find(const CLI_CALL& call)
+// By what a list is sorted; records without it come last.
+struct ORDER
 {
-    std::vector<CLI_LISTED> found;
+    const char* name;
+    std::string (*key)(const FOUND& found);
+    bool is_descending;
+};
+const ORDER ORDERS[] = {
+    {"name", [](const FOUND& found) { return gfpdb_name_key(found.listed.record.name()); }, false},
+    {"kind", [](const FOUND& found) { return std::to_string(static_cast<int>(found.keys.kind)); }, false},
+    {"id", [](const FOUND& found) { return found.keys.id; }, false},
+    {"maker", [](const FOUND& found) { return found.keys.manufacturer; }, false},
+    {"density",
+     [](const FOUND& found) {
+         return found.keys.density_bytes > 0 ? ordered(static_cast<double>(found.keys.density_bytes)) : "";
+     },
+     false},
+    {"voltage",
+     [](const FOUND& found) {
+         return found.keys.volts ? ordered(found.keys.volts->lowest) + ordered(found.keys.volts->highest) : "";
+     },
+     false},
+    {"family", [](const FOUND& found) { return found.listed.is_builtin ? "" : ordered(found.keys.family); }, false},
+    {"scheme", [](const FOUND& found) { return found.listed.is_builtin ? "" : ordered(found.keys.scheme); }, false},
+    // The newest first.
+    {"saved", [](const FOUND& found) { return found.listed.record.row.saved_at; }, true},
+};
+
+const ORDER* find_order(const std::string& name)
+{
+    const auto order =
+        std::find_if(std::begin(ORDERS), std::end(ORDERS), [&name](const ORDER& each) { return name == each.name; });
+    return order == std::end(ORDERS) ? nullptr : order;
+}
+
+std::vector<std::string> order_names()
+{
+    std::vector<std::string> names;
+    for (const ORDER& order : ORDERS)
+        names.emplace_back(order.name);
+    return names;
+}
+
+std::vector<std::string> kind_names()
+{
+    std::vector<std::string> names;
+    for (const RECORD_KIND kind : {RECORD_KIND::DEVICE, RECORD_KIND::TEMPLATE, RECORD_KIND::BUILTIN})
+        names.emplace_back(record_kind_name(kind));
+    return names;
+}
+
+void sort(std::vector<FOUND>& found, const ORDER& order)
+{
+    std::stable_sort(found.begin(), found.end(), [&order](const FOUND& left, const FOUND& right) {
+        const std::string left_key = order.key(left);
+        const std::string right_key = order.key(right);
+        if (left_key.empty() || right_key.empty())
+            return !left_key.empty() && right_key.empty();
+        return order.is_descending ? left_key > right_key : left_key < right_key;
+    });
+}
+
+// The rules of the options. False: `problem` says what is wrong with one of them.
+bool set_rules(const CLI_CALL& call, RECORD_FILTER& filter, std::string& problem)
+{
+    filter.set_name(call.value(OPTION_FILTER));
+    filter.set_manufacturer(call.value(OPTION_MAKER));
+    filter.set_density(call.value(OPTION_DENSITY));
+    filter.set_voltage(call.value(OPTION_VOLTAGE));
+    filter.set_kind(record_kind_of(call.value(OPTION_KIND)));
+    for (const char* const option : {OPTION_FILTER, OPTION_ID, OPTION_MAKER, OPTION_DENSITY, OPTION_VOLTAGE}) {
+        if (call.has(option) && call.value(option).empty())
+            problem = std::string("--") + option + " is empty.";
+    }
+    if (!filter.set_id(call.value(OPTION_ID)))
+        problem = gfpdb_quoted(call.value(OPTION_ID)) +
+                  " is not a device ID or the beginning of one: bytes in hexadecimal, e.g. \"C2 20 18\" or C22018.";
+    if (call.has(OPTION_KIND) && !record_kind_of(call.value(OPTION_KIND)))
+        problem =
+            gfpdb_quoted(call.value(OPTION_KIND)) + " is not a kind. Allowed: " + gfpdb_joined(kind_names()) + '.';
+    if (call.has(OPTION_SORT) && find_order(call.value(OPTION_SORT)) == nullptr)
+        problem =
+            gfpdb_quoted(call.value(OPTION_SORT)) + " is not an order. Allowed: " + gfpdb_joined(order_names()) + '.';
+    return problem.empty();
+}
+
+bool lists_stored(const CLI_CALL& call)
+{
+    return !call.has(CLI_OPTION_BUILTIN) && record_kind_of(call.value(OPTION_KIND)) != RECORD_KIND::BUILTIN;
+}
+
+bool lists_builtin(const CLI_CALL& call)
+{
+    return call.has(CLI_OPTION_BUILTIN) || call.has(OPTION_ALL) ||
+           record_kind_of(call.value(OPTION_KIND)) == RECORD_KIND::BUILTIN;
+}
+
+std::vector<CLI_LISTED> find(const CLI_CALL& call, const RECORD_FILTER& filter)
+{
+    std::vector<FOUND> found;
     const GFPDB_SELECTION selection = cli_selection(call, std::string());
-    if (!call.has(OPTION_BUILTIN)) {
-        for (const GFPDB_RECORD& record : call.database.find_stored(selection))
-            found.push_back({record, false});
-    }
-    if (call.has(OPTION_BUILTIN) || call.has(OPTION_ALL)) {
-        for (const GFPDB_RECORD& record : call.database.find_builtin(selection))
-            found.push_back({record, true});
-    }
-    const QRegularExpression filter = wildcard(gfpdb_from_utf8(call.value(OPTION_FILTER)));
-    const auto is_out = [&filter](const CLI_LISTED& listed) {
-        return !filter.match(gfpdb_from_utf8(listed.record.name())).hasMatch();
+    const auto add = [&found, &filter](const std::vector<GFPDB_RECORD>& records, bool is_builtin) {
+        for (const GFPDB_RECORD& record : records) {
+            const RECORD_KEYS keys(record, is_builtin);
+            if (filter.accepts(keys))
+                found.push_back({{record, is_builtin}, keys});
+        }
     };
-    if (call.has(OPTION_FILTER))
-        found.erase(std::remove_if(found.begin(), found.end(), is_out), found.end());
-    return found;
+    if (lists_stored(call))
+        add(call.database.find_stored(selection), false);
+    if (lists_builtin(call))
+        add(call.database.find_builtin(selection), true);
+    if (const ORDER* const order = find_order(call.value(OPTION_SORT)))
+        sort(found, *order);
+    std::vector<CLI_LISTED> listed;
+    listed.reserve(found.size());
+    for (const FOUND& each : found)
+        listed.push_back(each.listed);
+    return listed;
+}
+
+// Someone who looks at an empty list may not know that there is more.
+void print_hint(const CLI_CALL& call, const RECORD_FILTER& filter)
+{
+    const bool is_selected = !filter.is_empty() || call.has(CLI_OPTION_FAMILY) || call.has(CLI_OPTION_SCHEME);
+    if (!lists_stored(call)) {
+        call.output.error("No built-in device matches.");
+        return;
+    }
+    const std::string where = call.database.get_directory();
+    const std::string what = is_selected ? "Nothing in " + where + " matches." : "There is no device in " + where + '.';
+    call.output.error(what +
+                      (lists_builtin(call) ? "" : " --all also lists the built-in devices, --builtin only these."));
 }
 
 std::string csv(const std::vector<CLI_LISTED>& listed, GFPDB_LIST_FOR reader)
@@ -58,12 +184,29 @@ std::string csv(const std::vector<CLI_LISTED>& listed, GFPDB_LIST_FOR reader)
 
 } // namespace
 
+std::vector<std::string> CLI_LIST_COMMAND::choices(const std::string& value) const
+{
+    return value == OPTION_KIND ? kind_names() : value == "order" ? order_names() : std::vector<std::string>();
+}
+
 void CLI_LIST_COMMAND::add_options(QCommandLineParser& parser) const
 {
-    parser.addOption({QLatin1String(OPTION_BUILTIN), QStringLiteral("Only the built-in devices.")});
+    const auto rule = [&parser](const char* option, const char* text, const char* value) {
+        parser.addOption({QLatin1String(option), QLatin1String(text), QLatin1String(value)});
+    };
+    parser.addOption({QLatin1String(CLI_OPTION_BUILTIN), QStringLiteral("Only the built-in devices.")});
     parser.addOption({QLatin1String(OPTION_ALL), QStringLiteral("Also the built-in devices.")});
-    parser.addOption({QLatin1String(OPTION_FILTER), QStringLiteral("Only names that match, e.g. \"MX25*\"."),
-                      QStringLiteral("wildcard")});
+    rule(OPTION_FILTER, "Only names that match, e.g. \"MX25*\".", "wildcard");
+    rule(OPTION_ID, "Only this device ID, or IDs that begin so, e.g. \"C2 20 18\", C22018 or C2.", "bytes");
+    rule(OPTION_MAKER, "Only parts of this maker, or makers with this in their name, e.g. winbond.", "maker");
+    rule(OPTION_DENSITY, "Only this size, e.g. 256Mb or 32MB.", "density");
+    rule(OPTION_VOLTAGE, "Only devices that work at this voltage, e.g. 1.8V.", "voltage");
+    rule(OPTION_KIND, "Only records of this kind: device, template or builtin.", "kind");
+    parser.addOption(
+        {QLatin1String(OPTION_SORT),
+         QStringLiteral("Sort the list by one of: %1.").arg(QString::fromStdString(gfpdb_joined(order_names()))),
+         QStringLiteral("order")});
+    parser.addOption({QLatin1String(OPTION_NAMES), QStringLiteral("Print only the names, one per line.")});
     cli_add_csv_options(parser, "Print the devices as comma-separated values.");
     cli_add_place_options(parser, "Only devices of this");
     cli_add_json_option(parser);
@@ -74,10 +217,22 @@ int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
     const std::optional<GFPDB_LIST_FOR> reader = call.list_reader();
     if (reader && call.has(CLI_OPTION_JSON))
         return call.wrong_usage("--csv and --json cannot be used together.");
-    const std::vector<CLI_LISTED> records = find(call);
+    if (call.has(OPTION_NAMES) && (reader || call.has(CLI_OPTION_JSON)))
+        return call.wrong_usage("--names cannot be used with --csv or --json.");
+    RECORD_FILTER filter;
+    std::string wrong;
+    if (!set_rules(call, filter, wrong))
+        return call.wrong_usage(wrong);
+    const std::vector<CLI_LISTED> records = find(call, filter);
+    const bool is_table = !call.has(CLI_OPTION_JSON) && !call.has(OPTION_NAMES) && !reader;
     call.output.print(call.has(CLI_OPTION_JSON) ? cli_records_json(records)
+                      : call.has(OPTION_NAMES)  ? cli_record_names(records)
                       : reader                  ? csv(records, *reader)
                                                 : cli_records_table(records));
-    const std::string problem = call.has(OPTION_BUILTIN) ? std::string() : call.database.get_read_problem();
-    return problem.empty() ? CLI_EXIT_OK : call.database_failed(problem);
+    const std::string problem = lists_stored(call) ? call.database.get_read_problem() : std::string();
+    if (!problem.empty())
+        return call.database_failed(problem);
+    if (is_table && records.empty())
+        print_hint(call, filter);
+    return CLI_EXIT_OK;
 }

@@ -12,6 +12,7 @@ public:
     const char* summary() const override { return "List devices, templates and built-in devices"; }
     const char* arguments() const override { return ""; }
     std::pair<int, int> argument_range() const override { return {0, 0}; }
+    std::vector<std::string> choices(const std::string& value) const override;
     void add_options(QCommandLineParser& parser) const override;
     int run(const CLI_CALL& call) const override;
 };

@@ -34,6 +34,9 @@ constexpr std::array<SETTING, 7> SETTINGS = {{
     {"sslrootcert", "file", "init: the certificate of the authority, relative to the directory."},
 }};
 
+// What libpq takes for --sslmode.
+constexpr const char* SSL_MODES[] = {"disable", "allow", "prefer", "require", "verify-ca", "verify-full"};
+
 std::string option(const CLI_CALL& call, const char* name)
 {
     return call.value(name);
@@ -168,6 +171,12 @@ int print_status(const CLI_CALL& call, const std::string& argument)
 }
 
 } // namespace
+
+std::vector<std::string> CLI_SERVER_COMMAND::choices(const std::string& value) const
+{
+    return value == "mode" ? std::vector<std::string>(std::begin(SSL_MODES), std::end(SSL_MODES))
+                           : std::vector<std::string>();
+}
 
 void CLI_SERVER_COMMAND::add_options(QCommandLineParser& parser) const
 {

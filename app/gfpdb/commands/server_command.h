@@ -12,6 +12,7 @@ public:
     const char* summary() const override { return "Set up a directory whose database is on a PostgreSQL server"; }
     const char* arguments() const override { return "sql|init|status [DIRECTORY]"; }
     std::pair<int, int> argument_range() const override { return {1, 2}; }
+    std::vector<std::string> choices(const std::string& value) const override;
     void add_options(QCommandLineParser& parser) const override;
     int run(const CLI_CALL& call) const override;
 };

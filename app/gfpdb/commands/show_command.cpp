@@ -15,6 +15,11 @@ constexpr const char* BOTH = "both";
 
 } // namespace
 
+std::vector<std::string> CLI_SHOW_COMMAND::choices(const std::string& value) const
+{
+    return value == OPTION_VARIANT ? std::vector<std::string>{SINGLE, QUAD, BOTH} : std::vector<std::string>();
+}
+
 void CLI_SHOW_COMMAND::add_options(QCommandLineParser& parser) const
 {
     parser.addOption({QLatin1String(OPTION_VARIANT), QStringLiteral("The flows to show: single, quad or both."),
@@ -29,7 +34,7 @@ int CLI_SHOW_COMMAND::run(const CLI_CALL& call) const
     if (variant != SINGLE && variant != QUAD && variant != BOTH)
         return call.wrong_usage(gfpdb_quoted(variant) + " is not a flow variant. Allowed: single, quad, both.");
     int exit_code = CLI_EXIT_OK;
-    std::optional<GFPDB_RECORD> record = cli_find_one(call, call.argument(0), exit_code);
+    std::optional<GFPDB_RECORD> record = cli_find_record(call, call.argument(0), exit_code);
     if (!record)
         return exit_code;
     const std::optional<std::string> json = gfpdb_write_record(*record);

@@ -3,9 +3,9 @@
 // Reads the ID of the connected chip, and lists the devices that have it.
 #pragma once
 
-#include "cli_command.h"
+#include "gfprog_options.h"
 
-class GFPROG_DETECT_COMMAND final : public CLI_COMMAND
+class GFPROG_DETECT_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "detect"; }

@@ -3,9 +3,9 @@
 // Offers an emulated chip to serprog clients.
 #pragma once
 
-#include "cli_command.h"
+#include "gfprog_options.h"
 
-class GFPROG_EMULATE_COMMAND final : public CLI_COMMAND
+class GFPROG_EMULATE_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "emulate"; }

@@ -3,9 +3,9 @@
 // Reads what the connected chip says of itself, and makes a device of it.
 #pragma once
 
-#include "cli_command.h"
+#include "gfprog_options.h"
 
-class GFPROG_LEARN_COMMAND final : public CLI_COMMAND
+class GFPROG_LEARN_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "learn"; }

@@ -22,6 +22,14 @@ constexpr OPERATION OPERATIONS[] = {
     {"program", &GFPE_ORDER::program}, {"verify", &GFPE_ORDER::verify}, {"examine", &GFPE_ORDER::examine},
 };
 
+std::vector<std::string> operation_names()
+{
+    std::vector<std::string> names;
+    for (const OPERATION& operation : OPERATIONS)
+        names.emplace_back(operation.name);
+    return names;
+}
+
 const OPERATION* find_operation(const std::string& name)
 {
     for (const OPERATION& operation : OPERATIONS) {
@@ -57,14 +65,11 @@ void add_operation_options(QCommandLineParser& parser)
 
 int run_operations(const CLI_CALL& call, GFPROG_JOB job)
 {
-    std::vector<std::string> names;
-    for (const OPERATION& operation : OPERATIONS)
-        names.emplace_back(operation.name);
     for (int at = 0; at < call.argument_count(); ++at) {
         const OPERATION* const operation = find_operation(call.argument(at));
         if (operation == nullptr)
             return call.wrong_usage(gfpdb_quoted(call.argument(at)) +
-                                    " is not an operation. Allowed: " + gfpdb_joined(names) + '.');
+                                    " is not an operation. Allowed: " + gfpdb_joined(operation_names()) + '.');
         if (operation->asked != nullptr)
             job.order.*operation->asked = true;
     }
@@ -150,6 +155,11 @@ int GFPROG_READ_COMMAND::run(const CLI_CALL& call) const
     return gfprog_run(call, job);
 }
 
+std::vector<std::string> GFPROG_RUN_COMMAND::choices(const std::string& value) const
+{
+    return value == "OPERATION" ? operation_names() : GFPROG_COMMAND::choices(value);
+}
+
 void GFPROG_RUN_COMMAND::add_options(QCommandLineParser& parser) const
 {
     add_operation_options(parser);
@@ -158,6 +168,11 @@ void GFPROG_RUN_COMMAND::add_options(QCommandLineParser& parser) const
 int GFPROG_RUN_COMMAND::run(const CLI_CALL& call) const
 {
     return run_operations(call, make_job(call));
+}
+
+std::vector<std::string> GFPROG_TRACE_COMMAND::choices(const std::string& value) const
+{
+    return value == "OPERATION" ? operation_names() : GFPROG_COMMAND::choices(value);
 }
 
 void GFPROG_TRACE_COMMAND::add_options(QCommandLineParser& parser) const

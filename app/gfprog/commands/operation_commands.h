@@ -5,7 +5,7 @@
 
 #include "gfprog_options.h"
 
-class GFPROG_PROGRAM_COMMAND final : public CLI_COMMAND
+class GFPROG_PROGRAM_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "program"; }
@@ -16,7 +16,7 @@ public:
     int run(const CLI_CALL& call) const override;
 };
 
-class GFPROG_ERASE_COMMAND final : public CLI_COMMAND
+class GFPROG_ERASE_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "erase"; }
@@ -27,7 +27,7 @@ public:
     int run(const CLI_CALL& call) const override;
 };
 
-class GFPROG_BLANK_CHECK_COMMAND final : public CLI_COMMAND
+class GFPROG_BLANK_CHECK_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "blank-check"; }
@@ -38,7 +38,7 @@ public:
     int run(const CLI_CALL& call) const override;
 };
 
-class GFPROG_VERIFY_COMMAND final : public CLI_COMMAND
+class GFPROG_VERIFY_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "verify"; }
@@ -49,7 +49,7 @@ public:
     int run(const CLI_CALL& call) const override;
 };
 
-class GFPROG_READ_COMMAND final : public CLI_COMMAND
+class GFPROG_READ_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "read"; }
@@ -60,24 +60,26 @@ public:
     int run(const CLI_CALL& call) const override;
 };
 
-class GFPROG_RUN_COMMAND final : public CLI_COMMAND
+class GFPROG_RUN_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "run"; }
     const char* summary() const override { return "Run operations of the flow by their names"; }
     const char* arguments() const override { return "OPERATION..."; }
     std::pair<int, int> argument_range() const override { return {1, -1}; }
+    std::vector<std::string> choices(const std::string& value) const override;
     void add_options(QCommandLineParser& parser) const override;
     int run(const CLI_CALL& call) const override;
 };
 
-class GFPROG_TRACE_COMMAND final : public CLI_COMMAND
+class GFPROG_TRACE_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "trace"; }
     const char* summary() const override { return "Run operations and print every command that is sent"; }
     const char* arguments() const override { return "OPERATION..."; }
     std::pair<int, int> argument_range() const override { return {1, -1}; }
+    std::vector<std::string> choices(const std::string& value) const override;
     void add_options(QCommandLineParser& parser) const override;
     int run(const CLI_CALL& call) const override;
 };

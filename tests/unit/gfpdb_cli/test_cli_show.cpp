@@ -82,7 +82,7 @@ private slots:
         QCOMPARE(listed({"--filter", "B?ta"}), QStringList{"Beta"});
         QCOMPARE(listed({"--filter", "Alph"}), QStringList());
         QCOMPARE(listed({"--filter", "["}), QStringList());
-        QCOMPARE(run_tool({"list", "--filter", "["}).err, QByteArray());
+        QCOMPARE(run_tool({"list", "--json", "--filter", "["}).err, QByteArray());
         // A name is no path and no expression.
         const QString odd = "[G]/2.5\\";
         for (const QString& pattern : {odd, QString("[g*"), QString("*5?"), QString("*/*"), QString("[G]?2.5?")})
@@ -105,6 +105,7 @@ private slots:
                                 "    \"voltage\": \"3.3V\",\n    \"density\": \"256Mb\",\n    \"total_die\": 1,\n"
                                 "    \"single_io_dummy_clock\": 8,\n    \"quad_io_dummy_clock\": 6,\n"
                                 "    \"flow_template\": \"QE in SR1 bit 6, 4-byte address\",\n"
+                                "    \"maker\": \"Macronix\",\n"
                                 "    \"saved_at\": \"2026-11-22T09:14:33Z\",\n    \"saved_by\": \"anna@lab\"\n";
         QCOMPARE(run.out, "[\n  {\n    \"name\": \"Mine\",\n    \"kind\": \"device\",\n" + rest +
                               "  },\n  {\n    \"name\": \"T\",\n    \"kind\": \"template\",\n" + rest + "  }\n]\n");

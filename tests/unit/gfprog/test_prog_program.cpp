@@ -120,7 +120,8 @@ private slots:
         add({"emulate", PART}, "--listen is missing: the TCP port.");
         for (const char* port : {"-1", "65536", "x"})
             add({"emulate", PART, "--listen", port}, "--listen needs a whole number from 0 to 65535.");
-        add({"erase", "--family", "0"}, "--family needs a whole number from 1 to 72, or the name of a device family.");
+        add({"erase", "--family", "0"}, "--family needs a whole number from 1 to 72, or the name of a device family: "
+                                        "\"gfpdb families\" lists them.");
     }
 
     void wrong_arguments_are_refused()
@@ -201,13 +202,19 @@ private slots:
     {
         const auto [words, offered] = row<QStringList, QStringList>();
         image("a.bin", 1);
-        QCOMPARE(completed(GFPROG_PROGRAM, QString(GFPROG_SOURCE) + "/gfprog.bash", words, at("")), offered);
+        QCOMPARE(completed("bash", GFPROG_PROGRAM, words, at("")), offered);
+    }
+
+    void other_shells_complete_it_data() { rows_named<QString>({"zsh", "fish"}); }
+
+    void other_shells_complete_it()
+    {
+        QCOMPARE(completed(row<QString>(), GFPROG_PROGRAM, {"run", "e"}, at("")), (QStringList{"erase", "examine"}));
     }
 
     void completion_offers_every_option()
     {
-        const QString file = QString(GFPROG_SOURCE) + "/gfprog.bash";
-        QCOMPARE(lacking_in_completion(GFPROG_PROGRAM, file, COMMANDS, at("")), QStringList());
+        QCOMPARE(lacking_in_completion(GFPROG_PROGRAM, COMMANDS, at("")), QStringList());
     }
 };
 

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "cli_complete.h"
+
+#include "cli_find.h"
+#include "cli_place.h"
+#include "cli_records.h"
+
+#include "gfpdb/gfpdb_catalogue.h"
+#include "gfpdb/gfpdb_enums.h"
+#include "gfpdb/gfpdb_text.h"
+
+#include "dstr/dstr.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+namespace {
+
+// An option as the help shows it; `value` is empty for one without.
+struct OPTION
+{
+    QString letter;
+    QString name;
+    QString value;
+    QString text;
+};
+
+// The parser does not say which options it has, but its help does.
+std::vector<OPTION> options_of(const QCommandLineParser& parser)
+{
+    static const QRegularExpression LINE(
+        QStringLiteral("^  (?:-(\\w), )?--([a-z-]+)(?: <([^>]+)>)? +(\\S.*(?:\\n {8,}\\S.*)*)$"),
+        QRegularExpression::MultilineOption);
+    std::vector<OPTION> options;
+    for (QRegularExpressionMatchIterator each = LINE.globalMatch(parser.helpText()); each.hasNext();) {
+        const QRegularExpressionMatch match = each.next();
+        options.push_back({match.captured(1), match.captured(2), match.captured(3), match.captured(4).simplified()});
+    }
+    return options;
+}
+
+class COMPLETION
+{
+public:
+    COMPLETION(const CLI_PROGRAM& program, const QStringList& words)
+        : m_program(program), m_words(words), m_current(words.isEmpty() ? QString() : words.last())
+    {}
+
+    std::string answer()
+    {
+        if (m_words.size() <= 1)
+            add_commands(true);
+        else if (m_words.first() == QLatin1String("help"))
+            add_commands(false);
+        else if (const CLI_COMMAND* const command = cli_find_command(m_program, m_words.first()))
+            add_of(*command);
+        return m_paths + '\n' + m_lines;
+    }
+
+private:
+    void add(const std::string& word, const std::string& text = std::string())
+    {
+        const bool has_control = word.find_first_of("\t\n\r") != std::string::npos;
+        if (!has_control && gfpdb_name_key(word).rfind(gfpdb_name_key(gfpdb_to_utf8(m_current)), 0) == 0)
+            m_lines += word + '\t' + cli_printable(text) + '\n';
+    }
+
+    void add_commands(bool with_options)
+    {
+        for (const std::unique_ptr<CLI_COMMAND>& command : m_program.commands)
+            add(command->name(), command->summary());
+        add("help", "Explain a command");
+        if (with_options) {
+            add("--help", "List the commands");
+            add("--version", "Print the version");
+        }
+    }
+
+    void add_of(const CLI_COMMAND& command)
+    {
+        QCommandLineParser parser;
+        cli_add_options(parser, command);
+        // What is incomplete here is what is being written.
+        parser.parse(m_words.mid(0, m_words.size() - 1));
+        const std::vector<OPTION> options = options_of(parser);
+        const QString before = m_words[m_words.size() - 2];
+        for (const OPTION& option : options) {
+            const bool is_before = before == QLatin1String("--") + option.name ||
+                                   (!option.letter.isEmpty() && before == QLatin1Char('-') + option.letter);
+            if (is_before && !option.value.isEmpty())
+                return add_values(command, parser, gfpdb_to_utf8(option.value));
+        }
+        if (m_current.startsWith(QLatin1Char('-'))) {
+            for (const OPTION& option : options)
+                add("--" + gfpdb_to_utf8(option.name), gfpdb_to_utf8(option.text));
+            return;
+        }
+        // "[NAME...]" stands for any number of them.
+        const QStringList places = QString::fromLatin1(command.arguments()).split(QLatin1Char(' '));
+        const int index = parser.positionalArguments().size();
+        QString place = places.value(index);
+        if (place.isEmpty() && places.last().contains(QLatin1String("...")))
+            place = places.last();
+        const QStringList words = place.remove(QRegularExpression(QStringLiteral("[][.]"))).split(QLatin1Char('|'));
+        if (words.size() == 1)
+            return add_values(command, parser, gfpdb_to_utf8(place));
+        // "sql|init|status" stands for these words.
+        for (const QString& word : words)
+            add(gfpdb_to_utf8(word));
+    }
+
+    // What `value` stands for, the name of a value in the help.
+    void add_values(const CLI_COMMAND& command, const QCommandLineParser& parser, const std::string& value)
+    {
+        for (const std::string& choice : command.choices(value))
+            add(choice);
+        if (value == "family")
+            add_families();
+        else if (value == "scheme")
+            add_schemes();
+        else if (value == "file" || value == "FILE")
+            m_paths = "files";
+        else if (value == "directory" || value == "DIRECTORY" || value == "folder")
+            m_paths = "directories";
+        else if (value == "NAME" || value == "SOURCE")
+            add_records_or_states(command, parser);
+        else if (value == "device" || value == "PART")
+            add_records(command, parser);
+        else if (value == "ID")
+            add_states(parser, std::string());
+        else if (value == "LEFT" || value == "RIGHT")
+            add_sides(command, parser);
+        else if (value == "maker")
+            add_makers();
+    }
+
+    void add_families()
+    {
+        for (int family = DEV_FAMILY_FIRST; family <= DEV_FAMILY_LAST; ++family)
+            add(dstr_get_user_string(family), std::to_string(family));
+    }
+
+    void add_schemes()
+    {
+        for (const int scheme : cli_schemes())
+            add(cli_scheme_name(scheme), std::to_string(scheme));
+    }
+
+    void add_makers()
+    {
+        for (const std::string& maker : gfpdb_makers())
+            add(maker);
+    }
+
+    static GFPDB_DATABASE database(const QCommandLineParser& parser)
+    {
+        return GFPDB_DATABASE(QFile::encodeName(parser.value(QLatin1String(CLI_OPTION_DIR))).toStdString());
+    }
+
+    void add_records(const CLI_COMMAND& command, const QCommandLineParser& parser)
+    {
+        GFPDB_DATABASE of_call = database(parser);
+        for (const GFPDB_RECORD& record : of_call.find_stored({}))
+            add(record.name(), CLI_LISTED{record, false}.kind());
+        if (!command.takes_builtin())
+            return;
+        for (const GFPDB_RECORD& record : of_call.find_builtin({}))
+            add(record.name(), CLI_LISTED{record, true}.kind());
+    }
+
+    void add_records_or_states(const CLI_COMMAND& command, const QCommandLineParser& parser)
+    {
+        add_records(command, parser);
+        // There may be very many: only who begins to write it means a state.
+        const std::string prefix = CLI_HISTORY_PREFIX;
+        if (command.takes_builtin() && !m_current.isEmpty() &&
+            prefix.rfind(gfpdb_to_utf8(m_current).substr(0, prefix.size()), 0) == 0)
+            add_states(parser, prefix);
+    }
+
+    void add_states(const QCommandLineParser& parser, const std::string& prefix)
+    {
+        const std::vector<GFPDB_HISTORY_ENTRY> entries = database(parser).find_history({});
+        for (const GFPDB_HISTORY_ENTRY& entry : entries)
+            add(prefix + std::to_string(entry.id), entry.name() + ", " + entry.reason + ' ' + entry.changed_at);
+    }
+
+    void add_sides(const CLI_COMMAND& command, const QCommandLineParser& parser)
+    {
+        m_paths = "files";
+        add_records_or_states(command, parser);
+    }
+
+    const CLI_PROGRAM& m_program;
+    const QStringList m_words;
+    const QString m_current;
+    std::string m_paths = "-";
+    std::string m_lines;
+};
+
+} // namespace
+
+std::string cli_complete(const CLI_PROGRAM& program, const QStringList& words)
+{
+    return COMPLETION(program, words).answer();
+}
