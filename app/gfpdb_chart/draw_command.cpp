@@ -8,15 +8,13 @@
 #include "gfpc/gfpc_charts.h"
 #include "gfpdb/gfpdb_text.h"
 
-#include <QFile>
+#include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr const char* SINGLE = "single";
 constexpr const char* QUAD = "quad";
-constexpr const char* PDF = "pdf";
 constexpr const char* SVG = "svg";
-constexpr const char* A4 = "a4";
 constexpr const char* LETTER = "letter";
 
 // The operation whose name in the dialog, or a part of it between slashes, is `text`.
@@ -31,28 +29,21 @@ std::optional<int> operation_of(const std::string& text)
     return std::nullopt;
 }
 
-// A sentence about a word that is none of two; empty when it is one, or not asked for.
-std::string problem_of_choice(const CLI_CALL& call, const char* option, const char* what, const std::string& one,
-                              const std::string& other)
-{
-    const std::string word = call.value(option);
-    if (!call.has(option) || word == one || word == other)
-        return std::string();
-    return gfpdb_quoted(word) + " is not a " + what + ". Allowed: " + one + ", " + other + ".";
-}
-
 // What is wrong with the options; empty when nothing is.
-std::string problem_of(const CLI_CALL& call)
+std::string problem_of(const CLI_CALL& call, const CLI_COMMAND& command)
 {
-    for (const std::string& problem : {problem_of_choice(call, CHART_OPTION_VARIANT, "flow variant", SINGLE, QUAD),
-                                       problem_of_choice(call, CHART_OPTION_FORMAT, "format of charts", PDF, SVG),
-                                       problem_of_choice(call, CHART_OPTION_PAPER, "size of paper", A4, LETTER)}) {
-        if (!problem.empty())
-            return problem;
+    constexpr std::pair<const char*, const char*> CHOICES[] = {{CHART_OPTION_VARIANT, "flow variant"},
+                                                               {CHART_OPTION_FORMAT, "format of charts"},
+                                                               {CHART_OPTION_PAPER, "size of paper"}};
+    for (const auto& [option, what] : CHOICES) {
+        const std::vector<std::string> allowed = command.choices(option);
+        const std::string word = call.value(option);
+        if (call.has(option) && std::find(allowed.cbegin(), allowed.cend(), word) == allowed.cend())
+            return gfpdb_quoted(word) + " is not a " + what + ". Allowed: " + gfpdb_joined(allowed) + ".";
     }
     if (call.has(CHART_OPTION_OPERATION) && !operation_of(call.value(CHART_OPTION_OPERATION)))
         return gfpdb_quoted(call.value(CHART_OPTION_OPERATION)) +
-               " is not an operation. Allowed: initialization, program, erase, verify, termination.";
+               " is not an operation. Allowed: " + gfpdb_joined(command.choices(CHART_OPTION_OPERATION)) + ".";
     if (call.has(CLI_OPTION_OUTPUT) && call.value(CLI_OPTION_OUTPUT).empty())
         return "--output is empty.";
     return std::string();
@@ -89,6 +80,8 @@ GFPC_ORDER order_of(const CLI_CALL& call, const GFPDB_RECORD& record, GFPC_FORMA
     if (call.has(CHART_OPTION_PAPER))
         order.paper = call.value(CHART_OPTION_PAPER) == LETTER ? QPageSize::Letter : QPageSize::A4;
     order.date = QDate::currentDate();
+    if (cli_state_of(call.argument(0)))
+        order.note = gfpdb_from_utf8(call.argument(0));
     return order;
 }
 
@@ -109,7 +102,7 @@ int write(const CLI_CALL& call, const std::string& content)
 
 int DRAW_COMMAND::run(const CLI_CALL& call) const
 {
-    const std::string wrong = problem_of(call);
+    const std::string wrong = problem_of(call, *this);
     if (!wrong.empty())
         return call.wrong_usage(wrong);
     const std::optional<GFPC_FORMAT> format = format_of(call);

@@ -239,8 +239,9 @@ QByteArray gfpc_draw_charts(const GFPC_ORDER& order, QString& problem)
     const CHARTS charts = problem.isEmpty() ? make_charts(order, problem) : CHARTS();
     if (charts.empty())
         return QByteArray();
+    const QString flow = order.flow_variant ? WORDS::tr("Quad-I/O flow") : WORDS::tr("Single-I/O flow");
     const HEADER header = {gfpdb_from_utf8(order.record.name()),
-                           order.flow_variant ? WORDS::tr("Quad-I/O flow") : WORDS::tr("Single-I/O flow"),
+                           order.note.isEmpty() ? flow : flow + QStringLiteral(", ") + order.note,
                            order.date.toString(Qt::ISODate)};
     return order.format == GFPC_FORMAT::SVG ? draw_svg(charts, header) : draw_pdf(charts, header, order.paper);
 }

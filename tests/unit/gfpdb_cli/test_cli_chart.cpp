@@ -82,6 +82,17 @@ private slots:
         QCOMPARE(variant({"Quad", "--variant", "single"}), QByteArray("single"));
     }
 
+    void former_states_are_drawn()
+    {
+        save_part("Mine", FAMILY, QUAD);
+        save_part("Other", FAMILY, QUAD);
+        QVERIFY(fresh_manager(FAMILY, QUAD)->delete_flash("Mine", m_place->db_dir()));
+        const QByteArray svg = tool({"chart", "history:1", "--format", "svg"}).out;
+
+        QVERIFY(svg.contains(">Mine</text>") && svg.contains(">Quad-I/O flow, history:1</text>"));
+        QCOMPARE(tool({"chart", "history:7", "--format", "svg"}).exit_code, 3);
+    }
+
     void wrong_arguments_are_refused_data()
     {
         rows<QStringList, int, QByteArray>(

@@ -33,8 +33,9 @@ struct GFPC_ORDER
     GFPC_FORMAT format = GFPC_FORMAT::PDF;
     // Of PDF.
     QPageSize::PageSizeId paper = QPageSize::A4;
-    // Printed on each page.
+    // Printed on each page; the note behind the name of the flow, e.g. which state of the record it is.
     QDate date;
+    QString note = {};
 };
 
 // The charts of a record. Empty when they cannot be drawn: `problem` says why, a sentence for the user.
