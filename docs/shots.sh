@@ -60,7 +60,7 @@ start_screen() {
 
 set_environment() {
     export HOME=$WORK/home XDG_CONFIG_HOME=$WORK/config XDG_RUNTIME_DIR=$WORK/run GFPDB_SETTINGS=$WORK/gfpdb.ini
-    export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
+    export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb USER=team
     unset LANGUAGE QT_SCALE_FACTOR QT_STYLE_OVERRIDE XDG_CURRENT_DESKTOP GFPQ_TRANSLATIONS
     mkdir -p "$HOME" "$XDG_CONFIG_HOME" "$PARTS"
     mkdir -m 700 -p "$XDG_RUNTIME_DIR"
@@ -75,12 +75,22 @@ stored() {
     "$TOOL" import --dir "$PARTS" --family 1 --scheme 7 "$WORK/record.json" >/dev/null
 }
 
+# changed NAME FROM TO: the device with another text in its record; the former state goes into the history.
+changed() {
+    "$TOOL" export --dir "$PARTS" "$1" | sed "s/$2/$3/" >"$WORK/record.json"
+    "$TOOL" import --dir "$PARTS" --replace "$WORK/record.json" >/dev/null
+}
+
 # Devices and templates of a team.
 fill_database() {
     stored MX25L25645G TEAM-256
     stored MX25L12845G TEAM-128
     stored MX25L25645G TEAM-256 "Team: 4-byte, slow erase"
     stored MX25L12845G TEAM-128 "Team: 3-byte"
+    USER=ada changed TEAM-128 '"erase_size": "65536"' '"erase_size": "4096"'
+    USER=ada changed TEAM-128 '"command": "0xD8"' '"command": "0x20"'
+    USER=grace changed TEAM-256 '"voltage": "3.3V"' '"voltage": "2.7-3.6V"'
+    USER=grace changed TEAM-256 '"voltage": "2.7-3.6V"' '"voltage": "3.3V"'
 }
 
 # A dark palette, the way a desktop hands it to Qt.
@@ -271,6 +281,30 @@ shot_database() {
 
 shot_device-database() { shot_database device-database "c2 20 19"; }
 
+# show_history: the page of the history in the window of the database.
+show_history() {
+    open_program --family 1 --scheme 7 --device MX25L25645G
+    local window=$WINDOW
+    press ctrl+b
+    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    press ctrl+Tab
+}
+
+shot_device-history() {
+    show_history
+    picture device-history
+}
+
+# What the newest change did: the state that it put an end to beside the next one.
+shot_device-compare() {
+    show_history
+    local window=$WINDOW
+    times 4 Tab
+    press Home Return
+    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    picture device-compare
+}
+
 shot_dark-device-database() {
     use_dark_palette
     shot_database dark-device-database "c2 20 19"
@@ -337,7 +371,7 @@ shot_flow-charts() {
 }
 
 readonly PICTURES=(flow-charts device-page page-initialization page-program page-erase page-verify page-termination template-editor
-    host-window programmer-trial programmer-trace programmer-data new-device duplicate device-database dark-device-database message dark-device-page dark-erase scale-150 scale-200 language-ja)
+    host-window programmer-trial programmer-trace programmer-data new-device duplicate device-database dark-device-database device-history device-compare message dark-device-page dark-erase scale-150 scale-200 language-ja)
 
 main() {
     rm -rf "$WORK"

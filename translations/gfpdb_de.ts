@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>Die Aktion sendet drei Adressbytes, davor wurde aber die 4-Byte-Adressierung eingeschaltet.</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>Vorlagenname</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>Ablaufvorlage</translation>
+    </message>
 </context>
 </TS>

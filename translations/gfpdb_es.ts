@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>La acción envía tres bytes de dirección, pero antes se ha entrado en el direccionamiento de 4 bytes.</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>Nombre de la plantilla</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>Plantilla de flujo</translation>
+    </message>
 </context>
 </TS>

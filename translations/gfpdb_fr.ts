@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>L’action envoie trois octets d’adresse, mais l’adressage sur 4 octets a commencé avant.</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>Nom du modèle</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>Modèle de flot</translation>
+    </message>
 </context>
 </TS>

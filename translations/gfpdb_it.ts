@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>L’azione invia tre byte di indirizzo, ma prima si è entrati nell’indirizzamento a 4 byte.</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>Nome del modello</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>Modello di flusso</translation>
+    </message>
 </context>
 </TS>

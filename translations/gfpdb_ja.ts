@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>アクションは 3 バイトのアドレスを送信しますが、その前に 4 バイトアドレスが開始されています。</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>テンプレート名</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>フローのテンプレート</translation>
+    </message>
 </context>
 </TS>

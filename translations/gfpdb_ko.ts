@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>동작은 주소 3바이트를 보내지만 그 전에 4바이트 주소가 시작되었습니다.</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>템플릿 이름</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>흐름 템플릿</translation>
+    </message>
 </context>
 </TS>

@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>A ação envia três bytes de endereço, mas antes se entrou no endereçamento de 4 bytes.</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>Nome do modelo</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>Modelo de fluxo</translation>
+    </message>
 </context>
 </TS>

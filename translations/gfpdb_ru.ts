@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>Действие отправляет три байта адреса, но до него включена 4-байтовая адресация.</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>Имя шаблона</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>Шаблон алгоритма</translation>
+    </message>
 </context>
 </TS>

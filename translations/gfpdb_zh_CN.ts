@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>此动作发送三个地址字节，但之前已进入 4 字节寻址。</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>模板名称</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>流程模板</translation>
+    </message>
 </context>
 </TS>

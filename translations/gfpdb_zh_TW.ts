@@ -830,5 +830,13 @@
         <source>The action sends three address bytes, but 4-byte addressing was entered before.</source>
         <translation>此動作傳送三個位址位元組，但之前已進入 4 位元組定址。</translation>
     </message>
+    <message>
+        <source>Template name</source>
+        <translation>範本名稱</translation>
+    </message>
+    <message>
+        <source>Flow template</source>
+        <translation>流程範本</translation>
+    </message>
 </context>
 </TS>

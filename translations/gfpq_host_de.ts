@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Vergleichen...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Ablaufdia&amp;gramme speichern...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>Zurückgeholte Bausteine: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Die Ablaufdiagramme sind in %1.</translation>
     </message>
 </context>
 <context>

@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>&amp;Eliminar</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Comparar...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>&amp;Guardar diagramas de flujo...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>Dispositivos recuperados: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Los diagramas de flujo están en %1.</translation>
     </message>
 </context>
 <context>

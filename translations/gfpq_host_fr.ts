@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>&amp;Supprimer</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Comparer...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Enregistrer les or&amp;ganigrammes...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>Composants rétablis&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Les organigrammes sont dans %1.</translation>
     </message>
 </context>
 <context>

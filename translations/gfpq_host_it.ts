@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>&amp;Elimina</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Confronta...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Salva dia&amp;grammi di flusso...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>Dispositivi ripristinati: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>I diagrammi di flusso sono in %1.</translation>
     </message>
 </context>
 <context>

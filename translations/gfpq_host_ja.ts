@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>削除(&amp;D)</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>比較(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>フローチャートを保存(&amp;H)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>元に戻したデバイス: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>フローチャートを %1 に保存しました。</translation>
     </message>
 </context>
 <context>

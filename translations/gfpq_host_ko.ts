@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>삭제(&amp;D)</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>비교(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>흐름도 저장(&amp;H)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>되돌린 디바이스: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>이력</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>흐름도를 %1에 저장했습니다.</translation>
     </message>
 </context>
 <context>

@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>&amp;Excluir</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Comparar...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Salvar fluxo&amp;gramas...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>Dispositivos trazidos de volta: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Os fluxogramas estão em %1.</translation>
     </message>
 </context>
 <context>

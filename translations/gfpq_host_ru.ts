@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>&amp;Удалить</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Сравнить...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>Со&amp;хранить блок-схемы...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>Возвращено микросхем: %1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>Блок-схемы находятся в файле %1.</translation>
     </message>
 </context>
 <context>
@@ -959,7 +975,7 @@ Qt %3
     </message>
     <message>
         <source>Save Flow C&amp;harts...</source>
-        <translation>&amp;Сохранить блок-схемы...</translation>
+        <translation>Со&amp;хранить блок-схемы...</translation>
     </message>
 </context>
 <context>

@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>比较(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>保存流程图(&amp;H)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>已恢复器件：%1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>流程图已保存到 %1。</translation>
     </message>
 </context>
 <context>

@@ -241,6 +241,14 @@
         <source>&amp;Delete</source>
         <translation>刪除(&amp;D)</translation>
     </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>比較(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Save Flow C&amp;harts...</source>
+        <translation>儲存流程圖(&amp;H)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_EDIT_MENU</name>
@@ -341,6 +349,14 @@
     <message>
         <source>Devices brought back: %1</source>
         <translation>已還原元件：%1</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>歷史記錄</translation>
+    </message>
+    <message>
+        <source>The flow charts are in %1.</source>
+        <translation>流程圖已儲存到 %1。</translation>
     </message>
 </context>
 <context>

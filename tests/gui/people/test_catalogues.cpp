@@ -212,8 +212,7 @@ private slots:
     void access_keys_are_kept_and_clash_nowhere()
     {
         QFETCH(QString, catalogue);
-        // Whose key each is: "&Undo" and "&Undo: Delete" are one entry that changes its text.
-        QMap<QString, QString> keys;
+        QSet<QString> keys;
         for (const MESSAGE& message : read_catalogue(catalogue)) {
             QCOMPARE(message.translation.count(QLatin1Char('&')), message.source.count(QLatin1Char('&')));
             if (!message.source.contains(QLatin1Char('&')))
@@ -221,9 +220,8 @@ private slots:
             const QString letter =
                 message.translation.mid(message.translation.indexOf(QLatin1Char('&')) + 1, 1).toLower();
             for (const QString& place : places_of(message.context)) {
-                const QString entry = message.source.section(QLatin1Char(':'), 0, 0);
-                QVERIFY2(keys.value(place + letter, entry) == entry, qPrintable(message.translation));
-                keys.insert(place + letter, entry);
+                QVERIFY2(!keys.contains(place + letter), qPrintable(message.translation));
+                keys.insert(place + letter);
             }
         }
     }
