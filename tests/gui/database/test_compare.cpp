@@ -186,6 +186,30 @@ private slots:
         QCOMPARE(current(), qs("Density"));
     }
 
+    void lines_of_two_operations_or_with_others_between_are_two_differences_data()
+    {
+        QTest::addColumn<GFPDB_RECORD>("left");
+        QTest::addColumn<GFPDB_RECORD>("right");
+        GFPDB_RECORD other = make_record();
+        other.row.single_flows = flow("erase", {action("A")});
+        QTest::newRow("operations") << make_record({action("A")}) << other;
+        QTest::newRow("others between") << make_record({action("A"), action("B"), action("C")})
+                                        << make_record({action("A", 1), action("B"), action("C", 1)});
+    }
+
+    // Also where the lines between are not shown.
+    void lines_of_two_operations_or_with_others_between_are_two_differences()
+    {
+        QFETCH(GFPDB_RECORD, left);
+        QFETCH(GFPDB_RECORD, right);
+        COMPARE_MODEL model({qs("left"), left}, {qs("right"), right});
+        model.show_only_differences(true);
+
+        const int first = model.next_difference(-1);
+        QCOMPARE(model.next_difference(first), first + 1);
+        QCOMPARE(model.previous_difference(first + 1), first);
+    }
+
     void what_differs_in_a_long_line_is_said_below()
     {
         open(make_record({action("A", 5)}), make_record({action("A", 70)}));

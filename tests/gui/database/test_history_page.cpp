@@ -105,7 +105,7 @@ private slots:
              {"with the current one", 1, "m_compare_current_action", "Mine, state 1", "Mine, now"}});
     }
 
-    // Between them is one of another device.
+    // Between them is one of a device of that name in another mode.
     void states_are_compared()
     {
         const auto [id, action, left, right] = row<int, QByteArray, QString, QString>();
@@ -114,6 +114,7 @@ private slots:
         store("Mine", "0x02");
         store("Other", "0x02");
         store("Mine", "0x03");
+        run_foreign(qs("UPDATE history SET name = 'Mine', name_key = 'mine', scheme = 7 WHERE id = 2"));
         open_page();
         select(id);
 
