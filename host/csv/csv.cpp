@@ -9,6 +9,8 @@ constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 class CSV_SPLITTER
 {
 public:
+    explicit CSV_SPLITTER(char separator) : m_separator(separator) {}
+
     std::vector<CSV_ROW> split(const std::string& text)
     {
         for (std::size_t at = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? 3 : 0; at < text.size(); ++at) {
@@ -44,7 +46,7 @@ private:
     {
         if (character == '"' && m_cell.empty())
             m_quoted = true;
-        else if (character == ',')
+        else if (character == m_separator)
             end_cell();
         else if (character == '\n')
             end_row();
@@ -74,6 +76,7 @@ private:
         m_row_line = m_line + 1;
     }
 
+    const char m_separator;
     std::vector<CSV_ROW> m_rows;
     CSV_ROW m_row;
     std::string m_cell;
@@ -86,9 +89,27 @@ private:
 
 } // namespace
 
-std::vector<CSV_ROW> csv_rows(const std::string& text)
+std::vector<CSV_ROW> csv_rows(const std::string& text, char separator)
 {
-    return CSV_SPLITTER().split(text);
+    return CSV_SPLITTER(separator).split(text);
+}
+
+char csv_separator(const std::string& text)
+{
+    std::string first;
+    bool is_quoted = false;
+    for (const char character : text) {
+        if (character == '\n' && !is_quoted)
+            break;
+        is_quoted = is_quoted != (character == '"');
+        if (!is_quoted)
+            first += character;
+    }
+    for (const char separator : {',', ';', '\t'}) {
+        if (first.find(separator) != std::string::npos)
+            return separator;
+    }
+    return ',';
 }
 
 // Some spreadsheets take it for a formula behind blanks as well, and some begin a cell at other characters than a

@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "commands/import_command.h"
 
+#include "commands/import_report.h"
+
 #include "cli_new_device.h"
 #include "cli_sfdp.h"
 
 namespace {
 
 constexpr const char* OPTION_UNCHECKED = "unchecked";
-
-std::string summary_of(const GFPDB_IMPORT_PLAN& plan, const char* verb, const std::string& directory)
-{
-    return std::string(verb) + ' ' + std::to_string(plan.new_count()) + " new, " +
-           std::to_string(plan.replaced_count()) + " replaced; " + std::to_string(plan.unchanged_count()) +
-           " unchanged in " + directory + '\n';
-}
 
 // What is wrong with options that do not go together; empty when nothing is.
 std::string problem_of_options(const CLI_CALL& call)
@@ -23,8 +18,7 @@ std::string problem_of_options(const CLI_CALL& call)
         return "An argument is missing: gfpdb import FILE...";
     if (is_sfdp && call.argument_count() > 0)
         return "--sfdp makes one device of its file: no other file can be imported with it.";
-    for (const char* const option :
-         {CLI_OPTION_ID, CLI_OPTION_NAME, CLI_OPTION_VOLTAGE, CLI_OPTION_SET, CLI_OPTION_JSON}) {
+    for (const char* const option : {CLI_OPTION_ID, CLI_OPTION_NAME, CLI_OPTION_VOLTAGE, CLI_OPTION_SET}) {
         if (!is_sfdp && call.has(option))
             return std::string("--") + option + " needs --sfdp.";
     }
@@ -45,6 +39,42 @@ int import_read_out(const CLI_CALL& call)
     return chip.sfdp ? cli_propose_device(call, chip, false, true) : int(CLI_EXIT_BAD_FILE);
 }
 
+// Reads the files into `plan`. False when one has problems.
+bool read_files(const CLI_CALL& call, GFPDB_RECORD_RULES rules, GFPDB_IMPORT_PLAN& plan, CLI_IMPORT_REPORT& report)
+{
+    const GFPDB_READ_OPTIONS options = {call.has(CLI_OPTION_CSV), rules, call.family(), call.scheme()};
+    for (int at = 0; at < call.argument_count(); ++at) {
+        GFPDB_RECORD_FILE file = gfpdb_read_records(call.argument(at), call.database.get_manager(), options);
+        if (file.problems.empty())
+            plan.add(file);
+        for (const GFPDB_FINDING& each : file.problems)
+            report.problems.push_back({file.path, each});
+        for (const GFPDB_FINDING& each : file.warnings)
+            report.warnings.push_back({file.path, each});
+    }
+    for (const CLI_FILE_FINDING& each : report.problems)
+        call.output.finding(each.file, each.finding);
+    if (!report.problems.empty()) {
+        call.output.error("Nothing was imported.");
+        return false;
+    }
+    for (const CLI_FILE_FINDING& each : report.warnings)
+        call.output.finding(each.file, each.finding);
+    return true;
+}
+
+// Stores the records of the plan. False: the report says why not.
+bool store(const CLI_CALL& call, const GFPDB_IMPORT_PLAN& plan, CLI_IMPORT_REPORT& report)
+{
+    const int total = static_cast<int>(plan.devices().size() + plan.templates().size());
+    const auto progress = [&call, total](int done) { call.output.progress("Importing", done, total); };
+    report.is_imported = total == 0 || call.database.import(plan, progress);
+    if (!report.is_imported)
+        report.refusal = call.database.get_last_error();
+    call.output.finish_progress();
+    return report.is_imported;
+}
+
 int import_files(const CLI_CALL& call)
 {
     const std::string problem = call.database.get_write_problem();
@@ -52,37 +82,18 @@ int import_files(const CLI_CALL& call)
         return call.database_failed(problem);
     const GFPDB_RECORD_RULES rules =
         call.has(OPTION_UNCHECKED) ? GFPDB_RECORD_RULES::NAMES : GFPDB_RECORD_RULES::IMPORTED;
-    const GFPDB_READ_OPTIONS options = {call.has(CLI_OPTION_CSV), rules, call.family(), call.scheme()};
     GFPDB_IMPORT_PLAN plan(call.database, call.has(CLI_OPTION_REPLACE), rules);
-    std::vector<std::pair<std::string, GFPDB_FINDING>> warnings;
-    bool good = true;
-    for (int at = 0; at < call.argument_count(); ++at) {
-        GFPDB_RECORD_FILE file = gfpdb_read_records(call.argument(at), call.database.get_manager(), options);
-        if (file.problems.empty())
-            plan.add(file);
-        for (const GFPDB_FINDING& each : file.problems)
-            call.output.finding(file.path, each);
-        for (const GFPDB_FINDING& each : file.warnings)
-            warnings.emplace_back(file.path, each);
-        good = good && file.problems.empty();
-    }
-    if (!good) {
-        call.output.error("Nothing was imported.");
-        return CLI_EXIT_BAD_FILE;
-    }
-    for (const auto& [path, warning] : warnings)
-        call.output.finding(path, warning);
-    if (call.has(CLI_OPTION_DRY_RUN)) {
-        call.output.print(summary_of(plan, "Would import", call.database.get_directory()));
-        return CLI_EXIT_OK;
-    }
-    const int total = static_cast<int>(plan.devices().size() + plan.templates().size());
-    const auto progress = [&call, total](int done) { call.output.progress("Importing", done, total); };
-    if (total > 0 && !call.database.import(plan, progress))
-        return call.database_failed(call.database.get_last_error());
-    call.output.finish_progress();
-    call.output.print(summary_of(plan, "Imported", call.database.get_directory()));
-    return CLI_EXIT_OK;
+    CLI_IMPORT_REPORT report;
+    int exit_code = CLI_EXIT_OK;
+    if (!read_files(call, rules, plan, report))
+        exit_code = CLI_EXIT_BAD_FILE;
+    else if (!call.has(CLI_OPTION_DRY_RUN) && !store(call, plan, report))
+        exit_code = call.database_failed(report.refusal);
+    if (call.has(CLI_OPTION_JSON))
+        call.output.print(cli_import_json(call, plan, report));
+    else if (exit_code == CLI_EXIT_OK)
+        call.output.print(cli_import_summary(call, plan));
+    return exit_code;
 }
 
 } // namespace

@@ -99,7 +99,7 @@ std::vector<GFPDB_RECORD> gfpdb_read_list(const std::string& text, GFPDB_MGR& ma
                                           const GFPDB_READ_OPTIONS& options, std::vector<GFPDB_FINDING>& problems)
 {
     std::vector<GFPDB_RECORD> records;
-    const std::vector<CSV_ROW> rows = csv_rows(text);
+    const std::vector<CSV_ROW> rows = csv_rows(text, csv_separator(text));
     const CSV_ROW head = rows.empty() ? CSV_ROW() : rows.front();
     if (!check_columns(head, problems))
         return records;

@@ -91,6 +91,28 @@ private slots:
                  std::string("A"));
     }
 
+    // What a spreadsheet writes where numbers have a comma.
+    void cells_stand_between_semicolons_or_tabs_data()
+    {
+        rows<QByteArray, QStringList>(
+            {{"semicolons", "name;family;scheme;density;device_id\nA, b;3;7;1Mb;C2\n", {}},
+             {"tabs", "name\tfamily\tscheme\tdensity\tdevice_id\r\nA, b\t3\t7\t1Mb\tC2\r\n", {}},
+             {"quotes", "\"name\";\"family\";\"scheme\";\"density\";\"device_id\"\n\"A, b\";3;7;1Mb;\"C2\"\n", {}},
+             {"mark", "\xEF\xBB\xBFname;family;scheme;density;device_id\nA, b;3;7;1Mb;C2\n", {}},
+             {"commas", "name,family,scheme,density,device_id,voltage\n\"A, b\",3,7,1Mb,C2,2;3\n", {}},
+             {"too few", "name;family;scheme\nA;3\n", {"2: : The row has 2 cells, the line of column names has 3."}}});
+    }
+
+    void cells_stand_between_semicolons_or_tabs()
+    {
+        const auto [text, problems] = row<QByteArray, QStringList>();
+        const GFPDB_PLACE place;
+        const READ result = read_csv(text.toStdString(), false);
+        QCOMPARE(result.problems, problems);
+        if (problems.isEmpty())
+            QCOMPARE(result.records.at(0).row.name, std::string("A, b"));
+    }
+
     // Values that the rules refuse, as a directory can have them.
     void odd_values_in_a_list_are_read_again()
     {

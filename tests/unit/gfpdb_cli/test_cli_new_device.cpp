@@ -171,8 +171,7 @@ private slots:
         rows<QStringList>({{"id", {"--id", "C2"}},
                            {"name", {"--name", "A"}},
                            {"voltage", {"--voltage", "1.8V"}},
-                           {"set", {"--set", "a=b"}},
-                           {"json", {"--json"}}});
+                           {"set", {"--set", "a=b"}}});
     }
     void only_a_read_out_takes_these_options()
     {
@@ -237,11 +236,13 @@ private slots:
              {"no family",
               {"MX25L25645G", "Copy", "--from-family", "73"},
               2,
-              "--from-family needs a whole number from 1 to 72, or the name of a device family."},
+              "--from-family needs a whole number from 1 to 72, or the name of a device family: \"gfpdb families\" "
+              "lists them."},
              {"no scheme",
               {"MX25L25645G", "Copy", "--from-scheme", "x"},
               2,
-              "--from-scheme needs a whole number from 0 to 24, or the name of a configuration scheme."}});
+              "--from-scheme needs a whole number from 0 to 24, or the name of a configuration scheme: \"gfpdb "
+              "schemes\" lists them."}});
     }
     void a_copy_that_cannot_be_is_refused()
     {

@@ -53,6 +53,48 @@ private slots:
         QCOMPARE(exported("elsewhere/"), all);
     }
 
+    // Also of one that nothing came of.
+    void import_reports_as_json()
+    {
+        save_part("Mine", FAMILY, ACTIVE_SERIAL, "T", 2);
+        const QString all = at("all.json");
+        QCOMPARE(tool({"export", "-o", all}).exit_code, 0);
+        save_part("Mine", FAMILY, ACTIVE_SERIAL, "T");
+        QVERIFY(fresh_manager()->remove_template("T"));
+
+        const TOOL_RUN refused = tool({"import", "--json", all});
+        QCOMPARE(refused.exit_code, 4);
+        QJsonObject report = json(refused).object();
+        QCOMPARE(report.value("imported").toBool(true), false);
+        const QJsonObject problem = report.value("problems").toArray().at(0).toObject();
+        QCOMPARE(problem.value("file").toString(), all);
+        QCOMPARE(problem.value("line").toInt(), 5);
+        QVERIFY(problem.value("text").toString().endsWith("--replace replaces it."));
+
+        for (const bool is_dry : {true, false}) {
+            const TOOL_RUN run = tool(QStringList{"import", "--json", "--replace", all} +
+                                      (is_dry ? QStringList("--dry-run") : QStringList()));
+            QCOMPARE(run.exit_code, 0);
+            report = json(run).object();
+            QCOMPARE(report.keys(), (QStringList{"directory", "dry_run", "imported", "new", "problems", "records",
+                                                 "refusal", "replaced", "unchanged", "warnings"}));
+            QCOMPARE(report.value("dry_run").toBool(), is_dry);
+            QCOMPARE(report.value("imported").toBool(), !is_dry);
+            QCOMPARE(report.value("new").toInt(), 1);
+            QCOMPARE(report.value("replaced").toInt(), 1);
+            QStringList records;
+            for (const QJsonValue each : report.value("records").toArray()) {
+                const QJsonObject record = each.toObject();
+                records += record.value("name").toString() + ' ' + record.value("kind").toString() + ' ' +
+                           record.value("action").toString();
+            }
+            QCOMPARE(records, (QStringList{"Mine device replaced", "T template new"}));
+        }
+        report = json(tool({"import", "--json", all})).object();
+        QCOMPARE(report.value("unchanged").toInt(), 2);
+        QCOMPARE(report.value("records").toArray().size(), 0);
+    }
+
     void export_writes_a_file_whole_or_not_at_all()
     {
         save_part("Mine");

@@ -19,8 +19,12 @@ struct CSV_ROW
     bool quote_is_open = false;
 };
 
-// The rows of `text`, empty lines left out. A quote that is never closed ends with the text.
-std::vector<CSV_ROW> csv_rows(const std::string& text);
+// The rows of `text`, empty lines left out. A quote that is never closed ends with the text. `separator` stands between
+// the cells.
+std::vector<CSV_ROW> csv_rows(const std::string& text, char separator = ',');
+// What stands between the cells of `text`: a comma, or the semicolon or tab that spreadsheets write in countries where
+// numbers have a comma, when the first line has one outside quotes and no comma.
+char csv_separator(const std::string& text);
 
 // `text` with a quote before everything that a spreadsheet would run as a formula, whatever it takes for the beginning
 // of a cell.
