@@ -198,6 +198,16 @@ private slots:
         QCOMPARE(run.exit_code, 5);
     }
 
+    // What makes programs slow to start.
+    void the_tool_itself_loads_no_windows()
+    {
+        const TOOL_RUN run = run_program("/usr/bin/ldd", {GFPDB_PROGRAM});
+
+        QVERIFY2(run.out.contains("libQt5Core"), run.err.constData());
+        for (const char* library : {"libQt5Gui", "libQt5Widgets", "libQt5Svg"})
+            QVERIFY2(!run.out.contains(library), library);
+    }
+
     void the_program_that_draws_may_be_missing()
     {
         QVERIFY(QDir(at("")).mkpath("bin"));
