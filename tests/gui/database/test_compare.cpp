@@ -114,9 +114,12 @@ private slots:
         QFETCH(QStringList, expected);
 
         QStringList found;
+        QStringList left_lines;
         COMPARE_MODEL model({qs("left"), make_record({action("A"), action("B"), action("C")})}, {qs("right"), right});
         for (int row = 0; row < model.rowCount(); ++row) {
             const COMPARED_ROW& shown = model.row(row);
+            if (shown.is_line && !shown.left.isEmpty())
+                left_lines.append(short_line(shown.left));
             if (shown.differs())
                 found.append(qs("%1 %2: %3 / %4")
                                  .arg(text(model, row, COMPARE_MODEL::MARK), text(model, row, COMPARE_MODEL::TITLE),
@@ -124,6 +127,7 @@ private slots:
         }
         QCOMPARE(found, expected);
         QCOMPARE(model.difference_count(), expected.size());
+        QCOMPARE(left_lines, (QStringList{qs("A"), qs("B"), qs("C")}));
     }
 
     // The sign is for everyone; a screen reader hears words, and the colours of a mark are readable together.
