@@ -299,8 +299,8 @@ shot_device-history() {
 shot_device-compare() {
     show_history
     local window=$WINDOW
-    times 4 Tab
-    press Home Return
+    times 3 Tab
+    press Down Down Return
     until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
     picture device-compare
 }
