@@ -150,7 +150,7 @@ private:
             record.row.device_id = "0x" + QByteArray::number(random_below(256), 16).toStdString();
             file.records.push_back(record);
         }
-        GFPDB_IMPORT_PLAN plan(database, true, GFPDB_RECORD_RULES::NAMES);
+        GFPDB_IMPORT_PLAN plan(database, GFPDB_EXISTING::REPLACED, GFPDB_RECORD_RULES::NAMES);
         plan.add(file);
         if (!file.problems.empty())
             return file.problems.front().text;

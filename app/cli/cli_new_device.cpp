@@ -159,7 +159,8 @@ const char* cli_store_device(const CLI_CALL& call, const GFPDB_RECORD& record, c
         if (finding.seriousness != GFPDB_SERIOUSNESS::WARNING)
             file.problems.push_back(finding);
     }
-    GFPDB_IMPORT_PLAN plan(call.database, may_replace, GFPDB_RECORD_RULES::STORED);
+    GFPDB_IMPORT_PLAN plan(call.database, may_replace ? GFPDB_EXISTING::REPLACED : GFPDB_EXISTING::REFUSED,
+                           GFPDB_RECORD_RULES::STORED);
     if (file.problems.empty())
         plan.add(file);
     for (const GFPDB_FINDING& each : file.problems)

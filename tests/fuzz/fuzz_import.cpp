@@ -100,7 +100,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, full_database());
     GFPDB_DATABASE database(directory());
-    GFPDB_IMPORT_PLAN plan(database, (kind & REPLACE) != 0, GFPDB_RECORD_RULES::IMPORTED);
+    GFPDB_IMPORT_PLAN plan(database, (kind & REPLACE) != 0 ? GFPDB_EXISTING::REPLACED : GFPDB_EXISTING::REFUSED,
+                           GFPDB_RECORD_RULES::IMPORTED);
     bool good = true;
     for (const bool is_second : {false, true}) {
         const bool csv = (kind & (is_second ? SECOND_AS_CSV : FIRST_AS_CSV)) != 0;

@@ -82,7 +82,7 @@ std::vector<GFPDB_RECORD> stored_records(GFPDB_DATABASE& database)
 void check_export(GFPDB_DATABASE& database, const std::string& exported, const GFPDB_READ_OPTIONS& options, int count)
 {
     GFPDB_RECORD_FILE file = read_file(exported, options);
-    GFPDB_IMPORT_PLAN plan(database, false, options.rules);
+    GFPDB_IMPORT_PLAN plan(database, GFPDB_EXISTING::REFUSED, options.rules);
     plan.add(file);
     FUZZ_CHECK(file.problems.empty());
     FUZZ_CHECK(plan.unchanged_count() == count && plan.new_count() == 0);
@@ -93,7 +93,7 @@ void check_import(GFPDB_RECORD_FILE& file, const GFPDB_READ_OPTIONS& options)
 {
     fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, empty_database());
     GFPDB_DATABASE database(directory());
-    GFPDB_IMPORT_PLAN plan(database, false, options.rules);
+    GFPDB_IMPORT_PLAN plan(database, GFPDB_EXISTING::REFUSED, options.rules);
     plan.add(file);
     if (!file.problems.empty())
         return;

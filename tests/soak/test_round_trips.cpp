@@ -74,7 +74,7 @@ std::string round_trip(const std::string& directory, const std::string& file)
 {
     GFPDB_DATABASE database(directory);
     GFPDB_RECORD_FILE content = gfpdb_read_records(file, database.get_manager(), {});
-    GFPDB_IMPORT_PLAN plan(database, false, GFPDB_RECORD_RULES::IMPORTED);
+    GFPDB_IMPORT_PLAN plan(database, GFPDB_EXISTING::REFUSED, GFPDB_RECORD_RULES::IMPORTED);
     plan.add(content);
     for (const GFPDB_FINDING& problem : content.problems)
         return problem.field + ": " + problem.text;

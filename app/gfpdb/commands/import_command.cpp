@@ -82,7 +82,8 @@ int import_files(const CLI_CALL& call)
         return call.database_failed(problem);
     const GFPDB_RECORD_RULES rules =
         call.has(OPTION_UNCHECKED) ? GFPDB_RECORD_RULES::NAMES : GFPDB_RECORD_RULES::IMPORTED;
-    GFPDB_IMPORT_PLAN plan(call.database, call.has(CLI_OPTION_REPLACE), rules);
+    GFPDB_IMPORT_PLAN plan(call.database,
+                           call.has(CLI_OPTION_REPLACE) ? GFPDB_EXISTING::REPLACED : GFPDB_EXISTING::REFUSED, rules);
     CLI_IMPORT_REPORT report;
     int exit_code = CLI_EXIT_OK;
     if (!read_files(call, rules, plan, report))

@@ -56,7 +56,7 @@ bool store_new_device(const GFPDB_RECORD& device, QString& problem)
     problem = problems_of(gfpdb_check_record(database.get_manager(), device));
     if (!problem.isEmpty())
         return false;
-    GFPDB_IMPORT_PLAN plan(database, false, GFPDB_RECORD_RULES::IMPORTED);
+    GFPDB_IMPORT_PLAN plan(database, GFPDB_EXISTING::REFUSED, GFPDB_RECORD_RULES::IMPORTED);
     GFPDB_RECORD_FILE file;
     file.records.push_back(device);
     plan.add(file);

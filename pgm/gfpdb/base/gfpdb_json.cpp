@@ -2,6 +2,7 @@
 #include "base/gfpdb_json.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/prettywriter.h>
@@ -20,7 +21,7 @@ constexpr std::size_t FEW_MEMBERS = 16;
 constexpr unsigned BLANKS_PER_LEVEL = 2;
 constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::size_t BYTE_ORDER_MARK_LENGTH = 3;
-constexpr const char* HALF_PAIR = "half a surrogate pair is not a character";
+constexpr const char* HALF_PAIR = QT_TRANSLATE_NOOP("gfpdb", "an unpaired surrogate is not a character");
 
 using rapidjson::SizeType;
 
@@ -75,7 +76,7 @@ public:
     bool String(const char* text, SizeType length, bool /*copy*/)
     {
         if (has_half_pair(text, length))
-            return fail(HALF_PAIR);
+            return fail(GFPDB_WORDS::say(HALF_PAIR));
         return add(of_kind(JSON_VALUE::TEXT, text, length)) != nullptr;
     }
     bool StartArray() { return open(json_list()); }
@@ -86,10 +87,10 @@ public:
     bool Key(const char* text, SizeType length, bool /*copy*/)
     {
         if (has_half_pair(text, length))
-            return fail(HALF_PAIR);
+            return fail(GFPDB_WORDS::say(HALF_PAIR));
         m_last_name.assign(text, length);
         if (!is_new_name(m_open.back()))
-            return fail("the name \"" + m_last_name + "\" occurs twice");
+            return fail(GFPDB_WORDS::say("the name %1 occurs twice", {gfpdb_quoted(m_last_name)}));
         m_open.back().value->add(m_last_name, JSON_VALUE());
         return true;
     }
@@ -120,7 +121,7 @@ private:
     JSON_VALUE* add(JSON_VALUE value)
     {
         if (m_open.size() > DEPTH_MAX) {
-            fail("values are nested too deeply");
+            fail(GFPDB_WORDS::say("values are nested too deeply"));
             return nullptr;
         }
         value.line = line_at(m_stream.Tell());
@@ -176,31 +177,31 @@ std::string text_of(rapidjson::ParseErrorCode code, std::string_view rest, const
     case kParseErrorTermination:
         return builder.problem();
     case kParseErrorDocumentRootNotSingular:
-        return "there is more text behind the end";
+        return GFPDB_WORDS::say("there is text after the end");
     case kParseErrorObjectMissName:
-        return "an object needs a name in double quotes here";
+        return GFPDB_WORDS::say("an object needs a name in double quotes here");
     case kParseErrorObjectMissColon:
-        return "\":\" is missing after \"" + builder.last_name() + "\"";
+        return GFPDB_WORDS::say("\":\" is missing after %1", {gfpdb_quoted(builder.last_name())});
     case kParseErrorObjectMissCommaOrCurlyBracket:
-        return "an object needs \",\" or \"}\" here";
+        return GFPDB_WORDS::say("an object needs \",\" or \"}\" here");
     case kParseErrorArrayMissCommaOrSquareBracket:
-        return "a list needs \",\" or \"]\" here";
+        return GFPDB_WORDS::say("a list needs \",\" or \"]\" here");
     case kParseErrorStringUnicodeEscapeInvalidHex:
-        return "\\u needs four hexadecimal digits";
+        return GFPDB_WORDS::say("\\u needs four hexadecimal digits");
     case kParseErrorStringUnicodeSurrogateInvalid:
-        return HALF_PAIR;
+        return GFPDB_WORDS::say(HALF_PAIR);
     // The same for a character that is not allowed in a text; at the end it sees a zero byte.
     case kParseErrorStringEscapeInvalid:
     case kParseErrorStringMissQuotationMark:
-        return rest.empty()           ? "a text has no end"
-               : rest.front() == '\\' ? "there is no such escape"
-                                      : "a text has a control character or a line break in it";
+        return rest.empty()           ? GFPDB_WORDS::say("a string is not terminated")
+               : rest.front() == '\\' ? GFPDB_WORDS::say("there is no such escape")
+                                      : GFPDB_WORDS::say("a string has a control character or a line break in it");
     case kParseErrorStringInvalidEncoding:
-        return "a text is not UTF-8";
+        return GFPDB_WORDS::say("a string is not UTF-8");
     case kParseErrorNumberTooBig:
-        return "a number is too large";
+        return GFPDB_WORDS::say("a number is too large");
     default:
-        return "a value was expected";
+        return GFPDB_WORDS::say("a value was expected");
     }
 }
 
@@ -313,10 +314,17 @@ JSON_VALUE json_object()
     return of_kind(JSON_VALUE::OBJECT);
 }
 
-const char* json_kind_text(const JSON_VALUE& value)
+std::string json_kind_text(const JSON_VALUE& value)
 {
-    static const char* const TEXTS[] = {"null", "true or false", "a number", "a text", "a list", "an object"};
-    return TEXTS[value.kind];
+    static const char* const TEXTS[] = {
+        "null",
+        QT_TRANSLATE_NOOP("gfpdb", "true or false"),
+        QT_TRANSLATE_NOOP("gfpdb", "a number"),
+        QT_TRANSLATE_NOOP("gfpdb", "a string"),
+        QT_TRANSLATE_NOOP("gfpdb", "a list"),
+        QT_TRANSLATE_NOOP("gfpdb", "an object"),
+    };
+    return GFPDB_WORDS::say(TEXTS[value.kind]);
 }
 
 std::string json_item_field(const std::string& field, std::size_t index)
@@ -328,9 +336,11 @@ bool json_is(const JSON_VALUE& value, JSON_VALUE::KIND kind, const std::string& 
 {
     if (value.kind == kind)
         return true;
-    std::string expected = json_kind_text(of_kind(kind));
-    expected.front() = 'A';
-    report(value, field, expected + " was expected, but this is " + json_kind_text(value) + ".");
+    const char* const expected =
+        kind == JSON_VALUE::TEXT   ? QT_TRANSLATE_NOOP("gfpdb", "A string was expected, but this is %1.")
+        : kind == JSON_VALUE::LIST ? QT_TRANSLATE_NOOP("gfpdb", "A list was expected, but this is %1.")
+                                   : QT_TRANSLATE_NOOP("gfpdb", "An object was expected, but this is %1.");
+    report(value, field, GFPDB_WORDS::say(expected, {json_kind_text(value)}));
     return false;
 }
 
@@ -341,12 +351,13 @@ bool json_has_members(const JSON_VALUE& object, const std::vector<std::string>& 
         return false;
     for (const auto& [name, value] : object.members) {
         if (std::find(known.begin(), known.end(), name) == known.end())
-            report(value, field, gfpdb_quoted(name) + " is not known here. Allowed: " + gfpdb_joined(known) + ".");
+            report(value, field,
+                   GFPDB_WORDS::say("%1 is not known here. Allowed: %2.", {gfpdb_quoted(name), gfpdb_joined(known)}));
     }
     bool is_complete = true;
     for (std::size_t at = 0; at < required; ++at) {
         if (object.member(known[at]) == nullptr) {
-            report(object, field, gfpdb_quoted(known[at]) + " is missing.");
+            report(object, field, GFPDB_WORDS::say("%1 is missing.", {gfpdb_quoted(known[at])}));
             is_complete = false;
         }
     }

@@ -44,14 +44,14 @@ JSON_VALUE json_string(const std::string& text);
 JSON_VALUE json_list();
 JSON_VALUE json_object();
 
-// "a text", "an object": what `value` is called in messages.
-const char* json_kind_text(const JSON_VALUE& value);
+// "a string", "an object": what `value` is called in messages.
+std::string json_kind_text(const JSON_VALUE& value);
 
 // Hears what is wrong with a value: the value, where it is ("devices[0].name"), and a sentence.
 using JSON_REPORT = std::function<void(const JSON_VALUE& value, const std::string& field, const std::string& text)>;
 // The item `index` of the list at `field`: "devices[0]".
 std::string json_item_field(const std::string& field, std::size_t index);
-// False, and reported, when `value`, which is at `field`, is of another kind.
+// False, and reported, when `value`, which is at `field`, is of another kind than a TEXT, LIST or OBJECT.
 bool json_is(const JSON_VALUE& value, JSON_VALUE::KIND kind, const std::string& field, const JSON_REPORT& report);
 // Reports members that are not among `known`. False when `object` is not an object or lacks one of the first `required`
 // of the known ones, which is reported too.

@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_catalogue_csv.h"
 
 #include "whole_file/whole_file.h"
@@ -72,8 +73,10 @@ std::vector<GFPDB_PART> gfpdb_read_catalogue(const QString& path, QString& probl
     std::string reason;
     const std::optional<std::string> bytes = read_bytes(path, reason);
     if (!bytes) {
-        problem = QStringLiteral("The catalogue %1 cannot be read: %2.").arg(path, gfpdb_from_utf8(reason));
-        qCWarning(GFPDB_LOG, "%s", qUtf8Printable(problem));
+        const std::string text =
+            GFPDB_WORDS::say("The catalogue %1 cannot be read: %2.", {gfpdb_to_utf8(path), reason});
+        problem = gfpdb_from_utf8(text);
+        qCWarning(GFPDB_LOG, "%s", GFPDB_WORDS::english(text).c_str());
         return {};
     }
     problem.clear();

@@ -2,6 +2,7 @@
 #include "exchange/gfpdb_record_rules.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_builtin_records.h"
 #include "catalogue/gfpdb_flow_templates.h"
 #include "model/gfpdb_flow_text.h"
@@ -16,15 +17,25 @@ std::string key_of(const GFPDB_RECORD& record)
                               : std::to_string(record.row.family) + ' ' + std::to_string(record.row.scheme) + ' ' + key;
 }
 
-std::string what(const GFPDB_RECORD& record)
+// The sentence about a device or about a stored template, whose name is its first value.
+std::string say(const GFPDB_RECORD& record, const char* of_device, const char* of_template,
+                const std::string& second = std::string())
 {
-    return std::string(record.is_template ? "stored template " : "device ") + gfpdb_quoted(record.name());
+    return GFPDB_WORDS::say(record.is_template ? of_template : of_device, {gfpdb_quoted(record.name()), second});
+}
+
+void refuse(GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record, const std::string& text)
+{
+    file.problems.push_back({record.line, "", text});
 }
 
 void warn(GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record, const std::vector<GFPDB_FINDING>& findings)
 {
-    for (const GFPDB_FINDING& finding : findings)
-        file.warnings.push_back({record.line, what(record) + ": " + finding.field, finding.text, finding.seriousness});
+    for (const GFPDB_FINDING& finding : findings) {
+        const std::string field = say(record, QT_TRANSLATE_NOOP("gfpdb", "device %1: %2"),
+                                      QT_TRANSLATE_NOOP("gfpdb", "stored template %1: %2"), finding.field);
+        file.warnings.push_back({record.line, field, finding.text, finding.seriousness});
+    }
 }
 
 } // namespace
@@ -35,12 +46,19 @@ void GFPDB_IMPORT_PLAN::add(GFPDB_RECORD_FILE& file)
         add_record(file, record);
 }
 
+void GFPDB_IMPORT_PLAN::add(GFPDB_RECORD_FILE& file, int at)
+{
+    add_record(file, file.records[static_cast<std::size_t>(at)]);
+}
+
 void GFPDB_IMPORT_PLAN::add_record(GFPDB_RECORD_FILE& file, GFPDB_RECORD record)
 {
     const std::string place = file.path + ':' + std::to_string(record.line);
     const auto [earlier, is_first] = m_places.emplace(key_of(record), place);
     if (!is_first) {
-        file.problems.push_back({record.line, "", "The " + what(record) + " is already in " + earlier->second + "."});
+        refuse(file, record,
+               say(record, QT_TRANSLATE_NOOP("gfpdb", "The device %1 is already in %2."),
+                   QT_TRANSLATE_NOOP("gfpdb", "The stored template %1 is already in %2."), earlier->second));
         return;
     }
     if (!is_name_free(file, record))
@@ -48,30 +66,46 @@ void GFPDB_IMPORT_PLAN::add_record(GFPDB_RECORD_FILE& file, GFPDB_RECORD record)
     const std::optional<GFPDB_RECORD> former = m_database.load(record);
     if (file.is_csv)
         fill_flows(record, former);
-    if (former && gfpdb_is_same_content(former->row, record.row)) {
-        ++m_unchanged;
-        return;
-    }
+    const auto is_there = [&] { return former && gfpdb_is_same_content(former->row, record.row); };
     std::vector<GFPDB_FINDING> remarks;
-    if (m_rules != GFPDB_RECORD_RULES::NAMES)
+    if (!is_there() && m_rules != GFPDB_RECORD_RULES::NAMES)
         remarks = gfpdb_fill_missing(m_database.get_manager(), record);
-    if (former && gfpdb_is_same_content(former->row, record.row)) {
-        ++m_unchanged;
-        return;
+    if (is_there()) {
+        note(GFPDB_PLANNED_AS::UNCHANGED, file, record, std::nullopt);
+    } else if (former && m_existing == GFPDB_EXISTING::REFUSED) {
+        refuse(file, record,
+               say(record,
+                   QT_TRANSLATE_NOOP("gfpdb", "The device %1 exists with different content: --replace replaces it."),
+                   QT_TRANSLATE_NOOP("gfpdb",
+                                     "The stored template %1 exists with different content: --replace replaces it.")));
+    } else if (former && m_existing == GFPDB_EXISTING::KEPT) {
+        note(GFPDB_PLANNED_AS::KEPT, file, record, former);
+    } else {
+        warn(file, record, remarks);
+        if (m_rules != GFPDB_RECORD_RULES::NAMES)
+            warn(file, record, gfpdb_record_warnings(m_database.get_manager(), record));
+        note(former ? GFPDB_PLANNED_AS::REPLACED : GFPDB_PLANNED_AS::NEW, file, record, former);
+        store(std::move(record), former);
     }
-    if (former && !m_may_replace) {
-        file.problems.push_back(
-            {record.line, "", "The " + what(record) + " exists with different content: --replace replaces it."});
-        return;
+}
+
+void GFPDB_IMPORT_PLAN::note(GFPDB_PLANNED_AS as, const GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record,
+                             const std::optional<GFPDB_RECORD>& former)
+{
+    ++m_counts[static_cast<std::size_t>(as)];
+    m_planned.push_back({as, file.path, record, former});
+    if (!former) {
+        m_planned.back().record.row.single_flows = std::string();
+        m_planned.back().record.row.quad_flows = std::string();
     }
-    warn(file, record, remarks);
-    if (m_rules != GFPDB_RECORD_RULES::NAMES)
-        warn(file, record, gfpdb_record_warnings(m_database.get_manager(), record));
-    ++(former ? m_replaced : m_new);
+}
+
+void GFPDB_IMPORT_PLAN::store(GFPDB_RECORD record, const std::optional<GFPDB_RECORD>& former)
+{
     record.row.revision = gfpdb_new_revision();
-    (record.is_template ? m_templates : m_devices).push_back(record.row);
     (record.is_template ? m_replaced_templates : m_replaced_devices)
         .push_back(former ? former->row.revision : std::string());
+    (record.is_template ? m_templates : m_devices).push_back(std::move(record.row));
 }
 
 // No device has the name of a template, neither in the directory nor in the files.
@@ -82,9 +116,9 @@ bool GFPDB_IMPORT_PLAN::is_name_free(GFPDB_RECORD_FILE& file, const GFPDB_RECORD
     const bool in_files = (record.is_template ? m_device_names : m_template_names).count(key) > 0;
     if (!in_files && !m_database.is_name_of_other_kind(record))
         return true;
-    file.problems.push_back({record.line, "",
-                             "The name of the " + what(record) + " is that of a " +
-                                 (record.is_template ? "device" : "stored template") + "."});
+    refuse(file, record,
+           say(record, QT_TRANSLATE_NOOP("gfpdb", "The name of the device %1 is that of a stored template."),
+               QT_TRANSLATE_NOOP("gfpdb", "The name of the stored template %1 is that of a device.")));
     return false;
 }
 

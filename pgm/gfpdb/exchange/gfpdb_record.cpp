@@ -32,6 +32,18 @@ std::optional<std::vector<std::unique_ptr<GFPDB_OPERATION>>> gfpdb_operations(co
     return gfpdb_flows_from_text(flow_variant ? record.row.quad_flows : record.row.single_flows);
 }
 
+std::vector<GFPDB_DIFFERENCE> gfpdb_differences(const GFPDB_RECORD& left, const GFPDB_RECORD& right)
+{
+    std::vector<GFPDB_DIFFERENCE> differences;
+    for (const GFPDB_FIELD& field : gfpdb_fields()) {
+        const bool are_flows = field.kind == GFPDB_FIELD_KIND::FLOWS;
+        const auto text = [&](const GFPDB_ROW& row) { return are_flows ? std::string() : field.text(row); };
+        if (!field.is_same(left.row, right.row))
+            differences.push_back({GFPDB_WORDS::say(field.noun), text(left.row), text(right.row), are_flows});
+    }
+    return differences;
+}
+
 std::vector<GFPDB_FINDING> gfpdb_check_record(GFPDB_MGR& manager, const GFPDB_RECORD& record)
 {
     const std::optional<JSON_VALUE> json = gfpdb_record_to_json(record);

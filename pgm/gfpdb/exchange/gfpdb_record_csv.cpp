@@ -4,9 +4,8 @@
 #include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "model/gfpdb_field.h"
-
-#include "csv/csv.h"
 
 #include <algorithm>
 
@@ -31,19 +30,20 @@ JSON_VALUE number_of(const std::string& text)
     return is_number ? value : json_string(text);
 }
 
-bool check_columns(const CSV_ROW& head, std::vector<GFPDB_FINDING>& problems)
+bool check_columns(const CSV_ROW& head, const GFPDB_READ_OPTIONS& options, std::vector<GFPDB_FINDING>& problems)
 {
     const std::size_t before = problems.size();
-    for (std::size_t at = 0; at < GFPDB_REQUIRED_FIELDS; ++at) {
-        if (!is_one_of(head.cells, COLUMNS[at]))
-            problems.push_back({head.line, COLUMNS[at], "The column is missing."});
+    for (const std::string& column : gfpdb_required_keys(options)) {
+        if (!is_one_of(head.cells, column))
+            problems.push_back({head.line, column, GFPDB_WORDS::say("The column is missing.")});
     }
     std::vector<std::string> seen;
     for (const std::string& column : head.cells) {
         if (!is_one_of(COLUMNS, column))
-            problems.push_back({head.line, column, "The column is not known. Allowed: " + gfpdb_joined(COLUMNS) + "."});
+            problems.push_back({head.line, column,
+                                GFPDB_WORDS::say("The column is not known. Allowed: %1.", {gfpdb_joined(COLUMNS)})});
         else if (is_one_of(seen, column))
-            problems.push_back({head.line, column, "The column occurs twice."});
+            problems.push_back({head.line, column, GFPDB_WORDS::say("The column occurs twice.")});
         seen.push_back(column);
     }
     return problems.size() == before;
@@ -53,11 +53,14 @@ bool check_columns(const CSV_ROW& head, std::vector<GFPDB_FINDING>& problems)
 std::string problem_of(const CSV_ROW& row, std::size_t columns)
 {
     if (row.quote_is_open)
-        return "A quote that opens in this row is never closed.";
+        return GFPDB_WORDS::say("A quote that opens in this row is never closed.");
     if (row.cells.size() == columns)
         return std::string();
-    return "The row has " + std::to_string(row.cells.size()) + (row.cells.size() == 1 ? " cell" : " cells") +
-           ", the line of column names has " + std::to_string(columns) + ".";
+    const std::string found = std::to_string(row.cells.size());
+    const std::string named = std::to_string(columns);
+    return row.cells.size() == 1
+               ? GFPDB_WORDS::say("The row has 1 cell, the line of column names has %1.", {named})
+               : GFPDB_WORDS::say("The row has %1 cells, the line of column names has %2.", {found, named});
 }
 
 // A row as the JSON object with the same content, so that both formats have the same rules.
@@ -95,25 +98,36 @@ std::string gfpdb_write_list(const std::vector<GFPDB_RECORD>& records, GFPDB_LIS
     return text;
 }
 
-std::vector<GFPDB_RECORD> gfpdb_read_list(const std::string& text, GFPDB_MGR& manager,
-                                          const GFPDB_READ_OPTIONS& options, std::vector<GFPDB_FINDING>& problems)
+GFPDB_LIST_READER::GFPDB_LIST_READER(const std::string& text, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
+    : m_reader(manager, options), m_rows(csv_rows(text, csv_separator(text)))
 {
-    std::vector<GFPDB_RECORD> records;
-    const std::vector<CSV_ROW> rows = csv_rows(text, csv_separator(text));
-    const CSV_ROW head = rows.empty() ? CSV_ROW() : rows.front();
-    if (!check_columns(head, problems))
-        return records;
-    GFPDB_RECORD_READER reader(manager, options);
-    for (std::size_t at = 1; at < rows.size(); ++at) {
-        const std::string problem = problem_of(rows[at], head.cells.size());
-        if (problem.empty())
-            records.push_back(reader.read_record(object_of(head, rows[at]), false, ""));
-        else
-            problems.push_back({rows[at].line, "", problem});
-    }
-    for (GFPDB_FINDING problem : reader.problems()) {
+    if (m_rows.empty())
+        m_rows.emplace_back();
+    m_is_list = check_columns(m_rows.front(), options, m_problems);
+}
+
+int GFPDB_LIST_READER::count() const
+{
+    return m_is_list ? static_cast<int>(m_rows.size()) - 1 : 0;
+}
+
+std::optional<GFPDB_RECORD> GFPDB_LIST_READER::read(int at)
+{
+    const CSV_ROW& head = m_rows.front();
+    const CSV_ROW& row = m_rows[static_cast<std::size_t>(at) + 1];
+    const std::string problem = problem_of(row, head.cells.size());
+    if (problem.empty())
+        return m_reader.read_record(object_of(head, row), false, "");
+    m_problems.push_back({row.line, "", problem});
+    return std::nullopt;
+}
+
+std::vector<GFPDB_FINDING> GFPDB_LIST_READER::problems() const
+{
+    std::vector<GFPDB_FINDING> all = m_problems;
+    for (GFPDB_FINDING problem : m_reader.problems()) {
         problem.field.erase(0, problem.field.rfind('.') + 1);
-        problems.push_back(problem);
+        all.push_back(problem);
     }
-    return records;
+    return all;
 }

@@ -3,6 +3,7 @@
 #include "exchange/gfpdb_record_json.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 
 #include "gfpdb/gfpdb_exchange.h"
 #include "whole_file/whole_file.h"
@@ -23,40 +24,89 @@ bool read_text(const std::string& path, std::string& text, std::string& problem)
     std::optional<std::string> bytes = path == STANDARD_INPUT ? read_descriptor(STDIN_FILENO, LARGEST, reason)
                                                               : read_whole_file(path, LARGEST, reason);
     if (!bytes) {
-        problem = "The file cannot be read: " + reason + ".";
+        problem = GFPDB_WORDS::say("The file cannot be read: %1.", {reason});
         return false;
     }
     text = std::move(*bytes);
     return true;
 }
 
-void read_json(const std::string& text, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options, GFPDB_RECORD_FILE& file)
-{
-    JSON_VALUE value;
-    JSON_ERROR error;
-    if (!json_parse(text, value, error)) {
-        file.problems.push_back({error.line, "", "This is not valid JSON: " + error.text + "."});
-        return;
-    }
-    GFPDB_RECORD_READER reader(manager, options);
-    file.records = reader.read_file(value);
-    file.problems = reader.problems();
-}
-
 } // namespace
 
-GFPDB_RECORD_FILE gfpdb_read_records(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
+// One of the readers, or none when there is nothing to read.
+struct GFPDB_FILE_READER::CONTENT
 {
     GFPDB_RECORD_FILE file;
+    JSON_VALUE json;
+    std::optional<GFPDB_RECORD_READER> records;
+    std::optional<GFPDB_LIST_READER> list;
+    int total = 0;
+    int done = 0;
+    bool is_complete = false;
+};
+
+GFPDB_FILE_READER::GFPDB_FILE_READER(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
+    : m_content(std::make_unique<CONTENT>())
+{
+    GFPDB_RECORD_FILE& file = m_content->file;
     file.path = path;
     file.is_csv = options.csv || gfpdb_from_utf8(path).endsWith(QLatin1String(CSV_SUFFIX), Qt::CaseInsensitive);
     std::string text;
     std::string problem;
-    if (!read_text(path, text, problem))
+    JSON_ERROR error;
+    if (!read_text(path, text, problem)) {
         file.problems.push_back({0, "", problem});
-    else if (file.is_csv)
-        file.records = gfpdb_read_list(text, manager, options, file.problems);
-    else
-        read_json(text, manager, options, file);
-    return file;
+    } else if (file.is_csv) {
+        m_content->list.emplace(text, manager, options);
+        m_content->total = m_content->list->count();
+    } else if (!json_parse(text, m_content->json, error)) {
+        file.problems.push_back({error.line, "", GFPDB_WORDS::say("This is not valid JSON: %1.", {error.text})});
+    } else {
+        m_content->records.emplace(manager, options);
+        m_content->total = m_content->records->begin_file(m_content->json);
+    }
+}
+
+GFPDB_FILE_READER::~GFPDB_FILE_READER() = default;
+
+int GFPDB_FILE_READER::total() const
+{
+    return m_content->total;
+}
+
+int GFPDB_FILE_READER::done() const
+{
+    return m_content->done;
+}
+
+GFPDB_RECORD_FILE& GFPDB_FILE_READER::file()
+{
+    return m_content->file;
+}
+
+bool GFPDB_FILE_READER::read_next()
+{
+    CONTENT& content = *m_content;
+    if (content.done < content.total) {
+        std::optional<GFPDB_RECORD> record =
+            content.list ? content.list->read(content.done) : content.records->read_item(content.done);
+        if (record)
+            content.file.records.push_back(std::move(*record));
+        ++content.done;
+        return true;
+    }
+    if (!content.is_complete && content.list)
+        content.file.problems = content.list->problems();
+    else if (!content.is_complete && content.records)
+        content.file.problems = content.records->problems();
+    content.is_complete = true;
+    return false;
+}
+
+GFPDB_RECORD_FILE gfpdb_read_records(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
+{
+    GFPDB_FILE_READER reader(path, manager, options);
+    while (reader.read_next()) {
+    }
+    return std::move(reader.file());
 }

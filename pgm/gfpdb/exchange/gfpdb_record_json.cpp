@@ -4,6 +4,7 @@
 #include "exchange/gfpdb_record_rules.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_flow_check.h"
 #include "model/gfpdb_field.h"
 #include "model/gfpdb_flow_text.h"
@@ -51,7 +52,31 @@ const JSON_VALUE& place_of(const JSON_VALUE& object, const char* name)
     return member ? *member : object;
 }
 
+// All keys, those that are required before the others.
+std::vector<std::string> ordered_keys(const GFPDB_READ_OPTIONS& options)
+{
+    const std::vector<std::string> required = gfpdb_required_keys(options);
+    std::vector<std::string> keys = gfpdb_field_keys(true);
+    std::stable_partition(keys.begin(), keys.end(), [&required](const std::string& key) {
+        return std::find(required.begin(), required.end(), key) != required.end();
+    });
+    return keys;
+}
+
 } // namespace
+
+std::vector<std::string> gfpdb_required_keys(const GFPDB_READ_OPTIONS& options)
+{
+    std::vector<std::string> keys;
+    for (std::size_t at = 0; at < GFPDB_REQUIRED_FIELDS; ++at) {
+        const std::string key = gfpdb_fields()[at].key;
+        const bool is_given =
+            (key == GFPDB_KEY_FAMILY && options.family) || (key == GFPDB_KEY_SCHEME && options.scheme);
+        if (!is_given)
+            keys.push_back(key);
+    }
+    return keys;
+}
 
 std::optional<JSON_VALUE> gfpdb_record_to_json(const GFPDB_RECORD& record)
 {
@@ -97,8 +122,11 @@ std::string gfpdb_write_records(const std::vector<GFPDB_RECORD>& records, std::v
 }
 
 GFPDB_RECORD_READER::GFPDB_RECORD_READER(GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
-    : m_manager(manager), m_options(options), m_report([this](const JSON_VALUE& value, const std::string& field,
-                                                              const std::string& text) { add(value, field, text); })
+    : m_manager(manager), m_options(options), m_keys(ordered_keys(options)),
+      m_required(gfpdb_required_keys(options).size()),
+      m_report([this](const JSON_VALUE& value, const std::string& field, const std::string& text) {
+          add(value, field, text);
+      })
 {}
 
 void GFPDB_RECORD_READER::add(const JSON_VALUE& value, const std::string& field, const std::string& text,
@@ -107,33 +135,38 @@ void GFPDB_RECORD_READER::add(const JSON_VALUE& value, const std::string& field,
     m_problems.push_back({value.line, field, text, seriousness});
 }
 
-std::vector<GFPDB_RECORD> GFPDB_RECORD_READER::read_file(const JSON_VALUE& file)
+int GFPDB_RECORD_READER::begin_file(const JSON_VALUE& file)
 {
-    std::vector<GFPDB_RECORD> records;
     const JSON_VALUE* format = file.member(FORMAT);
     const JSON_VALUE* version = file.member(VERSION);
     if (!json_has_members(file, {FORMAT, VERSION, DEVICES, TEMPLATES}, 2, "", m_report))
-        return records;
+        return 0;
     if (format->kind != JSON_VALUE::TEXT || format->text != FORMAT_NAME)
-        add(*format, FORMAT, std::string("This is not a file of records. Allowed: ") + FORMAT_NAME + ".");
+        add(*format, FORMAT, GFPDB_WORDS::say("This is not a file of records. Allowed: %1.", {FORMAT_NAME}));
     else if (version->kind != JSON_VALUE::NUMBER || version->text != std::to_string(FORMAT_VERSION))
         add(*version, VERSION,
-            "This version of the format is not known. Allowed: " + std::to_string(FORMAT_VERSION) + ".");
+            GFPDB_WORDS::say("This version of the format is not known. Allowed: %1.",
+                             {std::to_string(FORMAT_VERSION)}));
     else {
-        read_records(file, DEVICES, false, records);
-        read_records(file, TEMPLATES, true, records);
+        find_records(file, DEVICES, false);
+        find_records(file, TEMPLATES, true);
     }
-    return records;
+    return static_cast<int>(m_items.size());
 }
 
-void GFPDB_RECORD_READER::read_records(const JSON_VALUE& file, const char* name, bool are_templates,
-                                       std::vector<GFPDB_RECORD>& records)
+void GFPDB_RECORD_READER::find_records(const JSON_VALUE& file, const char* name, bool are_templates)
 {
     const JSON_VALUE* list = file.member(name);
     if (!list || !json_is(*list, JSON_VALUE::LIST, name, m_report))
         return;
     for (std::size_t at = 0; at < list->items.size(); ++at)
-        records.push_back(read_record(list->items[at], are_templates, indexed("", name, at)));
+        m_items.push_back({&list->items[at], are_templates, indexed("", name, at)});
+}
+
+GFPDB_RECORD GFPDB_RECORD_READER::read_item(int at)
+{
+    const ITEM& item = m_items[static_cast<std::size_t>(at)];
+    return read_record(*item.value, item.is_template, item.field);
 }
 
 GFPDB_RECORD GFPDB_RECORD_READER::read_record(const JSON_VALUE& value, bool is_template, const std::string& field)
@@ -141,7 +174,7 @@ GFPDB_RECORD GFPDB_RECORD_READER::read_record(const JSON_VALUE& value, bool is_t
     GFPDB_RECORD record;
     record.is_template = is_template;
     record.line = value.line;
-    if (!json_has_members(value, gfpdb_field_keys(true), GFPDB_REQUIRED_FIELDS, field, m_report))
+    if (!json_has_members(value, m_keys, m_required, field, m_report))
         return record;
     const std::size_t problems_before = m_problems.size();
     for (const GFPDB_FIELD& each : gfpdb_fields())
@@ -179,7 +212,7 @@ std::string GFPDB_RECORD_READER::read_text(const JSON_VALUE& object, const char*
         return std::string();
     // Can only be of a list: a text of JSON always is.
     if (!gfpdb_is_utf8(value->text))
-        add(*value, field + '.' + name, "The text is not UTF-8.");
+        add(*value, field + '.' + name, GFPDB_WORDS::say("The text is not UTF-8."));
     return value->text;
 }
 
@@ -196,7 +229,7 @@ std::optional<int> GFPDB_RECORD_READER::read_number(const JSON_VALUE& object, co
     if (number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max())
         return static_cast<int>(number);
     const std::string what = value->kind == JSON_VALUE::NUMBER ? value->text : json_kind_text(*value);
-    add(*value, field + '.' + name, "A whole number or null was expected, but this is " + what + ".");
+    add(*value, field + '.' + name, GFPDB_WORDS::say("A whole number or null was expected, but this is %1.", {what}));
     return std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 #include "base/gfpdb_create_dir.h"
 #include "base/gfpdb_log.h"
 #include "base/gfpdb_settings.h"
+#include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_helper.h"
 #include "gfpdb/gfpdb_mgr.h"
 #include "store/gfpdb_store.h"
@@ -88,7 +89,7 @@ bool GFPDB_MGR::save_custom_dir_to_ini(std::string directory, bool create)
     const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(normalised);
     if (!store->is_readable()) {
         qCWarning(GFPDB_LOG, "%s was not made the database directory: %s", normalised.c_str(),
-                  store->get_problem().c_str());
+                  GFPDB_WORDS::english(store->get_problem()).c_str());
         return false;
     }
     return gfpdb_write_setting(GFPDB_SETTING_CUSTOM_DIR, normalised);

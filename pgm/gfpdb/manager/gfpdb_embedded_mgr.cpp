@@ -95,7 +95,7 @@ void GFPDB_EMBEDDED_MGR::forget_seen(const GFPDB_RECORD& record)
 bool GFPDB_EMBEDDED_MGR::fail(const std::string& error)
 {
     m_last_error = error;
-    qCWarning(GFPDB_LOG, "%s", error.c_str());
+    qCWarning(GFPDB_LOG, "%s", GFPDB_WORDS::english(error).c_str());
     return false;
 }
 

@@ -42,8 +42,10 @@ const std::vector<GFPDB_FIELD>& gfpdb_fields()
         // key, title, noun, property, kind, use, member, lowest, highest, initial
         {GFPDB_KEY_NAME, QT_TRANSLATE_NOOP("gfpdb", "Name"), QT_TRANSLATE_NOOP("gfpdb", "device name"),
          GFPDB_FLASH_NAME, KIND::NAME, USE::ALL, &ROW::name},
-        {GFPDB_KEY_FAMILY, "Family", "", GFPDB_NO_PROPERTY, KIND::PLACE, USE::NO_ROW, &ROW::family},
-        {GFPDB_KEY_SCHEME, "Scheme", "", GFPDB_NO_PROPERTY, KIND::PLACE, USE::NO_ROW, &ROW::scheme},
+        {GFPDB_KEY_FAMILY, "Family", QT_TRANSLATE_NOOP("gfpdb", "device family"), GFPDB_NO_PROPERTY, KIND::PLACE,
+         USE::NO_ROW, &ROW::family},
+        {GFPDB_KEY_SCHEME, "Scheme", QT_TRANSLATE_NOOP("gfpdb", "configuration mode"), GFPDB_NO_PROPERTY, KIND::PLACE,
+         USE::NO_ROW, &ROW::scheme},
         {"device_id", QT_TRANSLATE_NOOP("gfpdb", "ID"), QT_TRANSLATE_NOOP("gfpdb", "device ID"), GFPDB_FLASH_DEVICE_ID,
          KIND::TEXT, USE::NOT_CARDS, &ROW::device_id},
         {"voltage", QT_TRANSLATE_NOOP("gfpdb", "I/O voltage"), QT_TRANSLATE_NOOP("gfpdb", "I/O voltage"),
@@ -63,9 +65,10 @@ const std::vector<GFPDB_FIELD>& gfpdb_fields()
          &ROW::template_name},
         {"flow_template", QT_TRANSLATE_NOOP("gfpdb", "Flow template"), QT_TRANSLATE_NOOP("gfpdb", "flow template"),
          GFPDB_FLASH_FLOW_TEMPLATE, KIND::NAME, USE::ONLY_SERIAL, &ROW::flow_template},
-        {GFPDB_KEY_SINGLE_FLOWS, "Single-I/O flow", "", GFPDB_NO_PROPERTY, KIND::FLOWS, USE::NO_ROW,
-         &ROW::single_flows},
-        {GFPDB_KEY_QUAD_FLOWS, "Quad-I/O flow", "", GFPDB_NO_PROPERTY, KIND::FLOWS, USE::NO_ROW, &ROW::quad_flows},
+        {GFPDB_KEY_SINGLE_FLOWS, "Single-I/O flow", QT_TRANSLATE_NOOP("gfpdb", "single-I/O flow"), GFPDB_NO_PROPERTY,
+         KIND::FLOWS, USE::NO_ROW, &ROW::single_flows},
+        {GFPDB_KEY_QUAD_FLOWS, "Quad-I/O flow", QT_TRANSLATE_NOOP("gfpdb", "quad-I/O flow"), GFPDB_NO_PROPERTY,
+         KIND::FLOWS, USE::NO_ROW, &ROW::quad_flows},
     };
     return FIELDS;
 }

@@ -2,6 +2,7 @@
 #include "model/gfpdb_flow_text.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "model/gfpdb_action_model.h"
 #include "model/gfpdb_operation.h"
 
@@ -103,8 +104,9 @@ private:
                                           [kind](const auto& other) { return other->m_kind == kind; });
         if (kind < 0 || is_twice) {
             m_report(word, field + '.' + GFPDB_FLOW_OPERATION,
-                     is_twice ? "This operation occurs twice."
-                              : "There is no such operation. Allowed: " + gfpdb_joined(OPERATION_WORDS) + ".");
+                     is_twice ? GFPDB_WORDS::say("This operation occurs twice.")
+                              : GFPDB_WORDS::say("There is no such operation. Allowed: %1.",
+                                                 {gfpdb_joined(OPERATION_WORDS)}));
             return;
         }
         m_operations.emplace_back(gfpdb_make_operation(kind));
@@ -121,7 +123,7 @@ private:
         const int type = index_of(ACTION_WORDS, word);
         if (type < 0) {
             m_report(word != nullptr ? *word : value, field + '.' + ACTION,
-                     "There is no such action. Allowed: " + gfpdb_joined(ACTION_WORDS) + ".");
+                     GFPDB_WORDS::say("There is no such action. Allowed: %1.", {gfpdb_joined(ACTION_WORDS)}));
             return;
         }
         std::unique_ptr<GFPDB_ACTION> action(gfpdb_make_action(static_cast<GFPDB_ACT_TYPE>(type)));

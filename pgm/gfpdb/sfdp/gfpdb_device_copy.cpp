@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_new_device.h"
 
+#include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_builtin_records.h"
 #include "gfpdb/gfpdb_exchange.h"
 #include "model/gfpdb_flow_text.h"
@@ -14,7 +16,7 @@ std::optional<GFPDB_RECORD> gfpdb_copy_of(const GFPDB_RECORD& source, const std:
         gfpdb_check_record_name(name, "device name", problem);
     const auto is_readable = [](const std::string& flows) { return flows.empty() || gfpdb_flows_from_text(flows); };
     if (problem.empty() && !(is_readable(source.row.single_flows) && is_readable(source.row.quad_flows)))
-        problem = "The flows of " + gfpdb_title(source) + " cannot be read.";
+        problem = GFPDB_WORDS::say("The flows of %1 cannot be read.", {gfpdb_quoted(source.name())});
     if (!problem.empty())
         return std::nullopt;
     GFPDB_RECORD copy;
@@ -27,9 +29,9 @@ std::optional<GFPDB_RECORD> gfpdb_copy_of(const GFPDB_RECORD& source, const std:
     const int clocks = copy.row.single_io_dummy_clock.value_or(0);
     if (clocks > gfpdb_single_dummy_max()) {
         copy.row.single_io_dummy_clock = gfpdb_single_dummy_max();
-        warnings.push_back("A device has at most " + std::to_string(gfpdb_single_dummy_max()) +
-                           " single-I/O dummy clocks: the copy gets these, and its flow has the " +
-                           std::to_string(clocks) + " of " + gfpdb_title(source) + '.');
+        warnings.push_back(GFPDB_WORDS::say(
+            "A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.",
+            {std::to_string(gfpdb_single_dummy_max()), std::to_string(clocks), gfpdb_quoted(source.name())}));
     }
     return copy;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_new_device.h"
 
+#include "base/gfpdb_words.h"
 #include "sfdp/gfpdb_known_part.h"
 #include "sfdp/gfpdb_sfdp_table.h"
 
@@ -32,12 +33,13 @@ public:
     {
         const std::int64_t listed_bits = gfpdb_density_bytes(m_part.density) * 8;
         if (m_sfdp.density_bits > 0 && m_sfdp.density_bits != listed_bits)
-            differ("density", m_part.density, gfpdb_density_text(m_sfdp.density_bits), "SFDP DW2");
-        compare_numbers("page size", m_part.page_size, m_sfdp.page_size, "SFDP DW11");
+            differ(GFPDB_WORDS::say("density"), m_part.density, gfpdb_density_text(m_sfdp.density_bits), "SFDP DW2");
+        compare_numbers(GFPDB_WORDS::say("page size"), m_part.page_size, m_sfdp.page_size, "SFDP DW11");
         compare_address();
         compare_erase();
         if (m_sfdp.read_1_4_4)
-            compare_numbers("quad-I/O dummy clocks", m_part.dummy_quad, m_sfdp.read_1_4_4->dummy_clocks(), "SFDP DW3");
+            compare_numbers(GFPDB_WORDS::say("quad-I/O dummy clocks"), m_part.dummy_quad,
+                            m_sfdp.read_1_4_4->dummy_clocks(), "SFDP DW3");
         compare_quad_enable();
         compare_table();
         return std::move(m_differences);
@@ -46,11 +48,11 @@ public:
 private:
     void differ(const std::string& what, const std::string& listed, const std::string& said, const std::string& source)
     {
-        m_differences.push_back(what + ": " + listed + " in the list, " + said + " by " + source);
+        m_differences.push_back(GFPDB_WORDS::say("%1: %2 in the list, %3 by %4", {what, listed, said, source}));
     }
 
     // 0 stands for what is not known.
-    void compare_numbers(const char* what, int listed, int said, const char* source)
+    void compare_numbers(const std::string& what, int listed, int said, const char* source)
     {
         if (listed != 0 && said != 0 && listed != said)
             differ(what, std::to_string(listed), std::to_string(said), source);
@@ -61,7 +63,7 @@ private:
         const int said = m_sfdp.address == GFPDB_SFDP_ADDRESS::THREE  ? 3
                          : m_sfdp.address == GFPDB_SFDP_ADDRESS::FOUR ? 4
                                                                       : 0;
-        compare_numbers("address bytes", m_part.addressing_bytes, said, "SFDP DW1");
+        compare_numbers(GFPDB_WORDS::say("address bytes"), m_part.addressing_bytes, said, "SFDP DW1");
     }
 
     // Tables have room for four erase commands: one that the part has and they do not is no difference.
@@ -84,24 +86,28 @@ private:
                 continue;
             if (command.size_bytes == size)
                 return;
-            listed += (listed.empty() ? "" : " or ") + std::to_string(command.size_bytes);
+            const std::string bytes = std::to_string(command.size_bytes);
+            listed = listed.empty() ? bytes : GFPDB_WORDS::say("%1 or %2", {listed, bytes});
         }
-        differ("erase by " + gfpdb_sfdp_hex(static_cast<std::uint32_t>(opcode), 2),
-               listed.empty() ? "not" : listed + " bytes", std::to_string(size) + " bytes", source);
+        differ(GFPDB_WORDS::say("erase by %1", {gfpdb_sfdp_hex(static_cast<std::uint32_t>(opcode), 2)}),
+               listed.empty() ? GFPDB_WORDS::say("not") : GFPDB_WORDS::say("%1 bytes", {listed}),
+               GFPDB_WORDS::say("%1 bytes", {std::to_string(size)}), source);
     }
 
     void compare_quad_enable()
     {
-        constexpr const char* TEXTS[] = {"unknown", "none", "SR1 bit 6", "SR2 bit 1"};
+        constexpr const char* TEXTS[] = {"unknown", QT_TRANSLATE_NOOP("gfpdb", "none"), "SR1 bit 6", "SR2 bit 1"};
         // By the requirement; the last one is reserved.
-        constexpr std::array<const char*, 8> SAID = {"none",      "SR2 bit 1", "SR1 bit 6", "SR2 bit 7",
-                                                     "SR2 bit 1", "SR2 bit 1", "SR2 bit 1", "reserved"};
+        constexpr std::array<const char*, 8> SAID = {
+            "none",      "SR2 bit 1", "SR1 bit 6", "SR2 bit 7",
+            "SR2 bit 1", "SR2 bit 1", "SR2 bit 1", QT_TRANSLATE_NOOP("gfpdb", "reserved")};
         if (!m_sfdp.quad_enable || m_part.quad_enable == GFPDB_QUAD_ENABLE::UNKNOWN)
             return;
         const std::string listed = TEXTS[static_cast<int>(m_part.quad_enable)];
         const std::string said = SAID[static_cast<std::size_t>(*m_sfdp.quad_enable)];
         if (listed != said)
-            differ("quad enable", listed, said, "SFDP DW15");
+            differ(GFPDB_WORDS::say("quad enable"), GFPDB_WORDS::say(listed.c_str()), GFPDB_WORDS::say(said.c_str()),
+                   "SFDP DW15");
     }
 
     void compare_table()
@@ -111,11 +117,11 @@ private:
         if (known == std::end(KNOWN_TABLES) || m_sfdp.basic_dwords == 0)
             return;
         if (known->dwords != m_sfdp.basic_dwords)
-            m_differences.push_back("basic table: " + std::to_string(known->dwords) +
-                                    " double words in read-outs of this part, " + std::to_string(m_sfdp.basic_dwords) +
-                                    " here");
+            m_differences.push_back(
+                GFPDB_WORDS::say("basic table: %1 double words in read-outs of this part, %2 here",
+                                 {std::to_string(known->dwords), std::to_string(m_sfdp.basic_dwords)}));
         if (known->has_4_4_4 && !m_sfdp.read_4_4_4)
-            m_differences.emplace_back("4-4-4 read: in read-outs of this part, but not here");
+            m_differences.push_back(GFPDB_WORDS::say("4-4-4 read: in read-outs of this part, but not here"));
     }
 
     const GFPDB_PART& m_part;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sfdp/gfpdb_proposal.h"
 
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_builtin_records.h"
 #include "catalogue/gfpdb_catalogue_csv.h"
 #include "gfpdb/gfpdb_action_value.h"
@@ -117,19 +118,19 @@ std::string problem_of_number(const std::string& text, const RANGE& range)
 {
     const std::optional<std::int64_t> number = gfpdb_parse_decimal(text);
     if (!number)
-        return gfpdb_quoted(text) + " is not a number.";
+        return GFPDB_WORDS::say("%1 is not a number.", {gfpdb_quoted(text)});
     if (*number >= range.lowest && *number <= range.highest)
         return {};
-    return gfpdb_quoted(text) + " is out of range: " + std::to_string(range.lowest) + " to " +
-           std::to_string(range.highest) + " are allowed.";
+    return GFPDB_WORDS::say("%1 is out of range: %2 to %3 are allowed.",
+                            {gfpdb_quoted(text), std::to_string(range.lowest), std::to_string(range.highest)});
 }
 
 std::string problem_of_density(const std::string& text)
 {
     const std::int64_t bytes = gfpdb_density_bytes(text);
     if (bytes > GFPDB_DEVICE_BYTES_MAX)
-        return gfpdb_quoted(text) + " is more than 32Gb.";
-    return bytes > 0 ? std::string() : gfpdb_quoted(text) + " is not a density such as 128Mb.";
+        return GFPDB_WORDS::say("%1 is more than 32Gb.", {gfpdb_quoted(text)});
+    return bytes > 0 ? std::string() : GFPDB_WORDS::say("%1 is not a density such as 128Mb.", {gfpdb_quoted(text)});
 }
 
 std::string problem_of_erase(const std::string& text)
@@ -138,7 +139,7 @@ std::string problem_of_erase(const std::string& text)
     const std::optional<std::vector<GFPDB_ERASE_COMMAND>> commands = gfpdb_parse_erase_commands(text, error);
     if (text == WHOLE_CHIP || (commands && commands->size() == 1))
         return {};
-    return gfpdb_quoted(text) + " is neither an erase command such as D8:64K nor \"chip\".";
+    return GFPDB_WORDS::say("%1 is neither an erase command such as D8:64K nor \"chip\".", {gfpdb_quoted(text)});
 }
 
 } // namespace
@@ -250,7 +251,7 @@ std::string GFPDB_PROPOSAL::problem_of(VALUE_OF value, const std::string& text) 
         error = problem_of_number(text, *range);
         const std::int64_t number = error.empty() ? *gfpdb_parse_decimal(text) : 0;
         if (value == VALUE_OF::PAGE_SIZE && (number & (number - 1)) != 0)
-            return gfpdb_quoted(text) + " is not a power of two.";
+            return GFPDB_WORDS::say("%1 is not a power of two.", {gfpdb_quoted(text)});
         return error;
     }
     const std::vector<std::string>& choices = m_values[index_of(value)].choices;
@@ -281,7 +282,7 @@ bool GFPDB_PROPOSAL::set_value(const std::string& key, const std::string& text, 
     const auto entry =
         std::find_if(ENTRIES.begin(), ENTRIES.end(), [&key](const ENTRY& each) { return key == each.key; });
     if (entry == ENTRIES.end()) {
-        problem = "There is no value " + gfpdb_quoted(key) + '.';
+        problem = GFPDB_WORDS::say("There is no value %1.", {gfpdb_quoted(key)});
         return false;
     }
     const auto at = static_cast<std::size_t>(entry - ENTRIES.begin());

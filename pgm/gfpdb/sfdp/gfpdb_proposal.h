@@ -87,6 +87,8 @@ private:
 
     const std::string& text(VALUE_OF value) const { return m_values[static_cast<std::size_t>(value)].text; }
     const std::string& source(VALUE_OF value) const { return m_values[static_cast<std::size_t>(value)].source; }
+    // For users.
+    std::string said_source(VALUE_OF value) const;
     std::int64_t number(VALUE_OF value) const;
     std::int64_t density_bits() const;
     std::vector<std::uint8_t> id_bytes() const;

@@ -3,6 +3,7 @@
 // From the values of a new device to the traits of its flows, and to its record.
 #include "sfdp/gfpdb_proposal.h"
 
+#include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_catalogue_csv.h"
 #include "catalogue/gfpdb_flow_builder.h"
 #include "catalogue/gfpdb_flow_templates.h"
@@ -124,13 +125,14 @@ std::optional<GFPDB_RECORD> GFPDB_PROPOSAL::make_record(int family, int scheme, 
     problem = gfpdb_problem_of_place(family, scheme);
     for (const GFPDB_PROPOSED_VALUE& value : m_values) {
         if (problem.empty() && value.text.empty())
-            problem = "The value " + gfpdb_quoted(value.key) + " is missing: enter it.";
+            problem = GFPDB_WORDS::say("The value %1 is missing: enter it.", {gfpdb_quoted(value.key)});
     }
     if (problem.empty() && density_bits() % (8 * number(VALUE_OF::DIES)) != 0)
-        problem = "The number of dies, " + text(VALUE_OF::DIES) + ", does not divide the density.";
+        problem = GFPDB_WORDS::say("The number of dies, %1, does not divide the density.", {text(VALUE_OF::DIES)});
     const std::optional<GFPDB_ERASE_COMMAND> sector = sector_erase();
     if (problem.empty() && sector && !divides_density(sector->size_bytes))
-        problem = "The erase command " + gfpdb_quoted(text(VALUE_OF::ERASE)) + " does not divide the density.";
+        problem = GFPDB_WORDS::say("The erase command %1 does not divide the density.",
+                                   {gfpdb_quoted(text(VALUE_OF::ERASE))});
     if (!problem.empty())
         return std::nullopt;
     const GFPDB_FLOW_TRAITS single = traits(false);

@@ -3,6 +3,7 @@
 // The header, the parameter headers, and which tables are read.
 #include "gfpdb/gfpdb_sfdp.h"
 
+#include "base/gfpdb_words.h"
 #include "sfdp/gfpdb_sfdp_tables.h"
 
 #include <algorithm>
@@ -41,17 +42,17 @@ std::string problem_of(const BYTES& bytes)
     if (place == bytes.end()) {
         const bool is_reversed =
             bytes.size() >= SIGNATURE.size() && std::equal(SIGNATURE.rbegin(), SIGNATURE.rend(), bytes.begin());
-        return is_reversed ? "The four bytes of each double word are in reverse order."
-                           : "The bytes do not begin with the signature \"SFDP\".";
+        return is_reversed ? GFPDB_WORDS::say("The four bytes of each double word are in reverse order.")
+                           : GFPDB_WORDS::say("The bytes do not begin with the signature \"SFDP\".");
     }
     if (place != bytes.begin())
-        return "The signature \"SFDP\" is at " + address(static_cast<std::size_t>(place - bytes.begin())) +
-               " and not at the start: bytes were added before it.";
+        return GFPDB_WORDS::say("The signature \"SFDP\" is at %1 and not at the start: bytes were added before it.",
+                                {address(static_cast<std::size_t>(place - bytes.begin()))});
     if (bytes.size() < HEADER_BYTES)
-        return "The read-out ends within the SFDP header.";
+        return GFPDB_WORDS::say("The read-out ends within the SFDP header.");
     if (bytes[5] != MAJOR)
-        return "SFDP revision " + std::to_string(bytes[5]) + '.' + std::to_string(bytes[4]) +
-               " is unknown: revisions 1.x can be read.";
+        return GFPDB_WORDS::say("SFDP revision %1 is unknown: revisions 1.x can be read.",
+                                {std::to_string(bytes[5]) + '.' + std::to_string(bytes[4])});
     return {};
 }
 
@@ -82,13 +83,14 @@ public:
                 continue;
             ++count;
             if (table.major != MAJOR)
-                warn(name(table) + " has the unknown revision " + revision(table) + ": it is not read.");
+                warn(GFPDB_WORDS::say("%1 has the unknown revision %2: it is not read.",
+                                      {name(table), revision(table)}));
             else if (table.dwords_read > 0 && (best == nullptr || table.minor > best->minor))
                 best = &table;
         }
         if (best != nullptr && count > 1)
-            warn("There are " + std::to_string(count) + " headers of " + name(*best) + ": the one of revision " +
-                 revision(*best) + " is taken.");
+            warn(GFPDB_WORDS::say("There are %1 headers of %2: the one of revision %3 is taken.",
+                                  {std::to_string(count), name(*best), revision(*best)}));
         return best;
     }
 
@@ -105,13 +107,13 @@ private:
         for (int at = 0; at < count; ++at) {
             const std::size_t place = HEADER_BYTES * (static_cast<std::size_t>(at) + 1);
             if (place + HEADER_BYTES > m_bytes.size()) {
-                warn("The read-out ends within the parameter headers: " + std::to_string(at) + " of " +
-                     std::to_string(count) + " are there.");
+                warn(GFPDB_WORDS::say("The read-out ends within the parameter headers: %1 of %2 are there.",
+                                      {std::to_string(at), std::to_string(count)}));
                 break;
             }
             if (is_within_table(place)) {
-                warn("A table begins at " + address(m_first_table) + ": there is room for " + std::to_string(at) +
-                     " parameter headers, not for " + std::to_string(count) + '.');
+                warn(GFPDB_WORDS::say("A table begins at %1: there is room for %2 parameter headers, not for %3.",
+                                      {address(m_first_table), std::to_string(at), std::to_string(count)}));
                 break;
             }
             m_headers_end = place + HEADER_BYTES;
@@ -130,7 +132,7 @@ private:
         GFPDB_SFDP_TABLE table;
         table.id = static_cast<int>(byte(7) << 8 | byte(0));
         if (table.id == BLANK_ID) {
-            warn("The parameter header at " + address(place) + " is blank.");
+            warn(GFPDB_WORDS::say("The parameter header at %1 is blank.", {address(place)}));
             return;
         }
         table.minor = static_cast<int>(byte(1));
@@ -140,7 +142,8 @@ private:
         const std::size_t left = table.offset < m_bytes.size() ? m_bytes.size() - table.offset : 0;
         table.dwords_read = std::min(table.dwords, static_cast<int>(left / GFPDB_SFDP_DWORD_BYTES));
         if (table.dwords > 0 && table.offset < m_headers_end) {
-            warn(name(table) + " begins at " + address(table.offset) + ", within the headers: it is not read.");
+            warn(GFPDB_WORDS::say("%1 begins at %2, within the headers: it is not read.",
+                                  {name(table), address(table.offset)}));
             table.dwords_read = 0;
         } else if (table.dwords > 0) {
             m_first_table = m_first_table == 0 ? table.offset : std::min<std::size_t>(m_first_table, table.offset);
@@ -152,15 +155,16 @@ private:
     {
         const bool is_refused = table.offset < m_headers_end;
         if (table.dwords == 0)
-            warn(name(table) + " is empty.");
+            warn(GFPDB_WORDS::say("%1 is empty.", {name(table)}));
         else if (table.dwords_read == 0 && !is_refused)
-            warn(name(table) + " is not in the read-out: it begins at " + address(table.offset) +
-                 ", and the read-out ends at " + address(m_bytes.size()) + '.');
+            warn(GFPDB_WORDS::say("%1 is not in the read-out: it begins at %2, and the read-out ends at %3.",
+                                  {name(table), address(table.offset), address(m_bytes.size())}));
         else if (table.dwords_read < table.dwords && !is_refused)
-            warn("The read-out ends within " + name(table) + ": " + std::to_string(table.dwords_read) + " of " +
-                 std::to_string(table.dwords) + " double words are there.");
+            warn(GFPDB_WORDS::say("The read-out ends within %1: %2 of %3 double words are there.",
+                                  {name(table), std::to_string(table.dwords_read), std::to_string(table.dwords)}));
         if (table.offset % GFPDB_SFDP_DWORD_BYTES != 0)
-            warn(name(table) + " begins at " + address(table.offset) + ", which is not a multiple of 4.");
+            warn(GFPDB_WORDS::say("%1 begins at %2, which is not a multiple of 4.",
+                                  {name(table), address(table.offset)}));
     }
 
     // Headers may share one table, of which each describes another revision.
@@ -173,7 +177,7 @@ private:
                 const bool overlap = !is_empty && tables[at].offset < end_of(tables[other]) &&
                                      tables[other].offset < end_of(tables[at]) && tables[at].id != tables[other].id;
                 if (overlap)
-                    warn(name(tables[at]) + " and " + name(tables[other]) + " overlap.");
+                    warn(GFPDB_WORDS::say("%1 and %2 overlap.", {name(tables[at]), name(tables[other])}));
             }
         }
     }
@@ -189,7 +193,7 @@ private:
             for (std::size_t at = end; at < std::min<std::size_t>(table.offset, m_bytes.size()); ++at) {
                 if (m_bytes[at] == 0xFF || m_bytes[at] == 0x00)
                     continue;
-                warn("The bytes at " + address(at) + " are in no table: they are not read.");
+                warn(GFPDB_WORDS::say("The bytes at %1 are in no table: they are not read.", {address(at)}));
                 break;
             }
             end = std::max(end, end_of(table));
@@ -218,13 +222,14 @@ std::optional<GFPDB_SFDP> gfpdb_read_sfdp(const std::vector<std::uint8_t>& bytes
     reader.read_header();
     const GFPDB_SFDP_TABLE* const basic = reader.latest(GFPDB_SFDP_BASIC);
     if (basic == nullptr) {
-        problem =
-            sfdp.warnings.empty() ? "There is no basic table." : "There is no basic table. " + sfdp.warnings.front();
+        problem = GFPDB_WORDS::say("There is no basic table.");
+        if (!sfdp.warnings.empty())
+            problem += ' ' + sfdp.warnings.front();
         return std::nullopt;
     }
     const std::uint32_t first = reader.view(*basic).dword(1);
     if (first == BLANK_DWORD || first == 0) {
-        problem = "The basic table is blank.";
+        problem = GFPDB_WORDS::say("The basic table is blank.");
         return std::nullopt;
     }
     sfdp.basic_major = basic->major;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/gfpdb_words.h"
 #include "sfdp/gfpdb_sfdp_tables.h"
 
 #include <algorithm>
@@ -57,9 +58,9 @@ private:
     {
         const int belong = dwords_of_revision(m_sfdp.basic_minor);
         if (m_sfdp.basic_dwords < belong)
-            warn("The basic table has " + std::to_string(m_sfdp.basic_dwords) +
-                 " double words: " + std::to_string(belong) + " belong to its revision " +
-                 std::to_string(m_sfdp.basic_major) + '.' + std::to_string(m_sfdp.basic_minor) + '.');
+            warn(GFPDB_WORDS::say("The basic table has %1 double words: %2 belong to its revision %3.",
+                                  {std::to_string(m_sfdp.basic_dwords), std::to_string(belong),
+                                   std::to_string(m_sfdp.basic_major) + '.' + std::to_string(m_sfdp.basic_minor)}));
     }
 
     // Bits that are 1 in every part: zeros there tell of bytes that are missing or are not where they belong.
@@ -74,8 +75,8 @@ private:
         for (const ONES& ones : ALL) {
             if (!m_table.has(ones.dword) || (m_table.dword(ones.dword) & ones.mask) == ones.mask)
                 continue;
-            warn("SFDP DW" + std::to_string(ones.dword) +
-                 " has zeros where every part has ones: bytes may be missing or shifted.");
+            warn(GFPDB_WORDS::say("SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.",
+                                  {std::to_string(ones.dword)}));
             return;
         }
     }
@@ -94,7 +95,8 @@ private:
         if (bits >= KILOBIT && bits % KILOBIT == 0)
             m_sfdp.density_bits = bits;
         else
-            warn("SFDP DW2 says no density that a part can have: " + gfpdb_sfdp_hex(m_table.dword(2), 8) + '.');
+            warn(GFPDB_WORDS::say("SFDP DW2 says no density that a part can have: %1.",
+                                  {gfpdb_sfdp_hex(m_table.dword(2), 8)}));
     }
 
     void read_address()
@@ -103,7 +105,7 @@ private:
             return;
         m_sfdp.address = static_cast<GFPDB_SFDP_ADDRESS>(m_table.bits(1, 18, 17));
         if (m_sfdp.address == GFPDB_SFDP_ADDRESS::RESERVED)
-            warn("SFDP DW1 says with a reserved value how many address bytes there are.");
+            warn(GFPDB_WORDS::say("SFDP DW1 says with a reserved value how many address bytes there are."));
     }
 
     // The half of DW`dword` from bit `lowest` on describes a read that bit `flag` of DW`flags` lists.
@@ -114,8 +116,8 @@ private:
         const GFPDB_SFDP_READ read = half_word(dword, lowest);
         if (is_opcode(read.opcode))
             return read;
-        warn("SFDP DW" + std::to_string(flags) + " lists the " + width + " read, and DW" + std::to_string(dword) +
-             " has no command for it.");
+        warn(GFPDB_WORDS::say("SFDP DW%1 lists the %2 read, and DW%3 has no command for it.",
+                              {std::to_string(flags), width, std::to_string(dword)}));
         return std::nullopt;
     }
 
@@ -159,15 +161,16 @@ private:
 
     void add_erase_type(int type, int dword, int opcode, int exponent)
     {
-        const std::string what = "SFDP DW" + std::to_string(dword) + ": erase type " + std::to_string(type);
         GFPDB_SFDP_ERASE erase;
         erase.type = type;
         erase.opcode = opcode;
         erase.size_bytes = exponent <= ERASE_EXPONENT_MAX ? std::int64_t(1) << exponent : 0;
         if (!is_opcode(opcode))
-            warn(what + " has no command: it is left out.");
+            warn(GFPDB_WORDS::say("SFDP DW%1: erase type %2 has no command: it is left out.",
+                                  {std::to_string(dword), std::to_string(type)}));
         else if (erase.size_bytes == 0 || (m_sfdp.density_bits > 0 && erase.size_bytes > m_sfdp.density_bits / 8))
-            warn(what + " erases 2^" + std::to_string(exponent) + " bytes, which is too much: it is left out.");
+            warn(GFPDB_WORDS::say("SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.",
+                                  {std::to_string(dword), std::to_string(type), std::to_string(exponent)}));
         else
             m_sfdp.erase.push_back(erase);
     }
@@ -184,8 +187,8 @@ private:
                 return erase.size_bytes == FOUR_KILOBYTES && erase.opcode == opcode;
             });
         if (!is_listed && m_table.has(FIRST_DWORDS))
-            warn("SFDP DW1 erases 4 KiB by " + gfpdb_sfdp_hex(static_cast<std::uint32_t>(opcode), 2) +
-                 ", which no erase type does.");
+            warn(GFPDB_WORDS::say("SFDP DW1 erases 4 KiB by %1, which no erase type does.",
+                                  {gfpdb_sfdp_hex(static_cast<std::uint32_t>(opcode), 2)}));
     }
 
     // The factor from a typical time to the longest one.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/gfpdb_words.h"
 #include "sfdp/gfpdb_sfdp_tables.h"
 
 #include <numeric>
@@ -42,20 +43,22 @@ GFPDB_SFDP_MAP map_at(const GFPDB_SFDP_VIEW& table, int at)
 
 void check_map(const GFPDB_SFDP_MAP& map, GFPDB_SFDP& sfdp)
 {
-    const std::string name = "The sectors of sector map " + std::to_string(map.id);
     const std::int64_t bytes =
         std::accumulate(map.regions.begin(), map.regions.end(), std::int64_t(0),
                         [](std::int64_t sum, const GFPDB_SFDP_REGION& region) { return sum + region.size_bytes; });
     if (sfdp.density_bits > 0 && bytes * 8 != sfdp.density_bits)
-        sfdp.warnings.push_back(name + " come to " + std::to_string(bytes) + " bytes, and the part has " +
-                                std::to_string(sfdp.density_bits / 8) + '.');
+        sfdp.warnings.push_back(
+            GFPDB_WORDS::say("The sectors of sector map %1 come to %2 bytes, and the part has %3.",
+                             {std::to_string(map.id), std::to_string(bytes), std::to_string(sfdp.density_bits / 8)}));
     int listed = 0;
     for (const GFPDB_SFDP_ERASE& erase : sfdp.erase)
         listed |= 1 << (erase.type - 1);
     for (const GFPDB_SFDP_REGION& region : map.regions) {
         if ((region.erase_types & ~listed) == 0)
             continue;
-        sfdp.warnings.push_back(name + " are erased by types that the basic table does not have.");
+        sfdp.warnings.push_back(
+            GFPDB_WORDS::say("The sectors of sector map %1 are erased by types that the basic table does not have.",
+                             {std::to_string(map.id)}));
         return;
     }
 }
@@ -78,5 +81,5 @@ void gfpdb_read_sfdp_sector_map(const GFPDB_SFDP_VIEW& table, GFPDB_SFDP& sfdp)
         }
         at = next;
     }
-    sfdp.warnings.push_back("The sector map has no end.");
+    sfdp.warnings.push_back(GFPDB_WORDS::say("The sector map has no end."));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "sfdp/gfpdb_sfdp_table.h"
 
+#include "base/gfpdb_words.h"
+
 #include <cctype>
 #include <cstdio>
 
@@ -15,13 +17,13 @@ std::string gfpdb_sfdp_table_name(int id)
 {
     switch (id) {
     case GFPDB_SFDP_BASIC:
-        return "the basic table";
+        return GFPDB_WORDS::say("the basic table");
     case GFPDB_SFDP_SECTOR_MAP:
-        return "the sector map";
+        return GFPDB_WORDS::say("the sector map");
     case GFPDB_SFDP_FOUR_BYTE:
-        return "the table of 4-byte instructions";
+        return GFPDB_WORDS::say("the table of 4-byte instructions");
     default:
-        return "the table " + gfpdb_sfdp_hex(static_cast<std::uint32_t>(id), 4);
+        return GFPDB_WORDS::say("the table %1", {gfpdb_sfdp_hex(static_cast<std::uint32_t>(id), 4)});
     }
 }
 

@@ -504,7 +504,7 @@ private:
             }
             file.records.push_back(record);
         }
-        GFPDB_IMPORT_PLAN plan(database, true, GFPDB_RECORD_RULES::NAMES);
+        GFPDB_IMPORT_PLAN plan(database, GFPDB_EXISTING::REPLACED, GFPDB_RECORD_RULES::NAMES);
         plan.add(file);
         return plan;
     }

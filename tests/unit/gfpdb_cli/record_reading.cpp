@@ -27,19 +27,24 @@ READ read_json(const std::string& text, GFPDB_RECORD_RULES rules, std::optional<
         qFatal("%s", error.text.c_str());
     GFPDB_RECORD_READER reader(*fresh_manager(), {false, rules, family, scheme});
     READ result;
-    result.records = reader.read_file(value);
+    const int count = reader.begin_file(value);
+    for (int at = 0; at < count; ++at)
+        result.records.push_back(reader.read_item(at));
     result.problems = texts_of(reader.problems());
     return result;
 }
 
 READ read_csv(const std::string& text, bool checked)
 {
-    std::vector<GFPDB_FINDING> problems;
     READ result;
     GFPDB_READ_OPTIONS options;
     options.rules = checked ? GFPDB_RECORD_RULES::IMPORTED : GFPDB_RECORD_RULES::NAMES;
-    result.records = gfpdb_read_list(text, *fresh_manager(), options, problems);
-    result.problems = texts_of(problems);
+    GFPDB_LIST_READER reader(text, *fresh_manager(), options);
+    for (int at = 0; at < reader.count(); ++at) {
+        if (std::optional<GFPDB_RECORD> record = reader.read(at))
+            result.records.push_back(*record);
+    }
+    result.problems = texts_of(reader.problems());
     return result;
 }
 

@@ -126,25 +126,25 @@ private slots:
         add("{\"a\" 1}", "1: \":\" is missing after \"a\"");
         add("{\"a\":1 \"b\":2}", "1: an object needs \",\" or \"}\" here");
         add("{\"a\":1,\n\"a\":2}", "2: the name \"a\" occurs twice");
-        add("{} x", "1: there is more text behind the end");
-        add(QByteArray("{}\0", 3), "1: there is more text behind the end");
+        add("{} x", "1: there is text after the end");
+        add(QByteArray("{}\0", 3), "1: there is text after the end");
         add("1e400", "1: a number is too large");
-        add("\"a", "1: a text has no end");
-        add("\"a\n\"", "1: a text has a control character or a line break in it");
-        add(QByteArray("\"a\0\"", 4), "1: a text has a control character or a line break in it");
+        add("\"a", "1: a string is not terminated");
+        add("\"a\n\"", "1: a string has a control character or a line break in it");
+        add(QByteArray("\"a\0\"", 4), "1: a string has a control character or a line break in it");
         add("\"\\x\"", "1: there is no such escape");
         add("\"\\", "1: there is no such escape");
         add("\"\\u12g4\"", "1: \\u needs four hexadecimal digits");
-        add("\"\\uD83D\"", "1: half a surrogate pair is not a character");
-        add("\"\\uD83D\\u0041\"", "1: half a surrogate pair is not a character");
-        add("\"\\uDE00\"", "1: half a surrogate pair is not a character");
-        add("\"\xFF\"", "1: a text is not UTF-8");
-        add("\"\xC3\"", "1: a text is not UTF-8");
-        add("\"\xC0\x80\"", "1: a text is not UTF-8");
-        add("\"\xE0\x80\x80\"", "1: a text is not UTF-8");
-        add("\"\xF0\x80\x80\x80\"", "1: a text is not UTF-8");
-        add("\"\xED\xA0\x80\"", "1: a text is not UTF-8");
-        add("\"\xF4\x90\x80\x80\"", "1: a text is not UTF-8");
+        add("\"\\uD83D\"", "1: an unpaired surrogate is not a character");
+        add("\"\\uD83D\\u0041\"", "1: an unpaired surrogate is not a character");
+        add("\"\\uDE00\"", "1: an unpaired surrogate is not a character");
+        add("\"\xFF\"", "1: a string is not UTF-8");
+        add("\"\xC3\"", "1: a string is not UTF-8");
+        add("\"\xC0\x80\"", "1: a string is not UTF-8");
+        add("\"\xE0\x80\x80\"", "1: a string is not UTF-8");
+        add("\"\xF0\x80\x80\x80\"", "1: a string is not UTF-8");
+        add("\"\xED\xA0\x80\"", "1: a string is not UTF-8");
+        add("\"\xF4\x90\x80\x80\"", "1: a string is not UTF-8");
     }
 
     void what_is_not_json_is_refused_with_its_line()

@@ -154,13 +154,13 @@ private slots:
             {"2: : A quote that opens in this row is never closed."});
         add("name,family,scheme,device_id\nA,3,7\n", {"2: : The row has 3 cells, the line of column names has 4."});
         add("name,family,scheme,density,device_id\nA,3,7,1Mb,C2\nB,three,7,1Mb,C2\n",
-            {"3: family: A whole number or null was expected, but this is a text."});
+            {"3: family: A whole number or null was expected, but this is a string."});
         add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,1.5\nB,3,7,1Mb,C2,007\n",
             {"2: total_die: A whole number or null was expected, but this is 1.5.",
-             "3: total_die: A whole number or null was expected, but this is a text."});
+             "3: total_die: A whole number or null was expected, but this is a string."});
         add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,null\nB,3,7,1Mb,C2,true\n",
-            {"2: total_die: A whole number or null was expected, but this is a text.",
-             "3: total_die: A whole number or null was expected, but this is a text."});
+            {"2: total_die: A whole number or null was expected, but this is a string.",
+             "3: total_die: A whole number or null was expected, but this is a string."});
         add("name,family,scheme,density,device_id,flow_template\nA,3,7,1Mb,C2,x\nB,3,7,1Mb,C2,\xFF\xFE\n",
             {"3: flow_template: The text is not UTF-8."});
         add("name,family,scheme,density,device_id,total_die\nA,3,7,1Mb,C2,99\n",

@@ -33,10 +33,10 @@ private slots:
             "10: devices[0]: \"volt\" is not known here. Allowed: name, family, scheme, device_id, voltage, density, "
             "total_die, single_io_dummy_clock, quad_io_dummy_clock, template_name, flow_template, single_flows, "
             "quad_flows.");
-        add("\"3.3V\"", "3.3", "10: devices[0].voltage: A text was expected, but this is a number.");
-        add("\"256Mb\"", "null", "11: devices[0].density: A text was expected, but this is null.");
+        add("\"3.3V\"", "3.3", "10: devices[0].voltage: A string was expected, but this is a number.");
+        add("\"256Mb\"", "null", "11: devices[0].density: A string was expected, but this is null.");
         add("\"total_die\": 2", "\"total_die\": \"2\"",
-            "12: devices[0].total_die: A whole number or null was expected, but this is a text.");
+            "12: devices[0].total_die: A whole number or null was expected, but this is a string.");
         add("\"total_die\": 2", "\"total_die\": 2.5",
             "12: devices[0].total_die: A whole number or null was expected, but this is 2.5.");
         add("\"total_die\": 2", "\"total_die\": 2147483648",
@@ -82,7 +82,7 @@ private slots:
             "34: devices[0].single_flows[0].actions[1]: \"pages\" is not known here. Allowed: action, name, command, "
             "address, data, page_size, addressing_mode, delay_us, bus_width.");
         add("\"0x02\"", "2",
-            "31: devices[0].single_flows[0].actions[1].command: A text was expected, but this is a number.");
+            "31: devices[0].single_flows[0].actions[1].command: A string was expected, but this is a number.");
         add("\"0x02\"", "\"2\"",
             "31: devices[0].single_flows[0].actions[1].command: \"2\" is not allowed for \"Command\". Allowed: one "
             "byte in "

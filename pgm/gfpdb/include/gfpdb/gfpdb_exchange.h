@@ -11,6 +11,7 @@
 #include "gfpdb/gfpdb_operation.h"
 #include "gfpdb/gfpdb_record.h"
 
+#include <array>
 #include <map>
 #include <memory>
 #include <optional>
@@ -50,7 +51,7 @@ struct GFPDB_READ_OPTIONS
     // As CSV whatever its name; otherwise files that end in ".csv" are.
     bool csv = false;
     GFPDB_RECORD_RULES rules = GFPDB_RECORD_RULES::IMPORTED;
-    // The family and scheme of all records, in place of their own.
+    // The family and scheme of all records, in place of their own, which then may be missing.
     std::optional<int> family;
     std::optional<int> scheme;
 };
@@ -72,50 +73,111 @@ struct GFPDB_RECORD_FILE
 GFPDB_EXPORT GFPDB_RECORD_FILE gfpdb_read_records(const std::string& path, GFPDB_MGR& manager,
                                                   const GFPDB_READ_OPTIONS& options);
 
+// Reads a file as gfpdb_read_records() does, record by record: between two of them a program can do other things.
+class GFPDB_EXPORT GFPDB_FILE_READER
+{
+public:
+    // Reads the bytes and looks at their form; `manager` must outlive this.
+    GFPDB_FILE_READER(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options);
+    ~GFPDB_FILE_READER();
+    GFPDB_FILE_READER(const GFPDB_FILE_READER&) = delete;
+    GFPDB_FILE_READER& operator=(const GFPDB_FILE_READER&) = delete;
+
+    // How many records there are, and how many of them are read.
+    int total() const;
+    int done() const;
+    // Reads one more. False when there was none: then file() is complete.
+    bool read_next();
+    GFPDB_RECORD_FILE& file();
+
+private:
+    struct CONTENT;
+    std::unique_ptr<CONTENT> m_content;
+};
+
 // What is wrong with a record that is stored, and what a user should know about it.
 GFPDB_EXPORT std::vector<GFPDB_FINDING> gfpdb_check_record(GFPDB_MGR& manager, const GFPDB_RECORD& record);
+
+// What becomes of a record that exists with different content.
+enum class GFPDB_EXISTING
+{
+    REFUSED,  // it is a problem of the file
+    REPLACED, // by that of the file
+    KEPT,     // the one of the file is left out
+};
+
+// What an import does with a record.
+enum class GFPDB_PLANNED_AS
+{
+    NEW,
+    REPLACED,
+    KEPT,
+    UNCHANGED, // it is there already
+    COUNT,
+};
+
+// A record of an import plan.
+struct GFPDB_PLANNED
+{
+    GFPDB_PLANNED_AS as = GFPDB_PLANNED_AS::NEW;
+    std::string file;
+    // As it is imported. Flows are there when it is replaced or kept.
+    GFPDB_RECORD record;
+    // What is stored instead of it now, when it is replaced or kept.
+    std::optional<GFPDB_RECORD> former;
+};
 
 // What an import will do: which records are new, replace others or already exist; and what prevents it.
 class GFPDB_IMPORT_PLAN
 {
 public:
-    // With `may_replace` a record that exists with different content is replaced. `rules` are those by which the files
-    // were read; unless they are only those for names, missing values get their defaults.
-    GFPDB_IMPORT_PLAN(GFPDB_DATABASE& database, bool may_replace, GFPDB_RECORD_RULES rules)
-        : m_database(database), m_may_replace(may_replace), m_rules(rules)
+    // `rules` are those by which the files were read; unless they are only those for names, missing values get their
+    // defaults.
+    GFPDB_IMPORT_PLAN(GFPDB_DATABASE& database, GFPDB_EXISTING existing, GFPDB_RECORD_RULES rules)
+        : m_database(database), m_existing(existing), m_rules(rules)
     {}
 
     // Adds the records of `file`; what prevents their import is added to its problems, missing values and other notes
     // to its warnings.
     GFPDB_EXPORT void add(GFPDB_RECORD_FILE& file);
+    // Adds the record `at` of `file` alone: for a plan that is made piece by piece.
+    GFPDB_EXPORT void add(GFPDB_RECORD_FILE& file, int at);
 
+    // The records without problems, in the order of the files.
+    const std::vector<GFPDB_PLANNED>& planned() const { return m_planned; }
+    int new_count() const { return count(GFPDB_PLANNED_AS::NEW); }
+    int replaced_count() const { return count(GFPDB_PLANNED_AS::REPLACED); }
+    int kept_count() const { return count(GFPDB_PLANNED_AS::KEPT); }
+    int unchanged_count() const { return count(GFPDB_PLANNED_AS::UNCHANGED); }
+
+    // What is stored.
     const std::vector<GFPDB_ROW>& devices() const { return m_devices; }
     const std::vector<GFPDB_ROW>& templates() const { return m_templates; }
     // The revisions of what they replace, in the same order; empty for a new record.
     const std::vector<std::string>& replaced_devices() const { return m_replaced_devices; }
     const std::vector<std::string>& replaced_templates() const { return m_replaced_templates; }
-    int new_count() const { return m_new; }
-    int replaced_count() const { return m_replaced; }
-    int unchanged_count() const { return m_unchanged; }
 
 private:
     // Where a record is in the files: "file:line".
     using PLACES = std::map<std::string, std::string>;
 
+    int count(GFPDB_PLANNED_AS as) const { return m_counts[static_cast<std::size_t>(as)]; }
     void add_record(GFPDB_RECORD_FILE& file, GFPDB_RECORD record);
     bool is_name_free(GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record);
     void fill_flows(GFPDB_RECORD& record, const std::optional<GFPDB_RECORD>& former);
+    void note(GFPDB_PLANNED_AS as, const GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record,
+              const std::optional<GFPDB_RECORD>& former);
+    void store(GFPDB_RECORD record, const std::optional<GFPDB_RECORD>& former);
 
     GFPDB_DATABASE& m_database;
-    const bool m_may_replace;
+    const GFPDB_EXISTING m_existing;
     const GFPDB_RECORD_RULES m_rules;
+    std::vector<GFPDB_PLANNED> m_planned;
+    std::array<int, static_cast<std::size_t>(GFPDB_PLANNED_AS::COUNT)> m_counts = {};
     std::vector<GFPDB_ROW> m_devices;
     std::vector<GFPDB_ROW> m_templates;
     std::vector<std::string> m_replaced_devices;
     std::vector<std::string> m_replaced_templates;
-    int m_new = 0;
-    int m_replaced = 0;
-    int m_unchanged = 0;
     PLACES m_places;
     PLACES m_device_names;
     PLACES m_template_names;
@@ -157,6 +219,18 @@ GFPDB_EXPORT std::vector<GFPDB_VALUE> gfpdb_values(const GFPDB_RECORD& record);
 // The operations of a flow variant; none when they cannot be read.
 GFPDB_EXPORT std::optional<std::vector<std::unique_ptr<GFPDB_OPERATION>>> gfpdb_operations(const GFPDB_RECORD& record,
                                                                                            bool flow_variant);
+
+// A field in which two records differ, called as in messages; the texts are empty for flows.
+struct GFPDB_DIFFERENCE
+{
+    std::string noun;
+    std::string left;
+    std::string right;
+    bool are_flows;
+};
+
+// Where two states of a record differ, in the order of files.
+GFPDB_EXPORT std::vector<GFPDB_DIFFERENCE> gfpdb_differences(const GFPDB_RECORD& left, const GFPDB_RECORD& right);
 
 // "device "X" (family 3, scheme 7)", "template "T"": what messages call the record.
 GFPDB_EXPORT std::string gfpdb_title(const GFPDB_RECORD& record);

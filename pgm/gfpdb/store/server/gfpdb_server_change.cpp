@@ -6,6 +6,7 @@
 #include "store/server/gfpdb_server_session.h"
 
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/server/gfpdb_server_changes.h"
 #include "store/server/gfpdb_server_schema.h"
 #include "store/server/gfpdb_server_sql.h"
@@ -53,14 +54,15 @@ bool GFPDB_SERVER_SESSION::refuse_replaced()
 {
     m_was_replaced = false;
     forget();
-    return fail(database() + " was replaced by another one while it was in use. Nothing was changed: look at the " +
-                "devices that are there now, then try again.");
+    return fail(GFPDB_WORDS::say("The database %1 on the server %2 was replaced by another one while it was in use. "
+                                 "Nothing was changed: look at the devices that are there now, then try again.",
+                                 {gfpdb_quoted(m_server.database), m_connection->host()}));
 }
 
 bool GFPDB_SERVER_SESSION::fail_unknown()
 {
-    return fail(last_error() +
-                " Whether the change was stored cannot be read: look at the devices before you try again.");
+    return fail(GFPDB_WORDS::say(
+        "%1 Whether the change was stored cannot be read: look at the devices before you try again.", {last_error()}));
 }
 
 // The limits hold for the transaction alone.
@@ -237,7 +239,8 @@ std::optional<bool> GFPDB_SERVER_SESSION::run_change(const CHANGE& change, const
                 return fail(m_problem);
             if (!condition.empty())
                 return std::nullopt;
-            return fail(database() + " is another one now.");
+            return fail(GFPDB_WORDS::say("The database %1 on the server %2 is another one now.",
+                                         {gfpdb_quoted(m_server.database), m_connection->host()}));
         case OUTCOME::AGAIN:
             roll_back();
             if (!pause())

@@ -155,7 +155,7 @@ bool GFPDB_SERVER_CONNECTION::check_root_certificate(std::string& why) const
     const std::string path = file.front() == '/' ? file : m_directory + file;
     if (::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode))
         return true;
-    why = "the certificates " + path + " are not a file";
+    why = GFPDB_WORDS::say("the certificates %1 are not a file", {path});
     return false;
 }
 
@@ -209,11 +209,6 @@ std::string GFPDB_SERVER_CONNECTION::host() const
     return (host.empty() ? "localhost" : host) + ':' + PQport(m_connection);
 }
 
-std::string GFPDB_SERVER_CONNECTION::database() const
-{
-    return "The database " + gfpdb_quoted(m_server.database) + " on the server " + host();
-}
-
 std::string GFPDB_SERVER_CONNECTION::server_version() const
 {
     const char* const version = m_connection != nullptr ? PQparameterStatus(m_connection, "server_version") : nullptr;
@@ -255,8 +250,9 @@ bool GFPDB_SERVER_CONNECTION::refuse(const pg_result* result)
     const char* const message = PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY);
     m_failure = FAILURE::REFUSED;
     m_sqlstate = state != nullptr ? state : "";
-    return fail(GFPDB_WORDS::say("The database server %1 refused: %2.",
-                                 {host(), words_of(message != nullptr ? message : "no reason")}));
+    return fail(
+        GFPDB_WORDS::say("The database server %1 refused: %2.",
+                         {host(), words_of(message != nullptr ? message : GFPDB_WORDS::say("no reason").c_str())}));
 }
 
 // Says in our words what the server refused, where it is known.
@@ -314,7 +310,7 @@ bool GFPDB_SERVER_CONNECTION::flush()
 bool GFPDB_SERVER_CONNECTION::send(const std::string& statements)
 {
     if (m_connection == nullptr)
-        return lose(FAILURE::LOST, "the connection is closed");
+        return lose(FAILURE::LOST, GFPDB_WORDS::say("the connection is closed"));
     return (PQsendQuery(m_connection, statements.c_str()) != 0 ||
             lose(FAILURE::LOST, words_of(PQerrorMessage(m_connection)))) &&
            flush();
@@ -389,7 +385,8 @@ bool GFPDB_SERVER_CONNECTION::copy_begin(const std::string& statement)
         return true;
     }
     const bool is_taken = take(begun, results);
-    return m_connection != nullptr && collect(results) && is_taken && fail("The server does not copy.");
+    return m_connection != nullptr && collect(results) && is_taken &&
+           fail(GFPDB_WORDS::say("The server does not copy."));
 }
 
 // What is wrong with the lines comes with the results.

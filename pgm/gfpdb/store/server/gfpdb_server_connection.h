@@ -81,8 +81,6 @@ public:
     bool is_in_transaction() const;
     // The server as messages name it, with its port when it is known.
     std::string host() const;
-    // The database on that server, as a sentence begins.
-    std::string database() const;
     std::string server_version() const;
     std::string login() const;
 

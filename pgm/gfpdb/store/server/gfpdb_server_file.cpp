@@ -29,7 +29,6 @@ constexpr int HIGHEST_PORT = 65535;
 
 const QByteArray SECTION = QByteArrayLiteral("[server]");
 const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
-constexpr char TEXT_END[] = ".";
 
 constexpr const char* SSL_MODES[] = {"disable", "allow", "prefer", "require", "verify-ca", "verify-full"};
 
@@ -186,17 +185,19 @@ bool read_setting(const QByteArray& line, GFPDB_SERVER& server, std::vector<std:
     const std::string key = trimmed(line.left(equals));
     const std::string value = trimmed(line.mid(equals + 1));
     if (equals < 0)
-        return refuse(why, gfpdb_quoted(line.toStdString()) + " is not a setting");
+        return refuse(why, GFPDB_WORDS::say("%1 is not a setting", {gfpdb_quoted(line.toStdString())}));
     if (key == "password" || key == "passfile")
-        return refuse(why, "passwords do not belong into it: put them into the file .pgpass in your home directory");
+        return refuse(why,
+                      GFPDB_WORDS::say("passwords do not belong into it: put them into the file .pgpass in your home "
+                                       "directory"));
     const SETTING* const setting = setting_of(key);
     if (setting == nullptr)
-        return refuse(why, gfpdb_quoted(key) + " is not a setting. There are: " + keys());
+        return refuse(why, GFPDB_WORDS::say("%1 is not a setting. There are: %2", {gfpdb_quoted(key), keys()}));
     if (std::find(seen.begin(), seen.end(), key) != seen.end())
-        return refuse(why, gfpdb_quoted(key) + " is there twice");
+        return refuse(why, GFPDB_WORDS::say("%1 is there twice", {gfpdb_quoted(key)}));
     seen.push_back(key);
     if (value.size() > LONGEST_VALUE || !setting->set(server, value))
-        return refuse(why, gfpdb_quoted(key) + " cannot be " + gfpdb_quoted(value));
+        return refuse(why, GFPDB_WORDS::say("%1 cannot be %2", {gfpdb_quoted(key), gfpdb_quoted(value)}));
     return true;
 }
 
@@ -214,17 +215,17 @@ bool parse(QByteArray content, GFPDB_SERVER& server, std::string& why)
         if (line == SECTION && !in_section)
             in_section = true;
         else if (!in_section)
-            return refuse(why, "it does not begin with " + SECTION.toStdString());
+            return refuse(why, GFPDB_WORDS::say("it does not begin with %1", {SECTION.toStdString()}));
         else if (!read_setting(line, server, seen, why))
             return false;
     }
-    return in_section || refuse(why, "it has no settings");
+    return in_section || refuse(why, GFPDB_WORDS::say("it has no settings"));
 }
 
 bool find_fault(const GFPDB_SERVER& server, std::string& why)
 {
     const auto not_allowed = [&why](const char* key, const std::string& value) {
-        return refuse(why, gfpdb_quoted(key) + " cannot be " + gfpdb_quoted(value));
+        return refuse(why, GFPDB_WORDS::say("%1 cannot be %2", {gfpdb_quoted(key), gfpdb_quoted(value)}));
     };
     for (const SETTING& setting : SETTINGS) {
         if (!is_printable(setting.get(server)) || setting.get(server).size() > LONGEST_VALUE)
@@ -239,11 +240,11 @@ bool find_fault(const GFPDB_SERVER& server, std::string& why)
             return not_allowed("port", std::to_string(port));
     }
     if (server.hosts.size() > MOST_HOSTS)
-        return refuse(why, "it names too many hosts");
+        return refuse(why, GFPDB_WORDS::say("it names too many hosts"));
     if (server.ports.size() > 1 && server.ports.size() != server.hosts.size())
-        return refuse(why, "\"port\" must be one for all hosts, or one for each");
+        return refuse(why, GFPDB_WORDS::say("\"port\" must be one for all hosts, or one for each"));
     if (server.database.empty())
-        return refuse(why, "it does not say which \"database\" is meant");
+        return refuse(why, GFPDB_WORDS::say("it does not say which \"database\" is meant"));
     if (server.database.size() > LONGEST_NAME)
         return not_allowed("database", server.database);
     if (server.user.size() > LONGEST_NAME)
@@ -288,7 +289,8 @@ bool gfpdb_is_same_server(const GFPDB_SERVER& left, const GFPDB_SERVER& right)
 bool gfpdb_check_server(const GFPDB_SERVER& server, std::string& error)
 {
     std::string why;
-    return find_fault(server, why) || refuse(error, "The settings of the server cannot be used: " + why + TEXT_END);
+    return find_fault(server, why) ||
+           refuse(error, GFPDB_WORDS::say("The settings of the server cannot be used: %1.", {why}));
 }
 
 bool gfpdb_names_server(const std::string& directory)
@@ -304,7 +306,7 @@ std::optional<GFPDB_SERVER> gfpdb_read_server(const std::string& directory, std:
     GFPDB_SERVER server;
     if (content && parse(QByteArray::fromStdString(*content), server, why) && find_fault(server, why))
         return server;
-    error = "The file " + path + " cannot be used: " + why + TEXT_END;
+    error = GFPDB_WORDS::say("The file %1 cannot be used: %2.", {path, why});
     return std::nullopt;
 }
 
@@ -326,11 +328,14 @@ bool gfpdb_write_server(const std::string& directory, const GFPDB_SERVER& server
     if (!gfpdb_check_server(server, error))
         return false;
     if (is_there(database))
-        return refuse(error, "The directory has the database " + database + ": name the server in another directory, " +
-                                 "and copy the records there with \"gfpdb copy\".");
+        return refuse(error,
+                      GFPDB_WORDS::say("The directory has the database %1: name the server in another directory, and "
+                                       "copy the records there with \"gfpdb copy\".",
+                                       {database}));
     QSaveFile file(QFile::decodeName(path.c_str()));
     const QByteArray content = QByteArray::fromStdString(content_of(server));
     if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
         return true;
-    return refuse(error, "The file " + path + " cannot be written: " + gfpdb_to_utf8(file.errorString()) + TEXT_END);
+    return refuse(error,
+                  GFPDB_WORDS::say("The file %1 cannot be written: %2.", {path, gfpdb_to_utf8(file.errorString())}));
 }

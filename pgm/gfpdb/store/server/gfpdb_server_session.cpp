@@ -68,11 +68,6 @@ GFPDB_SERVER_SESSION::GFPDB_SERVER_SESSION(const std::string& directory)
 
 GFPDB_SERVER_SESSION::~GFPDB_SERVER_SESSION() = default;
 
-std::string GFPDB_SERVER_SESSION::database() const
-{
-    return m_connection->database();
-}
-
 // Questions are made before the server is connected.
 void GFPDB_SERVER_SESSION::note_schema()
 {
@@ -146,7 +141,7 @@ void GFPDB_SERVER_SESSION::set_problem(STATE state, const std::string& problem)
 {
     m_state = state;
     if (problem != m_problem && !problem.empty())
-        qCWarning(GFPDB_LOG, "%s", problem.c_str());
+        qCWarning(GFPDB_LOG, "%s", GFPDB_WORDS::english(problem).c_str());
     m_problem = problem;
 }
 

@@ -133,7 +133,6 @@ private:
     int lock_limit() const;
     bool explain();
     bool is_ended_by_server() const;
-    std::string database() const;
 
     // gfpdb_server_change.cpp: transactions.
     std::optional<bool> run_change(const CHANGE& change, const std::string& condition, RESULTS& results);

@@ -3,6 +3,7 @@
 // The part of GFPDB_SERVER_STORE that changes records one by one. A removal and the save that follows belong together
 // in one Apply: what the removal took is remembered, so that both need one round trip each.
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/gfpdb_refusals.h"
 #include "store/server/gfpdb_server_sql.h"
 #include "store/server/gfpdb_server_store.h"
@@ -139,8 +140,9 @@ bool GFPDB_SERVER_STORE::can_keep(const GFPDB_ROW& row)
 {
     const char* const field = unstorable_field(row);
     return field == nullptr ||
-           m_session.fail("The database cannot keep the " + std::string(field) + " of " + gfpdb_quoted(row.name) +
-                          ": it is not a text in UTF-8, or has the character NUL.");
+           m_session.fail(GFPDB_WORDS::say(
+               "The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.",
+               {gfpdb_quoted(field), gfpdb_quoted(row.name)}));
 }
 
 std::optional<std::string> GFPDB_SERVER_STORE::save_device(const GFPDB_ROW& row, const GFPDB_TAKEN* taken,
@@ -293,7 +295,8 @@ bool GFPDB_SERVER_STORE::remove_device(int family, int scheme, const std::string
         RESULTS found;
         return m_session.ask_all({question_of(place), question_of_last_change(place)}, found) &&
                check_seen(place, seen, found[0], found[1]) &&
-               m_session.fail("The device " + gfpdb_quoted(name) + " is being changed by another program: try again.");
+               m_session.fail(GFPDB_WORDS::say("The device %1 is being changed by another program: try again.",
+                                               {gfpdb_quoted(name)}));
     }
     if (!*is_removed)
         return false;

@@ -2,6 +2,7 @@
 
 // The part of GFPDB_SERVER_STORE that gives all that is stored, and takes what another store has given.
 #include "base/gfpdb_text.h"
+#include "base/gfpdb_words.h"
 #include "store/server/gfpdb_server_sql.h"
 #include "store/server/gfpdb_server_store.h"
 
@@ -102,7 +103,7 @@ bool GFPDB_SERVER_STORE::fill(const std::function<bool(const GFPDB_HEAR_STORED& 
                                found))
             return false;
         if (found.front().text(0, 0) == "t")
-            return m_session.fail("The database in " + get_directory() + " is not empty.");
+            return m_session.fail(GFPDB_WORDS::say("The database in %1 is not empty.", {get_directory()}));
         if (!copy_all(noting_source))
             return false;
         statements += "SELECT setval('" + m_session.in_schema() + "history_id_seq', GREATEST((SELECT max(id)" +

@@ -108,7 +108,7 @@ void GFPDB_SQLITE_FILE::set_problem(STATE state, const std::string& problem)
 {
     m_state = state;
     if (problem != m_problem && !problem.empty())
-        qCWarning(GFPDB_LOG, "%s", problem.c_str());
+        qCWarning(GFPDB_LOG, "%s", GFPDB_WORDS::english(problem).c_str());
     m_problem = problem;
 }
 
@@ -325,7 +325,7 @@ std::string GFPDB_SQLITE_FILE::problem()
 bool GFPDB_SQLITE_FILE::note_read_problem()
 {
     if (m_read_problem != m_connection.last_error())
-        qCWarning(GFPDB_LOG, "%s", m_connection.last_error().c_str());
+        qCWarning(GFPDB_LOG, "%s", GFPDB_WORDS::english(m_connection.last_error()).c_str());
     m_read_problem = m_connection.last_error();
     return false;
 }
