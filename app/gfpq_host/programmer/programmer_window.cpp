@@ -3,6 +3,7 @@
 
 #include "charts/chart_saver.h"
 #include "database/database_window.h"
+#include "database/import_dialog.h"
 #include "new_device/new_device_desk.h"
 #include "program/help_menu.h"
 #include "programmer/connection_panel.h"
@@ -17,6 +18,8 @@
 #include "results/run_log.h"
 #include "results/trace_page.h"
 #include "run/chosen_device.h"
+
+#include "gfpdb/gfpdb_mgr.h"
 
 #include <QCloseEvent>
 #include <QDir>
@@ -35,6 +38,7 @@
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -72,13 +76,6 @@ QScrollArea* in_scroll_area(QWidget* page)
     area->setFrameShape(QFrame::NoFrame);
     keep_wheel_from_fields(page);
     return area;
-}
-
-// The local file of a drag, if it is one.
-QString file_of(const QMimeData* data)
-{
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
 }
 
 } // namespace
@@ -508,16 +505,37 @@ void PROGRAMMER_WINDOW::store()
     m_settings.setValue(SPLITTER_KEY, m_splitter->saveState());
 }
 
+// One file can be programmed. Records go into the database, where that may be changed.
+DROPPED_FILES PROGRAMMER_WINDOW::dropped(const QMimeData* drag) const
+{
+    DROPPED_FILES files = dropped_files(drag);
+    if (!m_options.enable_edit)
+        files = {{}, files.records + files.others};
+    return m_controller.is_busy() || files.others.size() > 1 ? DROPPED_FILES() : files;
+}
+
 void PROGRAMMER_WINDOW::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!m_controller.is_busy() && !file_of(event->mimeData()).isEmpty())
+    const DROPPED_FILES files = dropped(event->mimeData());
+    if (!files.records.isEmpty() || !files.others.isEmpty())
         event->acceptProposedAction();
 }
 
+// The program that files are dragged from waits for the end of the drop: the dialog comes after it.
 void PROGRAMMER_WINDOW::dropEvent(QDropEvent* event)
 {
-    if (m_controller.is_busy())
+    const DROPPED_FILES files = dropped(event->mimeData());
+    if (files.records.isEmpty() && files.others.isEmpty())
         return;
-    m_file_panel->choose(file_of(event->mimeData()));
     event->acceptProposedAction();
+    if (!files.others.isEmpty())
+        m_file_panel->choose(files.others.first());
+    if (!files.records.isEmpty())
+        QTimer::singleShot(0, this, [this, files] { import(files.records); });
+}
+
+void PROGRAMMER_WINDOW::import(const QStringList& files)
+{
+    GFPDB_DATABASE database(GFPDB_MGR::get_db_custom_dir());
+    IMPORT_DIALOG(database, files, this).exec();
 }

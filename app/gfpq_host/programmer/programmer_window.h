@@ -3,6 +3,7 @@
 // The main window: a device, a connection and a file become a run, and the run a log, a trace and data.
 #pragma once
 
+#include "database/dropped_files.h"
 #include "dialog/device_panel.h"
 #include "run/run_controller.h"
 #include "run/run_preparation.h"
@@ -79,6 +80,9 @@ private:
     QWidget* place_of(RUN_LACK lack) const;
     bool confirm_close();
     void store();
+    // What a drag would bring; nothing while it cannot be taken.
+    DROPPED_FILES dropped(const QMimeData* drag) const;
+    void import(const QStringList& files);
 
     QSettings& m_settings;
     const DIALOG_OPTIONS m_options;

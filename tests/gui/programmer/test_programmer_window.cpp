@@ -71,18 +71,45 @@ private slots:
         QTRY_COMPARE(child<QLabel>("m_facts_label").text(), qs("8 bytes, CRC-32 9AE0DAAF"));
     }
 
-    void a_file_can_be_dropped()
+    // What becomes of the files: the name of the file to program, and what the import's window is called.
+    void files_can_be_dropped_data()
     {
-        const QString file = make_file("image.bin", "123456789");
-        open();
+        rows<QStringList, bool, QString, QString>(
+            {{"a file to program", {"image.bin"}, true, "image.bin", ""},
+             {"records", {"a.json"}, true, "", "Import: a.json"},
+             {"lists and records", {"a.JSON", "b.csv"}, true, "", "Import"},
+             {"both", {"a.json", "image.bin"}, true, "image.bin", "Import: a.json"},
+             {"records where nothing may be stored", {"a.json"}, false, "a.json", ""},
+             {"two files to program", {"image.bin", "other.bin"}, true, "", ""},
+             {"two files to program, and records", {"image.bin", "a.json", "other.bin"}, true, "", ""}});
+    }
+
+    void files_can_be_dropped()
+    {
+        const auto [names, may_edit, programmed, imported] = row<QStringList, bool, QString, QString>();
+        QList<QUrl> urls;
+        for (const QString& name : names)
+            urls += QUrl::fromLocalFile(make_file(name.toUtf8().constData(), "123456789"));
+        DIALOG_OPTIONS options;
+        options.enable_edit = may_edit;
+        open(SMALL_DEVICE, PGMIO_ACTIVE_SERIAL, options);
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(file)});
+        data.setUrls(urls);
+        if (!imported.isEmpty())
+            m_modals.expect(MODAL_DRIVER::reject());
+
         QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&window(), &enter);
-        QVERIFY(enter.isAccepted());
+        QCOMPARE(enter.isAccepted(), !programmed.isEmpty() || !imported.isEmpty());
         QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&window(), &drop);
-        QCOMPARE(child<QComboBox>("m_file_combo").currentText(), file);
+        // The dialog comes after the drop.
+        QCOMPARE(m_modals.met().size(), 0);
+        QTRY_COMPARE(m_modals.met().size(), imported.isEmpty() ? 0 : 1);
+        if (!imported.isEmpty())
+            QCOMPARE(m_modals.last().title, imported);
+        QCOMPARE(child<QComboBox>("m_file_combo").currentText(),
+                 programmed.isEmpty() ? QString() : scratch(programmed.toUtf8().constData()));
     }
 
     void a_connection_that_is_not_complete_is_not_opened_data()
