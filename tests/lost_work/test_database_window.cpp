@@ -6,6 +6,8 @@
 #include "lost_work_test.h"
 
 #include <QAction>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
@@ -117,6 +119,36 @@ private slots:
         QCOMPARE(message(), qs("The device \"A\" is back."));
         QCOMPARE(devices().currentIndex().data().toString(), qs("A"));
         QVERIFY(!undo().isEnabled());
+    }
+
+    void what_was_exported_is_dropped_in_again()
+    {
+        const QString flows = stored(qs("A"), "single_flows");
+        const QString file = QFile::decodeName(other_directory().c_str()) + qs("a.json");
+        select({qs("A")});
+        m_modals.expect([&file](QWidget* dialog) {
+            dialog->findChild<QLineEdit*>(qs("m_export_path_edit"))->setText(file);
+            dialog->findChild<QAbstractButton*>(qs("m_export_button"))->click();
+            dialog->close();
+        });
+        m_window->findChild<QAction*>(qs("m_export_action"))->trigger();
+        press_delete({qs("A")});
+
+        m_modals.expect([](QWidget* dialog) {
+            auto* button = dialog->findChild<QAbstractButton*>(qs("m_import_button"));
+            QTRY_VERIFY(button->isEnabled());
+            button->click();
+            dialog->close();
+        });
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile(file), QUrl::fromLocalFile(qs("/image.bin"))});
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &drop);
+        QTRY_VERIFY(row_of(qs("A")) >= 0);
+        QCOMPARE(stored(qs("A"), "single_flows"), flows);
     }
 
     void each_undo_takes_back_one_delete()

@@ -17,7 +17,7 @@
 namespace {
 
 constexpr const char* SOURCE = "MX25L25645G";
-constexpr int MANY = 3000;
+constexpr int MANY = 1000;
 
 } // namespace
 
@@ -147,6 +147,9 @@ private slots:
                                             qs("New, New, a.json:441, "), qs("Already exists, Same, a.json:5, ")}));
         QCOMPARE(in_dialog<QTableView>("m_import_table").currentIndex().row(), 0);
         const QString details = in_dialog<QPlainTextEdit>("m_import_details").toPlainText();
+        m_modals.expect(MODAL_DRIVER::reject());
+        click_in_dialog("m_import_compare_button");
+        QCOMPARE(m_modals.last().class_name, qs("COMPARE_DIALOG"));
         QVERIFY2(details.contains(qs("device ID: stored 0xC2 0x20 0x19, in the file 0xC2 0x20 0x18")),
                  qPrintable(details));
         QCOMPARE(content(), before);

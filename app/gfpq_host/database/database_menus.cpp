@@ -39,6 +39,11 @@ DATABASE_MENU::DATABASE_MENU(QWidget* parent, bool allows_changes) : QMenu(paren
     m_recent->setObjectName(QStringLiteral("m_recent_menu"));
     m_open->setVisible(allows_changes);
     m_recent->menuAction()->setVisible(allows_changes);
+    addSeparator();
+    if (allows_changes)
+        add(tr("&Import..."), "m_import_action", {}, &DATABASE_MENU::import_asked);
+    add(tr("&Export..."), "m_export_action", {}, &DATABASE_MENU::export_asked);
+    addSeparator();
     add(tr("Re&fresh"), "m_refresh_action", QKeySequence::Refresh, &DATABASE_MENU::refresh_asked);
     addSeparator();
     add(tr("&Close"), "m_close_action", QKeySequence::Close, &DATABASE_MENU::close_asked);

@@ -24,6 +24,8 @@ public:
 signals:
     void directory_asked();
     void recent_asked(const QString& directory);
+    void import_asked();
+    void export_asked();
     void refresh_asked();
     void close_asked();
 

@@ -5,7 +5,10 @@
 #include "database/compare_dialog.h"
 #include "database/database_menus.h"
 #include "database/device_page.h"
+#include "database/dropped_files.h"
+#include "database/export_dialog.h"
 #include "database/history_page.h"
+#include "database/import_dialog.h"
 #include "dialog/choice_combo.h"
 #include "new_device/new_device_desk.h"
 #include "new_device/problem_line.h"
@@ -20,6 +23,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -112,6 +116,7 @@ void DATABASE_WINDOW::create_menus(const DIALOG_OPTIONS& options)
 {
     QTableView& table = m_device_page->table();
     m_database_menu = new DATABASE_MENU(this, options.enable_edit);
+    setAcceptDrops(options.enable_edit);
     m_edit_menu = new DATABASE_EDIT_MENU(this, &table, options.enable_edit);
     m_device_menu = new DATABASE_DEVICE_MENU(this, &table, options.enable_edit);
     m_database_menu->setTitle(tr("Da&tabase"));
@@ -123,6 +128,8 @@ void DATABASE_WINDOW::create_menus(const DIALOG_OPTIONS& options)
     menuBar()->addMenu(new HELP_MENU(this, HELP_MENU::installed_guides(QCoreApplication::applicationDirPath())));
     connect(m_database_menu, &DATABASE_MENU::directory_asked, this, &DATABASE_WINDOW::open_directory);
     connect(m_database_menu, &DATABASE_MENU::recent_asked, this, &DATABASE_WINDOW::use_directory);
+    connect(m_database_menu, &DATABASE_MENU::import_asked, this, &DATABASE_WINDOW::choose_import);
+    connect(m_database_menu, &DATABASE_MENU::export_asked, this, &DATABASE_WINDOW::export_records);
     connect(m_database_menu, &DATABASE_MENU::refresh_asked, this, &DATABASE_WINDOW::refresh);
     connect(m_database_menu, &DATABASE_MENU::close_asked, this, &QWidget::close);
     connect(m_edit_menu, &DATABASE_EDIT_MENU::undo_asked, this, &DATABASE_WINDOW::undo);
@@ -347,6 +354,42 @@ void DATABASE_WINDOW::undo()
     else if (restored.size() > 1)
         show_message(tr("Devices brought back: %1").arg(restored.size()));
     say_problems(problems);
+}
+
+void DATABASE_WINDOW::choose_import()
+{
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Files of Records"), QString(),
+                                                            tr("Records") + QStringLiteral(" (*.json *.csv)"));
+    if (!files.isEmpty())
+        import(files);
+}
+
+void DATABASE_WINDOW::import(const QStringList& files)
+{
+    IMPORT_DIALOG dialog(m_database, files, this);
+    if (dialog.exec() == QDialog::Accepted)
+        refresh();
+}
+
+void DATABASE_WINDOW::export_records()
+{
+    EXPORT_DIALOG(m_database, m_device_page->selected(), this).exec();
+}
+
+void DATABASE_WINDOW::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!dropped_files(event->mimeData()).records.isEmpty())
+        event->acceptProposedAction();
+}
+
+// The program that files are dragged from waits for the end of the drop: the dialog comes after it.
+void DATABASE_WINDOW::dropEvent(QDropEvent* event)
+{
+    const QStringList files = dropped_files(event->mimeData()).records;
+    if (files.isEmpty())
+        return;
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, files] { import(files); });
 }
 
 void DATABASE_WINDOW::copy_selected()

@@ -56,6 +56,9 @@ signals:
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    // Record files that are dropped are imported.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void connect_changes();
@@ -72,6 +75,9 @@ private:
     void delete_selected();
     void undo();
     void copy_selected();
+    void choose_import();
+    void import(const QStringList& files);
+    void export_records();
     void show_stored(const HOST_CHOICE& choice);
     void show_device_menu(const QPoint& place);
     void show_possible();

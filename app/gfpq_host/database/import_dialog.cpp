@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/import_dialog.h"
 
+#include "database/compare_dialog.h"
 #include "dialog/choice_combo.h"
 #include "new_device/problem_line.h"
 #include "programmer/panel_form.h"
@@ -89,6 +90,8 @@ IMPORT_DIALOG::IMPORT_DIALOG(GFPDB_DATABASE& database, const QStringList& files,
     const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
     resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
     connect(&m_timer, &QTimer::timeout, this, &IMPORT_DIALOG::work);
+    // Only a button that is in the dialog can be its default.
+    m_import_button->setDefault(true);
     m_table->setFocus();
     begin();
 }
@@ -157,7 +160,8 @@ QWidget* IMPORT_DIALOG::create_buttons()
     m_close_button = buttons->button(QDialogButtonBox::Cancel);
     m_import_button = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
     m_import_button->setObjectName(QStringLiteral("m_import_button"));
-    m_import_button->setDefault(true);
+    m_compare_button = buttons->addButton(tr("&Compare..."), QDialogButtonBox::ActionRole);
+    m_compare_button->setObjectName(QStringLiteral("m_import_compare_button"));
     m_progress = new QProgressBar;
     m_progress->setObjectName(QStringLiteral("m_import_progress"));
     m_progress->setAccessibleName(tr("Progress"));
@@ -171,6 +175,7 @@ QWidget* IMPORT_DIALOG::create_buttons()
     row->addWidget(m_progress, 1);
     row->addWidget(buttons);
     connect(m_import_button, &QPushButton::clicked, this, &IMPORT_DIALOG::store);
+    connect(m_compare_button, &QPushButton::clicked, this, &IMPORT_DIALOG::compare);
     connect(buttons, &QDialogButtonBox::rejected, this, &IMPORT_DIALOG::reject);
     return page;
 }
@@ -216,6 +221,7 @@ void IMPORT_DIALOG::show_busy(bool is_busy)
     m_summary->setText(tr("The files are being read."));
     m_problem->show_problem(QString());
     m_details->clear();
+    m_compare_button->setEnabled(false);
 }
 
 // What keeps the preview from being imported; empty when nothing does.
@@ -259,10 +265,24 @@ QString IMPORT_DIALOG::summary() const
     return parts.join(QStringLiteral("    "));
 }
 
-void IMPORT_DIALOG::show_details()
+const IMPORT_ROW* IMPORT_DIALOG::current_row() const
 {
     const QModelIndex current = m_sorted->mapToSource(m_table->currentIndex());
-    m_details->setPlainText(current.isValid() ? IMPORT_MODEL::details(m_model.row(current.row())) : QString());
+    return current.isValid() ? &m_model.row(current.row()) : nullptr;
+}
+
+void IMPORT_DIALOG::show_details()
+{
+    const IMPORT_ROW* row = current_row();
+    m_details->setPlainText(row != nullptr ? IMPORT_MODEL::details(*row) : QString());
+    m_compare_button->setEnabled(row != nullptr && row->former);
+}
+
+void IMPORT_DIALOG::compare()
+{
+    const IMPORT_ROW* row = current_row();
+    if (row != nullptr && row->former)
+        COMPARE_DIALOG({tr("Stored"), *row->former}, {tr("In the file"), row->record}, this).exec();
 }
 
 // While it stores nothing else may happen in the program: the database is in the middle of a change.

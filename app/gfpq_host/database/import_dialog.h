@@ -42,7 +42,10 @@ private:
     void work();
     void show_preview();
     void show_busy(bool is_busy);
+    // Null when there is none.
+    const IMPORT_ROW* current_row() const;
     void show_details();
+    void compare();
     void store();
     void show_stored();
     QString summary() const;
@@ -67,6 +70,7 @@ private:
     QLabel* m_summary = nullptr;
     PROBLEM_LINE* m_problem = nullptr;
     QProgressBar* m_progress = nullptr;
+    QPushButton* m_compare_button = nullptr;
     QPushButton* m_import_button = nullptr;
     QPushButton* m_close_button = nullptr;
 };

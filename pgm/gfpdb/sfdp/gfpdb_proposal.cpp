@@ -139,7 +139,8 @@ std::string problem_of_erase(const std::string& text)
     const std::optional<std::vector<GFPDB_ERASE_COMMAND>> commands = gfpdb_parse_erase_commands(text, error);
     if (text == WHOLE_CHIP || (commands && commands->size() == 1))
         return {};
-    return GFPDB_WORDS::say("%1 is neither an erase command such as D8:64K nor \"chip\".", {gfpdb_quoted(text)});
+    return GFPDB_WORDS::say("%1 is neither an erase command such as %2 nor %3.",
+                            {gfpdb_quoted(text), "D8:64K", gfpdb_quoted(WHOLE_CHIP)});
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 // names whose record no one has seen.
 #include "gfpdb/gfpdb_helper.h"
 #include "manager_test.h"
+#include "marking_translator.h"
 #include "message_recorder.h"
 #include "test_rows.h"
 
@@ -178,6 +179,14 @@ private slots:
             QCOMPARE(save_error(name), std::string("was saved"));
             QCOMPARE(custom_names(*m_mgr), NAMES{name});
         }
+    }
+
+    void the_log_quotes_a_translated_problem_in_english()
+    {
+        const MARKING_TRANSLATOR translator("gfpdb");
+        expect_message("There is no record to save.");
+        QVERIFY(!m_mgr->save_flash(nullptr, m_place->db_dir()));
+        QCOMPARE(m_mgr->get_last_error(), std::string("[There is no record to save.]"));
     }
 
     void a_device_with_the_name_of_a_builtin_part_comes_back()

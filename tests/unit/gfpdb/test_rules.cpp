@@ -114,6 +114,19 @@ private slots:
         QCOMPARE(error, std::string("[The [total die count] 5 is out of range: 2 to 4 are allowed.]"));
     }
 
+    void what_was_said_is_known_in_english()
+    {
+        const MARKING_TRANSLATOR translator("gfpdb");
+        const std::string said = GFPDB_WORDS::say("The %1 is empty.", {GFPDB_WORDS::say("device name")});
+        const std::string other = GFPDB_WORDS::say("The %1 is empty.", {"[device]"});
+
+        QCOMPARE(said, std::string("[The [device name] is empty.]"));
+        QCOMPARE(GFPDB_WORDS::english(said), std::string("The device name is empty."));
+        QCOMPARE(GFPDB_WORDS::english(other + " And " + said + " /a/[device name]"),
+                 std::string("The [device] is empty. And The device name is empty. /a/[device name]"));
+        QCOMPARE(GFPDB_WORDS::english("never said"), std::string("never said"));
+    }
+
     void values_stand_in_their_places_byte_for_byte()
     {
         // As translators may move them.

@@ -296,7 +296,7 @@ private slots:
         QCOMPARE(
             QString::fromStdString(gfpdb_joined(warnings)),
             QString("A device has at most 15 single-I/O dummy clocks: the copy gets these, and its flow has the 16 "
-                    "of device \"S25HL512T\" (family 0, scheme -1)."));
+                    "of \"S25HL512T\"."));
     }
 
     void a_copy_that_cannot_be_is_refused_data()
@@ -307,7 +307,7 @@ private slots:
              "There is a built-in device called \"W25Q16JV-Q\": choose another name."},
             {"no flash", "Mine", 5, 0, "", "The configuration mode 0 has no serial flash devices."},
             {"no family", "Mine", 99, 7, "", "There is no family 99. Allowed: 1 to 72."},
-            {"unreadable flows", "Mine", 5, 7, "[", "The flows of device \"X\" (family 0, scheme -1) cannot be read."},
+            {"unreadable flows", "Mine", 5, 7, "[", "The flows of \"X\" cannot be read."},
         });
     }
 
