@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation>Actualis&amp;er</translation>
+        <translation>&amp;Actualiser</translation>
     </message>
     <message>
         <source>&amp;Close</source>
