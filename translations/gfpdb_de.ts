@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>Ablaufvorlage</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>ein einzelnes Surrogat ist kein Zeichen</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>der Name %1 kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>Werte sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>nach dem Ende steht noch Text</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>hier braucht ein Objekt einen Namen in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>nach %1 fehlt „:“</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>hier braucht ein Objekt „,“ oder „}“</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>hier braucht eine Liste „,“ oder „]“</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u braucht vier Hexadezimalziffern</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>eine Zeichenkette ist nicht abgeschlossen</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>diese Escape-Folge gibt es nicht</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>eine Zeichenkette enthält ein Steuerzeichen oder einen Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>eine Zeichenkette ist nicht UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>eine Zahl ist zu groß</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>ein Wert wurde erwartet</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>eine Zeichenkette</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>Eine Zeichenkette wurde erwartet, aber dies ist: %1.</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>Eine Liste wurde erwartet, aber dies ist: %1.</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>Ein Objekt wurde erwartet, aber dies ist: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>%1 ist hier nicht bekannt. Erlaubt: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1 fehlt.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Der Katalog %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>Baustein %1: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>gespeicherte Vorlage %1: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>Der Baustein %1 ist schon in %2.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>Die gespeicherte Vorlage %1 ist schon in %2.</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>Den Baustein %1 gibt es mit anderem Inhalt: --replace ersetzt ihn.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>Die gespeicherte Vorlage %1 gibt es mit anderem Inhalt: --replace ersetzt sie.</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>Der Name des Bausteins %1 ist der einer gespeicherten Vorlage.</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>Der Name der gespeicherten Vorlage %1 ist der eines Bausteins.</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>Die Spalte fehlt.</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>Die Spalte ist nicht bekannt. Erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>Die Spalte kommt zweimal vor.</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>Ein Anführungszeichen, das in dieser Zeile öffnet, wird nie geschlossen.</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>Die Zeile hat 1 Zelle, die Zeile der Spaltennamen hat %1.</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>Die Zeile hat %1 Zellen, die Zeile der Spaltennamen hat %2.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>Die Datei kann nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>Dies ist kein gültiges JSON: %1.</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>Dies ist keine Datei mit Datensätzen. Erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>Diese Version des Formats ist nicht bekannt. Erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>Der Text ist nicht UTF-8.</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>Eine ganze Zahl oder null wurde erwartet, aber dies ist: %1.</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>Bausteinfamilie</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>Konfigurationsmodus</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>Single-I/O-Ablauf</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>Quad-I/O-Ablauf</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>Diese Operation kommt zweimal vor.</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>Diese Operation gibt es nicht. Erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>Diese Aktion gibt es nicht. Erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Die Abläufe von %1 können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>Ein Baustein hat höchstens %1 Single-I/O-Dummy-Takte: Die Kopie bekommt diese, und ihr Ablauf hat die %2 von %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>Der Konfigurationsmodus %1 hat keine seriellen Flash-Bausteine.</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>Seitengröße</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>Quad-I/O-Dummy-Takte</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1: %2 in der Liste, %3 laut %4</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>Adressbytes</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>Löschen mit %1</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>nicht</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Byte</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>reserviert</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>Quad-Freigabe</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>Basistabelle: %1 Doppelwörter in ausgelesenen Daten dieses Bausteins, hier %2</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>4-4-4-Lesen: in ausgelesenen Daten dieses Bausteins, aber nicht hier</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 liegt außerhalb des Bereichs: %2 bis %3 sind erlaubt.</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 ist mehr als 32Gb.</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 ist keine Speicherkapazität wie 128Mb.</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 ist weder ein Löschbefehl wie %2 noch %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 ist keine Zweierpotenz.</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>Den Wert %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>Der Wert %1 fehlt: Geben Sie ihn ein.</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>Die Anzahl der Dies, %1, teilt die Speicherkapazität nicht.</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>Der Löschbefehl %1 teilt die Speicherkapazität nicht.</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>Die Speicherkapazität %1 (%2) ist nicht die, für die die ID gewöhnlich steht: %3.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 nennt eine Speicherkapazität, die kein Baustein haben kann: %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>Ein Baustein hat höchstens %1 Single-I/O-Dummy-Takte: Er bekommt diese, und sein Ablauf hat %2.</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>Der Chip hat eine Tabelle des Herstellers %1, und seine ID ist vom Hersteller %2.</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>Kein gelisteter Baustein sagt, was die Bausteine des Herstellers gemeinsam haben: Übliche Befehle werden angenommen.</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>Mehrere gelistete Bausteine haben diese ID: %1.</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>Die Befehle haben vier Adressbytes, und nichts schaltet die 4-Byte-Adressierung ein.</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>Die Befehle haben drei Adressbytes, und der Baustein ist in 4-Byte-Adressierung.</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>Drei Adressbytes erreichen nicht alles von %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 nennt nur drei Adressbytes, die nicht alles von %1 erreichen: Vier werden genommen.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 nennt jeden Weg in die 4-Byte-Adressierung, und SFDP DW1 drei Adressbytes: DW16 wird nicht beachtet.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 nennt keinen Weg in die 4-Byte-Adressierung, den ein Ablauf nehmen kann: %1 wird genommen.</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP hat keine Seitengröße: %1 wird genommen (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 hat eine Seitengröße, die kein Ablauf haben kann: %1 wird genommen (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 sagt mit einem reservierten Wert, wie Quad freigegeben wird: Sehen Sie nach und geben Sie es ein.</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP sagt nicht, wie Quad freigegeben wird: %1 wird genommen (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP nennt kein Lesen über vier Leitungen: Der Quad-I/O-Ablauf verwendet eines.</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>Kein Löschbefehl gilt für den ganzen Baustein: Der Chip wird auf einmal gelöscht.</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>Die vier Bytes jedes Doppelworts sind in umgekehrter Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>Die Bytes beginnen nicht mit der Signatur „SFDP“.</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>Die Signatur „SFDP“ ist bei %1 und nicht am Anfang: Davor wurden Bytes eingefügt.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>Die ausgelesenen Daten enden mitten im SFDP-Kopf.</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>Die SFDP-Revision %1 ist unbekannt: Revisionen 1.x können gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>Unbekannte Revision %2 dieser Tabelle, die nicht gelesen wird: %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>Köpfe dieser Tabelle (%2): %1. Der von Revision %3 wird genommen.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>Die ausgelesenen Daten enden mitten in den Parameterköpfen: %1 von %2 sind da.</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>Eine Tabelle beginnt bei %1: Es ist Platz für %2 Parameterköpfe, nicht für %3.</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>Der Parameterkopf bei %1 ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>Diese Tabelle beginnt bei %2, innerhalb der Köpfe, und wird nicht gelesen: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>Diese Tabelle ist leer: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>Diese Tabelle ist nicht in den ausgelesenen Daten: %1. Sie beginnt bei %2, und die Daten enden bei %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>Die ausgelesenen Daten enden mitten in dieser Tabelle: %1. %2 von %3 Doppelwörtern sind da.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>Diese Tabelle beginnt bei %2, was kein Vielfaches von 4 ist: %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>Diese Tabellen überlappen sich: %1, %2.</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>Die Bytes bei %1 sind in keiner Tabelle: Sie werden nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>Es gibt keine Basistabelle.</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>Die Basistabelle ist leer.</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>Die Basistabelle hat %1 Doppelwörter: Zu ihrer Revision %3 gehören %2.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 hat Nullen, wo jeder Baustein Einsen hat: Bytes können fehlen oder verschoben sein.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 nennt keine Speicherkapazität, die ein Baustein haben kann: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 sagt mit einem reservierten Wert, wie viele Adressbytes es gibt.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 nennt das %2-Lesen, und DW%3 hat keinen Befehl dafür.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1: Löschtyp %2 hat keinen Befehl: Er wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1: Löschtyp %2 löscht 2^%3 Byte, was zu viel ist: Er wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 löscht 4 KiB mit %1, was kein Löschtyp tut.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>Die Tabelle der 4-Byte-Befehle ist leer.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>Die Tabelle der 4-Byte-Befehle hat keine Löschbefehle.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>Die Tabelle der 4-Byte-Befehle nennt den Löschtyp %1, den die Basistabelle nicht hat.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>Die Tabelle der 4-Byte-Befehle nennt den Löschtyp %1 und hat keinen Befehl dafür.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>Die Sektoren des Sektorplans %1 ergeben %2 Byte, und der Baustein hat %3.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>Die Sektoren des Sektorplans %1 werden mit Typen gelöscht, die die Basistabelle nicht hat.</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>Der Sektorplan hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>Basistabelle</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>Sektorplan</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>Tabelle der 4-Byte-Befehle</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>Tabelle %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 wurde während der Benutzung durch eine andere ersetzt. Nichts wurde geändert: Sehen Sie sich die jetzigen Bausteine an und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>Die Datenbank %1 auf dem Server %2 ist jetzt eine andere.</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>die Zertifikate %1 sind keine Datei</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>kein Grund</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>die Verbindung ist geschlossen</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>Der Server kopiert nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 ist keine Einstellung</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>Passwörter gehören nicht hinein: Schreiben Sie sie in die Datei .pgpass in Ihrem Home-Verzeichnis</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 ist keine Einstellung. Es gibt: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 ist zweimal da</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 kann nicht %2 sein</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>sie beginnt nicht mit %1</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>sie hat keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>es werden zu viele Hosts genannt</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>„port“ muss einer für alle Hosts sein, oder einer für jeden</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>„database“ ist nicht angegeben</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>Die Einstellungen des Servers können nicht verwendet werden: %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>Die Datei %1 kann nicht verwendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>Das Verzeichnis hat die Datenbank %1: Nennen Sie den Server in einem anderen Verzeichnis, und kopieren Sie die Datensätze mit „gfpdb copy“ dorthin.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>Die Datenbank kann %1 von %2 nicht aufnehmen: Es ist kein Text in UTF-8 oder enthält das Zeichen NUL.</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>Der Baustein %1 wird gerade von einem anderen Programm geändert: Versuchen Sie es noch einmal.</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>Plantilla de flujo</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>un sustituto sin pareja no es un carácter</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>el nombre %1 aparece dos veces</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>los valores están anidados a demasiada profundidad</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>hay texto después del final</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>aquí un objeto necesita un nombre entre comillas dobles</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>falta «:» después de %1</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>aquí un objeto necesita «,» o «}»</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>aquí una lista necesita «,» o «]»</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u necesita cuatro dígitos hexadecimales</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>una cadena no está terminada</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>no existe esa secuencia de escape</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>una cadena contiene un carácter de control o un salto de línea</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>una cadena no es UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>un número es demasiado grande</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>se esperaba un valor</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true o false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>un número</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>una cadena</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>una lista</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objeto</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>Se esperaba una cadena, pero esto es: %1.</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>Se esperaba una lista, pero esto es: %1.</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>Se esperaba un objeto, pero esto es: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>%1 no se conoce aquí. Permitido: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>Falta %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>No se puede leer el catálogo %1: %2.</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>dispositivo %1: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>plantilla guardada %1: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>El dispositivo %1 ya está en %2.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>La plantilla guardada %1 ya está en %2.</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>El dispositivo %1 existe con otro contenido: --replace lo reemplaza.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>La plantilla guardada %1 existe con otro contenido: --replace la reemplaza.</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>El nombre del dispositivo %1 es el de una plantilla guardada.</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>El nombre de la plantilla guardada %1 es el de un dispositivo.</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>Falta la columna.</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>La columna no se conoce. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>La columna aparece dos veces.</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>Una comilla que se abre en esta fila no se cierra nunca.</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>La fila tiene 1 celda, la línea de los nombres de columna tiene %1.</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>La fila tiene %1 celdas, la línea de los nombres de columna tiene %2.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>No se puede leer el archivo: %1.</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>Esto no es JSON válido: %1.</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>Esto no es un archivo de registros. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>No se conoce esta versión del formato. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>El texto no es UTF-8.</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>Se esperaba un número entero o null, pero esto es: %1.</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>familia de dispositivos</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>modo de configuración</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>flujo Single I/O</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>flujo Quad I/O</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>Esta operación aparece dos veces.</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>No existe esa operación. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>No existe esa acción. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>No se pueden leer los flujos de %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>Un dispositivo tiene como máximo %1 ciclos dummy Single I/O: la copia recibe esos, y su flujo tiene los %2 de %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>El modo de configuración %1 no tiene dispositivos flash serie.</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>tamaño de página</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>ciclos dummy Quad I/O</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1: %2 en la lista, %3 según %4</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>bytes de dirección</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>borrado con %1</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>reservado</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>activación Quad</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>tabla básica: %1 palabras dobles en las lecturas de este componente, aquí %2</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>lectura 4-4-4: en las lecturas de este componente, pero no aquí</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 no es un número.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 está fuera del intervalo: se permite de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 es más de 32Gb.</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 no es una capacidad como 128Mb.</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 no es un comando de borrado como %2 ni %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 no es una potencia de dos.</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>No existe el valor %1.</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>Falta el valor %1: introdúzcalo.</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>El número de dies, %1, no divide la capacidad.</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>El comando de borrado %1 no divide la capacidad.</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>La capacidad %1 (%2) no es la que suele indicar el ID, que es %3.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 indica una capacidad que ningún dispositivo puede tener: %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>Un dispositivo tiene como máximo %1 ciclos dummy Single I/O: recibe esos, y su flujo tiene %2.</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>El chip tiene una tabla del fabricante %1, y su ID es del fabricante %2.</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>Ningún componente de la lista indica qué tienen en común los del fabricante: se suponen los comandos usuales.</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>Varios componentes de la lista tienen este ID: %1.</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>Los comandos tienen cuatro bytes de dirección, y nada entra en el direccionamiento de 4 bytes.</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>Los comandos tienen tres bytes de dirección, y el dispositivo está en direccionamiento de 4 bytes.</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>Tres bytes de dirección no alcanzan todo: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 indica solo tres bytes de dirección, que no alcanzan todo %1: se toman cuatro.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 indica todas las formas de entrar en el direccionamiento de 4 bytes, y SFDP DW1 tres bytes de dirección: se ignora DW16.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 no indica ninguna forma de entrar en el direccionamiento de 4 bytes que un flujo pueda usar: se toma %1.</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP no tiene tamaño de página: se toma %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 tiene un tamaño de página que ningún flujo puede tener: se toma %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 indica con un valor reservado cómo se activa Quad: búsquelo e introdúzcalo.</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP no indica cómo se activa Quad: se toma %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP no indica ninguna lectura por cuatro líneas: el flujo Quad I/O usa una.</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>Ningún comando de borrado sirve para todo el componente: el chip se borra de una vez.</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>Los cuatro bytes de cada palabra doble están en orden inverso.</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>Los bytes no empiezan con la firma «SFDP».</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>La firma «SFDP» está en %1 y no al principio: se añadieron bytes delante.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>La lectura termina dentro de la cabecera SFDP.</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>La revisión SFDP %1 es desconocida: se pueden leer las revisiones 1.x.</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>Revisión %2 desconocida de esta tabla, que no se lee: %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>Cabeceras de esta tabla (%2): %1. Se toma la de la revisión %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>La lectura termina dentro de las cabeceras de parámetros: hay %1 de %2.</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>Una tabla empieza en %1: hay sitio para %2 cabeceras de parámetros, no para %3.</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>La cabecera de parámetros en %1 está vacía.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>Esta tabla empieza en %2, dentro de las cabeceras, y no se lee: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>Esta tabla está vacía: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>Esta tabla no está en la lectura: %1. Empieza en %2, y la lectura termina en %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>La lectura termina dentro de esta tabla: %1. Hay %2 de %3 palabras dobles.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>Esta tabla empieza en %2, que no es múltiplo de 4: %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>Estas tablas se solapan: %1, %2.</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>Los bytes en %1 no están en ninguna tabla: no se leen.</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>No hay tabla básica.</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>La tabla básica está vacía.</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>La tabla básica tiene %1 palabras dobles: a su revisión %3 le corresponden %2.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 tiene ceros donde todo componente tiene unos: puede que falten bytes o estén desplazados.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 no indica una capacidad que un componente pueda tener: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 indica con un valor reservado cuántos bytes de dirección hay.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 indica la lectura %2, y DW%3 no tiene comando para ella.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1: el tipo de borrado %2 no tiene comando: se omite.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1: el tipo de borrado %2 borra 2^%3 bytes, que es demasiado: se omite.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 borra 4 KiB con %1, lo que no hace ningún tipo de borrado.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>La tabla de instrucciones de 4 bytes está vacía.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>La tabla de instrucciones de 4 bytes no tiene comandos de borrado.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>La tabla de instrucciones de 4 bytes indica el tipo de borrado %1, que la tabla básica no tiene.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>La tabla de instrucciones de 4 bytes indica el tipo de borrado %1 y no tiene comando para él.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>Los sectores del mapa de sectores %1 suman %2 bytes, y el componente tiene %3.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>Los sectores del mapa de sectores %1 se borran con tipos que la tabla básica no tiene.</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>El mapa de sectores no tiene fin.</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>tabla básica</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>mapa de sectores</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>tabla de instrucciones de 4 bytes</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>tabla %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>La base de datos %1 del servidor %2 fue reemplazada por otra mientras se usaba. No se cambió nada: mire los dispositivos que hay ahora y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>La base de datos %1 del servidor %2 es ahora otra.</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>los certificados %1 no son un archivo</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>sin motivo</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>la conexión está cerrada</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>El servidor no copia.</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 no es un ajuste</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>las contraseñas no van ahí: póngalas en el archivo .pgpass de su directorio personal</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 no es un ajuste. Hay: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 está dos veces</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 no puede ser %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>no empieza con %1</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>no tiene ajustes</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>nombra demasiados hosts</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>«port» debe ser uno para todos los hosts, o uno para cada uno</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>no dice qué «database» se quiere</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>No se pueden usar los ajustes del servidor: %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>No se puede usar el archivo %1: %2.</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>El directorio tiene la base de datos %1: indique el servidor en otro directorio y copie allí los registros con «gfpdb copy».</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>No se puede escribir el archivo %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>La base de datos no puede guardar %1 de %2: no es un texto en UTF-8 o contiene el carácter NUL.</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>Otro programa está modificando el dispositivo %1: vuelva a intentarlo.</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>Modèle de flot</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>un demi-codet isolé n’est pas un caractère</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>le nom %1 apparaît deux fois</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>les valeurs sont imbriquées trop profondément</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>il y a du texte après la fin</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>un objet a besoin ici d’un nom entre guillemets doubles</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>il manque «&#xa0;:&#xa0;» après %1</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>un objet a besoin ici de «&#xa0;,&#xa0;» ou de «&#xa0;}&#xa0;»</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>une liste a besoin ici de «&#xa0;,&#xa0;» ou de «&#xa0;]&#xa0;»</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u a besoin de quatre chiffres hexadécimaux</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>une chaîne n’est pas terminée</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>cette séquence d’échappement n’existe pas</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>une chaîne contient un caractère de contrôle ou un saut de ligne</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>une chaîne n’est pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>un nombre est trop grand</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>une valeur était attendue</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true ou false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>un nombre</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>une chaîne</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>une liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objet</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>Une chaîne était attendue, mais ceci est&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>Une liste était attendue, mais ceci est&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>Un objet était attendu, mais ceci est&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>%1 n’est pas connu ici. Autorisé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1 manque.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Le catalogue %1 ne peut pas être lu&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>composant %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>modèle enregistré %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>Le composant %1 est déjà dans %2.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>Le modèle enregistré %1 est déjà dans %2.</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>Le composant %1 existe avec un autre contenu&#xa0;: --replace le remplace.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>Le modèle enregistré %1 existe avec un autre contenu&#xa0;: --replace le remplace.</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>Le nom du composant %1 est celui d’un modèle enregistré.</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>Le nom du modèle enregistré %1 est celui d’un composant.</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>La colonne manque.</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>La colonne n’est pas connue. Autorisé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>La colonne apparaît deux fois.</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>Un guillemet ouvert dans cette ligne n’est jamais fermé.</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>La ligne a 1 cellule, celle des noms de colonnes en a %1.</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>La ligne a %1 cellules, celle des noms de colonnes en a %2.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>Le fichier ne peut pas être lu&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>Ceci n’est pas du JSON valide&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>Ceci n’est pas un fichier d’enregistrements. Autorisé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>Cette version du format n’est pas connue. Autorisé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>Le texte n’est pas en UTF-8.</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>Un nombre entier ou null était attendu, mais ceci est&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>famille de composants</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>mode de configuration</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>flot Single I/O</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>flot Quad I/O</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>Cette opération apparaît deux fois.</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>Cette opération n’existe pas. Autorisé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>Cette action n’existe pas. Autorisé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Les flots de %1 ne peuvent pas être lus.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>Un composant a au plus %1 cycles dummy Single I/O&#xa0;: la copie les reçoit, et son flot a les %2 de %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>Le mode de configuration %1 n’a pas de composants flash série.</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>taille de page</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>cycles dummy Quad I/O</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1&#xa0;: %2 dans la liste, %3 selon %4</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>octets d’adresse</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>effacement par %1</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>réservé</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>activation Quad</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>table de base&#xa0;: %1 doubles mots dans les lectures de ce composant, ici %2</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>lecture 4-4-4&#xa0;: dans les lectures de ce composant, mais pas ici</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 est hors limites&#xa0;: de %2 à %3 sont autorisés.</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 dépasse 32Gb.</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 n’est pas une capacité telle que 128Mb.</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 n’est ni une commande d’effacement telle que %2 ni %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 n’est pas une puissance de deux.</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>La valeur %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>La valeur %1 manque&#xa0;: saisissez-la.</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>Le nombre de dies, %1, ne divise pas la capacité.</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>La commande d’effacement %1 ne divise pas la capacité.</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>La capacité %1 (%2) n’est pas celle que l’ID indique d’habitude&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 indique une capacité qu’aucun composant ne peut avoir&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>Un composant a au plus %1 cycles dummy Single I/O&#xa0;: il les reçoit, et son flot en a %2.</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>La puce a une table du fabricant %1, et son ID est du fabricant %2.</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>Aucun composant de la liste ne dit ce que ceux du fabricant ont en commun&#xa0;: les commandes usuelles sont supposées.</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>Plusieurs composants de la liste ont cet ID&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>Les commandes ont quatre octets d’adresse, et rien n’active l’adressage sur 4 octets.</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>Les commandes ont trois octets d’adresse, et le composant est en adressage sur 4 octets.</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>Trois octets d’adresse n’atteignent pas la totalité de %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 n’indique que trois octets d’adresse, qui n’atteignent pas la totalité de %1&#xa0;: quatre sont pris.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 indique toutes les entrées en adressage sur 4 octets, et SFDP DW1 trois octets d’adresse&#xa0;: DW16 est ignoré.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 n’indique aucune entrée en adressage sur 4 octets utilisable par un flot&#xa0;: %1 est pris.</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP n’a pas de taille de page&#xa0;: %1 est pris (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 a une taille de page qu’aucun flot ne peut avoir&#xa0;: %1 est pris (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 indique par une valeur réservée comment Quad s’active&#xa0;: cherchez-le et saisissez-le.</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP n’indique pas comment Quad s’active&#xa0;: %1 est pris (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP n’indique aucune lecture sur quatre lignes&#xa0;: le flot Quad I/O en utilise une.</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>Aucune commande d’effacement ne vaut pour tout le composant&#xa0;: la puce est effacée d’un coup.</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>Les quatre octets de chaque double mot sont en ordre inverse.</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>Les octets ne commencent pas par la signature «&#xa0;SFDP&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>La signature «&#xa0;SFDP&#xa0;» est à %1 et non au début&#xa0;: des octets ont été ajoutés devant.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>La lecture se termine dans l’en-tête SFDP.</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>La révision SFDP %1 est inconnue&#xa0;: les révisions 1.x peuvent être lues.</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>Révision %2 inconnue de cette table, qui n’est pas lue&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>En-têtes de cette table (%2)&#xa0;: %1. Celui de la révision %3 est pris.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>La lecture se termine dans les en-têtes de paramètres&#xa0;: %1 sur %2 sont là.</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>Une table commence à %1&#xa0;: il y a place pour %2 en-têtes de paramètres, pas pour %3.</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>L’en-tête de paramètres à %1 est vide.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>Cette table commence à %2, dans les en-têtes, et n’est pas lue&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>Cette table est vide&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>Cette table n’est pas dans la lecture&#xa0;: %1. Elle commence à %2, et la lecture se termine à %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>La lecture se termine dans cette table&#xa0;: %1. %2 doubles mots sur %3 sont là.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>Cette table commence à %2, qui n’est pas un multiple de 4&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>Ces tables se chevauchent&#xa0;: %1, %2.</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>Les octets à %1 ne sont dans aucune table&#xa0;: ils ne sont pas lus.</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>Il n’y a pas de table de base.</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>La table de base est vide.</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>La table de base a %1 doubles mots&#xa0;: %2 vont avec sa révision %3.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 a des zéros là où tout composant a des uns&#xa0;: des octets peuvent manquer ou être décalés.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 n’indique pas de capacité qu’un composant puisse avoir&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 indique par une valeur réservée le nombre d’octets d’adresse.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 indique la lecture %2, et DW%3 n’a pas de commande pour elle.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1&#xa0;: le type d’effacement %2 n’a pas de commande&#xa0;: il est omis.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1&#xa0;: le type d’effacement %2 efface 2^%3 octets, ce qui est trop&#xa0;: il est omis.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 efface 4 Kio par %1, ce que ne fait aucun type d’effacement.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>La table des instructions sur 4 octets est vide.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>La table des instructions sur 4 octets n’a pas de commandes d’effacement.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>La table des instructions sur 4 octets indique le type d’effacement %1, que la table de base n’a pas.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>La table des instructions sur 4 octets indique le type d’effacement %1 et n’a pas de commande pour lui.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>Les secteurs de la carte des secteurs %1 font %2 octets, et le composant en a %3.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>Les secteurs de la carte des secteurs %1 s’effacent par des types que la table de base n’a pas.</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>La carte des secteurs n’a pas de fin.</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>table de base</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>carte des secteurs</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>table des instructions sur 4 octets</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>table %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>La base de données %1 du serveur %2 a été remplacée par une autre pendant son utilisation. Rien n’a été modifié&#xa0;: regardez les composants présents maintenant, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>La base de données %1 du serveur %2 en est maintenant une autre.</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>les certificats %1 ne sont pas un fichier</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>aucune raison</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>la connexion est fermée</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>Le serveur ne copie pas.</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 n’est pas un réglage</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>les mots de passe n’ont rien à y faire&#xa0;: mettez-les dans le fichier .pgpass de votre répertoire personnel</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 n’est pas un réglage. Il y a&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 y est deux fois</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 ne peut pas être %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>il ne commence pas par %1</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>il n’a pas de réglages</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>trop d’hôtes sont nommés</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>«&#xa0;port&#xa0;» doit être unique pour tous les hôtes, ou un pour chacun</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>il ne dit pas quelle «&#xa0;database&#xa0;» est visée</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>Les réglages du serveur ne peuvent pas être utilisés&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>Le fichier %1 ne peut pas être utilisé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>Le répertoire contient la base de données %1&#xa0;: nommez le serveur dans un autre répertoire et copiez-y les enregistrements avec «&#xa0;gfpdb copy&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>La base de données ne peut pas conserver %1 de %2&#xa0;: ce n’est pas un texte en UTF-8, ou il contient le caractère NUL.</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>Le composant %1 est en cours de modification par un autre programme&#xa0;: réessayez.</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>Modello di flusso</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>un surrogato isolato non è un carattere</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>il nome %1 compare due volte</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>i valori sono annidati troppo in profondità</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>c’è del testo dopo la fine</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>qui un oggetto richiede un nome tra virgolette doppie</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>manca «:» dopo %1</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>qui un oggetto richiede «,» o «}»</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>qui un elenco richiede «,» o «]»</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u richiede quattro cifre esadecimali</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>una stringa non è terminata</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>questa sequenza di escape non esiste</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>una stringa contiene un carattere di controllo o un’interruzione di riga</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>una stringa non è UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>un numero è troppo grande</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>era atteso un valore</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true o false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>un numero</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>una stringa</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>un elenco</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un oggetto</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>Era attesa una stringa, ma questo è: %1.</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>Era atteso un elenco, ma questo è: %1.</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>Era atteso un oggetto, ma questo è: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>%1 non è noto qui. Consentito: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>Manca %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il catalogo %1: %2.</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>dispositivo %1: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>modello salvato %1: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>Il dispositivo %1 è già in %2.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>Il modello salvato %1 è già in %2.</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>Il dispositivo %1 esiste con un altro contenuto: --replace lo sostituisce.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>Il modello salvato %1 esiste con un altro contenuto: --replace lo sostituisce.</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>Il nome del dispositivo %1 è quello di un modello salvato.</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>Il nome del modello salvato %1 è quello di un dispositivo.</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>La colonna manca.</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>La colonna non è nota. Consentito: %1.</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>La colonna compare due volte.</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>Una virgoletta aperta in questa riga non viene mai chiusa.</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>La riga ha 1 cella, quella dei nomi delle colonne ne ha %1.</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>La riga ha %1 celle, quella dei nomi delle colonne ne ha %2.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>Impossibile leggere il file: %1.</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>Questo non è JSON valido: %1.</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>Questo non è un file di record. Consentito: %1.</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>Questa versione del formato non è nota. Consentito: %1.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>Il testo non è UTF-8.</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>Era atteso un numero intero o null, ma questo è: %1.</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>famiglia di dispositivi</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>modalità di configurazione</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>flusso Single I/O</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>flusso Quad I/O</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>Questa operazione compare due volte.</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>Questa operazione non esiste. Consentito: %1.</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>Questa azione non esiste. Consentito: %1.</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Impossibile leggere i flussi di %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>Un dispositivo ha al massimo %1 cicli dummy Single I/O: la copia riceve questi, e il suo flusso ha i %2 di %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>La modalità di configurazione %1 non ha dispositivi flash seriali.</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>dimensione pagina</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>cicli dummy Quad I/O</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1: %2 nell’elenco, %3 secondo %4</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>byte di indirizzo</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>cancellazione con %1</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 byte</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>riservato</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>abilitazione Quad</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>tabella di base: %1 parole doppie nelle letture di questo componente, qui %2</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>lettura 4-4-4: nelle letture di questo componente, ma non qui</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 non è un numero.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 è fuori dai limiti: sono consentiti da %2 a %3.</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 è più di 32Gb.</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 non è una capacità come 128Mb.</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 non è né un comando di cancellazione come %2 né %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 non è una potenza di due.</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>Il valore %1 non esiste.</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>Manca il valore %1: inserirlo.</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>Il numero di die, %1, non divide la capacità.</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>Il comando di cancellazione %1 non divide la capacità.</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>La capacità %1 (%2) non è quella che l’ID indica di solito: %3.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 indica una capacità che nessun dispositivo può avere: %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>Un dispositivo ha al massimo %1 cicli dummy Single I/O: riceve questi, e il suo flusso ne ha %2.</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>Il chip ha una tabella del produttore %1, e il suo ID è del produttore %2.</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>Nessun componente in elenco dice cosa hanno in comune quelli del produttore: si presumono i comandi usuali.</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>Più componenti in elenco hanno questo ID: %1.</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>I comandi hanno quattro byte di indirizzo, e nulla attiva l’indirizzamento a 4 byte.</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>I comandi hanno tre byte di indirizzo, e il dispositivo è in indirizzamento a 4 byte.</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>Tre byte di indirizzo non raggiungono tutto: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 indica solo tre byte di indirizzo, che non raggiungono tutto %1: se ne usano quattro.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 indica ogni modo per attivare l’indirizzamento a 4 byte, e SFDP DW1 tre byte di indirizzo: DW16 viene ignorato.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 non indica alcun modo per attivare l’indirizzamento a 4 byte che un flusso possa usare: si usa %1.</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP non ha una dimensione pagina: si usa %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 ha una dimensione pagina che nessun flusso può avere: si usa %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 indica con un valore riservato come si abilita Quad: cercarlo e inserirlo.</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP non indica come si abilita Quad: si usa %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP non indica alcuna lettura su quattro linee: il flusso Quad I/O ne usa una.</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>Nessun comando di cancellazione vale per tutto il componente: il chip viene cancellato in una volta.</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>I quattro byte di ogni parola doppia sono in ordine inverso.</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>I byte non iniziano con la firma «SFDP».</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>La firma «SFDP» è a %1 e non all’inizio: sono stati aggiunti byte prima.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>La lettura finisce dentro l’intestazione SFDP.</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>La revisione SFDP %1 è sconosciuta: si possono leggere le revisioni 1.x.</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>Revisione %2 sconosciuta di questa tabella, che non viene letta: %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>Intestazioni di questa tabella (%2): %1. Si usa quella della revisione %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>La lettura finisce dentro le intestazioni dei parametri: ce ne sono %1 di %2.</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>Una tabella inizia a %1: c’è posto per %2 intestazioni dei parametri, non per %3.</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>L’intestazione dei parametri a %1 è vuota.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>Questa tabella inizia a %2, dentro le intestazioni, e non viene letta: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>Questa tabella è vuota: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>Questa tabella non è nella lettura: %1. Inizia a %2, e la lettura finisce a %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>La lettura finisce dentro questa tabella: %1. Ci sono %2 di %3 parole doppie.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>Questa tabella inizia a %2, che non è un multiplo di 4: %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>Queste tabelle si sovrappongono: %1, %2.</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>I byte a %1 non sono in alcuna tabella: non vengono letti.</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>Non c’è la tabella di base.</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>La tabella di base è vuota.</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>La tabella di base ha %1 parole doppie: alla sua revisione %3 ne spettano %2.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 ha zeri dove ogni componente ha uno: possono mancare byte o essere spostati.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 non indica una capacità che un componente possa avere: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 indica con un valore riservato quanti sono i byte di indirizzo.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 indica la lettura %2, e DW%3 non ha un comando per essa.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1: il tipo di cancellazione %2 non ha un comando: viene omesso.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1: il tipo di cancellazione %2 cancella 2^%3 byte, che sono troppi: viene omesso.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 cancella 4 KiB con %1, cosa che nessun tipo di cancellazione fa.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>La tabella delle istruzioni a 4 byte è vuota.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>La tabella delle istruzioni a 4 byte non ha comandi di cancellazione.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>La tabella delle istruzioni a 4 byte indica il tipo di cancellazione %1, che la tabella di base non ha.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>La tabella delle istruzioni a 4 byte indica il tipo di cancellazione %1 e non ha un comando per esso.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>I settori della mappa dei settori %1 sono in tutto %2 byte, e il componente ne ha %3.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>I settori della mappa dei settori %1 si cancellano con tipi che la tabella di base non ha.</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>La mappa dei settori non ha fine.</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>tabella di base</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>mappa dei settori</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>tabella delle istruzioni a 4 byte</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>tabella %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>Il database %1 sul server %2 è stato sostituito da un altro mentre era in uso. Non è stato modificato nulla: guardare i dispositivi presenti ora, poi riprovare.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>Il database %1 sul server %2 ora è un altro.</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>i certificati %1 non sono un file</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>nessun motivo</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>la connessione è chiusa</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>Il server non copia.</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 non è un’impostazione</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>le password non vanno lì: inserirle nel file .pgpass della propria cartella home</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 non è un’impostazione. Ci sono: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 compare due volte</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 non può essere %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>non inizia con %1</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>non ha impostazioni</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>nomina troppi host</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>«port» deve essere uno per tutti gli host, o uno per ciascuno</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>non dice quale «database» si intende</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>Impossibile usare le impostazioni del server: %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>Impossibile usare il file %1: %2.</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>La cartella contiene il database %1: indicare il server in un’altra cartella e copiarvi i record con «gfpdb copy».</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>Impossibile scrivere il file %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>Il database non può conservare %1 di %2: non è un testo in UTF-8 o contiene il carattere NUL.</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>Un altro programma sta modificando il dispositivo %1: riprovare.</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>フローのテンプレート</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>対になっていないサロゲートは文字ではありません</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>名前 %1 が 2 回使われています</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>値の入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>末尾の後に文字列があります</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>ここではオブジェクトに二重引用符で囲んだ名前が必要です</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>%1 の後に「:」がありません</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>ここではオブジェクトに「,」または「}」が必要です</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>ここではリストに「,」または「]」が必要です</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u には 16 進数 4 桁が必要です</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>文字列が閉じられていません</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>このようなエスケープはありません</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>文字列に制御文字または改行があります</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>文字列が UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>数値が大きすぎます</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>値が必要です</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true または false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>オブジェクト</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>文字列が必要ですが、%1 です。</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>リストが必要ですが、%1 です。</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>オブジェクトが必要ですが、%1 です。</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>ここでは %1 は不明です。許容: %2。</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1 がありません。</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>カタログ %1 を読み込めません: %2。</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>デバイス %1: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>保存済みのテンプレート %1: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>デバイス %1 はすでに %2 にあります。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>保存済みのテンプレート %1 はすでに %2 にあります。</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>デバイス %1 は異なる内容で存在します: --replace で置き換わります。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>保存済みのテンプレート %1 は異なる内容で存在します: --replace で置き換わります。</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>デバイス %1 の名前は保存済みのテンプレートの名前です。</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>保存済みのテンプレート %1 の名前はデバイスの名前です。</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>列がありません。</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>不明な列です。許容: %1。</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>列が 2 回あります。</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>この行で開いた引用符が閉じられていません。</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>この行のセルは 1 個ですが、列名の行は %1 個です。</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>この行のセルは %1 個ですが、列名の行は %2 個です。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>ファイルを読み込めません: %1。</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>有効な JSON ではありません: %1。</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>レコードのファイルではありません。許容: %1。</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>この形式バージョンは不明です。許容: %1。</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>テキストが UTF-8 ではありません。</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>整数または null が必要ですが、%1 です。</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>デバイスファミリー</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>コンフィギュレーションモード</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>シングル I/O フロー</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>クアッド I/O フロー</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>この操作は 2 回あります。</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>このような操作はありません。許容: %1。</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>このようなアクションはありません。許容: %1。</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>%1 のフローを読み込めません。</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>デバイスのシングル I/O ダミーサイクル数は最大 %1 です: コピーはこの値になり、フローは %3 の %2 のままです。</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>コンフィギュレーションモード %1 にはシリアルフラッシュデバイスがありません。</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>ページサイズ</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>クアッド I/O ダミーサイクル数</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1: リストでは %2、%4 では %3</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>アドレスのバイト数</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 または %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>%1 による消去</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>予約済み</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>クアッド有効化</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>基本テーブル: この部品の読み出しデータでは %1 ダブルワード、ここでは %2</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>4-4-4 読み出し: この部品の読み出しデータにはあるが、ここにはない</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 は数値ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 は範囲外です: %2 ～ %3 が許容されます。</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 は 32Gb を超えています。</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 は 128Mb のような容量ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 は %2 のような消去コマンドでも%3でもありません。</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 は 2 のべき乗ではありません。</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>値 %1 はありません。</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>値 %1 がありません: 入力してください。</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>ダイの数 %1 で容量を割り切れません。</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>消去コマンド %1 で容量を割り切れません。</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>容量 %1 (%2) は、この ID が通常示す %3 ではありません。</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 の容量は、どのデバイスにもあり得ません: %1。</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>デバイスのシングル I/O ダミーサイクル数は最大 %1 です: この値になり、フローは %2 です。</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>チップにはメーカー %1 のテーブルがありますが、ID はメーカー %2 のものです。</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>このメーカーの部品に共通する点を示す登録済みの部品がありません: 一般的なコマンドを仮定します。</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>この ID を持つ登録済みの部品が複数あります: %1。</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>コマンドのアドレスは 4 バイトですが、4 バイトアドレッシングに入る手段がありません。</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>コマンドのアドレスは 3 バイトですが、デバイスは 4 バイトアドレッシングです。</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>3 バイトのアドレスでは %1 のすべてに届きません。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 のアドレスは 3 バイトだけで、%1 のすべてに届きません: 4 バイトを使います。</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 は 4 バイトアドレッシングへのすべての手段を、SFDP DW1 は 3 バイトのアドレスを示します: DW16 は無視されます。</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 には、フローで使える 4 バイトアドレッシングへの手段がありません: %1 を使います。</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP にページサイズがありません: %1 を使います (%2)。</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 のページサイズはフローでは使えません: %1 を使います (%2)。</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 のクアッド有効化の方法は予約値です: 調べて入力してください。</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP にクアッド有効化の方法がありません: %1 を使います (%2)。</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP に 4 線の読み出しがありませんが、クアッド I/O フローはこれを使います。</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>部品全体に使える消去コマンドがありません: チップを一括で消去します。</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>各ダブルワードの 4 バイトが逆順です。</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>バイト列がシグネチャー「SFDP」で始まっていません。</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>シグネチャー「SFDP」は先頭ではなく %1 にあります: 前にバイトが追加されています。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>読み出しデータが SFDP ヘッダーの途中で終わっています。</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>SFDP リビジョン %1 は不明です: リビジョン 1.x を読み込めます。</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>%1 は不明なリビジョン %2 です: 読み込みません。</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>%2のヘッダーが %1 個あります: リビジョン %3 のものを使います。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>読み出しデータがパラメーターヘッダーの途中で終わっています: %2 個中 %1 個があります。</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>テーブルが %1 から始まります: パラメーターヘッダーは %2 個分の場所しかなく、%3 個は入りません。</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>%1 のパラメーターヘッダーは空です。</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>%1はヘッダー内の %2 から始まります: 読み込みません。</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1は空です。</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>%1は読み出しデータにありません: %2 から始まりますが、データは %3 で終わります。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>読み出しデータが%1の途中で終わっています: %3 ダブルワード中 %2 があります。</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>%1は 4 の倍数でない %2 から始まります。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>%1と%2が重なっています。</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>%1 のバイトはどのテーブルにもありません: 読み込みません。</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>基本テーブルがありません。</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>基本テーブルは空です。</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>基本テーブルは %1 ダブルワードです: リビジョン %3 では %2 です。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 には、どの部品でも 1 のところに 0 があります: バイトの欠落やずれの可能性があります。</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 は部品にあり得る容量ではありません: %1。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 のアドレスのバイト数は予約値です。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 には %2 読み出しがありますが、DW%3 にそのコマンドがありません。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1: 消去タイプ %2 にコマンドがありません: 除外します。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1: 消去タイプ %2 は 2^%3 バイトを消去し、大きすぎます: 除外します。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 は %1 で 4 KiB を消去しますが、そのような消去タイプはありません。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>4 バイト命令のテーブルは空です。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>4 バイト命令のテーブルに消去コマンドがありません。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>4 バイト命令のテーブルには、基本テーブルにない消去タイプ %1 があります。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>4 バイト命令のテーブルに消去タイプ %1 がありますが、コマンドがありません。</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>セクターマップ %1 のセクターは合計 %2 バイトですが、部品は %3 です。</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>セクターマップ %1 のセクターは、基本テーブルにないタイプで消去されます。</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>セクターマップに終わりがありません。</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>基本テーブル</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>セクターマップ</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>4 バイト命令のテーブル</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>テーブル %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>サーバー %2 のデータベース %1 は使用中に別のものに置き換えられました。何も変更されていません: 現在のデバイスを確認してから、もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>サーバー %2 のデータベース %1 は別のものになりました。</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>証明書 %1 はファイルではありません</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>理由なし</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>接続が閉じられています</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>サーバーがコピーしません。</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 は設定ではありません</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>パスワードはここに書きません: ホームディレクトリのファイル .pgpass に入れてください</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 は設定ではありません。設定: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 が 2 回あります</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 は %2 にできません</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>%1 で始まっていません</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>設定がありません</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>ホストが多すぎます</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>「port」はすべてのホストに 1 つか、ホストごとに 1 つ必要です</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>どの「database」かが指定されていません</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>サーバーの設定を使えません: %1。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>ファイル %1 を使えません: %2。</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>このディレクトリにはデータベース %1 があります: 別のディレクトリでサーバーを指定し、「gfpdb copy」でレコードをコピーしてください。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>ファイル %1 に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>データベースは %2 の %1 を保持できません: UTF-8 のテキストでないか、NUL 文字があります。</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>デバイス %1 は別のプログラムが変更中です: もう一度試してください。</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>흐름 템플릿</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>짝이 없는 서로게이트는 문자가 아닙니다</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>이름 %1이(가) 두 번 나옵니다</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>값이 너무 깊게 중첩되어 있습니다</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>끝 뒤에 텍스트가 있습니다</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>여기에는 객체의 이름이 큰따옴표 안에 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>%1 뒤에 ‘:’이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>여기에는 객체에 ‘,’ 또는 ‘}’이(가) 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>여기에는 목록에 ‘,’ 또는 ‘]’이(가) 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u에는 16진수 네 자리가 필요합니다</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>문자열이 닫히지 않았습니다</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>그런 이스케이프가 없습니다</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>문자열에 제어 문자나 줄 바꿈이 있습니다</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>문자열이 UTF-8이 아닙니다</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>숫자가 너무 큽니다</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>값이 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true 또는 false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>숫자</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>문자열</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>목록</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>객체</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>문자열이 있어야 하지만 %1입니다.</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>목록이 있어야 하지만 %1입니다.</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>객체가 있어야 하지만 %1입니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>여기에서는 %1을(를) 알 수 없습니다. 허용: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>카탈로그 %1을(를) 읽을 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>디바이스 %1: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>저장된 템플릿 %1: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>디바이스 %1은(는) 이미 %2에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>저장된 템플릿 %1은(는) 이미 %2에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>디바이스 %1이(가) 다른 내용으로 있습니다: --replace를 쓰면 바뀝니다.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>저장된 템플릿 %1이(가) 다른 내용으로 있습니다: --replace를 쓰면 바뀝니다.</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>디바이스 %1의 이름은 저장된 템플릿의 이름입니다.</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>저장된 템플릿 %1의 이름은 디바이스의 이름입니다.</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>열이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>알 수 없는 열입니다. 허용: %1.</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>열이 두 번 나옵니다.</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>이 행에서 열린 따옴표가 닫히지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>이 행의 셀은 1개인데 열 이름 행에는 %1개가 있습니다.</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>이 행의 셀은 %1개인데 열 이름 행에는 %2개가 있습니다.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>파일을 읽을 수 없습니다: %1.</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>올바른 JSON이 아닙니다: %1.</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>레코드 파일이 아닙니다. 허용: %1.</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>알 수 없는 형식 버전입니다. 허용: %1.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>텍스트가 UTF-8이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>정수 또는 null이 있어야 하지만 %1입니다.</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>디바이스 제품군</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>구성 모드</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>싱글 I/O 흐름</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>쿼드 I/O 흐름</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>이 작업이 두 번 나옵니다.</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>그런 작업이 없습니다. 허용: %1.</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>그런 동작이 없습니다. 허용: %1.</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>%1의 흐름을 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>디바이스의 싱글 I/O 더미 클럭은 최대 %1입니다: 복사본은 이 값을 갖고, 흐름은 %3의 %2을(를) 유지합니다.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>구성 모드 %1에는 직렬 플래시 디바이스가 없습니다.</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>페이지 크기</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>쿼드 I/O 더미 클럭</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1: 목록에는 %2, %4에는 %3</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>주소 바이트</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 또는 %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>%1(으)로 지우기</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1바이트</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>예약됨</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>쿼드 사용</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>기본 테이블: 이 부품의 읽은 데이터에는 더블 워드 %1개, 여기에는 %2개</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>4-4-4 읽기: 이 부품의 읽은 데이터에는 있지만 여기에는 없음</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1은(는) 숫자가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1은(는) 범위를 벗어났습니다: %2&#xa0;%3이(가) 허용됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1은(는) 32Gb를 넘습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1은(는) 128Mb와 같은 용량이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1은(는) %2와 같은 지우기 명령도 %3도 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1은(는) 2의 거듭제곱이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>값 %1이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>값 %1이(가) 없습니다: 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>다이 수 %1(으)로 용량이 나누어떨어지지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>지우기 명령 %1(으)로 용량이 나누어떨어지지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>용량 %1(%2)은(는) 이 ID가 보통 뜻하는 %3이(가) 아닙니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2의 용량은 어떤 디바이스도 가질 수 없습니다: %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>디바이스의 싱글 I/O 더미 클럭은 최대 %1입니다: 이 값을 갖고, 흐름은 %2입니다.</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>칩에는 제조사 %1의 테이블이 있지만 ID는 제조사 %2의 것입니다.</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>이 제조사 부품의 공통점을 알려 주는 목록의 부품이 없습니다: 일반적인 명령으로 가정합니다.</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>이 ID를 가진 목록의 부품이 여러 개입니다: %1.</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>명령의 주소는 4바이트인데 4바이트 주소 지정으로 들어가는 방법이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>명령의 주소는 3바이트인데 디바이스는 4바이트 주소 지정 상태입니다.</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>주소 3바이트로는 %1 전체에 접근할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1에는 주소 3바이트만 있어 %1 전체에 접근할 수 없습니다: 4바이트를 씁니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16에는 4바이트 주소 지정으로 가는 모든 방법이, SFDP DW1에는 주소 3바이트가 있습니다: DW16은 무시됩니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16에는 흐름에서 쓸 수 있는 4바이트 주소 지정 방법이 없습니다: %1을(를) 씁니다.</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP에 페이지 크기가 없습니다: %1을(를) 씁니다(%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11의 페이지 크기는 흐름에서 쓸 수 없습니다: %1을(를) 씁니다(%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15의 쿼드 사용 방법이 예약된 값입니다: 찾아서 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP에 쿼드 사용 방법이 없습니다: %1을(를) 씁니다(%2).</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP에 네 선 읽기가 없는데 쿼드 I/O 흐름은 이를 씁니다.</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>부품 전체에 쓸 수 있는 지우기 명령이 없습니다: 칩을 한 번에 지웁니다.</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>각 더블 워드의 네 바이트가 역순입니다.</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>바이트가 서명 ‘SFDP’로 시작하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>서명 ‘SFDP’이(가) 처음이 아니라 %1에 있습니다: 앞에 바이트가 추가되었습니다.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>읽은 데이터가 SFDP 헤더 안에서 끝납니다.</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>SFDP 리비전 %1은(는) 알 수 없습니다: 리비전 1.x를 읽을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>%1은(는) 알 수 없는 리비전 %2입니다: 읽지 않습니다.</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>%2의 헤더가 %1개 있습니다: 리비전 %3의 것을 씁니다.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>읽은 데이터가 매개변수 헤더 안에서 끝납니다: %2개 중 %1개가 있습니다.</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>테이블이 %1에서 시작합니다: 매개변수 헤더 %2개의 자리만 있고 %3개는 들어가지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>%1의 매개변수 헤더가 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>%1은(는) 헤더 안의 %2에서 시작합니다: 읽지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1이(가) 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>%1은(는) 읽은 데이터에 없습니다: %2에서 시작하는데 데이터는 %3에서 끝납니다.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>읽은 데이터가 %1 안에서 끝납니다: 더블 워드 %3개 중 %2개가 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>%1은(는) 4의 배수가 아닌 %2에서 시작합니다.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>%1과(와) %2이(가) 겹칩니다.</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>%1의 바이트는 어느 테이블에도 없습니다: 읽지 않습니다.</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>기본 테이블이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>기본 테이블이 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>기본 테이블의 더블 워드는 %1개입니다: 리비전 %3에는 %2개가 있어야 합니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1에 모든 부품이 1인 자리가 0입니다: 바이트가 빠졌거나 밀렸을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2는 부품이 가질 수 있는 용량이 아닙니다: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1의 주소 바이트 수가 예약된 값입니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1에는 %2 읽기가 있지만 DW%3에 그 명령이 없습니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1: 지우기 유형 %2에 명령이 없습니다: 제외합니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1: 지우기 유형 %2은(는) 2^%3바이트를 지우며 너무 큽니다: 제외합니다.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1은 %1(으)로 4KiB를 지우는데 그런 지우기 유형이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>4바이트 명령 테이블이 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>4바이트 명령 테이블에 지우기 명령이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>4바이트 명령 테이블에 기본 테이블에 없는 지우기 유형 %1이(가) 있습니다.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>4바이트 명령 테이블에 지우기 유형 %1이(가) 있지만 명령이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>섹터 맵 %1의 섹터는 모두 %2바이트인데 부품은 %3바이트입니다.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>섹터 맵 %1의 섹터는 기본 테이블에 없는 유형으로 지워집니다.</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>섹터 맵에 끝이 없습니다.</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>기본 테이블</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>섹터 맵</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>4바이트 명령 테이블</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>테이블 %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>서버 %2의 데이터베이스 %1이(가) 사용 중에 다른 것으로 바뀌었습니다. 아무것도 변경되지 않았습니다: 지금 있는 디바이스를 확인한 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>서버 %2의 데이터베이스 %1은(는) 이제 다른 것입니다.</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>인증서 %1은(는) 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>이유 없음</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>연결이 닫혔습니다</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>서버가 복사하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1은(는) 설정이 아닙니다</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>암호는 여기에 두지 않습니다: 홈 폴더의 .pgpass 파일에 넣으십시오</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1은(는) 설정이 아닙니다. 설정: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1이(가) 두 번 있습니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1은(는) %2일 수 없습니다</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>%1(으)로 시작하지 않습니다</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>설정이 없습니다</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>호스트가 너무 많습니다</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>‘port’는 모든 호스트에 하나이거나 호스트마다 하나여야 합니다</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>어떤 ‘database’인지 지정되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>서버 설정을 사용할 수 없습니다: %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>파일 %1을(를) 사용할 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>이 폴더에는 데이터베이스 %1이(가) 있습니다: 다른 폴더에서 서버를 지정하고 ‘gfpdb copy’로 레코드를 복사하십시오.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>파일 %1에 쓸 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>데이터베이스에 %2의 %1을(를) 저장할 수 없습니다: UTF-8 텍스트가 아니거나 NUL 문자가 있습니다.</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>다른 프로그램이 디바이스 %1을(를) 변경하고 있습니다: 다시 시도하십시오.</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>Modelo de fluxo</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>um substituto sem par não é um caractere</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>o nome %1 aparece duas vezes</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>os valores estão aninhados demais</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>há texto depois do fim</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>aqui um objeto precisa de um nome entre aspas duplas</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>falta “:” depois de %1</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>aqui um objeto precisa de “,” ou “}”</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>aqui uma lista precisa de “,” ou “]”</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u precisa de quatro dígitos hexadecimais</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>uma string não está terminada</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>essa sequência de escape não existe</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>uma string contém um caractere de controle ou uma quebra de linha</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>uma string não é UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>um número é grande demais</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>esperava-se um valor</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true ou false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>um número</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>uma string</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>uma lista</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>um objeto</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>Esperava-se uma string, mas isto é: %1.</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>Esperava-se uma lista, mas isto é: %1.</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>Esperava-se um objeto, mas isto é: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>%1 não é conhecido aqui. Permitido: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>Falta %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>O catálogo %1 não pode ser lido: %2.</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>dispositivo %1: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>modelo salvo %1: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>O dispositivo %1 já está em %2.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>O modelo salvo %1 já está em %2.</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>O dispositivo %1 existe com outro conteúdo: --replace o substitui.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>O modelo salvo %1 existe com outro conteúdo: --replace o substitui.</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>O nome do dispositivo %1 é o de um modelo salvo.</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>O nome do modelo salvo %1 é o de um dispositivo.</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>A coluna está faltando.</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>A coluna não é conhecida. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>A coluna aparece duas vezes.</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>Uma aspa aberta nesta linha nunca é fechada.</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>A linha tem 1 célula, a dos nomes das colunas tem %1.</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>A linha tem %1 células, a dos nomes das colunas tem %2.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>O arquivo não pode ser lido: %1.</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>Isto não é JSON válido: %1.</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>Isto não é um arquivo de registros. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>Esta versão do formato não é conhecida. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>O texto não é UTF-8.</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>Esperava-se um número inteiro ou null, mas isto é: %1.</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>família de dispositivos</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>modo de configuração</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>fluxo Single I/O</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>fluxo Quad I/O</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>Esta operação aparece duas vezes.</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>Essa operação não existe. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>Essa ação não existe. Permitido: %1.</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Os fluxos de %1 não podem ser lidos.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>Um dispositivo tem no máximo %1 ciclos dummy Single I/O: a cópia recebe estes, e seu fluxo tem os %2 de %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>O modo de configuração %1 não tem dispositivos flash seriais.</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>tamanho da página</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>ciclos dummy Quad I/O</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1: %2 na lista, %3 segundo %4</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>bytes de endereço</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>apagamento com %1</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>não</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhum</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>reservado</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>habilitação Quad</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>tabela básica: %1 palavras duplas nas leituras deste componente, aqui %2</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>leitura 4-4-4: nas leituras deste componente, mas não aqui</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 não é um número.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 está fora do intervalo: são permitidos de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 é mais que 32Gb.</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 não é uma capacidade como 128Mb.</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 não é um comando de apagamento como %2 nem %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 não é uma potência de dois.</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>O valor %1 não existe.</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>Falta o valor %1: informe-o.</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>O número de dies, %1, não divide a capacidade.</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>O comando de apagamento %1 não divide a capacidade.</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>A capacidade %1 (%2) não é a que o ID costuma indicar, que é %3.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 indica uma capacidade que nenhum dispositivo pode ter: %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>Um dispositivo tem no máximo %1 ciclos dummy Single I/O: recebe estes, e seu fluxo tem %2.</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>O chip tem uma tabela do fabricante %1, e seu ID é do fabricante %2.</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>Nenhum componente da lista diz o que os do fabricante têm em comum: supõem-se os comandos usuais.</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>Vários componentes da lista têm este ID: %1.</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>Os comandos têm quatro bytes de endereço, e nada entra no endereçamento de 4 bytes.</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>Os comandos têm três bytes de endereço, e o dispositivo está em endereçamento de 4 bytes.</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>Três bytes de endereço não alcançam tudo: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 indica só três bytes de endereço, que não alcançam todo o %1: usam-se quatro.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 indica todas as formas de entrar no endereçamento de 4 bytes, e SFDP DW1 três bytes de endereço: DW16 é ignorado.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 não indica forma de entrar no endereçamento de 4 bytes que um fluxo possa usar: usa-se %1.</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP não tem tamanho da página: usa-se %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 tem um tamanho da página que nenhum fluxo pode ter: usa-se %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 indica com um valor reservado como habilitar Quad: procure e informe.</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP não diz como habilitar Quad: usa-se %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP não indica leitura em quatro linhas: o fluxo Quad I/O usa uma.</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>Nenhum comando de apagamento serve para todo o componente: o chip é apagado de uma vez.</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>Os quatro bytes de cada palavra dupla estão em ordem inversa.</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>Os bytes não começam com a assinatura “SFDP”.</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>A assinatura “SFDP” está em %1 e não no início: bytes foram acrescentados antes.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>A leitura termina dentro do cabeçalho SFDP.</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>A revisão SFDP %1 é desconhecida: as revisões 1.x podem ser lidas.</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>Revisão %2 desconhecida desta tabela, que não é lida: %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>Cabeçalhos desta tabela (%2): %1. Usa-se o da revisão %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>A leitura termina dentro dos cabeçalhos de parâmetros: há %1 de %2.</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>Uma tabela começa em %1: há espaço para %2 cabeçalhos de parâmetros, não para %3.</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>O cabeçalho de parâmetros em %1 está vazio.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>Esta tabela começa em %2, dentro dos cabeçalhos, e não é lida: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>Esta tabela está vazia: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>Esta tabela não está na leitura: %1. Começa em %2, e a leitura termina em %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>A leitura termina dentro desta tabela: %1. Há %2 de %3 palavras duplas.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>Esta tabela começa em %2, que não é múltiplo de 4: %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>Estas tabelas se sobrepõem: %1, %2.</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>Os bytes em %1 não estão em nenhuma tabela: não são lidos.</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>Não há tabela básica.</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>A tabela básica está vazia.</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>A tabela básica tem %1 palavras duplas: à revisão %3 correspondem %2.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 tem zeros onde todo componente tem uns: podem faltar bytes ou estar deslocados.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 não indica uma capacidade que um componente possa ter: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 indica com um valor reservado quantos bytes de endereço há.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 indica a leitura %2, e DW%3 não tem comando para ela.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1: o tipo de apagamento %2 não tem comando: é omitido.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1: o tipo de apagamento %2 apaga 2^%3 bytes, o que é demais: é omitido.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 apaga 4 KiB com %1, o que nenhum tipo de apagamento faz.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>A tabela de instruções de 4 bytes está vazia.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>A tabela de instruções de 4 bytes não tem comandos de apagamento.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>A tabela de instruções de 4 bytes indica o tipo de apagamento %1, que a tabela básica não tem.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>A tabela de instruções de 4 bytes indica o tipo de apagamento %1 e não tem comando para ele.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>Os setores do mapa de setores %1 somam %2 bytes, e o componente tem %3.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>Os setores do mapa de setores %1 são apagados por tipos que a tabela básica não tem.</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>O mapa de setores não tem fim.</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>tabela básica</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>mapa de setores</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>tabela de instruções de 4 bytes</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>tabela %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>O banco de dados %1 no servidor %2 foi substituído por outro durante o uso. Nada foi alterado: veja os dispositivos que há agora e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>O banco de dados %1 no servidor %2 agora é outro.</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>os certificados %1 não são um arquivo</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>sem motivo</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>a conexão está fechada</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>O servidor não copia.</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 não é uma configuração</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>senhas não pertencem aí: coloque-as no arquivo .pgpass do seu diretório pessoal</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 não é uma configuração. Há: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 aparece duas vezes</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 não pode ser %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>não começa com %1</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>não tem configurações</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>há hosts demais</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>“port” deve ser um para todos os hosts, ou um para cada</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>não diz qual “database” se quer</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>As configurações do servidor não podem ser usadas: %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>O arquivo %1 não pode ser usado: %2.</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>O diretório tem o banco de dados %1: indique o servidor em outro diretório e copie os registros para lá com “gfpdb copy”.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>O arquivo %1 não pode ser gravado: %2.</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>O banco de dados não pode guardar %1 de %2: não é um texto em UTF-8 ou contém o caractere NUL.</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>O dispositivo %1 está sendo alterado por outro programa: tente de novo.</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>Шаблон алгоритма</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>непарный суррогат — не символ</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>имя %1 встречается дважды</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>слишком глубокая вложенность значений</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>после конца есть текст</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>здесь объекту нужно имя в двойных кавычках</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>после %1 нет «:»</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>здесь объекту нужно «,» или «}»</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>здесь списку нужно «,» или «]»</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>после \u нужны четыре шестнадцатеричные цифры</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>строка не завершена</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>такой управляющей последовательности нет</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>в строке есть управляющий символ или перевод строки</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>строка не в UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>слишком большое число</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>ожидалось значение</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true или false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>число</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>строка</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>список</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>объект</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>Ожидалась строка, но найдено: %1.</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>Ожидался список, но найдено: %1.</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>Ожидался объект, но найдено: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>%1 здесь неизвестно. Допустимо: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>Отсутствует %1.</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>Не удаётся прочитать каталог микросхем %1: %2.</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>микросхема %1: %2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>сохранённый шаблон %1: %2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>Микросхема %1 уже есть в %2.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>Сохранённый шаблон %1 уже есть в %2.</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>Микросхема %1 существует с другим содержимым: --replace заменит её.</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>Сохранённый шаблон %1 существует с другим содержимым: --replace заменит его.</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>Имя микросхемы %1 занято сохранённым шаблоном.</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>Имя сохранённого шаблона %1 занято микросхемой.</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>Столбец отсутствует.</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>Неизвестный столбец. Допустимо: %1.</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>Столбец встречается дважды.</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>Кавычка, открытая в этой строке, не закрыта.</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>В строке 1 ячейка, в строке имён столбцов — %1.</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>Ячеек в строке: %1, в строке имён столбцов: %2.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>Не удаётся прочитать файл: %1.</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>Это не правильный JSON: %1.</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>Это не файл записей. Допустимо: %1.</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>Неизвестная версия формата. Допустимо: %1.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>Текст не в UTF-8.</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>Ожидалось целое число или null, но найдено: %1.</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>семейство микросхем</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>режим конфигурирования</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>алгоритм Single I/O</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>алгоритм Quad I/O</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>Эта операция встречается дважды.</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>Такой операции нет. Допустимо: %1.</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>Такого действия нет. Допустимо: %1.</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>Не удаётся прочитать алгоритмы %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>У микросхемы не более %1 холостых тактов Single I/O: копия получает это число, а в алгоритме остаётся %2, как у %3.</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>В режиме конфигурирования %1 нет микросхем последовательной флеш-памяти.</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>размер страницы</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>холостые такты Quad I/O</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1: %2 в списке, %3 по %4</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>байты адреса</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 или %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>стирание командой %1</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 байт</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>зарезервировано</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>включение Quad</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>базовая таблица: двойных слов в данных этой микросхемы — %1, здесь — %2</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>чтение 4-4-4: есть в данных этой микросхемы, но не здесь</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 — не число.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 вне диапазона: допустимо от %2 до %3.</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 больше 32Gb.</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 — не ёмкость вида 128Mb.</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 — не команда стирания вида %2 и не %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 — не степень двойки.</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>Значения %1 нет.</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>Нет значения %1: введите его.</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>Ёмкость не делится на число кристаллов: %1.</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>Ёмкость не делится на размер команды стирания %1.</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>Ёмкость %1 (%2) не та, которую обычно означает этот ID: %3.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 указывает ёмкость, которой не может быть у микросхемы: %1.</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>У микросхемы не более %1 холостых тактов Single I/O: она получает это число, а в алгоритме — %2.</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>В микросхеме есть таблица изготовителя %1, а её ID — изготовителя %2.</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>В списке нет микросхем этого изготовителя: предполагаются обычные команды.</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>Этот ID у нескольких микросхем из списка: %1.</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>У команд четыре байта адреса, но 4-байтная адресация не включается.</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>У команд три байта адреса, а микросхема в 4-байтной адресации.</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>Трёх байтов адреса не хватает на %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 указывает только три байта адреса, которых не хватает на %1: берутся четыре.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 указывает все способы перехода к 4-байтной адресации, а SFDP DW1 — три байта адреса: DW16 не учитывается.</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 не указывает пригодного для алгоритма способа перехода к 4-байтной адресации: берётся %1.</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>В SFDP нет размера страницы: берётся %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>Размер страницы из SFDP DW11 невозможен в алгоритме: берётся %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 задаёт способ включения Quad зарезервированным значением: найдите его и введите.</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>В SFDP не сказано, как включается Quad: берётся %1 (%2).</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>В SFDP нет чтения по четырём линиям: алгоритм Quad I/O его использует.</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>Нет команды стирания для всей микросхемы: она стирается целиком.</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>Четыре байта каждого двойного слова идут в обратном порядке.</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>Байты не начинаются с сигнатуры «SFDP».</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>Сигнатура «SFDP» находится в %1, а не в начале: перед ней добавлены байты.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>Данные обрываются в заголовке SFDP.</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>Неизвестная редакция SFDP %1: читаются редакции 1.x.</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>Неизвестная редакция %2 таблицы, которая не читается: %1.</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>Заголовков таблицы (%2): %1. Берётся заголовок редакции %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>Данные обрываются в заголовках параметров: есть %1 из %2.</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>Таблица начинается в %1: места хватает на заголовки параметров: %2, а не %3.</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>Заголовок параметров в %1 пуст.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>Таблица начинается в %2, внутри заголовков, и не читается: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>Таблица пуста: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>Таблицы нет в данных: %1. Она начинается в %2, а данные кончаются в %3.</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>Данные обрываются в таблице: %1. Двойных слов есть %2 из %3.</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>Таблица начинается в %2, что не кратно 4: %1.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>Таблицы перекрываются: %1, %2.</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>Байты в %1 не входят ни в одну таблицу и не читаются.</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>Нет базовой таблицы.</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>Базовая таблица пуста.</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>Двойных слов в базовой таблице: %1, а редакции %3 положено %2.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>В SFDP DW%1 нули там, где у всех микросхем единицы: байты могут отсутствовать или быть сдвинуты.</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 не указывает возможной ёмкости микросхемы: %1.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 задаёт число байтов адреса зарезервированным значением.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 указывает чтение %2, а в DW%3 нет его команды.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1: у типа стирания %2 нет команды: он пропущен.</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1: тип стирания %2 стирает 2^%3 байт, это слишком много: он пропущен.</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 стирает 4 КиБ командой %1, чего не делает ни один тип стирания.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>Таблица 4-байтных команд пуста.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>В таблице 4-байтных команд нет команд стирания.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>В таблице 4-байтных команд есть тип стирания %1, которого нет в базовой таблице.</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>В таблице 4-байтных команд есть тип стирания %1, но нет его команды.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>Секторы карты секторов %1 дают в сумме %2 байт, а у микросхемы — %3.</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>Секторы карты секторов %1 стираются типами, которых нет в базовой таблице.</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>У карты секторов нет конца.</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>базовая таблица</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>карта секторов</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>таблица 4-байтных команд</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>таблица %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>База данных %1 на сервере %2 была заменена другой во время работы. Ничего не изменено: посмотрите, какие микросхемы есть сейчас, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>База данных %1 на сервере %2 теперь другая.</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>сертификаты %1 — не файл</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>без причины</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>соединение закрыто</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>Сервер не копирует.</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 — не параметр</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>паролям там не место: поместите их в файл .pgpass в домашнем каталоге</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 — не параметр. Есть: %2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 встречается дважды</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 не может быть %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>он не начинается с %1</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>в нём нет параметров</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>указано слишком много узлов</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>«port» должен быть один для всех узлов или по одному для каждого</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>не указано, какая «database» имеется в виду</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>Параметры сервера нельзя использовать: %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>Файл %1 нельзя использовать: %2.</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>В каталоге есть база данных %1: укажите сервер в другом каталоге и скопируйте туда записи командой «gfpdb copy».</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>Не удаётся записать файл %1: %2.</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>База данных не может хранить %1 записи %2: это не текст в UTF-8 или в нём есть символ NUL.</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>Микросхему %1 сейчас меняет другая программа: повторите попытку.</translation>
+    </message>
 </context>
 </TS>

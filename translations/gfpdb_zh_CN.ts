@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>流程模板</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>未配对的代理项不是字符</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>名称 %1 出现两次</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>值嵌套过深</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>结尾之后还有文本</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>此处对象需要用双引号括起的名称</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>%1 之后缺少冒号</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>此处对象需要“,”或“}”</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>此处列表需要“,”或“]”</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u 需要四位十六进制数字</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>字符串未结束</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>没有此转义序列</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>字符串中有控制字符或换行</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>字符串不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>数字过大</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>应为一个值</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true 或 false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>字符串</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>应为字符串，但此处是：%1。</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>应为列表，但此处是：%1。</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>应为对象，但此处是：%1。</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>此处不能识别 %1。允许：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>缺少 %1。</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>无法读取目录 %1：%2。</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>器件 %1：%2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>已保存的模板 %1：%2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>器件 %1 已在 %2 中。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>已保存的模板 %1 已在 %2 中。</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>器件 %1 已存在但内容不同：--replace 可将其替换。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>已保存的模板 %1 已存在但内容不同：--replace 可将其替换。</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>器件 %1 的名称是某个已保存模板的名称。</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>已保存的模板 %1 的名称是某个器件的名称。</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>缺少此列。</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>未知的列。允许：%1。</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>此列出现两次。</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>此行中打开的引号没有关闭。</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>此行有 1 个单元格，列名行有 %1 个。</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>此行有 %1 个单元格，列名行有 %2 个。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>无法读取文件：%1。</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>不是有效的 JSON：%1。</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>这不是记录文件。允许：%1。</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>未知的格式版本。允许：%1。</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>文本不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>应为整数或 null，但此处是：%1。</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>器件系列</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>配置模式</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>单线 I/O 流程</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>四线 I/O 流程</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>此操作出现两次。</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>没有此操作。允许：%1。</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>没有此动作。允许：%1。</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>无法读取 %1 的流程。</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>器件最多有 %1 个单线 I/O 空时钟周期：副本采用此值，其流程仍为 %3 的 %2 个。</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>配置模式 %1 没有串行闪存器件。</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>页大小</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>四线 I/O 空时钟周期</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1：列表中为 %2，%4 中为 %3</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>地址字节数</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 或 %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>用 %1 擦除</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 字节</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>四线使能</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>基本表：此型号的读出数据有 %1 个双字，此处有 %2 个</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>4-4-4 读取：此型号的读出数据中有，此处没有</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 不是数字。</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 超出范围：允许 %2 到 %3。</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 大于 32Gb。</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 不是像 128Mb 这样的容量。</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 既不是像 %2 这样的擦除命令，也不是%3。</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 不是 2 的幂。</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>没有值 %1。</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>缺少值 %1：请输入。</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>裸片数 %1 不能整除容量。</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>擦除命令 %1 不能整除容量。</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>容量 %1（%2）与该 ID 通常表示的 %3 不符。</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 给出的容量任何器件都不可能有：%1。</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>器件最多有 %1 个单线 I/O 空时钟周期：采用此值，其流程为 %2 个。</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>芯片有制造商 %1 的表，而其 ID 属于制造商 %2。</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>列表中没有型号能说明该制造商型号的共同点：假定采用常用命令。</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>多个已列型号具有此 ID：%1。</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>命令有四个地址字节，但没有进入 4 字节寻址的方式。</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>命令有三个地址字节，而器件处于 4 字节寻址。</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>三个地址字节无法访问全部 %1。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 只列出三个地址字节，无法访问全部 %1：采用四个。</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 列出所有进入 4 字节寻址的方式，而 SFDP DW1 为三个地址字节：忽略 DW16。</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 未列出流程可用的进入 4 字节寻址的方式：采用 %1。</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP 没有页大小：采用 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 的页大小任何流程都不能使用：采用 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 用保留值表示四线使能方式：请查阅后输入。</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP 未说明四线使能方式：采用 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP 未列出四线读取：四线 I/O 流程会使用它。</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>没有适用于整个型号的擦除命令：将一次擦除整个芯片。</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>每个双字的四个字节顺序相反。</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>字节不以签名“SFDP”开头。</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>签名“SFDP”在 %1 处而不在开头：其前面加入了字节。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>读出数据在 SFDP 头内结束。</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>未知的 SFDP 修订版 %1：可读取修订版 1.x。</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>%1的修订版 %2 未知：不读取。</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>%2有 %1 个头：采用修订版 %3 的头。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>读出数据在参数头内结束：%2 个中有 %1 个。</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>有一个表从 %1 开始：只能容纳 %2 个参数头，而不是 %3 个。</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>%1 处的参数头为空。</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>%1从头内的 %2 开始：不读取。</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1为空。</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>%1不在读出数据中：它从 %2 开始，而数据在 %3 结束。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>读出数据在%1内结束：%3 个双字中有 %2 个。</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>%1从 %2 开始，它不是 4 的倍数。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>%1与%2重叠。</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>%1 处的字节不在任何表中：不读取。</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>没有基本表。</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>基本表为空。</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>基本表有 %1 个双字：修订版 %3 应有 %2 个。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 中所有型号都为 1 的位是 0：字节可能缺失或移位。</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 给出的不是型号可能有的容量：%1。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 用保留值表示地址字节数。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 列出 %2 读取，而 DW%3 没有其命令。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1：擦除类型 %2 没有命令：将其略去。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1：擦除类型 %2 擦除 2^%3 字节，过大：将其略去。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 用 %1 擦除 4 KiB，而没有擦除类型这样做。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>4 字节指令表为空。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>4 字节指令表没有擦除命令。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>4 字节指令表列出擦除类型 %1，而基本表没有。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>4 字节指令表列出擦除类型 %1，但没有其命令。</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>扇区映射 %1 的扇区共 %2 字节，而型号有 %3 字节。</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>扇区映射 %1 的扇区使用基本表没有的类型擦除。</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>扇区映射没有结尾。</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>基本表</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>扇区映射</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>4 字节指令表</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>表 %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>服务器 %2 上的数据库 %1 在使用期间被另一个数据库替换。未作任何更改：请查看现有器件，然后重试。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>服务器 %2 上的数据库 %1 现在是另一个数据库。</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>证书 %1 不是文件</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>无原因</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>连接已关闭</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>服务器不进行复制。</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 不是设置</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>密码不应放在其中：请放入主目录中的文件 .pgpass</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 不是设置。可用设置：%2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 出现两次</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 不能为 %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>它不以 %1 开头</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>它没有设置</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>主机过多</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>“port”必须是所有主机共用一个，或每个主机一个</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>未指定是哪个“database”</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>无法使用服务器的设置：%1。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>无法使用文件 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>该目录有数据库 %1：请在另一目录中指定服务器，并用“gfpdb copy”将记录复制到那里。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>无法写入文件 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>数据库无法保存 %2 的 %1：它不是 UTF-8 文本，或含有 NUL 字符。</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>器件 %1 正被其他程序更改：请重试。</translation>
+    </message>
 </context>
 </TS>

@@ -838,5 +838,633 @@
         <source>Flow template</source>
         <translation>流程範本</translation>
     </message>
+    <message>
+        <source>an unpaired surrogate is not a character</source>
+        <translation>未成對的代理項不是字元</translation>
+    </message>
+    <message>
+        <source>the name %1 occurs twice</source>
+        <translation>名稱 %1 出現兩次</translation>
+    </message>
+    <message>
+        <source>values are nested too deeply</source>
+        <translation>值的巢狀過深</translation>
+    </message>
+    <message>
+        <source>there is text after the end</source>
+        <translation>結尾之後還有文字</translation>
+    </message>
+    <message>
+        <source>an object needs a name in double quotes here</source>
+        <translation>此處物件需要以雙引號括住的名稱</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; is missing after %1</source>
+        <translation>%1 之後缺少冒號</translation>
+    </message>
+    <message>
+        <source>an object needs &quot;,&quot; or &quot;}&quot; here</source>
+        <translation>此處物件需要「,」或「}」</translation>
+    </message>
+    <message>
+        <source>a list needs &quot;,&quot; or &quot;]&quot; here</source>
+        <translation>此處清單需要「,」或「]」</translation>
+    </message>
+    <message>
+        <source>\u needs four hexadecimal digits</source>
+        <translation>\u 需要四位十六進位數字</translation>
+    </message>
+    <message>
+        <source>a string is not terminated</source>
+        <translation>字串未結束</translation>
+    </message>
+    <message>
+        <source>there is no such escape</source>
+        <translation>沒有此逸出序列</translation>
+    </message>
+    <message>
+        <source>a string has a control character or a line break in it</source>
+        <translation>字串中有控制字元或換行</translation>
+    </message>
+    <message>
+        <source>a string is not UTF-8</source>
+        <translation>字串不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>a number is too large</source>
+        <translation>數字過大</translation>
+    </message>
+    <message>
+        <source>a value was expected</source>
+        <translation>應為一個值</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true 或 false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>數字</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>字串</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>清單</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>物件</translation>
+    </message>
+    <message>
+        <source>A string was expected, but this is %1.</source>
+        <translation>應為字串，但此處是：%1。</translation>
+    </message>
+    <message>
+        <source>A list was expected, but this is %1.</source>
+        <translation>應為清單，但此處是：%1。</translation>
+    </message>
+    <message>
+        <source>An object was expected, but this is %1.</source>
+        <translation>應為物件，但此處是：%1。</translation>
+    </message>
+    <message>
+        <source>%1 is not known here. Allowed: %2.</source>
+        <translation>此處無法識別 %1。允許：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>缺少 %1。</translation>
+    </message>
+    <message>
+        <source>The catalogue %1 cannot be read: %2.</source>
+        <translation>無法讀取目錄 %1：%2。</translation>
+    </message>
+    <message>
+        <source>device %1: %2</source>
+        <translation>元件 %1：%2</translation>
+    </message>
+    <message>
+        <source>stored template %1: %2</source>
+        <translation>已儲存的範本 %1：%2</translation>
+    </message>
+    <message>
+        <source>The device %1 is already in %2.</source>
+        <translation>元件 %1 已在 %2 中。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 is already in %2.</source>
+        <translation>已儲存的範本 %1 已在 %2 中。</translation>
+    </message>
+    <message>
+        <source>The device %1 exists with different content: --replace replaces it.</source>
+        <translation>元件 %1 已存在但內容不同：--replace 可將其取代。</translation>
+    </message>
+    <message>
+        <source>The stored template %1 exists with different content: --replace replaces it.</source>
+        <translation>已儲存的範本 %1 已存在但內容不同：--replace 可將其取代。</translation>
+    </message>
+    <message>
+        <source>The name of the device %1 is that of a stored template.</source>
+        <translation>元件 %1 的名稱是某個已儲存範本的名稱。</translation>
+    </message>
+    <message>
+        <source>The name of the stored template %1 is that of a device.</source>
+        <translation>已儲存的範本 %1 的名稱是某個元件的名稱。</translation>
+    </message>
+    <message>
+        <source>The column is missing.</source>
+        <translation>缺少此欄。</translation>
+    </message>
+    <message>
+        <source>The column is not known. Allowed: %1.</source>
+        <translation>未知的欄。允許：%1。</translation>
+    </message>
+    <message>
+        <source>The column occurs twice.</source>
+        <translation>此欄出現兩次。</translation>
+    </message>
+    <message>
+        <source>A quote that opens in this row is never closed.</source>
+        <translation>此列中開啟的引號沒有關閉。</translation>
+    </message>
+    <message>
+        <source>The row has 1 cell, the line of column names has %1.</source>
+        <translation>此列有 1 個儲存格，欄名列有 %1 個。</translation>
+    </message>
+    <message>
+        <source>The row has %1 cells, the line of column names has %2.</source>
+        <translation>此列有 %1 個儲存格，欄名列有 %2 個。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>無法讀取檔案：%1。</translation>
+    </message>
+    <message>
+        <source>This is not valid JSON: %1.</source>
+        <translation>不是有效的 JSON：%1。</translation>
+    </message>
+    <message>
+        <source>This is not a file of records. Allowed: %1.</source>
+        <translation>這不是記錄檔案。允許：%1。</translation>
+    </message>
+    <message>
+        <source>This version of the format is not known. Allowed: %1.</source>
+        <translation>未知的格式版本。允許：%1。</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>文字不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>A whole number or null was expected, but this is %1.</source>
+        <translation>應為整數或 null，但此處是：%1。</translation>
+    </message>
+    <message>
+        <source>device family</source>
+        <translation>元件系列</translation>
+    </message>
+    <message>
+        <source>configuration mode</source>
+        <translation>組態模式</translation>
+    </message>
+    <message>
+        <source>single-I/O flow</source>
+        <translation>單線 I/O 流程</translation>
+    </message>
+    <message>
+        <source>quad-I/O flow</source>
+        <translation>四線 I/O 流程</translation>
+    </message>
+    <message>
+        <source>This operation occurs twice.</source>
+        <translation>此操作出現兩次。</translation>
+    </message>
+    <message>
+        <source>There is no such operation. Allowed: %1.</source>
+        <translation>沒有此操作。允許：%1。</translation>
+    </message>
+    <message>
+        <source>There is no such action. Allowed: %1.</source>
+        <translation>沒有此動作。允許：%1。</translation>
+    </message>
+    <message>
+        <source>The flows of %1 cannot be read.</source>
+        <translation>無法讀取 %1 的流程。</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: the copy gets these, and its flow has the %2 of %3.</source>
+        <translation>元件最多有 %1 個單線 I/O 空時脈週期：副本採用此值，其流程仍為 %3 的 %2 個。</translation>
+    </message>
+    <message>
+        <source>The configuration mode %1 has no serial flash devices.</source>
+        <translation>組態模式 %1 沒有序列快閃記憶體元件。</translation>
+    </message>
+    <message>
+        <source>page size</source>
+        <translation>頁大小</translation>
+    </message>
+    <message>
+        <source>quad-I/O dummy clocks</source>
+        <translation>四線 I/O 空時脈週期</translation>
+    </message>
+    <message>
+        <source>%1: %2 in the list, %3 by %4</source>
+        <translation>%1：清單中為 %2，%4 中為 %3</translation>
+    </message>
+    <message>
+        <source>address bytes</source>
+        <translation>位址位元組數</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 或 %2</translation>
+    </message>
+    <message>
+        <source>erase by %1</source>
+        <translation>以 %1 抹除</translation>
+    </message>
+    <message>
+        <source>not</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 位元組</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>quad enable</source>
+        <translation>四線啟用</translation>
+    </message>
+    <message>
+        <source>basic table: %1 double words in read-outs of this part, %2 here</source>
+        <translation>基本表：此型號的讀出資料有 %1 個雙字，此處有 %2 個</translation>
+    </message>
+    <message>
+        <source>4-4-4 read: in read-outs of this part, but not here</source>
+        <translation>4-4-4 讀取：此型號的讀出資料中有，此處沒有</translation>
+    </message>
+    <message>
+        <source>%1 is not a number.</source>
+        <translation>%1 不是數字。</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: %2 to %3 are allowed.</source>
+        <translation>%1 超出範圍：允許 %2 到 %3。</translation>
+    </message>
+    <message>
+        <source>%1 is more than 32Gb.</source>
+        <translation>%1 大於 32Gb。</translation>
+    </message>
+    <message>
+        <source>%1 is not a density such as 128Mb.</source>
+        <translation>%1 不是像 128Mb 這樣的容量。</translation>
+    </message>
+    <message>
+        <source>%1 is neither an erase command such as %2 nor %3.</source>
+        <translation>%1 既不是像 %2 這樣的抹除指令，也不是%3。</translation>
+    </message>
+    <message>
+        <source>%1 is not a power of two.</source>
+        <translation>%1 不是 2 的冪。</translation>
+    </message>
+    <message>
+        <source>There is no value %1.</source>
+        <translation>沒有值 %1。</translation>
+    </message>
+    <message>
+        <source>The value %1 is missing: enter it.</source>
+        <translation>缺少值 %1：請輸入。</translation>
+    </message>
+    <message>
+        <source>The number of dies, %1, does not divide the density.</source>
+        <translation>晶粒數 %1 不能整除容量。</translation>
+    </message>
+    <message>
+        <source>The erase command %1 does not divide the density.</source>
+        <translation>抹除指令 %1 不能整除容量。</translation>
+    </message>
+    <message>
+        <source>The density %1 (%2) is not what the ID usually stands for, which is %3.</source>
+        <translation>容量 %1（%2）與該 ID 通常表示的 %3 不符。</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says a density that no device can have: %1.</source>
+        <translation>SFDP DW2 給出的容量任何元件都不可能有：%1。</translation>
+    </message>
+    <message>
+        <source>A device has at most %1 single-I/O dummy clocks: it gets these, and its flow has %2.</source>
+        <translation>元件最多有 %1 個單線 I/O 空時脈週期：採用此值，其流程為 %2 個。</translation>
+    </message>
+    <message>
+        <source>The chip has a table of the maker %1, and its ID is of the maker %2.</source>
+        <translation>晶片有製造商 %1 的表，而其 ID 屬於製造商 %2。</translation>
+    </message>
+    <message>
+        <source>No listed part tells what the maker&apos;s parts have in common: usual commands are assumed.</source>
+        <translation>清單中沒有型號能說明該製造商型號的共同點：假定採用常用指令。</translation>
+    </message>
+    <message>
+        <source>Several listed parts have this ID: %1.</source>
+        <translation>多個已列型號具有此 ID：%1。</translation>
+    </message>
+    <message>
+        <source>The commands have four address bytes, and nothing enters 4-byte addressing.</source>
+        <translation>指令有四個位址位元組，但沒有進入 4 位元組定址的方式。</translation>
+    </message>
+    <message>
+        <source>The commands have three address bytes, and the device is in 4-byte addressing.</source>
+        <translation>指令有三個位址位元組，而元件處於 4 位元組定址。</translation>
+    </message>
+    <message>
+        <source>Three address bytes do not reach all of %1.</source>
+        <translation>三個位址位元組無法存取全部 %1。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 lists three address bytes alone, which do not reach all of %1: four are taken.</source>
+        <translation>SFDP DW1 只列出三個位址位元組，無法存取全部 %1：採用四個。</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists every way into 4-byte addressing, and SFDP DW1 three address bytes: DW16 is ignored.</source>
+        <translation>SFDP DW16 列出所有進入 4 位元組定址的方式，而 SFDP DW1 為三個位址位元組：忽略 DW16。</translation>
+    </message>
+    <message>
+        <source>SFDP DW16 lists no way into 4-byte addressing that a flow can take: %1 is taken.</source>
+        <translation>SFDP DW16 未列出流程可用的進入 4 位元組定址的方式：採用 %1。</translation>
+    </message>
+    <message>
+        <source>SFDP has no page size: %1 is taken (%2).</source>
+        <translation>SFDP 沒有頁大小：採用 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>SFDP DW11 has a page size that no flow can have: %1 is taken (%2).</source>
+        <translation>SFDP DW11 的頁大小任何流程都不能使用：採用 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>SFDP DW15 says with a reserved value how quad is enabled: look it up and enter it.</source>
+        <translation>SFDP DW15 以保留值表示四線啟用方式：請查閱後輸入。</translation>
+    </message>
+    <message>
+        <source>SFDP does not say how quad is enabled: %1 is taken (%2).</source>
+        <translation>SFDP 未說明四線啟用方式：採用 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>SFDP lists no read on four lines: the quad-I/O flow uses one.</source>
+        <translation>SFDP 未列出四線讀取：四線 I/O 流程會使用它。</translation>
+    </message>
+    <message>
+        <source>No erase command serves the whole part: the chip is erased at once.</source>
+        <translation>沒有適用於整個型號的抹除指令：將一次抹除整個晶片。</translation>
+    </message>
+    <message>
+        <source>The four bytes of each double word are in reverse order.</source>
+        <translation>每個雙字的四個位元組順序相反。</translation>
+    </message>
+    <message>
+        <source>The bytes do not begin with the signature &quot;SFDP&quot;.</source>
+        <translation>位元組不以簽章「SFDP」開頭。</translation>
+    </message>
+    <message>
+        <source>The signature &quot;SFDP&quot; is at %1 and not at the start: bytes were added before it.</source>
+        <translation>簽章「SFDP」在 %1 處而不在開頭：其前面加入了位元組。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the SFDP header.</source>
+        <translation>讀出資料在 SFDP 標頭內結束。</translation>
+    </message>
+    <message>
+        <source>SFDP revision %1 is unknown: revisions 1.x can be read.</source>
+        <translation>未知的 SFDP 修訂版 %1：可讀取修訂版 1.x。</translation>
+    </message>
+    <message>
+        <source>%1 has the unknown revision %2: it is not read.</source>
+        <translation>%1的修訂版 %2 未知：不讀取。</translation>
+    </message>
+    <message>
+        <source>There are %1 headers of %2: the one of revision %3 is taken.</source>
+        <translation>%2有 %1 個標頭：採用修訂版 %3 的標頭。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within the parameter headers: %1 of %2 are there.</source>
+        <translation>讀出資料在參數標頭內結束：%2 個中有 %1 個。</translation>
+    </message>
+    <message>
+        <source>A table begins at %1: there is room for %2 parameter headers, not for %3.</source>
+        <translation>有一個表從 %1 開始：只能容納 %2 個參數標頭，而不是 %3 個。</translation>
+    </message>
+    <message>
+        <source>The parameter header at %1 is blank.</source>
+        <translation>%1 處的參數標頭為空。</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, within the headers: it is not read.</source>
+        <translation>%1從標頭內的 %2 開始：不讀取。</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1為空。</translation>
+    </message>
+    <message>
+        <source>%1 is not in the read-out: it begins at %2, and the read-out ends at %3.</source>
+        <translation>%1不在讀出資料中：它從 %2 開始，而資料在 %3 結束。</translation>
+    </message>
+    <message>
+        <source>The read-out ends within %1: %2 of %3 double words are there.</source>
+        <translation>讀出資料在%1內結束：%3 個雙字中有 %2 個。</translation>
+    </message>
+    <message>
+        <source>%1 begins at %2, which is not a multiple of 4.</source>
+        <translation>%1從 %2 開始，它不是 4 的倍數。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 overlap.</source>
+        <translation>%1與%2重疊。</translation>
+    </message>
+    <message>
+        <source>The bytes at %1 are in no table: they are not read.</source>
+        <translation>%1 處的位元組不在任何表中：不讀取。</translation>
+    </message>
+    <message>
+        <source>There is no basic table.</source>
+        <translation>沒有基本表。</translation>
+    </message>
+    <message>
+        <source>The basic table is blank.</source>
+        <translation>基本表為空。</translation>
+    </message>
+    <message>
+        <source>The basic table has %1 double words: %2 belong to its revision %3.</source>
+        <translation>基本表有 %1 個雙字：修訂版 %3 應有 %2 個。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 has zeros where every part has ones: bytes may be missing or shifted.</source>
+        <translation>SFDP DW%1 中所有型號都為 1 的位元是 0：位元組可能缺失或移位。</translation>
+    </message>
+    <message>
+        <source>SFDP DW2 says no density that a part can have: %1.</source>
+        <translation>SFDP DW2 給出的不是型號可能有的容量：%1。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 says with a reserved value how many address bytes there are.</source>
+        <translation>SFDP DW1 以保留值表示位址位元組數。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1 lists the %2 read, and DW%3 has no command for it.</source>
+        <translation>SFDP DW%1 列出 %2 讀取，而 DW%3 沒有其指令。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 has no command: it is left out.</source>
+        <translation>SFDP DW%1：抹除類型 %2 沒有指令：將其略去。</translation>
+    </message>
+    <message>
+        <source>SFDP DW%1: erase type %2 erases 2^%3 bytes, which is too much: it is left out.</source>
+        <translation>SFDP DW%1：抹除類型 %2 抹除 2^%3 位元組，過大：將其略去。</translation>
+    </message>
+    <message>
+        <source>SFDP DW1 erases 4 KiB by %1, which no erase type does.</source>
+        <translation>SFDP DW1 以 %1 抹除 4 KiB，而沒有抹除類型這樣做。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions is blank.</source>
+        <translation>4 位元組指令表為空。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions has no erase commands.</source>
+        <translation>4 位元組指令表沒有抹除指令。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1, which the basic table does not have.</source>
+        <translation>4 位元組指令表列出抹除類型 %1，而基本表沒有。</translation>
+    </message>
+    <message>
+        <source>The table of 4-byte instructions lists erase type %1 and has no command for it.</source>
+        <translation>4 位元組指令表列出抹除類型 %1，但沒有其指令。</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 come to %2 bytes, and the part has %3.</source>
+        <translation>磁區對應 %1 的磁區共 %2 位元組，而型號有 %3 位元組。</translation>
+    </message>
+    <message>
+        <source>The sectors of sector map %1 are erased by types that the basic table does not have.</source>
+        <translation>磁區對應 %1 的磁區使用基本表沒有的類型抹除。</translation>
+    </message>
+    <message>
+        <source>The sector map has no end.</source>
+        <translation>磁區對應沒有結尾。</translation>
+    </message>
+    <message>
+        <source>the basic table</source>
+        <translation>基本表</translation>
+    </message>
+    <message>
+        <source>the sector map</source>
+        <translation>磁區對應</translation>
+    </message>
+    <message>
+        <source>the table of 4-byte instructions</source>
+        <translation>4 位元組指令表</translation>
+    </message>
+    <message>
+        <source>the table %1</source>
+        <translation>表 %1</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 was replaced by another one while it was in use. Nothing was changed: look at the devices that are there now, then try again.</source>
+        <translation>伺服器 %2 上的資料庫 %1 在使用期間被另一個資料庫取代。未作任何變更：請檢視現有元件，然後重試。</translation>
+    </message>
+    <message>
+        <source>The database %1 on the server %2 is another one now.</source>
+        <translation>伺服器 %2 上的資料庫 %1 現在是另一個資料庫。</translation>
+    </message>
+    <message>
+        <source>the certificates %1 are not a file</source>
+        <translation>憑證 %1 不是檔案</translation>
+    </message>
+    <message>
+        <source>no reason</source>
+        <translation>無原因</translation>
+    </message>
+    <message>
+        <source>the connection is closed</source>
+        <translation>連線已關閉</translation>
+    </message>
+    <message>
+        <source>The server does not copy.</source>
+        <translation>伺服器不進行複製。</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting</source>
+        <translation>%1 不是設定</translation>
+    </message>
+    <message>
+        <source>passwords do not belong into it: put them into the file .pgpass in your home directory</source>
+        <translation>密碼不應放在其中：請放入家目錄中的檔案 .pgpass</translation>
+    </message>
+    <message>
+        <source>%1 is not a setting. There are: %2</source>
+        <translation>%1 不是設定。可用設定：%2</translation>
+    </message>
+    <message>
+        <source>%1 is there twice</source>
+        <translation>%1 出現兩次</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2</source>
+        <translation>%1 不能為 %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with %1</source>
+        <translation>它不以 %1 開頭</translation>
+    </message>
+    <message>
+        <source>it has no settings</source>
+        <translation>它沒有設定</translation>
+    </message>
+    <message>
+        <source>it names too many hosts</source>
+        <translation>主機過多</translation>
+    </message>
+    <message>
+        <source>&quot;port&quot; must be one for all hosts, or one for each</source>
+        <translation>「port」必須是所有主機共用一個，或每個主機一個</translation>
+    </message>
+    <message>
+        <source>it does not say which &quot;database&quot; is meant</source>
+        <translation>未指定是哪個「database」</translation>
+    </message>
+    <message>
+        <source>The settings of the server cannot be used: %1.</source>
+        <translation>無法使用伺服器的設定：%1。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used: %2.</source>
+        <translation>無法使用檔案 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The directory has the database %1: name the server in another directory, and copy the records there with &quot;gfpdb copy&quot;.</source>
+        <translation>該目錄有資料庫 %1：請在另一目錄中指定伺服器，並以「gfpdb copy」將記錄複製到那裡。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <translation>無法寫入檔案 %1：%2。</translation>
+    </message>
+    <message>
+        <source>The database cannot keep %1 of %2: it is not a text in UTF-8, or has the character NUL.</source>
+        <translation>資料庫無法儲存 %2 的 %1：它不是 UTF-8 文字，或含有 NUL 字元。</translation>
+    </message>
+    <message>
+        <source>The device %1 is being changed by another program: try again.</source>
+        <translation>元件 %1 正被其他程式變更：請重試。</translation>
+    </message>
 </context>
 </TS>

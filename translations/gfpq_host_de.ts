@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>Die Ablaufdiagramme sind in %1.</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>Dateien mit Datensätzen</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>Den Baustein „%1“ gibt es nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>Ausgewählte Datensätze: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>Alle gespeicherten Bausteine und Vorlagen</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>Alle eingebauten Bausteine</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>Eine JSON-Datei</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>Eine JSON-Datei je Datensatz</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>CSV-Liste der Bausteine, ohne Abläufe</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>Für eine &amp;Tabellenkalkulation (kann nicht wieder importiert werden)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>Texte, die eine Tabellenkalkulation als Formeln ausführen würde, bekommen einen Apostroph.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>&amp;Datensätze:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Nach:</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>Verzeichnis für die Dateien</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>Datei für die Datensätze</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>Diese Dateien gibt es schon:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Er&amp;setzen</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>Geben Sie an, wohin die Datensätze geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>Es gibt nichts zu exportieren.</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>Exportierte Datensätze: %1, nach %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>Diese können nicht gelesen werden und sind nicht exportiert:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Die eingebauten Bausteine sind öffentliche Angaben über Flash-Bausteine. Die N
     <message>
         <source>A state was removed from the history.</source>
         <translation>Ein Stand wurde aus dem Verlauf entfernt.</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>Importieren: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>Wie in den Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>Abweichende Datensätze e&amp;rsetzen</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Baustein&amp;familie:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>Konfigurations&amp;modus:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Vergleichen...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>Die Dateien werden gelesen.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>Solange es Probleme gibt, wird nichts importiert.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Es gibt nichts zu importieren.</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>In der Datei</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>Die Datensätze werden gespeichert.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>Nichts wurde importiert: %1
+Die Vorschau wurde neu erstellt.</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>Importiert nach %1. Neu: %2, ersetzt: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>Wird ersetzt</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>Weicht ab, nicht importiert</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Bereits vorhanden</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1: weicht ab</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1: gespeichert %2, in der Datei %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>Unterschiede: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Die eingebauten Bausteine sind öffentliche Angaben über Flash-Bausteine. Die N
     <message>
         <source>The flow cannot be read.</source>
         <translation>Der Ablauf ist nicht lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importar...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportar...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>Los diagramas de flujo están en %1.</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>Archivos de registros</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Registros</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>El dispositivo «%1» no existe.</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>Registros seleccionados: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>Todos los dispositivos y plantillas guardados</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>Todos los dispositivos integrados</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>Un archivo JSON</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>Un archivo JSON por registro</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>Lista CSV de los dispositivos, sin flujos</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>Para una &amp;hoja de cálculo (no se puede volver a importar)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>Los textos que una hoja de cálculo ejecutaría como fórmulas reciben un apóstrofo.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>E&amp;xaminar...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>&amp;Registros:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Destino:</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>Directorio para los archivos</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>Archivo para los registros</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>Estos archivos ya existen:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Reem&amp;plazar</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>Indique el destino de los registros.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>No hay nada que exportar.</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>Registros exportados: %1, en %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>Estos no se pueden leer y no se exportan:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Los dispositivos integrados son datos públicos sobre memorias flash. Los nombre
     <message>
         <source>A state was removed from the history.</source>
         <translation>Se quitó un estado del historial.</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>Importar: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>Como en los archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>&amp;Reemplazar los registros que difieran</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Fa&amp;milia de dispositivos:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>Modo de confi&amp;guración:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Comparar...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>Se están leyendo los archivos.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>No se importa nada mientras haya problemas.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>No hay nada que importar.</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Guardado</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>En el archivo</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>Se están guardando los registros.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>No se importó nada: %1
+La vista previa se hizo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>Importado en %1. Nuevos: %2, reemplazados: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>Se reemplazará</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>Difiere, no se importa</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Ya existe</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1: difiere</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1: guardado %2, en el archivo %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>Difiere en: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familia</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Observación</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Los dispositivos integrados son datos públicos sobre memorias flash. Los nombre
     <message>
         <source>The flow cannot be read.</source>
         <translation>No se puede leer el flujo.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>No se puede escribir el archivo %1: %2</translation>
     </message>
 </context>
 <context>

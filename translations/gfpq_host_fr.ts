@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importer...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exporter...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>Les organigrammes sont dans %1.</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>Fichiers d’enregistrements</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Enregistrements</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>Le composant «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>Enregistrements sélectionnés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>Tous les composants et modèles enregistrés</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>Tous les composants intégrés</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>Un seul fichier JSON</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>Un fichier JSON par enregistrement</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>Liste CSV des composants, sans flots</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>Pour un &amp;tableur (ne peut plus être importé)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>Les textes qu’un tableur exécuterait comme formules reçoivent une apostrophe.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>En&amp;registrements&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Destination&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exporter</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>Répertoire des fichiers</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>Fichier des enregistrements</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>Ces fichiers existent déjà&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Re&amp;mplacer</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>Indiquez la destination des enregistrements.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>Il n’y a rien à exporter.</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>Enregistrements exportés&#xa0;: %1, dans %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>Ceux-ci ne peuvent pas être lus et ne sont pas exportés&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Les composants intégrés sont des données publiques sur les composants flash. 
     <message>
         <source>A state was removed from the history.</source>
         <translation>Un état a été retiré de l’historique.</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>Importer&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>Comme dans les fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>&amp;Remplacer les enregistrements différents</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>F&amp;amille de composants&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Mode de configuration&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importer</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Comparer...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>Lecture des fichiers en cours.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>Rien n’est importé tant qu’il y a des problèmes.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Il n’y a rien à importer.</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>Dans le fichier</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>Enregistrement des données en cours.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>Rien n’a été importé&#xa0;: %1
+L’aperçu a été refait.</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>Importé dans %1. Nouveaux&#xa0;: %2, remplacés&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>Sera remplacé</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>Diffère, non importé</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Existe déjà</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1&#xa0;: diffère</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1&#xa0;: enregistré %2, dans le fichier %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>Différences&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famille</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Remarque</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Les composants intégrés sont des données publiques sur les composants flash. 
     <message>
         <source>The flow cannot be read.</source>
         <translation>Le flot est illisible.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>&amp;Chiudi</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importa...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Esporta...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>I diagrammi di flusso sono in %1.</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>File di record</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Record</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>Il dispositivo «%1» non esiste.</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>Esporta</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>Record selezionati: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>Tutti i dispositivi e i modelli salvati</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>Tutti i dispositivi integrati</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>Un unico file JSON</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>Un file JSON per ogni record</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>Elenco CSV dei dispositivi, senza flussi</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>Per un &amp;foglio di calcolo (non può essere importato di nuovo)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>I testi che un foglio di calcolo eseguirebbe come formule ricevono un apostrofo.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Sfoglia...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>&amp;Record:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>For&amp;mato:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Destinazione:</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Esporta</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>Cartella per i file</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>File per i record</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>Questi file esistono già:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Sos&amp;tituisci</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>Indicare la destinazione dei record.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>Non c’è nulla da esportare.</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>Record esportati: %1, in %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>Questi non possono essere letti e non vengono esportati:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ I dispositivi integrati sono dati pubblici sui componenti flash. I nomi apparten
     <message>
         <source>A state was removed from the history.</source>
         <translation>Uno stato è stato rimosso dalla cronologia.</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>Importa: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>Come nei file</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>&amp;Sostituire i record diversi</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Famiglia di dispositivi:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Modalità di configurazione:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Dettagli</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importa</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Confronta...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>Lettura dei file in corso.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>Finché ci sono problemi non viene importato nulla.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Non c’è nulla da importare.</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Salvato</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>Nel file</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>Salvataggio dei record in corso.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>Non è stato importato nulla: %1
+L’anteprima è stata rifatta.</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>Importato in %1. Nuovi: %2, sostituiti: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>Verrà sostituito</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>Diverso, non importato</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Esiste già</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1: diverso</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1: salvato %2, nel file %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>Differenze: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famiglia</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modalità</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Riga</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Nota</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ I dispositivi integrati sono dati pubblici sui componenti flash. I nomi apparten
     <message>
         <source>The flow cannot be read.</source>
         <translation>Impossibile leggere il flusso.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Impossibile scrivere il file %1: %2</translation>
     </message>
 </context>
 <context>

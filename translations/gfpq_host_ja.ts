@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>閉じる(&amp;C)</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>インポート(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>エクスポート(&amp;E)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>フローチャートを %1 に保存しました。</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>レコードのファイル</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>レコード</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>デバイス「%1」は存在しません。</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>選択したレコード: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>保存済みのすべてのデバイスとテンプレート</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>組み込みのすべてのデバイス</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>1 つの JSON ファイル</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>レコードごとに 1 つの JSON ファイル</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>デバイスの CSV リスト(フローなし)</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>表計算用(再インポート不可)(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>表計算ソフトが数式として実行する文字列にはアポストロフィが付きます。</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>参照(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>レコード(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>形式(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>出力先(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>エクスポート(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>ファイルのディレクトリ</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>レコードのファイル</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>次のファイルはすでに存在します:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>置換(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>レコードの出力先を入力してください。</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>エクスポートするものがありません。</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>エクスポートしたレコード: %1、出力先 %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>次のレコードは読み込めないため、エクスポートされません:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Qt %3
     <message>
         <source>A state was removed from the history.</source>
         <translation>状態が履歴から削除されました。</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>インポート: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>ファイルのとおり</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>内容の異なるレコードを置き換える(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>デバイスファミリー(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>コンフィギュレーションモード(&amp;M):</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>インポート(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>比較(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>ファイルを読み込んでいます。</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>問題がある間は何もインポートされません。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>インポートするものがありません。</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>保存済み</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>ファイル内</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>レコードを保存しています。</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>何もインポートされませんでした: %1
+プレビューを作成し直しました。</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>%1 にインポートしました。新規: %2、置換: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>相違あり、対象外</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新規</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>既存</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1: 相違あり</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1: 保存済み %2、ファイル %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>相違: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>レコード</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>ファミリー</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>備考</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Qt %3
     <message>
         <source>The flow cannot be read.</source>
         <translation>フローを読み込めません。</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>ファイル %1 に書き込めません: %2</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>닫기(&amp;C)</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>가져오기(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>내보내기(&amp;E)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>흐름도를 %1에 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>레코드 파일</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>레코드</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>디바이스 ‘%1’이(가) 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>내보내기</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>선택한 레코드: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>저장된 모든 디바이스와 템플릿</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>모든 내장 디바이스</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>JSON 파일 하나</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>레코드마다 JSON 파일 하나</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>디바이스의 CSV 목록(흐름 제외)</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>스프레드시트용(다시 가져올 수 없음)(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>스프레드시트가 수식으로 실행할 텍스트에는 아포스트로피가 붙습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>찾아보기(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>레코드(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>형식(&amp;F):</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>대상(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>내보내기(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행률</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>파일을 넣을 폴더</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>레코드 파일</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>다음 파일이 이미 있습니다:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>바꾸기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>레코드를 저장할 위치를 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>내보낼 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>내보낸 레코드: %1, 위치: %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>다음 레코드는 읽을 수 없어 내보내지 않습니다:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Qt %3
     <message>
         <source>A state was removed from the history.</source>
         <translation>상태가 이력에서 제거되었습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>가져오기: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>파일에 있는 대로</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>내용이 다른 레코드 바꾸기(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>디바이스 제품군(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>구성 모드(&amp;M):</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>미리 보기</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>자세히</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>가져오기(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>비교(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행률</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>파일을 읽고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>문제가 있는 동안에는 아무것도 가져오지 않습니다.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>가져올 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>저장됨</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>파일에 있음</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>레코드를 저장하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>아무것도 가져오지 않았습니다: %1
+미리 보기를 다시 만들었습니다.</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>%1에 가져왔습니다. 새 레코드: %2, 바꿈: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>문제</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>바뀜</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>다름, 가져오지 않음</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>새 레코드</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>이미 있음</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1: 다름</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1: 저장된 값 %2, 파일의 값 %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>차이: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>레코드</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>제품군</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>모드</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>줄</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>비고</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Qt %3
     <message>
         <source>The flow cannot be read.</source>
         <translation>흐름을 읽을 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>파일 %1에 쓸 수 없습니다: %2</translation>
     </message>
 </context>
 <context>

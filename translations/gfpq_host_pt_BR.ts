@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>&amp;Fechar</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importar...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportar...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>Os fluxogramas estão em %1.</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>Arquivos de registros</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Registros</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>O dispositivo “%1” não existe.</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>Registros selecionados: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>Todos os dispositivos e modelos salvos</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>Todos os dispositivos internos</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>Um único arquivo JSON</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>Um arquivo JSON para cada registro</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>Lista CSV dos dispositivos, sem fluxos</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>Para uma p&amp;lanilha (não pode ser importada de novo)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>Textos que uma planilha executaria como fórmulas recebem um apóstrofo.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Procurar...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>&amp;Registros:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Formato:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Destino:</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>Diretório para os arquivos</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>Arquivo para os registros</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>Estes arquivos já existem:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>&amp;Substituir</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>Informe o destino dos registros.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>Não há nada para exportar.</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>Registros exportados: %1, em %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>Estes não podem ser lidos e não são exportados:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Os dispositivos integrados são dados públicos sobre componentes flash. Os nome
     <message>
         <source>A state was removed from the history.</source>
         <translation>Um estado foi removido do histórico.</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>Importar: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>Como nos arquivos</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>&amp;Substituir os registros diferentes</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>&amp;Família de dispositivos:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Modo de configuração:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Visualização</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Comparar...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>Os arquivos estão sendo lidos.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>Nada é importado enquanto houver problemas.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Não há nada para importar.</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Salvo</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>No arquivo</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>Os registros estão sendo salvos.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>Nada foi importado: %1
+A visualização foi refeita.</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>Importado em %1. Novos: %2, substituídos: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>Será substituído</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>Difere, não importado</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Já existe</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1: difere</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1: salvo %2, no arquivo %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>Difere em: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Família</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linha</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Observação</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Os dispositivos integrados são dados públicos sobre componentes flash. Os nome
     <message>
         <source>The flow cannot be read.</source>
         <translation>Não é possível ler o fluxo.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>O arquivo %1 não pode ser gravado: %2</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>&amp;Закрыть</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Импорт...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Экспорт...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>Блок-схемы находятся в файле %1.</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>Файлы записей</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Записи</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>Микросхема «%1» не существует.</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>Экспорт</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>Выбранные записи: %1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>Все сохранённые микросхемы и шаблоны</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>Все встроенные микросхемы</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>Один файл JSON</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>Файл JSON для каждой записи</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>Список микросхем CSV, без алгоритмов</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>Для &amp;табличного редактора (нельзя импортировать снова)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>Тексты, которые табличный редактор выполнил бы как формулы, получают апостроф.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>Об&amp;зор...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>Запис&amp;и:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Формат:</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>&amp;Куда:</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Экспортировать</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>Каталог для файлов</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>Файл для записей</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>Эти файлы уже существуют:</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>З&amp;аменить</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>Укажите, куда записать данные.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>Нечего экспортировать.</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>Экспортировано записей: %1, в %2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>Эти записи не читаются и не экспортируются:</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Qt %3
     <message>
         <source>A state was removed from the history.</source>
         <translation>Состояние удалено из истории.</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>Импорт: %1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>Как в файлах</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>&amp;Заменять отличающиеся записи</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>Се&amp;мейство микросхем:</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>&amp;Режим конфигурирования:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предварительный просмотр</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Подробности</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Импортировать</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>&amp;Сравнить...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>Файлы читаются.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>Пока есть ошибки, ничего не импортируется.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Нечего импортировать.</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Сохранено</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>В файле</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>Записи сохраняются.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>Ничего не импортировано: %1
+Предварительный просмотр создан заново.</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>Импортировано в %1. Новых: %2, заменено: %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>Будет заменена</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>Отличается, не импортируется</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Новая</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>Уже существует</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1: отличается</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1: сохранено %2, в файле %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>Отличия: %1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Семейство</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Примечание</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Qt %3
     <message>
         <source>The flow cannot be read.</source>
         <translation>Не удаётся прочитать алгоритм.</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>Не удаётся записать файл %1: %2</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>导入(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>流程图已保存到 %1。</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>记录文件</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>记录</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>器件“%1”不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>所选记录：%1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>所有已保存的器件和模板</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>所有内置器件</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>一个 JSON 文件</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>每条记录一个 JSON 文件</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>器件的 CSV 列表，不含流程</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>用于电子表格（无法再次导入）(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>电子表格会当作公式执行的文本前会加上撇号。</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>记录(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>格式(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>导出到(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>导出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>文件的目录</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>记录的文件</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>以下文件已存在：</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>替换(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>请输入记录的导出位置。</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>没有可导出的内容。</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>已导出记录：%1，位置：%2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>以下记录无法读取，未导出：</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Qt %3
     <message>
         <source>A state was removed from the history.</source>
         <translation>一个状态已从历史记录中移除。</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>导入：%1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>与文件中相同</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>替换不同的记录(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>器件系列(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>配置模式(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>比较(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>正在读取文件。</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>存在问题时不会导入任何内容。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>没有可导入的内容。</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>已保存</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>文件中</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>正在保存记录。</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>未导入任何内容：%1
+已重新生成预览。</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>已导入到 %1。新增：%2，替换：%3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>将被替换</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>不同，不导入</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>已存在</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1：不同</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1：已保存 %2，文件中 %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>不同之处：%1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Qt %3
     <message>
         <source>The flow cannot be read.</source>
         <translation>无法读取流程。</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>无法写入文件 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,14 @@
         <source>&amp;Close</source>
         <translation>關閉(&amp;C)</translation>
     </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>匯入(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>匯出(&amp;E)...</translation>
+    </message>
 </context>
 <context>
     <name>DATABASE_WINDOW</name>
@@ -357,6 +365,14 @@
     <message>
         <source>The flow charts are in %1.</source>
         <translation>流程圖已儲存到 %1。</translation>
+    </message>
+    <message>
+        <source>Files of Records</source>
+        <translation>記錄檔案</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>記錄</translation>
     </message>
 </context>
 <context>
@@ -543,6 +559,105 @@
     <message>
         <source>The device &quot;%1&quot; does not exist.</source>
         <translation>元件「%1」不存在。</translation>
+    </message>
+</context>
+<context>
+    <name>EXPORT_DIALOG</name>
+    <message>
+        <source>Export</source>
+        <translation>匯出</translation>
+    </message>
+    <message>
+        <source>Selected records: %1</source>
+        <translation>所選記錄：%1</translation>
+    </message>
+    <message>
+        <source>All stored devices and templates</source>
+        <translation>所有已儲存的元件和範本</translation>
+    </message>
+    <message>
+        <source>All built-in devices</source>
+        <translation>所有內建元件</translation>
+    </message>
+    <message>
+        <source>One JSON file</source>
+        <translation>一個 JSON 檔案</translation>
+    </message>
+    <message>
+        <source>One JSON file for each record</source>
+        <translation>每筆記錄一個 JSON 檔案</translation>
+    </message>
+    <message>
+        <source>CSV list of the devices, without flows</source>
+        <translation>元件的 CSV 清單，不含流程</translation>
+    </message>
+    <message>
+        <source>For a &amp;spreadsheet (cannot be imported again)</source>
+        <translation>用於試算表（無法再次匯入）(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Texts that a spreadsheet would run as formulas get an apostrophe.</source>
+        <translation>試算表會當作公式執行的文字前會加上撇號。</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>瀏覽(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;Records:</source>
+        <translation>記錄(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>格式(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>&amp;To:</source>
+        <translation>匯出到(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>匯出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進度</translation>
+    </message>
+    <message>
+        <source>Directory for the Files</source>
+        <translation>檔案的目錄</translation>
+    </message>
+    <message>
+        <source>File for the Records</source>
+        <translation>記錄的檔案</translation>
+    </message>
+    <message>
+        <source>These files already exist:</source>
+        <translation>下列檔案已存在：</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>取代(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Enter where the records go.</source>
+        <translation>請輸入記錄的匯出位置。</translation>
+    </message>
+    <message>
+        <source>There is nothing to export.</source>
+        <translation>沒有可匯出的內容。</translation>
+    </message>
+    <message>
+        <source>Exported records: %1, into %2</source>
+        <translation>已匯出記錄：%1，位置：%2</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>These cannot be read, and are not exported:</source>
+        <translation>下列記錄無法讀取，未匯出：</translation>
     </message>
 </context>
 <context>
@@ -803,6 +918,158 @@ Qt %3
     <message>
         <source>A state was removed from the history.</source>
         <translation>一個狀態已從歷史記錄中移除。</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_DIALOG</name>
+    <message>
+        <source>Import: %1</source>
+        <translation>匯入：%1</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>匯入</translation>
+    </message>
+    <message>
+        <source>As in the files</source>
+        <translation>與檔案中相同</translation>
+    </message>
+    <message>
+        <source>&amp;Replace records that differ</source>
+        <translation>取代不同的記錄(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Device &amp;family:</source>
+        <translation>元件系列(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Configuration &amp;mode:</source>
+        <translation>組態模式(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細資料</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>匯入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Compare...</source>
+        <translation>比較(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進度</translation>
+    </message>
+    <message>
+        <source>The files are being read.</source>
+        <translation>正在讀取檔案。</translation>
+    </message>
+    <message>
+        <source>Nothing is imported while there are problems.</source>
+        <translation>存在問題時不會匯入任何內容。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>沒有可匯入的內容。</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>已儲存</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>檔案中</translation>
+    </message>
+    <message>
+        <source>The records are being stored.</source>
+        <translation>正在儲存記錄。</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1
+The preview was made again.</source>
+        <translation>未匯入任何內容：%1
+已重新產生預覽。</translation>
+    </message>
+    <message>
+        <source>Imported into %1. New: %2, replaced: %3</source>
+        <translation>已匯入到 %1。新增：%2，取代：%3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>IMPORT_MODEL</name>
+    <message>
+        <source>Problem</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Will be replaced</source>
+        <translation>將被取代</translation>
+    </message>
+    <message>
+        <source>Differs, not imported</source>
+        <translation>不同，不匯入</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Already exists</source>
+        <translation>已存在</translation>
+    </message>
+    <message>
+        <source>%1: differs</source>
+        <translation>%1：不同</translation>
+    </message>
+    <message>
+        <source>%1: stored %2, in the file %3</source>
+        <translation>%1：已儲存 %2，檔案中 %3</translation>
+    </message>
+    <message>
+        <source>Differs in: %1</source>
+        <translation>不同之處：%1</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>狀態</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>記錄</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>備註</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1427,13 @@ Qt %3
     <message>
         <source>The flow cannot be read.</source>
         <translation>無法讀取流程。</translation>
+    </message>
+</context>
+<context>
+    <name>RECORD_EXPORT</name>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <translation>無法寫入檔案 %1：%2</translation>
     </message>
 </context>
 <context>
