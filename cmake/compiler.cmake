@@ -23,6 +23,13 @@ if(GFPQ_SANITIZE)
     add_link_options(-fsanitize=${GFPQ_SANITIZE})
 endif()
 
+# There are two hundred programs to link, most of them tests.
+include(CheckLinkerFlag)
+check_linker_flag(CXX -fuse-ld=gold GFPQ_HAS_GOLD)
+if(GFPQ_HAS_GOLD)
+    add_link_options($<$<CONFIG:Debug>:-fuse-ld=gold>)
+endif()
+
 if(GFPQ_COVERAGE)
     add_compile_options(--coverage -O0)
     add_link_options(--coverage)
