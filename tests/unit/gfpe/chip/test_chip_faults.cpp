@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
 #include <csignal>
 
 #include <sys/resource.h>
@@ -365,6 +366,19 @@ private slots:
         QVERIFY2(host.chip->use_file(path(), problem), problem.c_str());
 
         QCOMPARE(host.play("03 000000 ?1; 06; 20 000000; ready; 03 000FFF ?2"), std::string("00 FF00"));
+    }
+
+    // Its name leaves no room for one beside it, and what failed before is over.
+    void of_a_file_that_is_there_none_is_made()
+    {
+        write_file(QByteArray(CHIP_BYTES, '\x00'));
+        const std::string name = m_directory->filePath(QString(255, QLatin1Char('n'))).toStdString();
+        QVERIFY(QFile::rename(QFile::decodeName(path().c_str()), QFile::decodeName(name.c_str())));
+        CHIP_HOST host("W25Q80DV");
+        std::string problem;
+        errno = ENOENT;
+
+        QVERIFY2(host.chip->use_file(name, problem), problem.c_str());
     }
 
     void a_file_that_finds_no_room_is_told_and_not_left_behind()
