@@ -136,7 +136,8 @@ DWORD erase_times(const GFPE_CHIP_FACTS& facts, const std::array<ERASE_TYPE, ERA
             continue;
         const std::int64_t typical =
             std::max(gfpe_chip_times::slow_erase_us(types[at].bytes, facts.bytes) / FACTOR, gfpe_chip_times::ERASE_US);
-        value |= time_field(typical, {1000, 16000, 128000, 1000000}, 5) << (4 + 7 * at);
+        // No emulated sector is slow enough for the two larger units.
+        value |= time_field(typical, {1000, 16000}, 5) << (4 + 7 * at);
     }
     return value;
 }

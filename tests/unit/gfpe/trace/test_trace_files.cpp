@@ -92,6 +92,14 @@ private slots:
                             "3,2001,Erase,2,Read Register,0x20,1,1,,0x012345,0,0,,,0,2002,,,\n"));
     }
 
+    void each_phase_has_the_name_of_its_page()
+    {
+        QStringList names;
+        for (int phase = int(GFPE_PHASE::INITIALIZATION); phase <= int(GFPE_PHASE::TERMINATION); ++phase)
+            names += gfpe_phase_name(static_cast<GFPE_PHASE>(phase));
+        QCOMPARE(names.join(' '), QString("Initialization Erase Blank-Check Program Verify Examine Termination"));
+    }
+
     void bytes_that_come_in_pieces_are_one_list()
     {
         GFPE_CSV_TRACE csv;
