@@ -185,6 +185,17 @@ private slots:
         QCOMPARE(commands[1].start - commands[0].end, qint64(500));
     }
 
+    void a_single_line_is_low_where_nobody_drives_it()
+    {
+        GFPE_VCD_TRACE vcd(0);
+        QVERIFY(vcd.open(path("t.vcd")));
+        GFPE_COMMAND waiting = command(0x0B);
+        waiting.dummy_clocks = 1;
+        trace(vcd, {waiting, {}, {}, 0, 1});
+
+        QCOMPARE(vcd_commands(text(vcd, "t.vcd"))[0].clocks.last(), QString("11z0"));
+    }
+
     // In a coarse unit a dump needs less memory where it is opened.
     void a_dump_has_the_largest_unit_that_does_data()
     {
