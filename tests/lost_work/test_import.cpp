@@ -146,7 +146,9 @@ private slots:
         QCOMPARE(rows_shown(), QStringList({qs("Differs, not imported, Other, a.json:877, Differs in: device ID"),
                                             qs("New, New, a.json:441, "), qs("Already exists, Same, a.json:5, ")}));
         QCOMPARE(in_dialog<QTableView>("m_import_table").currentIndex().row(), 0);
-        const QString details = in_dialog<QPlainTextEdit>("m_import_details").toPlainText();
+        const auto& details_text = in_dialog<QPlainTextEdit>("m_import_details");
+        QVERIFY(in_dialog<QTableView>("m_import_table").height() > 2 * details_text.height());
+        const QString details = details_text.toPlainText();
         m_modals.expect(MODAL_DRIVER::reject());
         click_in_dialog("m_import_compare_button");
         QCOMPARE(m_modals.last().class_name, qs("COMPARE_DIALOG"));

@@ -77,7 +77,8 @@ IMPORT_DIALOG::IMPORT_DIALOG(GFPDB_DATABASE& database, const QStringList& files,
     m_sorted->setSortCaseSensitivity(Qt::CaseInsensitive);
     auto* column = new QVBoxLayout(this);
     column->addWidget(create_wishes());
-    column->addWidget(create_preview(), 1);
+    QSplitter* preview = create_preview();
+    column->addWidget(preview, 1);
     m_summary = new QLabel;
     m_summary->setObjectName(QStringLiteral("m_import_summary"));
     m_summary->setTextFormat(Qt::PlainText);
@@ -89,6 +90,7 @@ IMPORT_DIALOG::IMPORT_DIALOG(GFPDB_DATABASE& database, const QStringList& files,
     column->addWidget(create_buttons());
     const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
     resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    preview->setSizes({height() * TABLE_SHARE, height() * DETAILS_SHARE});
     connect(&m_timer, &QTimer::timeout, this, &IMPORT_DIALOG::work);
     // Only a button that is in the dialog can be its default.
     m_import_button->setDefault(true);
@@ -123,7 +125,7 @@ QWidget* IMPORT_DIALOG::create_wishes()
     return page;
 }
 
-QWidget* IMPORT_DIALOG::create_preview()
+QSplitter* IMPORT_DIALOG::create_preview()
 {
     m_table = new QTableView;
     m_table->setObjectName(QStringLiteral("m_import_table"));
@@ -149,8 +151,8 @@ QWidget* IMPORT_DIALOG::create_preview()
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_table);
     splitter->addWidget(m_details);
-    splitter->setStretchFactor(0, 1);
-    splitter->setSizes({FIRST_HEIGHT * TABLE_SHARE, FIRST_HEIGHT * DETAILS_SHARE});
+    splitter->setStretchFactor(0, TABLE_SHARE);
+    splitter->setStretchFactor(1, DETAILS_SHARE);
     return splitter;
 }
 

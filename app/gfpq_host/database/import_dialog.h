@@ -18,6 +18,7 @@ class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
 class QSortFilterProxyModel;
+class QSplitter;
 class QTableView;
 
 class IMPORT_DIALOG : public QDialog
@@ -33,7 +34,7 @@ public:
 
 private:
     QWidget* create_wishes();
-    QWidget* create_preview();
+    QSplitter* create_preview();
     QWidget* create_buttons();
     QComboBox* create_place(std::vector<int> values, QString (*text_of)(int value), const char* object_name);
 
