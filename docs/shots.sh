@@ -305,6 +305,21 @@ shot_device-compare() {
     picture device-compare
 }
 
+# What an import would change: a device that is new, and one that differs from the stored one.
+shot_import() {
+    "$TOOL" export --dir "$PARTS" TEAM-256 | sed -e 's/"TEAM-256"/"TEAM-512"/' -e 's/"256Mb"/"512Mb"/' >"$WORK/team-512.json"
+    "$TOOL" export --dir "$PARTS" TEAM-128 | sed 's/"total_die": 1/"total_die": 2/' >"$WORK/team-128.json"
+    show_history
+    local window=$WINDOW
+    press alt+t i
+    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    local chooser=$WINDOW
+    xdotool type --delay 20 "\"$WORK/team-512.json\" \"$WORK/team-128.json\""
+    press Return
+    until front_window && [ "$WINDOW" != "$window" ] && [ "$WINDOW" != "$chooser" ]; do sleep "$PAUSE"; done
+    picture import
+}
+
 shot_dark-device-database() {
     use_dark_palette
     shot_database dark-device-database "c2 20 19"
@@ -371,7 +386,7 @@ shot_flow-charts() {
 }
 
 readonly PICTURES=(flow-charts device-page page-initialization page-program page-erase page-verify page-termination template-editor
-    host-window programmer-trial programmer-trace programmer-data new-device duplicate device-database dark-device-database device-history device-compare message dark-device-page dark-erase scale-150 scale-200 language-ja)
+    host-window programmer-trial programmer-trace programmer-data new-device duplicate device-database dark-device-database device-history device-compare import message dark-device-page dark-erase scale-150 scale-200 language-ja)
 
 main() {
     rm -rf "$WORK"

@@ -25,7 +25,7 @@
 namespace {
 
 // The widths of the columns, in characters; the last one takes the rest.
-constexpr int WIDTHS[HISTORY_MODEL::COLUMNS] = {7, 23, 22, 12, 12, 26, 20, 18};
+constexpr int WIDTHS[HISTORY_MODEL::COLUMNS] = {7, 23, 22, 14, 14, 24, 20, 18};
 
 enum KIND
 {
