@@ -7,6 +7,7 @@
 #include "gfpdb/gfpdb_text.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -29,10 +30,11 @@ bool is_rule(const std::string& number)
                        [&number](const GFPDB_LINT_RULE& rule) { return rule.number == number; });
 }
 
+using OPERATIONS = std::optional<std::vector<std::unique_ptr<GFPDB_OPERATION>>>;
+
 // What the action is called; empty for one that is missing.
-std::string name_of(const GFPDB_RECORD& record, const GFPDB_LINT_FINDING& finding)
+std::string name_of(const OPERATIONS& operations, const GFPDB_LINT_FINDING& finding)
 {
-    const auto operations = gfpdb_operations(record, finding.flow_variant);
     for (std::size_t at = 0; operations && at < operations->size(); ++at) {
         const GFPDB_OPERATION& operation = *(*operations)[at];
         if (operation.m_kind != finding.operation || finding.action >= operation.get_action_count())
@@ -97,9 +99,12 @@ void CLI_LINT::check(const GFPDB_RECORD& record)
 {
     if (!m_is_on)
         return;
+    // Read once for all findings: a long flow may have one in each of its actions.
+    const OPERATIONS single = gfpdb_operations(record, false);
+    const OPERATIONS quad = gfpdb_operations(record, true);
     for (const GFPDB_LINT_FINDING& finding : gfpdb_lint_record(record)) {
         if (m_off.count(finding.rule) == 0)
-            m_found.push_back({gfpdb_title(record), name_of(record, finding), finding});
+            m_found.push_back({gfpdb_title(record), name_of(finding.flow_variant ? quad : single, finding), finding});
     }
 }
 

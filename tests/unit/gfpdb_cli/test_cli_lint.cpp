@@ -65,6 +65,21 @@ private slots:
                               {"text", "There is no write enable before it: the chip ignores the command."}}));
     }
 
+    // A flow of a program may be very long, with a finding in each action: each is looked at once.
+    void a_long_flow_takes_no_time()
+    {
+        constexpr int PAGES = 4000;
+        save_part("Mine");
+        const QString file = exported_file("Mine");
+        const QByteArray text = text_of_file(file);
+        const int first = text.lastIndexOf('{', text.indexOf("0x06", text.indexOf("\"program\"")));
+        const QByteArray enable = text.mid(first, text.indexOf('}', first) + 1 - first) + ',';
+        write_file(file.toStdString(), QByteArray(text).insert(first, enable.repeated(PAGES)).toStdString());
+        QCOMPARE(tool({"import", "--replace", file}).exit_code, 0);
+
+        QCOMPARE(tool({"check", "--lint"}).out.count(" \"Write Enable\": warning: L13: "), PAGES);
+    }
+
     void a_rule_can_be_switched_off_data()
     {
         rows<QStringList, int, QByteArray>({
