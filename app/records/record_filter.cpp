@@ -6,6 +6,8 @@
 #include "gfpdb/gfpdb_part.h"
 #include "gfpdb/gfpdb_text.h"
 
+#include <algorithm>
+
 namespace {
 
 // By RECORD_KIND.
@@ -22,7 +24,8 @@ std::optional<RECORD_VOLTAGE> volts_of(const std::string& text)
     if (!match.hasMatch())
         return std::nullopt;
     const double lowest = match.captured(1).toDouble();
-    return RECORD_VOLTAGE{lowest, match.captured(2).isEmpty() ? lowest : match.captured(2).toDouble()};
+    const double highest = match.captured(2).isEmpty() ? lowest : match.captured(2).toDouble();
+    return RECORD_VOLTAGE{std::min(lowest, highest), std::max(lowest, highest)};
 }
 
 } // namespace
@@ -48,13 +51,15 @@ std::optional<RECORD_KIND> record_kind_of(const std::string& name)
     return std::nullopt;
 }
 
-// Qt's own wildcards are for paths: their star ends at a slash, which a name may have.
+// Qt's own wildcards are for paths: their star ends at a slash, which a name may have. Names of older programs may also
+// have a line break.
 QRegularExpression record_wildcard(const QString& pattern)
 {
     QString expression = QRegularExpression::escape(pattern);
     expression.replace(QLatin1String("\\*"), QLatin1String(".*")).replace(QLatin1String("\\?"), QLatin1String("."));
     return QRegularExpression(QRegularExpression::anchoredPattern(expression),
-                              QRegularExpression::CaseInsensitiveOption);
+                              QRegularExpression::CaseInsensitiveOption |
+                                  QRegularExpression::DotMatchesEverythingOption);
 }
 
 bool has_wildcard(const std::string& text)

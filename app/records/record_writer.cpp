@@ -52,19 +52,28 @@ QByteArray encoded(const QString& name)
     return text;
 }
 
-// A long name is cut, and gets digits that tell it from others with the same beginning.
+// As much of the text, encoded, as a file name has room for.
+QByteArray encoded_beginning(QString name)
+{
+    while (encoded(name).size() > NAME_BYTES_MAX)
+        name.chop(name.size() > 1 && name.at(name.size() - 2).isHighSurrogate() ? 2 : 1);
+    return encoded(name);
+}
+
+// A long name is cut, and gets digits that tell it from others with the same beginning. One that is not UTF-8 has its
+// bytes: as a text it would be the same as others.
 std::string stem_of(const std::string& name)
 {
-    const QString normal = gfpdb_from_utf8(name).normalized(QString::NormalizationForm_C);
-    const QByteArray stem = encoded(normal);
+    const QString text = gfpdb_from_utf8(name);
+    const bool is_text = gfpdb_to_utf8(text) == name;
+    const QString normal = text.normalized(QString::NormalizationForm_C);
+    const QByteArray stem =
+        is_text ? encoded(normal) : QByteArray::fromStdString(name).toPercentEncoding(QByteArray(), "-.~");
     if (stem.size() <= NAME_BYTES_MAX)
         return stem.toStdString();
-    QString cut = normal;
-    while (encoded(cut).size() > NAME_BYTES_MAX)
-        cut.chop(cut.size() > 1 && cut.at(cut.size() - 2).isHighSurrogate() ? 2 : 1);
     const QByteArray key = QByteArray::fromStdString(gfpdb_name_key(name));
     const QByteArray hash = QCryptographicHash::hash(key, QCryptographicHash::Sha256).toHex().left(HASH_DIGITS);
-    return (encoded(cut) + '%' + hash).toStdString();
+    return ((is_text ? encoded_beginning(normal) : stem.left(NAME_BYTES_MAX)) + '%' + hash).toStdString();
 }
 
 } // namespace

@@ -149,6 +149,7 @@ private slots:
                                  {"comma", {"", "", "", "", "3,6 v"}, true},
                                  {"voltage outside", {"", "", "", "", "1.8V"}, false},
                                  {"range", {"", "", "", "", "3.0-3.6V"}, true},
+                                 {"range downwards", {"", "", "", "", "3.6-1.65V"}, false},
                                  {"wider range", {"", "", "", "", "1.65-3.6V"}, false},
                                  {"voltage that is none", {"", "", "", "", "high"}, false},
                                  {"all", {"*ne/1", "C2", "mac", "32MB", "2.7-3.6v"}, true},
@@ -240,6 +241,20 @@ private slots:
         QCOMPARE(q(record_file_name(record)), file);
     }
 
+    // Other programs may have stored what is not UTF-8.
+    void names_of_other_bytes_have_other_file_names()
+    {
+        const auto file_of = [](const std::string& name) {
+            GFPDB_RECORD record;
+            record.row.name = name;
+            return q(record_file_name(record));
+        };
+        QCOMPARE(file_of("-a\xFF~"), QString("%2Da%FF%7E-builtin.json"));
+        const std::string many(100, '\xFF');
+        QVERIFY(file_of(many + 'a') != file_of(many + 'b'));
+        QVERIFY(file_of(many).size() < 200);
+    }
+
     void kinds_and_places_have_other_file_names()
     {
         GFPDB_RECORD record;
@@ -248,6 +263,9 @@ private slots:
         record.is_template = true;
         QCOMPARE(record_file_name(record), std::string("A-template.json"));
     }
+
+    // No rule allows such a name, but older programs stored it.
+    void a_star_stands_for_line_breaks_too() { QVERIFY(record_wildcard("a*").match("a\nb").hasMatch()); }
 
     // What a record has is compared as it is where it is not a size or a voltage.
     void odd_texts_are_found_as_they_are()
