@@ -30,11 +30,12 @@ public:
     bool add_all() { return add_matching(QRegularExpression()); }
     bool add(const std::string& operand)
     {
-        if (!cli_state_of(operand) && has_wildcard(operand) && named(operand).empty())
+        const std::optional<std::string> state = cli_state_of(operand);
+        if (!state && has_wildcard(operand) && named(operand).empty())
             return add_wildcard(operand);
         const std::optional<GFPDB_RECORD> record = find(operand);
         if (record)
-            add_once(*record, cli_state_of(operand));
+            add_once(*record, state ? cli_history_id(*state) : std::nullopt);
         return record.has_value();
     }
 
@@ -116,10 +117,10 @@ private:
         return false;
     }
 
-    void add_once(const GFPDB_RECORD& record, const std::optional<std::string>& state = std::nullopt)
+    void add_once(const GFPDB_RECORD& record, const std::optional<std::int64_t>& state = std::nullopt)
     {
         const std::string file =
-            state ? record_file_name(record, ".history-" + *state + ".json") : record_file_name(record);
+            state ? record_file_name(record, ".history-" + std::to_string(*state) + ".json") : record_file_name(record);
         if (m_files.insert(file).second)
             m_records.push_back({record, file});
     }

@@ -6,6 +6,8 @@
 
 #include "whole_file/whole_file.h"
 
+#include "gfpdb/gfpdb_text.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -80,7 +82,8 @@ int cli_export_to_directory(const CLI_CALL& call, const std::vector<CLI_EXPORTED
     const std::string slashed = directory.back() == '/' ? directory : directory + '/';
     const QFileInfo folder(path_of(directory));
     if (!folder.isDir() && !QDir().mkdir(folder.filePath())) {
-        call.output.error(directory + ": The directory cannot be made.");
+        const std::string reason = gfpdb_to_utf8(qt_error_string());
+        call.output.error(directory + ": The directory cannot be made: " + reason + '.');
         return CLI_EXIT_BAD_FILE;
     }
     int exit_code = CLI_EXIT_OK;

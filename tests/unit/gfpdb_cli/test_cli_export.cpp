@@ -27,7 +27,8 @@ private slots:
                                         {"built in by wildcard", {"--builtin", "*1606?"}, {"MX25L1606E"}},
                                         {"built in for sure", {"--builtin", "mx25L1606e"}, {"MX25L1606E"}},
                                         {"state", {"history:1"}, {"Alpha"}},
-                                        {"state and present", {"Alpha", "history:1"}, {"Alpha", "Alpha"}}});
+                                        {"state and present", {"Alpha", "history:1"}, {"Alpha", "Alpha"}},
+                                        {"state in two spellings", {"history:1", "history:01"}, {"Alpha"}}});
     }
 
     void names_and_wildcards_choose_records()
@@ -147,7 +148,11 @@ private slots:
         save_four();
         TOOL_RUN run = tool({"export", "--directory", at("no/such")});
         QCOMPARE(run.exit_code, 4);
-        QCOMPARE(run.err, "gfpdb: " + at("no/such").toUtf8() + ": The directory cannot be made.\n");
+        QCOMPARE(run.err,
+                 "gfpdb: " + at("no/such").toUtf8() + ": The directory cannot be made: No such file or directory.\n");
+        write_file(m_place->path("file"), "");
+        run = tool({"export", "--directory", at("file")});
+        QVERIFY2(run.err.endsWith(": The directory cannot be made: File exists.\n"), run.err.constData());
         QVERIFY(QDir(at("")).mkpath("parts/Alpha-3-7.json"));
         run = tool({"export", "--directory", at("parts"), "--replace", "Alpha"});
         QCOMPARE(run.exit_code, 4);
