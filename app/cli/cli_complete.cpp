@@ -62,7 +62,7 @@ private:
     {
         const bool has_control = word.find_first_of("\t\n\r") != std::string::npos;
         if (!has_control && gfpdb_name_key(word).rfind(gfpdb_name_key(gfpdb_to_utf8(m_current)), 0) == 0)
-            m_lines += word + '\t' + cli_printable(text) + '\n';
+            m_lines += gfpdb_to_utf8(m_option) + word + '\t' + cli_printable(text) + '\n';
     }
 
     void add_commands(bool with_options)
@@ -83,14 +83,17 @@ private:
         // What is incomplete here is what is being written.
         parser.parse(m_words.mid(0, m_words.size() - 1));
         const std::vector<OPTION> options = options_of(parser);
-        const QString before = m_words[m_words.size() - 2];
+        const bool is_value = split_current();
+        const QString before = is_value ? m_option.chopped(1) : m_words[m_words.size() - 2];
         for (const OPTION& option : options) {
             const bool is_before = before == QLatin1String("--") + option.name ||
                                    (!option.letter.isEmpty() && before == QLatin1Char('-') + option.letter);
             if (is_before && !option.value.isEmpty())
                 return add_values(command, parser, gfpdb_to_utf8(option.value));
         }
-        if (m_current.startsWith(QLatin1Char('-'))) {
+        if (is_value)
+            return;
+        if (!are_options_over() && m_current.startsWith(QLatin1Char('-'))) {
             for (const OPTION& option : options)
                 add("--" + gfpdb_to_utf8(option.name), gfpdb_to_utf8(option.text));
             return;
@@ -107,6 +110,22 @@ private:
         // "sql|init|status" stands for these words.
         for (const QString& word : words)
             add(gfpdb_to_utf8(word));
+    }
+
+    // Behind "--" there are names alone.
+    bool are_options_over() const { return m_words.mid(0, m_words.size() - 1).contains(QLatin1String("--")); }
+
+    // "--kind=dev" is an option and the beginning of its value. False for any other word.
+    bool split_current()
+    {
+        static const QRegularExpression WITH_VALUE(QStringLiteral("\\A(--[a-z-]+=)(.*)\\z"),
+                                                   QRegularExpression::DotMatchesEverythingOption);
+        const QRegularExpressionMatch match = WITH_VALUE.match(m_current);
+        if (are_options_over() || !match.hasMatch())
+            return false;
+        m_option = match.captured(1);
+        m_current = match.captured(2);
+        return true;
     }
 
     // What `value` stands for, the name of a value in the help.
@@ -193,7 +212,9 @@ private:
 
     const CLI_PROGRAM& m_program;
     const QStringList m_words;
-    const QString m_current;
+    // The word that is being written, and, before a value that it has, "--kind=".
+    QString m_current;
+    QString m_option;
     std::string m_paths = "-";
     std::string m_lines;
 };

@@ -10,5 +10,5 @@
 constexpr const char* CLI_COMPLETE = "--complete";
 
 // The answer: "files" or "directories" when paths can follow, else "-"; then a line for each word that can, its
-// explanation behind a tab. UTF-8.
+// explanation behind a tab. Behind "--kind=" the words begin so, too. UTF-8.
 std::string cli_complete(const CLI_PROGRAM& program, const QStringList& words);

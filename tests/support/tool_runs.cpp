@@ -23,12 +23,27 @@ QStringList options_of(const char* program, const QString& command)
     return options;
 }
 
-// The function of the completion, as bash calls it.
-QString bash_script(const QString& completion, const QString& name, const QStringList& words)
+// The words as bash breaks them: at colons and equals signs, too, but not behind a quote.
+QStringList broken_by_bash(const QStringList& words)
 {
+    static const QRegularExpression PART(QStringLiteral("[\"'].*|[:=]+|[^:=\"']+"));
+    QStringList parts;
+    for (const QString& word : words) {
+        for (QRegularExpressionMatchIterator each = PART.globalMatch(word); each.hasNext();)
+            parts += each.next().captured();
+        if (word.isEmpty())
+            parts += word;
+    }
+    return parts;
+}
+
+// The function of the completion, as bash calls it.
+QString bash_script(const QString& completion, const QString& name, const QStringList& line)
+{
+    const QStringList words = broken_by_bash(line);
     QStringList quoted;
-    for (const QString& word : words)
-        quoted += QStringLiteral("'%1'").arg(word);
+    for (QString word : words)
+        quoted += QStringLiteral("'%1'").arg(word.replace(QLatin1String("'"), QLatin1String("'\\''")));
     return QStringLiteral("source '%1'; COMP_WORDS=('%2' %3); COMP_CWORD=%4; _%2; printf '%s\\n' \"${COMPREPLY[@]}\"")
         .arg(completion, name, quoted.join(QLatin1Char(' ')))
         .arg(words.size());

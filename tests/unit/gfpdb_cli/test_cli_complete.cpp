@@ -46,6 +46,11 @@ private slots:
              {"number of a state", {"restore", "-d", dir, ""}, {"-", "1"}},
              {"sides", {"diff", "-d", dir, "My p"}, {"files", "My part"}},
              {"other side", {"diff", "-d", dir, "x", "hist"}, {"files", "history:1"}},
+             {"value behind a sign", {"show", "--variant=q"}, {"-", "--variant=quad"}},
+             {"name behind a sign", {"list", "-d", dir, "--filter=My"}, {"-"}},
+             {"no such option", {"show", "-d", dir, "--none=My"}, {"-"}},
+             {"directory behind a sign", {"list", "--dir=x"}, {"directories"}},
+             {"name with a dash", {"show", "-d", dir, "--", "-m"}, {"-", "-Mine"}},
              {"source", {"copy-device", "-d", dir, "My p"}, {"-", "My part"}}});
     }
 
@@ -106,6 +111,8 @@ private slots:
         add("quoted name", {"show", "-d", "db", "My\\ o"}, {"My other"});
         add("scheme", {"list", "--scheme", "Internal"}, {"Internal Configuration"});
         add("state", {"show", "-d", "db", "history:"}, {"history:1"});
+        add("value behind a sign", {"show", "--variant=q"}, {"quad"});
+        add("directory behind a sign", {"list", "--dir=db"}, {"db/"});
         add("files", {"import", "a"}, {"a file.json"});
         add("directories", {"list", "--dir", "db"}, {"db/"});
     }
@@ -120,15 +127,35 @@ private slots:
 
         QStringList found = completed(shell, GFPDB_PROGRAM, words, at(""));
 
-        // Each shell has its own way to quote a name, and bash breaks words at colons and adds a slash itself.
+        // Each shell has its own way to quote a name, and bash breaks words at colons and signs and adds a slash
+        // itself.
         for (QString& each : found)
-            each.remove('\\');
+            each.remove('\\').remove(QRegularExpression("^--[a-z]+="));
         found.removeDuplicates();
         if (shell == "bash")
             offered.replaceInStrings(QRegularExpression("^history:|/$"), "");
         if (shell == "zsh")
             found.replaceInStrings(QRegularExpression("^db$"), "db/");
         QVERIFY2(found == offered, qPrintable(found.join('|')));
+    }
+
+    // What stands behind the quote is replaced, and the quote stays.
+    void bash_keeps_an_open_quote_data()
+    {
+        rows<QString, QString>({{"colon", "\"a:", "a:b"},
+                                {"colon without", "a:", "b"},
+                                {"in single quotes", "'it", "it'\\''s"},
+                                {"in double quotes", "\"q", "q\\\"\\$x"},
+                                {"without", "q", "q\\\"\\$x"},
+                                {"blank before a colon", "C\\ d:", "e"}});
+    }
+
+    void bash_keeps_an_open_quote()
+    {
+        const auto [word, offered] = row<QString, QString>();
+        for (const char* name : {"a:b", "it's", "q\"$x", "C d:e"})
+            save_part(name);
+        QCOMPARE(completed("bash", GFPDB_PROGRAM, {"show", "-d", "db", word}, at("")), QStringList{offered});
     }
 
     void completion_has_every_option()
@@ -148,6 +175,7 @@ private:
     {
         save_part("My part");
         save_part("My other");
+        save_part("-Mine");
         save_part("Gone");
         QVERIFY(fresh_manager()->delete_flash("Gone", m_place->db_dir()));
     }
