@@ -1453,6 +1453,10 @@ Die Vorschau wurde neu erstellt.</translation>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>Der Baustein „%1“ wurde schon von einem anderen Programm gelöscht.</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>Der Verlauf enthält den Baustein „%1“ nicht mehr.</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

@@ -1453,6 +1453,10 @@ La vista previa se hizo de nuevo.</translation>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>Otro programa ya eliminó el dispositivo «%1».</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>El historial ya no contiene el dispositivo «%1».</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

@@ -1453,6 +1453,10 @@ L’aperçu a été refait.</translation>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>Le composant «&#xa0;%1&#xa0;» a déjà été supprimé par un autre programme.</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>L’historique ne contient plus le composant «&#xa0;%1&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

@@ -1453,6 +1453,10 @@ L’anteprima è stata rifatta.</translation>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>Il dispositivo «%1» è già stato eliminato da un altro programma.</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>La cronologia non contiene più il dispositivo «%1».</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

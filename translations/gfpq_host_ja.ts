@@ -1453,6 +1453,10 @@ The preview was made again.</source>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>デバイス「%1」はすでに別のプログラムにより削除されています。</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>履歴にデバイス「%1」はもうありません。</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

@@ -1453,6 +1453,10 @@ The preview was made again.</source>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>디바이스 ‘%1’은(는) 이미 다른 프로그램이 삭제했습니다.</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>이력에 디바이스 ‘%1’이(가) 더 이상 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

@@ -1453,6 +1453,10 @@ A visualização foi refeita.</translation>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>O dispositivo “%1” já foi excluído por outro programa.</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>O histórico não contém mais o dispositivo “%1”.</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

@@ -1453,6 +1453,10 @@ The preview was made again.</source>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>Микросхема «%1» уже удалена другой программой.</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>В истории больше нет микросхемы «%1».</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

@@ -1453,6 +1453,10 @@ The preview was made again.</source>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>器件“%1”已被其他程序删除。</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>历史记录中已没有器件“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

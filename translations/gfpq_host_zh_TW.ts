@@ -1453,6 +1453,10 @@ The preview was made again.</source>
         <source>The device &quot;%1&quot; was deleted by another program already.</source>
         <translation>元件「%1」已被其他程式刪除。</translation>
     </message>
+    <message>
+        <source>The history does not have the device &quot;%1&quot; any more.</source>
+        <translation>歷史記錄中已沒有元件「%1」。</translation>
+    </message>
 </context>
 <context>
     <name>RUN_BAR</name>

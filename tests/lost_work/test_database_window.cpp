@@ -151,6 +151,27 @@ private slots:
         QCOMPARE(stored(qs("A"), "single_flows"), flows);
     }
 
+    // A dialog would not notice what changes under it, and windows that are waiting take drops all the same.
+    void nothing_is_dropped_under_a_dialog()
+    {
+        QFile file(QString::fromStdString(other_directory()) + qs("a.json"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile(file.fileName())});
+        QDialog dialog;
+        dialog.setModal(true);
+        m_modals.expect([&](QWidget* window) {
+            QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(m_window.get(), &enter);
+            QVERIFY(!enter.isAccepted());
+            QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(m_window.get(), &drop);
+            QVERIFY(!drop.isAccepted());
+            window->close();
+        });
+        dialog.exec();
+    }
+
     void each_undo_takes_back_one_delete()
     {
         press_delete({qs("A"), qs("B")});
@@ -222,6 +243,55 @@ private slots:
         press_undo();
         QVERIFY(!m_modals.last().text.isEmpty());
         QVERIFY(!undo().isEnabled());
+    }
+
+    // As after a backup copy was put back, or in another directory: the number is that of another state now.
+    void an_undo_brings_back_nothing_else()
+    {
+        press_delete({qs("A")});
+        run_foreign(qs("UPDATE history SET name = 'Z', name_key = 'z', revision = 'other'"));
+        expect_box(qs("The history does not have the device \"A\" any more."));
+        press_undo();
+        check_box();
+        QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
+        QVERIFY(!undo().isEnabled());
+    }
+
+    // Who is about to press Delete has seen another one.
+    void what_someone_else_deletes_selects_nothing_in_its_place()
+    {
+        select({qs("A")});
+        const QString next = devices().model()->index(row_of(qs("A")) + 1, 0).data().toString();
+        run_foreign(qs("DELETE FROM device WHERE name = 'A'"));
+        m_window->refresh();
+        QCOMPARE(devices().currentIndex().data().toString(), next);
+        QVERIFY(!m_window->findChild<QAction*>(qs("m_delete_action"))->isEnabled());
+        press(Qt::Key_Delete);
+        QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
+    }
+
+    // A key that is held down is pressed once.
+    void a_held_key_deletes_once()
+    {
+        QVERIFY(!m_window->findChild<QAction*>(qs("m_delete_action"))->autoRepeat());
+        QVERIFY(!undo().autoRepeat());
+    }
+
+    void many_problems_fit_on_a_screen()
+    {
+        QStringList names;
+        for (int number = 0; number < 30; ++number) {
+            names.append(qs("N%1").arg(number));
+            store(names.last().toStdString());
+        }
+        m_window->refresh();
+        select(names);
+        run_foreign(qs("UPDATE device SET revision = 'other'"));
+        expect_box(qs("The device \"N0\" was changed by "));
+        press_delete(names);
+        check_box();
+        QCOMPARE(m_modals.last().text.count(QLatin1Char('\n')), 10);
+        QVERIFY(m_modals.last().text.endsWith(qs("\n...")));
     }
 
     void a_database_that_is_locked_loses_nothing()

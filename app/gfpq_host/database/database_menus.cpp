@@ -68,6 +68,7 @@ DATABASE_EDIT_MENU::DATABASE_EDIT_MENU(QWidget* parent, QWidget* table, bool all
     m_undo = addAction(tr("&Undo"), this, &DATABASE_EDIT_MENU::undo_asked);
     m_undo->setObjectName(QStringLiteral("m_undo_action"));
     m_undo->setShortcut(QKeySequence::Undo);
+    m_undo->setAutoRepeat(false);
     m_undo->setVisible(allows_changes);
     addSeparator();
     m_copy = add_for_table(this, table, tr("&Copy"), "m_copy_action", {QKeySequence::Copy});
@@ -108,6 +109,8 @@ DATABASE_DEVICE_MENU::DATABASE_DEVICE_MENU(QWidget* parent, QWidget* table, bool
     m_charts->setObjectName(QStringLiteral("m_charts_action"));
     m_delete = add_for_table(this, table, tr("&Delete"), "m_delete_action", {QKeySequence::Delete});
     connect(m_delete, &QAction::triggered, this, &DATABASE_DEVICE_MENU::delete_asked);
+    // A key that is held a little too long would go on with the next devices.
+    m_delete->setAutoRepeat(false);
     m_duplicate->setVisible(allows_changes);
     m_delete->setVisible(allows_changes);
     show_possible();

@@ -7,6 +7,7 @@
 #include "database/device_page.h"
 #include "database/dropped_files.h"
 #include "database/export_dialog.h"
+#include "database/few_lines.h"
 #include "database/history_page.h"
 #include "database/import_dialog.h"
 #include "dialog/choice_combo.h"
@@ -174,7 +175,7 @@ void DATABASE_WINDOW::say_problems(const QStringList& problems)
 {
     if (problems.isEmpty())
         return;
-    QMessageBox box(QMessageBox::Warning, windowTitle(), problems.join(QLatin1Char('\n')), QMessageBox::Ok, this);
+    QMessageBox box(QMessageBox::Warning, windowTitle(), few_lines(problems), QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -335,6 +336,8 @@ void DATABASE_WINDOW::delete_selected()
     QStringList problems;
     const QStringList deleted = m_removed.remove(m_device_page->selected(), problems);
     refresh();
+    if (!deleted.isEmpty())
+        m_device_page->select_current();
     if (deleted.size() == 1)
         show_message(tr("The device \"%1\" is deleted. Ctrl+Z brings it back.").arg(deleted.first()));
     else if (deleted.size() > 1)

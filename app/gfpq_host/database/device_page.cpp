@@ -109,9 +109,15 @@ void DEVICE_PAGE::refresh()
 {
     const int row = m_table->currentIndex().row();
     m_model.show(list_devices(m_database));
-    // What was there is gone: what follows is current then.
     if (row >= 0 && !m_table->currentIndex().isValid() && m_model.rowCount() > 0)
-        m_table->selectRow(std::min(row, m_model.rowCount() - 1));
+        m_table->selectionModel()->setCurrentIndex(
+            m_model.index(std::min(row, m_model.rowCount() - 1), DEVICE_MODEL::NAME), QItemSelectionModel::NoUpdate);
+}
+
+void DEVICE_PAGE::select_current()
+{
+    if (m_table->currentIndex().isValid() && !m_table->selectionModel()->hasSelection())
+        m_table->selectRow(m_table->currentIndex().row());
 }
 
 void DEVICE_PAGE::filter()

@@ -26,8 +26,11 @@ public:
     // `database` is not owned and must outlive the page. Nothing is read before the first refresh().
     explicit DEVICE_PAGE(GFPDB_DATABASE& database);
 
-    // Reads the devices again; what was selected stays so, as far as it is there and the filter shows it.
+    // Reads the devices again; what was selected stays so, as far as it is there and the filter shows it. Where the
+    // current device is gone, the next one is current; it is not selected, because the user did not choose it.
     void refresh();
+    // Selects the current device when nothing is selected.
+    void select_current();
     // The selected devices in the order of their rows, without flows; and the one that has the focus.
     std::vector<GFPDB_RECORD> selected() const;
     int selected_count() const;

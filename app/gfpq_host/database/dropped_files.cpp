@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/dropped_files.h"
 
+#include <QApplication>
 #include <QMimeData>
 #include <QUrl>
 
@@ -17,6 +18,8 @@ bool has_records(const QString& file)
 DROPPED_FILES dropped_files(const QMimeData* data)
 {
     DROPPED_FILES files;
+    if (QApplication::activeModalWidget())
+        return files;
     const QList<QUrl> urls = data->urls();
     for (const QUrl& url : urls) {
         const QString file = url.toLocalFile();

@@ -15,5 +15,6 @@ struct DROPPED_FILES
     QStringList others;
 };
 
-// The local files of a drag; none when something else is dragged along.
+// The local files of a drag; none when something else is dragged along, and none while a dialog is open: windows that
+// wait for it take drops all the same, and it would not know of what they bring.
 DROPPED_FILES dropped_files(const QMimeData* data);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "database/export_dialog.h"
 
+#include "database/few_lines.h"
 #include "new_device/problem_line.h"
 #include "programmer/panel_form.h"
 
@@ -23,15 +24,6 @@
 namespace {
 
 constexpr int FIRST_WIDTH = 560;
-// More names than that make a box too high.
-constexpr int NAMES_MAX = 10;
-
-QString some_of(const QStringList& names)
-{
-    const QString some = names.mid(0, NAMES_MAX).join(QLatin1Char('\n'));
-    return names.size() > NAMES_MAX ? some + QStringLiteral("\n...") : some;
-}
-
 } // namespace
 
 EXPORT_DIALOG::EXPORT_DIALOG(GFPDB_DATABASE& database, const std::vector<GFPDB_RECORD>& chosen, QWidget* parent)
@@ -146,7 +138,7 @@ bool EXPORT_DIALOG::confirm(const QStringList& existing)
     if (existing.isEmpty())
         return true;
     QMessageBox box(QMessageBox::Warning, windowTitle(),
-                    tr("These files already exist:") + QLatin1Char('\n') + some_of(existing), QMessageBox::Cancel,
+                    tr("These files already exist:") + QLatin1Char('\n') + few_lines(existing), QMessageBox::Cancel,
                     this);
     box.setTextFormat(Qt::PlainText);
     const QPushButton* replace = box.addButton(tr("Re&place"), QMessageBox::AcceptRole);
@@ -202,7 +194,7 @@ QString EXPORT_DIALOG::left_out_text() const
 {
     const QStringList& names = m_export.left_out();
     return names.isEmpty() ? QString()
-                           : tr("These cannot be read, and are not exported:") + QLatin1Char('\n') + some_of(names);
+                           : tr("These cannot be read, and are not exported:") + QLatin1Char('\n') + few_lines(names);
 }
 
 void EXPORT_DIALOG::reject()

@@ -44,6 +44,13 @@ QStringList REMOVED_DEVICES::last() const
     return names;
 }
 
+// Where the file was replaced by a backup copy of it, the number may be that of another state.
+bool REMOVED_DEVICES::is_gone(const REMOVED& removed) const
+{
+    const std::optional<GFPDB_HISTORY_ENTRY> state = m_database.load_state(removed.state);
+    return state ? state->row.revision != removed.device.row.revision : m_database.get_last_error().empty();
+}
+
 std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(QStringList& problems)
 {
     std::vector<GFPDB_RECORD> restored;
@@ -54,14 +61,14 @@ std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(QStringList& problems)
     STEP left;
     for (const REMOVED& removed : step) {
         GFPDB_MGR& manager = m_database.get_manager();
-        if (manager.restore_flash(removed.state, std::string(), GFPDB_RESTORE_KEEP, std::string())) {
+        if (is_gone(removed)) {
+            problems.append(tr("The history does not have the device \"%1\" any more.").arg(name_of(removed.device)));
+        } else if (manager.restore_flash(removed.state, std::string(), GFPDB_RESTORE_KEEP, std::string())) {
             restored.push_back(removed.device);
-            continue;
-        }
-        problems.append(QString::fromStdString(manager.get_last_error()));
-        const bool is_kept = m_database.load_state(removed.state) || !m_database.get_last_error().empty();
-        if (is_kept)
+        } else {
+            problems.append(QString::fromStdString(manager.get_last_error()));
             left.push_back(removed);
+        }
     }
     if (!left.empty())
         m_steps.push_back(std::move(left));

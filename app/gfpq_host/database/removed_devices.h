@@ -44,6 +44,8 @@ private:
     };
     using STEP = std::vector<REMOVED>;
 
+    bool is_gone(const REMOVED& removed) const;
+
     GFPDB_DATABASE& m_database;
     // The latest last; none is empty.
     std::vector<STEP> m_steps;
