@@ -168,6 +168,8 @@ int COMPARE_MODEL::columnCount(const QModelIndex& parent) const
 
 QVariant COMPARE_MODEL::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return QVariant();
     const COMPARED_ROW& row = this->row(index.row());
     switch (role) {
     case Qt::DisplayRole:

@@ -80,6 +80,8 @@ void DEVICE_MODEL::filter(const QString& text)
 
 void DEVICE_MODEL::sort(int column, Qt::SortOrder order)
 {
+    if (column < 0 || column >= COLUMNS)
+        return;
     beginResetModel();
     m_sort_column = column;
     m_sort_order = order;
@@ -211,7 +213,7 @@ QVariant DEVICE_MODEL::headerData(int section, Qt::Orientation orientation, int 
     if (orientation == Qt::Horizontal && role == Qt::ToolTipRole && section == ADDRESS_BYTES)
         return tr("Of own devices they are read from the flows when they are shown for the first time. Those not read "
                   "yet are sorted as the highest.");
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= COLUMNS)
         return QVariant();
     const QString titles[COLUMNS] = {tr("Name"),    tr("Maker"),         tr("Device ID"), tr("Density"),
                                      tr("Voltage"), tr("Address bytes"), tr("Dies"),      tr("Device family"),

@@ -46,6 +46,7 @@ public:
 
     void show(std::vector<LISTED_DEVICE> devices);
     void filter(const QString& text);
+    // A column that there is not, as settings of another version may name it, changes nothing.
     void sort(int column, Qt::SortOrder order) override;
 
     const LISTED_DEVICE& at(int row) const { return m_devices[m_shown[static_cast<std::size_t>(row)]]; }

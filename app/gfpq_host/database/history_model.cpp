@@ -3,6 +3,7 @@
 
 #include "database/local_time.h"
 #include "dialog/choice_combo.h"
+#include "program/plain_tool_tip.h"
 
 #include <algorithm>
 
@@ -75,7 +76,7 @@ HISTORY_MODEL::HISTORY_MODEL(GFPDB_DATABASE& database) : m_database(database)
     connect(&m_search, &QTimer::timeout, this, &HISTORY_MODEL::read_part);
 }
 
-void HISTORY_MODEL::reload()
+void HISTORY_MODEL::reload(int count)
 {
     beginResetModel();
     m_search.stop();
@@ -83,7 +84,8 @@ void HISTORY_MODEL::reload()
     m_next.reset();
     m_has_more = true;
     endResetModel();
-    fetchMore(QModelIndex());
+    m_missing = std::max(PAGE, count);
+    read_part();
 }
 
 void HISTORY_MODEL::set_filter(const GFPDB_HISTORY_FILTER& filter)
@@ -144,11 +146,13 @@ int HISTORY_MODEL::columnCount(const QModelIndex& parent) const
 
 QVariant HISTORY_MODEL::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return QVariant();
     switch (role) {
     case Qt::DisplayRole:
         return cell_text(entry(index.row()), index.column());
     case Qt::ToolTipRole:
-        return tool_tip(entry(index.row()), index.column());
+        return plain_tool_tip(tool_tip(entry(index.row()), index.column()));
     case Qt::TextAlignmentRole:
         return int((index.column() == NUMBER ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     default:
@@ -158,7 +162,7 @@ QVariant HISTORY_MODEL::data(const QModelIndex& index, int role) const
 
 QVariant HISTORY_MODEL::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= COLUMNS)
         return QVariant();
     const QString titles[COLUMNS] = {tr("No."),  tr("When"), tr("User"),   tr("Change"),
                                      tr("Kind"), tr("Name"), tr("Family"), tr("Mode")};

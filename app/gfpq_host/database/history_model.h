@@ -32,8 +32,9 @@ public:
     // `database` must outlive the model. Nothing is read yet.
     explicit HISTORY_MODEL(GFPDB_DATABASE& database);
 
-    // Begins again with the newest states.
-    void reload();
+    // Begins again with the newest states, of which it reads `count`, or a page: at once as far as one look at the
+    // history finds them.
+    void reload(int count = 0);
     void set_filter(const GFPDB_HISTORY_FILTER& filter);
     const GFPDB_HISTORY_ENTRY& entry(int row) const { return m_entries[static_cast<std::size_t>(row)]; }
     // The row of the state; -1 when it is not among those that were read.

@@ -27,6 +27,9 @@ namespace {
 // The widths of the columns, in characters; the last one takes the rest.
 constexpr int WIDTHS[HISTORY_MODEL::COLUMNS] = {7, 23, 22, 14, 14, 24, 20, 18};
 
+// More than come between two looks.
+constexpr int NEW_STATES = 250;
+
 enum KIND
 {
     BOTH,
@@ -170,13 +173,41 @@ void HISTORY_PAGE::refresh()
     m_was_read = isVisible();
     if (!m_was_read)
         return;
-    const std::vector<int> rows = selected_rows();
-    const std::int64_t id = rows.empty() ? 0 : m_model.entry(rows.front()).id;
+    const PLACE former = place();
     m_total = m_database.count_history();
-    m_model.reload();
-    const int row = m_model.row_of(id);
-    if (row >= 0)
-        m_table->selectRow(row);
+    m_model.reload(former.rows);
+    return_to(former);
+}
+
+HISTORY_PAGE::PLACE HISTORY_PAGE::place() const
+{
+    PLACE place;
+    const auto id_of = [this](int row) { return row < 0 ? 0 : m_model.entry(row).id; };
+    const std::vector<int> rows = selected_rows();
+    for (const int row : rows)
+        place.selected.push_back(id_of(row));
+    place.current = id_of(m_table->currentIndex().row());
+    // Who looks at the newest ones wants to see those that come.
+    const int top = m_table->rowAt(0);
+    place.top = top > 0 ? id_of(top) : 0;
+    const int bottom = m_table->rowAt(m_table->viewport()->height() - 1);
+    place.rows = std::max({top, bottom, rows.empty() ? 0 : rows.back(), m_table->currentIndex().row()}) + NEW_STATES;
+    return place;
+}
+
+void HISTORY_PAGE::return_to(const PLACE& place)
+{
+    const auto index_of = [this](std::int64_t id) { return m_model.index(m_model.row_of(id), 0); };
+    QItemSelectionModel& selection = *m_table->selectionModel();
+    selection.setCurrentIndex(index_of(place.current), QItemSelectionModel::NoUpdate);
+    QItemSelection selected;
+    for (const std::int64_t id : place.selected) {
+        if (m_model.row_of(id) >= 0)
+            selected.select(index_of(id), index_of(id));
+    }
+    selection.select(selected, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    if (index_of(place.top).isValid())
+        m_table->scrollTo(index_of(place.top), QAbstractItemView::PositionAtTop);
 }
 
 void HISTORY_PAGE::filter()

@@ -43,6 +43,15 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    // What is selected, current and the first in sight, by the numbers of the states; 0 for none. `rows` reach over it.
+    struct PLACE
+    {
+        std::vector<std::int64_t> selected;
+        std::int64_t current = 0;
+        std::int64_t top = 0;
+        int rows = 0;
+    };
+
     void create_filter();
     void create_table();
     void create_actions();
@@ -51,6 +60,8 @@ private:
     void filter();
     void show_count();
     void show_choice();
+    PLACE place() const;
+    void return_to(const PLACE& place);
     // The selected rows, from the newest state to the oldest.
     std::vector<int> selected_rows() const;
     const GFPDB_HISTORY_ENTRY& selected() const { return m_model.entry(selected_rows().front()); }

@@ -2,6 +2,7 @@
 #include "database/import_model.h"
 
 #include "dialog/choice_combo.h"
+#include "program/plain_tool_tip.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -120,12 +121,14 @@ int IMPORT_MODEL::columnCount(const QModelIndex& parent) const
 
 QVariant IMPORT_MODEL::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return QVariant();
     const IMPORT_ROW& shown_row = row(index.row());
     switch (role) {
     case Qt::DisplayRole:
         return text(shown_row, index.column());
     case Qt::ToolTipRole:
-        return index.column() == FILE_NAME ? shown_row.file : text(shown_row, index.column());
+        return plain_tool_tip(index.column() == FILE_NAME ? shown_row.file : text(shown_row, index.column()));
     case Qt::DecorationRole:
         return index.column() == STATE ? icon(shown_row.state) : QVariant();
     case SORT_ROLE:

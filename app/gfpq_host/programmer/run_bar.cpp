@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "programmer/run_bar.h"
 
+#include "program/plain_tool_tip.h"
 #include "run/number_text.h"
 
 #include <QAccessible>
@@ -167,9 +168,7 @@ void RUN_BAR::show_verdict(const QString& text, MOOD mood, const QString& detail
     m_verdict_icon->setPixmap(style()->standardIcon(icon_of(mood)).pixmap(size));
     m_verdict_icon->show();
     m_verdict_label->setText(text);
-    // Its letters as they stand, and lines that are wrapped.
-    const QString tool_tip = QStringLiteral("<span>%1</span>").arg(detail.toHtmlEscaped());
-    m_verdict_label->setToolTip(detail.isEmpty() ? QString() : tool_tip);
+    m_verdict_label->setToolTip(plain_tool_tip(detail));
     QAccessibleEvent alert(m_verdict_label, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

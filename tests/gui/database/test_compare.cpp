@@ -5,6 +5,7 @@
 #include "marking_translator.h"
 #include "test_rows.h"
 
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -280,6 +281,15 @@ private slots:
         QCOMPARE(table().accessibleName(), qs("Mine, state 1 and Mine, now"));
         QCOMPARE(part<QPushButton>("m_next_button").toolTip(), qs("F8"));
         QCOMPARE(part<QPushButton>("m_previous_button").toolTip(), qs("F7"));
+    }
+
+    void the_table_follows_the_rules_of_models()
+    {
+        COMPARE_MODEL model({qs("one"), make_record({action("a")})}, {qs("two"), make_record({action("b")})});
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.show_only_differences(true);
+        QVERIFY(model.rowCount() > 0);
+        QVERIFY(!model.data(QModelIndex(), Qt::DisplayRole).isValid());
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "database/device_model.h"
 #include "test_rows.h"
 
+#include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
 namespace {
@@ -167,6 +168,22 @@ private slots:
                  (QStringList{QStringLiteral("4"), QStringLiteral("3"), QString()}));
         m_model->sort(DEVICE_MODEL::ADDRESS_BYTES, Qt::AscendingOrder);
         QCOMPARE(names(), QStringLiteral("none 3a 4b"));
+    }
+
+    // Settings of another version may name a column that there is not.
+    void the_table_follows_the_rules_of_models()
+    {
+        show({QStringLiteral("b1"), QStringLiteral("a1"), QStringLiteral("a2")});
+        const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_model->filter(QStringLiteral("1"));
+        m_model->sort(DEVICE_MODEL::NAME, Qt::DescendingOrder);
+        m_model->show({device(QStringLiteral("c1")), device(QStringLiteral("a1"))});
+        for (const int missing : {-1, int(DEVICE_MODEL::COLUMNS)})
+            m_model->sort(missing, Qt::AscendingOrder);
+        QCOMPARE(names(), QStringLiteral("c1 a1"));
+        column(DEVICE_MODEL::ADDRESS_BYTES);
+        QTRY_COMPARE(m_read.size(), 2);
+        QVERIFY(!m_model->headerData(DEVICE_MODEL::COLUMNS, Qt::Horizontal, Qt::DisplayRole).isValid());
     }
 
     void built_in_devices_serve_all()

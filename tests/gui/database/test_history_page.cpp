@@ -5,10 +5,12 @@
 #include "database/history_page.h"
 #include "lost_work_test.h"
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QDateTime>
 #include <QLabel>
 #include <QScrollBar>
+#include <QTextDocument>
 
 class TEST_HISTORY_PAGE : public LOST_WORK_TEST
 {
@@ -184,6 +186,55 @@ private slots:
 
         QCOMPARE(table().model()->rowCount(), 5);
         QCOMPARE(table().currentIndex().siblingAtColumn(HISTORY_MODEL::NUMBER).data().toString(), qs("2"));
+    }
+
+    // Somebody stores, while an old state is looked at.
+    void a_state_far_down_stays_selected_and_in_sight()
+    {
+        make_long_history(1000);
+        open_page();
+        while (table().model()->canFetchMore(QModelIndex()))
+            table().model()->fetchMore(QModelIndex());
+        select(300);
+        table().scrollTo(table().currentIndex());
+        table().selectionModel()->select(table().model()->index(800, 0),
+                                         QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        store("Mine", "0x03");
+
+        m_page->refresh();
+
+        QCOMPARE(table().model()->index(0, HISTORY_MODEL::NUMBER).data().toString(), qs("1001"));
+        QCOMPARE(table().currentIndex().siblingAtColumn(HISTORY_MODEL::NUMBER).data().toString(), qs("300"));
+        QCOMPARE(table().selectionModel()->selectedRows().size(), 2);
+        QVERIFY(table().viewport()->rect().intersects(table().visualRect(table().currentIndex())));
+    }
+
+    void a_name_is_no_markup()
+    {
+        store("Mine", "0x01");
+        store("Mine", "0x02");
+        run_foreign(qs("UPDATE history SET name = '<b>Mine</b>'"));
+        open_page();
+
+        const QModelIndex name = table().model()->index(0, HISTORY_MODEL::NAME);
+        QCOMPARE(name.data().toString(), qs("<b>Mine</b>"));
+        QTextDocument tip;
+        tip.setHtml(name.data(Qt::ToolTipRole).toString());
+        QCOMPARE(tip.toPlainText(), qs("<b>Mine</b>"));
+    }
+
+    void the_table_follows_the_rules_of_models()
+    {
+        make_long_history(600);
+        open_page();
+        const QAbstractItemModelTester tester(table().model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+        child<QLineEdit>("m_history_name_edit").setText(qs("mine"));
+        QTRY_VERIFY(!count().contains(qs("searching")));
+        while (table().model()->canFetchMore(QModelIndex()))
+            table().model()->fetchMore(QModelIndex());
+        QCOMPARE(table().model()->rowCount(), 600);
+        QVERIFY(!table().model()->data(QModelIndex(), Qt::DisplayRole).isValid());
     }
 
     void return_shows_what_a_change_was()
