@@ -138,8 +138,10 @@ int resolution()
 }
 
 // Values may have characters that XML cannot; Qt writes them as they are.
-QByteArray without_control_characters(QByteArray xml)
+QByteArray without_bad_characters(QByteArray xml)
 {
+    for (const char* const none : {"\xEF\xBF\xBE", "\xEF\xBF\xBF"}) // U+FFFE, U+FFFF
+        xml.replace(none, "");
     const auto is_bad = [](char byte) { return byte >= 0 && byte < ' ' && byte != '\n' && byte != '\t'; };
     xml.truncate(static_cast<int>(std::remove_if(xml.begin(), xml.end(), is_bad) - xml.begin()));
     return xml;
@@ -167,7 +169,7 @@ QByteArray draw_svg(const CHARTS& charts, const HEADER& header)
     painter.translate(0.0, header.height());
     draw_pieces(painter, charts, page);
     painter.end();
-    return without_control_characters(file.data());
+    return without_bad_characters(file.data());
 }
 
 // One page of a document: header, charts in the middle, number of the page at the foot.

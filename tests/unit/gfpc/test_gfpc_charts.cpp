@@ -149,7 +149,7 @@ private slots:
     {
         GFPC_ORDER odd = long_order(1);
         odd.format = GFPC_FORMAT::SVG;
-        odd.record.row.name = "<A & \x01 \"B\">";
+        odd.record.row.name = "<A & \x01 \"B\">\xEF\xBF\xBE\xEF\xBF\xBF";
         odd.record.row.quad_flows.replace(odd.record.row.quad_flows.find("Step 1"), 6, "St\\u001bep </text> & 1");
 
         const QStringList texts = texts_of_svg(drawn(odd));
