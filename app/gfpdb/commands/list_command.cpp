@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -89,15 +90,23 @@ std::vector<std::string> kind_names()
     return names;
 }
 
+// The keys are made once: a list of very many records compares each of them again and again.
 void sort(std::vector<FOUND>& found, const ORDER& order)
 {
-    std::stable_sort(found.begin(), found.end(), [&order](const FOUND& left, const FOUND& right) {
-        const std::string left_key = order.key(left);
-        const std::string right_key = order.key(right);
-        if (left_key.empty() || right_key.empty())
-            return !left_key.empty() && right_key.empty();
-        return order.is_descending ? left_key > right_key : left_key < right_key;
+    std::vector<std::pair<std::string, FOUND*>> keyed;
+    keyed.reserve(found.size());
+    for (FOUND& each : found)
+        keyed.emplace_back(order.key(each), &each);
+    std::stable_sort(keyed.begin(), keyed.end(), [&order](const auto& left, const auto& right) {
+        if (left.first.empty() || right.first.empty())
+            return !left.first.empty() && right.first.empty();
+        return order.is_descending ? left.first > right.first : left.first < right.first;
     });
+    std::vector<FOUND> sorted;
+    sorted.reserve(found.size());
+    for (const auto& each : keyed)
+        sorted.push_back(std::move(*each.second));
+    found = std::move(sorted);
 }
 
 // The rules of the options. False: `problem` says what is wrong with one of them.
