@@ -24,6 +24,8 @@ constexpr const char* UNUSED_ENABLE = "L13";
 
 constexpr std::int64_t UNKNOWN_NUMBER = -1;
 
+constexpr int SR1_BUSY = 0x01;
+constexpr int SR1_WRITE_ENABLED = 0x02;
 constexpr int SR1_QUAD_ENABLE = 0x40;
 constexpr int SR2_QUAD_ENABLE = 0x02;
 constexpr int SR2_QUAD_ENABLE_BIT7 = 0x80;
@@ -84,11 +86,21 @@ bool expects(const GFPDB_ACTION& action, const STATE_BIT (&bits)[COUNT])
     });
 }
 
+// The write enable ends with the command: a chip that is ready has neither bit. False when the read looks at neither,
+// or waits for one of them.
+bool looks_for_ready(const GFPDB_ACTION& action)
+{
+    constexpr int BITS = SR1_BUSY | SR1_WRITE_ENABLED;
+    const std::vector<int> mask = bytes_of(action, GFPDB_RR_EXPECTED_DATA_MASK);
+    const bool looks = mask.empty() || has_bit(mask, 0, BITS);
+    return opcode_of(action) != READ_STATUS || (looks && !has_bit(bytes_of(action, GFPDB_RR_EXPECTED_DATA), 0, BITS));
+}
+
 // Reads again and again until the chip is ready. The ID is not there while it is busy, and says nothing about that.
 bool is_poll(const GFPDB_ACTION& action)
 {
-    return action.get_property_value(GFPDB_RR_EXPECTED_DATA) != GFPDB_VALUE_NONE && !is_id_check(action) &&
-           number_of(action, GFPDB_RR_ATTEMPT_COUNT, 1) > 1;
+    return looks_for_ready(action) && action.get_property_value(GFPDB_RR_EXPECTED_DATA) != GFPDB_VALUE_NONE &&
+           !is_id_check(action) && number_of(action, GFPDB_RR_ATTEMPT_COUNT, 1) > 1;
 }
 
 // The command may be sent to a busy chip, and does no harm. (A reset is heard, and breaks off what the chip does.)
