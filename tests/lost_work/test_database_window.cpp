@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QSettings>
 #include <QStatusBar>
@@ -268,6 +269,20 @@ private slots:
         QVERIFY(!m_window->findChild<QAction*>(qs("m_delete_action"))->isEnabled());
         press(Qt::Key_Delete);
         QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
+    }
+
+    // A table without the own devices would look as if they were lost.
+    void a_table_that_cannot_be_read_says_so()
+    {
+        lock(qs("EXCLUSIVE"));
+        m_window->refresh();
+        const auto& problem = *m_window->findChild<QLabel*>(qs("m_database_problem"));
+        QCOMPARE(row_of(qs("A")), -1);
+        QVERIFY2(problem.isVisible() && problem.text().contains(qs("locked")), qPrintable(problem.text()));
+        unlock();
+        m_window->refresh();
+        QVERIFY(row_of(qs("A")) >= 0);
+        QVERIFY(!problem.isVisible());
     }
 
     // A key that is held down is pressed once.

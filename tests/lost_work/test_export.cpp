@@ -168,6 +168,20 @@ private slots:
         QCOMPARE(exported(), QStringList(qs("Good")));
     }
 
+    // Not that there is nothing: who reads that would not try again.
+    void a_database_that_cannot_be_read_is_said()
+    {
+        store("A");
+        show();
+        lock(qs("EXCLUSIVE"));
+        export_as(EXPORT_WISH::STORED, EXPORT_WISH::ONE_FILE, place(qs("a.json")));
+        QVERIFY2(problem().contains(qs("locked")), qPrintable(problem()));
+        QCOMPARE(files(), QStringList());
+        unlock();
+        export_as(EXPORT_WISH::STORED, EXPORT_WISH::ONE_FILE, place(qs("a.json")));
+        QCOMPARE(exported(), QStringList(qs("A")));
+    }
+
     void a_file_that_cannot_be_written_is_as_it_was()
     {
         store("A");

@@ -15,9 +15,14 @@ QAction* add_for_table(QMenu* menu, QWidget* table, const QString& text, const c
     return action;
 }
 
-// A name in a menu; an ampersand is no access key.
+// A name or path in a menu: an ampersand is no access key, no tab comes before keys, and a long one is not wider than
+// the screen. Both ends say more than one.
 QString menu_text(QString name)
 {
+    constexpr int MOST = 60;
+    if (name.size() > MOST)
+        name = name.left(MOST / 2) + QStringLiteral("\u2026") + name.right(MOST / 2);
+    name.replace(QLatin1Char('\t'), QLatin1Char(' '));
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 

@@ -168,7 +168,9 @@ void EXPORT_DIALOG::write()
     }
     m_progress->show();
     m_export.prepare(wanted, progress);
-    if (m_export.count() == 0)
+    if (!m_export.problem().isEmpty())
+        problem = m_export.problem();
+    else if (m_export.count() == 0)
         problem = m_export.left_out().isEmpty() ? tr("There is nothing to export.") : left_out_text();
     else if (!confirm(m_export.existing()))
         problem = QString();

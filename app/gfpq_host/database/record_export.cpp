@@ -43,6 +43,9 @@ std::vector<GFPDB_RECORD> RECORD_EXPORT::collect(EXPORT_WISH::SOURCE source, con
     }
     const std::vector<GFPDB_RECORD> found = source == EXPORT_WISH::STORED ? m_database.find_stored({}) : m_chosen;
     std::vector<GFPDB_RECORD> records;
+    m_problem = source == EXPORT_WISH::STORED ? QString::fromStdString(m_database.get_last_error()) : QString();
+    if (!m_problem.isEmpty())
+        return records;
     for (std::size_t at = 0; at < found.size(); ++at) {
         progress(percent(at, found.size()));
         std::optional<GFPDB_RECORD> record =
@@ -70,6 +73,7 @@ void RECORD_EXPORT::prepare(const EXPORT_WISH& wish, const std::function<void(in
 {
     m_files.clear();
     m_left_out.clear();
+    m_problem.clear();
     m_count = 0;
     const std::vector<GFPDB_RECORD> records = collect(wish.source, progress);
     const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(wish.path));

@@ -50,6 +50,8 @@ public:
     // How many records are in the files; and the names of those that cannot be read, and are not.
     int count() const { return m_count; }
     const QStringList& left_out() const { return m_left_out; }
+    // Why the database cannot be read at all; empty when it can.
+    const QString& problem() const { return m_problem; }
     // Those of the files that exist already.
     QStringList existing() const;
     // Writes each file as a whole or not at all. False: `problem` says which one cannot be written, and why.
@@ -71,4 +73,5 @@ private:
     std::vector<TARGET> m_files;
     int m_count = 0;
     QStringList m_left_out;
+    QString m_problem;
 };

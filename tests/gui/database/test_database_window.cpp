@@ -3,6 +3,7 @@
 // The window of the database, from the programmer's menu to the clipboard. What could be lost there is tested in
 // tests/lost_work.
 #include "cut_labels.h"
+#include "database/database_menus.h"
 #include "database/database_window.h"
 #include "program/help_menu.h"
 #include "program/program_icon.h"
@@ -456,6 +457,22 @@ private slots:
         QTest::keyClick(&table(), Qt::Key_Delete);
         QCOMPARE(GFPDB_DATABASE(GFPDB_MGR::get_db_custom_dir()).find_stored({}).size(), std::size_t{1});
         QVERIFY(part<QAction>("m_open_action").isEnabled());
+    }
+
+    // A menu is no wider than the screen, and what follows a tab in it would be its keys.
+    void menus_show_the_ends_of_long_names()
+    {
+        QWidget window;
+        const QString name = qs("a\t&b") + QString(250, QLatin1Char('x')) + qs("z");
+        DATABASE_EDIT_MENU edit(&window, &window, true);
+        edit.show_undo({name});
+        DATABASE_MENU menu(&window, true);
+        menu.set_recent({name});
+        for (const QString& text :
+             {edit.actions().first()->text(), menu.findChild<QMenu*>(qs("m_recent_menu"))->actions().first()->text()}) {
+            QVERIFY2(text.contains(qs("a &&bx")) && text.contains(qs("xz")), qPrintable(text));
+            QVERIFY2(text.size() < 90, qPrintable(text));
+        }
     }
 
     void the_menu_of_the_table_is_that_of_the_devices()
