@@ -88,6 +88,9 @@ private:
         };
         const std::vector<GFPDB_RECORD> found = matching(m_is_builtin ? m_call.database.find_builtin(m_selection)
                                                                       : m_call.database.find_stored(m_selection));
+        const std::string& problem = m_call.database.get_last_error();
+        if (!m_is_builtin && !problem.empty())
+            return fail_to_read(problem);
         m_matches += found.size();
         if (!m_is_builtin)
             return add_stored(found, matching(m_call.database.find_misplaced(m_selection)));
@@ -107,13 +110,20 @@ private:
             // What another program has removed meanwhile is not there to be exported.
             if (const std::optional<GFPDB_RECORD> record = m_call.database.load(each))
                 add_once(*record);
+            else if (!m_call.database.get_last_error().empty())
+                return fail_to_read(m_call.database.get_last_error());
             m_call.output.progress("Exporting", ++done, static_cast<int>(found.size()));
         }
         m_call.output.finish_progress();
         const std::string problem = m_call.database.get_read_problem();
         if (problem.empty() && m_call.database.get_last_error().empty())
             return true;
-        m_exit_code = m_call.database_failed(problem.empty() ? m_call.database.get_last_error() : problem);
+        return fail_to_read(problem.empty() ? m_call.database.get_last_error() : problem);
+    }
+
+    bool fail_to_read(const std::string& problem)
+    {
+        m_exit_code = m_call.database_failed(problem);
         return false;
     }
 

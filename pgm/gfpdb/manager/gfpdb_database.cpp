@@ -111,6 +111,9 @@ std::vector<GFPDB_RECORD> GFPDB_DATABASE::find_stored(const GFPDB_SELECTION& sel
         if (has_name(selection, row.name) && has_place(selection, row))
             records.push_back({false, row, 0});
     }
+    // The reason must not be lost: the templates would pass for all that is stored.
+    if (!get_last_error().empty())
+        return records;
     for (const GFPDB_ROW& row : store().get_templates()) {
         if (has_name(selection, row.template_name))
             records.push_back({true, row, 0});

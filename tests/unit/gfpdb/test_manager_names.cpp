@@ -2,6 +2,7 @@
 
 // The manager: names that are in use, by the device that the user is asked about, by others and by built-in parts; and
 // names whose record no one has seen.
+#include "gfpdb/gfpdb_database.h"
 #include "gfpdb/gfpdb_helper.h"
 #include "manager_test.h"
 #include "marking_translator.h"
@@ -9,6 +10,8 @@
 #include "test_rows.h"
 
 #include <QRegularExpression>
+
+#include <memory>
 
 namespace {
 
@@ -266,6 +269,25 @@ private slots:
         QVERIFY(!remove("A"));
     }
 
+    void what_is_stored_is_not_listed_without_the_devices()
+    {
+        write_file(m_place->settings(), "[database]\nbusy_timeout=0\n");
+        make_database();
+        GFPDB_DATABASE database(m_place->db_dir());
+        QCOMPARE(database.find_stored({}).size(), std::size_t(3));
+
+        // The lock goes as soon as it was met: the templates can be read again.
+        s_lock = std::make_unique<FOREIGN_LOCK>(m_place->db_file());
+        const QtMessageHandler handler =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { s_lock.reset(); });
+        const std::size_t found = database.find_stored({}).size();
+        qInstallMessageHandler(handler);
+
+        QVERIFY(s_lock == nullptr);
+        QCOMPARE(found, std::size_t(0));
+        QVERIFY(!database.get_last_error().empty());
+    }
+
     void a_device_is_deleted_once_it_was_read()
     {
         save("A");
@@ -319,6 +341,8 @@ private slots:
     }
 
 private:
+    static inline std::unique_ptr<FOREIGN_LOCK> s_lock;
+
     void look_at(const std::string& name) { QVERIFY(!m_mgr->is_hidden_flash(name, false)); }
     std::string device_error(const std::string& name) const { return checked(*m_mgr, GFPDB_FLASH_NAME, name); }
     std::string template_error(const std::string& name) const
