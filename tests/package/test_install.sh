@@ -69,6 +69,6 @@ use_driver "$PLUGINS"
 run german "$PREFIX/bin/gfpq_host" --dialog --lang de
 expect_line 'dialog: Konfigurationsbaustein' german.err
 run german_window "$PREFIX/bin/gfpq_host" --lang de
-expect_line 'label: Datenbankverzeichnis:' german_window.err
+expect_line 'label: Datenbank&verzeichnis:' german_window.err
 
 echo "PASSED"
