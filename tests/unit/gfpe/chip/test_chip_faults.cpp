@@ -313,6 +313,17 @@ private slots:
         QCOMPARE(file_bytes().at(0), '\x12');
     }
 
+    void a_chip_that_is_filled_is_filled_in_its_file()
+    {
+        std::string problem;
+        CHIP_HOST host("W25Q80DV");
+        QVERIFY(host.chip->use_file(path(), problem));
+
+        host.chip->fill_memory(0x5A);
+        QVERIFY(host.chip->save(problem));
+        QCOMPARE(file_bytes(), QByteArray(CHIP_BYTES, '\x5A'));
+    }
+
     void a_second_chip_on_the_same_file_is_refused()
     {
         std::string problem;

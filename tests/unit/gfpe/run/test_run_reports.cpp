@@ -3,6 +3,7 @@
 // What a run says while it goes on, and at its end.
 #include "flow_run.h"
 #include "recording_bus.h"
+#include "run/gfpe_comparison.h"
 #include "test_rows.h"
 
 #include <QTest>
@@ -251,6 +252,22 @@ private slots:
         QCOMPARE(last.all_done, last.all_total);
     }
 
+    void the_pages_of_every_loop_count()
+    {
+        RECORDING_BUS bus;
+        SPARSE_IMAGE image;
+        image.add(0, BYTES(8192, 0x12));
+        FLOW flow = usual_flow();
+        flow[1] = operation_of(1, {start("page"), write_data(), end("page"), start("page"), write_data(), end("page")});
+        LISTENER listener;
+
+        const GFPE_RESULT result = run_flow(device(), flow, bus, order_of("P"), &image, &listener);
+
+        QVERIFY2(has_passed(result), report_of(result).c_str());
+        QCOMPARE(listener.m_progress.back().all_total, std::int64_t(2 * 8192));
+        QCOMPARE(listener.m_progress.back().all_done, std::int64_t(2 * 8192));
+    }
+
     void a_long_read_says_how_far_it_is()
     {
         RECORDING_BUS bus;
@@ -350,6 +367,27 @@ private slots:
         QCOMPARE(report_of(result), std::string("Examine: The disk is full."));
         QCOMPARE(failed_at(result), std::string("X 0: "));
         QCOMPARE(letters_of(result.phases), std::string("IXT"));
+    }
+
+    void who_does_not_keep_what_an_examine_reads_ends_nothing()
+    {
+        class WATCHER : public GFPE_LISTENER
+        {
+        };
+        RECORDING_BUS bus;
+        WATCHER watcher;
+
+        const GFPE_RESULT result = run_flow(device(), usual_flow(), bus, order_of("X"), nullptr, &watcher);
+
+        QVERIFY2(has_passed(result), report_of(result).c_str());
+    }
+
+    void one_byte_is_compared_alone()
+    {
+        const BYTES bytes = {0x00, 0xFF, 0x00};
+        QVERIFY(!gfpe_is_all(bytes.data(), 1, 0xFF));
+        QVERIFY(gfpe_is_all(bytes.data() + 1, 1, 0xFF));
+        QVERIFY(!gfpe_is_all(bytes.data() + 1, 2, 0xFF));
     }
 
     void an_image_that_cannot_be_read_fails_the_run_data()

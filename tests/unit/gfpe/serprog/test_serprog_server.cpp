@@ -353,6 +353,17 @@ private slots:
                  std::string("The programmer does not answer as the protocol serprog has it."));
     }
 
+    // Or this would take until then.
+    void a_connection_that_stands_is_waited_for_no_longer()
+    {
+        const ONE_CLIENT server([](QTcpSocket& client) { client.waitForDisconnected(-1); });
+        const std::atomic<bool> given_up(false);
+        constexpr int AN_HOUR_MS = 3600000;
+        std::string problem;
+
+        QVERIFY2(gfpe_tcp_line(LOCAL, server.port(), AN_HOUR_MS, &given_up, problem), problem.c_str());
+    }
+
     void a_programmer_on_a_serial_line_is_reached()
     {
         NOTING_BUS bus;
