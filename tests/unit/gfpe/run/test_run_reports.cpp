@@ -372,8 +372,7 @@ private slots:
     void who_does_not_keep_what_an_examine_reads_ends_nothing()
     {
         class WATCHER : public GFPE_LISTENER
-        {
-        };
+        {};
         RECORDING_BUS bus;
         WATCHER watcher;
 
