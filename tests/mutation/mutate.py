@@ -48,12 +48,19 @@ NEW_DEVICES = (r"sfdp|new_device|part_comparison|^test_(connection|language|cli_
 MODULE = r"^(gui_dialog|gui_flow|test_(accessibility|flow_keyboard|long_texts|language)|lost_work|security_plain)"
 HOST = r"^(unit_(host|device|programmer|new_device)|gui_(programmer|new_device)|test_language|security_programs)"
 EVERY = r""
+FLOW_TEXT = r"^(unit_gfpdb_(record|round_trip|rules)$|test_cli_(record|json|show|transfer))"
 AFFECTED = [
+    (r"pgm/gfpq/flow/gfpq_(flow_view|focus_ring|operation_tab)", r"^(gui_flow|test_flow_keyboard|test_acc)", MODULE),
     (r"pgm/gfpq/flow/", r"^gui_flow", MODULE),
     (r"pgm/gfpc/|app/gfpdb_chart/", r"^unit_gfpc", r"^(unit_gfpc|test_cli_chart|gui_programmer_charts)"),
+    (r"pgm/gfpq/dialog/gfpq_pane", r"^(test_long_texts|gui_dialog_(opened|constr))", MODULE),
+    (r"pgm/gfpq/(words/gfpq_acc|dialog/gfpq_d(lg|evice_form)\.)", r"^(gui_dialog|test_acc|lost_work_dir)", MODULE),
     (r"pgm/gfpq/", r"^gui_dialog", MODULE),
+    (r"pgm/gfpdb/model/gfpdb_flow_text", FLOW_TEXT, EVERY),
+    (r"pgm/gfpdb/.*_lint", r"^test_(flow|cli)_lint", r"^test_(flow|cli)"),
+    (r"pgm/gfpdb/manager/gfpdb_copy", r"^test_cli_copy", r"^(test_cli_copy|server_)"),
     (r"pgm/gfpdb/(model|rules|catalogue)/gfpdb_(action|operation|flow|catalogue)", r"^test_flow_[^e]", EVERY),
-    (r"pgm/gfpdb/sfdp/gfpdb_sfdp", r"^test_sfdp_(tables|read_outs)", NEW_DEVICES),
+    (r"pgm/gfpdb/(sfdp|include/gfpdb)/gfpdb_sfdp", r"^test_sfdp_(tables|read_outs)", NEW_DEVICES),
     (r"pgm/gfpdb/sfdp/", r"^test_(new_device$|part_comparison)", NEW_DEVICES),
     (r"pgm/gfpdb/store/server/", r"^(unit_gfpdb_server|server_)", r"^(unit_gfpdb_server|server_|test_cli_)"),
     (r"pgm/gfpdb/store/", r"^unit_(gfpdb|durability)", EVERY),

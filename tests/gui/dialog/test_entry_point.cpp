@@ -283,7 +283,7 @@ private slots:
 
     void without_a_record_nothing_is_shown()
     {
-        expect_warning(qs("exchange record"));
+        expect_warning(qs("^The Configuration Device dialog was called without an exchange record\\.$"));
 
         gfpq_dyn_dlg(nullptr, nullptr, true, true, true);
 

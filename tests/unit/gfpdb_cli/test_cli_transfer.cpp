@@ -230,6 +230,23 @@ private slots:
                               ":5.\ngfpdb: Nothing was imported.\n");
     }
 
+    void import_calls_a_stored_template_so()
+    {
+        save_part("Other", FAMILY, ACTIVE_SERIAL, "T");
+        const QString file = at("template.json");
+        tool({"export", "T", "-o", file});
+        replace_in_file(file, "\"total_die\": 1", "\"total_die\": 2");
+        const QString copy = at("copy.json");
+        QVERIFY(QFile::copy(file, copy));
+
+        QCOMPARE(tool({"import", file, copy}).err,
+                 "gfpdb: " + file.toUtf8() +
+                     ":6: The stored template \"T\" exists with different content: --replace replaces it.\n"
+                     "gfpdb: " +
+                     copy.toUtf8() + ":6: The stored template \"T\" is already in " + file.toUtf8() +
+                     ":6.\ngfpdb: Nothing was imported.\n");
+    }
+
     void import_tries_without_a_change()
     {
         make_dir(m_place->path("elsewhere/"));
