@@ -133,9 +133,9 @@ private:
         for (const MADE_CONNECTION& connection : qAsConst(made_connections())) {
             texts.append(connection.text);
             if (connection.type != Qt::AutoConnection)
-                texts.append(qs("another kind of connection"));
+                texts.last() += qs(", another kind of connection");
             if (connection.text.contains(qs("-> gfpq_dlg ")) && (connection.file != "" || connection.line != 0))
-                texts.append(qs("with a place"));
+                texts.last() += qs(", with a place");
         }
         return texts;
     }
