@@ -342,6 +342,8 @@ void gfpdb_use_own_four_byte_commands(GFPDB_FLOW_TRAITS& traits)
 {
     traits.program.opcode = own_four_byte_opcode(traits.program.opcode);
     traits.read.opcode = own_four_byte_opcode(traits.read.opcode);
+    if (traits.sector_erase)
+        traits.sector_erase->opcode = own_four_byte_opcode(traits.sector_erase->opcode);
 }
 
 GFPDB_FLOW_TRAITS gfpdb_template_traits(int index, bool quad)

@@ -181,6 +181,15 @@ private slots:
         rows<CHANGE, QString>(
             {{"a text that cannot be stored", CHANGE([](GFPDB_FLASH& record) { record.set_density("\xFC"); }),
               "The device \"New\" contains text that is not valid UTF-8."},
+             {"a value of a flow that cannot be stored", CHANGE([](GFPDB_FLASH& record) {
+                  GFPDB_OPERATION* const program = GFPDB_HELPER::get_active_flash_manager(false)->create_operation(0);
+                  GFPDB_ACTION* const write =
+                      GFPDB_HELPER::get_active_flash_manager(false)->create_action(GFPDB_ACT_WRITE_REGISTER);
+                  write->set_property_value(GFPDB_WR_NAME, "\xFC");
+                  program->add_action(write);
+                  record.set_operation(program, SINGLE_IO);
+              }),
+              "The device \"New\" contains text that is not valid UTF-8."},
              {"a reserved name", CHANGE([](GFPDB_FLASH& record) { record.set_name("<<new device>>"); }),
               "The device name \"<<new device>>\" is reserved for a new "
               "device: choose another."},

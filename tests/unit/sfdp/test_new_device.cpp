@@ -607,6 +607,8 @@ private slots:
             "quad-enable=SR1 bit 6",
             "quad-enable=none",
             "four-byte-entry=own commands",
+            "four-byte-entry=own commands;erase=20:4K",
+            "four-byte-entry=own commands;erase=52:32K",
             "four-byte-entry=own commands;quad-program=38 1-4-4;quad-read=6B 1-1-4",
             "four-byte-entry=always",
             "four-byte-entry=17 80",
