@@ -212,6 +212,9 @@ private slots:
         QCOMPARE(problems({program.get(), sector_erase.get()}), QStringList{"2/0/35" + text});
         QCOMPARE(problems({program.get(), verify.get()}), QStringList{"3/0/27" + text});
         QCOMPARE(problems({program.get(), chip_erase.get()}), QStringList());
+        // Of one action its place in loops comes first.
+        QCOMPARE(problems({read_data({{GFPDB_RD_ADDRESSING_MODE, "4"}}), write_data()}),
+                 (QStringList{"1/1/15 The value \"loop\" is outside any loop.", "1/1/18" + text}));
     }
 
     void an_operation_that_is_missing_is_not_a_problem()
