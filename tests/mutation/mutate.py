@@ -69,7 +69,7 @@ AFFECTED = [
     (r"pgm/gfpe/plan", r"^test_(plan|image|run_reports|flow_(rules|session))", ENGINE),
     (r"pgm/gfpe/(run|include/gfpe/gfpe_(plan|run|image|rate))", r"^test_(plan|image|run_|flow_(rules|session))", ENGINE),
     (r"pgm/gfpe/(chip|include/gfpe/gfpe_chip)", r"^test_chip", ENGINE),
-    (r"pgm/gfpe/serprog", r"^test_serprog_[^f]", ENGINE),
+    (r"pgm/gfpe/(serprog|include/gfpe/gfpe_serprog)", r"^test_serprog_[^f]", ENGINE),
     (r"pgm/gfpe/(trace|include/gfpe/gfpe_trace)", r"^test_(trace|run_reports|plan)", ENGINE),
     (r"pgm/gfpe/", r"^test_(trace|connection|sfdp_reading)", ENGINE),
     (r"app/gfprog/", r"^test_prog_[^s]", r"^test_prog_"),

@@ -392,6 +392,22 @@ private slots:
         QVERIFY2(host.chip->use_file(name, problem), problem.c_str());
     }
 
+    void a_chip_leaves_no_file_open()
+    {
+        const auto open_files = [] {
+            return QDir(QStringLiteral("/proc/self/fd"))
+                .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+                .size();
+        };
+        const int before = open_files();
+        {
+            CHIP_HOST host("W25Q80DV");
+            std::string problem;
+            QVERIFY2(host.chip->use_file(path(), problem), problem.c_str());
+        }
+        QCOMPARE(open_files(), before);
+    }
+
     void a_file_that_finds_no_room_is_told_and_not_left_behind()
     {
         CHIP_HOST host("W25Q80DV");

@@ -340,18 +340,25 @@ private slots:
     }
 
     // As the connection can carry no more in one command; the delay is after each of them.
+    void a_long_read_is_sent_in_pieces_data()
+    {
+        rows<qint64, qint64, qint64, QString>(
+            {{"of 3000 bytes", qint64(3000), qint64(100), qint64(7000), "0B@64?3000, 0B@C1C?3000, 0B@17D4?1000"},
+             {"of one byte", qint64(1), qint64(16), qint64(3), "0B@10?1, 0B@11?1, 0B@12?1"}});
+    }
     void a_long_read_is_sent_in_pieces()
     {
+        const auto [longest, start, length, commands] = row<qint64, qint64, qint64, QString>();
         RECORDING_BUS bus;
-        bus.m_abilities.longest_read = 3000;
+        bus.m_abilities.longest_read = longest;
         bus.answer(0x0B, {0xFF});
         FLOW flow = empty_flow();
         flow[3]->add_action(read_data({{GFPDB_RD_DELAY, "7"}}));
 
-        const GFPE_RESULT result = run_flow(device(), flow, bus, order_of("B", GFPE_RANGE{100, 7000}), nullptr);
+        const GFPE_RESULT result = run_flow(device(), flow, bus, order_of("B", GFPE_RANGE{start, length}), nullptr);
 
         QVERIFY2(has_passed(result), report_of(result).c_str());
-        QCOMPARE(bus.commands().join(", "), QString("0B@64?3000, 0B@C1C?3000, 0B@17D4?1000"));
+        QCOMPARE(bus.commands().join(", "), commands);
         QCOMPARE(bus.m_waited_us, std::int64_t(21));
     }
 
