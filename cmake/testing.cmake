@@ -1,23 +1,30 @@
 # SPDX-License-Identifier: MIT
 set(GFPQ_TEST_TIMEOUT 300 CACHE STRING "Seconds after which a test counts as hanging")
 
-# gfpq_add_test(NAME name LABEL unit|gui|e2e|fuzz|soak|faults|server SOURCES file... LIBRARIES target... [TIMEOUT seconds] [SERIAL])
+# gfpq_add_test(NAME name LABEL unit|gui|e2e|fuzz|soak|faults|server SOURCES file... LIBRARIES target... [TIMEOUT seconds])
 #
 # One test program, run without a display, with settings, home and locale of its own, so that no test sees the user's
 # files and two tests never share a directory.
 function(gfpq_add_test)
-    cmake_parse_arguments(ARG "SERIAL" "NAME;LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "" "NAME;LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${ARG_NAME} ${ARG_SOURCES})
     target_include_directories(${ARG_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support)
     target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} Qt5::Test gfpq_compiler)
     add_test(NAME ${ARG_NAME} COMMAND ${ARG_NAME})
     gfpq_set_test_environment(${ARG_NAME})
-    set_tests_properties(${ARG_NAME} PROPERTIES LABELS "${ARG_LABEL}")
+    gfpq_set_test_label(${ARG_NAME} ${ARG_LABEL})
     if(ARG_TIMEOUT)
         set_tests_properties(${ARG_NAME} PROPERTIES TIMEOUT ${ARG_TIMEOUT})
     endif()
-    if(ARG_SERIAL)
-        set_tests_properties(${ARG_NAME} PROPERTIES RUN_SERIAL ON)
+endfunction()
+
+# A test of a kind that takes long begins before the others, so that no processor is idle at the end.
+function(gfpq_set_test_label name label)
+    set_tests_properties(${name} PROPERTIES LABELS ${label})
+    if(label STREQUAL faults)
+        set_tests_properties(${name} PROPERTIES COST 20)
+    elseif(label MATCHES "^(e2e|server|soak)$")
+        set_tests_properties(${name} PROPERTIES COST 10)
     endif()
 endfunction()
 
@@ -38,5 +45,5 @@ function(gfpq_add_server_run name store)
     add_test(NAME ${run} COMMAND ${name})
     gfpq_set_test_environment(${run})
     set_property(TEST ${run} APPEND PROPERTY ENVIRONMENT "GFPDB_TEST_STORE=${store}")
-    set_tests_properties(${run} PROPERTIES LABELS server)
+    gfpq_set_test_label(${run} server)
 endfunction()
