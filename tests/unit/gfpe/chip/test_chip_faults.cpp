@@ -2,6 +2,7 @@
 
 // Faults on request, files as cells, and chips of records.
 #include "chip_host.h"
+#include "open_files.h"
 #include "test_rows.h"
 
 #include <QFile>
@@ -394,11 +395,6 @@ private slots:
 
     void a_chip_leaves_no_file_open()
     {
-        const auto open_files = [] {
-            return QDir(QStringLiteral("/proc/self/fd"))
-                .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
-                .size();
-        };
         const int before = open_files();
         {
             CHIP_HOST host("W25Q80DV");

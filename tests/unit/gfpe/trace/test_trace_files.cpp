@@ -3,6 +3,7 @@
 // Traces as files: what is in them, and what is said when they cannot be written.
 #include "gfpe/gfpe_trace_file.h"
 
+#include "open_files.h"
 #include "test_rows.h"
 #include "vcd_reading.h"
 
@@ -254,6 +255,15 @@ private slots:
         trace(vcd, {command(0x03, 3, 0), {}, BYTES(static_cast<std::size_t>(row<int>()), 0x55), 0, 1});
         QVERIFY(!vcd.finish());
         QCOMPARE(vcd.get_problem(), std::string("The trace /dev/full cannot be written: No space left on device."));
+    }
+
+    void a_trace_leaves_no_file_open()
+    {
+        const int before = open_files();
+        GFPE_CSV_TRACE csv;
+        QVERIFY(csv.open(path("closed.csv")));
+        QVERIFY(csv.finish());
+        QCOMPARE(open_files(), before);
     }
 
     void a_long_trace_needs_no_memory_data() { rows<bool, int>({{"csv", true, 64}, {"vcd", false, 4}}); }
