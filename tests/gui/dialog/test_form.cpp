@@ -2,9 +2,11 @@
 
 // The form of the dialog as the Designer file builds it: tree, layouts, properties and texts.
 #include "marking_translator.h"
+#include "property_differences.h"
 #include "test_rows.h"
 #include "ui_gfpq_dlg.h"
 
+#include <QProxyStyle>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -61,6 +63,44 @@ QStringList names(std::initializer_list<const char*> texts)
     return list;
 }
 
+// Lays windows out in another way than the form does: what the form asks for is not what it gets anyway.
+class OTHER_STYLE : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        const bool is_margin = metric >= PM_LayoutLeftMargin && metric <= PM_LayoutBottomMargin;
+        return is_margin ? 17 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_FormLayoutFieldGrowthPolicy ? static_cast<int>(QFormLayout::FieldsStayAtSizeHint)
+                                                      : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+template <typename... KINDS>
+struct WIDGETS
+{
+    // A new widget of the class of `part`, in `parent`.
+    static QWidget* make_like(const QWidget& part, QWidget* parent)
+    {
+        QWidget* made = nullptr;
+        ((part.metaObject() == & KINDS::staticMetaObject ? made = new KINDS(parent) : nullptr), ...);
+        return made;
+    }
+};
+using FORM_WIDGETS = WIDGETS<QLabel, QLineEdit, QComboBox, QPushButton, QCheckBox, QGroupBox, QTabWidget, QSplitter,
+                             QTableView, QScrollArea, QWidget, QDialog>;
+
+// What place and size make of a widget, and the texts, which have a test of their own.
+const QStringList OF_THE_PLACE = q("objectName geometry frameGeometry frameRect normalGeometry x y pos frameSize size "
+                                   "width height rect childrenRect "
+                                   "childrenRegion visible minimumSizeHint sizeHint windowTitle text title")
+                                     .split(QLatin1Char(' '));
+
 } // namespace
 
 class TEST_FORM : public QObject
@@ -68,6 +108,8 @@ class TEST_FORM : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QApplication::setStyle(new OTHER_STYLE); }
+
     void init()
     {
         m_dialog = std::make_unique<QDialog>();
@@ -200,8 +242,43 @@ private slots:
         for (const char* name : {"formLayout", "directoryLayout", "m_filter_hlayout", "m_delete_hlayout",
                                  "horizontalLayout", "m_buttons_hlayout"})
             QCOMPARE(child<QLayout>(name).contentsMargins(), QMargins(0, 0, 0, 0));
-        for (const char* name : {"verticalLayout", "verticalLayout_2", "verticalLayout_3", "verticalLayout_4"})
-            QCOMPARE(child<QLayout>(name).spacing(), of_inner->spacing());
+        for (const QLayout* layout : layouts())
+            QCOMPARE(layout->spacing(), of_inner->spacing());
+    }
+
+    void nothing_else_is_set()
+    {
+        QDialog window;
+        QStringList found = property_differences(*m_dialog, QDialog(), OF_THE_PLACE);
+        for (const QWidget* part : m_dialog->findChildren<QWidget*>(QRegularExpression(q("^[^qS].*"))))
+            found += property_differences(*part, *FORM_WIDGETS::make_like(*part, &window), OF_THE_PLACE);
+
+        found.sort();
+        QCOMPARE(found,
+                 names({"m_apply_button autoDefault", "m_browse_button autoDefault", "m_cancel_button autoDefault",
+                        "m_delete_button autoDefault", "m_device_info_scroll_area minimumSize",
+                        "m_device_info_scroll_area minimumWidth", "m_device_info_scroll_area widgetResizable",
+                        "m_flow_template_cbox sizePolicy", "m_ok_button autoDefault", "m_prog_flows_tab_widget count",
+                        "m_prog_flows_tab_widget currentIndex", "scrollAreaWidgetContents autoFillBackground"}));
+    }
+
+    void layouts_leave_their_items_where_they_are()
+    {
+        QWidget plain;
+        const QFormLayout of_its_kind(&plain);
+        for (const QLayout* layout : layouts()) {
+            QCOMPARE(layout->sizeConstraint(), QLayout::SetDefaultConstraint);
+            for (int index = 0; index < layout->count(); ++index) {
+                const auto* const box = qobject_cast<const QBoxLayout*>(layout);
+                QCOMPARE(box == nullptr ? 0 : box->stretch(index), 0);
+                QCOMPARE(layout->itemAt(index)->alignment(), Qt::Alignment());
+            }
+        }
+        for (const QFormLayout* form : {m_form->formLayout, m_form->formLayout_3}) {
+            QCOMPARE(form->rowWrapPolicy(), of_its_kind.rowWrapPolicy());
+            QCOMPARE(form->labelAlignment(), of_its_kind.labelAlignment());
+            QCOMPARE(form->formAlignment(), of_its_kind.formAlignment());
+        }
     }
 
     void form_layouts_have_their_rows()
@@ -354,6 +431,9 @@ private slots:
     }
 
 private:
+    // All of the form's own.
+    QList<QLayout*> layouts() const { return m_dialog->findChildren<QLayout*>(QRegularExpression(q("^[^q_].*"))); }
+
     template <typename WIDGET>
     WIDGET& child(const char* name) const
     {

@@ -7,10 +7,11 @@
 #include "dialog/gfpq_form.h"
 
 #include "marking_translator.h"
+#include "property_differences.h"
 
-#include <QDebug>
 #include <QFormLayout>
 #include <QMetaProperty>
+#include <QSplitter>
 #include <QValidator>
 
 namespace {
@@ -33,13 +34,6 @@ const QStringList OF_THE_DIALOG =
              "m_device_table_view selectionBehavior", "m_device_table_view selectionMode",
              "m_device_table_view tabKeyNavigation"});
 
-QString as_text(const QVariant& value)
-{
-    QString text;
-    QDebug(&text).nospace() << value;
-    return text;
-}
-
 } // namespace
 
 class TEST_OPENED_DIALOG : public DIALOG_TEST
@@ -57,23 +51,28 @@ private slots:
         QCOMPARE(dlg().windowTitle(), qs("Configuration Device"));
         QCOMPARE(dlg().size(), QSize(994, 892));
 
-        QStringList differences;
+        QStringList left_out_of_edits = OF_THE_TEXT + OF_THE_MOMENT;
+        left_out_of_edits.removeOne(qs("placeholderText"));
+        QStringList differences = property_differences(dlg(), bare, OF_THE_MOMENT);
         // Without what Qt's widgets are made of, the scroll buttons of the tab bar among them.
         const QList<QWidget*> of_the_form = bare.findChildren<QWidget*>(QRegularExpression(qs("^[^qS].*")));
         for (const QWidget* const part : of_the_form) {
-            const QWidget& opened = widget(part->objectName().toLatin1().constData());
-            const QMetaObject& kind = *part->metaObject();
-            for (int index = 0; index < kind.propertyCount(); ++index) {
-                const QString property = QLatin1String(kind.property(index).name());
-                const QString text_now = as_text(opened.property(kind.property(index).name()));
-                const bool is_text = qobject_cast<const QLineEdit*>(part) != nullptr &&
-                                     OF_THE_TEXT.contains(property) && property != QLatin1String("placeholderText");
-                if (!is_text && !OF_THE_MOMENT.contains(property) &&
-                    text_now != as_text(part->property(kind.property(index).name())))
-                    differences.append(part->objectName() + QLatin1Char(' ') + property);
-            }
+            const bool is_edit = qobject_cast<const QLineEdit*>(part) != nullptr;
+            differences += property_differences(*part, widget(part->objectName().toLatin1().constData()),
+                                                is_edit ? left_out_of_edits : OF_THE_MOMENT);
         }
-
+        const QList<QLayout*> layouts = bare.findChildren<QLayout*>(QRegularExpression(qs("^[^q_].*")));
+        QVERIFY(layouts.size() > 10);
+        for (const QLayout* const layout : layouts) {
+            const auto& opened = child<QLayout>(layout->objectName().toLatin1().constData());
+            differences += property_differences(*layout, opened, OF_THE_MOMENT);
+            const auto* const box = qobject_cast<const QBoxLayout*>(&opened);
+            for (int index = 0; box != nullptr && index < box->count(); ++index)
+                QCOMPARE(box->stretch(index), 0);
+        }
+        for (int pane = 0; pane < 2; ++pane)
+            QVERIFY(child<QSplitter>("m_config_device_splitter").isCollapsible(pane));
+        QCOMPARE(dlg().minimumSize(), bare.minimumSize());
         QVERIFY(of_the_form.size() > 40);
         differences.sort();
         QCOMPARE(differences, OF_THE_DIALOG);
@@ -105,7 +104,8 @@ private slots:
         }
         QCOMPARE(dlg().toolTip(), QString());
         for (int position = 0; position < tabs().count(); ++position)
-            QCOMPARE(tabs().tabToolTip(position) + tabs().tabWhatsThis(position), QString());
+            QVERIFY(tabs().tabIcon(position).isNull() && tabs().tabToolTip(position).isEmpty() &&
+                    tabs().tabWhatsThis(position).isEmpty());
         for (int index = 0; index < device_model().rowCount(); ++index)
             QCOMPARE(device_model().item(index)->toolTip(), QString());
         compare_line_edits();
@@ -162,6 +162,7 @@ private slots:
                 QCOMPARE(tabs().currentIndex(), 0);
                 QCOMPARE(widget("m_config_device_tab").isEnabled(), args.enable_edit);
                 QVERIFY(widget("m_config_device_gbox").isEnabled());
+                compare_line_edits();
             }
         }
     }
