@@ -100,17 +100,18 @@ private slots:
     {
 
         rows<QString, QString, QString, QString>(
-            {{"other case", "2.5 v", "1 GB", "BUILT-IN C", "2.5 V|1 Gb|Built-in C|5"},
+            {{"other case", "2.5 v", "1 GB", "BUILT-IN C", "2.5 V|1 Gb|Built-in C|6"},
              // The first fitting voltage is another one: it must not stay.
-             {"not offered", "2.5", "Gb", "gone template", "1.8 V|16 Mb|gone template|6"},
-             {"the first", "1.8 V", "16 Mb", "Built-in A", "1.8 V|16 Mb|Built-in A|5"},
-             {"letter for letter first", "3.3v", "16 Mb", "Built-in A", "3.3v|16 Mb|Built-in A|5"}});
+             {"not offered", "2.5", "Gb", "gone template", "1.8 V|16 Mb|gone template|7"},
+             {"the first", "1.8 V", "16 Mb", "Built-in A", "1.8 V|16 Mb|Built-in A|6"},
+             {"letter for letter first", "3.3v", "16 Mb", "Built-in A", "3.3v|16 Mb|Built-in A|6"}});
     }
 
     void a_choice_is_found_among_the_items()
     {
         const auto [voltage, density, flow_template, expected] = row<QString, QString, QString, QString>();
         mgr().voltages = {"1.8 V", "2.5 V", "3.3V", "3.3v"};
+        mgr().templates.push_back("stored");
         mgr().unverified_values[{GFPDB_FLASH_VOLTAGE, "1.8 V"}] = "no";
         add_full_record("A").strings = {{GFPDB_FLASH_VOLTAGE, voltage.toStdString()},
                                         {GFPDB_FLASH_DENSITY, density.toStdString()},
@@ -122,9 +123,10 @@ private slots:
                  expected);
         QCOMPARE(combo("m_voltage_cbox").count() + combo("m_density_cbox").count(), 7);
         QCOMPARE(combo("m_flow_template_cbox").currentData(), QVariant());
-        // A template that was added leaves with its device.
+        // A template that was added is the last one, and leaves with its device.
+        QCOMPARE(items("m_flow_template_cbox").indexOf(qs("stored")), 5);
         pick("<<new device>>");
-        QCOMPARE(items("m_flow_template_cbox").size(), 5);
+        QCOMPARE(items("m_flow_template_cbox").size(), 6);
         QCOMPARE(combo("m_flow_template_cbox").currentIndex(), 0);
     }
 
@@ -217,12 +219,14 @@ private slots:
         QCOMPARE(text("m_template_name_edit"), QString());
     }
 
+    // Of densities and templates it can.
     void a_lone_voltage_cannot_be_chosen()
     {
         add_full_record("A");
         for (const char* device : {"", "A", "none"}) {
             for (const int count : {0, 1, 2}) {
-                mgr().voltages.assign(static_cast<std::size_t>(count), "1.8 V");
+                for (std::vector<std::string>* list : {&mgr().voltages, &mgr().densities, &mgr().templates})
+                    list->assign(static_cast<std::size_t>(count), "one");
                 if (qstrcmp(device, "none") == 0) {
                     mgr().add_allowed = false;
                     mgr().custom_names.clear();
@@ -231,6 +235,8 @@ private slots:
                 open_with(device);
 
                 QCOMPARE(combo("m_voltage_cbox").isEnabled(), count >= 2);
+                QVERIFY(combo("m_density_cbox").isEnabled());
+                QVERIFY(combo("m_flow_template_cbox").isEnabled() == (qstrcmp(device, "A") != 0));
             }
         }
         QVERIFY(all_rows().isEmpty());
@@ -272,8 +278,9 @@ private slots:
         QVERIFY(combo("m_voltage_cbox").isEnabled());
     }
 
-    void choices_carry_no_data()
+    void choices_are_texts_only()
     {
+        mgr().add_builtin("built-in");
         open();
 
         for (const char* name : {"m_voltage_cbox", "m_density_cbox", "m_flow_template_cbox"}) {
@@ -282,8 +289,29 @@ private slots:
                 QCOMPARE(combo(name).itemData(index), QVariant());
         }
         QCOMPARE(items("m_density_cbox"), list_of({"16 Mb", "128 Mb", "1 Gb"}));
+        mgr().densities = {"b", "", "a", "b"};
+        pick("built-in");
+        pick("<<new device>>");
+        QCOMPARE(items("m_density_cbox"), list_of({"b", "", "a", "b"}));
         QCOMPARE(items("m_flow_template_cbox"),
                  list_of({"Built-in A", "Built-in B", "Built-in C", "Built-in D", "Built-in E"}));
+    }
+
+    void the_old_choices_go_when_the_new_ones_are_known()
+    {
+        add_full_record("A");
+        open();
+        QStringList held;
+        for (const char* const list : {"get_voltage_list", "get_density_list", "get_template_list"}) {
+            log().on_call(qs(list), [&](const QString&) {
+                for (const char* const name : {"m_voltage_cbox", "m_density_cbox", "m_flow_template_cbox"})
+                    held.append(QString::number(combo(name).count()));
+            });
+        }
+
+        pick("A");
+
+        QCOMPARE(held.join(QLatin1Char(' ')), qs("3 3 5 3 3 5 3 3 5"));
     }
 
     void loading_runs_no_check_and_no_box()
