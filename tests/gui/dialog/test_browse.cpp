@@ -66,6 +66,8 @@ private slots:
                  QStringList({qs("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(chosen),
                               qs("GFPDB_MGR.set_db_custom_dir(\"%1\")").arg(chosen)}));
         QCOMPARE(world().custom_dir, chosen.toStdString());
+        // The current directory stays where browsing began.
+        QCOMPARE(here() + QLatin1Char('/'), make_dir(qs("start")));
     }
 
     void the_chosen_directory_can_be_refused()
@@ -115,18 +117,38 @@ private slots:
         QCOMPARE(here() + QLatin1Char('/'), typed);
     }
 
-    void with_a_base_directory_a_relative_path_starts_there()
+    void browsing_starts_where_the_edit_says_data()
     {
-        const QString base = make_dir(qs("base"));
-        const QString inside = make_dir(qs("base/sub"));
-        test_app()->get_ui_mgr()->set_base_dir(base.toStdString());
+        rows<bool, QString, QString, QString>(
+            {{"relative", false, "sub/", "sub/", "sub"},
+             {"without a separator", false, "sub", "sub", "sub"},
+             {"empty", false, "", "", ""},
+             {"missing", false, "missing/", "missing/", ""},
+             {"from a base directory", true, "sub/", "%1/base/sub/", "base/sub"},
+             {"from a base directory, empty", true, "", "%1/base", "base"},
+             {"from a base directory, missing", true, "missing/", "%1/base/missing/", "base"}});
+    }
+
+    // The last directory that is there becomes the current one.
+    void browsing_starts_where_the_edit_says()
+    {
+        const auto [from_base, typed, start, entered] = row<bool, QString, QString, QString>();
+        const QString scratch_path = QFileInfo(scratch()).canonicalFilePath();
+        make_dir(qs("sub"));
+        make_dir(qs("base/sub"));
+        if (from_base)
+            test_app()->get_ui_mgr()->set_base_dir((scratch_path + qs("/base")).toStdString());
         open();
-        type_in("m_directory_edit", "sub/");
+        edit("m_directory_edit").setText(typed);
+        const bool is_there = !start.isEmpty() && !start.contains(qs("missing"));
+        if (!is_there)
+            expect_warning(qs("the current directory"));
 
         click_browse();
 
-        QCOMPARE(calls_of({"set_directory"}), QStringList(qs("file_dlg.set_directory(\"%1\")").arg(inside)));
-        QCOMPARE(here() + QLatin1Char('/'), inside);
+        QCOMPARE(calls_of({"set_directory"}),
+                 QStringList(qs("file_dlg.set_directory(\"%1\")").arg(from_base ? start.arg(scratch_path) : start)));
+        QCOMPARE(here(), entered.isEmpty() ? scratch_path : scratch_path + QLatin1Char('/') + entered);
     }
 
     void with_a_base_directory_the_choice_becomes_relative()
@@ -145,18 +167,6 @@ private slots:
         }
 
         QCOMPARE(shown, list_of({"sub/", "../beside/"}));
-    }
-
-    void without_a_base_directory_a_relative_path_stays_relative()
-    {
-        make_dir(qs("sub"));
-        open();
-        type_in("m_directory_edit", "sub/");
-
-        click_browse();
-
-        QCOMPARE(calls_of({"set_directory"}), list_of({R"(file_dlg.set_directory("sub/"))"}));
-        QCOMPARE(here() + QLatin1Char('/'), make_dir(qs("sub")));
     }
 
     void a_base_directory_alone_does_not_stay_the_current_one()

@@ -31,6 +31,8 @@ private slots:
         choose("m_config_mode_cbox", SCHEME_X1);
         choose("m_family_cbox", ALDER);
         tabs().setCurrentIndex(2);
+        // The row is what stays, not the name that is being typed.
+        type_in("m_device_name_edit", "A");
         log().clear();
 
         enter("m_directory_edit", "/other");
@@ -46,6 +48,9 @@ private slots:
         QCOMPARE(text("m_directory_edit"), qs("/other/"));
         QCOMPARE(tabs().currentIndex(), 2);
         QCOMPARE(current_row(), qs("B"));
+        // Only OK changes what is handed back.
+        QCOMPARE(dlg().family(), CEDAR);
+        QCOMPARE(dlg().config_scheme(), SCHEME_X4);
 
         button("m_ok_button").click();
         log().clear();
@@ -153,6 +158,17 @@ private slots:
 
         QCOMPARE(calls(), QStringList());
         QCOMPARE(text("m_directory_edit"), QString::fromLatin1(directory.toUtf8()));
+    }
+
+    void other_letters_in_another_case_are_another_directory()
+    {
+        world().custom_dir = "/db/gr\xC3\xBCn/";
+        open();
+
+        enter("m_directory_edit", "/db/gr\xC3\x9CN");
+
+        QCOMPARE(calls_of({"save_custom_dir_to_ini"}),
+                 QStringList(qs("GFPDB_MGR.save_custom_dir_to_ini(\"/db/gr\xC3\x9CN/\", false)")));
     }
 
     void a_refused_directory_is_put_back_and_reported()
