@@ -94,6 +94,24 @@ private slots:
         QCOMPARE(made(), mode_family_selection + mode_family_selection + mode_family_selection.mid(2));
     }
 
+    void a_load_makes_the_connections_of_the_choices_again()
+    {
+        const QStringList choices =
+            list_of({"m_voltage_cbox currentIndexChanged(int) -> on_change_voltage(int)",
+                     "m_density_cbox currentIndexChanged(int) -> on_change_density(int)",
+                     "m_flow_template_cbox currentIndexChanged(int) -> on_change_flow_template(int)"});
+        mgr().add_custom("A");
+        open();
+        made_connections().clear();
+
+        // After they are filled, and after the record's choice is shown.
+        pick("A");
+        QCOMPARE(made(), choices + choices);
+        made_connections().clear();
+        pick("<<new device>>");
+        QCOMPARE(made(), choices);
+    }
+
     void the_template_editor_connects_its_buttons()
     {
         const GFPQ_EDIT_TEMPLATE_DLG editor(nullptr, &mgr());

@@ -40,10 +40,14 @@ private slots:
         open();
 
         QCOMPARE(items("m_family_cbox"), list_of({"Alder", "Beech", "Birch", "Cedar", "Willow", "Zelkova"}));
-        QCOMPARE(values("m_family_cbox"), (QList<int>{3, 9, 72, 5, 1, 70}));
+        QCOMPARE(values("m_family_cbox"), (QVariantList{3, 9, 72, 5, 1, 70}));
         QCOMPARE(text("m_family_cbox"), qs("Cedar"));
         QCOMPARE(items("m_config_mode_cbox").join(qs(", ")), qs(ALL_MODES));
-        QCOMPARE(values("m_config_mode_cbox"), (QList<int>{7, 13, 25, 10, 23}));
+        QCOMPARE(values("m_config_mode_cbox"), (QVariantList{7, 13, 25, 10, 23}));
+        for (const char* name : {"m_family_cbox", "m_config_mode_cbox"}) {
+            for (const QVariant& value : values(name))
+                QCOMPARE(value.type(), QVariant::Int);
+        }
         QCOMPARE(text("m_config_mode_cbox"), qs("Active Serial x4"));
     }
 
@@ -57,7 +61,9 @@ private slots:
                         {"second item", 9, 9},
                         {"highest", 72, 72},
                         {"above", 73, 3},
-                        {"not offered", 5, 3}});
+                        {"not offered", 5, 3},
+                        {"the beginning of a name", 10, 3},
+                        {"a pattern", 11, 3}});
     }
 
     void a_family_is_preselected_within_its_bounds()
@@ -77,21 +83,22 @@ private slots:
         // 1-bit Passive Serial (0) is the first of the sorted list.
         rows<int, int>({{"below", -1, 0},
                         {"lowest", 0, 0},
-                        {"second item", 7, 7},
+                        {"third item", 7, 7},
                         {"highest", 24, 24},
                         {"illegal scheme", 25, 0},
                         {"above", 26, 0},
-                        {"not offered", 9, 0}});
+                        {"not offered", 10, 0},
+                        {"the beginning of a name", 8, 0}});
     }
 
     void a_mode_is_preselected_within_its_bounds()
     {
         const auto [scheme, selected] = row<int, int>();
-        mgr().schemes = {25, 24, 0, 7, 13};
+        mgr().schemes = {25, 24, 0, 7, 13, 9};
 
         open_recorded({CEDAR, scheme});
 
-        QCOMPARE(combo("m_config_mode_cbox").count(), 5);
+        QCOMPARE(combo("m_config_mode_cbox").count(), 6);
         QCOMPARE(data("m_config_mode_cbox"), selected);
         QCOMPARE(calls_of({"set_config_scheme"}), QStringList(qs("mgr.set_config_scheme(%1)").arg(selected)));
     }
@@ -224,6 +231,8 @@ private slots:
         DIALOG_ARGS args = with_map({{3, {}}, {5, {}}, {70, {23, 10}}});
         args.device_name = "B";
         open(args);
+        // The row is what stays, not the name that is being typed.
+        type_in("m_device_name_edit", "A");
         if (qstrcmp(QTest::currentDataTag(), "mode without the family") == 0)
             mgr().families = {3, 9};
 
@@ -235,6 +244,23 @@ private slots:
                  expected);
         QCOMPARE(current_row(), qs("B"));
         QCOMPARE(text("m_device_name_edit"), qs("B"));
+    }
+
+    // The families go when the new ones are known, the modes before they are asked for.
+    void a_list_is_emptied_in_its_turn()
+    {
+        open();
+        int families = -1;
+        int modes = -1;
+        log().on_call(qs("get_family_list"), [&](const QString&) { families = combo("m_family_cbox").count(); });
+        log().on_call(qs("get_config_scheme_list"),
+                      [&](const QString&) { modes = combo("m_config_mode_cbox").count(); });
+
+        choose("m_config_mode_cbox", SCHEME_X1);
+        choose("m_family_cbox", ALDER);
+
+        QCOMPARE(families, 6);
+        QCOMPARE(modes, 0);
     }
 
     void a_family_change_shows_the_device_page()
@@ -338,11 +364,11 @@ private:
         mgr().add_custom("B");
     }
 
-    QList<int> values(const char* name) const
+    QVariantList values(const char* name) const
     {
-        QList<int> values;
+        QVariantList values;
         for (int index = 0; index < combo(name).count(); ++index)
-            values.append(combo(name).itemData(index, Qt::UserRole).toInt());
+            values.append(combo(name).itemData(index, Qt::UserRole));
         return values;
     }
 };
