@@ -177,7 +177,7 @@ private slots:
             QVERIFY(fields().itemAt(index)->widget() == nullptr || !fields().itemAt(index)->widget()->isHidden());
         for (const QString& name : names) {
             QWidget& part = widget(name.toLatin1().constData());
-            QVERIFY2(part.isHidden(), qPrintable(name));
+            QVERIFY2(part.isHidden() && part.isEnabled(), qPrintable(name));
             QCOMPARE(fields().indexOf(&part), -1);
             // It is still part of the dialog.
             QCOMPARE(part.window(), &dlg());
@@ -279,6 +279,7 @@ private slots:
         QVERIFY(!dlg().isVisible());
         QCOMPARE(finished.size(), 0);
         QCOMPARE(rejected.size(), 0);
+        QCOMPARE(dlg().result(), 0);
         QCOMPARE(calls(), QStringList());
     }
 

@@ -4,9 +4,20 @@
 #include "dialog_test.h"
 
 #include "marking_translator.h"
+#include "property_differences.h"
 
 #include <QHeaderView>
 #include <QSignalSpy>
+
+namespace {
+
+// What size and place make of a header.
+const QStringList OF_THE_PLACE = qs("geometry frameGeometry frameRect normalGeometry x y pos frameSize size width "
+                                    "height rect childrenRect childrenRegion "
+                                    "minimumSize minimumWidth minimumHeight maximumSize sizeHint minimumSizeHint")
+                                     .split(QLatin1Char(' '));
+
+} // namespace
 
 class TEST_DEVICE_LIST : public DIALOG_TEST
 {
@@ -21,10 +32,12 @@ private slots:
         QCOMPARE(device_model().columnCount(), 1);
         for (int row = 0; row < 5; ++row) {
             const QStandardItem* const item = device_model().item(row);
-            QCOMPARE(item->data(EDITABLE_ROLE), row < 3 ? QVariant(true) : QVariant());
-            QCOMPARE(item->data(READ_ONLY_ROLE), row < 3 ? QVariant() : QVariant(true));
-            QCOMPARE(item->data(Qt::UserRole), QVariant());
-            QVERIFY(!item->isEditable());
+            // A name and one mark, and nothing else.
+            const QMap<int, QVariant> expected{{Qt::DisplayRole, item->text()},
+                                               {row < 3 ? EDITABLE_ROLE : READ_ONLY_ROLE, true}};
+            QCOMPARE(device_model().itemData(item->index()), expected);
+            QCOMPARE(item->data(row < 3 ? EDITABLE_ROLE : READ_ONLY_ROLE).type(), QVariant::Bool);
+            QCOMPARE(item->flags(), QStandardItem().flags() & ~Qt::ItemIsEditable);
         }
     }
 
@@ -99,6 +112,26 @@ private slots:
         QVERIFY(!table().isSortingEnabled());
     }
 
+    void the_models_and_headers_are_left_as_they_are_otherwise()
+    {
+        const QTableView plain;
+        open();
+
+        const QStringList differences =
+            property_differences(*table().horizontalHeader(), *plain.horizontalHeader(), OF_THE_PLACE) +
+            property_differences(*table().verticalHeader(), *plain.verticalHeader(), OF_THE_PLACE) +
+            property_differences(proxy(), QSortFilterProxyModel(), QStringList());
+        QCOMPARE(differences.join(qs(", ")),
+                 qs("QHeaderView selectionMode, QHeaderView stretchLastSection, QHeaderView defaultSectionSize, "
+                    "QSortFilterProxyModel sourceModel"));
+        for (const QHeaderView* const header : {table().horizontalHeader(), table().verticalHeader()}) {
+            QVERIFY(!header->isHidden());
+            QVERIFY(!header->sectionsMovable());
+            QVERIFY(header->sectionsClickable());
+            QCOMPARE(header->sectionResizeMode(0), QHeaderView::Interactive);
+        }
+    }
+
     void a_rebuild_removes_and_inserts_in_one_step_each()
     {
         open();
@@ -143,9 +176,10 @@ private slots:
 
     void the_filter_shows_what_contains_the_pattern_data()
     {
-        const QStringList all = list_of({"<<new device>>", "Zeta", "alpha", "MX25L", "W25Q", "gr\xC3\xBCn"});
+        const QStringList all =
+            list_of({"<<new device>>", "Zeta", "alpha", "MX25L", "W25Q", "gr\xC3\xBCn", "two\nlines"});
         const QStringList none;
-        const QStringList green = all.mid(5);
+        const QStringList green = all.mid(5, 1);
         rows<QString, QStringList>({{"empty", "", all},
                                     {"star", "*", all},
                                     {"two stars", "**", all},
@@ -166,6 +200,10 @@ private slots:
                                     {"any letter", "gr.n", green},
                                     // Classes are those of ASCII.
                                     {"class of letters", "gr\\wn", none},
+                                    // A line feed is not any character, and no place where a line begins.
+                                    {"dot for a line feed", "two.lines", none},
+                                    {"star for a line feed", "two*lines", none},
+                                    {"anchor behind a line feed", "^lines", none},
                                     // Not valid, and without a warning: the base of the tests sees to that.
                                     {"(", "(", none},
                                     {"[", "[", none},
@@ -180,6 +218,7 @@ private slots:
     {
         const auto [filter, shown] = row<QString, QStringList>();
         mgr().builtin_names.push_back("gr\xC3\xBCn");
+        mgr().builtin_names.push_back("two\nlines");
         open();
 
         type_in("m_filter_line_edit", "before");
@@ -189,7 +228,7 @@ private slots:
         choose("m_family_cbox", ALDER);
         QCOMPARE(shown_rows(), shown);
         type_in("m_filter_line_edit", "");
-        QCOMPARE(shown_rows().size(), 6);
+        QCOMPARE(shown_rows().size(), 7);
     }
 
     void the_filter_works_while_the_user_types()
@@ -261,6 +300,9 @@ private slots:
         QCOMPARE(text("m_device_name_edit"), qs("alpha"));
         QCOMPARE(calls_of({"find_flash"}),
                  list_of({R"(mgr.find_flash("Zeta", true))", R"(mgr.find_flash("alpha", true))"}));
+        QTest::keyClick(&table(), Qt::Key_Home, Qt::ControlModifier);
+        QCOMPARE(current_row(), qs("<<new device>>"));
+        QVERIFY(table().hasFocus());
     }
 
     void only_another_row_is_loaded()

@@ -27,6 +27,8 @@ private slots:
     {
         const auto [device, typed, handed_back, saved] = row<QString, QString, QString, int>();
         mgr().hidden_properties = {"C"};
+        // The row's name is handed back, not the record's.
+        mgr().flashes["B"]->name = "of the record";
         mgr().creates_flash = !QByteArray(QTest::currentDataTag()).contains("can be made");
         open_with(device);
         choose("m_family_cbox", 70);
@@ -49,6 +51,33 @@ private slots:
         // The choice is there before the dialog closes.
         QCOMPARE(at_the_end, qs("70 25 ") + handed_back);
         QCOMPARE(choice(), at_the_end);
+    }
+
+    void cancel_rejects()
+    {
+        open_with("A");
+        show_dialog();
+        QSignalSpy rejected(&dlg(), &QDialog::rejected);
+        QSignalSpy finished(&dlg(), &QDialog::finished);
+
+        button("m_cancel_button").click();
+
+        QCOMPARE(rejected.size(), 1);
+        QCOMPARE(finished.size(), 1);
+        QVERIFY(!dlg().isVisible());
+        QCOMPARE(calls(), QStringList());
+    }
+
+    // No row is selected then, but one is current.
+    void ok_hands_back_the_current_row_without_a_selection()
+    {
+        open_with("A");
+        table().clearSelection();
+
+        button("m_ok_button").click();
+
+        QCOMPARE(calls_of({"delete_flash"}), list_of({R"(mgr.delete_flash("A", "/db/custom/"))"}));
+        QCOMPARE(dlg().device_name(), std::string("A"));
     }
 
     void ok_with_a_name_that_the_filter_hides_hands_it_back()

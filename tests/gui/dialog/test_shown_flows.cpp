@@ -104,16 +104,19 @@ private slots:
     {
         mgr().builtin_template_operations[{0, false}] = make_operations("template");
         mgr().add_custom("A").operations[false] = make_operations("step");
+        mgr().add_builtin("C").operations[false] = make_operations("step");
         mgr().add_custom("B");
         for (const bool editable : {true, false}) {
-            for (const char* device : {"A", "<<new device>>"}) {
+            for (const char* device : {"A", "C", "<<new device>>"}) {
                 mgr().flow_editable = editable;
                 open_with("B");
 
                 pick(device);
 
-                QCOMPARE(calls_of({"is_flow_editable"}),
-                         QStringList(qs("mgr.is_flow_editable(%1)").arg(*device == 'A' ? qs("flash:A") : qs("null"))));
+                QCOMPARE(
+                    calls_of({"is_flow_editable"}),
+                    QStringList(
+                        qs("mgr.is_flow_editable(%1)").arg(*device == '<' ? qs("null") : qs("flash:") + qs(device))));
                 for (int operation = 0; operation < 5; ++operation)
                     QCOMPARE(page_is_editable(operation), editable);
             }
@@ -136,7 +139,8 @@ private slots:
     {
         const auto [device, hidden, can_edit, enabled] = row<QString, bool, bool, bool>();
         mgr().add_custom("custom");
-        mgr().add_builtin("built-in");
+        // The row's name is asked about, not the record's.
+        mgr().add_builtin("built-in").name = "of the record";
         mgr().add_builtin("other");
         // From the opposite state.
         mgr().flow_edit_allowed = !enabled;
@@ -150,6 +154,20 @@ private slots:
         QCOMPARE(pages_enabled(), (QList<bool>{enabled, enabled, enabled, enabled, enabled}));
         if (device == QLatin1String("built-in"))
             QVERIFY(log().calls().contains(qs(R"(mgr.is_hidden_flash("built-in", true))")));
+    }
+
+    void pages_are_emptied_before_flows_are_asked_for()
+    {
+        mgr().add_custom("A").operations[false] = make_operations("A");
+        mgr().add_custom("B").operations[false] = make_operations("B");
+        open_with("A");
+        QStringList flows_when_asked{qs("never asked")};
+        log().on_call(qs("get_flow_variant"), [&](const QString&) { flows_when_asked = page_flows(); });
+
+        pick("B");
+
+        QCOMPARE(flows_when_asked, QStringList());
+        QCOMPARE(page_flows(), flows_named("B"));
     }
 
     void pages_are_loaded_before_they_are_enabled()
