@@ -20,7 +20,6 @@ formatting() { sources '*.cpp' '*.h' | xargs clang-format --dry-run --Werror; }
 
 # clang-tidy and clazy read what moc and uic generate, so that is generated first.
 generated_code() {
-    [ -f build/dev/build.ninja ] || cmake --preset dev >/dev/null
     ninja -C build/dev -t targets all | sed -n 's/^\([^:]*_autogen\): .*/\1/p' | grep -v / |
         xargs cmake --build build/dev --target >/dev/null
 }
