@@ -25,7 +25,7 @@ generated_code() {
 }
 
 tidy() {
-    product_sources | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/dev 2>&1 |
+    product_sources | xargs -P "$(nproc)" -n 1 clang-tidy --quiet -p build/dev 2>&1 |
         { grep -vE '^[0-9]+ warnings? (generated|treated)|^Suppressed|^Use -header-filter|^$' || true; } |
         tee build/dev/clang-tidy.log
     ! grep -qE '(warning|error):' build/dev/clang-tidy.log
@@ -40,7 +40,7 @@ CLAZY_CHECKS=level1,no-connect-by-name,no-non-pod-global-static,no-range-loop-re
 clazy_level1() {
     # A file with an error could not be read, and was not checked.
     local found='\[-Wclazy|: (fatal )?error: '
-    product_sources | xargs -P "$(nproc)" -n 4 clazy-standalone -p build/dev --checks="$CLAZY_CHECKS" --extra-arg=-Wno-unknown-warning-option \
+    product_sources | xargs -P "$(nproc)" -n 1 clazy-standalone -p build/dev --checks="$CLAZY_CHECKS" --extra-arg=-Wno-unknown-warning-option \
         --ignore-dirs='.*(/usr/|autogen).*' 2>&1 | tee build/dev/clazy.log | { grep -E "$found" || true; }
     ! grep -qE "$found" build/dev/clazy.log
 }
