@@ -15,6 +15,7 @@
 #include "new_device/problem_line.h"
 #include "program/help_menu.h"
 #include "program/host_database.h"
+#include "programmer/panel_form.h"
 #include "run/chosen_device.h"
 
 #include "gfpdb/gfpdb_helper.h"
@@ -30,7 +31,6 @@
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -43,8 +43,6 @@ namespace {
 
 constexpr int FIRST_WIDTH = 1280;
 constexpr int FIRST_HEIGHT = 700;
-// What a window manager adds around a window, and panels of the desktop.
-constexpr int SCREEN_SHARE_PERCENT = 92;
 // A change of the file is more than one write.
 constexpr int REFRESH_DELAY_MS = 200;
 
@@ -68,7 +66,7 @@ DATABASE_WINDOW::DATABASE_WINDOW(const DIALOG_OPTIONS& options, QSettings& setti
     m_recent.load(settings);
     m_device_page->load(settings);
     connect_changes();
-    set_first_size();
+    restore_place();
     refresh();
     m_device_page->setFocus();
 }
@@ -151,10 +149,9 @@ void DATABASE_WINDOW::create_menus(const DIALOG_OPTIONS& options)
 }
 
 // As it was left, else as large as is useful and the screen allows.
-void DATABASE_WINDOW::set_first_size()
+void DATABASE_WINDOW::restore_place()
 {
-    const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
-    resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    set_first_size(this, {FIRST_WIDTH, FIRST_HEIGHT});
     restoreGeometry(m_settings.value(GEOMETRY_KEY).toByteArray());
 }
 

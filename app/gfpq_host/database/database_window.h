@@ -64,7 +64,7 @@ private:
     void connect_changes();
     void create_pages(const DIALOG_OPTIONS& options);
     void create_menus(const DIALOG_OPTIONS& options);
-    void set_first_size();
+    void restore_place();
 
     void open_directory();
     void use_directory(const QString& directory);

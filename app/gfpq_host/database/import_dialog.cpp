@@ -12,14 +12,12 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFormLayout>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTableView>
@@ -31,7 +29,6 @@ namespace {
 
 constexpr int FIRST_WIDTH = 960;
 constexpr int FIRST_HEIGHT = 600;
-constexpr int SCREEN_SHARE_PERCENT = 92;
 // Of the preview's height.
 constexpr int TABLE_SHARE = 4;
 constexpr int DETAILS_SHARE = 1;
@@ -88,8 +85,7 @@ IMPORT_DIALOG::IMPORT_DIALOG(GFPDB_DATABASE& database, const QStringList& files,
     column->addWidget(m_summary);
     column->addWidget(m_problem);
     column->addWidget(create_buttons());
-    const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
-    resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    set_first_size(this, {FIRST_WIDTH, FIRST_HEIGHT});
     preview->setSizes({height() * TABLE_SHARE, height() * DETAILS_SHARE});
     connect(&m_timer, &QTimer::timeout, this, &IMPORT_DIALOG::work);
     // Only a button that is in the dialog can be its default.

@@ -11,12 +11,10 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -27,7 +25,6 @@ namespace {
 
 constexpr int FIRST_WIDTH = 980;
 constexpr int FIRST_HEIGHT = 640;
-constexpr int SCREEN_SHARE_PERCENT = 92;
 // Values and remarks.
 constexpr int VALUES_SHARE = 3;
 constexpr int REMARKS_SHARE = 2;
@@ -81,8 +78,7 @@ NEW_DEVICE_DIALOG::NEW_DEVICE_DIALOG(QWidget* parent, NEW_DEVICE_DRAFT& draft, c
     column->addWidget(m_problem);
     column->addWidget(create_buttons());
     take_place();
-    const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
-    resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    set_first_size(this, {FIRST_WIDTH, FIRST_HEIGHT});
     splitter->setSizes({width() * VALUES_SHARE, width() * REMARKS_SHARE});
     m_values->go_to(m_draft.first_wrong_row());
 }

@@ -5,13 +5,17 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QFormLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QScreen>
 
 namespace {
 
 constexpr int FIELD_CHARACTERS = 10;
+// What a window manager adds around a window, and panels of the desktop, take the rest.
+constexpr int SCREEN_SHARE_PERCENT = 92;
 
 // What a screen reader says for a label: without its access key and its colon.
 QString name_of(QString label)
@@ -36,6 +40,12 @@ public:
 };
 
 } // namespace
+
+void set_first_size(QWidget* window, const QSize& useful)
+{
+    const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
+    window->resize(useful.boundedTo(room));
+}
 
 void keep_wheel_from_fields(QWidget* page)
 {

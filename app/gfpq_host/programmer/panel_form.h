@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 
-// What the panels of the window have in common.
+// What the panels and windows of the host have in common.
 #pragma once
 
 #include <QString>
 
 class QComboBox;
 class QFormLayout;
+class QSize;
 class QWidget;
 
 // A form without margins on `page`; a field that has no room beside its label goes below it.
@@ -17,6 +18,9 @@ void add_row(QFormLayout* form, const QString& label, QWidget* widget, const cha
 
 // `first` and `second` side by side; the first one takes the room.
 QWidget* side_by_side(QWidget* first, QWidget* second);
+
+// Gives `window` the size that is useful, or as much of it as the screen allows.
+void set_first_size(QWidget* window, const QSize& useful);
 
 // The wheel over a combo or spin box that is on `page` now scrolls the page, and changes nothing.
 void keep_wheel_from_fields(QWidget* page);

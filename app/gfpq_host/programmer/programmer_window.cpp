@@ -30,7 +30,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
@@ -52,8 +51,6 @@ constexpr int GROUP_SIDE = 8;
 constexpr int GROUP_TOP = 4;
 // Of either side of the window, on the smallest screens.
 constexpr int LEAST_WIDTH = 220;
-// What a window manager adds around a window, and panels of the desktop.
-constexpr int SCREEN_SHARE_PERCENT = 92;
 
 const QString GEOMETRY_KEY = QStringLiteral("programmer/geometry");
 const QString SPLITTER_KEY = QStringLiteral("programmer/splitter");
@@ -94,7 +91,7 @@ PROGRAMMER_WINDOW::PROGRAMMER_WINDOW(MODULE_LOADER& module, const DIALOG_OPTIONS
     m_connection_panel->load(settings);
     m_file_panel->load(settings);
     m_order_panel->load(settings);
-    set_first_size();
+    restore_place();
     // Return presses the button that has the focus, as in a dialog.
     const QList<QPushButton*> buttons = findChildren<QPushButton*>();
     for (QPushButton* button : buttons)
@@ -217,10 +214,9 @@ void PROGRAMMER_WINDOW::connect_run()
 }
 
 // As it was left, else as large as is useful and the screen allows.
-void PROGRAMMER_WINDOW::set_first_size()
+void PROGRAMMER_WINDOW::restore_place()
 {
-    const QSize room = QGuiApplication::primaryScreen()->availableSize() * SCREEN_SHARE_PERCENT / 100;
-    resize(QSize(FIRST_WIDTH, FIRST_HEIGHT).boundedTo(room));
+    set_first_size(this, {FIRST_WIDTH, FIRST_HEIGHT});
     m_splitter->setSizes({m_entries_width, std::max(width() - m_entries_width, LEAST_WIDTH)});
     restoreGeometry(m_settings.value(GEOMETRY_KEY).toByteArray());
     m_splitter->restoreState(m_settings.value(SPLITTER_KEY).toByteArray());

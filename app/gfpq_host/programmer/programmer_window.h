@@ -56,7 +56,7 @@ private:
     void show_page(int page);
     void create_menu(bool allows_new_devices);
     void connect_run();
-    void set_first_size();
+    void restore_place();
 
     void start();
     void try_flow();
