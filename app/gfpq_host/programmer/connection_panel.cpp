@@ -78,7 +78,7 @@ QWidget* CONNECTION_PANEL::create_network_page()
     auto* page = new QWidget;
     QFormLayout* form = make_form(page);
     m_host_edit = new QLineEdit(QStringLiteral("localhost"));
-    add_row(form, tr("&Host:"), m_host_edit, "m_host_edit");
+    add_row(form, tr("H&ost:"), m_host_edit, "m_host_edit");
     m_port_spin = new QSpinBox;
     m_port_spin->setRange(1, LAST_PORT);
     m_port_spin->setValue(USUAL_PORT);

@@ -86,10 +86,12 @@ QStringList placeholders(const QString& text)
 }
 
 // Where the access keys of a context must not clash: what is in a window may all be in sight at once, but the keys of a
-// menu and of a dialog are their own. Two dialogs have the fields of a device's place, and one window has the pages of
-// a database.
-QStringList places_of(const QString& context)
+// menu and of a dialog are their own. Two dialogs have the fields of a device's place, one window has the pages of a
+// database, and both windows have the title of the same menu.
+QStringList places_of(const QString& context, const QString& source)
 {
+    if (source == QLatin1String("&Help"))
+        return {QString(), QStringLiteral("DATABASE_WINDOW")};
     if (context == QLatin1String("PLACE_FIELDS"))
         return {QStringLiteral("COPY_DIALOG"), QStringLiteral("NEW_DEVICE_DIALOG")};
     const QString database = QStringLiteral("DATABASE_WINDOW");
@@ -213,15 +215,19 @@ private slots:
     {
         QFETCH(QString, catalogue);
         QSet<QString> keys;
+        const auto is_new = [&keys](const QString& place, const QString& text) {
+            const QString key = place + text.mid(text.indexOf(QLatin1Char('&')), 2).toLower();
+            const bool is_there = keys.contains(key);
+            keys.insert(key);
+            return !is_there;
+        };
         for (const MESSAGE& message : read_catalogue(catalogue)) {
             QCOMPARE(message.translation.count(QLatin1Char('&')), message.source.count(QLatin1Char('&')));
             if (!message.source.contains(QLatin1Char('&')))
                 continue;
-            const QString letter =
-                message.translation.mid(message.translation.indexOf(QLatin1Char('&')) + 1, 1).toLower();
-            for (const QString& place : places_of(message.context)) {
-                QVERIFY2(!keys.contains(place + letter), qPrintable(message.translation));
-                keys.insert(place + letter);
+            for (const QString& place : places_of(message.context, message.source)) {
+                QVERIFY2(is_new(QStringLiteral("en ") + place, message.source), qPrintable(message.source));
+                QVERIFY2(is_new(place, message.translation), qPrintable(message.translation));
             }
         }
     }
