@@ -171,7 +171,7 @@ std::unique_ptr<GFPDB_STORE> open_store(const QTemporaryDir& directory, const PO
 
 void store_all(GFPDB_STORE& store, const std::vector<GFPDB_ROW>& rows)
 {
-    require(store.save_all(rows, {}, [](int) {}), store.get_last_error());
+    require(store.save_all(rows, {}, [](int) { return true; }), store.get_last_error());
 }
 
 void measure_single_records(BENCH_HARNESS& bench, POSTGRES_SERVER& server, GFPDB_STORE& store, BARE_SERVER& bare)

@@ -154,7 +154,7 @@ private:
         plan.add(file);
         if (!file.problems.empty())
             return file.problems.front().text;
-        return database.import(plan, [](int) {}) ? std::string() : database.get_last_error();
+        return database.import(plan, [](int) { return true; }) ? std::string() : database.get_last_error();
     }
 
     std::string export_one() const

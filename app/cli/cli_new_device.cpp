@@ -173,7 +173,7 @@ const char* cli_store_device(const CLI_CALL& call, const GFPDB_RECORD& record, c
     for (const GFPDB_FINDING& each : file.warnings)
         call.output.finding(origin, each);
     const bool changes = !plan.devices().empty();
-    if (changes && !call.has(CLI_OPTION_DRY_RUN) && !call.database.import(plan, [](int) {})) {
+    if (changes && !call.has(CLI_OPTION_DRY_RUN) && !call.database.import(plan, [](int) { return true; })) {
         exit_code = call.database_failed(call.database.get_last_error());
         return nullptr;
     }

@@ -52,7 +52,7 @@ const std::string& full_database()
         GFPDB_ROW model = row_of(DEVICES[0]);
         model.template_name = TEMPLATE;
         FUZZ_CHECK(GFPDB_EMBEDDED_MGR::instance().store().save_all({row_of(DEVICES[0]), row_of(DEVICES[1])}, {model},
-                                                                   [](int) {}));
+                                                                   [](int) { return true; }));
     });
     return content;
 }
@@ -118,7 +118,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     if (!good)
         return 0;
-    FUZZ_CHECK(database.import(plan, [](int) {}));
+    FUZZ_CHECK(database.import(plan, [](int) { return true; }));
     check_stored(database);
     return 0;
 }

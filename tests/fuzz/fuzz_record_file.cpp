@@ -99,7 +99,7 @@ void check_import(GFPDB_RECORD_FILE& file, const GFPDB_READ_OPTIONS& options)
         return;
     const auto devices = static_cast<int>(plan.devices().size());
     const int count = devices + static_cast<int>(plan.templates().size());
-    FUZZ_CHECK(database.import(plan, [](int) {}));
+    FUZZ_CHECK(database.import(plan, [](int) { return true; }));
 
     const std::vector<GFPDB_RECORD> stored = stored_records(database);
     FUZZ_CHECK(static_cast<int>(stored.size()) == count);

@@ -11,13 +11,18 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QSemaphore>
+#include <QTimer>
 
+#include <atomic>
 #include <cerrno>
 
 namespace {
 
 constexpr const char* SOURCE = "MX25L25645G";
 constexpr int MANY = 1000;
+// Nobody waits so long.
+constexpr int LIMIT_MS = 30000;
 
 } // namespace
 
@@ -67,7 +72,7 @@ private:
         GFPDB_IMPORT_PLAN plan(database(), GFPDB_EXISTING::REPLACED, GFPDB_RECORD_RULES::IMPORTED);
         plan.add(file);
         QVERIFY(file.problems.empty());
-        QVERIFY2(database().import(plan, [](int) {}), database().get_last_error().c_str());
+        QVERIFY2(database().import(plan, [](int) { return true; }), database().get_last_error().c_str());
     }
 
     QString write(const QString& name, const QByteArray& content) const
@@ -131,6 +136,21 @@ private:
         for (const GFPDB_RECORD& record : database().find_stored({}))
             texts += QString::fromStdString(record.name() + ' ' + record.row.device_id + ' ' + record.row.revision);
         return texts;
+    }
+
+    // Shows the preview of two records that are stored when it is imported, one of them instead of another.
+    void preview_two()
+    {
+        put({device("Mine")});
+        preview({write(qs("a.json"), {device("New"), device("Mine", "0xC2 0x20 0x18")})});
+        click_in_dialog("m_replace_check");
+        wait_for_preview();
+    }
+    // Does something when the window has its turn the next time.
+    template <typename ACT>
+    void later(const ACT& act) const
+    {
+        QMetaObject::invokeMethod(m_import.get(), act, Qt::QueuedConnection);
     }
 
     std::unique_ptr<GFPDB_DATABASE> m_database;
@@ -233,6 +253,9 @@ private slots:
         QCOMPARE(rows_shown(),
                  QStringList({qs("Problem, , b.json:5, The device \"twice\" is already in ") + first + qs(":5."),
                               qs("New, Twice, a.json:5, ")}));
+        click_in_dialog("m_replace_check");
+        wait_for_preview();
+        QCOMPARE(rows_shown().size(), 2);
     }
 
     void family_and_mode_are_chosen_for_a_list_without_them()
@@ -316,6 +339,94 @@ private slots:
         QTest::keyClick(m_import.get(), Qt::Key_Escape);
         QVERIFY(!m_import->isVisible());
         QCOMPARE(content(), QStringList());
+    }
+
+    void the_window_lives_while_a_file_is_read_data() { rows<bool>({{"to its end", false}, {"cancelled", true}}); }
+
+    void the_window_lives_while_a_file_is_read()
+    {
+        const auto is_cancelled = row<bool>();
+        const QString file = write(qs("a.json"), {device("New")});
+        QSemaphore release;
+        std::atomic<bool> is_held{false};
+        std::atomic<bool> is_released{false};
+        FAULT_INJECTOR::run_after(other_directory(), FAULT_CALL::READ, 1, [&] {
+            is_held = true;
+            is_released = release.tryAcquire(1, LIMIT_MS);
+        });
+        show({file});
+        QTRY_VERIFY(is_held);
+        QCOMPARE(summary(), qs("The files are being read."));
+        QVERIFY(in_dialog<QProgressBar>("m_import_progress").isVisible());
+        if (is_cancelled)
+            QTest::keyClick(m_import.get(), Qt::Key_Escape);
+        QCOMPARE(m_import->isVisible(), !is_cancelled);
+        release.release();
+        if (is_cancelled)
+            m_import.reset();
+        else
+            wait_for_preview();
+        QVERIFY(is_released);
+    }
+
+    void the_window_lives_while_it_stores()
+    {
+        preview_two();
+        int disturbances = 0;
+        QTimer other;
+        connect(&other, &QTimer::timeout, this, [&] {
+            if (summary() == qs("The records are being stored."))
+                ++disturbances;
+        });
+        other.start(0);
+        bool is_seen = false;
+        in_dialog<QAbstractButton>("m_import_button").setFocus();
+        later([&] {
+            is_seen = in_dialog<QProgressBar>("m_import_progress").isVisible();
+            // A key that is held down goes on, and a row that is looked at offers no dialog.
+            QTest::keyClick(m_import->focusWidget(), Qt::Key_Return);
+            in_dialog<QTableView>("m_import_table").selectRow(1);
+            in_dialog<QTableView>("m_import_table").selectRow(0);
+            QVERIFY(!in_dialog<QAbstractButton>("m_import_compare_button").isEnabled());
+        });
+        click_in_dialog("m_import_button");
+        QVERIFY(is_seen);
+        QCOMPARE(disturbances, 0);
+        QVERIFY2(summary().endsWith(qs("New: 1, replaced: 1")), qPrintable(summary()));
+    }
+
+    void an_import_is_cancelled_while_it_stores()
+    {
+        preview_two();
+        const QStringList before = content();
+        later([this] { QTest::keyClick(m_import.get(), Qt::Key_Escape); });
+        click_in_dialog("m_import_button");
+        QVERIFY(m_import->isVisible());
+        QCOMPARE(problem(), qs("Nothing was imported: you have cancelled it."));
+        QCOMPARE(content(), before);
+
+        QVERIFY(can_import());
+        click_in_dialog("m_import_button");
+        QCOMPARE(stored_names(), QStringList({qs("Mine"), qs("New")}));
+        QTest::keyClick(m_import.get(), Qt::Key_Escape);
+        QCOMPARE(m_import->result(), int(QDialog::Accepted));
+    }
+
+    // It was meant for the button that was there then.
+    void a_click_that_comes_with_the_end_closes_nothing()
+    {
+        preview_two();
+        bool is_clicked = false;
+        FAULT_INJECTOR::run_after(directory(), FAULT_CALL::SYNC, 1, [&] {
+            later([&] {
+                is_clicked = true;
+                QTest::keyClick(m_import.get(), Qt::Key_Escape);
+            });
+        });
+        click_in_dialog("m_import_button");
+        QVERIFY(is_clicked);
+        QVERIFY(m_import->isVisible());
+        QVERIFY(summary().startsWith(qs("Imported into ")));
     }
 
     void a_database_that_cannot_be_written_says_so_at_once()

@@ -40,7 +40,7 @@ std::string import_marked(const std::string& prefix, const std::string& mark)
         rows.back().device_id = mark;
     }
     const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(qgetenv("GFPDB_TEST_DIR").toStdString());
-    return store->save_all(rows, {}, [](int) {}) ? std::string() : store->get_last_error();
+    return store->save_all(rows, {}, [](int) { return true; }) ? std::string() : store->get_last_error();
 }
 
 std::string change(const std::string& how, const std::string& name, const std::string& mark)

@@ -67,8 +67,11 @@ bool read_files(const CLI_CALL& call, GFPDB_RECORD_RULES rules, GFPDB_IMPORT_PLA
 bool store(const CLI_CALL& call, const GFPDB_IMPORT_PLAN& plan, CLI_IMPORT_REPORT& report)
 {
     const int total = static_cast<int>(plan.devices().size() + plan.templates().size());
-    const auto progress = [&call, total](int done) { call.output.progress("Importing", done, total); };
-    report.is_imported = total == 0 || call.database.import(plan, progress);
+    const auto goes_on = [&call, total](int done) {
+        call.output.progress("Importing", done, total);
+        return true;
+    };
+    report.is_imported = total == 0 || call.database.import(plan, goes_on);
     if (!report.is_imported)
         report.refusal = call.database.get_last_error();
     call.output.finish_progress();

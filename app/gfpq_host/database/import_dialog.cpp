@@ -2,6 +2,7 @@
 #include "database/import_dialog.h"
 
 #include "database/compare_dialog.h"
+#include "database/live_window.h"
 #include "dialog/choice_combo.h"
 #include "new_device/problem_line.h"
 #include "programmer/panel_form.h"
@@ -35,6 +36,7 @@ constexpr int DETAILS_SHARE = 1;
 // Rows that are measured for the width of a column.
 constexpr int MEASURED_ROWS = 100;
 constexpr int WIDEST_COLUMN_CHARACTERS = 36;
+constexpr long long PERCENT = 100;
 
 std::vector<int> families_of(const GFPDB_MGR& manager)
 {
@@ -273,7 +275,7 @@ void IMPORT_DIALOG::show_details()
 {
     const IMPORT_ROW* row = current_row();
     m_details->setPlainText(row != nullptr ? IMPORT_MODEL::details(*row) : QString());
-    m_compare_button->setEnabled(row != nullptr && row->former);
+    m_compare_button->setEnabled(row != nullptr && row->former && !m_is_storing);
 }
 
 void IMPORT_DIALOG::compare()
@@ -287,24 +289,40 @@ void IMPORT_DIALOG::compare()
 void IMPORT_DIALOG::store()
 {
     const GFPDB_IMPORT_PLAN& plan = m_preview.plan();
-    const int total = static_cast<int>(plan.devices().size() + plan.templates().size());
+    const auto total = static_cast<long long>(plan.devices().size() + plan.templates().size());
+    // A key that is held would press the button that gets the focus of this one.
+    m_table->setFocus();
+    m_is_storing = true;
+    m_is_cancelled = false;
     show_busy(true);
     m_summary->setText(tr("The records are being stored."));
-    m_summary->repaint();
-    const auto progress = [this, total](int done) {
-        const int percent = static_cast<int>(100LL * done / total);
-        if (percent == m_progress->value())
-            return;
-        m_progress->setValue(percent);
-        m_progress->repaint();
+    LIVE_WINDOW window(*this);
+    const auto goes_on = [this, &window, total](int done) {
+        m_progress->setValue(static_cast<int>(PERCENT * done / total));
+        window.live();
+        return !m_is_cancelled;
     };
-    if (m_database.import(plan, progress)) {
+    const bool is_stored = m_database.import(plan, goes_on);
+    const QString problem = QString::fromStdString(m_database.get_last_error());
+    window.catch_up();
+    m_is_storing = false;
+    m_close_button->setEnabled(true);
+    if (is_stored)
         show_stored();
+    else
+        show_failure(problem);
+}
+
+void IMPORT_DIALOG::show_failure(const QString& problem)
+{
+    if (m_is_cancelled) {
+        m_failure = tr("Nothing was imported: you have cancelled it.");
+        show_busy(false);
+        show_preview();
         return;
     }
     // Someone else may have changed what the preview was about.
-    m_failure = tr("Nothing was imported: %1\nThe preview was made again.")
-                    .arg(QString::fromStdString(m_database.get_last_error()));
+    m_failure = tr("Nothing was imported: %1\nThe preview was made again.").arg(problem);
     begin();
 }
 
@@ -324,6 +342,11 @@ void IMPORT_DIALOG::show_stored()
 
 void IMPORT_DIALOG::reject()
 {
+    if (m_is_storing) {
+        m_is_cancelled = true;
+        m_close_button->setEnabled(false);
+        return;
+    }
     m_timer.stop();
     if (m_is_stored)
         accept();

@@ -27,7 +27,7 @@ class IMPORT_DIALOG : public QDialog
 
 public:
     // Reads `files` (JSON, or CSV by their names) when it is shown. `database` must outlive the dialog. Accepted when
-    // something was stored.
+    // something was stored; until then it can be cancelled, also while it stores.
     IMPORT_DIALOG(GFPDB_DATABASE& database, const QStringList& files, QWidget* parent);
 
     void reject() override;
@@ -48,6 +48,7 @@ private:
     void show_details();
     void compare();
     void store();
+    void show_failure(const QString& problem);
     void show_stored();
     QString summary() const;
     QString hindrance();
@@ -56,6 +57,8 @@ private:
     IMPORT_PREVIEW m_preview;
     IMPORT_MODEL m_model;
     QTimer m_timer;
+    bool m_is_storing = false;
+    bool m_is_cancelled = false;
     bool m_is_stored = false;
     // Where the focus comes back to.
     QPointer<QWidget> m_focused;

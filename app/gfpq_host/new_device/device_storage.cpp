@@ -61,7 +61,7 @@ bool store_new_device(const GFPDB_RECORD& device, QString& problem)
     file.records.push_back(device);
     plan.add(file);
     problem = problems_of(file.problems);
-    if (problem.isEmpty() && !database.import(plan, [](int) {}))
+    if (problem.isEmpty() && !database.import(plan, [](int) { return true; }))
         problem = QString::fromStdString(database.get_last_error());
     return problem.isEmpty();
 }

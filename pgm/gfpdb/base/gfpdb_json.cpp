@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <string_view>
 #include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -21,6 +22,8 @@ constexpr std::size_t FEW_MEMBERS = 16;
 constexpr unsigned BLANKS_PER_LEVEL = 2;
 constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::size_t BYTE_ORDER_MARK_LENGTH = 3;
+// Who waits for the end hears of the reading this often.
+constexpr std::size_t BYTES_BETWEEN_NEWS = 65536;
 constexpr const char* HALF_PAIR = QT_TRANSLATE_NOOP("gfpdb", "an unpaired surrogate is not a character");
 
 using rapidjson::SizeType;
@@ -54,7 +57,10 @@ bool has_half_pair(const char* text, SizeType length)
 class JSON_BUILDER
 {
 public:
-    JSON_BUILDER(const rapidjson::MemoryStream& stream, JSON_VALUE& root) : m_stream(stream), m_root(root) {}
+    JSON_BUILDER(const rapidjson::MemoryStream& stream, JSON_VALUE& root,
+                 const std::function<bool(std::size_t)>& goes_on)
+        : m_stream(stream), m_root(root), m_goes_on(goes_on)
+    {}
 
     const std::string& problem() const { return m_problem; }
     // The name of the last member that was begun.
@@ -134,8 +140,19 @@ private:
         return place;
     }
 
+    bool goes_on()
+    {
+        const std::size_t read = m_stream.Tell();
+        if (!m_goes_on || read < m_news_at)
+            return true;
+        m_news_at = read + BYTES_BETWEEN_NEWS;
+        return m_goes_on(read);
+    }
+
     bool open(JSON_VALUE value)
     {
+        if (!goes_on())
+            return false;
         JSON_VALUE* const place = add(std::move(value));
         if (place != nullptr)
             m_open.push_back({place, {}});
@@ -162,6 +179,8 @@ private:
 
     const rapidjson::MemoryStream& m_stream;
     JSON_VALUE& m_root;
+    const std::function<bool(std::size_t)>& m_goes_on;
+    std::size_t m_news_at = 0;
     std::vector<OPEN> m_open;
     std::string m_last_name;
     std::string m_problem;
@@ -272,6 +291,11 @@ const JSON_VALUE* JSON_VALUE::member(const std::string& name) const
     return place == members.end() ? nullptr : &place->second;
 }
 
+JSON_VALUE* JSON_VALUE::member(const std::string& name)
+{
+    return const_cast<JSON_VALUE*>(std::as_const(*this).member(name));
+}
+
 JSON_VALUE& JSON_VALUE::add(const std::string& name, JSON_VALUE value)
 {
     members.emplace_back(name, std::move(value));
@@ -364,12 +388,13 @@ bool json_has_members(const JSON_VALUE& object, const std::vector<std::string>& 
     return is_complete;
 }
 
-bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error)
+bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error,
+                const std::function<bool(std::size_t)>& goes_on)
 {
     constexpr unsigned FLAGS = rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
     const std::size_t start = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? BYTE_ORDER_MARK_LENGTH : 0;
     rapidjson::MemoryStream stream(text.data() + start, text.size() - start);
-    JSON_BUILDER builder(stream, value);
+    JSON_BUILDER builder(stream, value, goes_on);
     const rapidjson::ParseResult result = rapidjson::Reader().Parse<FLAGS>(stream, builder);
     if (!result.IsError() && stream.Tell() == stream.size_)
         return true;

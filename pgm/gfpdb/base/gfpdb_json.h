@@ -33,6 +33,7 @@ struct JSON_VALUE
 
     // The member called `name`, or null.
     const JSON_VALUE* member(const std::string& name) const;
+    JSON_VALUE* member(const std::string& name);
     // Appends a member and returns its value.
     JSON_VALUE& add(const std::string& name, JSON_VALUE value);
 };
@@ -66,8 +67,10 @@ struct JSON_ERROR
 };
 
 // Reads one JSON value. False: `error` says what is wrong and where. Also refused are a member that occurs twice in an
-// object, more than 64 levels, numbers beyond those of a double, and text that is not UTF-8.
-bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error);
+// object, more than 64 levels, numbers beyond those of a double, and text that is not UTF-8. `goes_on` hears now and
+// then how many bytes were read; where it returns false the reading ends, and `error` has no text.
+bool json_parse(const std::string& text, JSON_VALUE& value, JSON_ERROR& error,
+                const std::function<bool(std::size_t bytes)>& goes_on = {});
 
 // The value with two blanks per level, one member or item per line, and a line break at the end.
 std::string json_write(const JSON_VALUE& value);

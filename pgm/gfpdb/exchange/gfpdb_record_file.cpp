@@ -16,6 +16,7 @@ constexpr const char* STANDARD_INPUT = "-";
 constexpr const char* CSV_SUFFIX = ".csv";
 // An export of 80,000 devices with their flows has as many bytes.
 constexpr std::size_t LARGEST = std::size_t(1) << 30;
+constexpr std::size_t PERCENT = 100;
 
 // False: `problem` says why.
 bool read_text(const std::string& path, std::string& text, std::string& problem)
@@ -36,34 +37,45 @@ bool read_text(const std::string& path, std::string& text, std::string& problem)
 // One of the readers, or none when there is nothing to read.
 struct GFPDB_FILE_READER::CONTENT
 {
-    GFPDB_RECORD_FILE file;
-    JSON_VALUE json;
-    std::optional<GFPDB_RECORD_READER> records;
-    std::optional<GFPDB_LIST_READER> list;
+    GFPDB_MGR& manager;
+    const GFPDB_READ_OPTIONS options;
+    GFPDB_RECORD_FILE file = {};
+    JSON_VALUE json = {};
+    std::optional<GFPDB_RECORD_READER> records = {};
+    std::optional<GFPDB_LIST_READER> list = {};
     int total = 0;
     int done = 0;
     bool is_complete = false;
 };
 
 GFPDB_FILE_READER::GFPDB_FILE_READER(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
-    : m_content(std::make_unique<CONTENT>())
+    : m_content(new CONTENT{manager, options})
 {
     GFPDB_RECORD_FILE& file = m_content->file;
     file.path = path;
     file.is_csv = options.csv || gfpdb_from_utf8(path).endsWith(QLatin1String(CSV_SUFFIX), Qt::CaseInsensitive);
+}
+
+// What checks values is not used here: it belongs to another thread.
+void GFPDB_FILE_READER::load(const std::function<bool(int)>& goes_on)
+{
+    CONTENT& content = *m_content;
+    GFPDB_RECORD_FILE& file = content.file;
     std::string text;
     std::string problem;
     JSON_ERROR error;
-    if (!read_text(path, text, problem)) {
+    const auto tell = [&](std::size_t bytes) { return goes_on(static_cast<int>(PERCENT * bytes / text.size())); };
+    if (!read_text(file.path, text, problem)) {
         file.problems.push_back({0, "", problem});
     } else if (file.is_csv) {
-        m_content->list.emplace(text, manager, options);
-        m_content->total = m_content->list->count();
-    } else if (!json_parse(text, m_content->json, error)) {
+        content.list.emplace(text, content.manager, content.options);
+        content.total = content.list->count();
+    } else if (!json_parse(text, content.json, error, tell)) {
+        content.json = JSON_VALUE();
         file.problems.push_back({error.line, "", GFPDB_WORDS::say("This is not valid JSON: %1.", {error.text})});
     } else {
-        m_content->records.emplace(manager, options);
-        m_content->total = m_content->records->begin_file(m_content->json);
+        content.records.emplace(content.manager, content.options);
+        content.total = content.records->begin_file(content.json);
     }
 }
 
@@ -106,6 +118,7 @@ bool GFPDB_FILE_READER::read_next()
 GFPDB_RECORD_FILE gfpdb_read_records(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
 {
     GFPDB_FILE_READER reader(path, manager, options);
+    reader.load([](int) { return true; });
     while (reader.read_next()) {
     }
     return std::move(reader.file());

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -135,7 +136,7 @@ void GFPDB_RECORD_READER::add(const JSON_VALUE& value, const std::string& field,
     m_problems.push_back({value.line, field, text, seriousness});
 }
 
-int GFPDB_RECORD_READER::begin_file(const JSON_VALUE& file)
+int GFPDB_RECORD_READER::begin_file(JSON_VALUE& file)
 {
     const JSON_VALUE* format = file.member(FORMAT);
     const JSON_VALUE* version = file.member(VERSION);
@@ -154,9 +155,9 @@ int GFPDB_RECORD_READER::begin_file(const JSON_VALUE& file)
     return static_cast<int>(m_items.size());
 }
 
-void GFPDB_RECORD_READER::find_records(const JSON_VALUE& file, const char* name, bool are_templates)
+void GFPDB_RECORD_READER::find_records(JSON_VALUE& file, const char* name, bool are_templates)
 {
-    const JSON_VALUE* list = file.member(name);
+    JSON_VALUE* list = file.member(name);
     if (!list || !json_is(*list, JSON_VALUE::LIST, name, m_report))
         return;
     for (std::size_t at = 0; at < list->items.size(); ++at)
@@ -166,7 +167,8 @@ void GFPDB_RECORD_READER::find_records(const JSON_VALUE& file, const char* name,
 GFPDB_RECORD GFPDB_RECORD_READER::read_item(int at)
 {
     const ITEM& item = m_items[static_cast<std::size_t>(at)];
-    return read_record(*item.value, item.is_template, item.field);
+    const JSON_VALUE value = std::exchange(*item.value, JSON_VALUE());
+    return read_record(value, item.is_template, item.field);
 }
 
 GFPDB_RECORD GFPDB_RECORD_READER::read_record(const JSON_VALUE& value, bool is_template, const std::string& field)

@@ -27,9 +27,10 @@ public:
     // `manager` checks values; its family and scheme change with every record.
     GFPDB_RECORD_READER(GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options);
 
-    // Looks at the form of a whole file, which must outlive this, and says how many records it has; and one of them.
-    // A record with problems is as far there as it could be read.
-    int begin_file(const JSON_VALUE& file);
+    // Looks at the form of a whole file, which must outlive this, and says how many records it has; and one of them,
+    // once: it is gone from the file then, which may be a large one. A record with problems is as far there as it could
+    // be read.
+    int begin_file(JSON_VALUE& file);
     GFPDB_RECORD read_item(int at);
     // One record, called `field` in problems.
     GFPDB_RECORD read_record(const JSON_VALUE& value, bool is_template, const std::string& field);
@@ -40,14 +41,14 @@ private:
     // A record of the file.
     struct ITEM
     {
-        const JSON_VALUE* value;
+        JSON_VALUE* value;
         bool is_template;
         std::string field;
     };
 
     void add(const JSON_VALUE& value, const std::string& field, const std::string& text,
              GFPDB_SERIOUSNESS seriousness = GFPDB_SERIOUSNESS::PROBLEM);
-    void find_records(const JSON_VALUE& file, const char* name, bool are_templates);
+    void find_records(JSON_VALUE& file, const char* name, bool are_templates);
     void read_field(const JSON_VALUE& object, const GFPDB_FIELD& which, const std::string& field, GFPDB_ROW& row);
     std::string read_text(const JSON_VALUE& object, const char* name, const std::string& field);
     std::optional<int> read_number(const JSON_VALUE& object, const char* name, const std::string& field);

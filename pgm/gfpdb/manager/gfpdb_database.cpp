@@ -185,10 +185,10 @@ bool GFPDB_DATABASE::check_integrity()
     return store().check_integrity();
 }
 
-bool GFPDB_DATABASE::import(const GFPDB_IMPORT_PLAN& plan, const std::function<void(int)>& progress)
+bool GFPDB_DATABASE::import(const GFPDB_IMPORT_PLAN& plan, const std::function<bool(int)>& goes_on)
 {
     const GFPDB_SEEN_STATES seen{plan.replaced_devices(), plan.replaced_templates()};
-    return store().save_all(plan.devices(), plan.templates(), progress, &seen);
+    return store().save_all(plan.devices(), plan.templates(), goes_on, &seen);
 }
 
 std::vector<GFPDB_HISTORY_ENTRY> GFPDB_DATABASE::find_history(const GFPDB_SELECTION& selection)

@@ -23,6 +23,11 @@ std::string gfpdb_no_state(std::int64_t id)
     return GFPDB_WORDS::say("There is no state %1 in the history.", {std::to_string(id)});
 }
 
+std::string gfpdb_import_cancelled()
+{
+    return GFPDB_WORDS::say("The import was cancelled.");
+}
+
 std::string gfpdb_another_database(const std::string& directory)
 {
     return GFPDB_WORDS::say("The database in %1 is another one now.", {directory});

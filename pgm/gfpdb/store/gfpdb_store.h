@@ -131,10 +131,11 @@ public:
     virtual std::vector<GFPDB_ROW> get_devices() = 0;
     virtual std::vector<GFPDB_ROW> get_templates() = 0;
     // Stores all `devices` and all `templates`, or none of them. What has the same name is replaced; a template name of
-    // a device makes no template here. Refused when a device would have the name of a template. `progress` hears the
-    // number of records that are done; it must not use the database. `seen` (may be null) stays as it is.
+    // a device makes no template here. Refused when a device would have the name of a template. `goes_on` hears the
+    // number of records that are done, and must not use the database; where it returns false nothing is stored. `seen`
+    // (may be null) stays as it is.
     virtual bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                          const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen = nullptr) = 0;
+                          const std::function<bool(int)>& goes_on, const GFPDB_SEEN_STATES* seen = nullptr) = 0;
 
     // The states in the history, oldest first, without their flows: of records called `name`, of all when it is empty.
     virtual std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name = std::string()) = 0;

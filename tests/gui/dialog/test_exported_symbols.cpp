@@ -97,7 +97,7 @@ private slots:
               "GFPDB_DATABASE::load GFPDB_DATABASE::load_state GFPDB_DATABASE::prune_history "
               "GFPDB_DATABASE::rebuild_keys GFPDB_DATABASE::remove GFPDB_DATABASE::restore_state "
               "GFPDB_DATABASE::set_upgrade_progress GFPDB_FILE_READER::GFPDB_FILE_READER GFPDB_FILE_READER::done "
-              "GFPDB_FILE_READER::file GFPDB_FILE_READER::read_next GFPDB_FILE_READER::total "
+              "GFPDB_FILE_READER::file GFPDB_FILE_READER::load GFPDB_FILE_READER::read_next GFPDB_FILE_READER::total "
               "GFPDB_FILE_READER::~GFPDB_FILE_READER GFPDB_HELPER::get_active_flash_manager "
               "GFPDB_HELPER::get_database_problem GFPDB_HELPER::set_active_flash_family "
               "GFPDB_HELPER::set_base_dir GFPDB_IMPORT_PLAN::add GFPDB_MGR::get_db_custom_dir "

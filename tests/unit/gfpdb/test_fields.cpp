@@ -44,7 +44,7 @@ private slots:
         const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(directory.path().toStdString() + '/');
         const GFPDB_ROW row = full_row();
 
-        QVERIFY(store->save_all({row}, {}, [](int) {}));
+        QVERIFY(store->save_all({row}, {}, [](int) { return true; }));
         const std::optional<GFPDB_ROW> found = store->find_device(row.family, row.scheme, row.name);
 
         QVERIFY(found);

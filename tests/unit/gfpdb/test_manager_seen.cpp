@@ -37,7 +37,7 @@ void change_template(GFPDB_STORE& store)
 {
     GFPDB_ROW row = changed_row("A");
     row.template_name = "T";
-    store.save_all({}, {row}, [](int) {});
+    store.save_all({}, {row}, [](int) { return true; });
 }
 
 void remove_device(GFPDB_STORE& store)
@@ -352,14 +352,14 @@ private slots:
         as_anna(other);
         const QString before = content();
 
-        QVERIFY(!database.import(plan, [](int) {}));
+        QVERIFY(!database.import(plan, [](int) { return true; }));
         QVERIFY2(QString::fromStdString(database.get_last_error()).startsWith(expected(problem)),
                  database.get_last_error().c_str());
         QCOMPARE(content(), before);
         // Once more would be refused as well: it is the plan that is old.
-        QVERIFY(!database.import(plan, [](int) {}));
+        QVERIFY(!database.import(plan, [](int) { return true; }));
 
-        QVERIFY(database.import(planned(database), [](int) {}));
+        QVERIFY(database.import(planned(database), [](int) { return true; }));
         QCOMPARE(run_sql(m_place->db_file(), "SELECT group_concat(density) FROM device").toString(),
                  QStringLiteral("4Mb,4Mb"));
     }

@@ -211,6 +211,7 @@ private slots:
         const auto look = [&](int done) {
             if (done == COUNT)
                 seen = run_sql(file(), "SELECT count(*) FROM device").toInt();
+            return true;
         };
 
         QVERIFY(m_store->save_all(rows, {}, look));

@@ -31,7 +31,10 @@ NAMES names_of(const std::vector<GFPDB_ROW>& rows)
     return names;
 }
 
-void no_progress(int) {}
+bool no_progress(int)
+{
+    return true;
+}
 
 } // namespace
 
@@ -143,9 +146,27 @@ private slots:
         const GFPDB_PLACE place;
         const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
         std::vector<int> heard;
-        QVERIFY(store->save_all({device("A"), device("B")}, {copy_as_template("T")},
-                                [&heard](int done) { heard.push_back(done); }));
+        QVERIFY(store->save_all({device("A"), device("B")}, {copy_as_template("T")}, [&heard](int done) {
+            heard.push_back(done);
+            return true;
+        }));
         QCOMPARE(heard, (std::vector<int>{1, 2, 3}));
+    }
+
+    void nothing_is_stored_of_what_is_cancelled_data() { rows<int>({{"in the devices", 2}, {"in the templates", 3}}); }
+
+    void nothing_is_stored_of_what_is_cancelled()
+    {
+        const auto last = row<int>();
+        const GFPDB_PLACE place;
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        QVERIFY(store->save_all({device("A", OTHER_FAMILY)}, {}, no_progress));
+        QVERIFY(!store->save_all({device("A", OTHER_FAMILY), device("B")}, {copy_as_template("T")},
+                                 [last](int done) { return done < last; }));
+        QCOMPARE(store->get_last_error(), std::string("The import was cancelled."));
+        QCOMPARE(names_of(store->get_devices()), NAMES{"A"});
+        QVERIFY(store->get_history().empty());
+        QVERIFY(store->save_all({device("B")}, {}, no_progress));
     }
 };
 

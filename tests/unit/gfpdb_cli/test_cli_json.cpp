@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 
 std::string error_of(const std::string& text)
@@ -228,6 +230,31 @@ private slots:
             if (!json_parse(bytes, value, error))
                 RC_ASSERT(error.line >= 1 && !error.text.empty());
         }));
+    }
+
+    void a_reading_says_how_far_it_is_and_can_be_ended()
+    {
+        std::string text = "[{}";
+        for (int item = 0; item < 100000; ++item)
+            text += ",{}";
+        text += ']';
+        std::vector<std::size_t> heard;
+        std::size_t most = text.size();
+        const auto goes_on = [&](std::size_t bytes) {
+            heard.push_back(bytes);
+            return heard.size() < most;
+        };
+        JSON_VALUE value;
+        JSON_ERROR error;
+        QVERIFY(json_parse(text, value, error, goes_on));
+        QVERIFY(heard.size() > 3 && heard.size() < 10 && heard.back() < text.size());
+        QVERIFY(std::is_sorted(heard.begin(), heard.end()));
+
+        heard.clear();
+        most = 2;
+        QVERIFY(!json_parse(text, value, error, goes_on));
+        QCOMPARE(heard.size(), most);
+        QCOMPARE(error.text, std::string());
     }
 };
 

@@ -67,9 +67,10 @@ public:
     // Reads the whole file and compares it with its indexes.
     bool check_integrity();
 
-    // Stores the records of the plan, all or none. `progress` hears the number of records that are done. Refused when
-    // someone else has changed one of them since the plan was made: make another plan then.
-    bool import(const GFPDB_IMPORT_PLAN& plan, const std::function<void(int)>& progress);
+    // Stores the records of the plan, all or none. Refused when someone else has changed one of them since the plan was
+    // made: make another plan then. `goes_on` hears the number of records that are done; where it returns false nothing
+    // is stored. Neither it nor what it lets run may use the database.
+    bool import(const GFPDB_IMPORT_PLAN& plan, const std::function<bool(int done)>& goes_on);
 
     // The states in the history, oldest first, without their flows; and one of them, with its flows.
     std::vector<GFPDB_HISTORY_ENTRY> find_history(const GFPDB_SELECTION& selection);

@@ -3,7 +3,7 @@
 // Records as files, for tools: reading, checking, planning an import, and writing. docs/gfpdb.md describes the formats.
 //
 // A file becomes records (gfpdb_read_records()), the records an import plan (GFPDB_IMPORT_PLAN), and the plan is stored
-// (GFPDB_DATABASE::import()). Texts are UTF-8. GUI thread only.
+// (GFPDB_DATABASE::import()). Texts are UTF-8. GUI thread only, unless something else is said.
 #pragma once
 
 #include "gfpdb/gfpdb_database.h"
@@ -12,6 +12,7 @@
 #include "gfpdb/gfpdb_record.h"
 
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -73,16 +74,21 @@ struct GFPDB_RECORD_FILE
 GFPDB_EXPORT GFPDB_RECORD_FILE gfpdb_read_records(const std::string& path, GFPDB_MGR& manager,
                                                   const GFPDB_READ_OPTIONS& options);
 
-// Reads a file as gfpdb_read_records() does, record by record: between two of them a program can do other things.
+// Reads a file as gfpdb_read_records() does, in two steps: its form as a whole, on any thread, then record by record,
+// between two of which a program can do other things.
 class GFPDB_EXPORT GFPDB_FILE_READER
 {
 public:
-    // Reads the bytes and looks at their form; `manager` must outlive this.
+    // Reads nothing yet; `manager` must outlive this.
     GFPDB_FILE_READER(const std::string& path, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options);
     ~GFPDB_FILE_READER();
     GFPDB_FILE_READER(const GFPDB_FILE_READER&) = delete;
     GFPDB_FILE_READER& operator=(const GFPDB_FILE_READER&) = delete;
 
+    // Reads the bytes and looks at their form: once, before the records. On any thread, as long as no other one uses
+    // this. `goes_on` hears now and then how many percent are done; where it returns false the reader is of no use any
+    // more.
+    void load(const std::function<bool(int percent)>& goes_on);
     // How many records there are, and how many of them are read.
     int total() const;
     int done() const;

@@ -58,7 +58,7 @@ public:
     std::vector<GFPDB_ROW> get_devices() override;
     std::vector<GFPDB_ROW> get_templates() override;
     bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                  const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen) override;
+                  const std::function<bool(int)>& goes_on, const GFPDB_SEEN_STATES* seen) override;
     std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name) override;
     GFPDB_HISTORY_PAGE get_history_page(const GFPDB_HISTORY_FILTER& filter, std::optional<std::int64_t> before,
                                         int count) override;
@@ -146,13 +146,13 @@ private:
     };
     bool can_keep(const GFPDB_ROW& row);
     bool can_keep(const std::vector<GFPDB_ROW>& rows);
-    bool store_rows(const ROWS_TO_STORE& rows, const std::function<void(int)>& progress, int& done);
+    bool store_rows(const ROWS_TO_STORE& rows, const std::function<bool(int)>& goes_on, int& done);
     bool clear_way(const ROWS_TO_STORE& rows, std::size_t begin, std::size_t end);
     bool check_way(const ROWS_TO_STORE& rows, std::size_t begin, std::size_t end, const ROWS& others,
                    const ROWS& former);
     bool refuse_changed(const PLACE& place, const std::string& seen, const GFPDB_FOUND& found);
     bool copy_rows(const ROWS_TO_STORE& rows, std::size_t begin, std::size_t end,
-                   const std::function<void(int)>& progress, int& done);
+                   const std::function<bool(int)>& goes_on, int& done);
 
     // gfpdb_server_store_upkeep.cpp: keeping the history small and the keys right.
     bool find_prunable(const GFPDB_PRUNING& pruning, std::vector<std::string>& ids);

@@ -42,7 +42,7 @@ std::string key_literals(bool is_template, const GFPDB_ROW& row)
 
 // The devices first: then a name that is used twice within what is saved is found by the templates.
 bool GFPDB_SERVER_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                                  const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen)
+                                  const std::function<bool(int)>& goes_on, const GFPDB_SEEN_STATES* seen)
 {
     if (!m_session.prepare_write() || !can_keep(devices) || !can_keep(templates))
         return false;
@@ -56,8 +56,8 @@ bool GFPDB_SERVER_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const s
     change.proof = first.revision.empty() ? std::string() : proof_of_revision(place, first.revision);
     change.work = [&](std::string&) {
         int done = 0;
-        return store_rows({false, devices, seen != nullptr ? &seen->devices : nullptr}, progress, done) &&
-               store_rows({true, templates, seen != nullptr ? &seen->templates : nullptr}, progress, done);
+        return store_rows({false, devices, seen != nullptr ? &seen->devices : nullptr}, goes_on, done) &&
+               store_rows({true, templates, seen != nullptr ? &seen->templates : nullptr}, goes_on, done);
     };
     RESULTS results;
     return m_session.change(change, results);
@@ -73,7 +73,7 @@ bool GFPDB_SERVER_STORE::can_keep(const std::vector<GFPDB_ROW>& rows)
 }
 
 // A name that is there twice makes two states of one record: one after the other.
-bool GFPDB_SERVER_STORE::store_rows(const ROWS_TO_STORE& rows, const std::function<void(int)>& progress, int& done)
+bool GFPDB_SERVER_STORE::store_rows(const ROWS_TO_STORE& rows, const std::function<bool(int)>& goes_on, int& done)
 {
     std::size_t begin = 0;
     while (begin < rows.rows.size()) {
@@ -82,7 +82,7 @@ bool GFPDB_SERVER_STORE::store_rows(const ROWS_TO_STORE& rows, const std::functi
         while (end < rows.rows.size() && end - begin < RECORDS_AT_ONCE &&
                keys.insert(key_text(rows.is_template, rows.rows[end])).second)
             ++end;
-        if (!clear_way(rows, begin, end) || !copy_rows(rows, begin, end, progress, done))
+        if (!clear_way(rows, begin, end) || !copy_rows(rows, begin, end, goes_on, done))
             return false;
         begin = end;
     }
@@ -154,7 +154,7 @@ bool GFPDB_SERVER_STORE::refuse_changed(const PLACE& place, const std::string& s
 }
 
 bool GFPDB_SERVER_STORE::copy_rows(const ROWS_TO_STORE& rows, std::size_t begin, std::size_t end,
-                                   const std::function<void(int)>& progress, int& done)
+                                   const std::function<bool(int)>& goes_on, int& done)
 {
     RESULTS found;
     if (!m_session.look_up("SELECT " + here(), found))
@@ -167,9 +167,11 @@ bool GFPDB_SERVER_STORE::copy_rows(const ROWS_TO_STORE& rows, std::size_t begin,
     for (std::size_t i = begin; i < end; ++i) {
         const GFPDB_ROW& row = rows.rows[i];
         add_copy_line(lines, gfpdb_name_key(rows.is_template ? row.template_name : row.name), row, saved_by);
-        ++done;
-        if (progress)
-            progress(done);
+        if (!goes_on(++done)) {
+            m_session.fail(gfpdb_import_cancelled());
+            m_session.abandon();
+            return false;
+        }
         if (lines.size() < COPY_AT_ONCE && i + 1 < end)
             continue;
         if (!m_session.copy_put(lines))

@@ -287,7 +287,7 @@ std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::get_templates()
 
 // The devices first: then a name that is used twice within what is saved is found by the templates.
 bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                                  const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen)
+                                  const std::function<bool(int)>& goes_on, const GFPDB_SEEN_STATES* seen)
 {
     forget_used_values();
     return m_file.prepare_write() && m_file.change([&] {
@@ -295,12 +295,14 @@ bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const s
         for (std::size_t i = 0; i < devices.size(); ++i) {
             if (!replace_device(devices[i], seen != nullptr ? &seen->devices[i] : nullptr))
                 return false;
-            progress(++done);
+            if (!goes_on(++done))
+                return fail(gfpdb_import_cancelled());
         }
         for (std::size_t i = 0; i < templates.size(); ++i) {
             if (!replace_template(templates[i], seen != nullptr ? &seen->templates[i] : nullptr))
                 return false;
-            progress(++done);
+            if (!goes_on(++done))
+                return fail(gfpdb_import_cancelled());
         }
         return true;
     });

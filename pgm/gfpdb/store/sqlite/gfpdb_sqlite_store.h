@@ -62,7 +62,7 @@ public:
     std::vector<GFPDB_ROW> get_devices() override;
     std::vector<GFPDB_ROW> get_templates() override;
     bool save_all(const std::vector<GFPDB_ROW>& devices, const std::vector<GFPDB_ROW>& templates,
-                  const std::function<void(int)>& progress, const GFPDB_SEEN_STATES* seen) override;
+                  const std::function<bool(int)>& goes_on, const GFPDB_SEEN_STATES* seen) override;
     std::vector<GFPDB_HISTORY_ENTRY> get_history(const std::string& name) override;
     GFPDB_HISTORY_PAGE get_history_page(const GFPDB_HISTORY_FILTER& filter, std::optional<std::int64_t> before,
                                         int count) override;

@@ -66,7 +66,7 @@ void store(GFPDB_DATABASE& database, const QString& file, const std::string& nam
         gfpdb_read_records(QFile::encodeName(file).toStdString(), database.get_manager(), GFPDB_READ_OPTIONS());
     GFPDB_IMPORT_PLAN plan(database, GFPDB_EXISTING::REFUSED, GFPDB_RECORD_RULES::IMPORTED);
     plan.add(records);
-    QVERIFY2(database.import(plan, [](int) {}) && plan.new_count() == 1,
+    QVERIFY2(database.import(plan, [](int) { return true; }) && plan.new_count() == 1,
              records.problems.empty() ? "" : records.problems.front().text.c_str());
 }
 
