@@ -106,6 +106,8 @@ protected:
     QStringList stored_names() const;
     QString stored(const QString& name, const char* column = "device_id") const;
     QStringList history() const;
+    // The first column of what a query of the file finds.
+    QStringList read_column(const QString& statement, const QVariantList& values = {}) const;
     // Runs one statement on the database file, as a foreign program.
     void run_foreign(const QString& statement) const;
     // Another program holds the database until unlock(): "IMMEDIATE" keeps others from writing, "EXCLUSIVE" from
@@ -146,7 +148,6 @@ private:
     void do_and_read(const QString& rest, const std::function<void()>& deed);
     QString seen_of(const QString& subject) const;
     void select_only(const QString& name);
-    QStringList read_column(const QString& statement, const QVariantList& values) const;
 
     // True when the database of each test function is on a server.
     virtual bool is_on_server() const { return tests_are_on_server(); }

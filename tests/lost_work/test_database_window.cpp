@@ -3,7 +3,11 @@
 // The window of the database: what is deleted there comes back, and nothing of somebody else's is lost.
 #include "database/database_window.h"
 #include "database/device_model.h"
+#include "fault_injector.h"
 #include "lost_work_test.h"
+#include "tcp_proxy.h"
+
+#include "gfpdb/gfpdb_database.h"
 
 #include <QAction>
 #include <QDropEvent>
@@ -12,6 +16,15 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
+
+#include <cerrno>
+
+namespace {
+
+// More than are done before a window could be read.
+constexpr int MANY = 60;
+
+} // namespace
 
 class TEST_DATABASE_WINDOW : public LOST_WORK_TEST
 {
@@ -82,6 +95,68 @@ private:
     }
     void check_box() { QVERIFY2(m_modals.last().text.contains(m_expected), qPrintable(m_modals.last().text)); }
 
+    // The devices with what is in them.
+    QStringList content() const
+    {
+        return read_column(qs("SELECT name || device_id || single_flows || quad_flows FROM device ORDER BY name_key"));
+    }
+
+    QStringList store_many(int count = MANY)
+    {
+        QStringList names;
+        for (int number = 0; number < count; ++number) {
+            names.append(qs("N%1").arg(number));
+            store(names.last().toStdString());
+        }
+        m_window->refresh();
+        return names;
+    }
+
+    // From the history, what is not there.
+    void bring_back()
+    {
+        GFPDB_DATABASE database{std::string()};
+        const QStringList names = stored_names();
+        for (const GFPDB_HISTORY_ENTRY& state : database.find_history({})) {
+            if (!names.contains(QString::fromStdString(state.name())))
+                manager().restore_flash(state.id, directory(), GFPDB_RESTORE_KEEP, std::string());
+        }
+        m_window->refresh();
+    }
+
+    // The window that shows how far many devices are: it is let be, or its button is clicked.
+    void expect_progress(bool is_cancelled)
+    {
+        m_modals.expect([is_cancelled](QWidget* window) {
+            if (is_cancelled)
+                window->findChild<QAbstractButton*>()->click();
+            else
+                window->hide();
+        });
+    }
+
+    // The database is not there for the window until come_back(): its server is gone, or another program has it.
+    void go_away()
+    {
+        if (server() == nullptr) {
+            lock(qs("EXCLUSIVE"));
+            return;
+        }
+        m_proxy = std::make_unique<TCP_PROXY>(POSTGRES_SERVER::of_program().port());
+        server()->go_through(m_proxy->port());
+        m_window->refresh();
+        QVERIFY(m_proxy->connections() > 0);
+        m_proxy->refuse();
+    }
+    void come_back()
+    {
+        if (server() == nullptr)
+            unlock();
+        else
+            m_proxy->refuse(false);
+    }
+
+    std::unique_ptr<TCP_PROXY> m_proxy;
     std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<DATABASE_WINDOW> m_window;
     QString m_expected;
@@ -94,6 +169,7 @@ private:
     }
     void take_down() override
     {
+        FAULT_INJECTOR::stop();
         m_window.reset();
         m_settings.reset();
     }
@@ -261,14 +337,16 @@ private slots:
     // Who is about to press Delete has seen another one.
     void what_someone_else_deletes_selects_nothing_in_its_place()
     {
+        // Built-in devices cannot be deleted: the next one is not to be one of them.
+        store("A next");
+        m_window->refresh();
         select({qs("A")});
-        const QString next = devices().model()->index(row_of(qs("A")) + 1, 0).data().toString();
         run_foreign(qs("DELETE FROM device WHERE name = 'A'"));
         m_window->refresh();
-        QCOMPARE(devices().currentIndex().data().toString(), next);
+        QCOMPARE(devices().currentIndex().data().toString(), qs("A next"));
         QVERIFY(!m_window->findChild<QAction*>(qs("m_delete_action"))->isEnabled());
         press(Qt::Key_Delete);
-        QCOMPARE(stored_names(), (QStringList{qs("B"), qs("C")}));
+        QCOMPARE(stored_names(), (QStringList{qs("A next"), qs("B"), qs("C")}));
     }
 
     // A table without the own devices would look as if they were lost.
@@ -294,12 +372,7 @@ private slots:
 
     void many_problems_fit_on_a_screen()
     {
-        QStringList names;
-        for (int number = 0; number < 30; ++number) {
-            names.append(qs("N%1").arg(number));
-            store(names.last().toStdString());
-        }
-        m_window->refresh();
+        const QStringList names = store_many(30);
         select(names);
         run_foreign(qs("UPDATE device SET revision = 'other'"));
         expect_box(qs("The device \"N0\" was changed by "));
@@ -307,6 +380,113 @@ private slots:
         check_box();
         QCOMPARE(m_modals.last().text.count(QLatin1Char('\n')), 10);
         QVERIFY(m_modals.last().text.endsWith(qs("\n...")));
+    }
+
+    void many_are_one_act_data()
+    {
+        rows<bool, bool>(
+            {{"to the end", false, false}, {"the delete cancelled", true, false}, {"the undo cancelled", false, true}});
+    }
+
+    void many_are_one_act()
+    {
+        const auto [is_delete_cancelled, is_undo_cancelled] = row<bool, bool>();
+        const QStringList names = store_many();
+        const QStringList before = content();
+        expect_progress(is_delete_cancelled);
+        press_delete(names);
+        QCOMPARE(m_modals.last().class_name, qs("QProgressDialog"));
+        const int deleted = before.size() - stored_names().size();
+        QVERIFY(is_delete_cancelled ? deleted > 0 && deleted < MANY : deleted == MANY);
+        const QString of_many = is_delete_cancelled ? qs(" of %1").arg(MANY) : QString();
+        QCOMPARE(message(), qs("Devices deleted: %1%2. Ctrl+Z brings them back.").arg(deleted).arg(of_many));
+
+        if (!is_delete_cancelled)
+            expect_progress(is_undo_cancelled);
+        press_undo();
+        if (is_undo_cancelled) {
+            const int missing = before.size() - stored_names().size();
+            QVERIFY(missing > 0 && missing < MANY);
+            QCOMPARE(message(), qs("Devices brought back: %1 of %2. Ctrl+Z goes on.").arg(MANY - missing).arg(MANY));
+            QCOMPARE(undo().text(), qs("&Undo (Delete, devices: %1)").arg(missing));
+            if (missing > 50)
+                expect_progress(false);
+            press_undo();
+        }
+        QCOMPARE(content(), before);
+        QVERIFY(!undo().isEnabled());
+    }
+
+    void a_database_that_is_not_there_loses_nothing()
+    {
+        const QStringList before = content();
+        press_delete({qs("A"), qs("B")});
+        select({qs("C")});
+        go_away();
+        expect_box(QString());
+        press_delete({qs("C")});
+        expect_box(QString());
+        press_undo();
+        come_back();
+        m_window->refresh();
+        press_undo();
+        QCOMPARE(content(), before);
+    }
+
+    void a_fault_loses_nothing_data()
+    {
+        rows<int, int>({{"a full disk", int(FAULT_CALL::WRITE), ENOSPC},
+                        {"a dying disk", int(FAULT_CALL::SYNC), EIO},
+                        {"a share without locks", int(FAULT_CALL::LOCK), ENOLCK},
+                        {"a disk that cannot be read", int(FAULT_CALL::READ), EIO}});
+    }
+
+    // At the first places, and at some of those that follow, in the delete and in the undo.
+    void a_fault_loses_nothing()
+    {
+        const auto [call, error] = row<int, int>();
+        const QStringList before = content();
+        for (int at = 1, boxes = 1; boxes > 0; at += 1 + at / 5) {
+            boxes = 0;
+            for (const bool is_undo : {false, true}) {
+                if (is_undo)
+                    press_delete({qs("A"), qs("B")});
+                else
+                    select({qs("A"), qs("B")});
+                const QStringList at_first = content();
+                m_modals.expect(MODAL_DRIVER::accept());
+                FAULT_INJECTOR::inject(directory(), {FAULT_CALL(call), at, error, true});
+                press(is_undo ? Qt::Key_Z : Qt::Key_Delete, is_undo ? Qt::ControlModifier : Qt::NoModifier);
+                FAULT_INJECTOR::stop();
+                const QString box = m_modals.met().isEmpty() ? QString() : m_modals.last().text;
+                boxes += m_modals.met().size();
+                m_modals.reset();
+                m_window->refresh();
+                const bool is_known = !box.contains(qs("Whether the change was stored"));
+                QVERIFY(!is_known || message().isEmpty() == (content() == at_first));
+                QVERIFY(!is_known || undo().isEnabled() == (content() != before));
+                if (undo().isEnabled())
+                    press_undo();
+                if (!is_known)
+                    bring_back();
+                QCOMPARE(content(), before);
+            }
+        }
+    }
+
+    // Nobody waits for each of many devices to hear the same.
+    void what_is_wrong_for_all_is_not_tried_with_each()
+    {
+        const QStringList names = store_many(40);
+        select(names);
+        expect_box(qs("locked"));
+        FAULT_INJECTOR::inject(directory(), {FAULT_CALL::LOCK, 1, ENOLCK, true});
+        press(Qt::Key_Delete);
+        FAULT_INJECTOR::stop();
+        check_box();
+        QVERIFY2(FAULT_INJECTOR::count(FAULT_CALL::LOCK) < names.size(),
+                 qPrintable(QString::number(FAULT_INJECTOR::count(FAULT_CALL::LOCK))));
+        QCOMPARE(m_modals.last().text.count(QLatin1Char('\n')), 0);
     }
 
     void a_database_that_is_locked_loses_nothing()

@@ -5,6 +5,7 @@
 #include "database/compare_dialog.h"
 #include "database/database_menus.h"
 #include "database/device_page.h"
+#include "database/device_progress.h"
 #include "database/dropped_files.h"
 #include "database/export_dialog.h"
 #include "database/few_lines.h"
@@ -330,12 +331,20 @@ void DATABASE_WINDOW::show_stored(const HOST_CHOICE& choice)
 
 void DATABASE_WINDOW::delete_selected()
 {
+    const std::vector<GFPDB_RECORD> devices = m_device_page->selected();
+    const int count = static_cast<int>(devices.size());
     QStringList problems;
-    const QStringList deleted = m_removed.remove(m_device_page->selected(), problems);
+    statusBar()->clearMessage();
+    DEVICE_PROGRESS progress(this, tr("Devices are being deleted."), count);
+    const auto goes_on = [&progress](int done) { return progress.goes_on(done); };
+    const QStringList deleted = m_removed.remove(devices, goes_on, problems);
+    progress.end();
     refresh();
     if (!deleted.isEmpty())
         m_device_page->select_current();
-    if (deleted.size() == 1)
+    if (progress.is_cancelled())
+        show_message(tr("Devices deleted: %1 of %2. Ctrl+Z brings them back.").arg(deleted.size()).arg(count));
+    else if (deleted.size() == 1)
         show_message(tr("The device \"%1\" is deleted. Ctrl+Z brings it back.").arg(deleted.first()));
     else if (deleted.size() > 1)
         show_message(tr("Devices deleted: %1. Ctrl+Z brings them back.").arg(deleted.size()));
@@ -344,12 +353,19 @@ void DATABASE_WINDOW::delete_selected()
 
 void DATABASE_WINDOW::undo()
 {
+    const int count = m_removed.last().size();
     QStringList problems;
-    const std::vector<GFPDB_RECORD> restored = m_removed.undo(problems);
+    statusBar()->clearMessage();
+    DEVICE_PROGRESS progress(this, tr("Devices are being brought back."), count);
+    const auto goes_on = [&progress](int done) { return progress.goes_on(done); };
+    const std::vector<GFPDB_RECORD> restored = m_removed.undo(goes_on, problems);
+    progress.end();
     refresh();
     if (!restored.empty())
         m_device_page->choose(restored.front());
-    if (restored.size() == 1)
+    if (progress.is_cancelled())
+        show_message(tr("Devices brought back: %1 of %2. Ctrl+Z goes on.").arg(restored.size()).arg(count));
+    else if (restored.size() == 1)
         show_message(tr("The device \"%1\" is back.").arg(QString::fromStdString(restored.front().row.name)));
     else if (restored.size() > 1)
         show_message(tr("Devices brought back: %1").arg(restored.size()));

@@ -12,13 +12,24 @@ QString name_of(const GFPDB_RECORD& device)
     return QString::fromStdString(device.row.name);
 }
 
+// A reason that does not name a device, and came twice, is one for all that follow: a full disk, a server that is gone.
+bool is_for_all(const QStringList& problems)
+{
+    const int count = problems.size();
+    return count > 1 && problems[count - 1] == problems[count - 2];
+}
+
 } // namespace
 
-QStringList REMOVED_DEVICES::remove(const std::vector<GFPDB_RECORD>& devices, QStringList& problems)
+QStringList REMOVED_DEVICES::remove(const std::vector<GFPDB_RECORD>& devices, const GOES_ON& goes_on,
+                                    QStringList& problems)
 {
     STEP step;
     QStringList names;
     for (const GFPDB_RECORD& device : devices) {
+        const int done = static_cast<int>(&device - devices.data());
+        if (!goes_on(done) || is_for_all(problems))
+            break;
         const std::optional<std::int64_t> state = m_database.remove(device);
         if (!state)
             problems.append(QString::fromStdString(m_database.get_last_error()));
@@ -27,6 +38,7 @@ QStringList REMOVED_DEVICES::remove(const std::vector<GFPDB_RECORD>& devices, QS
         else
             step.push_back({*state, device});
     }
+    problems.removeDuplicates();
     for (const REMOVED& removed : step)
         names.append(name_of(removed.device));
     if (!step.empty())
@@ -51,7 +63,7 @@ bool REMOVED_DEVICES::is_gone(const REMOVED& removed) const
     return state ? state->row.revision != removed.device.row.revision : m_database.get_last_error().empty();
 }
 
-std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(QStringList& problems)
+std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(const GOES_ON& goes_on, QStringList& problems)
 {
     std::vector<GFPDB_RECORD> restored;
     if (!can_undo())
@@ -59,9 +71,14 @@ std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(QStringList& problems)
     const STEP step = std::exchange(m_steps.back(), STEP());
     m_steps.pop_back();
     STEP left;
+    bool is_ended = false;
     for (const REMOVED& removed : step) {
         GFPDB_MGR& manager = m_database.get_manager();
-        if (is_gone(removed)) {
+        const int done = static_cast<int>(&removed - step.data());
+        is_ended = is_ended || !goes_on(done) || is_for_all(problems);
+        if (is_ended) {
+            left.push_back(removed);
+        } else if (is_gone(removed)) {
             problems.append(tr("The history does not have the device \"%1\" any more.").arg(name_of(removed.device)));
         } else if (manager.restore_flash(removed.state, std::string(), GFPDB_RESTORE_KEEP, std::string())) {
             restored.push_back(removed.device);
@@ -70,6 +87,7 @@ std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(QStringList& problems)
             left.push_back(removed);
         }
     }
+    problems.removeDuplicates();
     if (!left.empty())
         m_steps.push_back(std::move(left));
     return restored;

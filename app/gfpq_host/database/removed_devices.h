@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 class GFPDB_DATABASE;
@@ -20,19 +21,23 @@ class REMOVED_DEVICES
     Q_DECLARE_TR_FUNCTIONS(REMOVED_DEVICES)
 
 public:
+    // Hears how many devices are done, and says whether to go on.
+    using GOES_ON = std::function<bool(int done)>;
+
     // Not owned, must outlive this.
     explicit REMOVED_DEVICES(GFPDB_DATABASE& database) : m_database(database) {}
 
     // Deletes these very states of stored devices, each for itself; the names of those that are deleted now. `problems`
-    // has a sentence for each of the others: somebody else has changed or deleted it, or the database refuses.
-    QStringList remove(const std::vector<GFPDB_RECORD>& devices, QStringList& problems);
+    // has a sentence for each of the others: somebody else has changed or deleted it, or the database refuses. What
+    // would be refused for the same reason as the one before is not tried.
+    QStringList remove(const std::vector<GFPDB_RECORD>& devices, const GOES_ON& goes_on, QStringList& problems);
 
     bool can_undo() const { return !m_steps.empty(); }
     // The names of what was deleted together last.
     QStringList last() const;
     // Brings back what was deleted together last: the devices as they are now. Those that cannot be brought back stay
-    // to be tried again, unless the history does not have them any more; `problems` says why.
-    std::vector<GFPDB_RECORD> undo(QStringList& problems);
+    // to be tried again, unless the history does not have them any more; `problems` says why, as above.
+    std::vector<GFPDB_RECORD> undo(const GOES_ON& goes_on, QStringList& problems);
     // The directory is another one.
     void forget() { m_steps.clear(); }
 
