@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>Der Baustein %1 wird gerade von einem anderen Programm geändert: Versuchen Sie es noch einmal.</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>Der Import wurde abgebrochen.</translation>
+    </message>
 </context>
 </TS>

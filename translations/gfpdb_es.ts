@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>Otro programa está modificando el dispositivo %1: vuelva a intentarlo.</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>La importación se canceló.</translation>
+    </message>
 </context>
 </TS>

@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>Le composant %1 est en cours de modification par un autre programme&#xa0;: réessayez.</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>L’importation a été annulée.</translation>
+    </message>
 </context>
 </TS>

@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>Un altro programma sta modificando il dispositivo %1: riprovare.</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>L’importazione è stata annullata.</translation>
+    </message>
 </context>
 </TS>

@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>デバイス %1 は別のプログラムが変更中です: もう一度試してください。</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>インポートはキャンセルされました。</translation>
+    </message>
 </context>
 </TS>

@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>다른 프로그램이 디바이스 %1을(를) 변경하고 있습니다: 다시 시도하십시오.</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>가져오기가 취소되었습니다.</translation>
+    </message>
 </context>
 </TS>

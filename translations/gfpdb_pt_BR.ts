@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>O dispositivo %1 está sendo alterado por outro programa: tente de novo.</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>A importação foi cancelada.</translation>
+    </message>
 </context>
 </TS>

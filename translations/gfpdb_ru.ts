@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>Микросхему %1 сейчас меняет другая программа: повторите попытку.</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>Импорт отменён.</translation>
+    </message>
 </context>
 </TS>

@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>器件 %1 正被其他程序更改：请重试。</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>导入已取消。</translation>
+    </message>
 </context>
 </TS>

@@ -1466,5 +1466,9 @@
         <source>The device %1 is being changed by another program: try again.</source>
         <translation>元件 %1 正被其他程式變更：請重試。</translation>
     </message>
+    <message>
+        <source>The import was cancelled.</source>
+        <translation>匯入已取消。</translation>
+    </message>
 </context>
 </TS>

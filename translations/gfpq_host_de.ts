@@ -168,10 +168,6 @@
         <translation>I&amp;nhalt aufbewahren in:</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>Rec&amp;hner:</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>Port:</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>Der Takt ist keine Zahl in Hertz.</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>&amp;Zielrechner:</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>Bausteine werden gelöscht.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>Gelöschte Bausteine: %1 von %2. Strg+Z bringt sie zurück.</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>Bausteine werden zurückgeholt.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>Zurückgeholte Bausteine: %1 von %2. Strg+Z macht weiter.</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Konfigurationsbaustein...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ Die Vorschau wurde neu erstellt.</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>Nichts wurde importiert: Sie haben es abgebrochen.</translation>
     </message>
 </context>
 <context>

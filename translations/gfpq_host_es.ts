@@ -168,10 +168,6 @@
         <translation>G&amp;uardar contenido en:</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>&amp;Host:</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>Puerto:</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>El reloj no es un número de hercios.</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>&amp;Host:</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>Registros</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>Se están eliminando los dispositivos.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>Dispositivos eliminados: %1 de %2. Ctrl+Z los recupera.</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>Se están recuperando los dispositivos.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>Dispositivos recuperados: %1 de %2. Ctrl+Z continúa.</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Dispositivo de configuración...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ La vista previa se hizo de nuevo.</translation>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>No se importó nada: usted lo canceló.</translation>
     </message>
 </context>
 <context>

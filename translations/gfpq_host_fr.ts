@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Co&amp;nnection:</source>
-        <translation>Co&amp;nnexion&#xa0;:</translation>
+        <translation>Conne&amp;xion&#xa0;:</translation>
     </message>
     <message>
         <source>none: in memory</source>
@@ -166,10 +166,6 @@
     <message>
         <source>&amp;Keep contents in:</source>
         <translation>Ga&amp;rder le contenu dans&#xa0;:</translation>
-    </message>
-    <message>
-        <source>&amp;Host:</source>
-        <translation>&amp;Hôte&#xa0;:</translation>
     </message>
     <message>
         <source>Port:</source>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>L’horloge n’est pas un nombre de hertz.</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>&amp;Hôte&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -374,6 +374,22 @@
         <source>Records</source>
         <translation>Enregistrements</translation>
     </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>Suppression des composants en cours.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>Composants supprimés&#xa0;: %1 sur %2. Ctrl+Z les rétablit.</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>Rétablissement des composants en cours.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>Composants rétablis&#xa0;: %1 sur %2. Ctrl+Z continue.</translation>
+    </message>
 </context>
 <context>
     <name>DATA_PAGE</name>
@@ -535,7 +551,7 @@
     </message>
     <message>
         <source>Device &amp;family:</source>
-        <translation>F&amp;amille de composants&#xa0;:</translation>
+        <translation>Famille de composa&amp;nts&#xa0;:</translation>
     </message>
     <message>
         <source>Configuration &amp;mode:</source>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Composant de configuration...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ L’aperçu a été refait.</translation>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>Rien n’a été importé&#xa0;: vous l’avez annulé.</translation>
     </message>
 </context>
 <context>

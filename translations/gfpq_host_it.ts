@@ -168,10 +168,6 @@
         <translation>C&amp;onserva contenuto in:</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>&amp;Host:</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>Porta:</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>Il clock non è un numero di hertz.</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>&amp;Host:</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>Record</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>Eliminazione dei dispositivi in corso.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>Dispositivi eliminati: %1 di %2. Ctrl+Z li ripristina.</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>Ripristino dei dispositivi in corso.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>Dispositivi ripristinati: %1 di %2. Ctrl+Z continua.</translation>
     </message>
 </context>
 <context>
@@ -547,11 +563,18 @@
     </message>
     <message>
         <source>Database di&amp;rectory:</source>
-        <translation>Car&amp;tella del database:</translation>
+        <translation>Cartella del data&amp;base:</translation>
     </message>
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Dispositivo di configurazione...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -676,7 +699,7 @@
     </message>
     <message>
         <source>File &amp;begins at:</source>
-        <translation>Il file inizi&amp;a da:</translation>
+        <translation>Il file i&amp;nizia da:</translation>
     </message>
     <message>
         <source>The file is being read.</source>
@@ -1004,6 +1027,10 @@ L’anteprima è stata rifatta.</translation>
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>Non è stato importato nulla: l’operazione è stata annullata.</translation>
+    </message>
 </context>
 <context>
     <name>IMPORT_MODEL</name>
@@ -1172,7 +1199,7 @@ L’anteprima è stata rifatta.</translation>
     </message>
     <message>
         <source>Ran&amp;ge:</source>
-        <translation>I&amp;ntervallo:</translation>
+        <translation>In&amp;tervallo:</translation>
     </message>
     <message>
         <source>&amp;Address:</source>

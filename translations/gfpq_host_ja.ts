@@ -168,10 +168,6 @@
         <translation>内容の保存先(&amp;K):</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>ホスト(&amp;H):</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>ポート:</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>クロックが Hz 単位の数値ではありません。</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>ホスト(&amp;O):</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>レコード</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>デバイスを削除しています。</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>削除したデバイス: %1/%2。Ctrl+Z で元に戻せます。</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>デバイスを元に戻しています。</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>元に戻したデバイス: %1/%2。Ctrl+Z で続行します。</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>コンフィギュレーションデバイス(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ The preview was made again.</source>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>何もインポートされませんでした: キャンセルされました。</translation>
     </message>
 </context>
 <context>

@@ -168,10 +168,6 @@
         <translation>내용 보관 위치(&amp;K):</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>호스트(&amp;H):</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>포트:</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>클럭이 Hz 단위의 숫자가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>호스트(&amp;O):</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>레코드</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>디바이스를 삭제하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>삭제한 디바이스: %1/%2. Ctrl+Z로 되돌릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>디바이스를 되돌리고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>되돌린 디바이스: %1/%2. Ctrl+Z로 계속합니다.</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>구성 디바이스(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ The preview was made again.</source>
     <message>
         <source>Close</source>
         <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>아무것도 가져오지 않았습니다: 취소했습니다.</translation>
     </message>
 </context>
 <context>

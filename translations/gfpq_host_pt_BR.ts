@@ -168,10 +168,6 @@
         <translation>G&amp;uardar conteúdo em:</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>&amp;Host:</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>Porta:</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>O clock não é um número de hertz.</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>&amp;Host:</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>Registros</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>Os dispositivos estão sendo excluídos.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>Dispositivos excluídos: %1 de %2. Ctrl+Z os traz de volta.</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>Os dispositivos estão sendo trazidos de volta.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>Dispositivos trazidos de volta: %1 de %2. Ctrl+Z continua.</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Dispositivo de configuração...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ A visualização foi refeita.</translation>
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>Nada foi importado: você cancelou.</translation>
     </message>
 </context>
 <context>

@@ -168,10 +168,6 @@
         <translation>&amp;Хранить содержимое в:</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>Уз&amp;ел:</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>Порт:</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>Частота — не число герц.</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>Уз&amp;ел:</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>Записи</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>Микросхемы удаляются.</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>Удалено микросхем: %1 из %2. Ctrl+Z вернёт их.</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>Микросхемы возвращаются.</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>Возвращено микросхем: %1 из %2. Ctrl+Z продолжит.</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>&amp;Конфигурационное ПЗУ...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ The preview was made again.</source>
     <message>
         <source>Close</source>
         <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>Ничего не импортировано: вы отменили импорт.</translation>
     </message>
 </context>
 <context>
@@ -1466,7 +1493,7 @@ The preview was made again.</source>
     </message>
     <message>
         <source>Tr&amp;y the Flow</source>
-        <translation>И&amp;спытать алгоритм</translation>
+        <translation>Исп&amp;ытать алгоритм</translation>
     </message>
     <message>
         <source>Erases, programs and verifies an emulated chip. No hardware is needed or used.</source>

@@ -168,10 +168,6 @@
         <translation>内容保存于(&amp;K)：</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>主机(&amp;H)：</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>端口：</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>时钟不是以 Hz 为单位的数字。</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>主机(&amp;O)：</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>记录</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>正在删除器件。</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>已删除器件：%1/%2。按 Ctrl+Z 可恢复。</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>正在恢复器件。</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>已恢复器件：%1/%2。按 Ctrl+Z 继续。</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>配置器件(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ The preview was made again.</source>
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>未导入任何内容：您已取消导入。</translation>
     </message>
 </context>
 <context>

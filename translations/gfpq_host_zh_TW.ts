@@ -168,10 +168,6 @@
         <translation>內容保存於(&amp;K)：</translation>
     </message>
     <message>
-        <source>&amp;Host:</source>
-        <translation>主機(&amp;H)：</translation>
-    </message>
-    <message>
         <source>Port:</source>
         <translation>連接埠：</translation>
     </message>
@@ -202,6 +198,10 @@
     <message>
         <source>The clock is not a number of hertz.</source>
         <translation>時脈不是以 Hz 為單位的數字。</translation>
+    </message>
+    <message>
+        <source>H&amp;ost:</source>
+        <translation>主機(&amp;O)：</translation>
     </message>
 </context>
 <context>
@@ -373,6 +373,22 @@
     <message>
         <source>Records</source>
         <translation>記錄</translation>
+    </message>
+    <message>
+        <source>Devices are being deleted.</source>
+        <translation>正在刪除元件。</translation>
+    </message>
+    <message>
+        <source>Devices deleted: %1 of %2. Ctrl+Z brings them back.</source>
+        <translation>已刪除元件：%1/%2。按 Ctrl+Z 可還原。</translation>
+    </message>
+    <message>
+        <source>Devices are being brought back.</source>
+        <translation>正在還原元件。</translation>
+    </message>
+    <message>
+        <source>Devices brought back: %1 of %2. Ctrl+Z goes on.</source>
+        <translation>已還原元件：%1/%2。按 Ctrl+Z 繼續。</translation>
     </message>
 </context>
 <context>
@@ -552,6 +568,13 @@
     <message>
         <source>&amp;Configuration Device...</source>
         <translation>組態元件(&amp;C)...</translation>
+    </message>
+</context>
+<context>
+    <name>DEVICE_PROGRESS</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1026,10 @@ The preview was made again.</source>
     <message>
         <source>Close</source>
         <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: you have cancelled it.</source>
+        <translation>未匯入任何內容：您已取消匯入。</translation>
     </message>
 </context>
 <context>
