@@ -289,9 +289,7 @@ void IMPORT_DIALOG::compare()
 void IMPORT_DIALOG::store()
 {
     const GFPDB_IMPORT_PLAN& plan = m_preview.plan();
-    const auto total = static_cast<long long>(plan.devices().size() + plan.templates().size());
-    // A key that is held would press the button that gets the focus of this one.
-    m_table->setFocus();
+    const auto total = static_cast<int>(plan.devices().size() + plan.templates().size());
     m_is_storing = true;
     m_is_cancelled = false;
     show_busy(true);
