@@ -43,9 +43,8 @@ std::string hint_for(const CLI_CALL& call, const std::string& name, const CLI_PL
 }
 
 // The devices alone when there are some: they come before templates of that name.
-std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& selection)
+std::vector<GFPDB_RECORD> devices_first(const std::vector<GFPDB_RECORD>& stored)
 {
-    std::vector<GFPDB_RECORD> stored = call.database.find_stored(selection);
     std::vector<GFPDB_RECORD> devices;
     for (const GFPDB_RECORD& record : stored) {
         if (!record.is_template)
@@ -54,13 +53,25 @@ std::vector<GFPDB_RECORD> find_all(const CLI_CALL& call, const GFPDB_SELECTION& 
     return devices.empty() ? stored : devices;
 }
 
+std::optional<GFPDB_RECORD> load_stored(const CLI_CALL& call, const GFPDB_RECORD& stored,
+                                        const GFPDB_SELECTION& selection, int& exit_code)
+{
+    std::optional<GFPDB_RECORD> record = call.database.load(stored);
+    const std::string error = call.database.get_last_error();
+    if (!record && error.empty() && !call.database.find_misplaced(selection).empty())
+        exit_code = call.database_failed(gfpdb_title(stored) + ": " + CLI_MISPLACED);
+    else if (!record)
+        exit_code = call.database_failed(error);
+    return record;
+}
+
 std::optional<GFPDB_RECORD> find_state(const CLI_CALL& call, const std::string& number, int& exit_code)
 {
     const std::optional<std::int64_t> id = cli_history_id(number);
     const std::optional<GFPDB_HISTORY_ENTRY> entry = id ? call.database.load_state(*id) : std::nullopt;
     if (entry)
         return GFPDB_RECORD{entry->is_template, entry->row, 0};
-    const std::string problem = call.database.get_read_problem();
+    const std::string problem = id ? call.database.get_last_error() : call.database.get_read_problem();
     exit_code = problem.empty() ? int(CLI_EXIT_NOT_FOUND) : call.database_failed(problem);
     if (problem.empty())
         call.output.error("There is no state " + gfpdb_quoted(number) + " in the history of " +
@@ -75,35 +86,42 @@ GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name, con
     return {name, call.family(options.family), call.scheme(options.scheme)};
 }
 
+std::optional<std::vector<GFPDB_RECORD>> cli_find_stored(const CLI_CALL& call, const GFPDB_SELECTION& selection,
+                                                         int& exit_code)
+{
+    std::vector<GFPDB_RECORD> stored = call.database.find_stored(selection);
+    const std::string& problem = call.database.get_last_error();
+    if (problem.empty())
+        return stored;
+    exit_code = call.database_failed(problem);
+    return std::nullopt;
+}
+
+// What a read has failed to find could be the record. A database that nobody can open is another matter: then a
+// built-in device is what is there.
 std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code,
                                          const CLI_PLACE_OPTIONS& options)
 {
     const GFPDB_SELECTION selection = cli_selection(call, name, options);
-    const std::vector<GFPDB_RECORD> stored = find_all(call, selection);
     const std::vector<GFPDB_RECORD> builtin = call.database.find_builtin(selection);
+    if (!builtin.empty() && !call.database.get_read_problem().empty())
+        return builtin.front();
+    const std::optional<std::vector<GFPDB_RECORD>> found = cli_find_stored(call, selection, exit_code);
+    if (!found)
+        return std::nullopt;
+    const std::vector<GFPDB_RECORD> stored = devices_first(*found);
     exit_code = CLI_EXIT_NOT_FOUND;
     if (stored.size() > 1) {
         call.output.error("There are several devices called " + gfpdb_quoted(name) +
                           ". Select one: " + places_of(stored, options) + ".");
         return std::nullopt;
     }
-    if (!stored.empty()) {
-        std::optional<GFPDB_RECORD> record = call.database.load(stored.front());
-        const std::string error = call.database.get_last_error();
-        if (!record && error.empty() && !call.database.find_misplaced(selection).empty())
-            exit_code = call.database_failed(gfpdb_title(stored.front()) + ": " + CLI_MISPLACED);
-        else if (!record)
-            exit_code = call.database_failed(error);
-        return record;
-    }
+    if (!stored.empty())
+        return load_stored(call, stored.front(), selection, exit_code);
     if (!builtin.empty())
         return builtin.front();
-    const std::string problem = call.database.get_read_problem();
-    if (!problem.empty())
-        exit_code = call.database_failed(problem);
-    else
-        call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.get_directory() +
-                          "." + hint_for(call, name, options));
+    call.output.error("There is no record called " + gfpdb_quoted(name) + " in " + call.database.get_directory() + "." +
+                      hint_for(call, name, options));
     return std::nullopt;
 }
 

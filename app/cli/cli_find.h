@@ -22,8 +22,14 @@ struct CLI_PLACE_OPTIONS
 // The selection of a call: `name`, and the call's options for family and scheme.
 GFPDB_SELECTION cli_selection(const CLI_CALL& call, const std::string& name, const CLI_PLACE_OPTIONS& options = {});
 
+// What GFPDB_DATABASE::find_stored() finds. None when it cannot be read, which is not to be taken for nothing: a
+// message was printed, and `exit_code` is set.
+std::optional<std::vector<GFPDB_RECORD>> cli_find_stored(const CLI_CALL& call, const GFPDB_SELECTION& selection,
+                                                         int& exit_code);
+
 // The one record called `name`, with its flows: a device of the directory, else a stored template, else a built-in
-// device. None: a message was printed, and `exit_code` says what went wrong.
+// device, which a directory that cannot be used at all does not keep from being found. None: a message was printed, and
+// `exit_code` says what went wrong.
 std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string& name, int& exit_code,
                                          const CLI_PLACE_OPTIONS& options = {});
 

@@ -134,7 +134,8 @@ std::optional<GFPROG_DETECTED> gfprog_detect(const CLI_CALL& call, GFPROG_TARGET
         if (is_of(record, call))
             detected.devices.push_back(record);
     }
-    const std::string read_problem = call.database.get_read_problem();
+    // The stored devices were read last.
+    const std::string& read_problem = call.database.get_last_error();
     if (read_problem.empty())
         return detected;
     exit_code = call.database_failed(read_problem);

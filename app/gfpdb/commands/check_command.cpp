@@ -76,6 +76,36 @@ std::string text(std::size_t count, const FINDINGS& found, std::size_t problems,
            (warnings == 0 ? "" : ", " + counted(warnings, "warning")) + '\n';
 }
 
+// What a read has failed to find is not checked: that counts as damage, unless some is known.
+void note_failure(const CLI_CALL& call, std::string& damage)
+{
+    if (damage.empty())
+        damage = call.database.get_last_error();
+}
+
+// Adds what is found in the records of the directory; their number.
+std::size_t check_records(const CLI_CALL& call, FINDINGS& found, CLI_LINT& lint, std::string& damage)
+{
+    const std::vector<GFPDB_RECORD> records = call.database.find_stored({});
+    note_failure(call, damage);
+    for (const GFPDB_RECORD& record : call.database.find_misplaced({}))
+        found.push_back({gfpdb_title(record), {0, "", CLI_MISPLACED}});
+    note_failure(call, damage);
+    int done = 0;
+    for (const GFPDB_RECORD& record : records) {
+        if (const std::optional<GFPDB_RECORD> loaded = call.database.load(record)) {
+            for (const GFPDB_FINDING& finding : gfpdb_check_record(call.database.get_manager(), *loaded))
+                found.push_back({gfpdb_title(record), finding});
+            lint.check(*loaded);
+        } else {
+            note_failure(call, damage);
+        }
+        call.output.progress("Checking", ++done, static_cast<int>(records.size()));
+    }
+    call.output.finish_progress();
+    return records.size();
+}
+
 std::string wrong_options(const CLI_CALL& call)
 {
     for (const char* option : {OPTION_REBUILD_KEYS, CLI_OPTION_LINT}) {
@@ -115,27 +145,15 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
         return call.database_failed(problem);
     if (call.has(OPTION_REBUILD_KEYS) && !call.database.rebuild_keys())
         return call.database_failed(call.database.get_last_error());
-    const std::string damage = call.database.check_integrity() ? std::string() : call.database.get_last_error();
+    std::string damage = call.database.check_integrity() ? std::string() : call.database.get_last_error();
     FINDINGS found;
     CLI_LINT lint(call);
-    const std::vector<GFPDB_RECORD> records = call.database.find_stored({});
-    for (const GFPDB_RECORD& record : call.database.find_misplaced({}))
-        found.push_back({gfpdb_title(record), {0, "", CLI_MISPLACED}});
-    int done = 0;
-    for (const GFPDB_RECORD& record : records) {
-        if (const std::optional<GFPDB_RECORD> loaded = call.database.load(record)) {
-            for (const GFPDB_FINDING& finding : gfpdb_check_record(call.database.get_manager(), *loaded))
-                found.push_back({gfpdb_title(record), finding});
-            lint.check(*loaded);
-        }
-        call.output.progress("Checking", ++done, static_cast<int>(records.size()));
-    }
-    call.output.finish_progress();
+    const std::size_t count = check_records(call, found, lint, damage);
     const auto warnings =
         std::stable_partition(found.begin(), found.end(), [](const FOUND& each) { return !each.is_warning(); });
     const auto problems = static_cast<std::size_t>(warnings - found.begin());
-    call.output.print(call.has(CLI_OPTION_JSON) ? json(call, records.size(), damage, found, lint)
-                                                : text(records.size(), found, problems, lint));
+    call.output.print(call.has(CLI_OPTION_JSON) ? json(call, count, damage, found, lint)
+                                                : text(count, found, problems, lint));
     if (!damage.empty())
         return call.database_failed(damage);
     return problems == 0 ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;

@@ -31,8 +31,11 @@ public:
     bool add(const std::string& operand)
     {
         const std::optional<std::string> state = cli_state_of(operand);
-        if (!state && has_wildcard(operand) && named(operand).empty())
-            return add_wildcard(operand);
+        if (!state && has_wildcard(operand)) {
+            const std::optional<bool> is_name = has_record(operand);
+            if (!is_name || !*is_name)
+                return is_name && add_wildcard(operand);
+        }
         const std::optional<GFPDB_RECORD> record = find(operand);
         if (record)
             add_once(*record, state ? cli_history_id(*state) : std::nullopt);
@@ -43,20 +46,22 @@ public:
     int exit_code() const { return m_exit_code; }
 
 private:
-    // A name may have a star or a question mark itself.
-    std::vector<GFPDB_RECORD> named(const std::string& name)
+    // A name may have a star or a question mark itself. None: as add().
+    std::optional<bool> has_record(const std::string& name)
     {
         const GFPDB_SELECTION selection = cli_selection(m_call, name);
-        const std::vector<GFPDB_RECORD> builtin = m_call.database.find_builtin(selection);
-        const std::vector<GFPDB_RECORD> stored = m_call.database.find_stored(selection);
-        return m_is_builtin || stored.empty() ? builtin : stored;
+        const bool is_builtin = !m_call.database.find_builtin(selection).empty();
+        if (m_is_builtin || is_builtin)
+            return is_builtin;
+        const std::optional<std::vector<GFPDB_RECORD>> stored = cli_find_stored(m_call, selection, m_exit_code);
+        return stored ? std::optional<bool>(!stored->empty()) : std::nullopt;
     }
 
     std::optional<GFPDB_RECORD> find(const std::string& operand)
     {
         if (!m_is_builtin || cli_state_of(operand))
             return cli_find_record(m_call, operand, m_exit_code);
-        const std::vector<GFPDB_RECORD> builtin = named(operand);
+        const std::vector<GFPDB_RECORD> builtin = m_call.database.find_builtin(cli_selection(m_call, operand));
         if (!builtin.empty())
             return builtin.front();
         fail("There is no built-in device called " + gfpdb_quoted(operand) + '.');
@@ -86,11 +91,12 @@ private:
             records.erase(std::remove_if(records.begin(), records.end(), is_out), records.end());
             return records;
         };
-        const std::vector<GFPDB_RECORD> found = matching(m_is_builtin ? m_call.database.find_builtin(m_selection)
-                                                                      : m_call.database.find_stored(m_selection));
-        const std::string& problem = m_call.database.get_last_error();
-        if (!m_is_builtin && !problem.empty())
-            return fail_to_read(problem);
+        const std::optional<std::vector<GFPDB_RECORD>> all = m_is_builtin
+                                                                 ? m_call.database.find_builtin(m_selection)
+                                                                 : cli_find_stored(m_call, m_selection, m_exit_code);
+        if (!all)
+            return false;
+        const std::vector<GFPDB_RECORD> found = matching(*all);
         m_matches += found.size();
         if (!m_is_builtin)
             return add_stored(found, matching(m_call.database.find_misplaced(m_selection)));
@@ -101,6 +107,8 @@ private:
 
     bool add_stored(const std::vector<GFPDB_RECORD>& found, const std::vector<GFPDB_RECORD>& misplaced)
     {
+        if (!m_call.database.get_last_error().empty())
+            return fail_to_read(m_call.database.get_last_error());
         for (const GFPDB_RECORD& record : misplaced)
             m_exit_code = m_call.database_failed(gfpdb_title(record) + ": " + CLI_MISPLACED);
         if (!misplaced.empty())
@@ -115,10 +123,7 @@ private:
             m_call.output.progress("Exporting", ++done, static_cast<int>(found.size()));
         }
         m_call.output.finish_progress();
-        const std::string problem = m_call.database.get_read_problem();
-        if (problem.empty() && m_call.database.get_last_error().empty())
-            return true;
-        return fail_to_read(problem.empty() ? m_call.database.get_last_error() : problem);
+        return true;
     }
 
     bool fail_to_read(const std::string& problem)

@@ -129,7 +129,7 @@ int CLI_HISTORY_COMMAND::run(const CLI_CALL& call) const
     if (call.has(OPTION_PRUNE))
         return prune(call, selection);
     const std::vector<GFPDB_HISTORY_ENTRY> entries = call.database.find_history(selection);
-    const std::string problem = call.database.get_read_problem();
+    const std::string& problem = call.database.get_last_error();
     if (!problem.empty())
         return call.database_failed(problem);
     call.output.print(call.has(CLI_OPTION_JSON) ? json(entries) : table(entries));

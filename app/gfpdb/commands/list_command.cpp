@@ -144,7 +144,8 @@ bool lists_builtin(const CLI_CALL& call)
            record_kind_of(call.value(OPTION_KIND)) == RECORD_KIND::BUILTIN;
 }
 
-std::vector<CLI_LISTED> find(const CLI_CALL& call, const RECORD_FILTER& filter)
+// `exit_code` is set when what is stored cannot be read; a message was printed then.
+std::vector<CLI_LISTED> find(const CLI_CALL& call, const RECORD_FILTER& filter, int& exit_code)
 {
     std::vector<FOUND> found;
     const GFPDB_SELECTION selection = cli_selection(call, std::string());
@@ -156,7 +157,7 @@ std::vector<CLI_LISTED> find(const CLI_CALL& call, const RECORD_FILTER& filter)
         }
     };
     if (lists_stored(call))
-        add(call.database.find_stored(selection), false);
+        add(cli_find_stored(call, selection, exit_code).value_or(std::vector<GFPDB_RECORD>()), false);
     if (lists_builtin(call))
         add(call.database.find_builtin(selection), true);
     if (const ORDER* const order = find_order(call.value(OPTION_SORT)))
@@ -232,16 +233,14 @@ int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
     std::string wrong;
     if (!set_rules(call, filter, wrong))
         return call.wrong_usage(wrong);
-    const std::vector<CLI_LISTED> records = find(call, filter);
+    int exit_code = CLI_EXIT_OK;
+    const std::vector<CLI_LISTED> records = find(call, filter, exit_code);
     const bool is_table = !call.has(CLI_OPTION_JSON) && !call.has(OPTION_NAMES) && !reader;
     call.output.print(call.has(CLI_OPTION_JSON) ? cli_records_json(records)
                       : call.has(OPTION_NAMES)  ? cli_record_names(records)
                       : reader                  ? csv(records, *reader)
                                                 : cli_records_table(records));
-    const std::string problem = lists_stored(call) ? call.database.get_read_problem() : std::string();
-    if (!problem.empty())
-        return call.database_failed(problem);
-    if (is_table && records.empty())
+    if (is_table && records.empty() && exit_code == CLI_EXIT_OK)
         print_hint(call, filter);
-    return CLI_EXIT_OK;
+    return exit_code;
 }

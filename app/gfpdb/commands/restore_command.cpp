@@ -38,10 +38,9 @@ int CLI_RESTORE_COMMAND::run(const CLI_CALL& call) const
         return call.wrong_usage(gfpdb_quoted(number) + " is not a number of the history.");
     if (call.has(OPTION_AS) && new_name.empty())
         return call.wrong_usage("--as is empty.");
-    const std::string problem = call.database.get_read_problem();
-    if (!problem.empty())
-        return call.database_failed(problem);
     const std::optional<GFPDB_HISTORY_ENTRY> entry = call.database.load_state(*id);
+    if (!entry && !call.database.get_last_error().empty())
+        return call.database_failed(call.database.get_last_error());
     if (!entry) {
         call.output.error("There is no state " + number + " in the history of " + call.database.get_directory() + ".");
         return CLI_EXIT_NOT_FOUND;

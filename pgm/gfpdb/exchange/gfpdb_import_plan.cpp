@@ -29,6 +29,13 @@ void refuse(GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record, const std::stri
     file.problems.push_back({record.line, "", text});
 }
 
+// What is stored may be there, although it cannot be read. One reason for many records is said once.
+void refuse_unread(GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record, const std::string& why)
+{
+    if (file.problems.empty() || file.problems.back().text != why)
+        refuse(file, record, why);
+}
+
 void warn(GFPDB_RECORD_FILE& file, const GFPDB_RECORD& record, const std::vector<GFPDB_FINDING>& findings)
 {
     for (const GFPDB_FINDING& finding : findings) {
@@ -63,7 +70,12 @@ void GFPDB_IMPORT_PLAN::add_record(GFPDB_RECORD_FILE& file, GFPDB_RECORD record)
     }
     if (!is_name_free(file, record))
         return;
+    std::string unread = m_database.get_last_error();
     const std::optional<GFPDB_RECORD> former = m_database.load(record);
+    if (unread.empty() && !former)
+        unread = m_database.get_last_error();
+    if (!unread.empty())
+        return refuse_unread(file, record, unread);
     if (file.is_csv)
         fill_flows(record, former);
     const auto is_there = [&] { return former && gfpdb_is_same_content(former->row, record.row); };

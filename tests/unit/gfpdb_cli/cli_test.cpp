@@ -5,6 +5,7 @@
 #include "cli_command.h"
 #include "cli_test.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -79,6 +80,18 @@ void replace_in_file(const QString& path, const char* what, const char* with)
     if (!text.contains(what))
         qFatal("there is no %s", what);
     write_file(path.toStdString(), text.replace(what, with).toStdString());
+}
+
+void damage_table(const GFPDB_PLACE& place, const QString& table)
+{
+    const std::string file = place.db_file();
+    const std::string root = "SELECT rootpage FROM sqlite_master WHERE name = '" + table.toStdString() + "'";
+    const qint64 page = run_sql(file, root).toInt();
+    const int size = run_sql(file, "PRAGMA page_size").toInt();
+    QFile bytes(q(file));
+    if (!bytes.open(QIODevice::ReadWrite) || !bytes.seek((page - 1) * size) ||
+        bytes.write(QByteArray(size, '\xFF')) != size)
+        qFatal("%s cannot be damaged", qPrintable(table));
 }
 
 TOOL_RUN CLI_TEST::tool(const QStringList& arguments, const QByteArray& input) const

@@ -38,6 +38,9 @@ QString exported_file(const GFPDB_PLACE& place, const char* device);
 // `what` must be in the file.
 void replace_in_file(const QString& path, const char* what, const char* with);
 
+// Overwrites the page with which the table begins in the database file of the place. The rest can still be read.
+void damage_table(const GFPDB_PLACE& place, const QString& table);
+
 // Base of the tests of the tool: a scratch directory for each test function.
 class CLI_TEST : public DATABASE_TEST
 {

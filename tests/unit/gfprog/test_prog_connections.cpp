@@ -90,6 +90,17 @@ private slots:
         QVERIFY(run.out.startsWith("A: "));
     }
 
+    void devices_that_cannot_be_read_are_not_taken_for_none()
+    {
+        save_part("mine");
+        damage_table(*m_place, "device");
+        EMULATED_PROGRAMMER programmer({PART});
+        const TOOL_RUN run = prog({"detect", "--on", programmer.connection()});
+        QCOMPARE(run.out, QByteArray());
+        QVERIFY2(run.err.startsWith("gfprog: The database "), run.err.constData());
+        QCOMPARE(run.exit_code, 5);
+    }
+
     void an_unknown_chip_is_said_to_be_one()
     {
         store_changed_part("A", {{"0xC2 0x20 0x15", "0xC2 0x20 0x55"}});
