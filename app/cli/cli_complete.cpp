@@ -14,7 +14,14 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace {
+
+// So many states of the history are offered.
+constexpr int MOST_STATES = 200;
 
 // An option as the help shows it; `value` is empty for one without.
 struct OPTION
@@ -179,7 +186,8 @@ private:
     void add_records(const CLI_COMMAND& command, const QCommandLineParser& parser)
     {
         GFPDB_DATABASE of_call = database(parser);
-        for (const GFPDB_RECORD& record : of_call.find_stored({}))
+        const std::vector<GFPDB_RECORD> stored = of_call.find_stored({});
+        for (const GFPDB_RECORD& record : of_call.get_last_error().empty() ? stored : std::vector<GFPDB_RECORD>())
             add(record.name(), CLI_LISTED{record, false}.kind());
         if (!command.takes_builtin())
             return;
@@ -197,11 +205,42 @@ private:
             add_states(parser, prefix);
     }
 
+    // The newest of those whose numbers begin as it is written; of a very large history, not all are read.
     void add_states(const QCommandLineParser& parser, const std::string& prefix)
     {
-        const std::vector<GFPDB_HISTORY_ENTRY> entries = database(parser).find_history({});
-        for (const GFPDB_HISTORY_ENTRY& entry : entries)
+        GFPDB_DATABASE of_call = database(parser);
+        const std::string written = gfpdb_to_utf8(m_current);
+        const std::string digits = written.substr(std::min(prefix.size(), written.size()));
+        std::vector<GFPDB_HISTORY_ENTRY> found = of_call.find_history_page({}, std::nullopt, MOST_STATES).entries;
+        if (!digits.empty() && !found.empty())
+            found = states_from(of_call, cli_history_id(digits).value_or(0), found.front().id);
+        for (const GFPDB_HISTORY_ENTRY& entry : found)
             add(prefix + std::to_string(entry.id), entry.name() + ", " + entry.reason + ' ' + entry.changed_at);
+    }
+
+    // 12, 120 to 129, 1200 to 1299 and so on, up to `newest`, for 12: the newest of these.
+    static std::vector<GFPDB_HISTORY_ENTRY> states_from(GFPDB_DATABASE& of_call, std::int64_t first,
+                                                        std::int64_t newest)
+    {
+        constexpr int BASE = 10;
+        std::vector<std::pair<std::int64_t, std::int64_t>> ranges;
+        std::int64_t last = first;
+        for (std::int64_t low = first; low > 0 && low <= newest; low *= BASE) {
+            ranges.emplace_back(low, std::min(last, newest));
+            if (low > newest / BASE)
+                break;
+            last = last > newest / BASE ? newest : last * BASE + BASE - 1;
+        }
+        std::vector<GFPDB_HISTORY_ENTRY> found;
+        for (auto range = ranges.crbegin(); range != ranges.crend(); ++range) {
+            const int count = MOST_STATES - static_cast<int>(found.size());
+            const auto before = range->second < newest ? std::optional<std::int64_t>(range->second + 1) : std::nullopt;
+            const auto states =
+                count > 0 ? of_call.find_history_page({}, before, count).entries : std::vector<GFPDB_HISTORY_ENTRY>();
+            std::copy_if(states.cbegin(), states.cend(), std::back_inserter(found),
+                         [range](const GFPDB_HISTORY_ENTRY& state) { return state.id >= range->first; });
+        }
+        return found;
     }
 
     void add_sides(const CLI_COMMAND& command, const QCommandLineParser& parser)
@@ -223,5 +262,6 @@ private:
 
 std::string cli_complete(const CLI_PROGRAM& program, const QStringList& words)
 {
+    GFPDB_DATABASE::only_look();
     return COMPLETION(program, words).answer();
 }

@@ -10,5 +10,6 @@
 constexpr const char* CLI_COMPLETE = "--complete";
 
 // The answer: "files" or "directories" when paths can follow, else "-"; then a line for each word that can, its
-// explanation behind a tab. Behind "--kind=" the words begin so, too. UTF-8.
+// explanation behind a tab. Behind "--kind=" the words begin so, too. UTF-8. The process only looks from then on
+// (GFPDB_DATABASE::only_look()).
 std::string cli_complete(const CLI_PROGRAM& program, const QStringList& words);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_database.h"
 
+#include "base/gfpdb_looking.h"
 #include "base/gfpdb_text.h"
 #include "catalogue/gfpdb_builtin_records.h"
 #include "gfpdb/gfpdb_catalogue.h"
@@ -82,6 +83,11 @@ std::string GFPDB_DATABASE::get_catalogue_problem()
 void GFPDB_DATABASE::set_upgrade_progress(std::function<void(int, int)> progress)
 {
     gfpdb_upgrade_progress() = std::move(progress);
+}
+
+void GFPDB_DATABASE::only_look()
+{
+    gfpdb_only_looks() = true;
 }
 
 const std::string& GFPDB_DATABASE::get_directory() const

@@ -3,6 +3,7 @@
 
 #include "base/gfpdb_create_dir.h"
 #include "base/gfpdb_log.h"
+#include "base/gfpdb_looking.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_builtin_records.h"
@@ -75,7 +76,7 @@ void GFPDB_EMBEDDED_MGR::reload()
 {
     m_deletion.reset();
     const std::string directory = get_db_custom_dir();
-    if (directory == gfpdb_default_dir())
+    if (directory == gfpdb_default_dir() && !gfpdb_only_looks())
         gfpdb_create_dir(directory);
     m_other_store.reset();
     if (!m_store || m_store->get_directory() != directory || !gfpdb_is_store_of(*m_store, directory))

@@ -82,6 +82,20 @@ private slots:
         QCOMPARE(version, QStringLiteral("4"));
     }
 
+    void completing_a_word_upgrades_nothing_data() { nothing_of_an_old_database_is_lost_data(); }
+
+    void completing_a_word_upgrades_nothing()
+    {
+        const GFPDB_PLACE place;
+        make_database(place, row<int>());
+        const QByteArray before = text_of_file(q(place.db_file()));
+        const TOOL_RUN run = run_tool({"--complete", "show", "-d", q(place.db_dir()), ""});
+        const TOOL_RUN states = run_tool({"--complete", "restore", "-d", q(place.db_dir()), ""});
+        QVERIFY(text_of_file(q(place.db_file())) == before);
+        QVERIFY2(run.out.contains("Unreadable") && states.out.contains(", deleted "),
+                 (run.out + states.out).constData());
+    }
+
     void flows_that_cannot_be_read_stay_as_they_are()
     {
         const GFPDB_PLACE place;

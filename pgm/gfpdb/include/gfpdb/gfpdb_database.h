@@ -38,6 +38,10 @@ public:
     // use does; an empty function for nobody.
     static void set_upgrade_progress(std::function<void(int done, int total)> progress);
 
+    // From now on this program only looks: it upgrades and changes no database, waits for no lock, and for a server for
+    // two seconds at most. What cannot be read so is not found.
+    static void only_look();
+
     const std::string& get_directory() const;
     // Checks values and restores states in the directory.
     GFPDB_MGR& get_manager() { return m_manager; }

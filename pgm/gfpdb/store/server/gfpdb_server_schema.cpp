@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/server/gfpdb_server_schema.h"
 
+#include "base/gfpdb_looking.h"
 #include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_server.h"
 #include "store/server/gfpdb_server_connection.h"
@@ -131,7 +132,7 @@ std::string version_problem(const GFPDB_SERVER_ROWS& state, const std::string& d
         return GFPDB_WORDS::say("The database %1 on the server %2 is a database of another program. It is left as "
                                 "it is.",
                                 {database, host});
-    if (version == VERSION || state.text(0, STATE_MAY_UPGRADE) == "t")
+    if (version == VERSION || (state.text(0, STATE_MAY_UPGRADE) == "t" && !gfpdb_only_looks()))
         return std::string();
     return GFPDB_WORDS::say("The database %1 on the server %2 was written by an older program (schema %3): it can "
                             "be used when someone with the role %4 has opened it once.",

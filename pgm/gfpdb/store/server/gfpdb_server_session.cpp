@@ -2,6 +2,7 @@
 #include "store/server/gfpdb_server_session.h"
 
 #include "base/gfpdb_log.h"
+#include "base/gfpdb_looking.h"
 #include "base/gfpdb_settings.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
@@ -22,6 +23,8 @@ using CLOCK = GFPDB_SERVER_CONNECTION::CLOCK;
 
 // A window waits no longer for one call.
 constexpr std::chrono::seconds CALL_LIMIT(10);
+// Nor does who only looks.
+constexpr std::chrono::seconds LOOK_LIMIT(2);
 // After an attempt in vain the server is not tried again until this time has passed.
 constexpr std::chrono::seconds PAUSE(2);
 // What is read of a large table at once.
@@ -108,10 +111,10 @@ bool GFPDB_SERVER_SESSION::load_file()
 
 void GFPDB_SERVER_SESSION::begin_call(bool is_quick)
 {
-    m_is_quick = is_quick;
+    m_is_quick = is_quick || gfpdb_only_looks();
     m_repetitions = 0;
     m_connection->clear_error();
-    m_deadline = is_quick ? CLOCK::now() + CALL_LIMIT : CLOCK::time_point::max();
+    m_deadline = m_is_quick ? CLOCK::now() + (gfpdb_only_looks() ? LOOK_LIMIT : CALL_LIMIT) : CLOCK::time_point::max();
     set_deadline();
 }
 
@@ -257,7 +260,9 @@ int GFPDB_SERVER_SESSION::lock_limit() const
     bool is_number = false;
     const int limit = QByteArray::fromStdString(gfpdb_read_setting(GFPDB_SETTING_BUSY_TIMEOUT)).toInt(&is_number);
     const bool is_in_vain = vain_lock().directory == m_directory && CLOCK::now() < vain_lock().until;
-    return is_in_vain ? 1 : std::clamp(is_number ? limit : DEFAULT_LOCK_LIMIT_MS, 1, LONGEST_LOCK_LIMIT_MS);
+    return is_in_vain || gfpdb_only_looks()
+               ? 1
+               : std::clamp(is_number ? limit : DEFAULT_LOCK_LIMIT_MS, 1, LONGEST_LOCK_LIMIT_MS);
 }
 
 bool GFPDB_SERVER_SESSION::take_state(const ROWS& rows)

@@ -20,6 +20,9 @@ constexpr char WAL_INDEX_SUFFIX[] = "-shm";
 
 // The format of SQLite's files; numbers have four bytes, the highest first.
 const std::string DATABASE_BEGIN("SQLite format 3\0", 16);
+// Two bytes: which programs may write the file, and which may read it.
+constexpr std::size_t DATABASE_VERSIONS = 18;
+constexpr char DATABASE_VERSION_OF_WAL = 2;
 constexpr std::size_t DATABASE_PAGES = 28;
 constexpr std::size_t DATABASE_MARK = 60;
 constexpr std::size_t DATABASE_FORMER_MARK = 68;
@@ -182,6 +185,11 @@ std::string gfpdb_left_file(const std::string& file)
             return path + suffix;
     }
     return std::string();
+}
+
+bool gfpdb_has_wal_mode(const std::string& file)
+{
+    return PARTS(real_path_of(file)).read(DATABASE_VERSIONS, 2).find(DATABASE_VERSION_OF_WAL) != std::string::npos;
 }
 
 std::string gfpdb_companion_problem(const std::string& file)

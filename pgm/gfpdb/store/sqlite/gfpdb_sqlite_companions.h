@@ -18,6 +18,10 @@
 // The first journal or WAL with something in it beside the database in `file`, there or not; empty when there is none.
 std::string gfpdb_left_file(const std::string& file);
 
+// True when SQLite makes a WAL and its index beside the database in `file` even to read it: another program has set
+// that. Opens and closes the file, as below.
+bool gfpdb_has_wal_mode(const std::string& file);
+
 // Why SQLite cannot be let loose on the database in `file`, which exists, as a sentence for the user; empty when it
 // can. Opens and closes the file when it has a journal, which ends the locks that this process has on it: must not be
 // called in a transaction.

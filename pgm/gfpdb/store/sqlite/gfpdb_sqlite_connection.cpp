@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/sqlite/gfpdb_sqlite_connection.h"
 
+#include "base/gfpdb_looking.h"
 #include "base/gfpdb_settings.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
@@ -35,6 +36,8 @@ int next_number()
 
 int busy_timeout()
 {
+    if (gfpdb_only_looks())
+        return 0;
     bool is_number = false;
     const int timeout = QByteArray::fromStdString(gfpdb_read_setting(GFPDB_SETTING_BUSY_TIMEOUT)).toInt(&is_number);
     return is_number && timeout >= 0 ? timeout : DEFAULT_BUSY_TIMEOUT_MS;

@@ -2,6 +2,7 @@
 #include "store/sqlite/gfpdb_sqlite_file.h"
 
 #include "base/gfpdb_log.h"
+#include "base/gfpdb_looking.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
 #include "gfpdb/gfpdb_server.h"
@@ -120,7 +121,11 @@ void GFPDB_SQLITE_FILE::open()
     ++m_openings;
     if (!examine_directory() || !examine_file() || !has_own_companions())
         return;
-    const bool writable = ::access(m_directory.c_str(), W_OK) == 0 && ::access(m_path.c_str(), W_OK) == 0;
+    // Nobody is told.
+    if (gfpdb_only_looks() && gfpdb_has_wal_mode(m_path))
+        return set_problem(STATE::UNUSABLE, "Files would be made beside the database.");
+    const bool writable =
+        !gfpdb_only_looks() && ::access(m_directory.c_str(), W_OK) == 0 && ::access(m_path.c_str(), W_OK) == 0;
     const std::string why = std::strerror(errno);
     if (!open_connection(writable)) {
         m_connection.close();
