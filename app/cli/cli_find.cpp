@@ -71,7 +71,7 @@ std::optional<GFPDB_RECORD> find_state(const CLI_CALL& call, const std::string& 
     const std::optional<GFPDB_HISTORY_ENTRY> entry = id ? call.database.load_state(*id) : std::nullopt;
     if (entry)
         return GFPDB_RECORD{entry->is_template, entry->row, 0};
-    const std::string problem = id ? call.database.get_last_error() : call.database.get_read_problem();
+    const std::string problem = id ? call.database.get_last_error() : std::string();
     exit_code = problem.empty() ? int(CLI_EXIT_NOT_FOUND) : call.database_failed(problem);
     if (problem.empty())
         call.output.error("There is no state " + gfpdb_quoted(number) + " in the history of " +
@@ -125,17 +125,26 @@ std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string
     return std::nullopt;
 }
 
-std::optional<std::string> cli_state_of(const std::string& operand)
+bool cli_is_state(const std::string& operand)
 {
-    const std::string prefix = CLI_HISTORY_PREFIX;
-    return operand.rfind(prefix, 0) == 0 ? std::optional<std::string>(operand.substr(prefix.size())) : std::nullopt;
+    return operand.rfind(CLI_HISTORY_PREFIX, 0) == 0;
 }
 
 std::optional<GFPDB_RECORD> cli_find_record(const CLI_CALL& call, const std::string& operand, int& exit_code,
-                                            const CLI_PLACE_OPTIONS& options)
+                                            const CLI_PLACE_OPTIONS& options, std::optional<std::int64_t>* state)
 {
-    const std::optional<std::string> state = cli_state_of(operand);
-    return state ? find_state(call, *state, exit_code) : cli_find_one(call, operand, exit_code, options);
+    if (!cli_is_state(operand))
+        return cli_find_one(call, operand, exit_code, options);
+    const std::optional<std::vector<GFPDB_RECORD>> named =
+        cli_find_stored(call, cli_selection(call, operand, options), exit_code);
+    if (!named)
+        return std::nullopt;
+    if (!named->empty())
+        return cli_find_one(call, operand, exit_code, options);
+    const std::string number = operand.substr(std::string(CLI_HISTORY_PREFIX).size());
+    if (state != nullptr)
+        *state = cli_history_id(number);
+    return find_state(call, number, exit_code);
 }
 
 std::optional<std::int64_t> cli_history_id(const std::string& text)

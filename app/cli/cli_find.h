@@ -36,11 +36,14 @@ std::optional<GFPDB_RECORD> cli_find_one(const CLI_CALL& call, const std::string
 // What a state of the history begins with where a name is possible as well.
 constexpr const char* CLI_HISTORY_PREFIX = "history:";
 
-// Where a command takes a record: a name as above, or "history:17" for a state of the history, with its flows.
+// Where a command takes a record: a name as above, or "history:17" for a state of the history, with its flows. A device
+// or template of the directory that is called so comes first: "history:017" is the state beside it. `state` (may be
+// null) becomes the number of the state, or none for a record.
 std::optional<GFPDB_RECORD> cli_find_record(const CLI_CALL& call, const std::string& operand, int& exit_code,
-                                            const CLI_PLACE_OPTIONS& options = {});
-// "17" of "history:17"; none for a name.
-std::optional<std::string> cli_state_of(const std::string& operand);
+                                            const CLI_PLACE_OPTIONS& options = {},
+                                            std::optional<std::int64_t>* state = nullptr);
+// True for what is written as a state, as "history:17".
+bool cli_is_state(const std::string& operand);
 
 // The number of a state in the history, as in "17"; none when `text` is not a whole number of 64 bit.
 std::optional<std::int64_t> cli_history_id(const std::string& text);

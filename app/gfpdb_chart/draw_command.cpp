@@ -68,7 +68,7 @@ bool flow_variant_of(const CLI_CALL& call, const GFPDB_RECORD& record)
     return manager.get_flow_variant();
 }
 
-GFPC_ORDER order_of(const CLI_CALL& call, const GFPDB_RECORD& record, GFPC_FORMAT format)
+GFPC_ORDER order_of(const CLI_CALL& call, const GFPDB_RECORD& record, bool is_state, GFPC_FORMAT format)
 {
     GFPC_ORDER order;
     order.record = record;
@@ -80,7 +80,7 @@ GFPC_ORDER order_of(const CLI_CALL& call, const GFPDB_RECORD& record, GFPC_FORMA
     if (call.has(CHART_OPTION_PAPER))
         order.paper = call.value(CHART_OPTION_PAPER) == LETTER ? QPageSize::Letter : QPageSize::A4;
     order.date = QDate::currentDate();
-    if (cli_state_of(call.argument(0)))
+    if (is_state)
         order.note = gfpdb_from_utf8(call.argument(0));
     return order;
 }
@@ -109,11 +109,12 @@ int DRAW_COMMAND::run(const CLI_CALL& call) const
     if (!format)
         return call.wrong_usage("The format is missing: --format pdf, --format svg, or a file name with that ending.");
     int exit_code = CLI_EXIT_OK;
-    const std::optional<GFPDB_RECORD> record = cli_find_record(call, call.argument(0), exit_code);
+    std::optional<std::int64_t> state;
+    const std::optional<GFPDB_RECORD> record = cli_find_record(call, call.argument(0), exit_code, {}, &state);
     if (!record)
         return exit_code;
     QString problem;
-    const QByteArray content = gfpc_draw_charts(order_of(call, *record, *format), problem);
+    const QByteArray content = gfpc_draw_charts(order_of(call, *record, state.has_value(), *format), problem);
     if (content.isEmpty())
         return call.database_failed(gfpdb_to_utf8(problem));
     return write(call, content.toStdString());

@@ -65,7 +65,7 @@ std::optional<GFPDB_RECORD> pick(const CLI_CALL& call, const std::string& path, 
 std::optional<GFPDB_RECORD> find(const CLI_CALL& call, const std::string& operand, const GFPDB_RECORD* other,
                                  int& exit_code)
 {
-    return !cli_state_of(operand) && is_file(operand) ? pick(call, operand, other, exit_code)
+    return !cli_is_state(operand) && is_file(operand) ? pick(call, operand, other, exit_code)
                                                       : cli_find_record(call, operand, exit_code);
 }
 

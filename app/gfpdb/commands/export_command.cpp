@@ -30,15 +30,15 @@ public:
     bool add_all() { return add_matching(QRegularExpression()); }
     bool add(const std::string& operand)
     {
-        const std::optional<std::string> state = cli_state_of(operand);
-        if (!state && has_wildcard(operand)) {
+        if (!cli_is_state(operand) && has_wildcard(operand)) {
             const std::optional<bool> is_name = has_record(operand);
             if (!is_name || !*is_name)
                 return is_name && add_wildcard(operand);
         }
-        const std::optional<GFPDB_RECORD> record = find(operand);
+        std::optional<std::int64_t> state;
+        const std::optional<GFPDB_RECORD> record = find(operand, state);
         if (record)
-            add_once(*record, state ? cli_history_id(*state) : std::nullopt);
+            add_once(*record, state);
         return record.has_value();
     }
 
@@ -57,10 +57,10 @@ private:
         return stored ? std::optional<bool>(!stored->empty()) : std::nullopt;
     }
 
-    std::optional<GFPDB_RECORD> find(const std::string& operand)
+    std::optional<GFPDB_RECORD> find(const std::string& operand, std::optional<std::int64_t>& state)
     {
-        if (!m_is_builtin || cli_state_of(operand))
-            return cli_find_record(m_call, operand, m_exit_code);
+        if (!m_is_builtin || cli_is_state(operand))
+            return cli_find_record(m_call, operand, m_exit_code, {}, &state);
         const std::vector<GFPDB_RECORD> builtin = m_call.database.find_builtin(cli_selection(m_call, operand));
         if (!builtin.empty())
             return builtin.front();

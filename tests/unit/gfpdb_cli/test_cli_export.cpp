@@ -89,6 +89,31 @@ private slots:
         QCOMPARE(run.err, QByteArray("gfpdb: The database directory /no/such/ does not exist.\n"));
     }
 
+    // The state has a zero before its number then.
+    void a_record_that_is_called_like_a_state_comes_first_data()
+    {
+        rows<QString, QString>({{"record", "history:1", "history:1"}, {"state", "history:01", "Alpha"}});
+    }
+
+    void a_record_that_is_called_like_a_state_comes_first()
+    {
+        const auto [operand, name] = row<QString, QString>();
+        save_four();
+        save_part("history:1");
+
+        QCOMPARE(json(tool({"show", operand, "--json"})).object().value("name").toString(), name);
+        QCOMPARE(tool({"diff", operand, name}).exit_code, name == "Alpha" ? 1 : 0);
+        QCOMPARE(tool({"copy-device", operand, "Copy"}).exit_code, 0);
+        QCOMPARE(json(tool({"show", "Copy", "--json"})).object().value("total_die").toInt(), name == "Alpha" ? 2 : 1);
+        QCOMPARE(tool({"export", operand, "--directory", at("parts")}).exit_code, 0);
+        QCOMPARE(QDir(at("parts")).entryList(QDir::Files),
+                 QStringList{name == "Alpha" ? "Alpha-3-7.history-1.json" : "history%3A1-3-7.json"});
+        // The chart says of which state it is.
+        const QByteArray chart = tool({"chart", operand, "--format", "svg"}).out;
+        QVERIFY(chart.contains('>' + name.toUtf8() + '<'));
+        QCOMPARE(chart.contains(" flow, " + operand.toUtf8()), name == "Alpha");
+    }
+
     void each_record_gets_a_file_of_its_own()
     {
         save_four();
