@@ -97,6 +97,7 @@ int cli_export_to_directory(const CLI_CALL& call, const std::vector<CLI_EXPORTED
         std::string problem;
         if (!write_record_file(file.path, file.text, problem)) {
             call.output.error(file.path + ": The file cannot be written: " + problem + '.');
+            call.output.error(std::to_string(done) + " of " + std::to_string(files.size()) + " files were written.");
             return CLI_EXIT_BAD_FILE;
         }
         created += file.is_there ? 0 : 1;

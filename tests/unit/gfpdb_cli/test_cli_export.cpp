@@ -182,6 +182,18 @@ private slots:
         run = tool({"export", "--directory", at("parts"), "--replace", "Alpha"});
         QCOMPARE(run.exit_code, 4);
         QVERIFY2(run.err.contains("Alpha-3-7.json: The file cannot be written: "), run.err.constData());
+        QVERIFY2(run.err.endsWith("\ngfpdb: 0 of 1 files were written.\n"), run.err.constData());
+    }
+
+    void an_export_that_fails_in_the_middle_says_how_far_it_came()
+    {
+        save_four();
+        QVERIFY(QDir(at("")).mkpath("parts/A%2A-5-7.json"));
+        const TOOL_RUN run = tool({"export", "--directory", at("parts"), "--replace"});
+        QCOMPARE(run.exit_code, 4);
+        QCOMPARE(run.out, QByteArray());
+        QVERIFY2(run.err.endsWith("\ngfpdb: 2 of 4 files were written.\n"), run.err.constData());
+        QCOMPARE(QDir(at("parts")).entryList(QDir::Files).size(), 2);
     }
 
     void flows_that_cannot_be_read_are_reported()
