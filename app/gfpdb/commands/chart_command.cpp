@@ -7,9 +7,18 @@
 #include <QDir>
 #include <QProcess>
 
+#include <csignal>
+
 namespace {
 
 const QString DRAWING_PROGRAM = QStringLiteral("../libexec/gfpdb_chart");
+
+// As every program whose reader has gone: without a word. Starting another program has ignored the signal.
+void end_by_closed_pipe()
+{
+    std::signal(SIGPIPE, SIG_DFL);
+    std::raise(SIGPIPE);
+}
 
 } // namespace
 
@@ -49,10 +58,14 @@ int CLI_CHART_COMMAND::run(const CLI_CALL& call) const
 {
     const QString program =
         QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(DRAWING_PROGRAM));
-    const int exit_code = QProcess::execute(program, call.words);
-    if (exit_code >= 0)
-        return exit_code;
-    const bool was_started = exit_code == -1;
+    QProcess drawing;
+    drawing.setProcessChannelMode(QProcess::ForwardedChannels);
+    drawing.start(program, call.words);
+    const bool was_started = drawing.waitForFinished(-1);
+    if (was_started && drawing.exitStatus() == QProcess::NormalExit)
+        return drawing.exitCode();
+    if (was_started && drawing.exitCode() == SIGPIPE)
+        end_by_closed_pipe();
     call.output.error(gfpdb_to_utf8(program) + (was_started ? ": The program that draws charts crashed."
                                                             : ": The program that draws charts cannot be started."));
     return CLI_EXIT_BAD_FILE;

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <csignal>
+
 class TEST_CLI_CHART : public CLI_TEST
 {
     Q_OBJECT
@@ -43,6 +45,21 @@ private slots:
         QVERIFY(is_svg(text_of_file(at("chart.pdf"))));
         QVERIFY(is_pdf(tool({"chart", "Mine", "--format", "pdf"}).out));
         QVERIFY(is_pdf(run_tool({"chart", "MX25L1606E", "--format", "pdf", "--paper", "letter"}).out));
+    }
+
+    void a_reader_who_has_gone_hears_nothing_data()
+    {
+        rows<QString>({{"chart", "chart MX25L25645G --format svg"}, {"list", "list --builtin"}});
+    }
+
+    // The pipe has no reader from the beginning.
+    void a_reader_who_has_gone_hears_nothing()
+    {
+        const QString script =
+            "mkfifo pipe; exec 4<>pipe 5>pipe 4<&-; \"$0\" " + row<QString>() + " >&5; echo $?; rm pipe";
+        const TOOL_RUN run = run_program("/bin/bash", {"-c", "cd \"$1\"; " + script, GFPDB_PROGRAM, at("")});
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.out, QByteArray::number(128 + SIGPIPE) + '\n');
     }
 
     void operations_have_their_names_data()
