@@ -4,6 +4,7 @@
 namespace {
 
 constexpr const char* BYTE_ORDER_MARK = "\xEF\xBB\xBF";
+constexpr std::size_t BYTE_ORDER_MARK_SIZE = 3;
 
 // Splits a text into cells, one character at a time.
 class CSV_SPLITTER
@@ -13,7 +14,7 @@ public:
 
     std::vector<CSV_ROW> split(const std::string& text)
     {
-        for (std::size_t at = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? 3 : 0; at < text.size(); ++at) {
+        for (std::size_t at = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? BYTE_ORDER_MARK_SIZE : 0; at < text.size(); ++at) {
             if (m_quoted)
                 take_quoted(text, at);
             else
@@ -94,8 +95,22 @@ std::vector<CSV_ROW> csv_rows(const std::string& text, char separator)
     return CSV_SPLITTER(separator).split(text);
 }
 
+char csv_named_separator(const std::string& text)
+{
+    const std::string beginning = "sep=";
+    const std::size_t at = text.rfind(BYTE_ORDER_MARK, 0) == 0 ? BYTE_ORDER_MARK_SIZE : 0;
+    const std::size_t separator = at + beginning.size();
+    if (text.compare(at, beginning.size(), beginning) != 0 || separator >= text.size() ||
+        std::string("\"\r\n").find(text[separator]) != std::string::npos)
+        return 0;
+    const std::string rest = text.substr(separator + 1, 2);
+    return rest.empty() || rest[0] == '\n' || rest == "\r\n" ? text[separator] : 0;
+}
+
 char csv_separator(const std::string& text)
 {
+    if (const char named = csv_named_separator(text))
+        return named;
     std::string first;
     bool is_quoted = false;
     for (const char character : text) {

@@ -101,6 +101,8 @@ std::string gfpdb_write_list(const std::vector<GFPDB_RECORD>& records, GFPDB_LIS
 GFPDB_LIST_READER::GFPDB_LIST_READER(const std::string& text, GFPDB_MGR& manager, const GFPDB_READ_OPTIONS& options)
     : m_reader(manager, options), m_rows(csv_rows(text, csv_separator(text)))
 {
+    if (!m_rows.empty() && csv_named_separator(text) != 0)
+        m_rows.erase(m_rows.begin());
     if (m_rows.empty())
         m_rows.emplace_back();
     m_is_list = check_columns(m_rows.front(), options, m_problems);

@@ -100,7 +100,19 @@ private slots:
              {"quotes", "\"name\";\"family\";\"scheme\";\"density\";\"device_id\"\n\"A, b\";3;7;1Mb;\"C2\"\n", {}},
              {"mark", "\xEF\xBB\xBFname;family;scheme;density;device_id\nA, b;3;7;1Mb;C2\n", {}},
              {"commas", "name,family,scheme,density,device_id,voltage\n\"A, b\",3,7,1Mb,C2,2;3\n", {}},
-             {"too few", "name;family;scheme\nA;3\n", {"2: : The row has 2 cells, the line of column names has 3."}}});
+             {"too few", "name;family;scheme\nA;3\n", {"2: : The row has 2 cells, the line of column names has 3."}},
+             {"named", "sep=;\r\nname;family;scheme;density;device_id\r\nA, b;3;7;1Mb;C2\r\n", {}},
+             {"named with a mark", "\xEF\xBB\xBFsep=|\nname|family|scheme|density|device_id\nA, b|3|7|1Mb|C2\n", {}},
+             {"named, too few",
+              "sep=;\nname;family;scheme\nA;3\n",
+              {"3: : The row has 2 cells, the line of column names has 3."}},
+             {"named, and no more",
+              "sep=;",
+              {"1: name: The column is missing.", "1: family: The column is missing.",
+               "1: scheme: The column is missing."}},
+             {"named too late",
+              "name;family;scheme\nsep=;\nA;3;7\n",
+              {"2: : The row has 2 cells, the line of column names has 3."}}});
     }
 
     void cells_stand_between_semicolons_or_tabs()
@@ -111,6 +123,28 @@ private slots:
         QCOMPARE(result.problems, problems);
         if (problems.isEmpty())
             QCOMPARE(result.records.at(0).row.name, std::string("A, b"));
+    }
+
+    void a_first_line_may_name_what_stands_between_cells_data()
+    {
+        rows<QByteArray, int>({{"alone", "sep=;", ';'},
+                               {"and a line", "sep=;\na", ';'},
+                               {"tab", "sep=\t\r\na", '\t'},
+                               {"mark", "\xEF\xBB\xBFsep=|\n", '|'},
+                               {"two", "sep=;;\n", 0},
+                               {"none", "sep=", 0},
+                               {"line break", "sep=\na", 0},
+                               {"both line breaks", "sep=\r\na", 0},
+                               {"quote", "sep=\"\n", 0},
+                               {"return in the line", "sep=;\ra", 0},
+                               {"name", "sep;a\n", 0},
+                               {"later", "\nsep=;\n", 0}});
+    }
+
+    void a_first_line_may_name_what_stands_between_cells()
+    {
+        const auto [text, separator] = row<QByteArray, int>();
+        QCOMPARE(int(csv_named_separator(text.toStdString())), separator);
     }
 
     // Values that the rules refuse, as a directory can have them.

@@ -22,8 +22,11 @@ struct CSV_ROW
 // The rows of `text`, empty lines left out. A quote that is never closed ends with the text. `separator` stands between
 // the cells.
 std::vector<CSV_ROW> csv_rows(const std::string& text, char separator = ',');
-// What stands between the cells of `text`: a comma, or the semicolon or tab that spreadsheets write in countries where
-// numbers have a comma, when the first line has one outside quotes and no comma.
+// The character that the first line of `text` names, as in "sep=;", which some spreadsheets write and read; 0 when that
+// line is another one. It is no row then.
+char csv_named_separator(const std::string& text);
+// What stands between the cells of `text`: what its first line names, else a comma, or the semicolon or tab that
+// spreadsheets write in countries where numbers have a comma, when the first line has one outside quotes and no comma.
 char csv_separator(const std::string& text);
 
 // `text` with a quote before everything that a spreadsheet would run as a formula, whatever it takes for the beginning
