@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gfpdb/gfpdb_flow_lint.h"
 
+#include "catalogue/gfpdb_flow_traits.h"
 #include "gfpdb/gfpdb_catalogue.h"
 #include "gfpdb/gfpdb_exchange.h"
 #include "gfpdb/gfpdb_part.h"
@@ -30,6 +31,15 @@ bool has_quad_enable(const std::vector<std::uint8_t>& id, const PARTS& listed)
                         [](const GFPDB_PART* part) { return part->quad_enable == GFPDB_QUAD_ENABLE::NONE; });
 }
 
+// False when it is not known of one of them.
+bool clears_second_status(const PARTS& listed)
+{
+    return !listed.empty() && std::all_of(listed.begin(), listed.end(), [](const GFPDB_PART* part) {
+        const GFPDB_FLOW_TRAITS traits = gfpdb_flow_traits(*part, true);
+        return traits.verified && traits.status_write == GFPDB_STATUS_WRITE::SR2_WITH_SR1;
+    });
+}
+
 // 0 when it is not known, or not the same in all of them.
 int page_size_of(const PARTS& listed)
 {
@@ -52,6 +62,7 @@ GFPDB_LINT_DEVICE gfpdb_lint_device(const GFPDB_RECORD& record)
     const PARTS listed = gfpdb_parts_with_id(device.id);
     device.page_size = page_size_of(listed);
     device.has_quad_enable = has_quad_enable(device.id, listed);
+    device.clears_second_status = clears_second_status(listed);
     return device;
 }
 

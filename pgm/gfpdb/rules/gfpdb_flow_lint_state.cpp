@@ -65,6 +65,15 @@ bool sets_quad_enable(const GFPDB_ACTION& action)
     }
 }
 
+// A status write that leaves the quad-enable bit out, where that is in the second register and goes along.
+bool clears_quad_enable(const GFPDB_ACTION& action)
+{
+    const std::vector<int> data = bytes_of(action, GFPDB_WR_DATA);
+    const int opcode = opcode_of(action);
+    return (opcode == WRITE_STATUS && !has_bit(data, 1, SR2_QUAD_ENABLE)) ||
+           (opcode == WRITE_STATUS_2 && !has_bit(data, 0, SR2_QUAD_ENABLE));
+}
+
 // A register, and a bit of it that says something when it is expected to be set.
 struct STATE_BIT
 {
@@ -133,6 +142,7 @@ struct CHIP
     bool volatile_enabled = false;
     bool four_byte = false;
     bool quad_enabled = false;
+    bool quad_cleared = false;
     bool asleep = false;
     bool has_ended = false;
     // The action that has enabled writing, that has made the chip busy, that has entered 4-byte addressing.
@@ -226,9 +236,13 @@ private:
         // Chips with a flag status register have no such bit.
         const bool may_use = m_chip.quad_enabled || !m_device.has_quad_enable || m_has_flag_status;
         if (m_flow_variant && uses_four_lines(*step.action) && !may_use)
-            m_report.add(NO_QUAD_ENABLE, step,
-                         GFPDB_WORDS::say("The command is on four lines, and nothing before it sets or checks the "
-                                          "quad-enable bit."));
+            m_report.add(
+                NO_QUAD_ENABLE, step,
+                m_chip.quad_cleared
+                    ? GFPDB_WORDS::say("The command is on four lines, and a write of the status registers "
+                                       "before it clears the quad-enable bit.")
+                    : GFPDB_WORDS::say("The command is on four lines, and nothing before it sets or checks the "
+                                       "quad-enable bit."));
     }
 
     // The chip has to be ready now.
@@ -284,8 +298,10 @@ private:
     void reset(int operation)
     {
         const bool quad_enabled = m_chip.quad_enabled;
+        const bool quad_cleared = m_chip.quad_cleared;
         m_chip = CHIP();
         m_chip.quad_enabled = quad_enabled;
+        m_chip.quad_cleared = quad_cleared;
         m_chip.has_ended = operation == GFPDB_OPERATION_TERMINATION;
     }
 
@@ -320,7 +336,8 @@ private:
             m_chip.busy = step;
         m_chip.write_enabled = ENABLED::NO;
         m_chip.volatile_enabled = false;
-        m_chip.quad_enabled = m_chip.quad_enabled || sets_quad_enable(*step.action);
+        m_chip.quad_cleared = m_device.clears_second_status && clears_quad_enable(*step.action);
+        m_chip.quad_enabled = !m_chip.quad_cleared && (m_chip.quad_enabled || sets_quad_enable(*step.action));
     }
 
     void read_register(const GFPDB_ACTION& action)

@@ -8,8 +8,7 @@
 // the values that are not the defaults: d data or expected data, m mask, l length, n attempts, t delay, w bus width,
 // at address, a addressing mode, p page size, s erase size, c dummy clocks; "_" is a blank. "page(", "sector(" and
 // "die(" open a loop. ID and BUSY are the usual checks. "quad" makes it the quad-I/O flow; "@part=NAME" is the device,
-// "@bytes=",
-// "@dies=", "@page=" and "@noqe" what is known of another one.
+// "@bytes=", "@dies=", "@page=", "@noqe" and "@sr2" what is known of another one.
 #pragma once
 
 #include "flow_parts.h"
@@ -88,6 +87,8 @@ inline void set_device(NOTED_FLOW& noted, const QString& word)
         noted.device.page_size = noted.part->page_size;
     } else if (key == "@noqe") {
         noted.device.has_quad_enable = false;
+    } else if (key == "@sr2") {
+        noted.device.clears_second_status = true;
     } else {
         noted.device.bytes = key == "@bytes" ? value.toLongLong() : noted.device.bytes;
         noted.device.dies = key == "@dies" ? value.toInt() : noted.device.dies;

@@ -134,6 +134,18 @@ private slots:
              "quad I ID RR:3F,d=0x80,m=0x80 V RD:6B,w=1-1-4"},
             {"L04 after a reset", "V0 L04", "quad I ID WR:66 WR:99 V RD:6B,w=1-1-4",
              "quad I ID WR:06 WR:01,d=0x40 BUSY WR:66 WR:99 V RD:6B,w=1-1-4"},
+            {"L04 cleared again", "P2 L04",
+             "quad " + w25 + "@sr2 I ID WR:06 WR:01,d=0x00_0x02 BUSY WR:06 WR:01,d=0x00 BUSY P " + quad_page,
+             "quad " + w25 + "@sr2 I ID WR:06 WR:01,d=0x00 BUSY WR:06 WR:31,d=0x02 BUSY P " + quad_page},
+            {"L04 cleared by a second byte", "P2 L04",
+             "quad " + w25 + "@sr2 I ID WR:06 WR:31,d=0x02 BUSY WR:06 WR:01,d=0x00_0x00 BUSY P " + quad_page,
+             "quad " + w25 + "@sr2 I ID WR:06 WR:31,d=0x02 BUSY WR:06 WR:01,d=0x00_0x02 BUSY P " + quad_page},
+            {"L04 cleared by its own command", "V0 L04",
+             "quad " + w25 + "@sr2 I ID WR:06 WR:01,d=0x00_0x02 BUSY WR:06 WR:31,d=0x00 BUSY V RD:6B,w=1-1-4",
+             "quad @sr2 I ID WR:06 WR:01,d=0x00 BUSY RR:35,d=0x02,m=0x02 V RD:6B,w=1-1-4"},
+            {"L04 cleared where that is known", "V0 L04",
+             "quad @sr2 I ID WR:06 WR:31,d=0x02 BUSY WR:06 WR:01,d=0x40 BUSY V RD:6B,w=1-1-4",
+             "quad I ID WR:06 WR:31,d=0x02 BUSY WR:06 WR:01,d=0x00 BUSY V RD:6B,w=1-1-4"},
             {"L04 flag status", "V0 L04", "quad I ID BUSY V RD:6B,w=1-1-4",
              "quad I ID RR:70,d=0x80,m=0x80 V RD:6B,w=1-1-4"},
             {"L05", "V0 L05", w25 + "V RD:6B,w=1-1-4", w25 + "V RD:3B,w=1-1-2"},
@@ -307,6 +319,8 @@ private slots:
              "7 us are waited for instead of asking whether the chip is ready."},
             {"L04", "quad V RD:6B,w=1-1-4",
              "The command is on four lines, and nothing before it sets or checks the quad-enable bit."},
+            {"L04 cleared", "quad @sr2 I ID WR:06 WR:01,d=0x00 BUSY WR:66 WR:99 V RD:6B,w=1-1-4",
+             "The command is on four lines, and a write of the status registers before it clears the quad-enable bit."},
             {"L05", "V RD:6B,w=1-1-4", "The command is on four lines, but the single-I/O flow has one."},
             {"L06", "V RD:0B,l=20000000",
              "Three address bytes reach 16777216 bytes, but the action works on 20000000."},
@@ -367,18 +381,20 @@ private slots:
     // What is known of a device comes from its record and from the listed parts with its ID.
     void a_device_is_what_its_record_and_its_id_say_data()
     {
-        rows<QString, int, bool>({{"one part", "0xEF 0x40 0x18", 256, true},
-                                  {"parts with other pages", "0x01 0x02 0x19", 0, true},
-                                  {"no quad-enable bit", "0x20 0xBA 0x19", 256, false},
-                                  {"another part of that maker", "0x20 0xBA 0x55", 0, false},
-                                  {"another part of another maker", "0xEF 0x40 0x55", 0, true},
-                                  {"nobody's", "0xEE 0x40 0x18", 0, true},
-                                  {"none", "", 0, true}});
+        rows<QString, int, bool, bool>({{"one part", "0xEF 0x40 0x18", 256, true, true},
+                                        {"parts with other pages", "0x01 0x02 0x19", 0, true, true},
+                                        {"bit in the first register", "0xC2 0x20 0x19", 256, true, false},
+                                        {"command of its own", "0xC8 0x40 0x18", 256, true, false},
+                                        {"no quad-enable bit", "0x20 0xBA 0x19", 256, false, false},
+                                        {"another part of that maker", "0x20 0xBA 0x55", 0, false, false},
+                                        {"another part of another maker", "0xEF 0x40 0x55", 0, true, false},
+                                        {"nobody's", "0xEE 0x40 0x18", 0, true, false},
+                                        {"none", "", 0, true, false}});
     }
 
     void a_device_is_what_its_record_and_its_id_say()
     {
-        const auto [id, page_size, has_quad_enable] = row<QString, int, bool>();
+        const auto [id, page_size, has_quad_enable, clears] = row<QString, int, bool, bool>();
         GFPDB_RECORD record;
         record.row.device_id = id.toStdString();
         record.row.density = "64Mb";
@@ -390,6 +406,7 @@ private slots:
         QCOMPARE(device.id, gfpdb_device_id_bytes(record.row.device_id));
         QCOMPARE(device.page_size, page_size);
         QCOMPARE(device.has_quad_enable, has_quad_enable);
+        QCOMPARE(device.clears_second_status, clears);
 
         record.is_template = true;
         QCOMPARE(gfpdb_lint_device(record).bytes, std::int64_t(0));

@@ -37,6 +37,9 @@ struct GFPDB_LINT_DEVICE
     int page_size = 0;
     // False when listed parts with the ID, or else listed parts of its maker, have no quad-enable bit.
     bool has_quad_enable = true;
+    // True when the listed parts with the ID have the bit in the second status register, which a write of the first one
+    // that leaves it out clears.
+    bool clears_second_status = false;
 };
 
 struct GFPDB_LINT_FINDING
