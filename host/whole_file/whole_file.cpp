@@ -21,16 +21,6 @@ std::nullopt_t fail(std::string& problem, const std::string& text)
     return std::nullopt;
 }
 
-// "it is larger than 16 MiB": the largest unit in which the number is whole.
-std::string too_large(std::size_t largest)
-{
-    constexpr std::array<const char*, 4> UNITS = {"bytes", "KiB", "MiB", "GiB"};
-    std::size_t unit = 0;
-    for (; unit + 1 < UNITS.size() && largest >= KIBIBYTE && largest % KIBIBYTE == 0; ++unit)
-        largest /= KIBIBYTE;
-    return "it is larger than " + std::to_string(largest) + ' ' + UNITS[unit];
-}
-
 // A caller's pipe may be one that does not wait.
 bool wait_for_input(int descriptor)
 {
@@ -39,6 +29,20 @@ bool wait_for_input(int descriptor)
 }
 
 } // namespace
+
+std::string whole_file_size(std::size_t bytes)
+{
+    constexpr std::array<const char*, 4> UNITS = {"bytes", "KiB", "MiB", "GiB"};
+    std::size_t unit = 0;
+    for (; unit + 1 < UNITS.size() && bytes >= KIBIBYTE && bytes % KIBIBYTE == 0; ++unit)
+        bytes /= KIBIBYTE;
+    return std::to_string(bytes) + ' ' + UNITS[unit];
+}
+
+std::string whole_file_too_large(std::size_t largest)
+{
+    return "it is larger than " + whole_file_size(largest);
+}
 
 std::optional<std::string> read_whole_file(const std::string& path, std::size_t largest, std::string& problem)
 {
@@ -52,9 +56,9 @@ std::optional<std::string> read_whole_file(const std::string& path, std::size_t 
     if (::fstat(descriptor, &status) != 0)
         problem = std::strerror(errno);
     else if (!S_ISREG(status.st_mode))
-        problem = "it is not a regular file";
+        problem = WHOLE_FILE_NOT_REGULAR;
     else if (status.st_size > 0 && static_cast<std::size_t>(status.st_size) > largest)
-        problem = too_large(largest);
+        problem = whole_file_too_large(largest);
     else
         bytes = read_descriptor(descriptor, largest, problem);
     ::close(descriptor);
@@ -77,6 +81,6 @@ std::optional<std::string> read_descriptor(int descriptor, std::size_t largest, 
             return fail(problem, std::strerror(errno));
         bytes.append(block.data(), static_cast<std::size_t>(count));
         if (bytes.size() > largest)
-            return fail(problem, too_large(largest));
+            return fail(problem, whole_file_too_large(largest));
     }
 }

@@ -2,11 +2,10 @@
 #include "gfpdb/gfpdb_catalogue.h"
 
 #include "base/gfpdb_log.h"
+#include "base/gfpdb_read_file.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
 #include "catalogue/gfpdb_catalogue_csv.h"
-
-#include "whole_file/whole_file.h"
 
 #include <QFile>
 
@@ -48,7 +47,7 @@ const CATALOGUE& catalogue()
 std::optional<std::string> read_bytes(const QString& path, std::string& problem)
 {
     if (!path.startsWith(QLatin1String(":/")))
-        return read_whole_file(QFile::encodeName(path).toStdString(), LARGEST_FILE, problem);
+        return gfpdb_read_file(QFile::encodeName(path).toStdString(), LARGEST_FILE, problem);
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         return file.readAll().toStdString();

@@ -2,11 +2,11 @@
 #include "exchange/gfpdb_record_csv.h"
 #include "exchange/gfpdb_record_json.h"
 
+#include "base/gfpdb_read_file.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
 
 #include "gfpdb/gfpdb_exchange.h"
-#include "whole_file/whole_file.h"
 
 #include <unistd.h>
 
@@ -22,8 +22,8 @@ constexpr std::size_t PERCENT = 100;
 bool read_text(const std::string& path, std::string& text, std::string& problem)
 {
     std::string reason;
-    std::optional<std::string> bytes = path == STANDARD_INPUT ? read_descriptor(STDIN_FILENO, LARGEST, reason)
-                                                              : read_whole_file(path, LARGEST, reason);
+    std::optional<std::string> bytes = path == STANDARD_INPUT ? gfpdb_read_descriptor(STDIN_FILENO, LARGEST, reason)
+                                                              : gfpdb_read_file(path, LARGEST, reason);
     if (!bytes) {
         problem = GFPDB_WORDS::say("The file cannot be read: %1.", {reason});
         return false;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 
 // Reading whole files: which ones, how much of them, and what is said about the others.
+#include "base/gfpdb_read_file.h"
 #include "gfpdb_test.h"
+#include "marking_translator.h"
 #include "test_rows.h"
 
 #include "whole_file/whole_file.h"
@@ -119,6 +121,12 @@ private slots:
 
         QVERIFY(!read_whole_file(path, LIMIT, told));
         QCOMPARE(told, problem.toStdString());
+
+        // What the system says has its language already.
+        const MARKING_TRANSLATOR translator("gfpdb");
+        QVERIFY(!gfpdb_read_file(path, LIMIT, told));
+        const bool is_ours = problem == QLatin1String(WHOLE_FILE_NOT_REGULAR);
+        QCOMPARE(told, is_ours ? '[' + problem.toStdString() + ']' : problem.toStdString());
     }
 
     void a_pipe_is_read_to_its_end()
@@ -175,6 +183,10 @@ private slots:
         told.clear();
         QVERIFY(!read_descriptor(endless, limit, told));
         QCOMPARE(told, problem.toStdString());
+
+        const MARKING_TRANSLATOR translator("gfpdb");
+        QVERIFY(!gfpdb_read_descriptor(endless, limit, told));
+        QCOMPARE(told, '[' + problem.toStdString() + ']');
         ::close(endless);
     }
 };

@@ -4,10 +4,10 @@
 // has these settings and no others, of these forms, and none that would have libpq read another file than certificates.
 #include "store/server/gfpdb_server_file.h"
 
+#include "base/gfpdb_read_file.h"
 #include "base/gfpdb_text.h"
 #include "base/gfpdb_words.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
-#include "whole_file/whole_file.h"
 
 #include <QFile>
 #include <QSaveFile>
@@ -302,7 +302,7 @@ std::optional<GFPDB_SERVER> gfpdb_read_server(const std::string& directory, std:
 {
     const std::string path = path_in(directory, GFPDB_SERVER_FILE);
     std::string why;
-    const std::optional<std::string> content = read_whole_file(path, LARGEST_FILE, why);
+    const std::optional<std::string> content = gfpdb_read_file(path, LARGEST_FILE, why);
     GFPDB_SERVER server;
     if (content && parse(QByteArray::fromStdString(*content), server, why) && find_fault(server, why))
         return server;
