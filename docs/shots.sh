@@ -22,6 +22,8 @@ readonly PARTS=$WORK/flash-parts
 
 readonly CHECKS_OF_A_STILL_WINDOW=100
 readonly PAUSE=0.2
+# A program on a busy machine takes its time; one minute is more than any window needs.
+readonly LONGEST_WAIT=60
 # Colours of a PNG: the dialog has few, and a small palette keeps the files small.
 readonly COLORS=128
 
@@ -29,8 +31,28 @@ SERVER=
 WINDOW_MANAGER=
 PROGRAM=
 WINDOW=
+# The one that is being taken.
+PICTURE=
 
 say() { printf '%s\n' "$*" >&2; }
+
+# wait_until WHAT COMMAND...: runs the command until it succeeds. Ends the script when that takes too long, or when the
+# program has ended.
+wait_until() {
+    local what=$1 end=$((SECONDS + LONGEST_WAIT))
+    shift
+    until "$@"; do
+        if [ -n "$PROGRAM" ] && ! kill -0 "$PROGRAM" 2>/dev/null; then
+            say "The program has ended: $(cat "$WORK/host.err")"
+            exit 1
+        fi
+        if ((SECONDS >= end)); then
+            say "$what did not come within $LONGEST_WAIT s (picture $PICTURE)."
+            exit 1
+        fi
+        sleep "$PAUSE"
+    done
+}
 
 end_program() {
     [ -z "$PROGRAM" ] || kill "$PROGRAM" 2>/dev/null || true
@@ -51,12 +73,17 @@ start_screen() {
     Xvfb -displayfd 4 -screen 0 2400x2100x24 -nolisten tcp 4>"$WORK/display" 2>"$WORK/xvfb.log" &
     SERVER=$!
     local number
-    read -r number <"$WORK/display"
+    if ! read -r -t "$LONGEST_WAIT" number <"$WORK/display"; then
+        say "Xvfb did not start: $(cat "$WORK/xvfb.log")"
+        exit 1
+    fi
     export DISPLAY=:$number
     openbox --sm-disable >"$WORK/openbox.log" 2>&1 &
     WINDOW_MANAGER=$!
-    until xdotool get_num_desktops >/dev/null 2>&1; do sleep "$PAUSE"; done
+    wait_until "The window manager" has_desktop
 }
+
+has_desktop() { xdotool get_num_desktops >/dev/null 2>&1; }
 
 set_environment() {
     export HOME=$WORK/home XDG_CONFIG_HOME=$WORK/config XDG_RUNTIME_DIR=$WORK/run GFPDB_SETTINGS=$WORK/gfpdb.ini
@@ -134,19 +161,14 @@ open_program() {
     end_program
     "$HOST" --database "$PARTS/" "$@" >"$WORK/host.out" 2>"$WORK/host.err" &
     PROGRAM=$!
-    wait_for_window
-    xdotool windowactivate --sync "$WINDOW"
+    wait_until "The program's window" find_window
+    xdotool windowactivate "$WINDOW"
+    wait_until "The focus of the program's window" has_focus "$WINDOW"
 }
 
 # The program's window, once it is there. A search fails when a window goes while it looks at it.
-wait_for_window() {
-    until WINDOW=$(xdotool search --onlyvisible --limit 1 --pid "$PROGRAM" --name . 2>/dev/null) && [ -n "$WINDOW" ]; do
-        if ! kill -0 "$PROGRAM" 2>/dev/null; then
-            say "The program has ended: $(cat "$WORK/host.err")"
-            exit 1
-        fi
-        sleep "$PAUSE"
-    done
+find_window() {
+    WINDOW=$(xdotool search --onlyvisible --limit 1 --pid "$PROGRAM" --name . 2>/dev/null) && [ -n "$WINDOW" ]
 }
 
 press() { xdotool key --clearmodifiers "$@"; }
@@ -157,7 +179,16 @@ times() {
 }
 
 # The window of the program that has the focus: a dialog over the dialog, if there is one.
-front_window() { WINDOW=$(xdotool getactivewindow); }
+front_window() { WINDOW=$(xdotool getactivewindow 2>/dev/null); }
+has_focus() { [ "$(xdotool getactivewindow 2>/dev/null)" = "$1" ]; }
+# is_other_window WINDOW...: another one than these has the focus; it becomes the window.
+is_other_window() {
+    front_window || return 1
+    local each
+    for each in "$@"; do [ "$WINDOW" != "$each" ] || return 1; done
+}
+# wait_for_dialog WINDOW...: the dialog that comes over these.
+wait_for_dialog() { wait_until "The dialog" is_other_window "$@"; }
 
 # picture NAME [WINDOW]: what the window shows when it has stopped changing.
 picture() {
@@ -264,7 +295,7 @@ shot_dialog() {
     open_program --family 1 --scheme 7 --device MX25L25645G
     local window=$WINDOW
     press "$2"
-    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$window"
     picture "$1"
 }
 
@@ -273,7 +304,7 @@ shot_database() {
     open_program --family 1 --scheme 7 --device MX25L25645G
     local window=$WINDOW
     press ctrl+b
-    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$window"
     xdotool type --delay 50 "$2"
     press Return
     picture "$1"
@@ -286,7 +317,7 @@ show_history() {
     open_program --family 1 --scheme 7 --device MX25L25645G
     local window=$WINDOW
     press ctrl+b
-    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$window"
     press ctrl+Tab
 }
 
@@ -301,7 +332,7 @@ shot_device-compare() {
     local window=$WINDOW
     times 3 Tab
     press Down Down Return
-    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$window"
     picture device-compare
 }
 
@@ -312,11 +343,11 @@ shot_import() {
     show_history
     local window=$WINDOW
     press alt+t i
-    until front_window && [ "$WINDOW" != "$window" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$window"
     local chooser=$WINDOW
     xdotool type --delay 20 "\"$WORK/team-512.json\" \"$WORK/team-128.json\""
     press Return
-    until front_window && [ "$WINDOW" != "$window" ] && [ "$WINDOW" != "$chooser" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$window" "$chooser"
     picture import
 }
 
@@ -336,7 +367,7 @@ shot_message() {
     mv "$PARTS" "$PARTS-away"
     # From the family, which comes first, to the button that comes last.
     press shift+Tab space
-    until front_window && [ "$WINDOW" != "$dialog" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$dialog"
     picture message
     mv "$PARTS-away" "$PARTS"
 }
@@ -347,7 +378,7 @@ shot_template-editor() {
     # From the family, over the page title, the list and the fields, to the template's button.
     times 16 Tab
     press space
-    until front_window && [ "$WINDOW" != "$dialog" ]; do sleep "$PAUSE"; done
+    wait_for_dialog "$dialog"
     press Down
     picture template-editor
 }
@@ -394,10 +425,10 @@ main() {
     set_environment
     fill_database
     start_screen
-    local pictures=("${WANTED[@]}") name
+    local pictures=("${WANTED[@]}")
     [ ${#pictures[@]} -gt 0 ] || pictures=("${PICTURES[@]}")
-    for name in "${pictures[@]}"; do
-        "shot_$name"
+    for PICTURE in "${pictures[@]}"; do
+        "shot_$PICTURE"
     done
 }
 
