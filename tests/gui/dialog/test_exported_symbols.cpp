@@ -94,7 +94,7 @@ private slots:
               "GFPDB_DATABASE::find_misplaced GFPDB_DATABASE::find_stored GFPDB_DATABASE::get_catalogue_problem "
               "GFPDB_DATABASE::get_directory GFPDB_DATABASE::get_last_error GFPDB_DATABASE::get_read_problem "
               "GFPDB_DATABASE::get_write_problem GFPDB_DATABASE::import GFPDB_DATABASE::is_name_of_other_kind "
-              "GFPDB_DATABASE::load GFPDB_DATABASE::load_state GFPDB_DATABASE::prune_history "
+              "GFPDB_DATABASE::load GFPDB_DATABASE::load_state GFPDB_DATABASE::only_look GFPDB_DATABASE::prune_history "
               "GFPDB_DATABASE::rebuild_keys GFPDB_DATABASE::remove GFPDB_DATABASE::restore_state "
               "GFPDB_DATABASE::set_upgrade_progress GFPDB_FILE_READER::GFPDB_FILE_READER GFPDB_FILE_READER::done "
               "GFPDB_FILE_READER::file GFPDB_FILE_READER::load GFPDB_FILE_READER::read_next GFPDB_FILE_READER::total "
