@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>Der Import wurde abgebrochen.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>sie ist größer als %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>Der Befehl benutzt vier Leitungen, und davor löscht ein Schreiben der Statusregister das Quad-Enable-Bit.</translation>
+    </message>
 </context>
 </TS>

@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>La importación se canceló.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>ocupa más de %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>El comando usa cuatro líneas y antes de él una escritura de los registros de estado borra el bit quad enable.</translation>
+    </message>
 </context>
 </TS>

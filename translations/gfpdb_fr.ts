@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>L’importation a été annulée.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>il dépasse %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>La commande utilise quatre lignes, et avant elle une écriture des registres d’état efface le bit quad enable.</translation>
+    </message>
 </context>
 </TS>

@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>L’importazione è stata annullata.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>non è un file normale</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>supera %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>Il comando usa quattro linee e prima di esso una scrittura dei registri di stato cancella il bit quad enable.</translation>
+    </message>
 </context>
 </TS>

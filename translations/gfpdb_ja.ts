@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>インポートはキャンセルされました。</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>%1 を超えています</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>コマンドは 4 線ですが、その前のステータスレジスタへの書き込みが Quad Enable ビットをクリアします。</translation>
+    </message>
 </context>
 </TS>

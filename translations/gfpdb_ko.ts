@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>가져오기가 취소되었습니다.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>%1보다 큽니다</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>명령은 네 라인을 쓰지만 그 앞의 상태 레지스터 쓰기가 Quad Enable 비트를 지웁니다.</translation>
+    </message>
 </context>
 </TS>

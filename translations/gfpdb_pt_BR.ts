@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>A importação foi cancelada.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>não é um arquivo comum</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>ele tem mais de %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>O comando usa quatro linhas, e antes dele uma escrita dos registradores de status limpa o bit quad enable.</translation>
+    </message>
 </context>
 </TS>

@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>Импорт отменён.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>его размер больше %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>Команда использует четыре линии, но запись регистров состояния до неё сбрасывает бит Quad Enable.</translation>
+    </message>
 </context>
 </TS>

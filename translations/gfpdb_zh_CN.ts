@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>导入已取消。</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>它大于 %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>此命令使用四线，但之前对状态寄存器的写入清除了 Quad Enable 位。</translation>
+    </message>
 </context>
 </TS>

@@ -1470,5 +1470,17 @@
         <source>The import was cancelled.</source>
         <translation>匯入已取消。</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>它不是一般檔案</translation>
+    </message>
+    <message>
+        <source>it is larger than %1</source>
+        <translation>它大於 %1</translation>
+    </message>
+    <message>
+        <source>The command is on four lines, and a write of the status registers before it clears the quad-enable bit.</source>
+        <translation>此命令使用四線，但之前對狀態暫存器的寫入清除了 Quad Enable 位元。</translation>
+    </message>
 </context>
 </TS>
