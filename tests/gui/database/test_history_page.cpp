@@ -37,6 +37,8 @@ private slots:
         QCOMPARE(count(), qs("States: 2"));
         const QAbstractItemModel& model = *table().model();
         QVERIFY(model.index(0, HISTORY_MODEL::CHANGE).data(Qt::ToolTipRole).toString().contains(qs("was deleted")));
+        for (const int missing : {-1, int(HISTORY_MODEL::COLUMNS)})
+            QVERIFY(!model.headerData(missing, Qt::Horizontal).isValid());
     }
 
     void a_filter_finds_names_users_and_kinds_data()
