@@ -92,6 +92,19 @@ private slots:
         QCOMPARE(shapes_of(scene).size(), 7);
     }
 
+    void a_copy_of_nothing_empties_the_clipboard()
+    {
+        auto [scene, view] = CHART({"one"});
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        click(*view, on_arrow(scene, 0));
+
+        scene.on_copy_action();
+        scene.on_paste_action();
+
+        QCOMPARE(plain_names(scene), list({"one"}));
+    }
+
     void a_paste_keeps_every_value_in_order()
     {
         auto [scene, view] = CHART({make_action(3, {{21, "n"}, {24, "4"}, {30, "1-1-4"}})});

@@ -129,7 +129,9 @@ private slots:
             QGraphicsSceneDragDropEvent drop(QEvent::GraphicsSceneDrop);
             drop.setMimeData(&data);
             drop.setScenePos(pos);
+            drop.setProposedAction(Qt::MoveAction);
             QApplication::sendEvent(&scene, &drop);
+            QCOMPARE(drop.dropAction(), Qt::MoveAction);
         };
 
         drop_at(on_shape(scene, 1));

@@ -52,6 +52,10 @@ private slots:
         QVERIFY(delegate.createEditor(&parent, QStyleOptionViewItem(), QModelIndex()) == nullptr);
         delegate.setEditorData(&edit, QModelIndex());
         QCOMPARE(edit.text(), qs("kept"));
+        QComboBox box;
+        box.addItem(qs("kept"));
+        delegate.setEditorData(&box, QModelIndex());
+        QCOMPARE(box.count(), 1);
     }
 
     void a_combo_box_offers_the_checkers_choices()
@@ -144,6 +148,30 @@ private slots:
         QCOMPARE(calls_of({"check_property_value", "set_property_value"}),
                  list({"action(5:default 38).check_property_value(1, \"31h\")",
                        "action(0:default 0).set_property_value(1, \"31h\")"}));
+    }
+
+    // Also an empty one, and one that did not change; a refusal needs no words.
+    void every_committed_text_is_checked_and_stored()
+    {
+        const auto page = show_selected(ACTION_LIST({make_action(0, {{1, "9Fh"}})}).get());
+        QSignalSpy updated(page.get(), SIGNAL(emit_update_flow_scene()));
+        m_checker->refused[1] = "";
+        for (const char* text : {"x", "", ""}) {
+            auto* const editor = qobject_cast<QLineEdit*>(open_editor(*page, 1));
+            QVERIFY(editor != nullptr);
+            editor->setText(qs(text));
+            m_modals.expect(MODAL_DRIVER::accept());
+            log().clear();
+
+            page->commit_open_editor();
+
+            QCOMPARE(m_modals.last().text, QString());
+            QCOMPARE(stored(*page, 1), list({text, text, text}));
+            QCOMPARE(count_of("check_property_value"), 1);
+            QCOMPARE(count_of("set_property_value"), 1);
+        }
+        QCOMPARE(m_modals.met().size(), 3);
+        QCOMPARE(updated.size(), 3);
     }
 
     void the_cell_comes_first_then_the_action_then_the_chart()

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QGraphicsSceneDragDropEvent>
 #include <QGraphicsSceneMouseEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -80,6 +81,22 @@ private slots:
         QTest::keyClick(view.get(), Qt::Key_V, Qt::ControlModifier);
 
         QCOMPARE(names_of(scene.get_actions()), list({"0:two", "0:one", "0:two", "4:default 31"}));
+    }
+
+    // Armed with Control held, too.
+    void another_chart_leaves_the_paste_armed_and_its_place()
+    {
+        auto [scene, view] = CHART({"one", "two"});
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        click(*view, on_arrow(scene, 0), Qt::ControlModifier);
+
+        load_names(scene, {"three"});
+        select_blocks(scene, {0});
+        scene.on_copy_action();
+        QTest::keyClick(view.get(), Qt::Key_V, Qt::ControlModifier);
+
+        QCOMPARE(plain_names(scene), list({"three", "three"}));
     }
 
     void a_drop_is_accepted_before_anything_else()
@@ -178,6 +195,23 @@ private slots:
         double_click(view, on_arrow(scene, 0));
         QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(plain_names(scene), list({"two", "one", "two"}));
+    }
+
+    void the_words_of_the_library_and_of_drags_are_not_translated()
+    {
+        ANY_LANGUAGE language;
+        QCoreApplication::installTranslator(&language);
+
+        const auto page =
+            show_selected(ACTION_LIST({make_named_action(0, "one"), make_loop_action("page", "end")}).get());
+        const QString tip = GFPQ_ACTION_MENU_ITEM(4).toolTip();
+        const QString description = page->findChild<QLabel*>()->text();
+
+        QCoreApplication::removeTranslator(&language);
+        QCOMPARE(texts_of(scene_of(*page)).filter(qs("other ")), QStringList());
+        QCOMPARE(column_of(*page, 0).first(), qs("Name:"));
+        QCOMPARE(tip, qs("Erase"));
+        QVERIFY(!description.startsWith(qs("other ")));
     }
 
     void a_loop_leads_back_within_its_own_chart_only()
@@ -285,6 +319,11 @@ private slots:
 
         QVERIFY(is_handed_on(scene, Qt::Key_F5));
         QCOMPARE(rebuilt.size(), 1);
+        // A key that is held repeats its command.
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_F5, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&scene, &held);
+        QCOMPARE(rebuilt.size(), 2);
+        rebuilt.removeLast();
         select_blocks(scene, {0});
         QVERIFY(is_handed_on(scene, Qt::Key_C, Qt::ControlModifier));
         press_at(scene, on_arrow(scene, 0));

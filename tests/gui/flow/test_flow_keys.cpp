@@ -16,6 +16,7 @@ private slots:
     {
         rows<int, int, QString>({{"Delete", Qt::Key_Delete, Qt::NoModifier, "deleted"},
                                  {"Ctrl+Delete", Qt::Key_Delete, Qt::ControlModifier, "deleted"},
+                                 {"Delete of the keypad", Qt::Key_Delete, Qt::KeypadModifier, "deleted"},
                                  {"Shift+Delete", Qt::Key_Delete, Qt::ShiftModifier, "deleted"},
                                  {"Backspace", Qt::Key_Backspace, Qt::NoModifier, ""},
                                  {"Ctrl+C", Qt::Key_C, Qt::ControlModifier, "copied"},
@@ -51,10 +52,12 @@ private slots:
         auto [scene, view] = CHART({"one", "two"});
         QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
 
-        // Clicked before the copy: not armed.
+        // Clicked before the copy: not armed. A right click does not arm it either.
         click(*view, on_arrow(scene, 0));
         click(*view, on_shape(scene, 1));
         QTest::keyClick(view.get(), Qt::Key_C, Qt::ControlModifier);
+        m_modals.expect(close_menu());
+        right_click(*view, on_arrow(scene, 0));
         QTest::keyClick(view.get(), Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(rebuilt.size(), 0);
 

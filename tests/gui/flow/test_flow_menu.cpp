@@ -47,6 +47,21 @@ private slots:
         QCOMPARE(plain_names(scene), list({"one", "two"}));
     }
 
+    void the_commands_belong_to_the_scene()
+    {
+        const GFPQ_FLOW_SCENE scene(nullptr, 0);
+
+        QStringList commands;
+        const QList<QAction*> actions = scene.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QAction* const action : actions) {
+            commands.append(action->text());
+            QVERIFY(action->shortcut().isEmpty());
+        }
+
+        QCOMPARE(commands, list({"Refresh", "Delete", "Copy", "Paste", "Write Register", "Read Register", "Write Data",
+                                 "Read Data", "Erase"}));
+    }
+
     void only_the_title_of_the_submenu_is_translated()
     {
         // Knows a word for everything, and tells from which context it was asked for.
@@ -303,6 +318,9 @@ private slots:
         QTest::keyClick(view.get(), Qt::Key_C, Qt::ControlModifier);
         QTest::keyClick(view.get(), Qt::Key_V, Qt::ControlModifier);
         QTest::keyClick(view.get(), Qt::Key_Delete);
+        QSignalSpy rebuilt(&scene, SIGNAL(emit_clear_table()));
+        QTest::keyClick(view.get(), Qt::Key_F5);
+        QCOMPARE(rebuilt.size(), 1);
         m_modals.expect(close_menu());
         m_modals.expect(close_menu());
 

@@ -122,6 +122,7 @@ private slots:
         QCOMPARE(flow_view_of(page)->alignment(), Qt::Alignment(Qt::AlignCenter));
         for (const QGraphicsView* const view : {flow_view_of(page), palette_view_of(page)}) {
             QCOMPARE(view->backgroundBrush(), QBrush(Qt::white));
+            QVERIFY(view->isInteractive());
             QCOMPARE(view->scene()->parent(), static_cast<const QObject*>(&page));
         }
         QCOMPARE(palette_view_of(page)->scene()->metaObject()->className(), "QGraphicsScene");
@@ -282,12 +283,14 @@ private slots:
         const auto page = show_page(1, ACTION_LIST({make_named_action(0, "one")}).get());
         blocks_of(scene_of(*page)).first()->setSelected(true);
         QCOMPARE(property_table_of(*page)->model()->rowCount(), 5);
+        log().clear();
 
         page->load_flow(nullptr, true);
 
         QVERIFY(page->get_flow().isEmpty());
         QCOMPARE(shapes_of(scene_of(*page)).size(), 2);
         QCOMPARE(property_table_of(*page)->model()->rowCount(), 0);
+        QCOMPARE(count_of("get_active_flash_manager"), 0);
     }
 
     void loading_replaces_and_deletes_what_was_there()

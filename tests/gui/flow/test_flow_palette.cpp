@@ -95,6 +95,9 @@ private slots:
         QCOMPARE(entry.rect(), QRectF(0, 0, 60, 40));
         QCOMPARE(entry.brush(), QBrush(color, Qt::SolidPattern));
         QCOMPARE(entry.brush().color().alpha(), 255);
+        QCOMPARE(entry.pen(), QGraphicsRectItem().pen());
+        QCOMPARE(entry.zValue(), 0.0);
+        QVERIFY(!entry.acceptDrops());
         QCOMPARE(entry.toolTip(), name);
         QCOMPARE(entry.cursor().shape(), Qt::OpenHandCursor);
         QCOMPARE(entry.acceptedMouseButtons(), Qt::MouseButtons(Qt::LeftButton));

@@ -59,6 +59,25 @@ private slots:
         QVERIFY(scene.sceneRect().width() < rect.width() && scene.sceneRect().height() < rect.height());
     }
 
+    // What is asked for then, or selected, counts.
+    void a_teardown_is_over_when_it_is_told()
+    {
+        const ACTION_LIST actions({make_named_action(0, "w")});
+        OPEN_SCENE scene(nullptr, 0);
+        const TOLD_ACTIONS told(scene);
+        connect(&scene, &GFPQ_FLOW_SCENE::emit_clear_table, this, [&] {
+            scene.refresh_flow_chain();
+            QGraphicsRectItem* const block = scene.add_action_block(QRectF(0, 0, 9, 9), Qt::red, true);
+            scene.create_text_item(actions.get().front(), Qt::AlignCenter)->setParentItem(block);
+            block->setSelected(true);
+        });
+
+        scene.create_flow_chain();
+
+        QCOMPARE(told.actions, QList<GFPDB_ACTION*>{actions.get().front()});
+        QVERIFY(scene.take_pending_refresh());
+    }
+
     void nothing_but_the_chart_moves_the_scene_rectangle()
     {
         LOADED_SCENE scene({"one"});

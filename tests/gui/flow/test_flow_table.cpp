@@ -111,6 +111,7 @@ private slots:
 
         for (int row = 0; row < 5; ++row) {
             QCOMPARE(value_cell(*page, row).flags().testFlag(Qt::ItemIsEnabled), row != 2 && row != 4);
+            QVERIFY(value_cell(*page, row).flags().testFlag(Qt::ItemIsEditable));
             QVERIFY(rows_of(*page).index(row, 0).flags().testFlag(Qt::ItemIsEnabled));
         }
     }
@@ -176,6 +177,7 @@ private slots:
 
         page->clear_property_table();
         QCOMPARE(rows_of(*page).rowCount(), 0);
+        QCOMPARE(scene_of(*page).selectedItems().size(), 1);
         QCOMPARE(rows_of(*page).headerData(0, Qt::Horizontal).toString(), qs("Property"));
         QCOMPARE(rows_of(*page).headerData(1, Qt::Horizontal).toString(), qs("Value"));
     }
