@@ -215,15 +215,11 @@ FLASH_DOUBLE& MGR_DOUBLE::add_builtin(const std::string& name)
 
 bool MGR_DOUBLE::is_accepted(int property, const std::string& value, std::string& error) const
 {
-    const auto of_value = refused_values.find({property, value});
-    const auto of_property = refused_properties.find(property);
-    if (of_value != refused_values.end())
-        error = of_value->second;
-    else if (of_property != refused_properties.end())
-        error = of_property->second;
-    else
-        return true;
-    return false;
+    const std::string* refusal = entry_or_null(refused_values, {property, value});
+    if (refusal == nullptr)
+        refusal = entry_or_null(refused_properties, property);
+    error = refusal != nullptr ? *refusal : entry(remarks, property, error);
+    return refusal == nullptr;
 }
 
 bool MGR_DOUBLE::verify_string_property(GFPDB_FLASH_PROPERTY property, const std::string& value,

@@ -400,6 +400,8 @@ public:
     std::set<int> schemes_without_flows;
     std::map<int, std::string> refused_properties;
     std::map<std::pair<int, std::string>, std::string> refused_values;
+    // What a check that accepts a value of the property leaves in the error.
+    std::map<int, std::string> remarks;
     // Voltages (or other values) that verify_string_property refuses.
     std::map<std::pair<int, std::string>, std::string> unverified_values;
     bool follows_saves = true;

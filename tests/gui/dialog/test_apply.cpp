@@ -41,6 +41,17 @@ private slots:
         COMPARE_CALLS(calls_of_apply().mid(0, expected.size()), expected);
     }
 
+    void the_pages_have_handed_their_flows_over_when_the_other_variant_is_fetched()
+    {
+        open();
+        QStringList kept{qs("not fetched")};
+        log().on_call(qs("get_builtin_template_operations"), [&](const QString&) { kept = page_flows(); });
+
+        QVERIFY(apply());
+
+        QCOMPARE(kept, QStringList());
+    }
+
     void a_stored_device_is_replaced_in_order()
     {
         open_with("A");

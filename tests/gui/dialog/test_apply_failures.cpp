@@ -32,8 +32,11 @@ private slots:
         QVERIFY(m_modals.met().isEmpty());
     }
 
+    void the_form_keeps_the_users_values_data() { a_failed_step_raises_the_message_data(); }
+
     void the_form_keeps_the_users_values()
     {
+        mgr().delete_succeeds = row<bool>();
         mgr().save_succeeds = false;
         mgr().follows_saves = false;
         open_with("A");
@@ -126,8 +129,11 @@ private slots:
         QCOMPARE(page_flows(), flows_named("second"));
     }
 
+    void the_new_record_stays_current_data() { a_failed_step_raises_the_message_data(); }
+
     void the_new_record_stays_current()
     {
+        mgr().delete_succeeds = row<bool>();
         mgr().save_succeeds = false;
         mgr().follows_saves = false;
         open_with("A");

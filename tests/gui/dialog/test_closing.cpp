@@ -103,9 +103,11 @@ private slots:
         QCOMPARE(data("m_config_mode_cbox"), SCHEME_X1);
         QCOMPARE(current_row(), qs("C"));
         QCOMPARE(text("m_device_name_edit"), qs("renamed"));
-        // Cancel after it hands nothing back either.
+        // Cancel after it hands nothing back either, and rejects.
         button("m_cancel_button").click();
         QVERIFY(hands_back_what_came());
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(dlg().result(), static_cast<int>(QDialog::Rejected));
     }
 
     void an_apply_that_saves_nothing_leaves_the_page_and_the_form_data()

@@ -302,15 +302,22 @@ private slots:
     void the_save_check_enables_the_template_name()
     {
         open();
+        show_dialog();
+        type_in("m_device_name_edit", "X");
+        check("m_save_template_check").setFocus();
         QVERIFY(!edit("m_template_name_edit").isEnabled());
 
-        check("m_save_template_check").click();
-        QVERIFY(edit("m_template_name_edit").isEnabled());
-        type_in("m_template_name_edit", "kept");
-        check("m_save_template_check").click();
-
-        QVERIFY(!edit("m_template_name_edit").isEnabled());
-        QCOMPARE(text("m_template_name_edit"), qs("kept"));
+        // Nothing else happens to it.
+        for (const QString& kept : {QString(), qs("kept")}) {
+            type_in("m_template_name_edit", kept);
+            for (const bool checked : {true, false}) {
+                check("m_save_template_check").click();
+                QCOMPARE(edit("m_template_name_edit").isEnabled(), checked);
+                QCOMPARE(text("m_template_name_edit"), kept);
+                QCOMPARE(edit("m_template_name_edit").placeholderText(), QString());
+                QCOMPARE(dlg().focusWidget(), &check("m_save_template_check"));
+            }
+        }
         QCOMPARE(calls(), QStringList());
     }
 

@@ -44,6 +44,18 @@ private slots:
         }
     }
 
+    // A click with Control held takes the selection away, and no more.
+    void a_row_that_is_not_selected_any_more_is_still_current()
+    {
+        open_with("Zeta");
+        table().clearSelection();
+
+        QVERIFY(apply());
+
+        QCOMPARE(calls_of({"is_hidden_flash", "delete_flash"}).mid(0, 2),
+                 list_of({R"(mgr.is_hidden_flash("Zeta", false))", R"(mgr.delete_flash("Zeta", "/db/custom/"))"}));
+    }
+
     void a_filtered_row_names_the_right_device_data()
     {
         const QStringList reloaded =

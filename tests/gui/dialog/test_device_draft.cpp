@@ -142,17 +142,21 @@ private slots:
         QCOMPARE(calls().calls_of(CHECKS).filter(QStringLiteral("property(0,")).size(), checks);
     }
 
-    // Page by page, action by action, in the order of the action's own list; loop markers are left out.
+    // Page by page, action by action, in the order of the action's own list, disabled, empty and strange values
+    // included; custom actions are left out.
     void actions_are_checked_in_order()
     {
         ACTION_DOUBLE* const reading = make_named_action(GFPDB_ACT_READ_REGISTER, "read");
-        reading->properties = {GFPDB_RR_DELAY, GFPDB_RR_NAME};
+        reading->properties = {GFPDB_RR_DELAY, GFPDB_RR_NAME, GFPDB_CUSTOM_LOOP_MARKER};
+        reading->disabled = {GFPDB_RR_NAME};
+        auto* const unknown = new ACTION_DOUBLE(6);
+        unknown->properties = {GFPDB_WR_NAME};
         ACTION_DOUBLE* const erasing = make_named_action(GFPDB_ACT_ERASE, "erase");
         erasing->properties = {GFPDB_ER_NAME};
         ACTION_DOUBLE* const marker = make_loop_action("page", "start");
         marker->refused = {{38, "never asked"}, {39, "never asked"}};
         OPERATION_DOUBLE first(0, {erasing});
-        OPERATION_DOUBLE last(4, {marker, reading});
+        OPERATION_DOUBLE last(4, {marker, reading, unknown});
         GFPQ_DEVICE_DRAFT draft = new_draft();
         set_flows(draft, {&last, &first});
 
@@ -161,7 +165,9 @@ private slots:
         QCOMPARE(calls().calls_of({QStringLiteral("check_property_value")}),
                  list_of({R"(action(4:erase).check_property_value(31, "erase"))",
                           R"(action(1:default 11).check_property_value(11, "default 11"))",
-                          R"(action(1:default 11).check_property_value(5, "read"))"}));
+                          R"(action(1:default 11).check_property_value(5, "read"))",
+                          R"(action(1:default 11).check_property_value(39, ""))",
+                          R"(action(6:).check_property_value(0, ""))"}));
         mgr().flow_edit_allowed = false;
         calls().clear();
         QCOMPARE(draft.find_fault(), QString());
@@ -195,6 +201,22 @@ private slots:
         QVERIFY(calls().calls_of(CHECKS).filter(QStringLiteral("property(7,")).isEmpty());
     }
 
+    void a_refusal_needs_no_text_data() { rows<int>({{"id", 1}, {"die", 4}, {"template name", 7}, {"action", -1}}); }
+
+    void a_refusal_needs_no_text()
+    {
+        const auto property = row<int>();
+        mgr().refuse(property, "");
+        OPERATION_DOUBLE program(1, {make_named_action(GFPDB_ACT_ERASE, "step")});
+        GFPQ_DEVICE_DRAFT draft = new_draft();
+        draft.template_name = QStringLiteral("T");
+        set_flows(draft, {&program});
+        if (property < 0)
+            dynamic_cast<ACTION_DOUBLE&>(*program.actions.front()).refused = {{GFPDB_ER_NAME, ""}};
+
+        QCOMPARE(draft.find_fault(), fault_on(property < 0 ? "Program" : "Configuration Device", ""));
+    }
+
     void a_template_is_not_called_like_the_device_data()
     {
         rows<QByteArray, QByteArray, QByteArray>(
@@ -215,6 +237,34 @@ private slots:
         QCOMPARE(draft.find_fault(), error.isEmpty() ? QString() : fault_on("Configuration Device", error.constData()));
 
         QCOMPARE(calls().calls_of(CHECKS).filter(QStringLiteral("property(7,")).size(), 1);
+    }
+
+    // But it may be called like the device that this one replaces.
+    void a_template_name_is_compared_with_the_name_that_was_entered()
+    {
+        mgr().unused_properties = {GFPDB_FLASH_NAME};
+        GFPQ_DEVICE_DRAFT draft = new_draft();
+        draft.selected = "replaced";
+        draft.template_name = QStringLiteral("replaced");
+        QCOMPARE(draft.find_fault(), QString());
+        QVERIFY(calls().calls().contains(QStringLiteral(R"(mgr.check_string_property(7, "replaced"))")));
+
+        draft.template_name = QStringLiteral("X");
+        QCOMPARE(draft.find_fault(),
+                 fault_on("Configuration Device", "Tempate name 'X' is conflicts with the device name X."));
+    }
+
+    void an_empty_template_name_is_checked_and_stored()
+    {
+        FLASH_DOUBLE& flash = mgr().add_record("X");
+        GFPQ_DEVICE_DRAFT draft = new_draft();
+        draft.template_name = QString();
+
+        QCOMPARE(draft.find_fault(), QString());
+        draft.store_template(flash);
+
+        QCOMPARE(calls().calls().filter(QStringLiteral("property(7,")),
+                 list_of({R"(mgr.check_string_property(7, ""))", R"(flash:X.set_string_property(7, ""))"}));
     }
 
     // The names of the operations are not.
@@ -245,6 +295,22 @@ private slots:
                           "flash:X.set_int_property(4, 4)", "flash:X.set_int_property(5, 0)",
                           "flash:X.set_int_property(6, -7)", R"(flash:X.set_string_property(8, "Built-in B"))",
                           R"(flash:X.set_db_dir("/typed/"))"}));
+    }
+
+    void empty_values_are_stored()
+    {
+        FLASH_DOUBLE& flash = mgr().add_record("X");
+        GFPQ_DEVICE_DRAFT draft = new_draft();
+        for (GFPQ_FIELD_VALUE& value : draft.values)
+            value.text.clear();
+
+        draft.store_fields(flash);
+
+        QCOMPARE(
+            calls().calls_without({QStringLiteral("is_property_used")}).mid(1, 7),
+            list_of({R"(flash:X.set_string_property(1, ""))", R"(flash:X.set_string_property(2, ""))",
+                     R"(flash:X.set_density(""))", "flash:X.set_int_property(4, 0)", "flash:X.set_int_property(5, 0)",
+                     "flash:X.set_int_property(6, 0)", R"(flash:X.set_string_property(8, ""))"}));
     }
 
     void an_unused_field_is_not_stored()
@@ -349,7 +415,7 @@ private slots:
         reading->properties = {GFPDB_RD_BUS_WIDTH, GFPDB_RD_NAME, GFPDB_RD_DATA_LENGTH};
         FLASH_DOUBLE& previous = mgr().add_custom("A");
         previous.operations[true] = {
-            nullptr, without_list,
+            nullptr, without_list, new OPERATION_DOUBLE(3),
             new OPERATION_DOUBLE(2, {reading, nullptr, make_named_action(4, "refused"), make_named_action(1, "last")})};
         mgr().refused_actions = {4};
         FLASH_DOUBLE& flash = mgr().add_record("X");
@@ -357,7 +423,8 @@ private slots:
         draft_of(previous).store_template(flash);
 
         QCOMPARE(calls().calls_of({QStringLiteral("set_operation")}),
-                 list_of({"flash:X.set_operation(op7, true)", "flash:X.set_operation(op2, true)"}));
+                 list_of({"flash:X.set_operation(op7, true)", "flash:X.set_operation(op3, true)",
+                          "flash:X.set_operation(op2, true)"}));
         QCOMPARE(calls().calls_of({QStringLiteral("add_action")}),
                  list_of({"op2.add_action(3:read)", "op2.add_action(1:last)"}));
         QCOMPARE(calls().calls_of({QStringLiteral("create_action"), QStringLiteral("set_property_value")}).mid(0, 4),

@@ -32,10 +32,62 @@ private slots:
         // A refusal is told, and the text stays.
         mgr().refuse(property, "The library's words");
         m_modals.expect(MODAL_DRIVER::accept());
-        enter(name, typed);
+        edit(name).clear();
+        edit(name).insert(typed);
+        QTest::keyClick(&edit(name), Qt::Key_Return);
         QCOMPARE(m_modals.met().size(), 1);
         QCOMPARE(m_modals.last().text, qs("The library's words"));
         QCOMPARE(text(name), typed);
+        QVERIFY(!edit(name).hasSelectedText());
+    }
+
+    void what_is_empty_or_unchanged_is_checked_too()
+    {
+        mgr().add_custom("A");
+        open_with("A");
+
+        for (const char* name : {"m_device_name_edit", "m_device_id_edit"})
+            QTest::keyClick(&edit(name), Qt::Key_Return);
+        for (const char* name : {"m_voltage_cbox", "m_density_cbox", "m_flow_template_cbox"})
+            combo(name).setCurrentIndex(-1);
+
+        QCOMPARE(calls_of({"check_string_property"}),
+                 list_of({R"(mgr.check_string_property(0, "A"))", R"(mgr.check_string_property(1, ""))",
+                          R"(mgr.check_string_property(2, ""))", R"(mgr.check_string_property(3, ""))",
+                          R"(mgr.check_string_property(8, ""))"}));
+    }
+
+    // The fields were chosen when the dialog opened.
+    void a_field_that_is_used_no_more_is_checked_all_the_same()
+    {
+        open();
+        mgr().unused_properties = ALL_FIELDS;
+
+        enter("m_device_id_edit", "x");
+        enter("m_total_die_edit", "4");
+        choose_text("m_density_cbox", "128 Mb");
+
+        QCOMPARE(calls(), list_of({R"(mgr.check_string_property(1, "x"))", "mgr.check_int_property(4, 4)",
+                                   R"(mgr.check_string_property(3, "128 Mb"))"}));
+    }
+
+    // The second check of a voltage gets what the first one wrote into the error; only their answers count.
+    void a_text_in_the_error_is_no_refusal()
+    {
+        for (const int property : {GFPDB_FLASH_DEVICE_ID, GFPDB_FLASH_VOLTAGE, GFPDB_FLASH_TOTAL_DIE})
+            mgr().remarks[property] = "remark";
+        open();
+
+        enter("m_device_id_edit", "x");
+        enter("m_total_die_edit", "4");
+        choose_text("m_voltage_cbox", "2.5 V");
+
+        QVERIFY(m_modals.met().isEmpty());
+        QCOMPARE(calls().last(), qs(R"(mgr.verify_string_property(2, "2.5 V", error was "remark"))"));
+        mgr().unverified_values[{GFPDB_FLASH_VOLTAGE, "3.3 V"}] = "refused";
+        m_modals.expect(MODAL_DRIVER::accept());
+        choose_text("m_voltage_cbox", "3.3 V");
+        QCOMPARE(m_modals.last().text, qs("refused"));
     }
 
     void a_choice_is_checked_data()

@@ -44,6 +44,20 @@ private slots:
         QCOMPARE(page_flow(3), QStringList());
     }
 
+    void pages_are_emptied_before_the_flows_are_asked_for()
+    {
+        for (const char* name : {"A", "B"})
+            mgr().add_custom(name).operations[false] = make_operations(name);
+        open_with("A");
+        QStringList shown_then{qs("not asked")};
+        log().on_call(qs("get_operations"), [&](const QString&) { shown_then = page_flows(); });
+
+        pick("B");
+
+        QCOMPARE(shown_then, QStringList());
+        QCOMPARE(page_flows(), flows_named("B"));
+    }
+
     void a_record_without_flows_empties_the_pages()
     {
         mgr().add_custom("A").operations[false] = make_operations("step");
@@ -106,6 +120,7 @@ private slots:
         mgr().add_custom("A").operations[false] = make_operations("step");
         mgr().add_builtin("C").operations[false] = make_operations("step");
         mgr().add_custom("B");
+        mgr().add_custom("no actions").operations[false] = {new OPERATION_DOUBLE(2)};
         for (const bool editable : {true, false}) {
             for (const char* device : {"A", "C", "<<new device>>"}) {
                 mgr().flow_editable = editable;
@@ -120,6 +135,10 @@ private slots:
                 for (int operation = 0; operation < 5; ++operation)
                     QCOMPARE(page_is_editable(operation), editable);
             }
+            // A flow without actions brings the flag as well.
+            pick("no actions");
+            QCOMPARE(page_takes_drops(2), editable);
+            QVERIFY(page_takes_drops(3));
         }
     }
 

@@ -38,6 +38,9 @@ private slots:
         QCOMPARE(m_editor->size(), QSize(551, 361));
         QCOMPARE(static_cast<int>(m_editor->windowFlags() & ~Qt::WindowType_Mask), 0x08003000);
         QCOMPARE(m_editor->windowType(), Qt::Dialog);
+        // The size is only the first one.
+        m_editor->resize(400, 300);
+        QCOMPARE(m_editor->size(), QSize(400, 300));
     }
 
     void the_form_is_laid_out()
@@ -128,9 +131,12 @@ private slots:
     {
         mgr().user_templates = {"zeta", "gr\xC3\xBCn <b>'%1;\""};
         open();
-        table().clearSelection();
+        QSignalSpy finished(m_editor.get(), &QDialog::finished);
+        // Nothing is selected at first.
+        QVERIFY(remove_button().isEnabled());
         remove_button().click();
         QVERIFY(!m_editor->changed());
+        QCOMPARE(log().calls(), QStringList());
 
         table().selectRow(1);
         remove_button().click();
@@ -138,18 +144,22 @@ private slots:
                  list_of({"mgr.remove_template(\"gr\xC3\xBCn <b>'%1;\"\")", "mgr.get_user_template_list()"}));
         QCOMPARE(rows(), list_of({"zeta"}));
         QVERIFY(m_editor->changed());
+        remove_button().click();
+        QCOMPARE(count_of("remove_template"), 1);
 
         table().selectRow(0);
         remove_button().click();
         remove_button().click();
         QCOMPARE(count_of("remove_template"), 2);
         QCOMPARE(rows(), QStringList());
+        QCOMPARE(finished.size(), 0);
     }
 
     void a_failed_removal_raises_the_message()
     {
         mgr().remove_succeeds = false;
         open();
+        const MARKING_TRANSLATOR translator("gfpq_dlg");
         table().selectRow(0);
 
         remove_button().click();
@@ -159,7 +169,15 @@ private slots:
                           R"(MSG_O.fill_args("Failed to delete flash from database./OGFPQ_DELETE_DB_FAILED"))",
                           "MSG_O.set_id(20440)", "MSG_O.prompt(null)", "MSG_O.destroyed()"}));
         QCOMPARE(rows(), list_of({"zeta", "Alpha", "beta"}));
+        QCOMPARE(table().selectionModel()->selectedRows().value(0).row(), 0);
         QVERIFY(!m_editor->changed());
+        // Nor is an earlier removal forgotten.
+        mgr().remove_succeeds = true;
+        remove_button().click();
+        mgr().remove_succeeds = false;
+        table().selectRow(0);
+        remove_button().click();
+        QVERIFY(m_editor->changed());
     }
 
     void close_accepts_and_escape_rejects()

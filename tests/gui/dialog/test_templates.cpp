@@ -17,12 +17,14 @@ private slots:
         for (const bool variant : {false, true}) {
             mgr().flow_variant = variant;
             open();
+            check("m_save_template_check").setChecked(true);
             for (const int index : {1, 2, 3, 4, 5, 0}) {
                 combo("m_flow_template_cbox").setCurrentIndex(index);
 
                 const QString name = index < 5 ? qs("T%1").arg(index) : qs("mine");
                 QCOMPARE(page_flows(), flows_named(name + (variant ? qs(" quad") : qs(" single"))));
             }
+            QVERIFY(check("m_save_template_check").isChecked());
         }
     }
 
