@@ -60,6 +60,8 @@ private slots:
         QCOMPARE(items("m_family_cbox"), QStringList({qs("Cedar"), shown("Nu\xC3\x9F"
                                                                          "baum ")}));
         QCOMPARE(combo("m_family_cbox").currentIndex(), 1);
+        // So are the dialog's own tables.
+        QVERIFY(page(GFPDB_OPERATION_ERASE).findChild<QLabel*>()->text().contains(QChar(0x201C)));
     }
 
     void a_saved_record_has_the_bytes_of_the_code_page()

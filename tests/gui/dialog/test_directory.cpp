@@ -160,15 +160,22 @@ private slots:
         QCOMPARE(text("m_directory_edit"), QString::fromLatin1(directory.toUtf8()));
     }
 
-    void other_letters_in_another_case_are_another_directory()
+    void another_directory_is_taken_over_data()
     {
-        world().custom_dir = "/db/gr\xC3\xBCn/";
+        rows<QString, QString>({{"letters outside ASCII in another case", "/db/gr\xC3\xBCn/", "/db/gr\xC3\x9CN/"},
+                                {"separator that the library leaves out", "/db/custom", "/db/custom/"}});
+    }
+
+    void another_directory_is_taken_over()
+    {
+        const auto [directory, typed] = row<QString, QString>();
+        world().custom_dir = directory.toStdString();
         open();
 
-        enter("m_directory_edit", "/db/gr\xC3\x9CN");
+        enter("m_directory_edit", typed);
 
         QCOMPARE(calls_of({"save_custom_dir_to_ini"}),
-                 QStringList(qs("GFPDB_MGR.save_custom_dir_to_ini(\"/db/gr\xC3\x9CN/\", false)")));
+                 QStringList(qs("GFPDB_MGR.save_custom_dir_to_ini(\"%1\", false)").arg(typed)));
     }
 
     void a_refused_directory_is_put_back_and_reported()

@@ -9,7 +9,9 @@
 #include "marking_translator.h"
 #include "property_differences.h"
 
+#include <QAction>
 #include <QFormLayout>
+#include <QGraphicsItem>
 #include <QMetaProperty>
 #include <QSplitter>
 #include <QValidator>
@@ -271,26 +273,19 @@ private slots:
         }
     }
 
-    // Families, modes and operations have one name in every language.
+    // Families, modes, operations, actions and properties have one name in every language.
     void the_vocabulary_is_never_translated()
     {
-        open();
-        const QStringList families = items("m_family_cbox");
-        const QStringList modes = items("m_config_mode_cbox");
-        QStringList titles;
-        for (int position = 1; position < tabs().count(); ++position)
-            titles.append(tabs().tabText(position) + page(position - 1).findChild<QLabel*>()->text());
+        open_with("A");
+        const QStringList words = vocabulary();
+        QVERIFY(words.contains(qs("Command-Data(bus width):")) && words.contains(qs("Read Data")));
 
         const MARKING_TRANSLATOR translator("gfpq_dlg");
-        open();
+        open_with("A");
 
         QCOMPARE(button("m_ok_button").text(), qs("[OK]"));
         QCOMPARE(edit("m_device_id_edit").placeholderText(), qs("[i.e. 0xC2 0x20 0x19]"));
-        QCOMPARE(items("m_family_cbox"), families);
-        QCOMPARE(items("m_config_mode_cbox"), modes);
-        for (int position = 1; position < tabs().count(); ++position)
-            QCOMPARE(tabs().tabText(position) + page(position - 1).findChild<QLabel*>()->text(),
-                     titles.at(position - 1));
+        QCOMPARE(vocabulary(), words);
     }
 
     void the_callers_record_is_copied()
@@ -319,6 +314,27 @@ private:
         mgr().add_custom("H");
         mgr().add_builtin("B");
         mgr().hidden_properties = {"H"};
+    }
+
+    QStringList vocabulary() const
+    {
+        tabs().setCurrentIndex(1);
+        page(0).update_property_table(page(0).get_flow().at(0));
+        QStringList words = items("m_family_cbox") + items("m_config_mode_cbox");
+        const QAbstractItemModel& properties = *page(0).findChild<QTableView*>(qs("m_property_table"))->model();
+        for (int row = 0; row < properties.rowCount(); ++row)
+            words.append(properties.index(row, 0).data().toString());
+        for (int operation = 0; operation < 5; ++operation) {
+            words << tabs().tabText(operation + 1) << page(operation).findChild<QLabel*>()->text();
+            for (const QAction* const action : page(operation).findChildren<QAction*>())
+                words.append(action->text());
+            // The tool tips of the palette.
+            for (const QGraphicsScene* const scene : page(operation).findChildren<QGraphicsScene*>()) {
+                for (const QGraphicsItem* const item : scene->items())
+                    words.append(item->toolTip());
+            }
+        }
+        return words;
     }
 
     // The pages of the operations have tests of their own.
