@@ -69,25 +69,20 @@ int CLI_CALL::database_failed(const std::string& text) const
     return CLI_EXIT_DATABASE;
 }
 
-void cli_add_json_option(QCommandLineParser& parser)
+void cli_add_json_option(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(CLI_OPTION_JSON), QStringLiteral("Print JSON.")});
+    options.push_back({CLI_OPTION_JSON, "Print JSON."});
 }
 
-void cli_add_csv_options(QCommandLineParser& parser, const char* explanation)
+void cli_add_csv_options(CLI_OPTIONS& options, const char* explanation)
 {
-    parser.addOption({QLatin1String(CLI_OPTION_CSV), QLatin1String(explanation)});
-    parser.addOption({QLatin1String(CLI_OPTION_SPREADSHEET),
-                      QStringLiteral("As --csv, with a quote before texts that a spreadsheet would run as formulas. "
-                                     "Such a list cannot be imported.")});
+    options.push_back({CLI_OPTION_CSV, explanation});
+    options.push_back({CLI_OPTION_SPREADSHEET, "As --csv, with a quote before texts that a spreadsheet would run as "
+                                               "formulas. Such a list cannot be imported."});
 }
 
-void cli_add_place_options(QCommandLineParser& parser, const char* what, const char* family, const char* scheme)
+void cli_add_place_options(CLI_OPTIONS& options, const char* what, const char* family, const char* scheme)
 {
-    parser.addOption({QLatin1String(family),
-                      QStringLiteral("%1 device family (1 to 72, or its name).").arg(QLatin1String(what)),
-                      QStringLiteral("family")});
-    parser.addOption({QLatin1String(scheme),
-                      QStringLiteral("%1 configuration scheme (0 to 24, or its name).").arg(QLatin1String(what)),
-                      QStringLiteral("scheme")});
+    options.push_back({family, std::string(what) + " device family (1 to 72, or its name).", "family"});
+    options.push_back({scheme, std::string(what) + " configuration scheme (0 to 24, or its name).", "scheme"});
 }

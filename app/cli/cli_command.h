@@ -68,49 +68,51 @@ struct CLI_CALL
     int database_failed(const std::string& text) const;
 };
 
-// An option whose value is a whole number, and the lowest and highest one.
-struct CLI_NUMBER
+struct CLI_RANGE
 {
-    const char* option;
     int lowest;
     int highest;
 };
 
-// One class per command. run() does all its work and returns the exit code.
-class CLI_COMMAND
+// An option as the help and the completion show it.
+struct CLI_OPTION
 {
-public:
-    virtual ~CLI_COMMAND() = default;
-    virtual const char* name() const = 0;
-    // One line for the list of commands.
-    virtual const char* summary() const = 0;
-    // What follows the command's name, e.g. "NAME...".
-    virtual const char* arguments() const = 0;
-    // The fewest and most arguments; -1 for no limit.
-    virtual std::pair<int, int> argument_range() const = 0;
-    // The options whose values are whole numbers.
-    virtual std::vector<CLI_NUMBER> numbers() const { return {}; }
-    // For completion: the words that a value can be, called `value` in the help; none where any text is possible.
-    virtual std::vector<std::string> choices(const std::string& value) const
-    {
-        Q_UNUSED(value)
-        return {};
-    }
-    // False for a command whose records are never built-in devices or states of the history.
-    virtual bool takes_builtin() const { return true; }
-    virtual void add_options(QCommandLineParser& parser) const = 0;
-    virtual int run(const CLI_CALL& call) const = 0;
+    const char* name;
+    std::string text;
+    // What its value is called, e.g. "file"; empty for an option without a value.
+    const char* value = "";
+    // "o" for an option that -o is short for; empty for none.
+    const char* letter = "";
+    // For values that are whole numbers.
+    std::optional<CLI_RANGE> range = std::nullopt;
+};
+using CLI_OPTIONS = std::vector<CLI_OPTION>;
 
-protected:
-    CLI_COMMAND() = default;
-    CLI_COMMAND(const CLI_COMMAND&) = delete;
-    CLI_COMMAND& operator=(const CLI_COMMAND&) = delete;
+// A command.
+struct CLI_COMMAND
+{
+    const char* name;
+    // One line for the list of commands.
+    const char* summary;
+    // What follows the command's name, e.g. "NAME...".
+    const char* arguments;
+    // The fewest and most arguments; -1 for no limit.
+    CLI_RANGE argument_range;
+    // Adds the options that only this command has, in the order of the help.
+    void (*add_options)(CLI_OPTIONS& options);
+    // Does all its work; the exit code.
+    int (*run)(const CLI_CALL& call);
+    // For completion: the words that a value can be, called `value` in the help; none where any text is possible. Null
+    // for a command without such values.
+    std::vector<std::string> (*choices)(const std::string& value) = nullptr;
+    // False for a command whose records are never built-in devices or states of the history.
+    bool takes_builtin = true;
 };
 
-void cli_add_json_option(QCommandLineParser& parser);
+void cli_add_json_option(CLI_OPTIONS& options);
 // --family and --scheme, or others for such values; `what` comes before "device family" in the help, e.g. "Only devices
 // of this".
-void cli_add_place_options(QCommandLineParser& parser, const char* what, const char* family = CLI_OPTION_FAMILY,
+void cli_add_place_options(CLI_OPTIONS& options, const char* what, const char* family = CLI_OPTION_FAMILY,
                            const char* scheme = CLI_OPTION_SCHEME);
 // --csv, explained by `explanation`, and --spreadsheet.
-void cli_add_csv_options(QCommandLineParser& parser, const char* explanation);
+void cli_add_csv_options(CLI_OPTIONS& options, const char* explanation);

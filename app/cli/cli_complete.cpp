@@ -23,29 +23,6 @@ namespace {
 // So many states of the history are offered.
 constexpr int MOST_STATES = 200;
 
-// An option as the help shows it; `value` is empty for one without.
-struct OPTION
-{
-    QString letter;
-    QString name;
-    QString value;
-    QString text;
-};
-
-// The parser does not say which options it has, but its help does.
-std::vector<OPTION> options_of(const QCommandLineParser& parser)
-{
-    static const QRegularExpression LINE(
-        QStringLiteral("^  (?:-(\\w), )?--([a-z-]+)(?: <([^>]+)>)? +(\\S.*(?:\\n {8,}\\S.*)*)$"),
-        QRegularExpression::MultilineOption);
-    std::vector<OPTION> options;
-    for (QRegularExpressionMatchIterator each = LINE.globalMatch(parser.helpText()); each.hasNext();) {
-        const QRegularExpressionMatch match = each.next();
-        options.push_back({match.captured(1), match.captured(2), match.captured(3), match.captured(4).simplified()});
-    }
-    return options;
-}
-
 class COMPLETION
 {
 public:
@@ -74,8 +51,8 @@ private:
 
     void add_commands(bool with_options)
     {
-        for (const std::unique_ptr<CLI_COMMAND>& command : m_program.commands)
-            add(command->name(), command->summary());
+        for (const CLI_COMMAND& command : m_program.commands)
+            add(command.name, command.summary);
         add("help", "Explain a command");
         if (with_options) {
             add("--help", "List the commands");
@@ -85,28 +62,28 @@ private:
 
     void add_of(const CLI_COMMAND& command)
     {
+        const CLI_OPTIONS options = cli_options(command);
         QCommandLineParser parser;
-        cli_add_options(parser, command);
+        cli_add_options(parser, options);
         // What is incomplete here is what is being written.
         parser.parse(m_words.mid(0, m_words.size() - 1));
-        const std::vector<OPTION> options = options_of(parser);
         const bool is_value = split_current();
         const QString before = is_value ? m_option.chopped(1) : m_words[m_words.size() - 2];
-        for (const OPTION& option : options) {
-            const bool is_before = before == QLatin1String("--") + option.name ||
-                                   (!option.letter.isEmpty() && before == QLatin1Char('-') + option.letter);
-            if (is_before && !option.value.isEmpty())
-                return add_values(command, parser, gfpdb_to_utf8(option.value));
+        for (const CLI_OPTION& option : options) {
+            const bool is_before = before == QLatin1String("--") + QLatin1String(option.name) ||
+                                   (*option.letter != 0 && before == QLatin1Char('-') + QLatin1String(option.letter));
+            if (is_before && *option.value != 0)
+                return add_values(command, parser, option.value);
         }
         if (is_value)
             return;
         if (!are_options_over() && m_current.startsWith(QLatin1Char('-'))) {
-            for (const OPTION& option : options)
-                add("--" + gfpdb_to_utf8(option.name), gfpdb_to_utf8(option.text));
+            for (const CLI_OPTION& option : options)
+                add(std::string("--") + option.name, option.text);
             return;
         }
         // "[NAME...]" stands for any number of them.
-        const QStringList places = QString::fromLatin1(command.arguments()).split(QLatin1Char(' '));
+        const QStringList places = QString::fromLatin1(command.arguments).split(QLatin1Char(' '));
         const int index = parser.positionalArguments().size();
         QString place = places.value(index);
         if (place.isEmpty() && places.last().contains(QLatin1String("...")))
@@ -138,8 +115,10 @@ private:
     // What `value` stands for, the name of a value in the help.
     void add_values(const CLI_COMMAND& command, const QCommandLineParser& parser, const std::string& value)
     {
-        for (const std::string& choice : command.choices(value))
-            add(choice);
+        if (command.choices != nullptr) {
+            for (const std::string& choice : command.choices(value))
+                add(choice);
+        }
         if (value == "family")
             add_families();
         else if (value == "scheme")
@@ -189,7 +168,7 @@ private:
         const std::vector<GFPDB_RECORD> stored = of_call.find_stored({});
         for (const GFPDB_RECORD& record : of_call.get_last_error().empty() ? stored : std::vector<GFPDB_RECORD>())
             add(record.name(), CLI_LISTED{record, false}.kind());
-        if (!command.takes_builtin())
+        if (!command.takes_builtin)
             return;
         for (const GFPDB_RECORD& record : of_call.find_builtin({}))
             add(record.name(), CLI_LISTED{record, true}.kind());
@@ -200,7 +179,7 @@ private:
         add_records(command, parser);
         // There may be very many: only who begins to write it means a state.
         const std::string prefix = CLI_HISTORY_PREFIX;
-        if (command.takes_builtin() && !m_current.isEmpty() &&
+        if (command.takes_builtin && !m_current.isEmpty() &&
             prefix.rfind(gfpdb_to_utf8(m_current).substr(0, prefix.size()), 0) == 0)
             add_states(parser, prefix);
     }

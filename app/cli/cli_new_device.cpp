@@ -80,25 +80,21 @@ const char* make_and_store(const CLI_CALL& call, const GFPDB_NEW_DEVICE& device,
 
 } // namespace
 
-void cli_add_value_options(QCommandLineParser& parser)
+void cli_add_value_options(CLI_OPTIONS& options)
 {
-    parser.addOption(
-        {QLatin1String(CLI_OPTION_NAME), QStringLiteral("The name of the device."), QStringLiteral("name")});
-    parser.addOption(
-        {QLatin1String(CLI_OPTION_VOLTAGE), QStringLiteral("Its voltage, e.g. 3.3V."), QStringLiteral("voltage")});
-    parser.addOption({QLatin1String(CLI_OPTION_SET),
-                      QStringLiteral("Another value in place of the one that is proposed, by its key, e.g. "
-                                     "page-size=256. Can be given several times."),
-                      QStringLiteral("key=value")});
+    options.push_back({CLI_OPTION_NAME, "The name of the device.", "name"});
+    options.push_back({CLI_OPTION_VOLTAGE, "Its voltage, e.g. 3.3V.", "voltage"});
+    options.push_back({CLI_OPTION_SET,
+                       "Another value in place of the one that is proposed, by its key, e.g. page-size=256. Can be "
+                       "given several times.",
+                       "key=value"});
 }
 
-void cli_add_store_options(QCommandLineParser& parser)
+void cli_add_store_options(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(CLI_OPTION_REPLACE), QStringLiteral("Replace a device that exists with different "
-                                                                        "content; its former state goes into the "
-                                                                        "history.")});
-    parser.addOption(
-        {QLatin1String(CLI_OPTION_DRY_RUN), QStringLiteral("Show what would happen, without changing anything.")});
+    options.push_back({CLI_OPTION_REPLACE,
+                       "Replace a device that exists with different content; its former state goes into the history."});
+    options.push_back({CLI_OPTION_DRY_RUN, "Show what would happen, without changing anything."});
 }
 
 int cli_propose_device(const CLI_CALL& call, const CLI_CHIP& chip, bool shows_parts, bool is_stored)

@@ -16,9 +16,9 @@ constexpr const char* CLI_OPTION_REPLACE = "replace";
 constexpr const char* CLI_OPTION_DRY_RUN = "dry-run";
 
 // --name, --voltage and --set.
-void cli_add_value_options(QCommandLineParser& parser);
+void cli_add_value_options(CLI_OPTIONS& options);
 // --replace and --dry-run.
-void cli_add_store_options(QCommandLineParser& parser);
+void cli_add_store_options(CLI_OPTIONS& options);
 
 // What is known of a new device.
 struct CLI_CHIP

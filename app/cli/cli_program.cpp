@@ -32,24 +32,13 @@ std::string overview(const CLI_PROGRAM& program)
     QString text = QStringLiteral("Usage: %1 COMMAND [options] [arguments]\n\n%2\n\nCommands:\n")
                        .arg(name, QLatin1String(program.purpose));
     int width = NAME_WIDTH;
-    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands)
-        width = std::max(width, static_cast<int>(std::strlen(command->name())) + NAME_GAP);
-    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands)
-        text += QStringLiteral("  %1%2\n")
-                    .arg(QLatin1String(command->name()), -width)
-                    .arg(QLatin1String(command->summary()));
+    for (const CLI_COMMAND& command : program.commands)
+        width = std::max(width, static_cast<int>(std::strlen(command.name)) + NAME_GAP);
+    for (const CLI_COMMAND& command : program.commands)
+        text += QStringLiteral("  %1%2\n").arg(QLatin1String(command.name), -width).arg(QLatin1String(command.summary));
     text +=
         QStringLiteral("\n\"%1 COMMAND --help\" explains a command, \"%1 --version\" prints the version.\n").arg(name);
     return gfpdb_to_utf8(text);
-}
-
-void add_common_options(QCommandLineParser& parser)
-{
-    parser.addOption({{QStringLiteral("d"), QLatin1String(CLI_OPTION_DIR)},
-                      QStringLiteral("The database directory; by default the one in the user's settings."),
-                      QStringLiteral("directory")});
-    parser.addOption({QLatin1String(OPTION_VERBOSE), QStringLiteral("Print what the library logs.")});
-    parser.addOption({{QStringLiteral("h"), QLatin1String(OPTION_HELP)}, QStringLiteral("Print this help.")});
 }
 
 // One call of a command: what the user wrote, and for which tool.
@@ -57,13 +46,14 @@ struct CALLED
 {
     const CLI_PROGRAM& program;
     const CLI_COMMAND& command;
+    const CLI_OPTIONS& options;
     const QCommandLineParser& parser;
 
-    // How the command is called, with `options` between its name and its arguments.
-    QString synopsis(const char* options = "") const
+    // How the command is called, with `middle` between its name and its arguments.
+    QString synopsis(const char* middle = "") const
     {
-        const QStringList parts = {QLatin1String(program.name), QLatin1String(command.name()), QLatin1String(options),
-                                   QLatin1String(command.arguments())};
+        const QStringList parts = {QLatin1String(program.name), QLatin1String(command.name), QLatin1String(middle),
+                                   QLatin1String(command.arguments)};
         return parts.join(QLatin1Char(' ')).simplified();
     }
 };
@@ -72,23 +62,21 @@ std::string usage_of(const CALLED& called)
 {
     QString options = called.parser.helpText();
     options.remove(0, options.indexOf(QLatin1Char('\n')) + 1);
-    return "Usage: " + gfpdb_to_utf8(called.synopsis("[options]")) + "\n" + called.command.summary() + ".\n" +
+    return "Usage: " + gfpdb_to_utf8(called.synopsis("[options]")) + "\n" + called.command.summary + ".\n" +
            gfpdb_to_utf8(options);
 }
 
 QString problem_of_numbers(const CALLED& called)
 {
-    for (const CLI_NUMBER& range : called.command.numbers()) {
-        const QString name = QLatin1String(range.option);
-        if (!called.parser.isSet(name))
+    for (const CLI_OPTION& option : called.options) {
+        const QString name = QLatin1String(option.name);
+        if (!option.range || !called.parser.isSet(name))
             continue;
+        const auto [lowest, highest] = *option.range;
         bool is_number = false;
         const int number = called.parser.value(name).toInt(&is_number);
-        if (!is_number || number < range.lowest || number > range.highest)
-            return QStringLiteral("--%1 needs a whole number from %2 to %3.")
-                .arg(name)
-                .arg(range.lowest)
-                .arg(range.highest);
+        if (!is_number || number < lowest || number > highest)
+            return QStringLiteral("--%1 needs a whole number from %2 to %3.").arg(name).arg(lowest).arg(highest);
     }
     return QString();
 }
@@ -124,7 +112,7 @@ QString problem_of_empty_texts(const CALLED& called)
 
 QString problem_of_count(const CALLED& called)
 {
-    const auto [fewest, most] = called.command.argument_range();
+    const auto [fewest, most] = called.command.argument_range;
     const int count = called.parser.positionalArguments().size();
     if (count < fewest)
         return QStringLiteral("An argument is missing: %1").arg(called.synopsis());
@@ -148,17 +136,18 @@ QString problem_of(const CALLED& called)
 int run_command(const CLI_PROGRAM& program, const CLI_COMMAND& command, const QStringList& arguments,
                 CLI_OUTPUT& output)
 {
+    const CLI_OPTIONS options = cli_options(command);
     QCommandLineParser parser;
-    cli_add_options(parser, command);
+    cli_add_options(parser, options);
     if (!parser.parse(arguments)) {
         output.error(gfpdb_to_utf8(parser.errorText()));
         return CLI_EXIT_USAGE;
     }
     if (parser.isSet(QLatin1String(OPTION_HELP))) {
-        output.print(usage_of({program, command, parser}));
+        output.print(usage_of({program, command, options, parser}));
         return CLI_EXIT_OK;
     }
-    const QString problem = problem_of({program, command, parser});
+    const QString problem = problem_of({program, command, options, parser});
     if (!problem.isEmpty()) {
         output.error(gfpdb_to_utf8(problem));
         return CLI_EXIT_USAGE;
@@ -230,17 +219,31 @@ void print_log(QtMsgType type, const QMessageLogContext& context, const QString&
 
 const CLI_COMMAND* cli_find_command(const CLI_PROGRAM& program, const QString& name)
 {
-    for (const std::unique_ptr<CLI_COMMAND>& command : program.commands) {
-        if (name == QLatin1String(command->name()))
-            return command.get();
+    for (const CLI_COMMAND& command : program.commands) {
+        if (name == QLatin1String(command.name))
+            return &command;
     }
     return nullptr;
 }
 
-void cli_add_options(QCommandLineParser& parser, const CLI_COMMAND& command)
+CLI_OPTIONS cli_options(const CLI_COMMAND& command)
 {
-    add_common_options(parser);
-    command.add_options(parser);
+    CLI_OPTIONS options = {
+        {CLI_OPTION_DIR, "The database directory; by default the one in the user's settings.", "directory", "d"},
+        {OPTION_VERBOSE, "Print what the library logs."},
+        {OPTION_HELP, "Print this help.", "", "h"},
+    };
+    command.add_options(options);
+    return options;
+}
+
+void cli_add_options(QCommandLineParser& parser, const CLI_OPTIONS& options)
+{
+    for (const CLI_OPTION& option : options) {
+        QStringList names = {QLatin1String(option.letter), QLatin1String(option.name)};
+        names.removeAll(QString());
+        parser.addOption({names, gfpdb_from_utf8(option.text), QLatin1String(option.value)});
+    }
 }
 
 int cli_run(const CLI_PROGRAM& program, const QStringList& arguments)

@@ -6,12 +6,9 @@
 
 #include <unistd.h>
 
-void cli_add_id_option(QCommandLineParser& parser)
+void cli_add_id_option(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(CLI_OPTION_ID),
-                      QStringLiteral("The device ID that command 9F reads, e.g. \"C2 20 "
-                                     "19\"."),
-                      QStringLiteral("bytes")});
+    options.push_back({CLI_OPTION_ID, "The device ID that command 9F reads, e.g. \"C2 20 19\".", "bytes"});
 }
 
 bool cli_read_id(const CLI_CALL& call, std::vector<std::uint8_t>& id)

@@ -13,7 +13,7 @@ constexpr const char* CLI_OPTION_ID = "id";
 constexpr const char* CLI_OPTION_SFDP = "sfdp";
 
 // --id.
-void cli_add_id_option(QCommandLineParser& parser);
+void cli_add_id_option(CLI_OPTIONS& options);
 // The bytes of --id; none when it was not given. False: a message was printed.
 bool cli_read_id(const CLI_CALL& call, std::vector<std::uint8_t>& id);
 

@@ -2,6 +2,7 @@
 #include "draw_command.h"
 
 #include "cli_find.h"
+#include "commands/chart_command.h"
 #include "record_writer.h"
 #include "words/gfpq_vocabulary.h"
 
@@ -30,20 +31,21 @@ std::optional<int> operation_of(const std::string& text)
 }
 
 // What is wrong with the options; empty when nothing is.
-std::string problem_of(const CLI_CALL& call, const CLI_COMMAND& command)
+std::string problem_of(const CLI_CALL& call)
 {
     constexpr std::pair<const char*, const char*> CHOICES[] = {{CHART_OPTION_VARIANT, "flow variant"},
                                                                {CHART_OPTION_FORMAT, "format of charts"},
                                                                {CHART_OPTION_PAPER, "size of paper"}};
     for (const auto& [option, what] : CHOICES) {
-        const std::vector<std::string> allowed = command.choices(option);
+        const std::vector<std::string> allowed = CLI_CHART_COMMAND.choices(option);
         const std::string word = call.value(option);
         if (call.has(option) && std::find(allowed.cbegin(), allowed.cend(), word) == allowed.cend())
             return gfpdb_quoted(word) + " is not a " + what + ". Allowed: " + gfpdb_joined(allowed) + ".";
     }
     if (call.has(CHART_OPTION_OPERATION) && !operation_of(call.value(CHART_OPTION_OPERATION)))
         return gfpdb_quoted(call.value(CHART_OPTION_OPERATION)) +
-               " is not an operation. Allowed: " + gfpdb_joined(command.choices(CHART_OPTION_OPERATION)) + ".";
+               " is not an operation. Allowed: " + gfpdb_joined(CLI_CHART_COMMAND.choices(CHART_OPTION_OPERATION)) +
+               ".";
     if (call.has(CLI_OPTION_OUTPUT) && call.value(CLI_OPTION_OUTPUT).empty())
         return "--output is empty.";
     return std::string();
@@ -98,11 +100,9 @@ int write(const CLI_CALL& call, const std::string& content)
     return CLI_EXIT_BAD_FILE;
 }
 
-} // namespace
-
-int DRAW_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
-    const std::string wrong = problem_of(call, *this);
+    const std::string wrong = problem_of(call);
     if (!wrong.empty())
         return call.wrong_usage(wrong);
     const std::optional<GFPC_FORMAT> format = format_of(call);
@@ -118,4 +118,13 @@ int DRAW_COMMAND::run(const CLI_CALL& call) const
     if (content.isEmpty())
         return call.database_failed(gfpdb_to_utf8(problem));
     return write(call, content.toStdString());
+}
+
+} // namespace
+
+CLI_COMMAND draw_command()
+{
+    CLI_COMMAND command = CLI_CHART_COMMAND;
+    command.run = run;
+    return command;
 }

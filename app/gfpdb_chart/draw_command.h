@@ -3,10 +3,6 @@
 // "gfpdb chart" in the program that can draw.
 #pragma once
 
-#include "commands/chart_command.h"
+#include "cli_command.h"
 
-class DRAW_COMMAND final : public CLI_CHART_COMMAND
-{
-public:
-    int run(const CLI_CALL& call) const override;
-};
+CLI_COMMAND draw_command();

@@ -32,7 +32,6 @@ std::unique_ptr<QCoreApplication> make_application(int& argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    CLI_PROGRAM program = {"gfpdb", "Draws the flow charts of the flash database.", {}, make_application};
-    program.commands.push_back(std::make_unique<DRAW_COMMAND>());
-    return cli_main(argc, argv, program);
+    return cli_main(argc, argv,
+                    {"gfpdb", "Draws the flow charts of the flash database.", {draw_command()}, make_application});
 }

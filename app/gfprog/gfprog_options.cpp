@@ -12,11 +12,6 @@
 
 namespace {
 
-QCommandLineOption option(const char* name, const char* text, const char* value)
-{
-    return {QLatin1String(name), QLatin1String(text), QLatin1String(value)};
-}
-
 std::string hex(std::int64_t value, int digits)
 {
     constexpr int HEXADECIMAL = 16;
@@ -25,7 +20,7 @@ std::string hex(std::int64_t value, int digits)
 
 } // namespace
 
-std::vector<std::string> GFPROG_COMMAND::choices(const std::string& value) const
+std::vector<std::string> gfprog_choices(const std::string& value)
 {
     std::vector<std::string> connections;
     if (value != "connection")
@@ -36,36 +31,35 @@ std::vector<std::string> GFPROG_COMMAND::choices(const std::string& value) const
     return connections;
 }
 
-void gfprog_add_chip_options(QCommandLineParser& parser)
+void gfprog_add_chip_options(CLI_OPTIONS& options)
 {
-    parser.addOption(option(GFPROG_OPTION_ON,
-                            "The connection: emulated, emulated:FILE, tcp:HOST:PORT, serial:DEVICE or "
-                            "serial:DEVICE@BAUD; behind the last three, ,clock=HERTZ sets the programmer's clock.",
-                            "connection"));
-    parser.addOption(option(GFPROG_OPTION_DEVICE,
-                            "The device: one of the directory, or a built-in one. By default the one that is detected.",
-                            "device"));
+    options.push_back({GFPROG_OPTION_ON,
+                       "The connection: emulated, emulated:FILE, tcp:HOST:PORT, serial:DEVICE or "
+                       "serial:DEVICE@BAUD; behind the last three, ,clock=HERTZ sets the programmer's clock.",
+                       "connection"});
+    options.push_back({GFPROG_OPTION_DEVICE,
+                       "The device: one of the directory, or a built-in one. By default the one that is detected.",
+                       "device"});
 }
 
-void gfprog_add_target_options(QCommandLineParser& parser)
+void gfprog_add_target_options(CLI_OPTIONS& options)
 {
-    gfprog_add_chip_options(parser);
-    cli_add_place_options(parser, "The device of this");
-    cli_add_json_option(parser);
+    gfprog_add_chip_options(options);
+    cli_add_place_options(options, "The device of this");
+    cli_add_json_option(options);
 }
 
-void gfprog_add_run_options(QCommandLineParser& parser)
+void gfprog_add_run_options(CLI_OPTIONS& options)
 {
-    parser.addOption(option(GFPROG_OPTION_OFFSET, "The first position in the device (by default 0).", "bytes"));
-    parser.addOption(option(GFPROG_OPTION_LENGTH,
-                            "So many bytes; by default those of the file, or up to the end of the device.", "bytes"));
-    parser.addOption(
-        option(GFPROG_OPTION_TRACE, "Write every command that is sent to this file (.csv or .vcd).", "file"));
+    options.push_back({GFPROG_OPTION_OFFSET, "The first position in the device (by default 0).", "bytes"});
+    options.push_back({GFPROG_OPTION_LENGTH,
+                       "So many bytes; by default those of the file, or up to the end of the device.", "bytes"});
+    options.push_back({GFPROG_OPTION_TRACE, "Write every command that is sent to this file (.csv or .vcd).", "file"});
 }
 
-void gfprog_add_force_option(QCommandLineParser& parser)
+void gfprog_add_force_option(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(GFPROG_OPTION_FORCE), QStringLiteral("Replace a file that already exists.")});
+    options.push_back({GFPROG_OPTION_FORCE, "Replace a file that already exists."});
 }
 
 bool gfprog_is_one_file(const std::string& one, const std::string& other)

@@ -27,20 +27,16 @@ constexpr const char* GFPROG_OPTION_TRACE = "trace";
 constexpr const char* GFPROG_OPTION_FILE = "file";
 constexpr const char* GFPROG_OPTION_FORCE = "force";
 
-// What the commands of the tool share.
-class GFPROG_COMMAND : public CLI_COMMAND
-{
-public:
-    std::vector<std::string> choices(const std::string& value) const override;
-};
+// The words for values that several commands have.
+std::vector<std::string> gfprog_choices(const std::string& value);
 
 // --on and --device.
-void gfprog_add_chip_options(QCommandLineParser& parser);
+void gfprog_add_chip_options(CLI_OPTIONS& options);
 // --on, --device, --family, --scheme and --json: all that have to do with a chip.
-void gfprog_add_target_options(QCommandLineParser& parser);
+void gfprog_add_target_options(CLI_OPTIONS& options);
 // --offset, --length and --trace: all that run a flow.
-void gfprog_add_run_options(QCommandLineParser& parser);
-void gfprog_add_force_option(QCommandLineParser& parser);
+void gfprog_add_run_options(CLI_OPTIONS& options);
+void gfprog_add_force_option(CLI_OPTIONS& options);
 
 // True when both paths, in local 8-bit, are of one file; false for an empty path.
 bool gfprog_is_one_file(const std::string& one, const std::string& other);

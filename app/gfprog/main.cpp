@@ -2,25 +2,14 @@
 
 // gfprog: the command line programmer.
 #include "cli_program.h"
-#include "commands/detect_command.h"
-#include "commands/emulate_command.h"
-#include "commands/learn_command.h"
-#include "commands/operation_commands.h"
-#include "commands/ports_command.h"
+#include "commands/gfprog_commands.h"
 
 int main(int argc, char** argv)
 {
-    CLI_PROGRAM program = {"gfprog", "Programs serial flash devices with the flows of the flash database.", {}};
-    program.commands.push_back(std::make_unique<GFPROG_DETECT_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_LEARN_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_PROGRAM_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_ERASE_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_BLANK_CHECK_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_VERIFY_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_READ_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_RUN_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_TRACE_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_EMULATE_COMMAND>());
-    program.commands.push_back(std::make_unique<GFPROG_PORTS_COMMAND>());
-    return cli_main(argc, argv, program);
+    return cli_main(argc, argv,
+                    {"gfprog",
+                     "Programs serial flash devices with the flows of the flash database.",
+                     {GFPROG_DETECT_COMMAND, GFPROG_LEARN_COMMAND, GFPROG_PROGRAM_COMMAND, GFPROG_ERASE_COMMAND,
+                      GFPROG_BLANK_CHECK_COMMAND, GFPROG_VERIFY_COMMAND, GFPROG_READ_COMMAND, GFPROG_RUN_COMMAND,
+                      GFPROG_TRACE_COMMAND, GFPROG_EMULATE_COMMAND, GFPROG_PORTS_COMMAND}});
 }

@@ -3,7 +3,7 @@
 // An import with the command line tool, with system calls that fail in it.
 #include "cli_program.h"
 #include "cli_test.h"
-#include "commands/import_command.h"
+#include "commands/gfpdb_commands.h"
 #include "fault_stand.h"
 #include "test_rows.h"
 
@@ -26,9 +26,8 @@ std::string complaint_of(const QStringList& arguments)
     const std::unique_ptr<std::FILE, decltype(&std::fclose)> errors(std::tmpfile(), &std::fclose);
     ::dup2(::fileno(errors.get()), STDERR_FILENO);
     ::dup2(::open("/dev/null", O_WRONLY | O_CLOEXEC), STDOUT_FILENO);
-    CLI_PROGRAM program = {"gfpdb", "", {}};
-    program.commands.push_back(std::make_unique<CLI_IMPORT_COMMAND>());
-    const int exit_code = cli_run(program, QStringList(QStringLiteral("gfpdb")) + arguments);
+    const int exit_code =
+        cli_run({"gfpdb", "", {CLI_IMPORT_COMMAND}}, QStringList(QStringLiteral("gfpdb")) + arguments);
     std::rewind(errors.get());
     std::string text;
     for (int byte = std::fgetc(errors.get()); byte != EOF; byte = std::fgetc(errors.get()))

@@ -20,9 +20,7 @@ void end_by_closed_pipe()
     std::raise(SIGPIPE);
 }
 
-} // namespace
-
-std::vector<std::string> CLI_CHART_COMMAND::choices(const std::string& value) const
+std::vector<std::string> choices(const std::string& value)
 {
     if (value == CHART_OPTION_FORMAT)
         return {"pdf", "svg"};
@@ -33,28 +31,22 @@ std::vector<std::string> CLI_CHART_COMMAND::choices(const std::string& value) co
     return value == CHART_OPTION_PAPER ? std::vector<std::string>{"a4", "letter"} : std::vector<std::string>();
 }
 
-void CLI_CHART_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption({{QStringLiteral("o"), QLatin1String(CLI_OPTION_OUTPUT)},
-                      QStringLiteral("Write to this file instead of standard output."),
-                      QStringLiteral("file")});
-    parser.addOption({QLatin1String(CHART_OPTION_FORMAT),
-                      QStringLiteral("pdf or svg; by default what the file's name ends in."),
-                      QStringLiteral("format")});
-    parser.addOption({QLatin1String(CHART_OPTION_OPERATION),
-                      QStringLiteral("Only this operation: initialization, program, erase, verify or termination."),
-                      QStringLiteral("operation")});
-    parser.addOption({QLatin1String(CHART_OPTION_VARIANT),
-                      QStringLiteral("The flow to draw: single or quad; by default that of the device's configuration "
-                                     "scheme, or single where there is none."),
-                      QStringLiteral("variant")});
-    parser.addOption({QLatin1String(CHART_OPTION_PAPER),
-                      QStringLiteral("a4 or letter; by default what the locale's country uses."),
-                      QStringLiteral("paper")});
-    cli_add_place_options(parser, "Only devices of this");
+    options.push_back({CLI_OPTION_OUTPUT, "Write to this file instead of standard output.", "file", "o"});
+    options.push_back({CHART_OPTION_FORMAT, "pdf or svg; by default what the file's name ends in.", "format"});
+    options.push_back({CHART_OPTION_OPERATION,
+                       "Only this operation: initialization, program, erase, verify or termination.", "operation"});
+    options.push_back({CHART_OPTION_VARIANT,
+                       "The flow to draw: single or quad; by default that of the device's configuration scheme, or "
+                       "single where there is none.",
+                       "variant"});
+    options.push_back({CHART_OPTION_PAPER, "a4 or letter; by default what the locale's country uses.", "paper"});
+    cli_add_place_options(options, "Only devices of this");
 }
 
-int CLI_CHART_COMMAND::run(const CLI_CALL& call) const
+// Hands the call over to the program that draws, and its exit code back.
+int run(const CLI_CALL& call)
 {
     const QString program =
         QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(DRAWING_PROGRAM));
@@ -70,3 +62,8 @@ int CLI_CHART_COMMAND::run(const CLI_CALL& call) const
                                                             : ": The program that draws charts cannot be started."));
     return CLI_EXIT_BAD_FILE;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_CHART_COMMAND = {
+    "chart", "Draw the flow charts of a record (PDF, SVG)", "NAME", {1, 1}, add_options, run, choices};

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Draws the flow charts of a record into a file. A program of its own does it, so that this tool needs no fonts and
-// windows: it starts as quickly as a tool without pictures.
+// The options of "gfpdb chart".
 #pragma once
 
 #include "cli_command.h"
@@ -11,15 +10,6 @@ constexpr const char* CHART_OPTION_VARIANT = "variant";
 constexpr const char* CHART_OPTION_FORMAT = "format";
 constexpr const char* CHART_OPTION_PAPER = "paper";
 
-class CLI_CHART_COMMAND : public CLI_COMMAND
-{
-public:
-    const char* name() const final { return "chart"; }
-    const char* summary() const final { return "Draw the flow charts of a record (PDF, SVG)"; }
-    const char* arguments() const final { return "NAME"; }
-    std::pair<int, int> argument_range() const final { return {1, 1}; }
-    std::vector<std::string> choices(const std::string& value) const final;
-    void add_options(QCommandLineParser& parser) const final;
-    // Hands the call over to the program that draws, and its exit code back.
-    int run(const CLI_CALL& call) const override;
-};
+// Draws the flow charts of a record into a file. A program of its own does it, so that this tool needs no fonts and
+// windows: it starts as quickly as a tool without pictures.
+extern const CLI_COMMAND CLI_CHART_COMMAND;

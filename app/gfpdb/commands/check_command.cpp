@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/check_command.h"
+
+// Checks every record by the library's rules, and the database by SQLite's.
+#include "commands/gfpdb_commands.h"
 
 #include "commands/check_lint.h"
 #include "commands/check_read_outs.h"
@@ -115,21 +117,16 @@ std::string wrong_options(const CLI_CALL& call)
     return CLI_LINT::wrong_usage(call);
 }
 
-} // namespace
-
-void CLI_CHECK_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(OPTION_REBUILD_KEYS), QStringLiteral("First repair the keys of records that no "
-                                                                         "search finds.")});
-    parser.addOption({QLatin1String(CLI_OPTION_SFDP),
-                      QStringLiteral("Compare the built-in parts with the SFDP read-outs (*.bin) in this folder "
-                                     "instead."),
-                      QStringLiteral("folder")});
-    CLI_LINT::add_options(parser);
-    cli_add_json_option(parser);
+    options.push_back({OPTION_REBUILD_KEYS, "First repair the keys of records that no search finds."});
+    options.push_back({CLI_OPTION_SFDP,
+                       "Compare the built-in parts with the SFDP read-outs (*.bin) in this folder instead.", "folder"});
+    CLI_LINT::add_options(options);
+    cli_add_json_option(options);
 }
 
-int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::string wrong = wrong_options(call);
     if (!wrong.empty())
@@ -158,3 +155,7 @@ int CLI_CHECK_COMMAND::run(const CLI_CALL& call) const
         return call.database_failed(damage);
     return problems == 0 ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_CHECK_COMMAND = {"check", "Check every record and the database", "", {0, 0}, add_options, run};

@@ -64,15 +64,12 @@ CLI_LINT::CLI_LINT(const CLI_CALL& call) : m_is_on(call.has(CLI_OPTION_LINT))
         m_off.insert(number);
 }
 
-void CLI_LINT::add_options(QCommandLineParser& parser)
+void CLI_LINT::add_options(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(CLI_OPTION_LINT),
-                      QStringLiteral("Also warn of what flows do that no chip needs or that will not work.")});
-    parser.addOption({QLatin1String(CLI_OPTION_LINT_OFF),
-                      QStringLiteral("Rules of --lint to leave out, as L03,L07. Can be given several times."),
-                      QStringLiteral("rules")});
-    parser.addOption(
-        {QLatin1String(CLI_OPTION_LINT_RULES), QStringLiteral("List the rules of --lint, and check nothing.")});
+    options.push_back({CLI_OPTION_LINT, "Also warn of what flows do that no chip needs or that will not work."});
+    options.push_back(
+        {CLI_OPTION_LINT_OFF, "Rules of --lint to leave out, as L03,L07. Can be given several times.", "rules"});
+    options.push_back({CLI_OPTION_LINT_RULES, "List the rules of --lint, and check nothing."});
 }
 
 std::string CLI_LINT::wrong_usage(const CLI_CALL& call)

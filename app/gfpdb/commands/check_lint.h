@@ -23,7 +23,7 @@ public:
     // Finds nothing unless --lint is given, and nothing by the rules of --lint-off.
     explicit CLI_LINT(const CLI_CALL& call);
 
-    static void add_options(QCommandLineParser& parser);
+    static void add_options(CLI_OPTIONS& options);
     // What is wrong with the options, a sentence; empty when nothing is.
     static std::string wrong_usage(const CLI_CALL& call);
     // All rules, a line and two sentences each.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/copy_command.h"
+
+// Copies a whole database to another directory.
+#include "commands/gfpdb_commands.h"
 
 #include "gfpdb/gfpdb_copy.h"
 
@@ -19,18 +21,14 @@ std::string summary_of(const GFPDB_COPY& copy)
            " and " + counted(copy.states, "state", "states") + " of the history";
 }
 
-} // namespace
-
-void CLI_COPY_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(OPTION_FROM), QStringLiteral("The database directory that is copied."),
-                      QStringLiteral("directory")});
-    parser.addOption({QLatin1String(OPTION_TO),
-                      QStringLiteral("The directory of the copy, which must exist. Its database is empty or missing."),
-                      QStringLiteral("directory")});
+    options.push_back({OPTION_FROM, "The database directory that is copied.", "directory"});
+    options.push_back(
+        {OPTION_TO, "The directory of the copy, which must exist. Its database is empty or missing.", "directory"});
 }
 
-int CLI_COPY_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     if (call.has(CLI_OPTION_DIR))
         return call.wrong_usage("copy has --from and --to instead of --dir.");
@@ -47,3 +45,12 @@ int CLI_COPY_COMMAND::run(const CLI_CALL& call) const
     call.output.print("Copied " + summary_of(copy) + " from " + from + " to " + to + ", and compared them.\n");
     return CLI_EXIT_OK;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_COPY_COMMAND = {"copy",
+                                      "Copy the whole database to another directory or server",
+                                      "--from DIRECTORY --to DIRECTORY",
+                                      {0, 0},
+                                      add_options,
+                                      run};

@@ -1,19 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "commands/copy_device_command.h"
+
+// Makes a new device of a built-in or stored one, with both variants of its flows.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_find.h"
 #include "cli_new_device.h"
 #include "cli_sfdp.h"
 
-void CLI_COPY_DEVICE_COMMAND::add_options(QCommandLineParser& parser) const
+namespace {
+
+void add_options(CLI_OPTIONS& options)
 {
-    cli_add_place_options(parser, "Give the copy this");
-    cli_add_place_options(parser, "Copy the device of this", CLI_OPTION_FROM_FAMILY, CLI_OPTION_FROM_SCHEME);
-    parser.addOption(
-        {QLatin1String(CLI_OPTION_DRY_RUN), QStringLiteral("Show what would happen, without changing anything.")});
+    cli_add_place_options(options, "Give the copy this");
+    cli_add_place_options(options, "Copy the device of this", CLI_OPTION_FROM_FAMILY, CLI_OPTION_FROM_SCHEME);
+    options.push_back({CLI_OPTION_DRY_RUN, "Show what would happen, without changing anything."});
 }
 
-int CLI_COPY_DEVICE_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     int exit_code = CLI_EXIT_OK;
     const std::optional<GFPDB_RECORD> source =
@@ -35,3 +38,8 @@ int CLI_COPY_DEVICE_COMMAND::run(const CLI_CALL& call) const
         call.output.print(cli_stored_text(call, *copy, action));
     return exit_code;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_COPY_DEVICE_COMMAND = {
+    "copy-device", "Make a new device of another one", "SOURCE NAME", {2, 2}, add_options, run};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/delete_command.h"
+
+// Removes devices and stored templates; the history keeps them.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_find.h"
 #include "cli_new_device.h"
@@ -52,17 +54,14 @@ std::string way_back(const CLI_CALL& call, std::int64_t state)
     return "To bring it back: gfpdb restore " + std::to_string(state) + directory + '\n';
 }
 
-} // namespace
-
-void CLI_DELETE_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption(
-        {QLatin1String(CLI_OPTION_DRY_RUN), QStringLiteral("Show what would be deleted, without changing anything.")});
-    cli_add_place_options(parser, "Only devices of this");
+    options.push_back({CLI_OPTION_DRY_RUN, "Show what would be deleted, without changing anything."});
+    cli_add_place_options(options, "Only devices of this");
 }
 
 // All names are looked up first: a wrong one deletes nothing.
-int CLI_DELETE_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     int exit_code = CLI_EXIT_OK;
     const std::optional<std::vector<GFPDB_RECORD>> records = find(call, exit_code);
@@ -89,3 +88,8 @@ int CLI_DELETE_COMMAND::run(const CLI_CALL& call) const
     }
     return exit_code;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_DELETE_COMMAND = {
+    "delete", "Delete records; the history keeps them", "NAME...", {1, -1}, add_options, run, nullptr, false};

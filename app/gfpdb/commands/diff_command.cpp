@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/diff_command.h"
+
+// Compares two records, files or former states line by line.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_find.h"
 #include "cli_json.h"
@@ -96,15 +98,13 @@ std::string json(const std::vector<LINE_CHANGE>& changes)
     return json.text();
 }
 
-} // namespace
-
-void CLI_DIFF_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    cli_add_place_options(parser, "Only devices of this");
-    cli_add_json_option(parser);
+    cli_add_place_options(options, "Only devices of this");
+    cli_add_json_option(options);
 }
 
-int CLI_DIFF_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     int exit_code = CLI_EXIT_OK;
     // The side that is not a file says which record of a file is meant.
@@ -127,3 +127,7 @@ int CLI_DIFF_COMMAND::run(const CLI_CALL& call) const
                           : unified_diff(call.argument(0), left_lines, call.argument(1), right_lines));
     return left_lines == right_lines ? CLI_EXIT_OK : CLI_EXIT_DIFFERENT;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_DIFF_COMMAND = {"diff", "Compare two records", "LEFT RIGHT", {2, 2}, add_options, run};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/export_command.h"
+
+// Writes records to a file: JSON with both flow variants, or a list of devices as CSV.
+#include "commands/gfpdb_commands.h"
 
 #include "commands/export_directory.h"
 
@@ -180,26 +182,19 @@ int write_file(const CLI_CALL& call, const std::string& text)
     return CLI_EXIT_BAD_FILE;
 }
 
-} // namespace
-
-void CLI_EXPORT_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption({{QStringLiteral("o"), QLatin1String(CLI_OPTION_OUTPUT)},
-                      QStringLiteral("Write to this file instead of standard output."),
-                      QStringLiteral("file")});
-    parser.addOption({QLatin1String(OPTION_DIRECTORY),
-                      QStringLiteral("Write each record to a file of its own in this directory, which is made if it is "
-                                     "not there."),
-                      QStringLiteral("directory")});
-    parser.addOption({QLatin1String(CLI_OPTION_REPLACE),
-                      QStringLiteral("With --directory, replace files that exist with different content.")});
-    parser.addOption({QLatin1String(CLI_OPTION_BUILTIN),
-                      QStringLiteral("The built-in devices instead of the records of the database directory.")});
-    cli_add_csv_options(parser, "Write a list of the devices, without their flows, as comma-separated values.");
-    cli_add_place_options(parser, "Only devices of this");
+    options.push_back({CLI_OPTION_OUTPUT, "Write to this file instead of standard output.", "file", "o"});
+    options.push_back({OPTION_DIRECTORY,
+                       "Write each record to a file of its own in this directory, which is made if it is not there.",
+                       "directory"});
+    options.push_back({CLI_OPTION_REPLACE, "With --directory, replace files that exist with different content."});
+    options.push_back({CLI_OPTION_BUILTIN, "The built-in devices instead of the records of the database directory."});
+    cli_add_csv_options(options, "Write a list of the devices, without their flows, as comma-separated values.");
+    cli_add_place_options(options, "Only devices of this");
 }
 
-int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::string wrong = problem_of_options(call);
     if (!wrong.empty())
@@ -228,3 +223,7 @@ int CLI_EXPORT_COMMAND::run(const CLI_CALL& call) const
         exit_code = cli_report_unreadable(call, record);
     return exit_code;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_EXPORT_COMMAND = {"export", "Write records to a file", "[NAME...]", {0, -1}, add_options, run};

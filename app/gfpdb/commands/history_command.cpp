@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/history_command.h"
+
+// Prints the former states of records that were replaced or deleted.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_columns.h"
 #include "cli_find.h"
@@ -98,29 +100,20 @@ int prune(const CLI_CALL& call, const GFPDB_SELECTION& selection)
     return CLI_EXIT_OK;
 }
 
-} // namespace
-
-std::vector<CLI_NUMBER> CLI_HISTORY_COMMAND::numbers() const
+void add_options(CLI_OPTIONS& options)
 {
-    return {{OPTION_OLDER_THAN, 0, DAYS_MAX}, {OPTION_KEEP, 0, std::numeric_limits<int>::max()}};
+    options.push_back(
+        {OPTION_PRUNE, "Remove states instead of listing them, but not the last one of a deleted record."});
+    options.push_back(
+        {OPTION_OLDER_THAN, "Remove only states that are older than this many days.", "days", "", {{0, DAYS_MAX}}});
+    options.push_back(
+        {OPTION_KEEP, "Keep this many states of each record.", "number", "", {{0, std::numeric_limits<int>::max()}}});
+    options.push_back({OPTION_FORCE, "Also remove the last state of a deleted record: it cannot be restored then."});
+    cli_add_place_options(options, "Only records of this");
+    cli_add_json_option(options);
 }
 
-void CLI_HISTORY_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    parser.addOption({QLatin1String(OPTION_PRUNE), QStringLiteral("Remove states instead of listing them, but not the "
-                                                                  "last one of a deleted record.")});
-    parser.addOption({QLatin1String(OPTION_OLDER_THAN),
-                      QStringLiteral("Remove only states that are older than this many days."),
-                      QStringLiteral("days")});
-    parser.addOption({QLatin1String(OPTION_KEEP), QStringLiteral("Keep this many states of each record."),
-                      QStringLiteral("number")});
-    parser.addOption({QLatin1String(OPTION_FORCE), QStringLiteral("Also remove the last state of a deleted record: it "
-                                                                  "cannot be restored then.")});
-    cli_add_place_options(parser, "Only records of this");
-    cli_add_json_option(parser);
-}
-
-int CLI_HISTORY_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const GFPDB_SELECTION selection = cli_selection(call, call.argument(0));
     const std::string usage_problem = problem_of_pruning(call);
@@ -135,3 +128,8 @@ int CLI_HISTORY_COMMAND::run(const CLI_CALL& call) const
     call.output.print(call.has(CLI_OPTION_JSON) ? json(entries) : table(entries));
     return CLI_EXIT_OK;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_HISTORY_COMMAND = {
+    "history", "List former states of records", "[NAME]", {0, 1}, add_options, run, nullptr, false};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/import_command.h"
+
+// Reads records from files into the directory: all of them, or none. Or makes a device of an SFDP read-out.
+#include "commands/gfpdb_commands.h"
 
 #include "commands/import_report.h"
 
@@ -100,29 +102,28 @@ int import_files(const CLI_CALL& call)
     return exit_code;
 }
 
-} // namespace
-
-void CLI_IMPORT_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    cli_add_store_options(parser);
-    parser.addOption({QLatin1String(OPTION_UNCHECKED), QStringLiteral("Accept values that the rules refuse. Names are "
-                                                                      "still checked.")});
-    parser.addOption(
-        {QLatin1String(CLI_OPTION_CSV), QStringLiteral("Read the files as comma-separated values, whatever "
-                                                       "their names.")});
-    cli_add_place_options(parser, "Give all imported records this");
-    parser.addOption({QLatin1String(CLI_OPTION_SFDP),
-                      QStringLiteral("Make a device of an SFDP read-out: raw bytes as command 5A reads them."),
-                      QStringLiteral("file")});
-    cli_add_id_option(parser);
-    cli_add_value_options(parser);
-    cli_add_json_option(parser);
+    cli_add_store_options(options);
+    options.push_back({OPTION_UNCHECKED, "Accept values that the rules refuse. Names are still checked."});
+    options.push_back({CLI_OPTION_CSV, "Read the files as comma-separated values, whatever their names."});
+    cli_add_place_options(options, "Give all imported records this");
+    options.push_back(
+        {CLI_OPTION_SFDP, "Make a device of an SFDP read-out: raw bytes as command 5A reads them.", "file"});
+    cli_add_id_option(options);
+    cli_add_value_options(options);
+    cli_add_json_option(options);
 }
 
-int CLI_IMPORT_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::string wrong = problem_of_options(call);
     if (!wrong.empty())
         return call.wrong_usage(wrong);
     return call.has(CLI_OPTION_SFDP) ? import_read_out(call) : import_files(call);
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_IMPORT_COMMAND = {
+    "import", "Read records from files, all or none", "FILE...", {0, -1}, add_options, run};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/list_command.h"
+
+// Prints the devices and stored templates of a directory, and the built-in devices, one line each.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_find.h"
 #include "cli_records.h"
@@ -192,37 +194,31 @@ std::string csv(const std::vector<CLI_LISTED>& listed, GFPDB_LIST_FOR reader)
     return gfpdb_write_list(records, reader);
 }
 
-} // namespace
-
-std::vector<std::string> CLI_LIST_COMMAND::choices(const std::string& value) const
+std::vector<std::string> choices(const std::string& value)
 {
     return value == OPTION_KIND ? kind_names() : value == "order" ? order_names() : std::vector<std::string>();
 }
 
-void CLI_LIST_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    const auto rule = [&parser](const char* option, const char* text, const char* value) {
-        parser.addOption({QLatin1String(option), QLatin1String(text), QLatin1String(value)});
-    };
-    parser.addOption({QLatin1String(CLI_OPTION_BUILTIN), QStringLiteral("Only the built-in devices.")});
-    parser.addOption({QLatin1String(OPTION_ALL), QStringLiteral("Also the built-in devices.")});
-    rule(OPTION_FILTER, "Only names that match, e.g. \"MX25*\".", "wildcard");
-    rule(OPTION_ID, "Only this device ID, or IDs that begin so, e.g. \"C2 20 18\", C22018 or C2.", "bytes");
-    rule(OPTION_MAKER, "Only parts of this maker, or makers with this in their name, e.g. winbond.", "maker");
-    rule(OPTION_DENSITY, "Only this size, e.g. 256Mb or 32MB.", "density");
-    rule(OPTION_VOLTAGE, "Only devices that work at this voltage, e.g. 1.8V.", "voltage");
-    rule(OPTION_KIND, "Only records of this kind: device, template or builtin.", "kind");
-    parser.addOption(
-        {QLatin1String(OPTION_SORT),
-         QStringLiteral("Sort the list by one of: %1.").arg(QString::fromStdString(gfpdb_joined(order_names()))),
-         QStringLiteral("order")});
-    parser.addOption({QLatin1String(OPTION_NAMES), QStringLiteral("Print only the names, one per line.")});
-    cli_add_csv_options(parser, "Print the devices as comma-separated values.");
-    cli_add_place_options(parser, "Only devices of this");
-    cli_add_json_option(parser);
+    options.push_back({CLI_OPTION_BUILTIN, "Only the built-in devices."});
+    options.push_back({OPTION_ALL, "Also the built-in devices."});
+    options.push_back({OPTION_FILTER, "Only names that match, e.g. \"MX25*\".", "wildcard"});
+    options.push_back(
+        {OPTION_ID, "Only this device ID, or IDs that begin so, e.g. \"C2 20 18\", C22018 or C2.", "bytes"});
+    options.push_back(
+        {OPTION_MAKER, "Only parts of this maker, or makers with this in their name, e.g. winbond.", "maker"});
+    options.push_back({OPTION_DENSITY, "Only this size, e.g. 256Mb or 32MB.", "density"});
+    options.push_back({OPTION_VOLTAGE, "Only devices that work at this voltage, e.g. 1.8V.", "voltage"});
+    options.push_back({OPTION_KIND, "Only records of this kind: device, template or builtin.", "kind"});
+    options.push_back({OPTION_SORT, "Sort the list by one of: " + gfpdb_joined(order_names()) + ".", "order"});
+    options.push_back({OPTION_NAMES, "Print only the names, one per line."});
+    cli_add_csv_options(options, "Print the devices as comma-separated values.");
+    cli_add_place_options(options, "Only devices of this");
+    cli_add_json_option(options);
 }
 
-int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::optional<GFPDB_LIST_FOR> reader = call.list_reader();
     if (reader && call.has(CLI_OPTION_JSON))
@@ -244,3 +240,8 @@ int CLI_LIST_COMMAND::run(const CLI_CALL& call) const
         print_hint(call, filter);
     return exit_code;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_LIST_COMMAND = {
+    "list", "List devices, templates and built-in devices", "", {0, 0}, add_options, run, choices};

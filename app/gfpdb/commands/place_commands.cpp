@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/place_commands.h"
+
+// Prints the device families and the configuration schemes: the numbers and names that --family and --scheme take.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_columns.h"
 #include "cli_json.h"
@@ -45,29 +47,20 @@ int print(const CLI_CALL& call, const std::vector<int>& numbers, NAME_OF name_of
     return CLI_EXIT_OK;
 }
 
-} // namespace
-
-void CLI_FAMILIES_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    cli_add_json_option(parser);
-}
-
-int CLI_FAMILIES_COMMAND::run(const CLI_CALL& call) const
+int run_families(const CLI_CALL& call)
 {
     std::vector<int> families;
     call.database.get_manager().get_family_list(families);
     return print(call, families, dstr_get_user_string);
 }
 
-void CLI_SCHEMES_COMMAND::add_options(QCommandLineParser& parser) const
+void add_schemes_options(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(CLI_OPTION_FAMILY),
-                      QStringLiteral("Only the schemes of this device family (1 to 72, or its name)."),
-                      QStringLiteral("family")});
-    cli_add_json_option(parser);
+    options.push_back({CLI_OPTION_FAMILY, "Only the schemes of this device family (1 to 72, or its name).", "family"});
+    cli_add_json_option(options);
 }
 
-int CLI_SCHEMES_COMMAND::run(const CLI_CALL& call) const
+int run_schemes(const CLI_CALL& call)
 {
     const std::optional<int> family = call.family();
     if (!family)
@@ -83,3 +76,11 @@ int CLI_SCHEMES_COMMAND::run(const CLI_CALL& call) const
     }
     return print(call, schemes, cli_scheme_name);
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_FAMILIES_COMMAND = {"families", "List the device families", "",
+                                          {0, 0},     cli_add_json_option,        run_families};
+
+const CLI_COMMAND CLI_SCHEMES_COMMAND = {"schemes",  "List the configuration schemes", "", {0, 0}, add_schemes_options,
+                                         run_schemes};

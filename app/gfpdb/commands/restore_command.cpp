@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/restore_command.h"
+
+// Makes a former state the current record again.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_find.h"
 
@@ -18,18 +20,14 @@ std::string hint_for(const CLI_CALL& call, const GFPDB_RECORD& state)
     return call.database.is_name_of_other_kind(state) ? "Use --as to give the state another name." : "";
 }
 
-} // namespace
-
-void CLI_RESTORE_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(OPTION_REPLACE), QStringLiteral("Replace the record that has the name now; its "
-                                                                    "current state goes into the history.")});
-    parser.addOption({QLatin1String(OPTION_AS),
-                      QStringLiteral("Restore it under this name; for a template, the template name."),
-                      QStringLiteral("name")});
+    options.push_back(
+        {OPTION_REPLACE, "Replace the record that has the name now; its current state goes into the history."});
+    options.push_back({OPTION_AS, "Restore it under this name; for a template, the template name.", "name"});
 }
 
-int CLI_RESTORE_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::string number = call.argument(0);
     const std::string new_name = call.value(OPTION_AS);
@@ -60,3 +58,7 @@ int CLI_RESTORE_COMMAND::run(const CLI_CALL& call) const
                       gfpdb_quoted(state.name()) + '\n');
     return CLI_EXIT_OK;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_RESTORE_COMMAND = {"restore", "Restore a former state", "ID", {1, 1}, add_options, run};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/server_command.h"
+
+// A database on a server: what it needs, the file that names it, how it is.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_json.h"
 
@@ -8,39 +10,14 @@
 
 #include <QStringList>
 
-#include <array>
-
 namespace {
 
 constexpr const char* OPTION_SCHEMA = "schema";
-constexpr const char* OPTION_JSON = CLI_OPTION_JSON;
 constexpr std::size_t TITLE_WIDTH = 22;
 constexpr double MICROSECONDS = 1000.0;
 
-// The settings that "init" writes; the key of the file is the option's name, but for the hosts.
-struct SETTING
-{
-    const char* option;
-    const char* value;
-    const char* help;
-};
-constexpr std::array<SETTING, 7> SETTINGS = {{
-    {"host", "names", "init: the server, or several separated by commas; with a slash first, a directory of sockets."},
-    {"port", "numbers", "init: its port, or one for each host."},
-    {"database", "name", "init: the database on the server."},
-    {OPTION_SCHEMA, "name", "sql, init: the schema in it; gfpdb if not given."},
-    {"user", "name", "init: the role that logs in; by default libpq's, the user's name."},
-    {"sslmode", "mode", "init: as libpq has it, e.g. verify-full."},
-    {"sslrootcert", "file", "init: the certificate of the authority, relative to the directory."},
-}};
-
 // What libpq takes for --sslmode.
 constexpr const char* SSL_MODES[] = {"disable", "allow", "prefer", "require", "verify-ca", "verify-full"};
-
-std::string option(const CLI_CALL& call, const char* name)
-{
-    return call.value(name);
-}
 
 std::vector<std::string> parts_of(const std::string& list)
 {
@@ -65,7 +42,7 @@ bool read_ports(const std::string& list, std::vector<int>& ports)
 
 std::string schema_of(const CLI_CALL& call)
 {
-    return call.has(OPTION_SCHEMA) ? option(call, OPTION_SCHEMA) : std::string(GFPDB_SERVER_SCHEMA);
+    return call.has(OPTION_SCHEMA) ? call.value(OPTION_SCHEMA) : std::string(GFPDB_SERVER_SCHEMA);
 }
 
 int print_sql(const CLI_CALL& call)
@@ -88,14 +65,14 @@ int init(const CLI_CALL& call, const std::string& directory)
         return call.wrong_usage("An argument is missing: gfpdb server init DIRECTORY");
     if (!call.has("host") || !call.has("database"))
         return call.wrong_usage("init needs --host and --database.");
-    if (!read_ports(option(call, "port"), server.ports))
+    if (!read_ports(call.value("port"), server.ports))
         return call.wrong_usage("--port needs a number, or several separated by commas.");
-    server.hosts = parts_of(option(call, "host"));
-    server.database = option(call, "database");
+    server.hosts = parts_of(call.value("host"));
+    server.database = call.value("database");
     server.schema = schema_of(call);
-    server.user = option(call, "user");
-    server.sslmode = option(call, "sslmode");
-    server.sslrootcert = option(call, "sslrootcert");
+    server.user = call.value("user");
+    server.sslmode = call.value("sslmode");
+    server.sslrootcert = call.value("sslrootcert");
     std::string error;
     if (!gfpdb_check_server(server, error))
         return call.wrong_usage(error);
@@ -166,26 +143,32 @@ int print_status(const CLI_CALL& call, const std::string& argument)
         return call.database_failed(error);
     const std::string two_databases = gfpdb_two_databases(directory);
     status->problem = two_databases.empty() ? status->problem : two_databases;
-    call.output.print(call.has(OPTION_JSON) ? status_json(*server, *status) : status_text(*server, *status));
+    call.output.print(call.has(CLI_OPTION_JSON) ? status_json(*server, *status) : status_text(*server, *status));
     return status->problem.empty() ? CLI_EXIT_OK : call.database_failed(status->problem);
 }
 
-} // namespace
-
-std::vector<std::string> CLI_SERVER_COMMAND::choices(const std::string& value) const
+std::vector<std::string> choices(const std::string& value)
 {
     return value == "mode" ? std::vector<std::string>(std::begin(SSL_MODES), std::end(SSL_MODES))
                            : std::vector<std::string>();
 }
 
-void CLI_SERVER_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    for (const SETTING& setting : SETTINGS)
-        parser.addOption({QLatin1String(setting.option), QLatin1String(setting.help), QLatin1String(setting.value)});
-    parser.addOption({QLatin1String(OPTION_JSON), QStringLiteral("status: print JSON.")});
+    // Those that "init" writes; the key of the file is the option's name, but for the hosts.
+    options.push_back({"host",
+                       "init: the server, or several separated by commas; with a slash first, a directory of sockets.",
+                       "names"});
+    options.push_back({"port", "init: its port, or one for each host.", "numbers"});
+    options.push_back({"database", "init: the database on the server.", "name"});
+    options.push_back({OPTION_SCHEMA, "sql, init: the schema in it; gfpdb if not given.", "name"});
+    options.push_back({"user", "init: the role that logs in; by default libpq's, the user's name.", "name"});
+    options.push_back({"sslmode", "init: as libpq has it, e.g. verify-full.", "mode"});
+    options.push_back({"sslrootcert", "init: the certificate of the authority, relative to the directory.", "file"});
+    options.push_back({CLI_OPTION_JSON, "status: print JSON."});
 }
 
-int CLI_SERVER_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::string what = call.argument(0);
     if (what == "sql" && call.argument_count() == 1)
@@ -198,3 +181,13 @@ int CLI_SERVER_COMMAND::run(const CLI_CALL& call) const
         return print_status(call, call.argument(1));
     return call.wrong_usage(gfpdb_quoted(what) + " is not a server command. Allowed: sql, init, status.");
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_SERVER_COMMAND = {"server",
+                                        "Set up a directory whose database is on a PostgreSQL server",
+                                        "sql|init|status [DIRECTORY]",
+                                        {1, 2},
+                                        add_options,
+                                        run,
+                                        choices};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/sfdp_command.h"
+
+// Prints what an SFDP read-out says, and with an ID the listed parts that differ from it.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_sfdp.h"
 #include "cli_values.h"
@@ -19,15 +21,13 @@ std::string json(const GFPDB_SFDP& sfdp, const std::vector<GFPDB_PART_COMPARISON
     return json.text();
 }
 
-} // namespace
-
-void CLI_SFDP_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    cli_add_id_option(parser);
-    cli_add_json_option(parser);
+    cli_add_id_option(options);
+    cli_add_json_option(options);
 }
 
-int CLI_SFDP_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     std::vector<std::uint8_t> id;
     if (!cli_read_id(call, id))
@@ -46,3 +46,8 @@ int CLI_SFDP_COMMAND::run(const CLI_CALL& call) const
     cli_print_warnings(call, path, sfdp->warnings);
     return CLI_EXIT_OK;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_SFDP_COMMAND = {"sfdp", "Show what a chip says of itself (SFDP)", "FILE", {1, 1}, add_options,
+                                      run};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/show_command.h"
+
+// Prints one record with its flows.
+#include "commands/gfpdb_commands.h"
 
 #include "cli_find.h"
 #include "record_text.h"
@@ -13,24 +15,21 @@ constexpr const char* SINGLE = "single";
 constexpr const char* QUAD = "quad";
 constexpr const char* BOTH = "both";
 
-} // namespace
-
-std::vector<std::string> CLI_SHOW_COMMAND::choices(const std::string& value) const
+std::vector<std::string> choices(const std::string& value)
 {
     return value == OPTION_VARIANT ? std::vector<std::string>{SINGLE, QUAD, BOTH} : std::vector<std::string>();
 }
 
-void CLI_SHOW_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption({QLatin1String(OPTION_VARIANT), QStringLiteral("The flows to show: single, quad or both."),
-                      QStringLiteral("variant"), QLatin1String(BOTH)});
-    cli_add_place_options(parser, "Only devices of this");
-    cli_add_json_option(parser);
+    options.push_back({OPTION_VARIANT, "The flows to show: single, quad or both.", "variant"});
+    cli_add_place_options(options, "Only devices of this");
+    cli_add_json_option(options);
 }
 
-int CLI_SHOW_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
-    const std::string variant = call.value(OPTION_VARIANT);
+    const std::string variant = call.has(OPTION_VARIANT) ? call.value(OPTION_VARIANT) : BOTH;
     if (variant != SINGLE && variant != QUAD && variant != BOTH)
         return call.wrong_usage(gfpdb_quoted(variant) + " is not a flow variant. Allowed: single, quad, both.");
     int exit_code = CLI_EXIT_OK;
@@ -43,3 +42,8 @@ int CLI_SHOW_COMMAND::run(const CLI_CALL& call) const
     call.output.print(call.has(CLI_OPTION_JSON) ? *json : record_to_text(*record, variant != QUAD, variant != SINGLE));
     return CLI_EXIT_OK;
 }
+
+} // namespace
+
+const CLI_COMMAND CLI_SHOW_COMMAND = {"show", "Show a record with its flows", "NAME", {1, 1}, add_options, run,
+                                      choices};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/detect_command.h"
+
+// Reads the ID of the connected chip, and lists the devices that have it.
+#include "commands/gfprog_commands.h"
 
 #include "gfprog_target.h"
 
@@ -29,14 +31,7 @@ std::string json(const std::string& connection, const GFPROG_DETECTED& detected)
     return json.text();
 }
 
-} // namespace
-
-void GFPROG_DETECT_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    gfprog_add_target_options(parser);
-}
-
-int GFPROG_DETECT_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     int exit_code = CLI_EXIT_OK;
     std::optional<GFPROG_TARGET> target = gfprog_open_connection(call, exit_code);
@@ -53,3 +48,9 @@ int GFPROG_DETECT_COMMAND::run(const CLI_CALL& call) const
                           (is_known ? cli_records_table(listed(detected->devices)) : "No device has this ID.\n"));
     return is_known ? CLI_EXIT_OK : CLI_EXIT_NOT_FOUND;
 }
+
+} // namespace
+
+const CLI_COMMAND GFPROG_DETECT_COMMAND = {
+    "detect",      "List the devices that the connected chip can be", "", {0, 0}, gfprog_add_target_options, run,
+    gfprog_choices};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/emulate_command.h"
+
+// Offers an emulated chip to serprog clients.
+#include "commands/gfprog_commands.h"
 
 #include "gfprog_target.h"
 #include "run/interrupt.h"
@@ -35,25 +37,15 @@ int serve(const CLI_CALL& call, GFPE_CHIP& chip)
     return gfprog_print_notes(call, chip.get_notes()) ? int(GFPROG_EXIT_NOTED) : int(CLI_EXIT_OK);
 }
 
-} // namespace
-
-void GFPROG_EMULATE_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    parser.addOption(
-        {QLatin1String(OPTION_LISTEN), QStringLiteral("The TCP port; 0 for any free one."), QStringLiteral("port")});
-    parser.addOption(
-        {QLatin1String(OPTION_EVERY_ADDRESS), QStringLiteral("Serve other machines too, not only this one.")});
-    parser.addOption({QLatin1String(GFPROG_OPTION_FILE), QStringLiteral("The file that keeps the chip's contents."),
-                      QStringLiteral("file")});
-    cli_add_place_options(parser, "The device of this");
+    options.push_back({OPTION_LISTEN, "The TCP port; 0 for any free one.", "port", "", {{0, LAST_PORT}}});
+    options.push_back({OPTION_EVERY_ADDRESS, "Serve other machines too, not only this one."});
+    options.push_back({GFPROG_OPTION_FILE, "The file that keeps the chip's contents.", "file"});
+    cli_add_place_options(options, "The device of this");
 }
 
-std::vector<CLI_NUMBER> GFPROG_EMULATE_COMMAND::numbers() const
-{
-    return {{OPTION_LISTEN, 0, LAST_PORT}};
-}
-
-int GFPROG_EMULATE_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     if (!call.has(OPTION_LISTEN))
         return call.wrong_usage("--listen is missing: the TCP port.");
@@ -73,3 +65,8 @@ int GFPROG_EMULATE_COMMAND::run(const CLI_CALL& call) const
     }
     return serve(call, *chip);
 }
+
+} // namespace
+
+const CLI_COMMAND GFPROG_EMULATE_COMMAND = {
+    "emulate", "Be a programmer with an emulated chip, for serprog clients", "PART", {1, 1}, add_options, run};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/learn_command.h"
+
+// Reads what the connected chip says of itself, and makes a device of it.
+#include "commands/gfprog_commands.h"
 
 #include "gfprog_target.h"
 #include "run/examined_file.h"
@@ -74,22 +76,19 @@ bool save(const CLI_CALL& call, const std::vector<std::uint8_t>& tables, EXAMINE
     return false;
 }
 
-} // namespace
-
-void GFPROG_LEARN_COMMAND::add_options(QCommandLineParser& parser) const
+void add_options(CLI_OPTIONS& options)
 {
-    gfprog_add_chip_options(parser);
-    cli_add_place_options(parser, "The emulated device of this", CLI_OPTION_FROM_FAMILY, CLI_OPTION_FROM_SCHEME);
-    cli_add_place_options(parser, "Give the new device this");
-    cli_add_value_options(parser);
-    cli_add_store_options(parser);
-    parser.addOption({QLatin1String(OPTION_SAVE_SFDP), QStringLiteral("Save the SFDP tables as they were read."),
-                      QStringLiteral("file")});
-    gfprog_add_force_option(parser);
-    cli_add_json_option(parser);
+    gfprog_add_chip_options(options);
+    cli_add_place_options(options, "The emulated device of this", CLI_OPTION_FROM_FAMILY, CLI_OPTION_FROM_SCHEME);
+    cli_add_place_options(options, "Give the new device this");
+    cli_add_value_options(options);
+    cli_add_store_options(options);
+    options.push_back({OPTION_SAVE_SFDP, "Save the SFDP tables as they were read.", "file"});
+    gfprog_add_force_option(options);
+    cli_add_json_option(options);
 }
 
-int GFPROG_LEARN_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::string wrong = problem_of_options(call);
     if (!wrong.empty())
@@ -112,3 +111,8 @@ int GFPROG_LEARN_COMMAND::run(const CLI_CALL& call) const
     exit_code = cli_propose_device(call, chip, true, call.has(CLI_OPTION_NAME));
     return is_saved || exit_code != CLI_EXIT_OK ? exit_code : int(CLI_EXIT_BAD_FILE);
 }
+
+} // namespace
+
+const CLI_COMMAND GFPROG_LEARN_COMMAND = {
+    "learn", "Make a device of what the connected chip says of itself", "", {0, 0}, add_options, run, gfprog_choices};

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/operation_commands.h"
+
+// The commands that run the operations of a flow.
+#include "commands/gfprog_commands.h"
 
 #include "run/gfprog_job.h"
 
@@ -39,10 +41,10 @@ const OPERATION* find_operation(const std::string& name)
     return nullptr;
 }
 
-void add_common_options(QCommandLineParser& parser)
+void add_common_options(CLI_OPTIONS& options)
 {
-    gfprog_add_target_options(parser);
-    gfprog_add_run_options(parser);
+    gfprog_add_target_options(options);
+    gfprog_add_run_options(options);
 }
 
 GFPROG_JOB make_job(const CLI_CALL& call)
@@ -52,15 +54,12 @@ GFPROG_JOB make_job(const CLI_CALL& call)
     return job;
 }
 
-void add_operation_options(QCommandLineParser& parser)
+void add_operation_options(CLI_OPTIONS& options)
 {
-    add_common_options(parser);
-    parser.addOption({QLatin1String(GFPROG_OPTION_FILE), QStringLiteral("The file to program and to compare with."),
-                      QStringLiteral("file")});
-    parser.addOption({{QStringLiteral("o"), QLatin1String(CLI_OPTION_OUTPUT)},
-                      QStringLiteral("The file that gets what examine reads."),
-                      QStringLiteral("file")});
-    gfprog_add_force_option(parser);
+    add_common_options(options);
+    options.push_back({GFPROG_OPTION_FILE, "The file to program and to compare with.", "file"});
+    options.push_back({CLI_OPTION_OUTPUT, "The file that gets what examine reads.", "file", "o"});
+    gfprog_add_force_option(options);
 }
 
 int run_operations(const CLI_CALL& call, GFPROG_JOB job)
@@ -82,18 +81,15 @@ int run_operations(const CLI_CALL& call, GFPROG_JOB job)
     return gfprog_run(call, job);
 }
 
-} // namespace
-
-void GFPROG_PROGRAM_COMMAND::add_options(QCommandLineParser& parser) const
+void add_program_options(CLI_OPTIONS& options)
 {
-    add_common_options(parser);
-    parser.addOption({QLatin1String(OPTION_NO_ERASE), QStringLiteral("Do not erase first.")});
-    parser.addOption({QLatin1String(OPTION_BLANK_CHECK), QStringLiteral("Check that the range is blank before it is "
-                                                                        "programmed.")});
-    parser.addOption({QLatin1String(OPTION_NO_VERIFY), QStringLiteral("Do not verify afterwards.")});
+    add_common_options(options);
+    options.push_back({OPTION_NO_ERASE, "Do not erase first."});
+    options.push_back({OPTION_BLANK_CHECK, "Check that the range is blank before it is programmed."});
+    options.push_back({OPTION_NO_VERIFY, "Do not verify afterwards."});
 }
 
-int GFPROG_PROGRAM_COMMAND::run(const CLI_CALL& call) const
+int run_program(const CLI_CALL& call)
 {
     GFPROG_JOB job = make_job(call);
     job.image_file = call.argument(0);
@@ -104,36 +100,21 @@ int GFPROG_PROGRAM_COMMAND::run(const CLI_CALL& call) const
     return gfprog_run(call, job);
 }
 
-void GFPROG_ERASE_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    add_common_options(parser);
-}
-
-int GFPROG_ERASE_COMMAND::run(const CLI_CALL& call) const
+int run_erase(const CLI_CALL& call)
 {
     GFPROG_JOB job = make_job(call);
     job.order.erase = true;
     return gfprog_run(call, job);
 }
 
-void GFPROG_BLANK_CHECK_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    add_common_options(parser);
-}
-
-int GFPROG_BLANK_CHECK_COMMAND::run(const CLI_CALL& call) const
+int run_blank_check(const CLI_CALL& call)
 {
     GFPROG_JOB job = make_job(call);
     job.order.blank_check = true;
     return gfprog_run(call, job);
 }
 
-void GFPROG_VERIFY_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    add_common_options(parser);
-}
-
-int GFPROG_VERIFY_COMMAND::run(const CLI_CALL& call) const
+int run_verify(const CLI_CALL& call)
 {
     GFPROG_JOB job = make_job(call);
     job.image_file = call.argument(0);
@@ -141,13 +122,13 @@ int GFPROG_VERIFY_COMMAND::run(const CLI_CALL& call) const
     return gfprog_run(call, job);
 }
 
-void GFPROG_READ_COMMAND::add_options(QCommandLineParser& parser) const
+void add_read_options(CLI_OPTIONS& options)
 {
-    add_common_options(parser);
-    gfprog_add_force_option(parser);
+    add_common_options(options);
+    gfprog_add_force_option(options);
 }
 
-int GFPROG_READ_COMMAND::run(const CLI_CALL& call) const
+int run_read(const CLI_CALL& call)
 {
     GFPROG_JOB job = make_job(call);
     job.output_file = call.argument(0);
@@ -155,35 +136,52 @@ int GFPROG_READ_COMMAND::run(const CLI_CALL& call) const
     return gfprog_run(call, job);
 }
 
-std::vector<std::string> GFPROG_RUN_COMMAND::choices(const std::string& value) const
+std::vector<std::string> choices(const std::string& value)
 {
-    return value == "OPERATION" ? operation_names() : GFPROG_COMMAND::choices(value);
+    return value == "OPERATION" ? operation_names() : gfprog_choices(value);
 }
 
-void GFPROG_RUN_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    add_operation_options(parser);
-}
-
-int GFPROG_RUN_COMMAND::run(const CLI_CALL& call) const
+int run_named(const CLI_CALL& call)
 {
     return run_operations(call, make_job(call));
 }
 
-std::vector<std::string> GFPROG_TRACE_COMMAND::choices(const std::string& value) const
-{
-    return value == "OPERATION" ? operation_names() : GFPROG_COMMAND::choices(value);
-}
-
-void GFPROG_TRACE_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    add_operation_options(parser);
-}
-
-int GFPROG_TRACE_COMMAND::run(const CLI_CALL& call) const
+int run_trace(const CLI_CALL& call)
 {
     GFPROG_JOB job = make_job(call);
     if (job.trace_file.empty())
         job.trace_file = "-";
     return run_operations(call, job);
 }
+
+} // namespace
+
+const CLI_COMMAND GFPROG_PROGRAM_COMMAND = {
+    "program",     "Erase, program and verify what a file covers", "FILE", {1, 1}, add_program_options, run_program,
+    gfprog_choices};
+
+const CLI_COMMAND GFPROG_ERASE_COMMAND = {
+    "erase", "Erase the device, or a range of it", "", {0, 0}, add_common_options, run_erase, gfprog_choices};
+
+const CLI_COMMAND GFPROG_BLANK_CHECK_COMMAND = {
+    "blank-check", "Check that the device, or a range of it, is blank", "", {0, 0}, add_common_options, run_blank_check,
+    gfprog_choices};
+
+const CLI_COMMAND GFPROG_VERIFY_COMMAND = {
+    "verify", "Compare the device with a file", "FILE", {1, 1}, add_common_options, run_verify, gfprog_choices};
+
+const CLI_COMMAND GFPROG_READ_COMMAND = {
+    "read",        "Read the device, or a range of it, into a file", "FILE", {1, 1}, add_read_options, run_read,
+    gfprog_choices};
+
+const CLI_COMMAND GFPROG_RUN_COMMAND = {
+    "run",  "Run operations of the flow by their names", "OPERATION...", {1, -1}, add_operation_options, run_named,
+    choices};
+
+const CLI_COMMAND GFPROG_TRACE_COMMAND = {"trace",
+                                          "Run operations and print every command that is sent",
+                                          "OPERATION...",
+                                          {1, -1},
+                                          add_operation_options,
+                                          run_trace,
+                                          choices};

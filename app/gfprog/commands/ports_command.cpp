@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "commands/ports_command.h"
+
+// Lists the serial lines of this machine.
+#include "commands/gfprog_commands.h"
 
 #include "cli_json.h"
 
@@ -29,16 +31,14 @@ std::string table(const std::vector<GFPE_PORT>& ports)
     return text;
 }
 
-} // namespace
-
-void GFPROG_PORTS_COMMAND::add_options(QCommandLineParser& parser) const
-{
-    cli_add_json_option(parser);
-}
-
-int GFPROG_PORTS_COMMAND::run(const CLI_CALL& call) const
+int run(const CLI_CALL& call)
 {
     const std::vector<GFPE_PORT> ports = gfpe_serial_ports();
     call.output.print(call.has(CLI_OPTION_JSON) ? json(ports) : table(ports));
     return CLI_EXIT_OK;
 }
+
+} // namespace
+
+const CLI_COMMAND GFPROG_PORTS_COMMAND = {
+    "ports", "List the serial lines of this machine", "", {0, 0}, cli_add_json_option, run};
