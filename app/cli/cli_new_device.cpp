@@ -114,16 +114,14 @@ int cli_propose_device(const CLI_CALL& call, const CLI_CHIP& chip, bool shows_pa
     if (!is_json)
         return exit_code;
     CLI_JSON json;
-    json.begin_object();
     json.add("origin", chip.origin);
     json.add("id", cli_bytes(chip.id));
     cli_add_values(json, "values", device.get_values());
-    cli_add_texts(json, "warnings", device.get_warnings());
+    json.add("warnings", device.get_warnings());
     if (shows_parts)
         cli_add_parts(json, "parts", parts_of(chip));
     if (action != nullptr)
         cli_add_stored(json, call, record, action);
-    json.end_object();
     call.output.print(json.text());
     return exit_code;
 }

@@ -26,6 +26,11 @@ std::string cli_printable(const std::string& text)
     return printable_text(text);
 }
 
+std::string cli_counted(std::size_t count, const std::string& what)
+{
+    return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
+}
+
 void CLI_OUTPUT::print(const std::string& text)
 {
     write(stdout, ::isatty(STDOUT_FILENO) == 1 ? printable_lines(text) : text);

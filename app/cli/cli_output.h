@@ -9,6 +9,8 @@
 
 // `text` for a terminal: control characters, with which a value could move the cursor, are shown as "?".
 std::string cli_printable(const std::string& text);
+// "1 record", "2 records".
+std::string cli_counted(std::size_t count, const std::string& what);
 
 // Standard output, and standard error with the tool's name before each message. Texts are UTF-8.
 class CLI_OUTPUT

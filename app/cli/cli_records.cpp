@@ -80,32 +80,24 @@ std::string cli_record_names(const std::vector<CLI_LISTED>& records)
     return text;
 }
 
-void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records)
+void cli_add_record(CLI_JSON& json, const CLI_LISTED& listed)
 {
-    for (const CLI_LISTED& listed : records) {
-        json.begin_object();
-        json.add("name", listed.record.name());
-        json.add("kind", listed.kind());
-        for (GFPDB_VALUE& value : gfpdb_values(listed.record)) {
-            if (listed.is_builtin && value.property == GFPDB_NO_PROPERTY)
-                value.text.clear();
-            if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_FLASH_TEMPLATE_NAME)
-                add_value(json, value);
-        }
-        json.add("maker", record_manufacturer(listed.record.row));
-        if (!listed.is_builtin) {
-            json.add("saved_at", listed.record.row.saved_at);
-            json.add("saved_by", listed.record.row.saved_by);
-        }
-        json.end_object();
+    json.add("name", listed.record.name());
+    json.add("kind", listed.kind());
+    for (GFPDB_VALUE& value : gfpdb_values(listed.record)) {
+        if (listed.is_builtin && value.property == GFPDB_NO_PROPERTY)
+            value.text.clear();
+        if (value.property != GFPDB_FLASH_NAME && value.property != GFPDB_FLASH_TEMPLATE_NAME)
+            add_value(json, value);
+    }
+    json.add("maker", record_manufacturer(listed.record.row));
+    if (!listed.is_builtin) {
+        json.add("saved_at", listed.record.row.saved_at);
+        json.add("saved_by", listed.record.row.saved_by);
     }
 }
 
 std::string cli_records_json(const std::vector<CLI_LISTED>& records)
 {
-    CLI_JSON json;
-    json.begin_list();
-    cli_add_records(json, records);
-    json.end_list();
-    return json.text();
+    return CLI_JSON::list_text(records, cli_add_record);
 }

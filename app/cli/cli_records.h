@@ -23,6 +23,6 @@ struct CLI_LISTED
 std::string cli_records_table(const std::vector<CLI_LISTED>& records);
 // The names, one per line.
 std::string cli_record_names(const std::vector<CLI_LISTED>& records);
-// A list of objects; and these objects alone, for the list that is open.
+// A list of objects; and the members of such an object.
 std::string cli_records_json(const std::vector<CLI_LISTED>& records);
-void cli_add_records(CLI_JSON& json, const std::vector<CLI_LISTED>& records);
+void cli_add_record(CLI_JSON& json, const CLI_LISTED& listed);

@@ -42,26 +42,14 @@ std::string cli_values_table(const std::vector<GFPDB_PROPOSED_VALUE>& values)
 
 void cli_add_values(CLI_JSON& json, const char* key, const std::vector<GFPDB_PROPOSED_VALUE>& values)
 {
-    json.begin_list(key);
-    for (const GFPDB_PROPOSED_VALUE& value : values) {
-        json.begin_object();
-        json.add("key", value.key);
-        json.add("title", value.title);
-        json.add("text", value.text);
-        json.add("source", value.source);
+    json.add_objects(key, values, [](CLI_JSON& object, const GFPDB_PROPOSED_VALUE& value) {
+        object.add("key", value.key);
+        object.add("title", value.title);
+        object.add("text", value.text);
+        object.add("source", value.source);
         if (!value.choices.empty())
-            cli_add_texts(json, "choices", value.choices);
-        json.end_object();
-    }
-    json.end_list();
-}
-
-void cli_add_texts(CLI_JSON& json, const char* key, const std::vector<std::string>& texts)
-{
-    json.begin_list(key);
-    for (const std::string& text : texts)
-        json.add(text);
-    json.end_list();
+            object.add("choices", value.choices);
+    });
 }
 
 std::string cli_parts_text(const std::vector<GFPDB_PART_COMPARISON>& parts)
@@ -79,14 +67,10 @@ std::string cli_parts_text(const std::vector<GFPDB_PART_COMPARISON>& parts)
 
 void cli_add_parts(CLI_JSON& json, const char* key, const std::vector<GFPDB_PART_COMPARISON>& parts)
 {
-    json.begin_list(key);
-    for (const GFPDB_PART_COMPARISON& each : parts) {
-        json.begin_object();
-        json.add("name", each.part->name);
-        cli_add_texts(json, "differences", each.differences);
-        json.end_object();
-    }
-    json.end_list();
+    json.add_objects(key, parts, [](CLI_JSON& object, const GFPDB_PART_COMPARISON& each) {
+        object.add("name", each.part->name);
+        object.add("differences", each.differences);
+    });
 }
 
 std::string cli_bytes(const std::vector<std::uint8_t>& bytes)

@@ -14,7 +14,6 @@
 std::string cli_values_table(const std::vector<GFPDB_PROPOSED_VALUE>& values);
 // A list of objects under `key`.
 void cli_add_values(CLI_JSON& json, const char* key, const std::vector<GFPDB_PROPOSED_VALUE>& values);
-void cli_add_texts(CLI_JSON& json, const char* key, const std::vector<std::string>& texts);
 
 // The listed parts that have an ID, each with where it differs from what a chip says.
 std::string cli_parts_text(const std::vector<GFPDB_PART_COMPARISON>& parts);

@@ -45,14 +45,12 @@ std::string json(const CLI_CALL& call, std::size_t count, const std::string& dam
                  const CLI_LINT& lint)
 {
     CLI_JSON json;
-    json.begin_object();
     json.add("directory", call.database.get_directory());
     json.add("integrity", damage.empty() ? "ok" : damage);
     json.add_number("records", static_cast<long long>(count));
     add_list(json, "problems", found, false);
     add_list(json, "warnings", found, true);
     lint.add_to(json);
-    json.end_object();
     return json.text();
 }
 
@@ -62,11 +60,6 @@ std::string line(const FOUND& found)
            (found.is_warning() ? ": warning: " : ": ") + found.finding.text + '\n';
 }
 
-std::string counted(std::size_t count, const std::string& what)
-{
-    return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
-}
-
 std::string text(std::size_t count, const FINDINGS& found, std::size_t problems, const CLI_LINT& lint)
 {
     std::string text;
@@ -74,8 +67,8 @@ std::string text(std::size_t count, const FINDINGS& found, std::size_t problems,
         text += line(each);
     text += lint.text();
     const std::size_t warnings = found.size() - problems + lint.count();
-    return text + counted(count, "record") + ", " + counted(problems, "problem") +
-           (warnings == 0 ? "" : ", " + counted(warnings, "warning")) + '\n';
+    return text + cli_counted(count, "record") + ", " + cli_counted(problems, "problem") +
+           (warnings == 0 ? "" : ", " + cli_counted(warnings, "warning")) + '\n';
 }
 
 // What a read has failed to find is not checked: that counts as damage, unless some is known.

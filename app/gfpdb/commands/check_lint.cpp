@@ -122,17 +122,13 @@ void CLI_LINT::add_to(CLI_JSON& json) const
 {
     if (!m_is_on)
         return;
-    json.begin_list("lint");
-    for (const FOUND& found : m_found) {
-        json.begin_object();
-        json.add("record", found.record);
-        json.add("variant", variant_of(found.finding));
-        json.add("operation", operation_of(found.finding));
-        json.add_number("action", found.finding.action + 1);
-        json.add("name", found.action);
-        json.add("rule", found.finding.rule);
-        json.add("text", found.finding.text);
-        json.end_object();
-    }
-    json.end_list();
+    json.add_objects("lint", m_found, [](CLI_JSON& object, const FOUND& found) {
+        object.add("record", found.record);
+        object.add("variant", variant_of(found.finding));
+        object.add("operation", operation_of(found.finding));
+        object.add_number("action", found.finding.action + 1);
+        object.add("name", found.action);
+        object.add("rule", found.finding.rule);
+        object.add("text", found.finding.text);
+    });
 }

@@ -29,7 +29,6 @@ public:
     // All rules, a line and two sentences each.
     static std::string rules();
 
-    bool is_on() const { return m_is_on; }
     // Adds what is found in a record, which has its flows.
     void check(const GFPDB_RECORD& record);
     // The number of findings.

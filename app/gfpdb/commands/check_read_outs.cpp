@@ -129,11 +129,6 @@ void count(CHECKED& checked)
     checked.others = gfpdb_catalogue_parts().size() - seen.size();
 }
 
-std::string counted(std::size_t number, const char* what)
-{
-    return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
-}
-
 std::string text(const CHECKED& checked)
 {
     std::string text;
@@ -147,27 +142,22 @@ std::string text(const CHECKED& checked)
                 text += "  " + cli_printable(difference) + '\n';
         }
     }
-    return text + counted(checked.read_outs.size(), "read-out") + ", " + counted(checked.differences, "difference") +
-           "; no read-out of " + counted(checked.others, "part") + '\n';
+    return text + cli_counted(checked.read_outs.size(), "read-out") + ", " +
+           cli_counted(checked.differences, "difference") + "; no read-out of " + cli_counted(checked.others, "part") +
+           '\n';
 }
 
 std::string json(const CHECKED& checked)
 {
     CLI_JSON json;
-    json.begin_object();
-    json.begin_list("read_outs");
-    for (const COMPARED& compared : checked.read_outs) {
-        json.begin_object();
-        json.add("file", compared.file);
-        json.add("id", cli_bytes(compared.id));
-        cli_add_texts(json, "warnings", compared.warnings);
-        cli_add_parts(json, "parts", compared.parts);
-        json.end_object();
-    }
-    json.end_list();
+    json.add_objects("read_outs", checked.read_outs, [](CLI_JSON& object, const COMPARED& compared) {
+        object.add("file", compared.file);
+        object.add("id", cli_bytes(compared.id));
+        object.add("warnings", compared.warnings);
+        cli_add_parts(object, "parts", compared.parts);
+    });
     json.add_number("differences", static_cast<long long>(checked.differences));
     json.add_number("parts_without_read_out", static_cast<long long>(checked.others));
-    json.end_object();
     return json.text();
 }
 

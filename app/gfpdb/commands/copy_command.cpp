@@ -10,15 +10,10 @@ namespace {
 constexpr const char* OPTION_FROM = "from";
 constexpr const char* OPTION_TO = "to";
 
-std::string counted(int number, const char* one, const char* several)
-{
-    return std::to_string(number) + ' ' + (number == 1 ? one : several);
-}
-
 std::string summary_of(const GFPDB_COPY& copy)
 {
-    return counted(copy.devices, "device", "devices") + ", " + counted(copy.templates, "template", "templates") +
-           " and " + counted(copy.states, "state", "states") + " of the history";
+    return cli_counted(copy.devices, "device") + ", " + cli_counted(copy.templates, "template") + " and " +
+           cli_counted(copy.states, "state") + " of the history";
 }
 
 void add_options(CLI_OPTIONS& options)

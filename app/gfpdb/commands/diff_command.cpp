@@ -71,30 +71,16 @@ std::optional<GFPDB_RECORD> find(const CLI_CALL& call, const std::string& operan
                                                       : cli_find_record(call, operand, exit_code);
 }
 
-void add_lines(CLI_JSON& json, const char* key, const std::vector<std::string>& lines)
-{
-    json.begin_list(key);
-    for (const std::string& line : lines)
-        json.add(line);
-    json.end_list();
-}
-
 std::string json(const std::vector<LINE_CHANGE>& changes)
 {
     CLI_JSON json;
-    json.begin_object();
     json.add_flag("same", changes.empty());
-    json.begin_list("changes");
-    for (const LINE_CHANGE& change : changes) {
-        json.begin_object();
-        json.add_number("left_line", change.left + 1);
-        json.add_number("right_line", change.right + 1);
-        add_lines(json, "removed", change.removed);
-        add_lines(json, "added", change.added);
-        json.end_object();
-    }
-    json.end_list();
-    json.end_object();
+    json.add_objects("changes", changes, [](CLI_JSON& object, const LINE_CHANGE& change) {
+        object.add_number("left_line", change.left + 1);
+        object.add_number("right_line", change.right + 1);
+        object.add("removed", change.removed);
+        object.add("added", change.added);
+    });
     return json.text();
 }
 

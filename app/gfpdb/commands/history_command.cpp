@@ -58,10 +58,7 @@ std::string table(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
 
 std::string json(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
 {
-    CLI_JSON json;
-    json.begin_list();
-    for (const GFPDB_HISTORY_ENTRY& entry : entries) {
-        json.begin_object();
+    return CLI_JSON::list_text(entries, [](CLI_JSON& json, const GFPDB_HISTORY_ENTRY& entry) {
         json.add_number("id", entry.id);
         json.add("changed_at", entry.changed_at);
         json.add("changed_by", entry.changed_by);
@@ -70,10 +67,7 @@ std::string json(const std::vector<GFPDB_HISTORY_ENTRY>& entries)
         json.add_number("family", entry.row.family);
         json.add_number("scheme", entry.row.scheme);
         json.add("name", entry.name());
-        json.end_object();
-    }
-    json.end_list();
-    return json.text();
+    });
 }
 
 // What is wrong with the options for pruning; empty when nothing is.
@@ -95,8 +89,8 @@ int prune(const CLI_CALL& call, const GFPDB_SELECTION& selection)
     const std::optional<int> count = call.database.prune_history(selection, pruning);
     if (!count)
         return call.database_failed(call.database.get_last_error());
-    call.output.print("Removed " + std::to_string(*count) + (*count == 1 ? " state" : " states") +
-                      " from the history of " + cli_printable(call.database.get_directory()) + '\n');
+    call.output.print("Removed " + cli_counted(*count, "state") + " from the history of " +
+                      cli_printable(call.database.get_directory()) + '\n');
     return CLI_EXIT_OK;
 }
 

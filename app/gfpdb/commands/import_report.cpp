@@ -9,16 +9,12 @@ namespace {
 
 void add_findings(CLI_JSON& json, const char* key, const std::vector<CLI_FILE_FINDING>& found)
 {
-    json.begin_list(key);
-    for (const CLI_FILE_FINDING& each : found) {
-        json.begin_object();
-        json.add("file", each.file);
-        json.add_number("line", each.finding.line);
-        json.add("field", each.finding.field);
-        json.add("text", each.finding.text);
-        json.end_object();
-    }
-    json.end_list();
+    json.add_objects(key, found, [](CLI_JSON& object, const CLI_FILE_FINDING& each) {
+        object.add("file", each.file);
+        object.add_number("line", each.finding.line);
+        object.add("field", each.finding.field);
+        object.add("text", each.finding.text);
+    });
 }
 
 // `replaced` has the revisions of what the rows replace; empty for a new one.
@@ -49,7 +45,6 @@ std::string cli_import_summary(const CLI_CALL& call, const GFPDB_IMPORT_PLAN& pl
 std::string cli_import_json(const CLI_CALL& call, const GFPDB_IMPORT_PLAN& plan, const CLI_IMPORT_REPORT& report)
 {
     CLI_JSON json;
-    json.begin_object();
     json.add("directory", call.database.get_directory());
     json.add_flag("dry_run", call.has(CLI_OPTION_DRY_RUN));
     json.add_flag("imported", report.is_imported);
@@ -63,6 +58,5 @@ std::string cli_import_json(const CLI_CALL& call, const GFPDB_IMPORT_PLAN& plan,
     json.end_list();
     add_findings(json, "problems", report.problems);
     add_findings(json, "warnings", report.warnings);
-    json.end_object();
     return json.text();
 }

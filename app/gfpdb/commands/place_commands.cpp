@@ -29,16 +29,10 @@ std::string table(const std::vector<int>& numbers, NAME_OF name_of)
 
 std::string json(const std::vector<int>& numbers, NAME_OF name_of)
 {
-    CLI_JSON json;
-    json.begin_list();
-    for (const int number : numbers) {
-        json.begin_object();
+    return CLI_JSON::list_text(numbers, [name_of](CLI_JSON& json, int number) {
         json.add_number("number", number);
         json.add("name", name_of(number));
-        json.end_object();
-    }
-    json.end_list();
-    return json.text();
+    });
 }
 
 int print(const CLI_CALL& call, const std::vector<int>& numbers, NAME_OF name_of)

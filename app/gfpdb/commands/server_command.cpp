@@ -16,9 +16,6 @@ constexpr const char* OPTION_SCHEMA = "schema";
 constexpr std::size_t TITLE_WIDTH = 22;
 constexpr double MICROSECONDS = 1000.0;
 
-// What libpq takes for --sslmode.
-constexpr const char* SSL_MODES[] = {"disable", "allow", "prefer", "require", "verify-ca", "verify-full"};
-
 std::vector<std::string> parts_of(const std::string& list)
 {
     std::vector<std::string> parts;
@@ -110,7 +107,6 @@ std::string status_text(const GFPDB_SERVER& server, const GFPDB_SERVER_STATUS& s
 std::string status_json(const GFPDB_SERVER& server, const GFPDB_SERVER_STATUS& status)
 {
     CLI_JSON json;
-    json.begin_object();
     json.add("server", status.host);
     json.add("server_version", status.server_version);
     json.add("database", server.database);
@@ -124,7 +120,6 @@ std::string status_json(const GFPDB_SERVER& server, const GFPDB_SERVER_STATUS& s
     json.add_number("history", status.history);
     json.add_number("round_trip_us", status.round_trip);
     json.add("problem", status.problem);
-    json.end_object();
     return json.text();
 }
 
@@ -149,7 +144,7 @@ int print_status(const CLI_CALL& call, const std::string& argument)
 
 std::vector<std::string> choices(const std::string& value)
 {
-    return value == "mode" ? std::vector<std::string>(std::begin(SSL_MODES), std::end(SSL_MODES))
+    return value == "mode" ? std::vector<std::string>(std::begin(GFPDB_SSL_MODES), std::end(GFPDB_SSL_MODES))
                            : std::vector<std::string>();
 }
 

@@ -12,12 +12,10 @@ namespace {
 std::string json(const GFPDB_SFDP& sfdp, const std::vector<GFPDB_PART_COMPARISON>* parts)
 {
     CLI_JSON json;
-    json.begin_object();
     cli_add_values(json, "values", sfdp_values(sfdp));
-    cli_add_texts(json, "warnings", sfdp.warnings);
+    json.add("warnings", sfdp.warnings);
     if (parts != nullptr)
         cli_add_parts(json, "parts", *parts);
-    json.end_object();
     return json.text();
 }
 

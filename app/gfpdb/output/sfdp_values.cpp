@@ -3,10 +3,6 @@
 
 #include "gfpdb/gfpdb_text.h"
 
-#include <QString>
-
-#include <algorithm>
-
 namespace {
 
 constexpr int BASIC_TABLE = 0xFF00;
@@ -123,29 +119,25 @@ constexpr const char* FOUR_BYTE_COMMANDS[] = {"13", "0C", "3C", "BC", "6C", "EC"
 void add_tables(VALUES& values, const GFPDB_SFDP& sfdp)
 {
     const auto revision = [](int major, int minor) { return std::to_string(major) + '.' + std::to_string(minor); };
-    values.push_back({"revision", "SFDP revision", revision(sfdp.major, sfdp.minor), "header", {}});
+    values.push_back({"revision", "SFDP revision", revision(sfdp.major, sfdp.minor), "header"});
     for (const GFPDB_SFDP_TABLE& table : sfdp.tables)
         values.push_back(
-            {"table", "Table " + hex(static_cast<std::uint32_t>(table.id), 4), table_text(table), "header", {}});
+            {"table", "Table " + hex(static_cast<std::uint32_t>(table.id), 4), table_text(table), "header"});
     values.push_back(
-        {"basic-table",
-         "Basic table",
+        {"basic-table", "Basic table",
          revision(sfdp.basic_major, sfdp.basic_minor) + ", " + std::to_string(sfdp.basic_dwords) + " DWORDs",
-         "header",
-         {}});
+         "header"});
 }
 
 void add_reads(VALUES& values, const GFPDB_SFDP& sfdp)
 {
     const auto add = [&values](const char* lines, const std::optional<GFPDB_SFDP_READ>& read, const char* source) {
         if (read)
-            values.push_back({std::string("read-") + lines,
-                              std::string("Read ") + lines,
+            values.push_back({std::string("read-") + lines, std::string("Read ") + lines,
                               hex(static_cast<std::uint32_t>(read->opcode), 2) + ", " +
                                   std::to_string(read->mode_clocks) + " mode and " + std::to_string(read->wait_clocks) +
                                   " wait clocks",
-                              source,
-                              {}});
+                              source});
     };
     add("1-1-2", sfdp.read_1_1_2, "DW1, DW4");
     add("1-2-2", sfdp.read_1_2_2, "DW1, DW4");
@@ -153,7 +145,7 @@ void add_reads(VALUES& values, const GFPDB_SFDP& sfdp)
     add("1-4-4", sfdp.read_1_4_4, "DW1, DW3");
     add("2-2-2", sfdp.read_2_2_2, "DW5, DW6");
     add("4-4-4", sfdp.read_4_4_4, "DW5, DW7");
-    values.push_back({"double-rate", "Double rate", sfdp.has_double_rate ? "yes" : "no", "DW1", {}});
+    values.push_back({"double-rate", "Double rate", sfdp.has_double_rate ? "yes" : "no", "DW1"});
 }
 
 void add_erases(VALUES& values, const GFPDB_SFDP& sfdp)
@@ -171,47 +163,38 @@ void add_erases(VALUES& values, const GFPDB_SFDP& sfdp)
             text += ", with 4-byte address " + hex(static_cast<std::uint32_t>(erase.opcode_4_byte), 2);
             source += ", 4-byte DW2";
         }
-        values.push_back({"erase-" + number, "Erase type " + number, text, source, {}});
+        values.push_back({"erase-" + number, "Erase type " + number, text, source});
     }
 }
 
 void add_times(VALUES& values, const GFPDB_SFDP& sfdp)
 {
     if (sfdp.page_program_us > 0)
-        values.push_back({"page-program",
-                          "Page program",
-                          time_text(sfdp.page_program_us, sfdp.program_max_factor, MICROSECONDS),
-                          "DW11",
-                          {}});
+        values.push_back({"page-program", "Page program",
+                          time_text(sfdp.page_program_us, sfdp.program_max_factor, MICROSECONDS), "DW11"});
     if (sfdp.chip_erase_ms > 0)
-        values.push_back({"chip-erase",
-                          "Chip erase",
-                          time_text(sfdp.chip_erase_ms, sfdp.erase_max_factor, MILLISECONDS),
-                          "DW10, DW11",
-                          {}});
+        values.push_back({"chip-erase", "Chip erase",
+                          time_text(sfdp.chip_erase_ms, sfdp.erase_max_factor, MILLISECONDS), "DW10, DW11"});
 }
 
 void add_rules(VALUES& values, const GFPDB_SFDP& sfdp)
 {
     const auto bits = [](const std::optional<int>& value) { return static_cast<std::uint32_t>(value.value_or(0)); };
     if (sfdp.busy_poll)
-        values.push_back({"busy-poll", "Busy", bits_text(bits(sfdp.busy_poll), BUSY_POLL), "DW14", {}});
+        values.push_back({"busy-poll", "Busy", bits_text(bits(sfdp.busy_poll), BUSY_POLL), "DW14"});
     if (sfdp.quad_enable && bits(sfdp.quad_enable) < std::size(QUAD_ENABLE))
-        values.push_back({"quad-enable", "Quad enable", QUAD_ENABLE[bits(sfdp.quad_enable)], "DW15", {}});
+        values.push_back({"quad-enable", "Quad enable", QUAD_ENABLE[bits(sfdp.quad_enable)], "DW15"});
     if (sfdp.soft_reset)
-        values.push_back({"soft-reset", "Software reset", bits_text(bits(sfdp.soft_reset), SOFT_RESET), "DW16", {}});
+        values.push_back({"soft-reset", "Software reset", bits_text(bits(sfdp.soft_reset), SOFT_RESET), "DW16"});
     if (sfdp.enter_4_byte)
         values.push_back(
-            {"enter-4-byte", "Enter 4-byte mode", ways_text(bits(sfdp.enter_4_byte), ENTER_4_BYTE), "DW16", {}});
+            {"enter-4-byte", "Enter 4-byte mode", ways_text(bits(sfdp.enter_4_byte), ENTER_4_BYTE), "DW16"});
     if (sfdp.leave_4_byte)
         values.push_back(
-            {"leave-4-byte", "Leave 4-byte mode", ways_text(bits(sfdp.leave_4_byte), LEAVE_4_BYTE), "DW16", {}});
+            {"leave-4-byte", "Leave 4-byte mode", ways_text(bits(sfdp.leave_4_byte), LEAVE_4_BYTE), "DW16"});
     if (sfdp.instructions_4_byte)
-        values.push_back({"commands-4-byte",
-                          "4-byte commands",
-                          bits_text(*sfdp.instructions_4_byte, FOUR_BYTE_COMMANDS),
-                          "4-byte DW1",
-                          {}});
+        values.push_back({"commands-4-byte", "4-byte commands",
+                          bits_text(*sfdp.instructions_4_byte, FOUR_BYTE_COMMANDS), "4-byte DW1"});
 }
 
 void add_maps(VALUES& values, const GFPDB_SFDP& sfdp)
@@ -222,8 +205,7 @@ void add_maps(VALUES& values, const GFPDB_SFDP& sfdp)
         for (const GFPDB_SFDP_REGION& region : map.regions)
             regions.push_back(size_text(region.size_bytes) + " (erase types " +
                               bits_text(static_cast<std::uint32_t>(region.erase_types), TYPES) + ')');
-        values.push_back(
-            {"sector-map", "Sector map " + std::to_string(map.id), gfpdb_joined(regions), "sector map", {}});
+        values.push_back({"sector-map", "Sector map " + std::to_string(map.id), gfpdb_joined(regions), "sector map"});
     }
 }
 
@@ -234,10 +216,10 @@ std::vector<GFPDB_PROPOSED_VALUE> sfdp_values(const GFPDB_SFDP& sfdp)
     VALUES values;
     add_tables(values, sfdp);
     if (sfdp.density_bits > 0)
-        values.push_back({"density", "Density", density_text(sfdp.density_bits), "DW2", {}});
-    values.push_back({"address-bytes", "Address bytes", ADDRESSES[static_cast<std::size_t>(sfdp.address)], "DW1", {}});
+        values.push_back({"density", "Density", density_text(sfdp.density_bits), "DW2"});
+    values.push_back({"address-bytes", "Address bytes", ADDRESSES[static_cast<std::size_t>(sfdp.address)], "DW1"});
     if (sfdp.page_size > 0)
-        values.push_back({"page-size", "Page size", std::to_string(sfdp.page_size), "DW11", {}});
+        values.push_back({"page-size", "Page size", std::to_string(sfdp.page_size), "DW11"});
     add_reads(values, sfdp);
     add_erases(values, sfdp);
     add_times(values, sfdp);

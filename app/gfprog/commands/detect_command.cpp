@@ -21,13 +21,9 @@ std::vector<CLI_LISTED> listed(const std::vector<GFPDB_RECORD>& devices)
 std::string json(const std::string& connection, const GFPROG_DETECTED& detected)
 {
     CLI_JSON json;
-    json.begin_object();
     json.add("connection", connection);
     json.add("id", gfprog_hex(detected.id));
-    json.begin_list("devices");
-    cli_add_records(json, listed(detected.devices));
-    json.end_list();
-    json.end_object();
+    json.add_objects("devices", listed(detected.devices), cli_add_record);
     return json.text();
 }
 

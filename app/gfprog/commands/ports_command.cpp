@@ -11,16 +11,10 @@ namespace {
 
 std::string json(const std::vector<GFPE_PORT>& ports)
 {
-    CLI_JSON json;
-    json.begin_list();
-    for (const GFPE_PORT& port : ports) {
-        json.begin_object();
+    return CLI_JSON::list_text(ports, [](CLI_JSON& json, const GFPE_PORT& port) {
         json.add("device", port.device);
         json.add("description", port.description);
-        json.end_object();
-    }
-    json.end_list();
-    return json.text();
+    });
 }
 
 std::string table(const std::vector<GFPE_PORT>& ports)

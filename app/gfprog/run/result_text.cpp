@@ -34,25 +34,6 @@ void add_range(CLI_JSON& json, const GFPE_RANGE& range)
 {
     json.add_number("start", range.start);
     json.add_number("length", range.length);
-    json.end_object();
-}
-
-void add_ranges(CLI_JSON& json, const char* key, const std::vector<GFPE_RANGE>& ranges)
-{
-    json.begin_list(key);
-    for (const GFPE_RANGE& range : ranges) {
-        json.begin_object();
-        add_range(json, range);
-    }
-    json.end_list();
-}
-
-void add_texts(CLI_JSON& json, const char* key, const std::vector<std::string>& texts)
-{
-    json.begin_list(key);
-    for (const std::string& text : texts)
-        json.add(text);
-    json.end_list();
 }
 
 void add_failure(CLI_JSON& json, const GFPE_FAILURE& failure)
@@ -140,21 +121,20 @@ std::string outcome_json(const GFPROG_OUTCOME& outcome)
 {
     const GFPE_RESULT& result = outcome.result;
     CLI_JSON json;
-    json.begin_object();
     json.add("verdict", VERDICTS[static_cast<std::size_t>(result.verdict)]);
     json.add("device", outcome.device);
     json.add("flow", outcome.is_quad ? "quad" : "single");
     json.add("connection", outcome.connection);
     json.begin_object("range");
     add_range(json, outcome.range);
-    add_ranges(json, "erased", outcome.erased);
-    add_texts(json, "operations", phase_names(result));
+    json.end_object();
+    json.add_objects("erased", outcome.erased, add_range);
+    json.add("operations", phase_names(result));
     json.add_number("commands", result.commands);
     json.add_flag("chip_is_unknown", result.chip_is_unknown);
     if (result.failure)
         add_failure(json, *result.failure);
-    add_texts(json, "problems", problem_texts(outcome));
-    add_texts(json, "notes", outcome.notes);
-    json.end_object();
+    json.add("problems", problem_texts(outcome));
+    json.add("notes", outcome.notes);
     return json.text();
 }

@@ -28,7 +28,7 @@ struct GFPDB_PROPOSED_VALUE
     // "SFDP DW11", "from the ID", "assumed", "entered"; empty while the text is.
     std::string source;
     // The texts to choose from; empty for a free text.
-    std::vector<std::string> choices;
+    std::vector<std::string> choices = {};
 };
 
 class GFPDB_PROPOSAL; // in pgm/gfpdb/sfdp

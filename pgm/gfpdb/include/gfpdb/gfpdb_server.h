@@ -18,6 +18,9 @@ constexpr char GFPDB_SERVER_FILE[] = "gfpdb-server.ini";
 // The schema when the file names none.
 constexpr char GFPDB_SERVER_SCHEMA[] = "gfpdb";
 
+// What libpq takes for sslmode.
+constexpr const char* GFPDB_SSL_MODES[] = {"disable", "allow", "prefer", "require", "verify-ca", "verify-full"};
+
 // What the file says. What is empty is up to libpq (its environment variables, a service, its defaults).
 struct GFPDB_SERVER
 {
@@ -30,7 +33,7 @@ struct GFPDB_SERVER
     // Small letters, digits and underscores: its roles have it in their names.
     std::string schema = GFPDB_SERVER_SCHEMA;
     std::string user;
-    // As libpq has them: "verify-full"; a file with certificates, relative to the directory or absolute.
+    // One of GFPDB_SSL_MODES; a file with certificates, relative to the directory or absolute.
     std::string sslmode;
     std::string sslrootcert;
 };

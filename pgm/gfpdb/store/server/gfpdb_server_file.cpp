@@ -30,8 +30,6 @@ constexpr int HIGHEST_PORT = 65535;
 const QByteArray SECTION = QByteArrayLiteral("[server]");
 const QByteArray BYTE_ORDER_MARK = QByteArrayLiteral("\xEF\xBB\xBF");
 
-constexpr const char* SSL_MODES[] = {"disable", "allow", "prefer", "require", "verify-ca", "verify-full"};
-
 bool refuse(std::string& error, const std::string& why)
 {
     error = why;
@@ -86,7 +84,7 @@ bool is_schema(const std::string& schema)
 
 bool is_ssl_mode(const std::string& mode)
 {
-    return std::find(std::begin(SSL_MODES), std::end(SSL_MODES), mode) != std::end(SSL_MODES);
+    return std::find(std::begin(GFPDB_SSL_MODES), std::end(GFPDB_SSL_MODES), mode) != std::end(GFPDB_SSL_MODES);
 }
 
 std::string trimmed(const QByteArray& text)
