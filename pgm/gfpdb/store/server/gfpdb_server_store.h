@@ -4,20 +4,12 @@
 // from the embedded one.
 #pragma once
 
+#include "store/gfpdb_record_place.h"
 #include "store/gfpdb_seen.h"
 #include "store/gfpdb_store.h"
 #include "store/server/gfpdb_server_session.h"
 
 #include <map>
-
-// A device, or the stored template of that name.
-struct GFPDB_SERVER_PLACE
-{
-    bool is_template = false;
-    int family = 0;
-    int scheme = -1;
-    std::string name;
-};
 
 class GFPDB_SERVER_STORE final : public GFPDB_STORE
 {
@@ -76,7 +68,7 @@ private:
     using ROWS = GFPDB_SERVER_SESSION::ROWS;
     using RESULTS = GFPDB_SERVER_SESSION::RESULTS;
     using CHANGE = GFPDB_SERVER_SESSION::CHANGE;
-    using PLACE = GFPDB_SERVER_PLACE;
+    using PLACE = GFPDB_RECORD_PLACE;
     // What one transaction saves: the device, and what was found in its way.
     struct SAVING
     {

@@ -30,12 +30,6 @@ bool is_same_place(const GFPDB_TAKEN& taken, const GFPDB_ROW& row)
            gfpdb_name_key(taken.name) == gfpdb_name_key(row.name);
 }
 
-// A template has the family and scheme of the device that it was made from.
-GFPDB_SERVER_PLACE place_of(bool is_template, const GFPDB_ROW& row)
-{
-    return {is_template, row.family, row.scheme, is_template ? row.template_name : row.name};
-}
-
 } // namespace
 
 bool GFPDB_SERVER_STORE::can_be_changed()
@@ -153,7 +147,7 @@ std::optional<std::string> GFPDB_SERVER_STORE::save_device(const GFPDB_ROW& row,
     SAVING saving{row, taken, is_new_name, seen, row.revision};
     const std::string change_id = gfpdb_new_revision();
     CHANGE change;
-    const std::string proof = proof_of_revision(place_of(false, row), row.revision);
+    const std::string proof = proof_of_revision(gfpdb_place_of(false, row), row.revision);
     change.work = [&](std::string& statements) {
         const bool is_decided = decide_save(saving, change_id, statements);
         change.proof = taken != nullptr && saving.revision == taken->revision ? proof_of_return(*taken) : proof;
@@ -187,10 +181,10 @@ std::optional<bool> GFPDB_SERVER_STORE::save_at_once(SAVING& saving, const CHANG
     const auto is_free = [this](const char* table, const std::string& which) {
         return " AND NOT EXISTS (SELECT 1" + from(table) + which + ')';
     };
-    std::string condition =
-        "true" + is_free("device", where(place_of(false, row))) + is_free("template", where({true, 0, -1, row.name}));
+    std::string condition = "true" + is_free("device", where(gfpdb_place_of(false, row))) +
+                            is_free("template", where({true, 0, -1, row.name}));
     if (has_template)
-        condition += is_free("template", where(place_of(true, row))) +
+        condition += is_free("template", where(gfpdb_place_of(true, row))) +
                      is_free("device", " WHERE name_key = " + key_of(row.template_name));
     CHANGE at_once = change;
     if (is_unchanged)
@@ -215,14 +209,14 @@ bool GFPDB_SERVER_STORE::decide_save(SAVING& saving, const std::string& change_i
 {
     const GFPDB_ROW& row = saving.row;
     const GFPDB_TAKEN* const taken = saving.taken;
-    const PLACE place = place_of(false, row);
+    const PLACE place = gfpdb_place_of(false, row);
     const bool has_template = !row.template_name.empty();
     RESULTS found;
     if (!m_session.look_up(
             "SELECT template_name" + from("template") + where({true, 0, -1, row.name}) + ";\n" + question_of(place) +
                 ";\n" + (taken != nullptr ? "SELECT " + all_read() + from("history") + where_taken(*taken) : NO_ROWS) +
                 ";\n" + question_of_last_change(place) + ";\n" +
-                (has_template ? question_of(place_of(true, row)) : NO_ROWS) + ";\n" +
+                (has_template ? question_of(gfpdb_place_of(true, row)) : NO_ROWS) + ";\n" +
                 (has_template ? question_of_any_device(row.template_name) : NO_ROWS),
             found))
         return false;
@@ -266,7 +260,7 @@ bool GFPDB_SERVER_STORE::decide_template(const GFPDB_ROW& row, const ROWS& found
     if (former && gfpdb_is_same_state(*former, row))
         return true;
     if (former)
-        statements += drop(place_of(true, row), GFPDB_REASON_REPLACED, change_id);
+        statements += drop(gfpdb_place_of(true, row), GFPDB_REASON_REPLACED, change_id);
     statements += insert(true, row);
     return true;
 }
@@ -367,7 +361,7 @@ bool GFPDB_SERVER_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::
         (entry->is_template ? row.template_name : row.name) = new_name;
     const std::string change_id = gfpdb_new_revision();
     CHANGE change;
-    change.proof = proof_of_revision(place_of(entry->is_template, row), row.revision);
+    change.proof = proof_of_revision(gfpdb_place_of(entry->is_template, row), row.revision);
     change.work = [&](std::string& statements) { return put_back(*entry, row, how, seen, change_id, statements); };
     RESULTS results;
     return m_session.prepare_write() && m_session.change(change, results);
@@ -377,7 +371,7 @@ bool GFPDB_SERVER_STORE::put_back(const GFPDB_HISTORY_ENTRY& entry, const GFPDB_
                                   std::string* seen, const std::string& change_id, std::string& statements)
 {
     const bool is_template = entry.is_template;
-    const PLACE place = place_of(is_template, row);
+    const PLACE place = gfpdb_place_of(is_template, row);
     RESULTS found;
     if (!check_different_names(row) ||
         !m_session.look_up((is_template ? question_of_any_device(row.template_name)

@@ -6,8 +6,6 @@
 #include "store/server/gfpdb_server_sql.h"
 #include "store/server/gfpdb_server_store.h"
 
-#include <unordered_map>
-
 using namespace GFPDB_SERVER_SQL;
 
 std::optional<int> GFPDB_SERVER_STORE::prune_history(const GFPDB_PRUNING& pruning)
@@ -47,7 +45,7 @@ bool GFPDB_SERVER_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
                            found))
         return false;
     const ROWS& rows = found.front();
-    std::unordered_map<std::string, int> newer_states;
+    GFPDB_PRUNER pruner(pruning);
     for (int row = 0; row < rows.count(); ++row) {
         GFPDB_HISTORY_ENTRY entry;
         entry.id = rows.number(row, 0);
@@ -57,11 +55,7 @@ bool GFPDB_SERVER_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
         entry.row.scheme = static_cast<int>(rows.number(row, 4));
         entry.row.name = rows.text(row, 5);
         entry.row.template_name = rows.text(row, 6);
-        const int newer = newer_states[gfpdb_record_of(entry)]++;
-        const bool is_old = pruning.before.empty() || entry.changed_at < pruning.before;
-        if (newer < pruning.keep || !is_old || !pruning.is_selected(entry))
-            continue;
-        if (newer > 0 || pruning.last_of_deleted || rows.text(row, 7) == "t")
+        if (pruner.removes(entry, [&] { return rows.text(row, 7) == "t"; }))
             ids.push_back(rows.text(row, 0));
     }
     return true;

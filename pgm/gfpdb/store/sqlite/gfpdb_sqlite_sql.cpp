@@ -78,9 +78,22 @@ const std::string& columns()
     return COLUMNS;
 }
 
-std::string insertion(const std::string& table, const std::string& key)
+std::string from(const GFPDB_RECORD_PLACE& place)
 {
-    return "INSERT INTO " + table + " (" + key + ", " + columns() + ") VALUES (CAST(? AS TEXT)" + placeholders();
+    return place.is_template ? " FROM template WHERE template_key = CAST(? AS TEXT)"
+                             : " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+}
+
+QVariantList values_of(const GFPDB_RECORD_PLACE& place)
+{
+    const QVariantList key = {key_of(place.name)};
+    return place.is_template ? key : QVariantList{place.family, place.scheme} + key;
+}
+
+std::string insertion(bool is_template)
+{
+    return std::string("INSERT INTO ") + (is_template ? "template (template_key, " : "device (name_key, ") + columns() +
+           ") VALUES (CAST(? AS TEXT)" + placeholders();
 }
 
 std::string history_insertion()

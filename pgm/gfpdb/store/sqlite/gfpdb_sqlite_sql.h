@@ -9,6 +9,7 @@
 #pragma once
 
 #include "model/gfpdb_row.h"
+#include "store/gfpdb_record_place.h"
 
 #include <QByteArray>
 #include <QString>
@@ -45,9 +46,11 @@ QString now();
 QString here();
 // The columns that the tables device, template and history share, as a list for a statement.
 const std::string& columns();
-// The statement that puts a record into `table`, whose column `key` has the key of its name: asks for that, then for
-// values_of().
-std::string insertion(const std::string& table, const std::string& key);
+// The end of a statement about the record at `place`, " FROM ... WHERE ...", and the values that it asks for.
+std::string from(const GFPDB_RECORD_PLACE& place);
+QVariantList values_of(const GFPDB_RECORD_PLACE& place);
+// The statement that stores a device or template: asks for the key of its name, then for values_of().
+std::string insertion(bool is_template);
 QVariantList values_of(const GFPDB_ROW& row);
 // The same for a state of the history, and for a record that is stored as it is, with who saved it and when.
 std::string history_insertion();

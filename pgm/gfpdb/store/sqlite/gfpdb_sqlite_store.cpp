@@ -22,24 +22,23 @@ namespace {
 std::string to_history()
 {
     return "INSERT INTO history (id, is_template, reason, changed_at, changed_by, name_key, " + columns() +
-           ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, CAST(? AS TEXT), " + columns() +
-           ' ';
+           ") SELECT nullif(" GFPDB_LAST_STATE ", 9223372036854775807) + 1, ?, ?, ?, ?, CAST(? AS TEXT), " + columns();
 }
 
 // The name of a record as it is stored.
-constexpr char DEVICE_NAME_OF_KEY[] =
-    "SELECT CAST(name AS BLOB) FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+std::string name_at(const GFPDB_RECORD_PLACE& place)
+{
+    return (place.is_template ? "SELECT CAST(template_name AS BLOB)" : "SELECT CAST(name AS BLOB)") + from(place);
+}
 constexpr char ANY_DEVICE_NAME_OF_KEY[] = "SELECT CAST(name AS BLOB) FROM device WHERE name_key = CAST(? AS TEXT)";
-constexpr char TEMPLATE_NAME_OF_KEY[] =
-    "SELECT CAST(template_name AS BLOB) FROM template WHERE template_key = CAST(? AS TEXT)";
 
 // So many question marks are asked for in one statement.
 constexpr std::size_t KEYS_AT_ONCE = 500;
 
 // What to_history() asks for.
-QVariantList history_values(bool is_template, const std::string& name, const char* reason)
+QVariantList history_values(const GFPDB_RECORD_PLACE& place, const char* reason)
 {
-    return {is_template ? 1 : 0, QLatin1String(reason), now(), here(), key_of(name)};
+    return {place.is_template ? 1 : 0, QLatin1String(reason), now(), here(), key_of(place.name)};
 }
 
 // As text_at(), on one line.
@@ -170,12 +169,14 @@ std::string GFPDB_SQLITE_STORE::read_text(const std::string& statement, const QV
 
 std::string GFPDB_SQLITE_STORE::get_device_name(int family, int scheme, const std::string& name)
 {
-    return read_text(DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)});
+    const PLACE place{false, family, scheme, name};
+    return read_text(name_at(place), values_of(place));
 }
 
 std::string GFPDB_SQLITE_STORE::get_template_name(const std::string& template_name)
 {
-    return read_text(TEMPLATE_NAME_OF_KEY, {key_of(template_name)});
+    const PLACE place{true, 0, -1, template_name};
+    return read_text(name_at(place), values_of(place));
 }
 
 std::string GFPDB_SQLITE_STORE::get_any_device_name(const std::string& name)
@@ -205,36 +206,34 @@ std::vector<std::string> GFPDB_SQLITE_STORE::find_device_keys(int family, int sc
     return found;
 }
 
-std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme, const std::string& name)
+std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find(const PLACE& place)
 {
     QSqlQuery query;
-    if (!m_file.prepare_read() ||
-        !go_on_reading(
-            query, "SELECT " + all() + " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-            {family, scheme, key_of(name)}))
+    if (!m_file.prepare_read() || !go_on_reading(query, "SELECT " + all() + from(place), values_of(place)))
         return std::nullopt;
     return next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
+}
+
+std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_device(int family, int scheme, const std::string& name)
+{
+    return find({false, family, scheme, name});
 }
 
 std::optional<GFPDB_ROW> GFPDB_SQLITE_STORE::find_template(const std::string& template_name)
 {
-    QSqlQuery query;
-    if (!m_file.prepare_read() ||
-        !go_on_reading(query, "SELECT " + all() + " FROM template WHERE template_key = CAST(? AS TEXT)",
-                       {key_of(template_name)}))
-        return std::nullopt;
-    return next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
+    return find({true, 0, -1, template_name});
 }
 
 std::string GFPDB_SQLITE_STORE::get_device_revision(int family, int scheme, const std::string& name)
 {
-    return read_text("SELECT revision FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-                     {family, scheme, key_of(name)});
+    const PLACE place{false, family, scheme, name};
+    return read_text("SELECT revision" + from(place), values_of(place));
 }
 
 std::string GFPDB_SQLITE_STORE::get_template_revision(const std::string& template_name)
 {
-    return read_text("SELECT revision FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(template_name)});
+    const PLACE place{true, 0, -1, template_name};
+    return read_text("SELECT revision" + from(place), values_of(place));
 }
 
 bool GFPDB_SQLITE_STORE::check_integrity()
@@ -258,10 +257,9 @@ bool GFPDB_SQLITE_STORE::remove_template(const std::string& template_name, std::
 {
     if (!m_file.prepare_write())
         return false;
-    return m_file.is_missing() || m_file.change([&] {
-        return check_seen_to_remove({true, 0, -1, template_name}, seen) &&
-               drop_template(template_name, GFPDB_REASON_DELETED);
-    });
+    const PLACE place{true, 0, -1, template_name};
+    return m_file.is_missing() ||
+           m_file.change([&] { return check_seen_to_remove(place, seen) && drop(place, GFPDB_REASON_DELETED); });
 }
 
 std::vector<GFPDB_ROW> GFPDB_SQLITE_STORE::read_rows(const std::string& from)
@@ -293,13 +291,13 @@ bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const s
     return m_file.prepare_write() && m_file.change([&] {
         int done = 0;
         for (std::size_t i = 0; i < devices.size(); ++i) {
-            if (!replace_device(devices[i], seen != nullptr ? &seen->devices[i] : nullptr))
+            if (!replace(false, devices[i], seen != nullptr ? &seen->devices[i] : nullptr))
                 return false;
             if (!goes_on(++done))
                 return fail(gfpdb_import_cancelled());
         }
         for (std::size_t i = 0; i < templates.size(); ++i) {
-            if (!replace_template(templates[i], seen != nullptr ? &seen->templates[i] : nullptr))
+            if (!replace(true, templates[i], seen != nullptr ? &seen->templates[i] : nullptr))
                 return false;
             if (!goes_on(++done))
                 return fail(gfpdb_import_cancelled());
@@ -309,22 +307,13 @@ bool GFPDB_SQLITE_STORE::save_all(const std::vector<GFPDB_ROW>& devices, const s
 }
 
 // What was seen to be absent, and still is, needs no removal.
-bool GFPDB_SQLITE_STORE::replace_device(const GFPDB_ROW& row, const std::string* seen)
+bool GFPDB_SQLITE_STORE::replace(bool is_template, const GFPDB_ROW& row, const std::string* seen)
 {
+    const PLACE place = gfpdb_place_of(is_template, row);
     std::string state = seen != nullptr ? *seen : std::string();
     const bool is_new = seen != nullptr && seen->empty();
-    return check_no_template(row.name) &&
-           check_seen({false, row.family, row.scheme, row.name}, seen != nullptr ? &state : nullptr) &&
-           (is_new || drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED)) && insert_device(row);
-}
-
-bool GFPDB_SQLITE_STORE::replace_template(const GFPDB_ROW& row, const std::string* seen)
-{
-    std::string state = seen != nullptr ? *seen : std::string();
-    const bool is_new = seen != nullptr && seen->empty();
-    return check_no_device(row.template_name) &&
-           check_seen({true, 0, -1, row.template_name}, seen != nullptr ? &state : nullptr) &&
-           (is_new || drop_template(row.template_name, GFPDB_REASON_REPLACED)) && insert_template(row);
+    return check_no_other_kind(place) && check_seen(place, seen != nullptr ? &state : nullptr) &&
+           (is_new || drop(place, GFPDB_REASON_REPLACED)) && insert(is_template, row);
 }
 
 bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::string& new_name, std::string* seen)
@@ -337,30 +326,18 @@ bool GFPDB_SQLITE_STORE::restore(std::int64_t id, GFPDB_RESTORE how, const std::
     if (!new_name.empty())
         (entry->is_template ? row.template_name : row.name) = new_name;
     forget_used_values();
-    return m_file.prepare_write() && m_file.change([&] {
-        return check_different_names(row) &&
-               (entry->is_template ? put_back_template(row, how, seen) : put_back_device(row, how, seen));
-    });
+    return m_file.prepare_write() &&
+           m_file.change([&] { return check_different_names(row) && put_back(entry->is_template, row, how, seen); });
 }
 
-bool GFPDB_SQLITE_STORE::put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen)
+bool GFPDB_SQLITE_STORE::put_back(bool is_template, const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen)
 {
-    if (!check_no_template(row.name))
+    const PLACE place = gfpdb_place_of(is_template, row);
+    if (!check_no_other_kind(place))
         return false;
-    if (how == GFPDB_RESTORE_REPLACE)
-        return check_seen({false, row.family, row.scheme, row.name}, seen) &&
-               drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED) && insert_device(row);
-    return check_no_such_device(row.family, row.scheme, row.name) && insert_device(row);
-}
-
-bool GFPDB_SQLITE_STORE::put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen)
-{
-    if (!check_no_device(row.template_name))
-        return false;
-    const bool is_free = how == GFPDB_RESTORE_REPLACE ? check_seen({true, 0, -1, row.template_name}, seen) &&
-                                                            drop_template(row.template_name, GFPDB_REASON_REPLACED)
-                                                      : check_no_template(row.template_name);
-    return is_free && insert_template(row);
+    const bool is_free = how == GFPDB_RESTORE_REPLACE ? check_seen(place, seen) && drop(place, GFPDB_REASON_REPLACED)
+                                                      : check_free(place);
+    return is_free && insert(is_template, row);
 }
 
 // Runs `query`; false, with the reason, when it finds the name of a record that `name` cannot be used beside.
@@ -383,11 +360,10 @@ GFPDB_ROW GFPDB_SQLITE_STORE::full_row(const QSqlQuery& query, int first) const
 }
 
 // Runs a part of a change: unlike the public reads, it looks at the file that the transaction is on.
-bool GFPDB_SQLITE_STORE::look_up(const std::string& statement, const QVariantList& values,
-                                 std::optional<GFPDB_ROW>& row)
+bool GFPDB_SQLITE_STORE::look_up(const std::string& from, const QVariantList& values, std::optional<GFPDB_ROW>& row)
 {
     QSqlQuery query;
-    if (!prepare(query, statement, values))
+    if (!prepare(query, "SELECT " + all() + from, values))
         return false;
     row = next_row(query) ? std::optional<GFPDB_ROW>(full_row(query, 0)) : std::nullopt;
     return !query.lastError().isValid();
@@ -396,33 +372,35 @@ bool GFPDB_SQLITE_STORE::look_up(const std::string& statement, const QVariantLis
 // A template may be stored again by the device that it is a copy of.
 bool GFPDB_SQLITE_STORE::check_free_names(const GFPDB_ROW& row)
 {
-    if (!check_no_template(row.name))
+    const PLACE copy = gfpdb_place_of(true, row);
+    if (!check_no_other_kind(gfpdb_place_of(false, row)))
         return false;
-    if (row.template_name.empty())
+    if (copy.name.empty())
         return true;
     if (!check_different_names(row))
         return false;
     QSqlQuery query;
-    const bool is_found = prepare(query,
-                                  "SELECT CAST(name AS BLOB), CAST(template_name AS BLOB) FROM template "
-                                  "WHERE template_key = CAST(? AS TEXT)",
-                                  {key_of(row.template_name)}) &&
-                          next_row(query);
+    const bool is_found =
+        prepare(query, "SELECT CAST(name AS BLOB), CAST(template_name AS BLOB)" + from(copy), values_of(copy)) &&
+        next_row(query);
     if (is_found && gfpdb_name_key(text_at(query, 0)) != gfpdb_name_key(row.name))
-        return fail(gfpdb_in_the_way(true, text_at(query, 1), row.template_name));
-    return !query.lastError().isValid() && check_no_device(row.template_name);
+        return fail(gfpdb_in_the_way(true, text_at(query, 1), copy.name));
+    return !query.lastError().isValid() && check_no_other_kind(copy);
 }
 
-bool GFPDB_SQLITE_STORE::check_no_template(const std::string& name)
+bool GFPDB_SQLITE_STORE::check_free(const PLACE& place)
 {
     QSqlQuery query;
-    return prepare(query, TEMPLATE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, true, name);
+    return prepare(query, name_at(place), values_of(place)) && finds_none(query, place.is_template, place.name);
 }
 
-bool GFPDB_SQLITE_STORE::check_no_device(const std::string& name)
+// A device and a template cannot have the same name.
+bool GFPDB_SQLITE_STORE::check_no_other_kind(const PLACE& place)
 {
+    if (!place.is_template)
+        return check_free({true, 0, -1, place.name});
     QSqlQuery query;
-    return prepare(query, ANY_DEVICE_NAME_OF_KEY, {key_of(name)}) && finds_none(query, false, name);
+    return prepare(query, ANY_DEVICE_NAME_OF_KEY, {key_of(place.name)}) && finds_none(query, false, place.name);
 }
 
 bool GFPDB_SQLITE_STORE::check_different_names(const GFPDB_ROW& row)
@@ -430,49 +408,21 @@ bool GFPDB_SQLITE_STORE::check_different_names(const GFPDB_ROW& row)
     return gfpdb_name_key(row.template_name) != gfpdb_name_key(row.name) || fail(gfpdb_same_names(row));
 }
 
-bool GFPDB_SQLITE_STORE::check_no_such_device(int family, int scheme, const std::string& name)
+bool GFPDB_SQLITE_STORE::insert(bool is_template, const GFPDB_ROW& row)
 {
+    const std::string& name = is_template ? row.template_name : row.name;
     QSqlQuery query;
-    return prepare(query, DEVICE_NAME_OF_KEY, {family, scheme, key_of(name)}) && finds_none(query, false, name);
-}
-
-bool GFPDB_SQLITE_STORE::insert_device(const GFPDB_ROW& row)
-{
-    QSqlQuery query;
-    return prepare(query, insertion("device", "name_key"), QVariantList{key_of(row.name)} + values_of(row)) &&
-           run(query);
-}
-
-bool GFPDB_SQLITE_STORE::insert_template(const GFPDB_ROW& row)
-{
-    QSqlQuery query;
-    return prepare(query, insertion("template", "template_key"),
-                   QVariantList{key_of(row.template_name)} + values_of(row)) &&
-           run(query);
+    return prepare(query, insertion(is_template), QVariantList{key_of(name)} + values_of(row)) && run(query);
 }
 
 // `history_id` (may be null) hears the number that the former state got, if there was one.
-bool GFPDB_SQLITE_STORE::drop_device(int family, int scheme, const std::string& name, const char* reason,
-                                     std::int64_t* history_id)
+bool GFPDB_SQLITE_STORE::drop(const PLACE& place, const char* reason, std::int64_t* history_id)
 {
-    constexpr char FORMER[] = "FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
-    const QVariantList which = {family, scheme, key_of(name)};
     QSqlQuery copy;
     QSqlQuery removal;
-    if (!prepare(copy, to_history() + FORMER, history_values(false, name, reason) + which) || !run(copy))
+    if (!prepare(copy, to_history() + from(place), history_values(place, reason) + values_of(place)) || !run(copy))
         return false;
     if (history_id != nullptr && copy.numRowsAffected() > 0)
         *history_id = copy.lastInsertId().toLongLong();
-    return prepare(removal, std::string("DELETE ") + FORMER, which) && run(removal);
-}
-
-bool GFPDB_SQLITE_STORE::drop_template(const std::string& template_name, const char* reason)
-{
-    const QVariantList which = {key_of(template_name)};
-    QSqlQuery copy;
-    QSqlQuery removal;
-    return prepare(copy, to_history() + "FROM template WHERE template_key = CAST(? AS TEXT)",
-                   history_values(true, template_name, reason) + which) &&
-           prepare(removal, "DELETE FROM template WHERE template_key = CAST(? AS TEXT)", which) && run(copy) &&
-           run(removal);
+    return prepare(removal, "DELETE" + from(place), values_of(place)) && run(removal);
 }

@@ -3,6 +3,7 @@
 // The store in a SQLite file of the database directory: the SQL of records, templates and the history.
 #pragma once
 
+#include "store/gfpdb_record_place.h"
 #include "store/gfpdb_seen.h"
 #include "store/gfpdb_store.h"
 #include "store/sqlite/gfpdb_sqlite_file.h"
@@ -13,15 +14,6 @@
 #include <map>
 
 class QSqlQuery;
-
-// Where a record is: of a template, the name alone.
-struct GFPDB_RECORD_PLACE
-{
-    bool is_template = false;
-    int family = 0;
-    int scheme = -1;
-    std::string name;
-};
 
 class GFPDB_SQLITE_STORE final : public GFPDB_STORE
 {
@@ -77,6 +69,8 @@ public:
     std::optional<int> rebuild_keys() override;
 
 private:
+    using PLACE = GFPDB_RECORD_PLACE;
+
     bool prepare(QSqlQuery& query, const std::string& statement, const QVariantList& values = {})
     {
         return m_file.connection().prepare(query, statement, values);
@@ -98,34 +92,29 @@ private:
     std::vector<std::string> read_names(QSqlQuery& query);
     std::string read_text(const std::string& statement, const QVariantList& values);
     std::vector<GFPDB_ROW> read_rows(const std::string& from);
-    bool replace_device(const GFPDB_ROW& row, const std::string* seen);
-    bool replace_template(const GFPDB_ROW& row, const std::string* seen);
-    bool put_back_device(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
-    bool put_back_template(const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
+    std::optional<GFPDB_ROW> find(const PLACE& place);
+    bool replace(bool is_template, const GFPDB_ROW& row, const std::string* seen);
+    bool put_back(bool is_template, const GFPDB_ROW& row, GFPDB_RESTORE how, std::string* seen);
     bool finds_none(QSqlQuery& query, bool is_template, const std::string& name);
     GFPDB_ROW full_row(const QSqlQuery& query, int first) const;
-    bool look_up(const std::string& statement, const QVariantList& values, std::optional<GFPDB_ROW>& row);
-    bool check_no_such_device(int family, int scheme, const std::string& name);
+    bool look_up(const std::string& from, const QVariantList& values, std::optional<GFPDB_ROW>& row);
+    bool check_free(const PLACE& place);
     bool check_free_names(const GFPDB_ROW& row);
-    bool check_no_template(const std::string& name);
-    bool check_no_device(const std::string& name);
+    bool check_no_other_kind(const PLACE& place);
     bool check_different_names(const GFPDB_ROW& row);
-    bool insert_device(const GFPDB_ROW& row);
-    bool insert_template(const GFPDB_ROW& row);
-    bool drop_device(int family, int scheme, const std::string& name, const char* reason,
-                     std::int64_t* history_id = nullptr);
-    bool drop_template(const std::string& template_name, const char* reason);
+    bool insert(bool is_template, const GFPDB_ROW& row);
+    bool drop(const PLACE& place, const char* reason, std::int64_t* history_id = nullptr);
 
     // gfpdb_sqlite_store_history.cpp: reading the history.
     std::string history_statement(const std::string& columns, const char* which) const;
     GFPDB_HISTORY_ENTRY history_at(const QSqlQuery& query) const;
 
     // gfpdb_sqlite_store_seen.cpp: what was seen of a record against what is stored.
-    bool find_state(const GFPDB_RECORD_PLACE& place, GFPDB_FOUND& found);
-    bool find_last_change(const GFPDB_RECORD_PLACE& place, GFPDB_FOUND& found);
-    bool check_seen(const GFPDB_RECORD_PLACE& place, std::string& seen, const GFPDB_FOUND& found);
-    bool check_seen(const GFPDB_RECORD_PLACE& place, std::string* seen);
-    bool check_seen_to_remove(const GFPDB_RECORD_PLACE& place, std::string* seen);
+    bool find_state(const PLACE& place, GFPDB_FOUND& found);
+    bool find_last_change(const PLACE& place, GFPDB_FOUND& found);
+    bool check_seen(const PLACE& place, std::string& seen, const GFPDB_FOUND& found);
+    bool check_seen(const PLACE& place, std::string* seen);
+    bool check_seen_to_remove(const PLACE& place, std::string* seen);
 
     // gfpdb_sqlite_store_apply.cpp: saving and removing one device.
     bool read_revision(GFPDB_TAKEN& taken);

@@ -16,9 +16,9 @@ std::optional<std::string> GFPDB_SQLITE_STORE::save_device(const GFPDB_ROW& row,
                                                            bool is_new_name, std::string* seen)
 {
     std::string revision;
+    const PLACE place = gfpdb_place_of(false, row);
     const auto work = [&] {
-        return check_seen({false, row.family, row.scheme, row.name}, seen) && check_free_names(row) &&
-               (!is_new_name || check_no_such_device(row.family, row.scheme, row.name)) &&
+        return check_seen(place, seen) && check_free_names(row) && (!is_new_name || check_free(place)) &&
                save_over(row, taken, revision) && save_template(row);
     };
     if (!m_file.prepare_write() || !m_file.change(work))
@@ -33,10 +33,9 @@ std::optional<std::string> GFPDB_SQLITE_STORE::save_device(const GFPDB_ROW& row,
 // as stored, unless another program has stored something in its place meanwhile.
 bool GFPDB_SQLITE_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* taken, std::string& revision)
 {
-    const std::string device =
-        "SELECT " + all() + " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)";
+    const PLACE place = gfpdb_place_of(false, row);
     std::optional<GFPDB_ROW> former;
-    if (!look_up(device, {row.family, row.scheme, key_of(row.name)}, former))
+    if (!look_up(from(place), values_of(place), former))
         return false;
     const bool is_stored = former.has_value();
     if (!is_stored && taken != nullptr && !find_taken(*taken, former))
@@ -46,22 +45,22 @@ bool GFPDB_SQLITE_STORE::save_over(const GFPDB_ROW& row, const GFPDB_TAKEN* take
     revision = is_unchanged ? former->revision : row.revision;
     if (is_unchanged && !is_stored)
         return insert_taken(*taken) && forget_taken(*taken);
-    if (!is_unchanged && is_stored && !drop_device(row.family, row.scheme, row.name, GFPDB_REASON_REPLACED))
+    if (!is_unchanged && is_stored && !drop(place, GFPDB_REASON_REPLACED))
         return false;
-    return (is_unchanged || insert_device(row)) && (taken == nullptr || mark_taken(*taken, GFPDB_REASON_REPLACED));
+    return (is_unchanged || insert(false, row)) && (taken == nullptr || mark_taken(*taken, GFPDB_REASON_REPLACED));
 }
 
 bool GFPDB_SQLITE_STORE::save_template(const GFPDB_ROW& row)
 {
-    if (row.template_name.empty())
+    const PLACE place = gfpdb_place_of(true, row);
+    if (place.name.empty())
         return true;
     std::optional<GFPDB_ROW> former;
-    if (!look_up("SELECT " + all() + " FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(row.template_name)},
-                 former))
+    if (!look_up(from(place), values_of(place), former))
         return false;
     if (former && gfpdb_is_same_state(*former, row))
         return true;
-    return (!former || drop_template(row.template_name, GFPDB_REASON_REPLACED)) && insert_template(row);
+    return (!former || drop(place, GFPDB_REASON_REPLACED)) && insert(true, row);
 }
 
 // Nothing is made just to remove something from it.
@@ -72,10 +71,11 @@ bool GFPDB_SQLITE_STORE::remove_device(int family, int scheme, const std::string
         return false;
     if (m_file.is_missing())
         return true;
+    const PLACE place{false, family, scheme, name};
     GFPDB_TAKEN removed{std::string(), 0, family, scheme, name, std::string()};
     const auto work = [&] {
-        return check_seen_to_remove({false, family, scheme, name}, seen) &&
-               drop_device(family, scheme, name, GFPDB_REASON_DELETED, &removed.history_id) && read_revision(removed);
+        return check_seen_to_remove(place, seen) && drop(place, GFPDB_REASON_DELETED, &removed.history_id) &&
+               read_revision(removed);
     };
     if (!m_file.change(work))
         return false;
@@ -99,9 +99,10 @@ bool GFPDB_SQLITE_STORE::read_revision(GFPDB_TAKEN& taken)
 
 bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
 {
+    const PLACE place{false, taken.family, taken.scheme, taken.name};
     const auto work = [&] {
-        return check_no_template(taken.name) && check_no_such_device(taken.family, taken.scheme, taken.name) &&
-               insert_taken(taken) && mark_taken(taken, GFPDB_REASON_PUT_BACK);
+        return check_no_other_kind(place) && check_free(place) && insert_taken(taken) &&
+               mark_taken(taken, GFPDB_REASON_PUT_BACK);
     };
     const bool is_ready = m_file.prepare_write();
     if (is_ready && m_file.database_id() != taken.database_id)
@@ -114,8 +115,8 @@ bool GFPDB_SQLITE_STORE::undo_removal(const GFPDB_TAKEN& taken)
 
 bool GFPDB_SQLITE_STORE::find_taken(const GFPDB_TAKEN& taken, std::optional<GFPDB_ROW>& row)
 {
-    return look_up("SELECT " + all() + " FROM history " GFPDB_WHERE_TAKEN,
-                   {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)}, row);
+    return look_up(" FROM history " GFPDB_WHERE_TAKEN, {qlonglong(taken.history_id), gfpdb_from_utf8(taken.revision)},
+                   row);
 }
 
 bool GFPDB_SQLITE_STORE::insert_taken(const GFPDB_TAKEN& taken)

@@ -71,9 +71,8 @@ bool GFPDB_SQLITE_STORE::fill(const std::function<bool(const GFPDB_HEAR_STORED& 
                                     gfpdb_from_utf8(entry.changed_at), gfpdb_from_utf8(entry.changed_by)} +
                            values);
         };
-        return check_empty() && prepare(device, insertion("device", "name_key")) &&
-               prepare(stored_template, insertion("template", "template_key")) && prepare(state, history_insertion()) &&
-               source(put_one) && note_last_state(last_state);
+        return check_empty() && prepare(device, insertion(false)) && prepare(stored_template, insertion(true)) &&
+               prepare(state, history_insertion()) && source(put_one) && note_last_state(last_state);
     });
 }
 

@@ -9,23 +9,19 @@
 using namespace GFPDB_SQL;
 
 // Empty where nothing is stored; false on failure.
-bool GFPDB_SQLITE_STORE::find_state(const GFPDB_RECORD_PLACE& place, GFPDB_FOUND& found)
+bool GFPDB_SQLITE_STORE::find_state(const PLACE& place, GFPDB_FOUND& found)
 {
     const char* saved_by = m_file.schema_version() < GFPDB_SAVED_BY_SCHEMA ? "''" : "saved_by";
     const std::string what = std::string("SELECT revision, saved_at, ") + saved_by;
     QSqlQuery query;
-    const bool is_prepared =
-        place.is_template
-            ? prepare(query, what + " FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(place.name)})
-            : prepare(query, what + " FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-                      {place.family, place.scheme, key_of(place.name)});
+    const bool is_prepared = prepare(query, what + from(place), values_of(place));
     if (is_prepared && next_row(query))
         found = {text_at(query, 0), text_at(query, 2), text_at(query, 1), std::string()};
     return is_prepared && !query.lastError().isValid();
 }
 
 // Of a record that is gone. Users may have removed it from the history, too.
-bool GFPDB_SQLITE_STORE::find_last_change(const GFPDB_RECORD_PLACE& place, GFPDB_FOUND& found)
+bool GFPDB_SQLITE_STORE::find_last_change(const PLACE& place, GFPDB_FOUND& found)
 {
     if (m_file.schema_version() < GFPDB_FLOW_TEXT_SCHEMA)
         return true;
@@ -45,7 +41,7 @@ bool GFPDB_SQLITE_STORE::find_last_change(const GFPDB_RECORD_PLACE& place, GFPDB
     return !query.lastError().isValid();
 }
 
-bool GFPDB_SQLITE_STORE::check_seen(const GFPDB_RECORD_PLACE& place, std::string& seen, const GFPDB_FOUND& found)
+bool GFPDB_SQLITE_STORE::check_seen(const PLACE& place, std::string& seen, const GFPDB_FOUND& found)
 {
     if (found.revision == seen)
         return true;
@@ -57,14 +53,14 @@ bool GFPDB_SQLITE_STORE::check_seen(const GFPDB_RECORD_PLACE& place, std::string
 }
 
 // A part of a change.
-bool GFPDB_SQLITE_STORE::check_seen(const GFPDB_RECORD_PLACE& place, std::string* seen)
+bool GFPDB_SQLITE_STORE::check_seen(const PLACE& place, std::string* seen)
 {
     GFPDB_FOUND found;
     return seen == nullptr || (find_state(place, found) && check_seen(place, *seen, found));
 }
 
 // Who wants to remove what is gone has what he wants.
-bool GFPDB_SQLITE_STORE::check_seen_to_remove(const GFPDB_RECORD_PLACE& place, std::string* seen)
+bool GFPDB_SQLITE_STORE::check_seen_to_remove(const PLACE& place, std::string* seen)
 {
     GFPDB_FOUND found;
     return seen == nullptr || (find_state(place, found) && (found.revision.empty() || check_seen(place, *seen, found)));
@@ -74,7 +70,7 @@ bool GFPDB_SQLITE_STORE::check_seen_to_remove(const GFPDB_RECORD_PLACE& place, s
 bool GFPDB_SQLITE_STORE::check_seen_device(int family, int scheme, const std::string& name, std::string& seen)
 {
     GFPDB_FOUND found;
-    const GFPDB_RECORD_PLACE place{false, family, scheme, name};
+    const PLACE place{false, family, scheme, name};
     const std::string was_seen = seen;
     return !m_file.prepare_read() || !find_state(place, found) || check_seen(place, seen, found) || seen == was_seen;
 }

@@ -11,8 +11,6 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
-#include <unordered_map>
-
 using namespace GFPDB_SQL;
 
 std::optional<int> GFPDB_SQLITE_STORE::prune_history(const GFPDB_PRUNING& pruning)
@@ -35,7 +33,7 @@ bool GFPDB_SQLITE_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
                                   (has_name ? "WHERE name_key = CAST(? AS TEXT) " : "") + "ORDER BY id DESC";
     if (!prepare(query, statement, has_name ? QVariantList{key_of(pruning.name)} : QVariantList()))
         return false;
-    std::unordered_map<std::string, int> newer_states;
+    GFPDB_PRUNER pruner(pruning);
     while (next_row(query)) {
         GFPDB_HISTORY_ENTRY entry;
         entry.id = query.value(0).toLongLong();
@@ -45,11 +43,7 @@ bool GFPDB_SQLITE_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
         entry.row.scheme = query.value(4).toInt();
         entry.row.name = text_at(query, 5);
         entry.row.template_name = text_at(query, 6);
-        const int newer = newer_states[gfpdb_record_of(entry)]++;
-        const bool is_old = pruning.before.empty() || entry.changed_at < pruning.before;
-        if (newer < pruning.keep || !is_old || !pruning.is_selected(entry))
-            continue;
-        if (newer > 0 || pruning.last_of_deleted || is_stored(entry))
+        if (pruner.removes(entry, [&] { return is_stored(entry); }))
             ids.push_back(entry.id);
     }
     return !query.lastError().isValid();
@@ -58,13 +52,9 @@ bool GFPDB_SQLITE_STORE::find_prunable(const GFPDB_PRUNING& pruning, std::vector
 // True when the record of `entry` is there now; what cannot be read counts as gone, so that its last state is kept.
 bool GFPDB_SQLITE_STORE::is_stored(const GFPDB_HISTORY_ENTRY& entry)
 {
+    const PLACE place = gfpdb_place_of(entry.is_template, entry.row);
     QSqlQuery query;
-    const bool is_prepared =
-        entry.is_template
-            ? prepare(query, "SELECT 1 FROM template WHERE template_key = CAST(? AS TEXT)", {key_of(entry.name())})
-            : prepare(query, "SELECT 1 FROM device WHERE family = ? AND scheme = ? AND name_key = CAST(? AS TEXT)",
-                      {entry.row.family, entry.row.scheme, key_of(entry.name())});
-    return is_prepared && next_row(query);
+    return prepare(query, "SELECT 1" + from(place), values_of(place)) && next_row(query);
 }
 
 // Must be called before states are removed, in the same transaction.
