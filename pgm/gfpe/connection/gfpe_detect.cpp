@@ -19,21 +19,6 @@ constexpr std::size_t SFDP_LAST_TABLE_AT = 6;
 constexpr std::size_t SFDP_DWORDS_AT = 3;
 constexpr std::size_t SFDP_PLACE_AT = 4;
 
-// Appends the bytes that are read.
-class BYTES_READER : public GFPE_READER
-{
-public:
-    explicit BYTES_READER(std::vector<std::uint8_t>& bytes) : m_bytes(bytes) {}
-    bool take(const std::uint8_t* bytes, std::size_t length) override
-    {
-        m_bytes.insert(m_bytes.end(), bytes, bytes + length);
-        return true;
-    }
-
-private:
-    std::vector<std::uint8_t>& m_bytes;
-};
-
 // As many bytes of `wanted` as one command of the connection can read.
 std::int64_t at_once(const GFPE_BUS& bus, std::int64_t wanted)
 {
@@ -45,7 +30,7 @@ std::int64_t at_once(const GFPE_BUS& bus, std::int64_t wanted)
 bool read_sfdp_up_to(GFPE_BUS& bus, std::size_t end, std::vector<std::uint8_t>& bytes)
 {
     constexpr int DUMMY_CLOCKS = 8;
-    BYTES_READER reader(bytes);
+    GFPE_APPENDER reader(bytes);
     while (bytes.size() < end) {
         GFPE_COMMAND command;
         command.opcode = READ_SFDP;
@@ -93,7 +78,7 @@ bool is_id_of(const GFPDB_RECORD& record, const std::vector<std::uint8_t>& id)
 bool gfpe_read_id(GFPE_BUS& bus, std::vector<std::uint8_t>& id, std::string& problem)
 {
     id.clear();
-    BYTES_READER reader(id);
+    GFPE_APPENDER reader(id);
     GFPE_COMMAND command;
     command.opcode = READ_ID;
     command.in_length = at_once(bus, ID_BYTES);

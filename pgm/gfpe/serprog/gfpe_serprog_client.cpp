@@ -221,25 +221,11 @@ bool GFPE_SERPROG_CLIENT::has(std::uint8_t command) const
 // Sends a command, and takes `length` bytes behind its ACK.
 bool GFPE_SERPROG_CLIENT::ask(std::uint8_t command, const BYTES& parameters, std::size_t length, BYTES& answer)
 {
-    class KEEPER : public GFPE_READER
-    {
-    public:
-        explicit KEEPER(BYTES& bytes) : m_bytes(bytes) {}
-        bool take(const std::uint8_t* bytes, std::size_t count) override
-        {
-            m_bytes.insert(m_bytes.end(), bytes, bytes + count);
-            return true;
-        }
-
-    private:
-        BYTES& m_bytes;
-    };
-
     answer.clear();
     m_sent.push_back(command);
     m_out.push_back(command);
     m_out.insert(m_out.end(), parameters.begin(), parameters.end());
-    KEEPER keeper(answer);
+    GFPE_APPENDER keeper(answer);
     return exchange(static_cast<std::int64_t>(length), &keeper);
 }
 

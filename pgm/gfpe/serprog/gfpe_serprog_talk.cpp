@@ -41,21 +41,6 @@ constexpr COMMAND COMMANDS[] = {
     {serprog::SET_PINS, 1},
 };
 
-// Puts what the chip answers behind the answer.
-class APPENDER : public GFPE_READER
-{
-public:
-    explicit APPENDER(std::vector<std::uint8_t>& answer) : m_answer(answer) {}
-    bool take(const std::uint8_t* bytes, std::size_t length) override
-    {
-        m_answer.insert(m_answer.end(), bytes, bytes + length);
-        return true;
-    }
-
-private:
-    std::vector<std::uint8_t>& m_answer;
-};
-
 // The shorter of both; 0 stands for no limit of the bus.
 std::int64_t limited(std::int64_t longest_of_bus)
 {
@@ -230,7 +215,7 @@ void GFPE_SERPROG_TALK::transfer()
         command.out_length = sent - 1;
         command.out = sent > 1 ? m_command.data() + serprog::SPI_HEADER_BYTES + 1 : nullptr;
         command.in_length = static_cast<std::int64_t>(received);
-        APPENDER appender(m_answer);
+        GFPE_APPENDER appender(m_answer);
         if (!m_bus.transfer(command, &appender) || !m_bus.settle())
             return refuse();
     }

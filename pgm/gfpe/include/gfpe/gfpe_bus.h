@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 // A command in its phases: opcode, address, dummy clocks, data. Bytes are in the order in which they are sent.
 struct GFPE_COMMAND
@@ -44,6 +45,21 @@ protected:
     GFPE_READER() = default;
     GFPE_READER(const GFPE_READER&) = delete;
     GFPE_READER& operator=(const GFPE_READER&) = delete;
+};
+
+// Puts all that is read behind what is in `bytes`, which must outlive it.
+class GFPE_APPENDER final : public GFPE_READER
+{
+public:
+    explicit GFPE_APPENDER(std::vector<std::uint8_t>& bytes) : m_bytes(bytes) {}
+    bool take(const std::uint8_t* bytes, std::size_t length) override
+    {
+        m_bytes.insert(m_bytes.end(), bytes, bytes + length);
+        return true;
+    }
+
+private:
+    std::vector<std::uint8_t>& m_bytes;
 };
 
 // What a connection can do. A run that needs more is refused before anything is sent.

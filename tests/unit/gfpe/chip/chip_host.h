@@ -26,17 +26,6 @@ inline GFPDB_PART part_called(const std::string& name)
     throw std::runtime_error("no part is called " + name);
 }
 
-class KEEPING_READER : public GFPE_READER
-{
-public:
-    bool take(const std::uint8_t* bytes, std::size_t length) override
-    {
-        received.insert(received.end(), bytes, bytes + length);
-        return true;
-    }
-    BYTES received;
-};
-
 inline std::string hex(const BYTES& bytes)
 {
     return QByteArray(reinterpret_cast<const char*>(bytes.data()), static_cast<int>(bytes.size()))
@@ -74,9 +63,10 @@ struct CHIP_HOST
     }
     BYTES send(const GFPE_COMMAND& command)
     {
-        KEEPING_READER reader;
+        BYTES answer;
+        GFPE_APPENDER reader(answer);
         chip->transfer(command, &reader);
-        return reader.received;
+        return answer;
     }
     void wait_until_ready() { chip->wait(std::int64_t(4000) * 1000 * 1000); }
     // Write enable, a command, and the time that it takes.
