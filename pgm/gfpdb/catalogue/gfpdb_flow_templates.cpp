@@ -51,11 +51,6 @@ std::string gfpdb_part_template_name(const GFPDB_PART& part)
     return gfpdb_builtin_template_names()[static_cast<std::size_t>(gfpdb_flow_traits(part, true).flow_template)];
 }
 
-bool gfpdb_part_is_verified(const GFPDB_PART& part)
-{
-    return gfpdb_flow_traits(part, true).verified;
-}
-
 void gfpdb_fill_part_flows(const GFPDB_PART& part, GFPDB_FLASH& record)
 {
     for (const bool flow_variant : {false, true}) {

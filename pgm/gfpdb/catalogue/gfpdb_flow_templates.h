@@ -19,7 +19,5 @@ const std::vector<GFPDB_OPERATION*>* gfpdb_builtin_template_operations(int index
 
 // The name of the built-in template that `part` belongs to.
 std::string gfpdb_part_template_name(const GFPDB_PART& part);
-// True when a source says where the part's quad-enable bit is (or that it has none).
-bool gfpdb_part_is_verified(const GFPDB_PART& part);
 // Gives `record` the operations of `part`, in both flow variants.
 void gfpdb_fill_part_flows(const GFPDB_PART& part, GFPDB_FLASH& record);

@@ -395,7 +395,7 @@ private slots:
         std::map<std::string, int> verified;
         std::map<std::string, int> unverified;
         for (const GFPDB_PART& part : gfpdb_catalogue_parts())
-            ++(gfpdb_part_is_verified(part) ? verified : unverified)[gfpdb_part_template_name(part)];
+            ++(gfpdb_flow_traits(part, true).verified ? verified : unverified)[gfpdb_part_template_name(part)];
         const std::vector<std::string>& names = gfpdb_builtin_template_names();
         QCOMPARE(verified, (std::map<std::string, int>{
                                {names[0], 20}, {names[1], 49}, {names[2], 17}, {names[3], 26}, {names[4], 25}}));
