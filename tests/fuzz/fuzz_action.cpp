@@ -82,12 +82,6 @@ void check_storage(std::unique_ptr<GFPDB_ACTION> action)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    fuzz_set_up();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FUZZ_INPUT input(data, size);

@@ -52,12 +52,6 @@ void check_flows(const GFPDB_PART& part)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    fuzz_set_up();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const GFPDB_CATALOGUE_CONTENT content = gfpdb_parse_catalogue(FUZZ_INPUT(data, size).take_rest());

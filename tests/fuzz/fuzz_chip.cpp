@@ -103,12 +103,6 @@ void check(const GFPE_CHIP& chip)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    fuzz_set_up();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FUZZ_INPUT input(data, size);

@@ -73,19 +73,21 @@ void change_records(GFPDB_EMBEDDED_MGR& manager)
     manager.restore_flash(1, directory(), GFPDB_RESTORE_KEEP, std::string());
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
+// Before the first input.
+bool prepare()
 {
-    fuzz_set_up();
     fuzz_write_file(fuzz_directory() + "settings.ini", "[database]\nbusy_timeout=0\n");
     FUZZ_CHECK(QDir().mkpath(QFile::decodeName(QByteArray::fromStdString(directory()))));
     GFPDB_MGR::set_db_custom_dir(directory());
-    return 0;
+    return true;
 }
+
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    static const bool is_prepared = prepare();
+    FUZZ_CHECK(is_prepared);
     QFile::remove(file_name("-journal"));
     fuzz_write_file(directory() + GFPDB_SQLITE_FILE::NAME, FUZZ_INPUT(data, size).take_rest());
     GFPDB_EMBEDDED_MGR manager;

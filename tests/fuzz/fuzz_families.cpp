@@ -28,12 +28,6 @@ bool is_good(const FAMILY_ROW& row)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    fuzz_set_up();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray content(reinterpret_cast<const char*>(data), static_cast<int>(size));

@@ -31,12 +31,6 @@ void check_round_trip(const std::string& text)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    fuzz_set_up();
-    return 0;
-}
-
 // What was read can be written, and comes back as what was read.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

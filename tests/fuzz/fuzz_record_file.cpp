@@ -115,16 +115,11 @@ void check_import(GFPDB_RECORD_FILE& file, const GFPDB_READ_OPTIONS& options)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    fuzz_set_up();
-    empty_database();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FUZZ_INPUT input(data, size);
+    // The files are read with the manager of this database.
+    empty_database();
     const int kind = input.take_byte();
     const std::string content = input.take_rest();
     GFPDB_READ_OPTIONS options;

@@ -76,12 +76,6 @@ bool work(GFPE_BUS& bus)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
-{
-    fuzz_set_up();
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     GFPE_SERPROG_CLIENT client(std::make_unique<FUZZ_LINE>(data, size), GFPE_SERPROG_LIMITS());

@@ -34,7 +34,7 @@ void fuzz_broken(const char* condition, const char* file, int line)
     std::abort();
 }
 
-void fuzz_set_up()
+int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 {
     static int argument_count = 1;
     static char name[] = "fuzz";
@@ -44,6 +44,7 @@ void fuzz_set_up()
     qputenv("GFPDB_SETTINGS", QFile::encodeName(scratch().filePath(QStringLiteral("settings.ini"))));
     qputenv("XDG_DATA_HOME", QFile::encodeName(scratch().filePath(QStringLiteral("data"))));
     static const QCoreApplication app(argument_count, arguments);
+    return 0;
 }
 
 const std::string& fuzz_directory()

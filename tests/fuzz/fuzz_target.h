@@ -18,9 +18,9 @@
 #define FUZZ_CHECK(condition) ((condition) ? void() : fuzz_broken(#condition, __FILE__, __LINE__))
 [[noreturn]] void fuzz_broken(const char* condition, const char* file, int line);
 
-// Called by every target before its first input: makes the application object that Qt SQL needs, keeps the code's
-// warnings quiet, and gives the process a directory and settings of its own, in memory where there is such a place.
-void fuzz_set_up();
+// Before the first input of every target: makes the application object that Qt SQL needs, keeps the code's warnings
+// quiet, and gives the process a directory and settings of its own, in memory where there is such a place.
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 // The process's own directory, ending in "/"; it is empty at the start and removed at the end.
 const std::string& fuzz_directory();
 
