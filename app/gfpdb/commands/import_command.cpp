@@ -92,7 +92,7 @@ int import_files(const CLI_CALL& call)
     CLI_IMPORT_REPORT report;
     int exit_code = CLI_EXIT_OK;
     if (!read_files(call, rules, plan, report))
-        exit_code = CLI_EXIT_BAD_FILE;
+        exit_code = plan.has_unread() ? CLI_EXIT_DATABASE : CLI_EXIT_BAD_FILE;
     else if (!call.has(CLI_OPTION_DRY_RUN) && !store(call, plan, report))
         exit_code = call.database_failed(report.refusal);
     if (call.has(CLI_OPTION_JSON))

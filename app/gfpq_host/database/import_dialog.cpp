@@ -295,14 +295,18 @@ void IMPORT_DIALOG::store()
     show_busy(true);
     m_summary->setText(tr("The records are being stored."));
     LIVE_WINDOW window(*this);
-    const auto goes_on = [this, &window, total](int done) {
+    bool is_ended = false;
+    const auto goes_on = [this, &window, &is_ended, total](int done) {
         m_progress->setValue(static_cast<int>(PERCENT * done / total));
         window.live();
-        return !m_is_cancelled;
+        is_ended = m_is_cancelled;
+        return !is_ended;
     };
     const bool is_stored = m_database.import(plan, goes_on);
     const QString problem = QString::fromStdString(m_database.get_last_error());
     window.catch_up();
+    // A click that came when it had failed already did not end it.
+    m_is_cancelled = is_ended;
     m_is_storing = false;
     m_close_button->setEnabled(true);
     if (is_stored)

@@ -17,6 +17,8 @@ RUN_CONTROLLER::RUN_CONTROLLER(QObject* parent) : QObject(parent)
 {
     m_news_timer.setInterval(MS_A_SECOND / NEWS_A_SECOND);
     connect(&m_news_timer, &QTimer::timeout, this, &RUN_CONTROLLER::tell_news);
+    m_end_timer.setSingleShot(true);
+    connect(&m_end_timer, &QTimer::timeout, this, &RUN_CONTROLLER::end);
 }
 
 RUN_CONTROLLER::~RUN_CONTROLLER()
@@ -24,7 +26,7 @@ RUN_CONTROLLER::~RUN_CONTROLLER()
     if (!m_thread)
         return;
     m_worker->stop();
-    m_thread->disconnect(this);
+    m_thread->disconnect(&m_end_timer);
     m_thread->wait();
 }
 
@@ -37,7 +39,7 @@ void RUN_CONTROLLER::begin(std::function<void()> work)
     m_rate = GFPE_RATE();
     m_clock.start();
     m_thread.reset(QThread::create(std::move(work)));
-    connect(m_thread.get(), &QThread::finished, this, &RUN_CONTROLLER::end);
+    connect(m_thread.get(), &QThread::finished, &m_end_timer, QOverload<>::of(&QTimer::start));
     m_thread->start();
     m_news_timer.start();
     emit busy_changed();

@@ -60,6 +60,8 @@ private:
     std::optional<RUN_OUTCOME> m_outcome;
     std::optional<CHIP_READING> m_reading;
     QTimer m_news_timer;
+    // Tells the end. A timer, because windows hold those back while they are in the middle of a change (LIVE_WINDOW).
+    QTimer m_end_timer;
     QElapsedTimer m_clock;
     GFPE_RATE m_rate;
     bool m_is_ending = false;

@@ -74,8 +74,10 @@ void GFPDB_IMPORT_PLAN::add_record(GFPDB_RECORD_FILE& file, GFPDB_RECORD record)
     const std::optional<GFPDB_RECORD> former = m_database.load(record);
     if (unread.empty() && !former)
         unread = m_database.get_last_error();
-    if (!unread.empty())
+    if (!unread.empty()) {
+        m_has_unread = true;
         return refuse_unread(file, record, unread);
+    }
     if (file.is_csv)
         fill_flows(record, former);
     const auto is_there = [&] { return former && gfpdb_is_same_content(former->row, record.row); };

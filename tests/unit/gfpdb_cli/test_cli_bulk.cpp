@@ -168,6 +168,24 @@ private slots:
         QVERIFY(store->get_history().empty());
         QVERIFY(store->save_all({device("B")}, {}, no_progress));
     }
+
+    // As a window does that shows something else in the middle of an import.
+    void nothing_is_stored_of_what_is_cancelled_after_a_look()
+    {
+        const GFPDB_PLACE place;
+        const std::unique_ptr<GFPDB_STORE> store = gfpdb_make_store(place.db_dir());
+        QVERIFY(store->save_all({device("A", OTHER_FAMILY)}, {}, no_progress));
+        QVERIFY(!store->save_all({device("B"), device("C"), device("D")}, {}, [&store](int done) {
+            if (done == 1) {
+                store->reload();
+                store->is_read_only();
+                store->get_devices();
+            }
+            return done < 3;
+        }));
+        QCOMPARE(names_of(store->get_devices()), NAMES{"A"});
+        QVERIFY(store->save_all({device("B")}, {}, no_progress));
+    }
 };
 
 EITHER_STORE_TEST_MAIN(TEST_CLI_BULK)

@@ -77,7 +77,7 @@ private slots:
         const TOOL_RUN run = tool({"import", "--dry-run", file});
         QCOMPARE(run.out, QByteArray());
         QVERIFY2(run.err.contains(": The database "), run.err.constData());
-        QCOMPARE(run.exit_code, 4);
+        QCOMPARE(run.exit_code, 5);
     }
 
     void what_is_not_asked_for_may_be_unreadable()

@@ -151,6 +151,8 @@ public:
 
     // The records without problems, in the order of the files.
     const std::vector<GFPDB_PLANNED>& planned() const { return m_planned; }
+    // True when a record could not be compared with what is stored: then the database is to blame, not the file.
+    bool has_unread() const { return m_has_unread; }
     int new_count() const { return count(GFPDB_PLANNED_AS::NEW); }
     int replaced_count() const { return count(GFPDB_PLANNED_AS::REPLACED); }
     int kept_count() const { return count(GFPDB_PLANNED_AS::KEPT); }
@@ -184,6 +186,7 @@ private:
     std::vector<GFPDB_ROW> m_templates;
     std::vector<std::string> m_replaced_devices;
     std::vector<std::string> m_replaced_templates;
+    bool m_has_unread = false;
     PLACES m_places;
     PLACES m_device_names;
     PLACES m_template_names;

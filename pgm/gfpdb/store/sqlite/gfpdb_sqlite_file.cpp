@@ -9,6 +9,7 @@
 #include "store/sqlite/gfpdb_sqlite_companions.h"
 
 #include <QRandomGenerator>
+#include <QScopedValueRollback>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QUuid>
@@ -100,6 +101,8 @@ GFPDB_SQLITE_FILE::GFPDB_SQLITE_FILE(const std::string& directory)
 
 void GFPDB_SQLITE_FILE::reload()
 {
+    if (m_is_in_change)
+        return;
     m_state = STATE::CLOSED;
     m_was_replaced = false;
     m_problem.clear();
@@ -291,6 +294,8 @@ bool GFPDB_SQLITE_FILE::is_same_file() const
 
 void GFPDB_SQLITE_FILE::refresh()
 {
+    if (m_is_in_change)
+        return;
     const bool is_same = is_open() && is_same_file();
     if (is_same && !gfpdb_names_server(m_directory) && has_own_companions() && m_connection.is_open() &&
         !m_connection.is_stale())
@@ -346,7 +351,7 @@ bool GFPDB_SQLITE_FILE::prepare_read()
     m_connection.clear_error();
     refresh();
     // A view in the place of a table could run for ever.
-    if (is_open() && m_schema.is_changed())
+    if (!m_is_in_change && is_open() && m_schema.is_changed())
         open();
     if (m_state == STATE::UNUSABLE)
         m_connection.fail(m_problem);
@@ -441,13 +446,21 @@ GFPDB_SQLITE_FILE::FOUND GFPDB_SQLITE_FILE::look_again()
     return is_usable && m_schema.database_id() == database_id ? FOUND::THE_SAME : FOUND::ANOTHER;
 }
 
+// Whoever is told of the progress may ask the store something: that must not open the file again, which would end the
+// transaction and store the rest of the work record by record.
+bool GFPDB_SQLITE_FILE::do_work(const WORK& work)
+{
+    const QScopedValueRollback<bool> in_change(m_is_in_change, true);
+    return work();
+}
+
 bool GFPDB_SQLITE_FILE::run_transaction(const WORK& work)
 {
     if (!m_connection.run("BEGIN IMMEDIATE"))
         return false;
     const int mark = new_mark();
     FOUND found = look_again();
-    const bool is_done = found == FOUND::THE_SAME && set_mark(mark) && work();
+    const bool is_done = found == FOUND::THE_SAME && set_mark(mark) && do_work(work);
     if (found == FOUND::THE_SAME && !is_same_file())
         found = FOUND::ANOTHER;
     if (is_done && found == FOUND::THE_SAME && m_connection.run("COMMIT"))

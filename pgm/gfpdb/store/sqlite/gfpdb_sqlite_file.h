@@ -103,6 +103,7 @@ private:
     bool fail_to_make(const std::string& why);
 
     FOUND look_again();
+    bool do_work(const WORK& work);
     bool run_transaction(const WORK& work);
     bool set_mark(int mark);
     std::optional<int> read_mark();
@@ -119,6 +120,8 @@ private:
     FILE_IDENTITY m_identity;
     // The file that the user has seen is gone, and no change was refused for that yet.
     bool m_was_replaced = false;
+    // In the middle of a transaction's work.
+    bool m_is_in_change = false;
     // What was wrong when the file was opened, and when it was last read.
     std::string m_problem;
     std::string m_read_problem;
