@@ -66,10 +66,13 @@ private:
     {
         devices().setFocus();
         devices().clearSelection();
+        const QAbstractItemModel& model = *devices().model();
         for (const QString& name : names) {
-            const QModelIndex index = devices().model()->index(row_of(name), 0);
-            QVERIFY2(index.isValid(), qPrintable(name));
-            devices().selectionModel()->setCurrentIndex(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+            const QModelIndexList found = model.match(model.index(0, 0), Qt::DisplayRole, name, -1, Qt::MatchExactly);
+            QVERIFY2(!found.isEmpty(), qPrintable(name));
+            for (const QModelIndex& index : found)
+                devices().selectionModel()->setCurrentIndex(index,
+                                                            QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
     }
 
@@ -110,6 +113,16 @@ private:
         }
         m_window->refresh();
         return names;
+    }
+
+    // In two modes.
+    void store_twice(const std::string& name)
+    {
+        store(name);
+        run_foreign(qs("UPDATE device SET scheme = 7 WHERE name = '%1'").arg(QString::fromStdString(name)));
+        m_window->refresh();
+        store(name);
+        m_window->refresh();
     }
 
     // From the history, what is not there.
@@ -487,6 +500,43 @@ private slots:
         QVERIFY2(FAULT_INJECTOR::count(FAULT_CALL::LOCK) < names.size(),
                  qPrintable(QString::number(FAULT_INJECTOR::count(FAULT_CALL::LOCK))));
         QCOMPARE(m_modals.last().text.count(QLatin1Char('\n')), 0);
+    }
+
+    // The same is said of both devices of one name, and yet not of those that follow.
+    void what_is_wrong_for_two_of_one_name_keeps_no_other_from_a_delete()
+    {
+        store_twice("A");
+        select({qs("A"), qs("B"), qs("C")});
+        run_foreign(qs("DELETE FROM device WHERE name = 'A'"));
+        expect_box(qs("The device \"A\" was deleted by another program already."));
+        press(Qt::Key_Delete);
+        check_box();
+        QCOMPARE(stored_names(), QStringList());
+        QCOMPARE(undo().text(), qs("&Undo (Delete, devices: 2)"));
+    }
+
+    void what_is_wrong_for_two_of_one_name_keeps_no_other_from_an_undo_data()
+    {
+        rows<QString, QString>({{"taken", "A", "A device called \"A\" already exists."},
+                                {"taken in another case", "a", "A device called \"a\" already exists."},
+                                {"lost by the history", "", "The history does not have the device \"A\" any more."}});
+    }
+
+    void what_is_wrong_for_two_of_one_name_keeps_no_other_from_an_undo()
+    {
+        const auto [taken, expected] = row<QString, QString>();
+        store_twice("A");
+        press_delete({qs("A"), qs("B"), qs("C")});
+        QCOMPARE(stored_names(), QStringList());
+        if (taken.isEmpty())
+            run_foreign(qs("DELETE FROM history WHERE name = 'A'"));
+        else
+            store_twice(taken.toStdString());
+        expect_box(expected);
+        press_undo();
+        check_box();
+        QCOMPARE(stored_names().mid(stored_names().indexOf(qs("B"))), (QStringList{qs("B"), qs("C")}));
+        QCOMPARE(undo().isEnabled(), !taken.isEmpty());
     }
 
     void a_database_that_is_locked_loses_nothing()

@@ -12,11 +12,15 @@ QString name_of(const GFPDB_RECORD& device)
     return QString::fromStdString(device.row.name);
 }
 
-// A reason that does not name a device, and came twice, is one for all that follow: a full disk, a server that is gone.
-bool is_for_all(const QStringList& problems)
+// Notes why this device stays. True for a reason that came twice and does not name the device: it is one for all that
+// follow, as a full disk or a server that is gone. Devices of one name are in several modes.
+bool note_failure(const std::string& reason, const GFPDB_RECORD& device, QStringList& problems)
 {
-    const int count = problems.size();
-    return count > 1 && problems[count - 1] == problems[count - 2];
+    const QString problem = QString::fromStdString(reason);
+    const bool is_for_all = !problems.isEmpty() && problems.last() == problem &&
+                            !problem.contains(QStringLiteral("\"%1\"").arg(name_of(device)), Qt::CaseInsensitive);
+    problems.append(problem);
+    return is_for_all;
 }
 
 } // namespace
@@ -26,13 +30,14 @@ QStringList REMOVED_DEVICES::remove(const std::vector<GFPDB_RECORD>& devices, co
 {
     STEP step;
     QStringList names;
+    bool is_ended = false;
     for (const GFPDB_RECORD& device : devices) {
         const int done = static_cast<int>(&device - devices.data());
-        if (!goes_on(done) || is_for_all(problems))
+        if (is_ended || !goes_on(done))
             break;
         const std::optional<std::int64_t> state = m_database.remove(device);
         if (!state)
-            problems.append(QString::fromStdString(m_database.get_last_error()));
+            is_ended = note_failure(m_database.get_last_error(), device, problems);
         else if (*state == 0)
             problems.append(tr("The device \"%1\" was deleted by another program already.").arg(name_of(device)));
         else
@@ -75,7 +80,7 @@ std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(const GOES_ON& goes_on, QStringL
     for (const REMOVED& removed : step) {
         GFPDB_MGR& manager = m_database.get_manager();
         const int done = static_cast<int>(&removed - step.data());
-        is_ended = is_ended || !goes_on(done) || is_for_all(problems);
+        is_ended = is_ended || !goes_on(done);
         if (is_ended) {
             left.push_back(removed);
         } else if (is_gone(removed)) {
@@ -83,7 +88,7 @@ std::vector<GFPDB_RECORD> REMOVED_DEVICES::undo(const GOES_ON& goes_on, QStringL
         } else if (manager.restore_flash(removed.state, std::string(), GFPDB_RESTORE_KEEP, std::string())) {
             restored.push_back(removed.device);
         } else {
-            problems.append(QString::fromStdString(manager.get_last_error()));
+            is_ended = note_failure(manager.get_last_error(), removed.device, problems);
             left.push_back(removed);
         }
     }

@@ -28,8 +28,8 @@ public:
     explicit REMOVED_DEVICES(GFPDB_DATABASE& database) : m_database(database) {}
 
     // Deletes these very states of stored devices, each for itself; the names of those that are deleted now. `problems`
-    // has a sentence for each of the others: somebody else has changed or deleted it, or the database refuses. What
-    // would be refused for the same reason as the one before is not tried.
+    // has a sentence for each of the others: somebody else has changed or deleted it, or the database refuses. A
+    // reason that came twice and does not name the device ends it: it would come for each that follows.
     QStringList remove(const std::vector<GFPDB_RECORD>& devices, const GOES_ON& goes_on, QStringList& problems);
 
     bool can_undo() const { return !m_steps.empty(); }
