@@ -430,6 +430,21 @@ private slots:
         QVERIFY(!undo().isEnabled());
     }
 
+    // Ctrl+Z would bring back what was deleted before.
+    void a_cancelled_delete_of_nothing_promises_nothing()
+    {
+        press_delete({qs("A")});
+        const QStringList names = store_many();
+        select(names);
+        run_foreign(qs("UPDATE device SET revision = 'other'"));
+        expect_progress(true);
+        expect_box(qs("was changed by "));
+        press(Qt::Key_Delete);
+        check_box();
+        QCOMPARE(message(), QString());
+        QCOMPARE(undo().text(), qs("&Undo (Delete \"A\")"));
+    }
+
     void a_database_that_is_not_there_loses_nothing()
     {
         const QStringList before = content();

@@ -340,9 +340,11 @@ void DATABASE_WINDOW::delete_selected()
     const QStringList deleted = m_removed.remove(devices, goes_on, problems);
     progress.end();
     refresh();
-    if (!deleted.isEmpty())
+    // Else Ctrl+Z is for what was deleted before.
+    const bool is_any_deleted = !deleted.isEmpty();
+    if (is_any_deleted)
         m_device_page->select_current();
-    if (progress.is_cancelled())
+    if (is_any_deleted && progress.is_cancelled())
         show_message(tr("Devices deleted: %1 of %2. Ctrl+Z brings them back.").arg(deleted.size()).arg(count));
     else if (deleted.size() == 1)
         show_message(tr("The device \"%1\" is deleted. Ctrl+Z brings it back.").arg(deleted.first()));
