@@ -164,13 +164,18 @@ private slots:
         QCOMPARE(rows.headerData(0, Qt::Horizontal).toString(), QString::fromUtf8("Propriété"));
         QCOMPARE(rows.headerData(1, Qt::Horizontal).toString(), qs("Valeur"));
         QStringList palette;
+        QStringList names;
         for (const QGraphicsView* const view : tabs().currentWidget()->findChildren<QGraphicsView*>()) {
+            names.append(view->accessibleName());
             for (const QGraphicsItem* const item : view->items()) {
                 if (const auto* const text = qgraphicsitem_cast<const QGraphicsTextItem*>(item))
                     palette.append(text->toPlainText());
             }
         }
         QVERIFY2(palette.contains(qs("Actions :")), qPrintable(palette.join(QLatin1Char('/'))));
+        names.sort();
+        QCOMPARE(names, (QStringList{QString::fromUtf8("Erase\u00A0: actions"),
+                                     QString::fromUtf8("Erase\u00A0: organigramme")}));
     }
 
     // Whose margin alone is too wide.
